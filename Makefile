@@ -1,0 +1,40 @@
+# A thin front over CMake: sets a Debian machine up when something is missing, then builds, runs or tests.
+
+PRESET ?= release
+WERROR ?= OFF
+JOBS ?= 2
+BUILD = build/$(PRESET)
+PACKAGES = ccache cmake g++ ninja-build qtbase5-dev qttools5-dev-tools
+ROOT = $(if $(filter 0,$(shell id -u)),,sudo)
+
+.PHONY: help demo check build setup clean
+
+help:
+	@echo "make demo    set up, build, and show what the library answers about the sample catalogue"
+	@echo "make check   set up, build, and run every test (PRESET=debug|release|asan|tsan, WERROR=ON)"
+	@echo "make clean   remove everything that was built"
+
+demo: build
+	$(BUILD)/bin/pxcatalogue list
+	@echo
+	$(BUILD)/bin/pxcatalogue show BOOK_A4_PORTRAIT --pages 26
+
+check: build
+	ctest --preset $(PRESET) -j $(JOBS)
+
+build: setup
+	cmake --preset $(PRESET) -DPX_WARNINGS_AS_ERRORS=$(WERROR)
+	cmake --build --preset $(PRESET) -j $(JOBS)
+
+# apt is asked for what dpkg does not know as installed, and so for nothing on a machine that is set up.
+setup:
+	@missing=; for package in $(PACKAGES); do \
+	    dpkg-query -W -f '$${Status}' $$package 2>/dev/null | grep -q 'ok installed' || missing="$$missing $$package"; \
+	done; \
+	if [ -n "$$missing" ]; then \
+	    $(ROOT) apt-get update && \
+	    $(ROOT) env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends $$missing; \
+	fi
+
+clean:
+	rm -rf build

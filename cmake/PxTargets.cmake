@@ -1,0 +1,72 @@
+# What every target of the project shares: the language level, the warnings, the visibility, where it is built
+# and installed. A list file names a target, its sources and what it links; the rest is here.
+
+include(GenerateExportHeader)
+
+find_program(PX_CCACHE ccache)
+mark_as_advanced(PX_CCACHE)
+
+function(px_set_defaults target)
+    target_compile_features(${target} PRIVATE cxx_std_17)
+    target_compile_options(${target} PRIVATE
+        -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+        $<$<BOOL:${PX_WARNINGS_AS_ERRORS}>:-Werror>)
+    target_compile_definitions(${target} PRIVATE
+        QT_NO_CAST_TO_ASCII QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_DEPRECATED_WARNINGS
+        QT_DISABLE_DEPRECATED_BEFORE=0x050F00 QT_MESSAGELOGCONTEXT)
+    set_target_properties(${target} PROPERTIES
+        CXX_EXTENSIONS OFF
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON
+        EXPORT_COMPILE_COMMANDS ON
+        LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR}
+        RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_BINDIR})
+    if(PX_CCACHE)
+        set_target_properties(${target} PROPERTIES CXX_COMPILER_LAUNCHER ${PX_CCACHE})
+    endif()
+endfunction()
+
+# Its public headers are compiled one by one, each alone, by the target all_verify_interface_header_sets.
+function(px_install_library target name)
+    add_library(Px::${name} ALIAS ${target})
+    set_target_properties(${target} PROPERTIES EXPORT_NAME ${name} VERIFY_INTERFACE_HEADER_SETS ON)
+    install(TARGETS ${target} EXPORT PxProductPropertiesTargets
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/PxProductProperties)
+endfunction()
+
+# A shared library that other targets know as Px::<name>; its public headers are found below <base>.
+function(px_add_library target name base)
+    add_library(${target} SHARED)
+    px_set_defaults(${target})
+    target_compile_features(${target} PUBLIC cxx_std_17)
+    generate_export_header(${target}
+        BASE_NAME ${target} EXPORT_FILE_NAME ${CMAKE_CURRENT_BINARY_DIR}/export/${target}Export.h)
+    target_sources(${target} PUBLIC FILE_SET HEADERS
+        BASE_DIRS ${base} ${CMAKE_CURRENT_BINARY_DIR}/export
+        FILES ${CMAKE_CURRENT_BINARY_DIR}/export/${target}Export.h)
+    set_target_properties(${target} PROPERTIES
+        VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} INSTALL_RPATH $ORIGIN)
+    px_install_library(${target} ${name})
+endfunction()
+
+# A program that uses the library as an application would, installed beside it.
+function(px_add_program target)
+    cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_LIBDIR BASE_DIRECTORY ${CMAKE_INSTALL_FULL_BINDIR}
+        OUTPUT_VARIABLE libraries)
+    add_executable(${target} ${ARGN})
+    px_set_defaults(${target})
+    target_link_libraries(${target} PRIVATE Px::ProductProperties)
+    set_target_properties(${target} PROPERTIES INSTALL_RPATH $ORIGIN/${libraries})
+endfunction()
+
+# One test program of the same name as its source; what it links beside the library follows the name.
+function(px_add_test name)
+    add_executable(${name} ${name}.cpp)
+    px_set_defaults(${name})
+    set_target_properties(${name} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
+    target_link_libraries(${name} PRIVATE PxTestSupport ${ARGN})
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 120 ENVIRONMENT
+        "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp")
+endfunction()

@@ -1,0 +1,111 @@
+#pragma once
+
+#include "PxKeyword.h"
+#include "splitEnumType.h"
+
+#include <QDebug>
+#include <QHash>
+#include <QSet>
+#include <QStringList>
+
+#include <limits>
+#include <typeinfo>
+
+/**
+ * The two-way table between the keywords of the files and the flag values of one enumeration.
+ *
+ * Keywords are found in any case and with white space around them.
+ */
+template <typename ENUM>
+class PxEnumToStringTable
+{
+public:
+    /** Adds a keyword. The first one of a value is the one that encoding yields, as spelled here.
+     */
+    void insert(const QString &keyword, ENUM value)
+    {
+        m_keywordToValue.insert(keyword.toLower(), value);
+        if (!m_valueToKeyword.contains(value))
+            m_valueToKeyword.insert(value, keyword);
+    }
+    template <std::size_t COUNT>
+    void insert(const PxKeyword<ENUM> (&rows)[COUNT])
+    {
+        for (const PxKeyword<ENUM> &row : rows)
+            insert(QString::fromLatin1(row.keyword), row.value);
+    }
+
+    /** What each undecodable part of a list adds; 0 unless set. */
+    void setDefaultValue(ENUM value) { m_defaultValue = value; }
+    /** What a value without keyword is encoded as; empty unless set. */
+    void setDefaultString(const QString &text) { m_defaultString = text; }
+
+    /** The value of one keyword, or `fallback` for any other text. */
+    ENUM decode(const QString &keyword, ENUM fallback) const
+    {
+        return m_keywordToValue.value(keyword.trimmed().toLower(), fallback);
+    }
+
+    /**
+     * The union of a comma-separated list of keywords.
+     *
+     * A part that is no keyword, an empty one too, adds the default value and is logged at debug
+     * level; an empty text gives the default value without a word.
+     */
+    ENUM decodeCSV(const QString &keywords) const
+    {
+        int flags = 0;
+        pxForEachPart(keywords, [&](QStringView part) {
+            const QString keyword = part.toString();
+            ENUM value = decode(keyword, undecodable);
+            if (value == undecodable) {
+                value = m_defaultValue;
+                if (!keywords.isEmpty())
+                    reportUndecodable(keyword);
+            }
+            flags |= value;
+        });
+        return static_cast<ENUM>(flags);
+    }
+
+    /** The keyword of exactly this value; a union without a keyword of its own has none. */
+    QString encode(ENUM value) const { return m_valueToKeyword.value(value, m_defaultString); }
+
+    QList<ENUM> splitToBitsSorted(ENUM value) const { return splitEnumType(value); }
+    QSet<ENUM> splitToBits(ENUM value) const
+    {
+        const QList<ENUM> bits = splitEnumType(value);
+        return QSet<ENUM>(bits.begin(), bits.end());
+    }
+
+    /** The keyword of each single bit, lowest bit first. */
+    QStringList encodeAsList(ENUM value) const
+    {
+        QStringList keywords;
+        for (ENUM bit : splitEnumType(value))
+            keywords.append(encode(bit));
+        return keywords;
+    }
+
+    /** The same joined with ", "; the default string for a value without bits. */
+    QString encodeCSV(ENUM value) const
+    {
+        const QStringList keywords = encodeAsList(value);
+        return keywords.isEmpty() ? m_defaultString : keywords.join(QStringLiteral(", "));
+    }
+
+private:
+    // The sign bit alone: no keyword can stand for it, for it splits into no bits.
+    static constexpr ENUM undecodable = static_cast<ENUM>(std::numeric_limits<int>::min());
+
+    void reportUndecodable(const QString &keyword) const
+    {
+        QMessageLogger("../PxTemplateClasses/PxEnumToStringTable", 161, Q_FUNC_INFO).debug()
+            << "undecodable: (using default in " << typeid(ENUM).name() << ")" << keyword;
+    }
+
+    QHash<QString, ENUM> m_keywordToValue;
+    QHash<ENUM, QString> m_valueToKeyword;
+    QString m_defaultString;
+    ENUM m_defaultValue = static_cast<ENUM>(0);
+};

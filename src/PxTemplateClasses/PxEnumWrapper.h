@@ -1,0 +1,102 @@
+#pragma once
+
+#include "PxCreateOnce.h"
+#include "PxEnumToStringTable.h"
+
+/**
+ * The base of the value classes over one bit-flag enumeration: a value, its bit operations and the
+ * keyword table of the enumeration. 0 means no value (invalid).
+ *
+ * A concrete class overrides fillTable() and instantiates this template in its own library, so that
+ * an enumeration has one table in a process:
+ * `extern template class EXPORT PxEnumWrapper<E>;` in its header, `template class
+ * PxEnumWrapper<E>;` in its source. The table is built on first use, from any thread, and only read
+ * afterwards.
+ */
+template <typename ENUM>
+class PxEnumWrapper
+{
+public:
+    PxEnumWrapper() = default;
+    PxEnumWrapper(ENUM value) : m_value(value) {}
+    PxEnumWrapper(const PxEnumWrapper &other) = default;
+    PxEnumWrapper &operator=(const PxEnumWrapper &other) = default;
+    virtual ~PxEnumWrapper() = default;
+
+    // Applications are built against this order of the virtual operations: append, never reorder.
+    virtual bool operator<(const PxEnumWrapper &other) const { return m_value < other.m_value; }
+    virtual bool operator>(const PxEnumWrapper &other) const { return m_value > other.m_value; }
+    virtual bool operator==(const PxEnumWrapper &other) const { return m_value == other.m_value; }
+    virtual bool operator!=(const PxEnumWrapper &other) const { return m_value != other.m_value; }
+    virtual PxEnumWrapper &operator|=(const PxEnumWrapper &other) { return assign(*this | other); }
+    virtual PxEnumWrapper &operator&=(const PxEnumWrapper &other) { return assign(*this & other); }
+    virtual ENUM operator&(const PxEnumWrapper &other) const
+    {
+        return static_cast<ENUM>(int(m_value) & int(other.m_value));
+    }
+    virtual ENUM operator|(const PxEnumWrapper &other) const
+    {
+        return static_cast<ENUM>(int(m_value) | int(other.m_value));
+    }
+    /** Clears the bits of the other value. */
+    virtual PxEnumWrapper &exclude(const PxEnumWrapper &other) { return exclude(other.m_value); }
+    virtual PxEnumWrapper &exclude(ENUM bits)
+    {
+        return assign(static_cast<ENUM>(int(m_value) & ~int(bits)));
+    }
+    /** Sets the given bits. */
+    virtual PxEnumWrapper &expandedTo(ENUM bits)
+    {
+        return assign(static_cast<ENUM>(int(m_value) | int(bits)));
+    }
+    virtual bool isValid() const { return !isNull(); }
+    /** Inserts the keywords and sets the defaults of the enumeration. Called once in a process. */
+    virtual void fillTable(PxEnumToStringTable<ENUM> *table) const = 0;
+
+    ENUM value() const { return m_value; }
+    /** Shares at least one bit. */
+    bool matches(ENUM bits) const { return (int(m_value) & int(bits)) != 0; }
+    /** Is exactly this value. */
+    bool hasValue(const ENUM &value) const { return m_value == value; }
+    bool isNull() const { return m_value == 0; }
+
+    ENUM decodeCSV(const QString &keywords) const
+    {
+        return enumToStringTable()->decodeCSV(keywords);
+    }
+    /** Takes the value of a comma-separated keyword list and returns it. */
+    ENUM setValue(const QString &keywords) { return m_value = decodeCSV(keywords); }
+    QString encodeCSV() const { return enumToStringTable()->encodeCSV(m_value); }
+    QSet<ENUM> splitToBits() const { return enumToStringTable()->splitToBits(m_value); }
+
+    /** The one table of the enumeration; never null, never freed. */
+    PxEnumToStringTable<ENUM> *enumToStringTable() const;
+
+private:
+    PxEnumWrapper &assign(ENUM value)
+    {
+        m_value = value;
+        return *this;
+    }
+
+    ENUM m_value = static_cast<ENUM>(0);
+};
+
+template <typename ENUM>
+PxEnumToStringTable<ENUM> *PxEnumWrapper<ENUM>::enumToStringTable() const
+{
+    static QAtomicPointer<PxEnumToStringTable<ENUM>> ourTable;
+    static QMutex ourMutex;
+    return pxCreateOnce(ourTable, ourMutex, [this] {
+        auto *table = new PxEnumToStringTable<ENUM>;
+        fillTable(table);
+        return table;
+    });
+}
+
+/** Agrees with ==; serves every class derived from the wrapper. */
+template <typename ENUM>
+uint qHash(const PxEnumWrapper<ENUM> &wrapper, uint seed = 0)
+{
+    return ::qHash(int(wrapper.value()), seed);
+}

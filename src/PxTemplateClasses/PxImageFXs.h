@@ -1,0 +1,25 @@
+#pragma once
+
+#include "PxKeyword.h"
+
+/** Effects that are applied to every image of a product; a set of flags. */
+enum PxImageFXs : int {
+    PxImageFXsNone = 0,
+    PxImageFXsGrayscale = 1,
+    PxImageFXsPreserveAlphaChannel = 4,
+};
+
+namespace EnumHelper {
+
+inline constexpr PxKeyword<PxImageFXs> globalImageFXsKeywords[] = {
+    {"grayscale", PxImageFXsGrayscale},
+    {"none", PxImageFXsNone},
+    {"preserve_alpha_channel", PxImageFXsPreserveAlphaChannel},
+};
+
+inline const QHash<QString, PxImageFXs> globalMapImageFXsString =
+    keywordMap(globalImageFXsKeywords);
+inline const QString globalImageFXsDefaultKey = QStringLiteral("none");
+inline constexpr PxImageFXs globalImageFXsDefaultValue = PxImageFXsNone;
+
+} // namespace EnumHelper

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "PxListParts.h"
+
+#include <QHash>
+#include <QString>
+
+/** One row of a keyword table: a keyword of the files, in ASCII, and the value it stands for. */
+template <typename ENUM>
+struct PxKeyword
+{
+    const char *keyword;
+    ENUM value;
+};
+
+namespace EnumHelper {
+
+/** The rows as a map whose keys are the upper-cased keywords. */
+template <typename ENUM, std::size_t COUNT>
+QHash<QString, ENUM> keywordMap(const PxKeyword<ENUM> (&rows)[COUNT])
+{
+    QHash<QString, ENUM> map;
+    map.reserve(int(COUNT));
+    for (const PxKeyword<ENUM> &row : rows)
+        map.insert(QString::fromLatin1(row.keyword).toUpper(), row.value);
+    return map;
+}
+
+/** The value of one keyword, in any case and with white space around it; `fallback` for others. */
+template <typename ENUM>
+ENUM decodeKeyword(const QString &keyword, const QHash<QString, ENUM> &map, ENUM fallback)
+{
+    return map.value(keyword.trimmed().toUpper(), fallback);
+}
+
+/**
+ * The union of a comma-separated list of keywords.
+ *
+ * Each part that is no keyword adds `fallback`, and so does an empty part: an empty text gives just
+ * that.
+ */
+template <typename ENUM>
+ENUM decodeKeywordList(const QString &keywords, const QHash<QString, ENUM> &map, ENUM fallback)
+{
+    int flags = 0;
+    pxForEachPart(keywords, [&](QStringView part) {
+        flags |= decodeKeyword(part.toString(), map, fallback);
+    });
+    return static_cast<ENUM>(flags);
+}
+
+} // namespace EnumHelper

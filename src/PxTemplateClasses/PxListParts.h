@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringView>
+
+/**
+ * Calls `function` with each part of a list text, in order, as a view into `text`.
+ *
+ * Parts are neither trimmed nor skipped: an empty text has one empty part.
+ */
+template <typename Function>
+void pxForEachPart(QStringView text, QChar separator, Function function)
+{
+    qsizetype start = 0;
+    for (qsizetype end = 0; end < text.size(); ++end) {
+        if (text[end] == separator) {
+            function(text.mid(start, end - start));
+            start = end + 1;
+        }
+    }
+    function(text.mid(start));
+}
+
+/** The same for the lists of the product files, whose only separator is the comma. */
+template <typename Function>
+void pxForEachPart(QStringView text, Function function)
+{
+    pxForEachPart(text, QLatin1Char(','), function);
+}
+
+/** The whole numbers of a comma-separated list in its order; parts that are none are left out. */
+inline QList<int> pxIntList(const QString &text)
+{
+    QList<int> numbers;
+    pxForEachPart(text, [&numbers](QStringView part) {
+        bool isNumber = false;
+        const int number = part.toString().toInt(&isNumber);
+        if (isNumber)
+            numbers.append(number);
+    });
+    return numbers;
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "PxKeyword.h"
+
+#include <QList>
+
+/** Where on a spread a page lies, or something on a page; a set of flags. */
+enum PxPageAlignment : int {
+    PxPageAlignmentNone = 0,
+    PxPageAlignmentLeft = 1,
+    PxPageAlignmentRight = 2,
+    PxPageAlignmentMiddle = 4,
+    PxPageAlignmentFullPage = 8,
+    PxPageAlignmentTop = 16,
+    PxPageAlignmentBottom = 32,
+    PxPageAlignmentCenter = 64,
+    PxPageAlignmentAll = PxPageAlignmentLeft | PxPageAlignmentRight | PxPageAlignmentMiddle |
+                         PxPageAlignmentFullPage | PxPageAlignmentTop | PxPageAlignmentBottom |
+                         PxPageAlignmentCenter,
+};
+
+namespace EnumHelper {
+
+inline QHash<QString, PxPageAlignment> initGlobalPageAlignmentStringMap()
+{
+    constexpr PxKeyword<PxPageAlignment> keywords[] = {
+        {"left", PxPageAlignmentLeft},         {"leftpage", PxPageAlignmentLeft},
+        {"right", PxPageAlignmentRight},       {"rightpage", PxPageAlignmentRight},
+        {"top", PxPageAlignmentTop},           {"bottom", PxPageAlignmentBottom},
+        {"center", PxPageAlignmentCenter},     {"middle", PxPageAlignmentMiddle},
+        {"fullpage", PxPageAlignmentFullPage}, {"cover", PxPageAlignmentLeft},
+        {"coverpage", PxPageAlignmentLeft},
+    };
+    return keywordMap(keywords);
+}
+
+inline const QHash<QString, PxPageAlignment> globalMapPageAlignmentString =
+    initGlobalPageAlignmentStringMap();
+inline const QString globalPageAlignmentDefaultKey = QStringLiteral("unknown");
+/** An unknown alignment is a real side on purpose: a page always lies somewhere. */
+inline constexpr PxPageAlignment globalPageAlignmentDefaultValue = PxPageAlignmentLeft;
+
+/**
+ * The alignments of a comma-separated list, one per part and in its order, in any case.
+ *
+ * A part that is no keyword, an empty one too, gives the default alignment.
+ */
+inline QList<PxPageAlignment> decodePageAlignmentAsList(const QString &alignments)
+{
+    QList<PxPageAlignment> list;
+    pxForEachPart(alignments, [&list](QStringView part) {
+        list.append(decodeKeyword(part.toString(), globalMapPageAlignmentString,
+                                  globalPageAlignmentDefaultValue));
+    });
+    return list;
+}
+
+} // namespace EnumHelper
