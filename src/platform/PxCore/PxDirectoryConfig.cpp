@@ -1,0 +1,113 @@
+#include "PxDirectoryConfig.h"
+
+#include <PxCreateOnce.h>
+
+#include <QDebug>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <dlfcn.h>
+
+namespace {
+
+/** Empty stays empty: as a path it would mean the current directory. */
+QString absolute(const QString &path)
+{
+    return path.isEmpty() ? path : QDir::cleanPath(QDir(path).absolutePath());
+}
+
+/** The resources that belong to the library that this code was loaded from. */
+QString installedResources()
+{
+    Dl_info library{};
+    dladdr(reinterpret_cast<const void *>(&installedResources), &library);
+    const QFileInfo file(QFile::decodeName(library.dli_fname));
+    // A link to the library may stand anywhere; the resources are beside the library itself.
+    const QFileInfo target(file.canonicalFilePath());
+    const QDir directory = target.exists() ? target.dir() : file.dir();
+    return absolute(directory.absoluteFilePath(QStringLiteral(PX_RESOURCES_FROM_LIBRARY)));
+}
+
+} // namespace
+
+PxDirectoryConfig *PxDirectoryConfig::instance()
+{
+    static QAtomicPointer<PxDirectoryConfig> ourInstance;
+    static QMutex ourMutex;
+    return pxCreateOnce(ourInstance, ourMutex, [] { return new PxDirectoryConfig; });
+}
+
+PxDirectoryConfig::PxDirectoryConfig()
+{
+    setResourceDirectories(
+        qEnvironmentVariable("PX_RESOURCE_DIRS").split(QDir::listSeparator(), Qt::SkipEmptyParts));
+    setUserDefaultsPath(qEnvironmentVariable("PX_USER_DEFAULTS_DIR"));
+    setThemesDirectory(qEnvironmentVariable("PX_THEMES_DIR"));
+}
+
+QString PxDirectoryConfig::resource(const QString &name, bool reportMissing) const
+{
+    const auto named = m_resources.constFind(name);
+    if (named != m_resources.constEnd()) {
+        if (reportMissing && !QFileInfo::exists(*named))
+            qWarning() << "PxDirectoryConfig::resource" << name << "is missing, set to" << *named;
+        return *named;
+    }
+    for (const QString &directory : m_resourceDirectories) {
+        const QString path = QDir(directory).absoluteFilePath(name);
+        if (QFileInfo::exists(path))
+            return path;
+    }
+    if (reportMissing)
+        qWarning() << "PxDirectoryConfig::resource" << name << "is missing, searched in"
+                   << m_resourceDirectories;
+    return QDir(m_resourceDirectories.first()).absoluteFilePath(name);
+}
+
+QString PxDirectoryConfig::userDefaultsPath() const
+{
+    if (!m_userDefaultsPath.isEmpty())
+        return m_userDefaultsPath;
+    const QDir data(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    return data.absoluteFilePath(QStringLiteral("defaults"));
+}
+
+QDir PxDirectoryConfig::lumoThemesDirectory(bool reportMissing) const
+{
+    const QDir themes(m_themesDirectory);
+    if (reportMissing && !themes.exists())
+        qWarning() << "PxDirectoryConfig::lumoThemesDirectory is missing:" << m_themesDirectory;
+    return themes;
+}
+
+void PxDirectoryConfig::setResourceDirectories(const QStringList &directories)
+{
+    m_resourceDirectories.clear();
+    for (const QString &directory : directories) {
+        if (!directory.isEmpty())
+            m_resourceDirectories.append(absolute(directory));
+    }
+    if (m_resourceDirectories.isEmpty())
+        m_resourceDirectories.append(installedResources());
+}
+
+void PxDirectoryConfig::setResource(const QString &name, const QString &path)
+{
+    if (path.isEmpty())
+        m_resources.remove(name);
+    else
+        m_resources.insert(name, absolute(path));
+}
+
+void PxDirectoryConfig::setUserDefaultsPath(const QString &path)
+{
+    m_userDefaultsPath = absolute(path);
+}
+
+void PxDirectoryConfig::setThemesDirectory(const QString &path)
+{
+    m_themesDirectory = path.isEmpty()
+                            ? QDir(installedResources()).absoluteFilePath(QStringLiteral("themes"))
+                            : absolute(path);
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "PxProductBaseExport.h"
+
+#include <PxEnumWrapper.h>
+
+class QSizeF;
+
+/** The shape of a page or a template; a set of flags. */
+enum PxOrientationEnum : int {
+    PxOrientationPortrait = 1,
+    PxOrientationLandscape = 2,
+    PxOrientationQuadratic = 4,
+    PxOrientationPanorama = 8,
+    PxOrientationPortraitPanorama = 16,
+    PxOrientationRound = 32,
+    PxOrientationAll = PxOrientationPortrait | PxOrientationLandscape | PxOrientationQuadratic |
+                       PxOrientationPanorama | PxOrientationPortraitPanorama | PxOrientationRound,
+};
+
+extern template class PXPRODUCTBASE_EXPORT PxEnumWrapper<PxOrientationEnum>;
+
+/** The shape of a page or a template as it is read from the files; 0 is unknown. */
+class PXPRODUCTBASE_EXPORT PxOrientation : public PxEnumWrapper<PxOrientationEnum>
+{
+public:
+    PxOrientation() = default;
+    PxOrientation(PxOrientationEnum orientation) : PxEnumWrapper(orientation) {}
+    PxOrientation(const PxOrientation &other) = default;
+    PxOrientation &operator=(const PxOrientation &other) = default;
+    /** The union of a comma-separated keyword list; words that are no keyword add nothing. */
+    PxOrientation(const QString &keywords);
+    /**
+     * The same, or, when the text gives none, the shape of the size: portrait, landscape or
+     * quadratic; 0 for a size without area.
+     */
+    PxOrientation(const QString &keywords, const QSizeF &size);
+    ~PxOrientation() override;
+
+    void fillTable(PxEnumToStringTable<PxOrientationEnum> *table) const override;
+};

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "PxProductBaseExport.h"
+
+/** How many pages a product may have, and in which steps. */
+class PXPRODUCTBASE_EXPORT PxPageCountOrganization
+{
+public:
+    PxPageCountOrganization(unsigned minimum, unsigned maximum, unsigned increment)
+        : m_minimum(minimum)
+        , m_maximum(maximum)
+        , m_increment(increment)
+    {}
+
+    unsigned minimum() const { return m_minimum; }
+    unsigned maximum() const { return m_maximum; }
+    /** 0 when the number of pages cannot be changed. */
+    unsigned increment() const { return m_increment; }
+
+    bool operator==(const PxPageCountOrganization &other) const;
+
+private:
+    unsigned m_minimum;
+    unsigned m_maximum;
+    unsigned m_increment;
+};

@@ -1,0 +1,3 @@
+#include "PxPageOrganizationCalculator.h"
+
+PxPageOrganizationCalculator::~PxPageOrganizationCalculator() = default;

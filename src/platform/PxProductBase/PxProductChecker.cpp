@@ -1,0 +1,3 @@
+#include "PxProductChecker.h"
+
+PxProductChecker::~PxProductChecker() = default;

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "PxProductBaseExport.h"
+
+class PxProductType;
+
+/** Tells of product types whether they can be ordered, and how many pages they may have. */
+class PXPRODUCTBASE_EXPORT PxProductChecker
+{
+public:
+    PxProductChecker() = default;
+    PxProductChecker(const PxProductChecker &other) = default;
+    PxProductChecker &operator=(const PxProductChecker &other) = default;
+
+    // Applications are built against this order of the virtual operations: append, never reorder.
+    virtual ~PxProductChecker();
+    virtual bool isValid(const PxProductType &type) const = 0;
+    /** The kind of this checker, by which the registry can be asked; not 0. */
+    virtual int type() const = 0;
+    virtual int minPages(const PxProductType &type) const = 0;
+    virtual int maxPages(const PxProductType &type) const = 0;
+    /** By how many pages a product grows or shrinks at a time. */
+    virtual int pageIncrement(const PxProductType &type) const = 0;
+};

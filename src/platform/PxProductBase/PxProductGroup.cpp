@@ -1,0 +1,6 @@
+#include "PxProductGroup.h"
+
+PxProductGroup::PxProductGroup(const QString &keyword)
+    : m_value(EnumHelper::decodeKeyword(keyword, EnumHelper::globalMapProductGroupEnumString,
+                                        EnumHelper::globalProductGroupEnumDefaultValue))
+{}

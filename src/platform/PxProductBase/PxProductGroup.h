@@ -1,0 +1,26 @@
+#pragma once
+
+#include "PxProductBaseExport.h"
+
+#include <PxProductGroupEnum.h>
+
+/** The group under which the shop offers a product. */
+class PXPRODUCTBASE_EXPORT PxProductGroup
+{
+public:
+    /** The unknown group 0. */
+    PxProductGroup() = default;
+    PxProductGroup(PxProductGroupEnum group) : m_value(group) {}
+    /** By keyword, trimmed and in any case; the unknown group 0 for any other text. */
+    PxProductGroup(const QString &keyword);
+
+    bool isValid() const { return m_value != PxProductGroupUnknown; }
+    PxProductGroupEnum value() const { return m_value; }
+
+    bool operator==(const PxProductGroup &other) const { return m_value == other.m_value; }
+    bool operator!=(const PxProductGroup &other) const { return m_value != other.m_value; }
+    bool operator<(const PxProductGroup &other) const { return m_value < other.m_value; }
+
+private:
+    PxProductGroupEnum m_value = PxProductGroupUnknown;
+};

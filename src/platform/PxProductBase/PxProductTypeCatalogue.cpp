@@ -1,0 +1,105 @@
+#include "PxProductTypeCatalogue.h"
+
+#include <PxCreateOnce.h>
+#include <PxDirectoryConfig.h>
+#include <PxKeyword.h>
+#include <PxXMLLoader.h>
+#include <PxXMLParser.h>
+
+#include <QDebug>
+#include <QDomElement>
+
+namespace {
+
+constexpr PxKeyword<PxProductClass> classKeywords[] = {
+    {"book", PxProductClassBook},       {"calendar", PxProductClassCalendar},
+    {"gift", PxProductClassGift},       {"card", PxProductClassCard},
+    {"deko", PxProductClassDecoration}, {"print", PxProductClassPrint},
+};
+
+PxProductClass readClass(const QDomElement &row)
+{
+    static const QHash<QString, PxProductClass> ourKeywords = EnumHelper::keywordMap(classKeywords);
+    return EnumHelper::decodeKeyword(row.attribute(QStringLiteral("class")), ourKeywords,
+                                     PxProductClassUnknown);
+}
+
+QString nameKey(const QString &name)
+{
+    return name.trimmed().toCaseFolded();
+}
+
+} // namespace
+
+const PxProductTypeCatalogue *PxProductTypeCatalogue::instance()
+{
+    static QAtomicPointer<PxProductTypeCatalogue> ourInstance;
+    static QMutex ourMutex;
+    return pxCreateOnce(ourInstance, ourMutex, [] {
+        const QString name = QStringLiteral("producttypes.xml");
+        return new PxProductTypeCatalogue(
+            QFileInfo(PxDirectoryConfig::instance()->resource(name, false)));
+    });
+}
+
+PxProductTypeCatalogue::PxProductTypeCatalogue(const QFileInfo &file)
+{
+    if (!file.exists())
+        return;
+    QString error;
+    const QDomElement catalogue = PxXMLLoader::loadDocumentElement(file, &error);
+    if (catalogue.isNull() || catalogue.tagName() != QLatin1String("producttypes")) {
+        if (error.isEmpty())
+            error = file.filePath() + QLatin1String(": the document element is not producttypes");
+        qWarning() << "PxProductTypeCatalogue could not read" << error;
+        return;
+    }
+    const QString tag = QStringLiteral("producttype");
+    int number = 0;
+    for (QDomElement row = catalogue.firstChildElement(tag); !row.isNull();
+         row = row.nextSiblingElement(tag)) {
+        ++number;
+        if (const char *reason = addRow(row))
+            qWarning().nospace() << "PxProductTypeCatalogue leaves out row " << number << " of "
+                                 << file.filePath() << ": " << reason;
+    }
+}
+
+PxProductTypeCatalogue::~PxProductTypeCatalogue() = default;
+
+const PxProductTypeEntry *PxProductTypeCatalogue::find(int code) const
+{
+    return m_byCode.value(code);
+}
+
+const PxProductTypeEntry *PxProductTypeCatalogue::find(const QString &name) const
+{
+    return m_byName.value(nameKey(name));
+}
+
+const char *PxProductTypeCatalogue::addRow(const QDomElement &row)
+{
+    PxProductTypeEntry entry;
+    const int code = PxXMLParser::intAttribute(row, QStringLiteral("code"), 0);
+    entry.type = static_cast<PxProductTypeEnum>(code);
+    entry.name = row.attribute(QStringLiteral("name")).trimmed();
+    entry.productClass = readClass(row);
+    entry.shortName = PxXMLParser::attribute(row, QStringLiteral("shortname"), entry.name, false);
+
+    const QString key = nameKey(entry.name);
+    if (code < 1)
+        return "its code is no number above 0";
+    if (key.isEmpty())
+        return "it has no name";
+    if (entry.productClass == PxProductClassUnknown)
+        return "its class is unknown";
+    if (m_byCode.contains(code))
+        return "an earlier row has its code";
+    if (m_byName.contains(key))
+        return "an earlier row has its name";
+
+    m_entries.push_back(entry);
+    m_byCode.insert(code, &m_entries.back());
+    m_byName.insert(key, &m_entries.back());
+    return nullptr;
+}

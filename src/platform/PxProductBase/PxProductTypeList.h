@@ -1,0 +1,7 @@
+#pragma once
+
+#include "PxProductType.h"
+
+#include <QList>
+
+using PxProductTypeList = QList<PxProductType>;

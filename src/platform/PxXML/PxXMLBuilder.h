@@ -1,0 +1,18 @@
+#pragma once
+
+#include "PxXMLExport.h"
+
+#include <QDomElement>
+
+/** Writes small pieces of XML. */
+class PXXML_EXPORT PxXMLBuilder
+{
+public:
+    /**
+     * Appends a child element of this name, holding this text, and answers it.
+     *
+     * An empty text gives an element without content. A null parent gives a null element.
+     */
+    static QDomElement buildDomElement(QDomElement &parent, const QString &name,
+                                       const QString &text);
+};

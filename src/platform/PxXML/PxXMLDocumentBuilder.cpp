@@ -1,0 +1,127 @@
+#include "PxXMLDocumentBuilder.h"
+
+#include "PxXMLLoader.h"
+
+#include <QDomImplementation>
+#include <QXmlStreamReader>
+
+PxXMLDocumentBuilder::PxXMLDocumentBuilder(QXmlStreamReader &reader, bool hasStandalone)
+    : m_reader(reader)
+    , m_document(QDomDocumentType())
+    , m_parent(m_document)
+{
+    if (!reader.documentVersion().isEmpty())
+        addDeclaration(hasStandalone);
+}
+
+std::optional<PxXMLFault> PxXMLDocumentBuilder::build()
+{
+    std::optional<PxXMLFault> found = addToken();
+    while (!found && !m_reader.atEnd()) {
+        m_reader.readNext();
+        found = addToken();
+    }
+    return found;
+}
+
+std::optional<PxXMLFault> PxXMLDocumentBuilder::addToken()
+{
+    switch (m_reader.tokenType()) {
+    case QXmlStreamReader::StartElement:
+        return addElement();
+    case QXmlStreamReader::EndElement:
+        m_parent = m_parent.parentNode();
+        --m_depth;
+        return std::nullopt;
+    case QXmlStreamReader::Characters:
+        if (m_reader.isCDATA())
+            return add(m_document.createCDATASection(shared(m_reader.text())));
+        if (m_reader.text().trimmed().isEmpty())
+            return std::nullopt;
+        return add(m_document.createTextNode(shared(m_reader.text())));
+    case QXmlStreamReader::Comment:
+        return add(m_document.createComment(shared(m_reader.text())));
+    case QXmlStreamReader::ProcessingInstruction:
+        return add(
+            m_document.createProcessingInstruction(shared(m_reader.processingInstructionTarget()),
+                                                   shared(m_reader.processingInstructionData())));
+    case QXmlStreamReader::DTD:
+        addDocumentType();
+        return std::nullopt;
+    case QXmlStreamReader::EntityReference:
+        return fault(QStringLiteral("the entity %1 is declared outside the file, which is not "
+                                    "allowed")
+                         .arg(m_reader.name()));
+    case QXmlStreamReader::Invalid:
+        return fault(m_reader.errorString());
+    case QXmlStreamReader::NoToken:
+    case QXmlStreamReader::StartDocument:
+    case QXmlStreamReader::EndDocument:
+        break;
+    }
+    return std::nullopt;
+}
+
+std::optional<PxXMLFault> PxXMLDocumentBuilder::addElement()
+{
+    // Building takes time in proportion to the depth of each node, destroying takes stack.
+    if (++m_depth > PxXMLLoader::maximumDepth)
+        return fault(QStringLiteral("the element is nested %1 deep, no more than %2 are allowed")
+                         .arg(m_depth)
+                         .arg(PxXMLLoader::maximumDepth));
+    QDomElement element = m_document.createElement(shared(m_reader.qualifiedName()));
+    const QXmlStreamAttributes attributes = m_reader.attributes();
+    for (const QXmlStreamAttribute &attribute : attributes)
+        element.setAttribute(shared(attribute.qualifiedName()), shared(attribute.value()));
+    const std::optional<PxXMLFault> found = add(element);
+    m_parent = element;
+    return found;
+}
+
+std::optional<PxXMLFault> PxXMLDocumentBuilder::add(const QDomNode &node)
+{
+    if (++m_nodes > PxXMLLoader::maximumNodes)
+        return fault(QStringLiteral("this is node %1 of the file, no more than %2 are allowed")
+                         .arg(m_nodes)
+                         .arg(PxXMLLoader::maximumNodes));
+    m_parent.appendChild(node);
+    return std::nullopt;
+}
+
+void PxXMLDocumentBuilder::addDeclaration(bool hasStandalone)
+{
+    QString data = QLatin1String("version='") + m_reader.documentVersion() + QLatin1Char('\'');
+    if (!m_reader.documentEncoding().isEmpty())
+        data += QLatin1String(" encoding='") + m_reader.documentEncoding() + QLatin1Char('\'');
+    if (hasStandalone)
+        data += m_reader.isStandaloneDocument() ? QLatin1String(" standalone='yes'")
+                                                : QLatin1String(" standalone='no'");
+    m_document.appendChild(m_document.createProcessingInstruction(QStringLiteral("xml"), data));
+}
+
+void PxXMLDocumentBuilder::addDocumentType()
+{
+    // A document gets its type when it is created only, so what we have so far moves over.
+    QDomDocument document(QDomImplementation().createDocumentType(
+        m_reader.dtdName().toString(), m_reader.dtdPublicId().toString(),
+        m_reader.dtdSystemId().toString()));
+    while (m_document.hasChildNodes())
+        document.appendChild(m_document.firstChild());
+    m_document = document;
+    m_parent = document;
+}
+
+PxXMLFault PxXMLDocumentBuilder::fault(const QString &message) const
+{
+    return {message, m_reader.lineNumber(), qMax<qint64>(m_reader.columnNumber(), 1)};
+}
+
+QString PxXMLDocumentBuilder::shared(QStringView text)
+{
+    if (text.isEmpty())
+        return QLatin1String(""); // not null: an empty attribute is no missing one
+    QString &slot = m_texts[qHash(text) % m_texts.size()];
+    if (slot != text)
+        slot = text.toString();
+    return slot;
+}

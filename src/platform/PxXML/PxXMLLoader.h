@@ -1,0 +1,40 @@
+#pragma once
+
+#include "PxXMLExport.h"
+
+#include <QDomDocument>
+#include <QFileInfo>
+
+/**
+ * The gate through which XML files of unknown origin come in.
+ *
+ * Both functions answer a null node when the file cannot be opened, is no well-formed XML or breaks
+ * a limit, never a part of a tree, and put `file:line:column: message` into `error`: one line, with
+ * line and column counted from 1, and 0:0 when the fault has no place in the text. Success clears
+ * `error`. Nothing is logged.
+ *
+ * The tree is the one of QDomDocument::setContent() without namespace processing, only that nodes
+ * do not know their line and column. Any thread with a stack of 512 KB or more may load and destroy
+ * documents.
+ */
+class PXXML_EXPORT PxXMLLoader
+{
+public:
+    // What no honest file comes near; larger ones would cost more time, memory or stack than we
+    // are ready to give an unknown file.
+    /** Bytes of a file. */
+    static constexpr int maximumFileSize = 8 * 1024 * 1024;
+    /** Elements inside each other, the document element included. */
+    static constexpr int maximumDepth = 256;
+    /** Attributes of one tag. */
+    static constexpr int maximumAttributes = 256;
+    /** Elements, texts, CDATA sections, comments and processing instructions of a file. */
+    static constexpr int maximumNodes = 200000;
+
+    static QDomDocument loadDocument(const QFileInfo &file, QString *error = nullptr);
+    /**
+     * The document element alone, without comments and the like around it: it has no document, and
+     * is used without one.
+     */
+    static QDomElement loadDocumentElement(const QFileInfo &file, QString *error = nullptr);
+};

@@ -1,0 +1,111 @@
+#include "PxXMLMarkupScanner.h"
+
+#include "PxXMLLoader.h"
+
+#include <algorithm>
+
+std::optional<PxXMLFault> PxXMLMarkupScanner::scan()
+{
+    std::optional<PxXMLFault> found;
+    while (!found) {
+        m_position = m_text.find('<', m_position);
+        if (m_position == std::string_view::npos)
+            break;
+        if (startsWith("<!--"))
+            skipPast("-->");
+        else if (startsWith("<![CDATA["))
+            skipPast("]]>");
+        else if (startsWith("<?"))
+            skipPast("?>");
+        else if (startsWith("</"))
+            skipPast(">");
+        else if (startsWith("<!"))
+            found = scanDocumentType();
+        else
+            found = scanTag();
+    }
+    return found;
+}
+
+std::optional<PxXMLFault> PxXMLMarkupScanner::scanTag()
+{
+    int attributes = 0;
+    for (++m_position; m_position < m_text.size(); ++m_position) {
+        switch (m_text[m_position]) {
+        case '>':
+            return std::nullopt;
+        case '<':
+            stop();
+            return std::nullopt;
+        case '"':
+        case '\'':
+            if (++attributes > PxXMLLoader::maximumAttributes)
+                return fault(QStringLiteral("the tag has attribute %1, no more than %2 are allowed")
+                                 .arg(attributes)
+                                 .arg(PxXMLLoader::maximumAttributes));
+            if (const std::optional<PxXMLFault> found = scanAttributeValue())
+                return found;
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<PxXMLFault> PxXMLMarkupScanner::scanAttributeValue()
+{
+    const char quote = m_text[m_position];
+    for (++m_position; m_position < m_text.size() && m_text[m_position] != quote; ++m_position) {
+        // Most often the closing quote of an earlier value is missing.
+        if (m_text[m_position] == '<')
+            stop();
+        else if (m_text[m_position] == '&' && !isOwnReference())
+            return fault(QStringLiteral("no entities are allowed in an attribute but those of XML "
+                                        "itself; a plain '&' is written &amp;"));
+    }
+    return std::nullopt;
+}
+
+std::optional<PxXMLFault> PxXMLMarkupScanner::scanDocumentType()
+{
+    char quote = 0;
+    for (; m_position < m_text.size(); ++m_position) {
+        const char c = m_text[m_position];
+        if (quote)
+            quote = c == quote ? 0 : quote;
+        else if (c == '"' || c == '\'')
+            quote = c;
+        else if (c == '[')
+            return fault(QStringLiteral("the document type declaration has an internal subset, "
+                                        "none is allowed"));
+        else if (c == '>')
+            break;
+    }
+    return std::nullopt;
+}
+
+bool PxXMLMarkupScanner::isOwnReference() const
+{
+    constexpr std::string_view references[] = {"&#", "&amp;", "&lt;", "&gt;", "&quot;", "&apos;"};
+    return std::any_of(std::begin(references), std::end(references),
+                       [this](std::string_view reference) { return startsWith(reference); });
+}
+
+bool PxXMLMarkupScanner::startsWith(std::string_view token) const
+{
+    return m_text.compare(m_position, token.size(), token) == 0;
+}
+
+void PxXMLMarkupScanner::skipPast(std::string_view token)
+{
+    const std::size_t found = m_text.find(token, m_position);
+    m_position = found == std::string_view::npos ? m_text.size() : found + token.size();
+}
+
+PxXMLFault PxXMLMarkupScanner::fault(const QString &message) const
+{
+    const std::string_view before = m_text.substr(0, m_position);
+    const std::size_t lineStart = before.rfind('\n') + 1; // npos + 1 is 0: the first line
+    // The reader counts columns in UTF-16 units, and so do we.
+    const QString line =
+        QString::fromUtf8(before.data() + lineStart, int(before.size() - lineStart));
+    return {message, std::count(before.begin(), before.end(), '\n') + 1, line.size() + 1};
+}
