@@ -1,0 +1,60 @@
+#pragma once
+
+#include "PxProductPropertiesExport.h"
+
+#include <PxEnumWrapper.h>
+#include <PxLookUpTable.h>
+
+enum PxBindingEnum : int {
+    PxBindingHardcover = 1,
+    PxBindingSoftcover = 2,
+    PxBindingCromolinen = 4,
+    PxBindingLeather = 8,
+    PxBindingArtificialLeather = 16,
+    PxBindingClamp = 32,
+    PxBindingBooklet = 64,
+    PxBindingFoil = 128,
+    PxBindingCalendarSimplex = 256,
+    PxBindingCalendarDuplex = 512,
+    PxBindingCalendarOnePage = 1024,
+    PxBindingCalendarAnnualDuplex = 2048,
+    PxBindingGift = 4096,
+    // The annual duplex planner hangs on the wall like the other two: its pages are laid out as
+    // theirs.
+    PxBindingAllSimplex =
+        PxBindingCalendarSimplex | PxBindingCalendarOnePage | PxBindingCalendarAnnualDuplex,
+    PxBindingAllFullCover = PxBindingHardcover | PxBindingSoftcover | PxBindingBooklet,
+};
+extern template class PXPRODUCTPROPERTIES_EXPORT PxEnumWrapper<PxBindingEnum>;
+
+/** How the pages of a product are held together; products without binding are "GIFT". */
+class PXPRODUCTPROPERTIES_EXPORT PxBinding : public PxEnumWrapper<PxBindingEnum>
+{
+public:
+    PxBinding() = default;
+    PxBinding(PxBindingEnum value) : PxEnumWrapper(value) {}
+    /** From a keyword list; a text that is no keyword gives GIFT. */
+    explicit PxBinding(const QString &keywords);
+    PxBinding(const PxBinding &other);
+    PxBinding &operator=(const PxBinding &other);
+    ~PxBinding() override;
+
+    /** The binding with this display name, in German or translated; value 0 for any other text. */
+    static PxBinding createFromHumanReadable(const QString &name);
+
+    bool isSimplex() const { return matches(PxBindingAllSimplex); }
+    /** Has a cover that is one sheet around the book. */
+    bool isFullCover() const { return matches(PxBindingAllFullCover); }
+    bool isClampCover() const { return matches(PxBindingClamp); }
+
+    /** The translated display name; "unbekannter Bindungstyp" for a value without one. */
+    QString humanReadableName() const;
+    /** Translated, with line breaks; "unbekannter Bindungstyp" for a value without one. */
+    QString toolTip() const;
+
+    /** The display tables, translated when first asked for. */
+    static const PxLookUpTable<PxBindingEnum, QString> *bindingNames();
+    static const PxLookUpTable<PxBindingEnum, QString> *bindingToolTips();
+
+    void fillTable(PxEnumToStringTable<PxBindingEnum> *table) const override;
+};

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "PxProductPropertiesExport.h"
+#include "values/PxFotoPaperType.h"
+
+#include <PxLookUpTable.h>
+
+#include <QHash>
+#include <QObject>
+
+/**
+ * Display names of photo-paper finishes and of frame models.
+ *
+ * The frame models belong to the maker's catalogue: the optional file `frames.xml` in the resource
+ * directories lists them, one `frame` element with `id` (plain ASCII) and `name` (the German text)
+ * each. The two frameless variants are built in. Texts are translated when the instance is created.
+ */
+class PXPRODUCTPROPERTIES_EXPORT PxHumanReadable : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Created on first use, from any thread; never destroyed. */
+    static PxHumanReadable *instance();
+
+    /** Empty for a value that is no finish. */
+    QString fotoPaperTypeName(PxFotoPaperType type) const;
+    /** The display name of a frame model; the identifier itself when it is unknown. */
+    QString frameName(const QString &id) const;
+
+private:
+    PxHumanReadable();
+
+    void initTemplateNames();
+    void initFotoPaperTypeNames();
+
+    PxLookUpTable<PxFotoPaperType, QString> m_fotoPaperTypeNames;
+    QHash<QString, QString> m_templateNames;
+};

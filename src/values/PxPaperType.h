@@ -1,0 +1,40 @@
+#pragma once
+
+#include "PxProductPropertiesExport.h"
+
+#include <PxEnumWrapper.h>
+#include <PxLookUpTable.h>
+
+enum PxPaperTypeEnum : int {
+    PxPaperTypeUnknown = 0,
+    PxPaperTypeIndigo = 1,
+    PxPaperTypeGlossy = 2,
+    PxPaperTypeIndigoMatt = 4,
+    PxPaperTypeFotoPaper = 8,
+    PxPaperTypeFotoPaperGlossy = 16,
+};
+extern template class PXPRODUCTPROPERTIES_EXPORT PxEnumWrapper<PxPaperTypeEnum>;
+
+/** What a product is printed on. */
+class PXPRODUCTPROPERTIES_EXPORT PxPaperType : public PxEnumWrapper<PxPaperTypeEnum>
+{
+public:
+    PxPaperType() = default;
+    PxPaperType(PxPaperTypeEnum value) : PxEnumWrapper(value) {}
+    /** From a keyword list; a text that is no keyword gives "indigo". */
+    explicit PxPaperType(const QString &keywords);
+    PxPaperType(const PxPaperType &other);
+    PxPaperType &operator=(const PxPaperType &other);
+    ~PxPaperType() override;
+
+    /** The paper with this display name, in German or translated; "indigo" for any other text. */
+    static PxPaperType createFromHumanReadable(const QString &name);
+
+    /** The translated display name; "unbekannter Papiertyp" for a value without one. */
+    QString humanReadableName() const;
+
+    /** The display table, translated when first asked for. */
+    static const PxLookUpTable<PxPaperType, QString> *paperTypeNames();
+
+    void fillTable(PxEnumToStringTable<PxPaperTypeEnum> *table) const override;
+};

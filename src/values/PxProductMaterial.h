@@ -1,0 +1,27 @@
+#pragma once
+
+#include "PxProductPropertiesExport.h"
+
+#include <QString>
+
+/** The material of a wall decoration, kept as the keyword of the product file. */
+class PXPRODUCTPROPERTIES_EXPORT PxProductMaterial
+{
+public:
+    PxProductMaterial() = default;
+    explicit PxProductMaterial(const QString &value);
+    PxProductMaterial(const PxProductMaterial &other);
+    PxProductMaterial &operator=(const PxProductMaterial &other);
+    virtual ~PxProductMaterial();
+
+    /** The keyword exactly as read; empty by default. */
+    QString value() const { return m_value; }
+    /** Its translated description; empty for an unknown keyword. Case and blanks count. */
+    QString visibleDescription() const;
+
+    bool operator==(const PxProductMaterial &other) const { return m_value == other.m_value; }
+    bool operator!=(const PxProductMaterial &other) const { return !(*this == other); }
+
+private:
+    QString m_value;
+};

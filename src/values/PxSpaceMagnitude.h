@@ -1,0 +1,48 @@
+#pragma once
+
+#include "PxProductPropertiesExport.h"
+
+#include <PxEnumWrapper.h>
+#include <PxLookUpTable.h>
+
+enum PxSpaceMagnitudeEnum : int {
+    PxSpaceMagnitudeUnknown = 0,
+    PxSpaceMagnitude150 = 1,
+    PxSpaceMagnitude200 = 2,
+    PxSpaceMagnitude280 = 4,
+    PxSpaceMagnitude310 = 8,
+    PxSpaceMagnitude400 = 16,
+    PxSpaceMagnitude600 = 32,
+    PxSpaceMagnitude900 = 64,
+    PxSpaceMagnitude1200 = 128,
+    PxSpaceMagnitudeNormal = PxSpaceMagnitude200 | PxSpaceMagnitude280 | PxSpaceMagnitude310 |
+                             PxSpaceMagnitude400 | PxSpaceMagnitude600 | PxSpaceMagnitude1200,
+    PxSpaceMagnitudeAny = PxSpaceMagnitudeNormal | PxSpaceMagnitude150 | PxSpaceMagnitude900,
+};
+extern template class PXPRODUCTPROPERTIES_EXPORT PxEnumWrapper<PxSpaceMagnitudeEnum>;
+
+/** The size class of the printable area of a page; the enumerators name square centimetres. */
+class PXPRODUCTPROPERTIES_EXPORT PxSpaceMagnitude : public PxEnumWrapper<PxSpaceMagnitudeEnum>
+{
+public:
+    PxSpaceMagnitude() = default;
+    PxSpaceMagnitude(PxSpaceMagnitudeEnum value) : PxEnumWrapper(value) {}
+    /** From a keyword list; a text that is no keyword gives any size. */
+    explicit PxSpaceMagnitude(const QString &keywords);
+    PxSpaceMagnitude(const PxSpaceMagnitude &other);
+    PxSpaceMagnitude &operator=(const PxSpaceMagnitude &other);
+    ~PxSpaceMagnitude() override;
+
+    /** The size with this display name, in German or translated; value 0 for any other text. */
+    static PxSpaceMagnitude createFromHumanReadable(const QString &name);
+
+    /** How many images a page of this size shows well; 1 unless it is one single size. */
+    int maxReasonableImagesPerPage() const;
+    /** The translated display name; "Undefiniert" for a value without one. */
+    QString humanReadableName() const;
+
+    /** The display table, translated when first asked for. */
+    static const PxLookUpTable<PxSpaceMagnitude, QString> *names();
+
+    void fillTable(PxEnumToStringTable<PxSpaceMagnitudeEnum> *table) const override;
+};
