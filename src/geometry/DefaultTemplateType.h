@@ -1,0 +1,7 @@
+#pragma once
+
+/** Which of the two templates that the editor puts on a new page. */
+enum DefaultTemplateType : int {
+    DefaultTemplateTypeLayout = 0,
+    DefaultTemplateTypeBackground = 1,
+};

@@ -1,0 +1,20 @@
+#include "geometry/PxBarcode.h"
+
+PxBarcode::PxBarcode(const QRect &rect, int pageNr, bool reverseOrder, const QString &imageName)
+    : m_rect(rect)
+    , m_pageNr(pageNr)
+    , m_reverseOrder(reverseOrder)
+    , m_imageName(imageName)
+{}
+
+bool PxBarcode::isValid() const
+{
+    return m_rect.left() <= m_rect.right() && m_rect.top() <= m_rect.bottom();
+}
+
+bool PxBarcode::isOnPage(int page, int pageCount) const
+{
+    if (m_reverseOrder)
+        return qint64(pageCount) - m_pageNr == page;
+    return m_pageNr == page;
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "PxProductPropertiesExport.h"
+
+#include <QRect>
+#include <QString>
+
+/** Where production prints its barcode. */
+class PXPRODUCTPROPERTIES_EXPORT PxBarcode
+{
+public:
+    /** An invalid barcode: null rectangle, page 0. */
+    PxBarcode() = default;
+    PxBarcode(const QRect &rect, int pageNr, bool reverseOrder, const QString &imageName);
+
+    /** The rectangle is not inverted. */
+    bool isValid() const;
+
+    /** On the page, in the unit of the product files. */
+    QRect rect() const { return m_rect; }
+    /** The page, counted from the front, or from the back when reverseOrder(). */
+    int pageNr() const { return m_pageNr; }
+    bool reverseOrder() const { return m_reverseOrder; }
+    /** The placeholder image that the editor shows. */
+    QString imageName() const { return m_imageName; }
+
+    /** Whether it is on this page of a product of so many pages. */
+    bool isOnPage(int page, int pageCount) const;
+
+private:
+    QRect m_rect;
+    int m_pageNr = 0;
+    bool m_reverseOrder = false;
+    QString m_imageName;
+};

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "PxProductPropertiesExport.h"
+
+/**
+ * The strip printed around the trimmed page, so that a skewed cut shows no white edge.
+ *
+ * Lengths are in the unit of the product files. 0 is no bleed; a negative length is kept as it is.
+ */
+class PXPRODUCTPROPERTIES_EXPORT PxBleedMargin
+{
+public:
+    PxBleedMargin(int horizontal, int vertical) : m_horizontal(horizontal), m_vertical(vertical) {}
+
+    /** Bleed at the left edge and at the right edge, each. */
+    int horizontal() const { return m_horizontal; }
+    /** Bleed at the top edge and at the bottom edge, each. */
+    int vertical() const { return m_vertical; }
+
+    bool operator==(const PxBleedMargin &other) const;
+    bool operator!=(const PxBleedMargin &other) const { return !(*this == other); }
+
+private:
+    int m_horizontal;
+    int m_vertical;
+};

@@ -1,0 +1,40 @@
+#include "geometry/PxContentDropRedirectList.h"
+
+#include <PxXMLParser.h>
+
+#include <QDebug>
+#include <QDomElement>
+
+#include <algorithm>
+
+PxContentDropRedirectList::PxContentDropRedirectList(const QDomElement &parent)
+{
+    const QString tag = QStringLiteral("contentredirect");
+    for (QDomElement e = parent.firstChildElement(tag); !e.isNull();
+         e = e.nextSiblingElement(tag)) {
+        // A negative page has a "-" too, and so an empty first part: only pages from 0 can be read.
+        const QString from = e.attribute(QStringLiteral("from"));
+        bool hasFirst = false;
+        bool hasLast = false;
+        const int first = from.leftRef(from.indexOf(QLatin1Char('-'))).toInt(&hasFirst);
+        const int last = from.midRef(from.lastIndexOf(QLatin1Char('-')) + 1).toInt(&hasLast);
+        const int target = PxXMLParser::intAttribute(e, QStringLiteral("to"), -1);
+        if (!hasFirst || !hasLast || last < 0 || target < 0) {
+            QMessageLogger("PxContentDropRedirectList", __LINE__, Q_FUNC_INFO)
+                .warning("PxContentDropRedirectList::PxContentDropRedirectList parse error");
+            continue;
+        }
+        if (first <= last)
+            m_ranges.append({first, last, target});
+    }
+}
+
+int PxContentDropRedirectList::targetPage(int page) const
+{
+    // From the back: a later element wins over an earlier one.
+    const auto range =
+        std::find_if(m_ranges.crbegin(), m_ranges.crend(), [page](const Range &candidate) {
+            return candidate.first <= page && page <= candidate.last;
+        });
+    return range == m_ranges.crend() ? page : range->target;
+}

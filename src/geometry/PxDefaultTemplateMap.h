@@ -1,0 +1,50 @@
+#pragma once
+
+#include "geometry/PxDefaultTemplateKey.h"
+
+#include <QHash>
+#include <QVector>
+
+class QDomElement;
+
+/** Which template the editor puts on a new page by default, by theme, kind of page and side. */
+class PXPRODUCTPROPERTIES_EXPORT PxDefaultTemplateMap
+{
+public:
+    PxDefaultTemplateMap() = default;
+    explicit PxDefaultTemplateMap(const QDomElement &parent);
+
+    /**
+     * The name of the default template; empty when there is none.
+     *
+     * With `useFallback` a theme without a template of its own gets that of the theme "normal".
+     */
+    QString findTemplate(const PxDefaultTemplateKey &key, bool useFallback) const;
+
+    /**
+     * Reads the "defaults" children of the element; a later one wins, also with an empty name.
+     *
+     * Each holds for all combinations of its "theme", "pageType" and "alignment" lists.
+     */
+    void applyDefaultsNode(const QDomElement &parent);
+
+    /** The text with ä, ö, ü and ß written as ae, oe, ue and ss; template names are ASCII. */
+    static QString removeUmlauts(QString text);
+
+private:
+    struct Defaults
+    {
+        QVector<PxPageTypeEnum> pageTypes;
+        int alignments; // the alignments of a list are single bits: their union tells them all
+        QString templates[2]; // by DefaultTemplateType
+
+        bool isFor(const PxPageContext &page) const;
+    };
+
+    static Defaults readDefaults(const QDomElement &element);
+    QString findOwnTemplate(const PxDefaultTemplateKey &key) const;
+
+    // The elements as they stand, not their combinations: lists may cross into millions of pages.
+    QVector<Defaults> m_defaults;
+    QHash<QString, QVector<int>> m_defaultsOfTheme;
+};

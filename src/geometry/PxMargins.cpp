@@ -1,0 +1,11 @@
+#include "geometry/PxMargins.h"
+
+PxMargins::PxMargins() : d(new PxMarginsImpl) {}
+
+PxMargins::PxMargins(int top, int bottom, int left, int right)
+    : d(new PxMarginsImpl(top, bottom, left, right))
+{}
+
+PxMargins::PxMargins(const PxMargins &other) = default;
+PxMargins &PxMargins::operator=(const PxMargins &other) = default;
+PxMargins::~PxMargins() = default;

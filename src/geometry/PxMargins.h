@@ -1,0 +1,35 @@
+#pragma once
+
+#include "geometry/PxMarginsImpl.h"
+
+#include <QSharedDataPointer>
+
+/**
+ * The four margins of a page, in the unit of the product files. All 0 by default; immutable, copies
+ * share the record. Sums that leave the int range are clamped to it.
+ */
+class PXPRODUCTPROPERTIES_EXPORT PxMargins
+{
+public:
+    PxMargins();
+    /** The order is top, bottom, left, right. */
+    PxMargins(int top, int bottom, int left, int right);
+    PxMargins(const PxMargins &other);
+    PxMargins &operator=(const PxMargins &other);
+    ~PxMargins();
+
+    int top() const { return d->top(); }
+    int bottom() const { return d->bottom(); }
+    int left() const { return d->left(); }
+    int right() const { return d->right(); }
+    /** The left margin as x, the top margin as y. */
+    QPoint topLeft() const { return d->topLeft(); }
+    /** The right margin as x, the bottom margin as y. */
+    QPoint bottomRight() const { return d->bottomRight(); }
+    /** What the margins add to a width and to a height. */
+    QSize totalMarginWH() const { return d->totalMarginWH(); }
+    bool allNull() const { return d->allNull(); }
+
+private:
+    QExplicitlySharedDataPointer<const PxMarginsImpl> d;
+};

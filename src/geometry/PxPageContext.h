@@ -1,0 +1,30 @@
+#pragma once
+
+#include "values/PxPageType.h"
+
+#include <PxPageAlignment.h>
+
+/** Which kind of page is meant, and on which side of a spread. */
+class PXPRODUCTPROPERTIES_EXPORT PxPageContext
+{
+public:
+    /** A normal page on the left. */
+    PxPageContext();
+    PxPageContext(const PxPageType &pageType, const PxPageAlignment &alignment);
+
+    PxPageType pageType() const { return m_pageType; }
+    PxPageAlignment alignment() const { return m_alignment; }
+    /** Is exactly this page type, or this set of them; a shared bit is not enough. */
+    bool isPageType(const PxPageType &pageType) const { return m_pageType == pageType; }
+    /** Shares a page type and an alignment. */
+    bool matchesWith(const PxPageContext &other) const;
+
+    bool operator==(const PxPageContext &other) const;
+    bool operator!=(const PxPageContext &other) const { return !(*this == other); }
+    /** By page type, then by alignment. */
+    bool operator<(const PxPageContext &other) const;
+
+private:
+    PxPageType m_pageType;
+    PxPageAlignment m_alignment;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "PxProductPropertiesExport.h"
+
+/** Two pages that change places, and how their content is turned, when the product is rotated. */
+class PXPRODUCTPROPERTIES_EXPORT PxPageRotationRedirect
+{
+public:
+    PxPageRotationRedirect() = default;
+    PxPageRotationRedirect(int sourcePageNr, int targetPageNr, int angleInvert);
+
+    int sourcePageNr() const { return m_sourcePageNr; }
+    int targetPageNr() const { return m_targetPageNr; }
+    int angleInvert() const { return m_angleInvert; }
+
+    bool operator==(const PxPageRotationRedirect &other) const;
+    bool operator!=(const PxPageRotationRedirect &other) const { return !(*this == other); }
+
+private:
+    int m_sourcePageNr = 0;
+    int m_targetPageNr = 0;
+    int m_angleInvert = 0;
+};

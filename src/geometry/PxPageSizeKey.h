@@ -1,0 +1,30 @@
+#pragma once
+
+#include "geometry/PxPageContext.h"
+
+/** Under which page sizes are looked up: a kind of page in a product of so many pages. */
+class PXPRODUCTPROPERTIES_EXPORT PxPageSizeKey
+{
+public:
+    /** A normal page on the left, with any page count. */
+    PxPageSizeKey() = default;
+    PxPageSizeKey(const PxPageContext &pageContext, int pageCount);
+
+    PxPageContext pageContext() const { return m_pageContext; }
+    PxPageType pageType() const { return m_pageContext.pageType(); }
+    PxPageAlignment alignment() const { return m_pageContext.alignment(); }
+    /** -1 for any page count. */
+    int pageCount() const { return m_pageCount; }
+
+    bool operator==(const PxPageSizeKey &other) const;
+    bool operator!=(const PxPageSizeKey &other) const { return !(*this == other); }
+    /**
+     * Between keys of different page counts the order of their contexts; false between keys of the
+     * same page count.
+     */
+    bool operator<(const PxPageSizeKey &other) const;
+
+private:
+    PxPageContext m_pageContext;
+    int m_pageCount = -1;
+};

@@ -1,0 +1,39 @@
+#include "geometry/PxPageSizeSpec.h"
+
+#include "geometry/PxClampedArithmetic.h"
+
+#include <QAtomicInteger>
+#include <QDebug>
+
+PxPageSizeSpec::PxPageSizeSpec(const QSize &usableSize, const PxMargins &bleedMargins,
+                               const PxMargins &safetyMargins, const PxOrientation &orientation,
+                               int horizontalClampExtra)
+    : m_usableSize(usableSize)
+    , m_bleedMargins(bleedMargins)
+    , m_safetyMargins(safetyMargins)
+    , m_orientation(orientation)
+    , m_horizontalClampExtra(horizontalClampExtra)
+{}
+
+PxPageSizeSpec::PxPageSizeSpec(const PxPageSizeSpec &other)
+    : m_usableSize(other.m_usableSize)
+    , m_bleedMargins(other.m_bleedMargins)
+    , m_safetyMargins(other.m_safetyMargins)
+    , m_orientation(other.m_orientation)
+    , m_horizontalClampExtra(other.m_horizontalClampExtra)
+{
+    // Unordered: it only counts, and copies are made in any thread.
+    static QAtomicInteger<quint32> ourCopies;
+    const quint32 copies = ourCopies.fetchAndAddRelaxed(1) + 1;
+    if (copies % 100 == 0)
+        QMessageLogger("PxPageSizeSpec", 45, Q_FUNC_INFO).debug() << "PxPageSizeSpec__CC"
+                                                                  << " counts " << copies;
+}
+
+PxPageSizeSpec &PxPageSizeSpec::operator=(const PxPageSizeSpec &other) = default;
+PxPageSizeSpec::~PxPageSizeSpec() = default;
+
+QSize PxPageSizeSpec::totalSize() const
+{
+    return pxClampedSum(m_usableSize, m_bleedMargins.totalMarginWH());
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "geometry/PxMargins.h"
+
+#include <PxOrientation.h>
+
+#include <QSize>
+
+/** The size of one kind of page and what surrounds it, in the unit of the product files. */
+class PXPRODUCTPROPERTIES_EXPORT PxPageSizeSpec
+{
+public:
+    PxPageSizeSpec(const QSize &usableSize, const PxMargins &bleedMargins,
+                   const PxMargins &safetyMargins, const PxOrientation &orientation,
+                   int horizontalClampExtra);
+    /** Every hundredth copy in the process is logged at debug level, to show how often they happen.
+     */
+    PxPageSizeSpec(const PxPageSizeSpec &other);
+    PxPageSizeSpec &operator=(const PxPageSizeSpec &other);
+    ~PxPageSizeSpec();
+
+    /** The page after trimming, without bleed. */
+    QSize usableSize() const { return m_usableSize; }
+    PxMargins bleedMargins() const { return m_bleedMargins; }
+    /** The inner margins that designs keep clear of. */
+    PxMargins safetyMargins() const { return m_safetyMargins; }
+    PxOrientation orientation() const { return m_orientation; }
+    /** The width that a clamp binding takes of this page; no part of any size. */
+    int horizontalClampExtra() const { return m_horizontalClampExtra; }
+
+    /** The usable size with the bleed on all sides. */
+    QSize totalSize() const;
+    /** Where the usable area starts in the total size. */
+    QPoint topLeftOffsetOfUsablePrintArea() const { return m_bleedMargins.topLeft(); }
+
+private:
+    QSize m_usableSize;
+    PxMargins m_bleedMargins;
+    PxMargins m_safetyMargins;
+    PxOrientation m_orientation;
+    int m_horizontalClampExtra;
+};

@@ -1,0 +1,14 @@
+#include "geometry/PxProductionExtraPage.h"
+
+PxProductionExtraPage::PxProductionExtraPage(const QString &filename, const QString &templateType,
+                                             int targetLayer)
+    : m_filename(filename)
+    , m_templateType(templateType)
+    , m_targetLayer(targetLayer)
+{}
+
+bool PxProductionExtraPage::operator==(const PxProductionExtraPage &other) const
+{
+    return m_filename == other.m_filename && m_templateType == other.m_templateType &&
+           m_targetLayer == other.m_targetLayer;
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "PxProductPropertiesExport.h"
+
+#include <QString>
+
+/** A ready-made PDF page that production inserts. */
+class PXPRODUCTPROPERTIES_EXPORT PxProductionExtraPage
+{
+public:
+    PxProductionExtraPage() = default;
+    PxProductionExtraPage(const QString &filename, const QString &templateType, int targetLayer);
+
+    QString filename() const { return m_filename; }
+    QString templateType() const { return m_templateType; }
+    /** The layer of the page that takes the content; 0 by default. */
+    int targetLayer() const { return m_targetLayer; }
+
+    bool operator==(const PxProductionExtraPage &other) const;
+    bool operator!=(const PxProductionExtraPage &other) const { return !(*this == other); }
+
+private:
+    QString m_filename;
+    QString m_templateType;
+    int m_targetLayer = 0;
+};

@@ -1,0 +1,27 @@
+#include "geometry/PxProductionExtraPageGroup.h"
+
+#include <PxListParts.h>
+#include <PxXMLParser.h>
+
+#include <QDomElement>
+
+namespace {
+
+PxProductionExtraPage readContent(const QDomElement &pdf)
+{
+    return PxProductionExtraPage(pdf.attribute(QStringLiteral("filename")),
+                                 pdf.attribute(QStringLiteral("type")),
+                                 PxXMLParser::intAttribute(pdf, QStringLiteral("layer"), 0));
+}
+
+} // namespace
+
+PxProductionExtraPageGroup::PxProductionExtraPageGroup(const QDomElement &item)
+    : m_targetPages(pxIntList(item.firstChildElement(QStringLiteral("target_pages")).text()))
+    , m_content(readContent(item.firstChildElement(QStringLiteral("pdf"))))
+{}
+
+bool PxProductionExtraPageGroup::operator==(const PxProductionExtraPageGroup &other) const
+{
+    return m_targetPages == other.m_targetPages && m_content == other.m_content;
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "geometry/PxProductionExtraPage.h"
+
+#include <QList>
+
+class QDomElement;
+
+/** One extra page and the positions at which production inserts it. */
+class PXPRODUCTPROPERTIES_EXPORT PxProductionExtraPageGroup
+{
+public:
+    PxProductionExtraPageGroup() = default;
+    /** Reads an "item" element: the numbers of "target_pages" and the "pdf". */
+    explicit PxProductionExtraPageGroup(const QDomElement &item);
+
+    /** In the order of the file, repeated ones kept. */
+    QList<int> targetPages() const { return m_targetPages; }
+    PxProductionExtraPage content() const { return m_content; }
+
+    bool operator==(const PxProductionExtraPageGroup &other) const;
+    bool operator!=(const PxProductionExtraPageGroup &other) const { return !(*this == other); }
+
+private:
+    QList<int> m_targetPages;
+    PxProductionExtraPage m_content;
+};

@@ -1,0 +1,54 @@
+#include "geometry/PxSurroundingDescription.h"
+
+#include <PxXMLParser.h>
+
+#include <QDomElement>
+
+PxSurroundingDescription::PxSurroundingDescription(const QDomElement &surrounding)
+    : m_surroundingType(EnumHelper::decodeKeyword(
+          surrounding.attribute(QStringLiteral("type"), QStringLiteral("book")),
+          EnumHelper::globalMapSurroundingTypeString,
+          EnumHelper::globalSurroundingTypeDefaultValue))
+    , m_pageTypes(surrounding.attribute(QStringLiteral("pageType"), QStringLiteral("all")))
+    , m_alignments(EnumHelper::decodeKeywordList(
+          surrounding.attribute(QStringLiteral("alignment"),
+                                QStringLiteral("left,right,top,bottom,center,middle")),
+          EnumHelper::globalMapPageAlignmentString, EnumHelper::globalPageAlignmentDefaultValue))
+    , m_pageNr(PxXMLParser::intAttribute(surrounding, QStringLiteral("pageNr"), -1))
+    , m_paintOnTop(PxXMLParser::boolAttribute(surrounding, QStringLiteral("paintOnTop"), true))
+    , m_image(surrounding.attribute(QStringLiteral("image")))
+    , m_imageRect(PxXMLParser::readRect(surrounding))
+    , m_hasBindingShade(
+          PxXMLParser::boolAttribute(surrounding, QStringLiteral("hasbindingshade"), false))
+{
+    if (m_surroundingType == PxSurroundingTypeFrame) {
+        m_pageTypes = PxPageTypeAll;
+        m_alignments = PxPageAlignmentAll;
+        m_pageNr = -1;
+    }
+}
+
+bool PxSurroundingDescription::isSuitable(const PxSurroundingKey &key) const
+{
+    return PxSurroundingKey(PxPageContext(m_pageTypes, m_alignments), m_pageNr).isOkayFor(key);
+}
+
+bool PxSurroundingDescription::operator==(const PxSurroundingDescription &other) const
+{
+    return m_surroundingType == other.m_surroundingType && m_pageTypes == other.m_pageTypes &&
+           m_alignments == other.m_alignments && m_pageNr == other.m_pageNr &&
+           m_paintOnTop == other.m_paintOnTop && m_image == other.m_image &&
+           m_imageRect == other.m_imageRect && m_hasBindingShade == other.m_hasBindingShade;
+}
+
+bool PxSurroundingDescription::operator<(const PxSurroundingDescription &other) const
+{
+    // No strict order: a later field counts even when an earlier one is greater.
+    return m_surroundingType < other.m_surroundingType || m_pageTypes < other.m_pageTypes ||
+           m_alignments < other.m_alignments || m_pageNr < other.m_pageNr ||
+           m_paintOnTop < other.m_paintOnTop || m_imageRect.top() < other.m_imageRect.top() ||
+           m_imageRect.left() < other.m_imageRect.left() ||
+           m_imageRect.bottom() < other.m_imageRect.bottom() ||
+           m_imageRect.right() < other.m_imageRect.right() ||
+           m_hasBindingShade < other.m_hasBindingShade || m_image < other.m_image;
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "geometry/PxSurroundingDescription.h"
+
+#include <QList>
+
+/** The surroundings of a product, in the order of its file. */
+class PXPRODUCTPROPERTIES_EXPORT PxSurroundingDescriptionList
+    : public QList<PxSurroundingDescription>
+{
+public:
+    PxSurroundingDescriptionList() = default;
+    /** Reads the "surrounding" children of every "surroundings" child of the product element. */
+    explicit PxSurroundingDescriptionList(const QDomElement &product);
+
+    /** The first one that is suitable for the page; an invalid one when none is. */
+    PxSurroundingDescription findDescription(const PxSurroundingKey &key) const;
+    bool hasSurroundingWithBindingShade() const;
+};
