@@ -1,0 +1,36 @@
+#pragma once
+
+#include "values/PxProductMaterial.h"
+
+#include <PxProductType.h>
+
+class QDomElement;
+
+/** The material and the size by which a product is grouped in the shop. */
+class PXPRODUCTPROPERTIES_EXPORT PxProductClassification
+{
+public:
+    /** Of no product: invalid. */
+    PxProductClassification() = default;
+    /** Reads "name", "classification" and "usablesize" of the product element. */
+    explicit PxProductClassification(const QDomElement &product);
+
+    /** The product type is known. */
+    bool isValid() const { return m_productType.isValid(); }
+
+    PxProductType productType() const { return m_productType; }
+    PxProductMaterial material() const { return m_material; }
+    /** Usable width times usable height, in square units of the product files; clamped to int. */
+    int areaSize() const { return m_areaSize; }
+    /** The size in centimetres when `metric`, else in inches, as the file writes it. */
+    QString sizeName(bool metric) const { return metric ? m_sizeNameCm : m_sizeNameInch; }
+    /** The same followed by a blank and the translated unit. */
+    QString sizeNameWithUnit(bool metric) const;
+
+private:
+    QString m_sizeNameCm;
+    QString m_sizeNameInch;
+    PxProductType m_productType;
+    PxProductMaterial m_material;
+    int m_areaSize = 0;
+};
