@@ -1,0 +1,13 @@
+#pragma once
+
+#include "themes/PxThematicCategory.h"
+
+#include <QList>
+
+/** Thematic categories in the order in which they are offered. */
+class PXPRODUCTPROPERTIES_EXPORT PxThematicCategoryList : public QList<PxThematicCategory>
+{
+public:
+    PxThematicCategoryList() = default;
+    PxThematicCategoryList(const QList<PxThematicCategory> &categories);
+};

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "themes/PxThematicCategory.h"
+
+#include <QSet>
+#include <QStringList>
+
+class QDomElement;
+
+/** The thematic categories that something belongs to. It may hold two spellings of one category. */
+class PXPRODUCTPROPERTIES_EXPORT PxThematicCategorySet : public QSet<PxThematicCategory>
+{
+public:
+    PxThematicCategorySet() = default;
+    explicit PxThematicCategorySet(const PxThematicCategory &category);
+    /** One category per name, without a visible name. */
+    explicit PxThematicCategorySet(const QStringList &names);
+
+    static PxThematicCategorySet createRecycleBinCategory();
+    /** All the special categories; the text of "show everything" is translated on the first call.
+     */
+    static PxThematicCategorySet specialCategories();
+    static PxThematicCategorySet allCategorySet();
+    /** One category per part of a comma-separated list, untrimmed; empty parts give none. */
+    static PxThematicCategorySet buildFromCSV(const QString &text);
+
+    bool isOnlyMultiColor() const;
+    bool containsAtLeastOne(const PxThematicCategorySet &other) const;
+    /** Every member is the favourites category or in `other`; true for an empty set. */
+    bool containsOnlyFavouritesAnd(const PxThematicCategorySet &other) const;
+    PxThematicCategorySet plusFavourites() const;
+    /**
+     * The category to show an item under: multicolour before any ordinary category, an ordinary one
+     * before a special one; an empty category for an empty set.
+     */
+    PxThematicCategory preferredCategory() const;
+    QStringList toDataStringList() const;
+    /** Appends one "subcategory" child per member. */
+    void toXml(QDomElement &parent) const;
+
+    void insertOnlyOnce(const PxThematicCategory &category);
+    /** Ignores a category without a name. */
+    void insertNonEmpty(const PxThematicCategory &category);
+};
+
+PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug, const PxThematicCategorySet &categories);
