@@ -1,0 +1,16 @@
+#pragma once
+
+/** What makes two products interchangeable beside orientation, spine and number of pages; flags. */
+enum PxProductComparationCriterion : int {
+    PxProductComparationNone = 0,
+    PxProductComparationBinding = 1,
+    PxProductComparationPaperType = 2,
+    PxProductComparationSpaceMagnitude = 4,
+    PxProductComparationPageIncrement = 8,
+};
+
+inline PxProductComparationCriterion operator|(PxProductComparationCriterion a,
+                                               PxProductComparationCriterion b)
+{
+    return static_cast<PxProductComparationCriterion>(int(a) | int(b));
+}

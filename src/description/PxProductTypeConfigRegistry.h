@@ -1,0 +1,91 @@
+#pragma once
+
+#include "classification/PxProductClassificationManager.h"
+#include "description/PxProductTypeDescription.h"
+
+#include <PxProductChecker.h>
+#include <PxProductTypeList.h>
+
+#include <QHash>
+#include <QSizeF>
+
+class QDir;
+
+/**
+ * The descriptions of all products of one directory, by product type.
+ *
+ * Created on first use, from any thread; then read-only, so that any thread may ask. A type without
+ * a product file is answered from a description with nothing but defaults, which is invalid.
+ */
+class PXPRODUCTPROPERTIES_EXPORT PxProductTypeConfigRegistry : public PxProductChecker
+{
+public:
+    explicit PxProductTypeConfigRegistry(const QDir &directory);
+    Q_DISABLE_COPY(PxProductTypeConfigRegistry)
+    /** Frees no description: those handed out stay usable until the process ends. */
+    ~PxProductTypeConfigRegistry() override;
+
+    /** The current products, of the resource directory "products". */
+    static PxProductTypeConfigRegistry *instance();
+    /** The products of earlier catalogues, of the resource directory "products/legacy". */
+    static PxProductTypeConfigRegistry *legacyInstance();
+
+    // As a product checker
+    /** The same as exists(). */
+    bool isValid(const PxProductType &type) const override;
+    int type() const override { return 4; }
+    int minPages(const PxProductType &type) const override;
+    int maxPages(const PxProductType &type) const override;
+    int pageIncrement(const PxProductType &type) const override;
+
+    /** Never null; owned by the registry. */
+    const PxProductTypeDescription *description(const PxProductType &type) const;
+    /** The type has a description, and that is valid. */
+    bool exists(const PxProductType &type) const;
+
+    // What the description of the type answers
+    PxProductType legacyProduct(const PxProductType &type) const;
+    PxOrientation orientation(const PxProductType &type) const;
+    PxBinding binding(const PxProductType &type) const;
+    PxPaperType paperType(const PxProductType &type) const;
+    PxSpaceMagnitude spaceMagnitude(const PxProductType &type) const;
+    QString variantDescription(const PxProductType &type) const;
+    QStringList variants(const PxProductType &type) const;
+    PxThematicCategorySet allowedBackgroundCategories(const PxProductType &type) const;
+    bool limitBackgroundCategories(const PxProductType &type) const;
+    bool fullBackgroundOnEachPage(const PxProductType &type) const;
+    int explicitNumberOfNormalPages(const PxProductType &type) const;
+    PxPageTypeList pageTypes(const PxProductType &type, int pageCount) const;
+    bool horizontalPages(const PxProductType &type) const;
+    PxPageAlignment pageAlignment(const PxProductType &type, int page) const;
+    QList<int> productionNumberingList(const PxProductType &type, int pageCount) const;
+    QSizeF usablePrintSize(const PxProductType &type, const PxPageType &pageType,
+                           int pageCount) const;
+    PxPageSizeSpec sizeSpec(const PxProductType &type, const PxPageSizeKey &key) const;
+    PxBarcode barcodeOnPage(const PxProductType &type, int page, int pageCount) const;
+
+    // Across products
+    /** The current product that replaces a legacy one; type 0 when none does. */
+    PxProductType findProductForLegacy(const PxProductType &legacy) const;
+    /** The products on offer that are interchangeable with the type, itself included. */
+    PxProductTypeList findCompatibleProducts(const PxProductType &type,
+                                             PxProductComparationCriterion criterion) const;
+    /** The classifications of the products of a class. (The name is the one applications use.) */
+    PxProductClassificationManager createProductClassifationManager(
+        const PxProductClass &productClass) const;
+
+    // Computed for one product
+    /** The file names of the pages in the order in which production numbers them. */
+    QStringList sortPageFileNameListInInternOrder(const PxProductType &type,
+                                                  const QStringList &fileNames) const;
+    /** The size of a text that reads well on a page of the product, in points. */
+    int suitablePointSize(const PxProductType &type) const;
+    /** A normal page, or a double page of a book unless `singlePage`. */
+    QSizeF usablePrintSizeForBackgroundTemplate(const PxProductType &type, bool singlePage) const;
+    /** Width by height of the same; 0.0 when the height is 0 or less. */
+    double backgroundRatio(const PxProductType &type, bool singlePage) const;
+
+private:
+    QHash<PxProductType, PxProductTypeDescription *> m_descriptions;
+    PxProductTypeDescription *m_defaultDescription;
+};

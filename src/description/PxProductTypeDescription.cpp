@@ -1,0 +1,288 @@
+#include "description/PxProductTypeDescription.h"
+
+#include "geometry/PxClampedArithmetic.h"
+
+#include <PxDirectoryConfig.h>
+#include <PxListParts.h>
+#include <PxXMLLoader.h>
+#include <PxXMLParser.h>
+
+#include <QDir>
+#include <QDomElement>
+#include <QFileInfo>
+
+namespace {
+
+PxBleedMargin createBleedMargin(const QDomElement &product, const QString &common,
+                                const QString &horizontal, const QString &vertical)
+{
+    const int bleed = PxXMLParser::intAttribute(product, common, 0);
+    return PxBleedMargin(PxXMLParser::intAttribute(product, horizontal, bleed),
+                         PxXMLParser::intAttribute(product, vertical, bleed));
+}
+
+QList<int> decodeIntList(const QDomElement &element)
+{
+    return pxIntList(element.text());
+}
+
+} // namespace
+
+PxProductTypeDescription::PxProductTypeDescription() = default;
+
+PxProductTypeDescription::PxProductTypeDescription(const QDomElement &product)
+    : m_classification(product)
+{
+    readCounts(product);
+    readImageFX(product);
+    m_assemblyWay = EnumHelper::decodeKeywordList(product.attribute(QStringLiteral("assemblyWay")),
+                                                  EnumHelper::globalMapAssemblyWayString,
+                                                  EnumHelper::globalAssemblyWayDefaultValue);
+    m_binding = PxBinding(product.attribute(QStringLiteral("binding")));
+    m_paperType = PxPaperType(product.attribute(QStringLiteral("paper")));
+    readJigTypes(product);
+    readFlags(product);
+    readCardAlignment(product);
+
+    m_surroundings = PxSurroundingDescriptionList(product);
+    m_rotationRedirects =
+        PxPageRotationRedirectList(product.firstChildElement(QStringLiteral("rotationredirects")));
+    m_contentDropRedirects =
+        PxContentDropRedirectList(product.firstChildElement(QStringLiteral("contentredirects")));
+    m_defaultTemplates.applyDefaultsNode(product.firstChildElement(QStringLiteral("defaults")));
+    readUserDefaults(product.attribute(QStringLiteral("name")));
+    m_barcodes = PxBarcodeList(product.firstChildElement(QStringLiteral("barcodes")));
+    readVariants(product.firstChildElement(QStringLiteral("variants")));
+    m_productionNumberingPages =
+        decodeIntList(product.firstChildElement(QStringLiteral("productionnumbering")));
+    m_pagesWithContent =
+        decodeIntList(product.firstChildElement(QStringLiteral("pageswithcontent")));
+    m_pageNamingStyle = EnumHelper::decodeKeywordList(
+        product.attribute(QStringLiteral("pageNamingStyle")),
+        EnumHelper::globalMapPageNamingStyleString, EnumHelper::globalPageNamingStyleDefaultValue);
+    const QDomElement pages = product.firstChildElement(QStringLiteral("pages"));
+    if (!pages.isNull())
+        m_pageTypes = PxPageTypeList(pages.text());
+
+    initPageSizes(product);
+    m_hasSpine = m_pageTypes.contains(PxPageType(PxPageTypeSpine));
+    initPageNumbering(product.firstChildElement(QStringLiteral("pageNumberConfig")));
+    initBackgroundCategories(product);
+    m_extraProductionPages = PxProductionExtraPageGroupList(
+        product.firstChildElement(QStringLiteral("extra_production_pages")));
+    m_foldMargin = decodeFoldMargin(product);
+    m_legacyProduct =
+        PxProductType(PxXMLParser::attribute(product, QStringLiteral("legacy"), QString(), true));
+}
+
+void PxProductTypeDescription::setJigTypeFlag(const PxJigType &jigType, bool isSupported)
+{
+    if (isSupported)
+        m_jigTypes |= jigType;
+    else
+        m_jigTypes.exclude(jigType);
+}
+
+void PxProductTypeDescription::updateDefaultUserTemplatesMap(const QDomElement &defaults)
+{
+    m_userDefaultTemplates.applyDefaultsNode(defaults);
+}
+
+void PxProductTypeDescription::readCounts(const QDomElement &product)
+{
+    static const struct
+    {
+        QString attribute;
+        int PxProductTypeDescription::*member;
+    } counts[] = {
+        {QStringLiteral("safetymargin"), &PxProductTypeDescription::m_safetyMargin},
+        {QStringLiteral("defaultSellingPages"), &PxProductTypeDescription::m_defaultSellingPages},
+        {QStringLiteral("numOfProducts"), &PxProductTypeDescription::m_explicitNumberOfProducts},
+        {QStringLiteral("numOfNormalPages"),
+         &PxProductTypeDescription::m_explicitNumberOfNormalPages},
+        {QStringLiteral("normalpagehorizontalclamp"),
+         &PxProductTypeDescription::m_normalPageHorizontalClamp},
+        {QStringLiteral("numOfSpirals"), &PxProductTypeDescription::m_numberOfSpiralLoops},
+        {QStringLiteral("editorStartDoublePage"),
+         &PxProductTypeDescription::m_editorStartDoublePage},
+    };
+    for (const auto &row : counts)
+        this->*row.member = PxXMLParser::intAttribute(product, row.attribute, this->*row.member);
+    m_safetyMargins = PxMargins(m_safetyMargin, m_safetyMargin, m_safetyMargin, m_safetyMargin);
+}
+
+void PxProductTypeDescription::readImageFX(const QDomElement &product)
+{
+    m_imageFX = EnumHelper::decodeKeywordList(product.attribute(QStringLiteral("imageFXs")),
+                                              EnumHelper::globalMapImageFXsString,
+                                              EnumHelper::globalImageFXsDefaultValue);
+}
+
+void PxProductTypeDescription::readJigTypes(const QDomElement &product)
+{
+    static const struct
+    {
+        QString attribute;
+        PxJigTypeEnum jigType;
+    } jigTypes[] = {
+        {QStringLiteral("hasContentCategoryComboBox"), PxJigTypeContent},
+        {QStringLiteral("showLayoutTab"), PxJigTypeLayout},
+        {QStringLiteral("canHaveFading"), PxJigTypePassepartout},
+        {QStringLiteral("canHaveClipart"), PxJigTypeClipart},
+        {QStringLiteral("canHaveBackground"), PxJigTypeBackground},
+    };
+    for (const auto &row : jigTypes)
+        setJigTypeFlag(row.jigType, PxXMLParser::boolAttribute(product, row.attribute, true));
+}
+
+void PxProductTypeDescription::readFlags(const QDomElement &product)
+{
+    static const struct
+    {
+        QString attribute;
+        bool PxProductTypeDescription::*member;
+    } flags[] = {
+        {QStringLiteral("hasAssistant"), &PxProductTypeDescription::m_hasAssistant},
+        {QStringLiteral("horizontalPages"), &PxProductTypeDescription::m_horizontalPages},
+        {QStringLiteral("hasHook"), &PxProductTypeDescription::m_hasHook},
+        {QStringLiteral("hasHole"), &PxProductTypeDescription::m_hasHole},
+        {QStringLiteral("hasLogoOnSpine"), &PxProductTypeDescription::m_mustPaintVemoLogoOnSpine},
+    };
+    for (const auto &row : flags)
+        this->*row.member = PxXMLParser::boolAttribute(product, row.attribute, this->*row.member);
+}
+
+void PxProductTypeDescription::readCardAlignment(const QDomElement &product)
+{
+    static const struct
+    {
+        QString attribute;
+        CardAlignment alignment;
+    } alignments[] = {
+        {QStringLiteral("cardStyleAlignment"), CardAlignment::CardStyle},
+        {QStringLiteral("varioSingleCardStyleAlignment"), CardAlignment::VarioSingleCardStyle},
+        {QStringLiteral("collegeBlockStyleAlignment"), CardAlignment::CollegeBlockStyle},
+    };
+    for (const auto &row : alignments) {
+        if (PxXMLParser::boolAttribute(product, row.attribute, false)) {
+            m_cardAlignment = row.alignment;
+            return;
+        }
+    }
+}
+
+void PxProductTypeDescription::readUserDefaults(const QString &productName)
+{
+    // A product file may hold any name; it shall not lead out of the directory.
+    const QString directory = QDir::cleanPath(PxDirectoryConfig::instance()->userDefaultsPath());
+    const QString path = directory + QLatin1Char('/') + productName + QLatin1String(".xml");
+    if (!QDir::cleanPath(path).startsWith(directory + QLatin1Char('/')))
+        return;
+    const QFileInfo file(path);
+    if (!file.exists())
+        return;
+    const QDomDocument document = PxXMLLoader::loadDocument(file);
+    updateDefaultUserTemplatesMap(
+        document.firstChild().firstChildElement(QStringLiteral("defaults")));
+}
+
+void PxProductTypeDescription::readVariants(const QDomElement &variants)
+{
+    m_variantDescription = variants.attribute(QStringLiteral("type"));
+    for (QDomElement e = variants.firstChildElement(); !e.isNull(); e = e.nextSiblingElement())
+        m_variants.append(e.text());
+}
+
+void PxProductTypeDescription::initPageSizes(const QDomElement &product)
+{
+    m_bleedMarginNormal = createBleedMargin(product, QStringLiteral("bleedmargin"),
+                                            QStringLiteral("bleedmarginhorizontal"),
+                                            QStringLiteral("bleedmarginvertical"));
+    m_bleedMarginCover = createBleedMargin(product, QStringLiteral("bleedmargincover"),
+                                           QStringLiteral("bleedmargincoverhorizontal"),
+                                           QStringLiteral("bleedmargincoververtical"));
+    initSpineData(product.firstChildElement(QStringLiteral("spines")));
+
+    const QDomElement usableSize = product.firstChildElement(QStringLiteral("usablesize"));
+    if (!usableSize.isNull())
+        m_usableSize = PxXMLParser::readSize(usableSize);
+    m_coverExtraVertical =
+        PxXMLParser::intAttribute(product, QStringLiteral("coverextravertical"), 0);
+    m_coverExtraHorizontal =
+        PxXMLParser::intAttribute(product, QStringLiteral("coverextrahorizontal"), 0);
+
+    const QString orientation = QStringLiteral("orientation");
+    m_orientation = PxOrientation(usableSize.attribute(orientation));
+    if (m_orientation.isNull())
+        m_orientation = PxOrientation(product.attribute(orientation), QSizeF(m_usableSize));
+
+    const QString space = QStringLiteral("space");
+    const QString spaceOfSize = usableSize.attribute(space);
+    m_spaceMagnitude =
+        PxSpaceMagnitude(spaceOfSize.isEmpty() ? product.attribute(space) : spaceOfSize);
+
+    adjustSpineWidth();
+}
+
+void PxProductTypeDescription::initSpineData(const QDomElement &spines)
+{
+    const QString tag = QStringLiteral("spine");
+    for (QDomElement e = spines.firstChildElement(tag); !e.isNull(); e = e.nextSiblingElement(tag))
+        m_spines.insert(PxXMLParser::intAttribute(e, QStringLiteral("pages"), 0),
+                        PxProductTypeDescriptionSpineData(e));
+}
+
+void PxProductTypeDescription::adjustSpineWidth()
+{
+    if (!m_classification.productType().isBook() || spineWidth(minPages()) <= 0)
+        return;
+    // The spine gains on the cover what the two halves of the cover give up.
+    for (PxProductTypeDescriptionSpineData &spine : m_spines)
+        spine.considerExtraCoverWidth(20);
+    m_coverExtraHorizontal = pxClampedSum(m_coverExtraHorizontal, -10);
+}
+
+void PxProductTypeDescription::initPageNumbering(const QDomElement &pageNumberConfig)
+{
+    const QDomElement margin = pageNumberConfig.firstChildElement(QStringLiteral("margin"));
+    m_pageNumberVerticalIndent = PxXMLParser::intAttribute(margin, QStringLiteral("verticalMargin"),
+                                                           m_pageNumberVerticalIndent);
+    m_pageNumberHorizontalIndent = PxXMLParser::intAttribute(
+        margin, QStringLiteral("horizontalMargin"), m_pageNumberHorizontalIndent);
+    const QDomElement font = pageNumberConfig.firstChildElement(QStringLiteral("font"));
+    m_pageNumberFontSize =
+        PxXMLParser::intAttribute(font, QStringLiteral("fontSize"), m_pageNumberFontSize);
+}
+
+void PxProductTypeDescription::initBackgroundCategories(const QDomElement &product)
+{
+    const PxProductType type = m_classification.productType();
+    m_fullBackgroundOnEachPage =
+        PxXMLParser::boolAttribute(product, QStringLiteral("fullBackgroundOnEachPage"),
+                                   type.isCalendar() || type.isGift() || type.isCard());
+    m_allowedBackgroundCategories = PxThematicCategorySet(
+        product
+            .attribute(QStringLiteral("coverBackgroundCategories"),
+                       type.isDeko() ? QStringLiteral("Einfarbig") : QString())
+            .split(QLatin1Char(','), Qt::SkipEmptyParts));
+}
+
+int PxProductTypeDescription::decodeFoldMargin(const QDomElement &product) const
+{
+    const int foldMargin = PxXMLParser::intAttribute(product, QStringLiteral("foldmargin"), -1);
+    if (foldMargin != -1)
+        return foldMargin;
+    if (!m_surroundings.hasSurroundingWithBindingShade() || !m_usableSize.isValid())
+        return 0;
+    // The part of a page's width that the binding of this product line hides.
+    switch (m_orientation.value()) {
+    case PxOrientationPortrait:
+        return int(m_usableSize.width() * 0.053659);
+    case PxOrientationLandscape:
+        return int(m_usableSize.width() * 0.040741);
+    case PxOrientationQuadratic:
+        return int(m_usableSize.width() * 0.044878);
+    default:
+        return 0;
+    }
+}

@@ -1,0 +1,242 @@
+// The answers that are computed from the record; PxProductTypeDescription.cpp reads it.
+
+#include "description/PxProductTypeDescription.h"
+
+#include "geometry/PxClampedArithmetic.h"
+
+#include <QDebug>
+
+bool PxProductTypeDescription::isValid() const
+{
+    return m_binding.isValid() && m_orientation.isValid() && m_usableSize.isValid();
+}
+
+bool PxProductTypeDescription::isCompatible(const PxProductTypeDescription &other,
+                                            PxProductComparationCriterion criterion) const
+{
+    const auto mustAgree = [criterion](PxProductComparationCriterion property) {
+        return (criterion & property) != 0;
+    };
+    if (m_orientation != other.m_orientation || m_hasSpine != other.m_hasSpine ||
+        countAbstractPages() != other.countAbstractPages())
+        return false;
+    if (mustAgree(PxProductComparationBinding) && m_binding != other.m_binding)
+        return false;
+    if (mustAgree(PxProductComparationSpaceMagnitude) && m_spaceMagnitude != other.m_spaceMagnitude)
+        return false;
+    if (mustAgree(PxProductComparationPaperType) && m_paperType != other.m_paperType)
+        return false;
+    return !mustAgree(PxProductComparationPageIncrement) ||
+           pageIncrement() == other.pageIncrement();
+}
+
+bool PxProductTypeDescription::supportsJigType(const PxJigType &jigType) const
+{
+    return m_jigTypes.matches(jigType.value());
+}
+
+PxThematicCategorySet PxProductTypeDescription::allowedBackgroundCategories() const
+{
+    return m_allowedBackgroundCategories;
+}
+
+QString PxProductTypeDescription::findDefaultTemplate(const PxDefaultTemplateKey &key,
+                                                      bool useFallback, bool useUserDefaults) const
+{
+    if (useUserDefaults) {
+        const QString choice = m_userDefaultTemplates.findTemplate(key, false);
+        if (!choice.isEmpty())
+            return choice;
+    }
+    return m_defaultTemplates.findTemplate(key, useFallback);
+}
+
+int PxProductTypeDescription::minPages() const
+{
+    return m_spines.isEmpty() ? std::numeric_limits<int>::max() : m_spines.firstKey();
+}
+
+int PxProductTypeDescription::maxPages() const
+{
+    return m_spines.isEmpty() ? std::numeric_limits<int>::min() : m_spines.lastKey();
+}
+
+int PxProductTypeDescription::pageIncrement() const
+{
+    if (m_spines.size() < 3)
+        return std::numeric_limits<int>::min();
+    // Not the step to the last page count: that one may be irregular.
+    const auto last = std::prev(m_spines.constEnd());
+    const auto secondLast = std::prev(last);
+    const auto thirdLast = std::prev(secondLast);
+    return pxClampedInt(qint64(secondLast.key()) - thirdLast.key());
+}
+
+bool PxProductTypeDescription::hasCover() const
+{
+    return hasPages() && m_pageTypes.constFirst().matches(PxPageTypeCover);
+}
+
+PxPageTypeList PxProductTypeDescription::pageTypes(int pageCount) const
+{
+    PxPageTypeList pageTypes;
+    for (const PxPageType &pageType : m_pageTypes) {
+        switch (pageType.value()) {
+        case PxPageTypeNone:
+            QMessageLogger("PxProductTypeDescription", 459,
+                           "PxPageTypeList PxProductTypeDescription::pageTypes(int) const")
+                .warning("Illegaler Seitentyp in fotobook.xml");
+            break;
+        case PxPageTypeDuplexMonthCalendar:
+        case PxPageTypeSimplexYearCalendar:
+        case PxPageTypeNormalPages:
+        case PxPageTypeSimplexMonthCalendar:
+            for (int page = 0; page < pageCount; ++page)
+                pageTypes.append(PxPageTypeNormalPage);
+            break;
+        default:
+            pageTypes.append(pageType);
+        }
+    }
+    if (pageTypes.isEmpty())
+        pageTypes.append(PxPageTypeNormalPage);
+    return pageTypes;
+}
+
+PxPageAlignment PxProductTypeDescription::pageAlignment(int page) const
+{
+    const PxPageAlignment inner = m_horizontalPages ? PxPageAlignmentLeft : PxPageAlignmentTop;
+    const PxPageAlignment outer = m_horizontalPages ? PxPageAlignmentRight : PxPageAlignmentBottom;
+    const bool isOdd = (page & 1) != 0;
+    if (isSimplex()) {
+        switch (m_cardAlignment) {
+        case CardAlignment::None:
+            return outer;
+        case CardAlignment::VarioSingleCardStyle:
+            return PxPageAlignmentMiddle;
+        case CardAlignment::CardStyle:
+        case CardAlignment::CollegeBlockStyle:
+            return isOdd ? outer : inner;
+        }
+    }
+    if (!m_hasSpine)
+        return isOdd ? outer : inner;
+    if (page == 1) // the spine itself
+        return m_horizontalPages ? PxPageAlignmentMiddle : PxPageAlignmentCenter;
+    return isOdd || page == 0 ? inner : outer;
+}
+
+QList<int> PxProductTypeDescription::productionNumberingList(int pageCount) const
+{
+    QList<int> numbers = m_productionNumberingPages.mid(0, qMax(0, pageCount));
+    if (pageCount > 0 && numbers.isEmpty())
+        numbers.append(1);
+    while (numbers.size() < pageCount)
+        numbers.append(pxClampedSum(numbers.constLast(), 1));
+    return numbers;
+}
+
+bool PxProductTypeDescription::contentAllowedOnPage(int page) const
+{
+    return m_pagesWithContent.isEmpty() || m_pagesWithContent.contains(page);
+}
+
+int PxProductTypeDescription::contentDropRedirect(int page) const
+{
+    return m_contentDropRedirects.targetPage(page);
+}
+
+PxPageRotationRedirectList PxProductTypeDescription::rotationRedirectForSourcePage(int page) const
+{
+    return m_rotationRedirects.filterBySourcePage(page);
+}
+
+PxPageRotationRedirectList PxProductTypeDescription::rotationRedirectForTargetPage(int page) const
+{
+    return m_rotationRedirects.filterByTargetPage(page);
+}
+
+QSize PxProductTypeDescription::coverSize() const
+{
+    return pxClampedSum(m_usableSize, QSize(m_coverExtraHorizontal, m_coverExtraVertical));
+}
+
+QSize PxProductTypeDescription::usablePrintSize(const PxPageType &pageType, int pageCount) const
+{
+    switch (pageType.value()) {
+    case PxPageTypeFullCover:
+    case PxPageTypeClampCoverFront:
+    case PxPageTypeClampCoverBack:
+    case PxPageTypeCromolinen:
+    case PxPageTypeLeather:
+    case PxPageTypeArtificialLeather:
+        return coverSize();
+    case PxPageTypeSpine:
+        if (pageCount == -1)
+            QMessageLogger("PxProductTypeDescription", 264,
+                           "QSize PxProductTypeDescription::usablePrintSize(const PxPageType&, "
+                           "int) const")
+                .warning("Fehler PxProductTypeDescription::usablePrintSize wurde mit dem "
+                         "Buchrücken aufgerufen ohne das eine Seitenanzahl angegeben wurde!");
+        return QSize(spineWidth(pageCount), coverSize().height());
+    default:
+        return m_usableSize;
+    }
+}
+
+PxPageSizeSpec PxProductTypeDescription::sizeSpec(const PxPageSizeKey &key) const
+{
+    return PxPageSizeSpec(usablePrintSize(key.pageType(), key.pageCount()),
+                          bleedMargins(key.pageContext(), key.pageCount()), m_safetyMargins,
+                          m_orientation, clampExtra(key.pageType()));
+}
+
+PxMargins PxProductTypeDescription::bleedMargins(const PxPageContext &page, int pageCount) const
+{
+    const PxPageType pageType = page.pageType();
+    const bool isCover = pageType.matches(PxPageTypeCover);
+    const PxBleedMargin &bleed = isCover ? m_bleedMarginCover : m_bleedMarginNormal;
+    const int v = bleed.vertical();
+    const int h = bleed.horizontal();
+    if (pageType.matches(PxPageTypeSpine))
+        return PxMargins(v, v, 0, 0);
+    // No bleed at the inner edge, where the page is bound.
+    if (pageCount > 1 && !hasCardStyleAlignment()) {
+        if (page.alignment() == PxPageAlignmentLeft)
+            return PxMargins(v, v, h, 0);
+        if (page.alignment() == PxPageAlignmentRight)
+            return PxMargins(v, v, 0, h);
+    }
+    return PxMargins(v, v, h, h);
+}
+
+int PxProductTypeDescription::clampExtra(const PxPageType &pageType) const
+{
+    return pageType.matches(PxPageTypeNormalPage) ? m_normalPageHorizontalClamp : 0;
+}
+
+int PxProductTypeDescription::spineWidth(int pageCount) const
+{
+    return m_spines.value(pageCount).width();
+}
+
+int PxProductTypeDescription::spineMaxFontHeight(int pageCount) const
+{
+    return m_spines.value(pageCount).maxFontHeight();
+}
+
+PxSurroundingDescription PxProductTypeDescription::findSurrounding(
+    const PxSurroundingKey &key) const
+{
+    return m_surroundings.findDescription(key);
+}
+
+PxBarcode PxProductTypeDescription::barcodeOnPage(int page, int pageCount) const
+{
+    return m_barcodes.barcodeOnPage(page, pageCount);
+}
+
+PxProductionExtraPageGroupList PxProductTypeDescription::extraProductionContents() const
+{
+    return m_extraProductionPages;
+}

@@ -1,0 +1,64 @@
+#include "description/PxProductTypeDescriptionReader.h"
+
+#include "description/PxProductTypeDescription.h"
+
+#include <PxXMLLoader.h>
+#include <PxXMLParser.h>
+
+#include <QDebug>
+#include <QDomElement>
+#include <QFileInfo>
+
+#include <utility>
+
+PxProductTypeDescriptionReader::PxProductTypeDescriptionReader(const QDir &directory)
+    : m_directory(directory)
+{}
+
+PxProductTypeDescriptionReader::PxProductTypeDescriptionReader(
+    const PxProductTypeDescriptionReader &other) = default;
+PxProductTypeDescriptionReader &PxProductTypeDescriptionReader::operator=(
+    const PxProductTypeDescriptionReader &other) = default;
+PxProductTypeDescriptionReader::~PxProductTypeDescriptionReader() = default;
+
+QStringList PxProductTypeDescriptionReader::fileFilter()
+{
+    return {QStringLiteral("*.xml")};
+}
+
+QHash<PxProductType, PxProductTypeDescription *> PxProductTypeDescriptionReader::readDir()
+{
+    QHash<PxProductType, PxProductTypeDescription *> descriptions;
+    descriptions.reserve(1000);
+    const QFileInfoList files =
+        m_directory.entryInfoList(fileFilter(), QDir::Files, QDir::Unsorted);
+    for (const QFileInfo &file : files) {
+        const auto [type, description] = readFile(file);
+        // What nobody will ever be given is freed: an unknown product, an earlier file's product.
+        if (type.isValid())
+            delete std::exchange(descriptions[type], description);
+        else
+            delete description;
+    }
+    return descriptions;
+}
+
+QPair<PxProductType, PxProductTypeDescription *> PxProductTypeDescriptionReader::readFile(
+    const QFileInfo &file)
+{
+    QString error;
+    const QDomElement root = PxXMLLoader::loadDocumentElement(file, &error);
+    if (root.isNull()) {
+        QMessageLogger("PxProductTypeDescriptionReader", 78,
+                       "QPair<PxProductType, PxProductTypeDescription*> "
+                       "PxProductTypeDescriptionReader::readFile(const QFileInfo&)")
+                .warning()
+            << "PxProductTypeDescriptionReader::readFile could not open" << file.absoluteFilePath();
+        qDebug().noquote() << error; // the reason, for the author of the file
+        return qMakePair(PxProductType(), static_cast<PxProductTypeDescription *>(nullptr));
+    }
+    const QDomElement product = root.firstChildElement(QStringLiteral("product"));
+    const PxProductType type(
+        PxXMLParser::attribute(product, QStringLiteral("name"), QString(), true));
+    return qMakePair(type, new PxProductTypeDescription(product));
+}
