@@ -6,9 +6,10 @@
 /**
  * Answers the object that `instance` points to, and creates it when it is first asked for.
  *
- * From several threads it is created once, under `mutex`, and published when it is complete. Both
- * loads acquire: also the thread that lost the race sees all that `create` has written. The object
- * lives until the process ends. Both arguments are function-local statics of the caller.
+ * From several threads it is created once, under `mutex`, and published when it is complete: the
+ * pointer alone tells a reader that all is there, locked or not. The object lives until the process
+ * ends. Pointer and mutex are function-local statics of the caller. `create` runs under the lock
+ * and must not ask for the same instance.
  */
 template <typename T, typename Create>
 T *pxCreateOnce(QAtomicPointer<T> &instance, QMutex &mutex, Create create)

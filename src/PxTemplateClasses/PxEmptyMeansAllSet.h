@@ -2,8 +2,6 @@
 
 #include <QSet>
 
-#include <algorithm>
-
 /** A set of admitted values, in which the empty set admits every value. */
 template <typename T>
 class PxEmptyMeansAllSet : public QSet<T>
@@ -19,7 +17,6 @@ public:
     /** Has an element in common; "every value" counts for nothing here. */
     bool sharesRealKeysWith(const PxEmptyMeansAllSet<T> &other) const
     {
-        return std::any_of(other.cbegin(), other.cend(),
-                           [this](const T &key) { return this->contains(key); });
+        return this->intersects(other);
     }
 };

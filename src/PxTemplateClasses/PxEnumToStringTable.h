@@ -54,6 +54,7 @@ public:
      */
     ENUM decodeCSV(const QString &keywords) const
     {
+        const char *const function = Q_FUNC_INFO; // of this function, not of the lambda
         int flags = 0;
         pxForEachPart(keywords, [&](QStringView part) {
             const QString keyword = part.toString();
@@ -61,7 +62,7 @@ public:
             if (value == undecodable) {
                 value = m_defaultValue;
                 if (!keywords.isEmpty())
-                    reportUndecodable(keyword);
+                    reportUndecodable(keyword, function);
             }
             flags |= value;
         });
@@ -82,7 +83,8 @@ public:
     QStringList encodeAsList(ENUM value) const
     {
         QStringList keywords;
-        for (ENUM bit : splitEnumType(value))
+        const QList<ENUM> bits = splitEnumType(value);
+        for (ENUM bit : bits)
             keywords.append(encode(bit));
         return keywords;
     }
@@ -98,9 +100,9 @@ private:
     // The sign bit alone: no keyword can stand for it, for it splits into no bits.
     static constexpr ENUM undecodable = static_cast<ENUM>(std::numeric_limits<int>::min());
 
-    void reportUndecodable(const QString &keyword) const
+    static void reportUndecodable(const QString &keyword, const char *function)
     {
-        QMessageLogger("../PxTemplateClasses/PxEnumToStringTable", 161, Q_FUNC_INFO).debug()
+        QMessageLogger("../PxTemplateClasses/PxEnumToStringTable", 161, function).debug()
             << "undecodable: (using default in " << typeid(ENUM).name() << ")" << keyword;
     }
 

@@ -28,34 +28,37 @@ public:
     virtual bool operator>(const PxEnumWrapper &other) const { return m_value > other.m_value; }
     virtual bool operator==(const PxEnumWrapper &other) const { return m_value == other.m_value; }
     virtual bool operator!=(const PxEnumWrapper &other) const { return m_value != other.m_value; }
-    virtual PxEnumWrapper &operator|=(const PxEnumWrapper &other) { return assign(*this | other); }
-    virtual PxEnumWrapper &operator&=(const PxEnumWrapper &other) { return assign(*this & other); }
+    virtual PxEnumWrapper &operator|=(const PxEnumWrapper &other)
+    {
+        return assign(m_value | other.m_value);
+    }
+    virtual PxEnumWrapper &operator&=(const PxEnumWrapper &other)
+    {
+        return assign(m_value & other.m_value);
+    }
     virtual ENUM operator&(const PxEnumWrapper &other) const
     {
-        return static_cast<ENUM>(int(m_value) & int(other.m_value));
+        return static_cast<ENUM>(m_value & other.m_value);
     }
     virtual ENUM operator|(const PxEnumWrapper &other) const
     {
-        return static_cast<ENUM>(int(m_value) | int(other.m_value));
+        return static_cast<ENUM>(m_value | other.m_value);
     }
     /** Clears the bits of the other value. */
-    virtual PxEnumWrapper &exclude(const PxEnumWrapper &other) { return exclude(other.m_value); }
-    virtual PxEnumWrapper &exclude(ENUM bits)
+    virtual PxEnumWrapper &exclude(const PxEnumWrapper &other)
     {
-        return assign(static_cast<ENUM>(int(m_value) & ~int(bits)));
+        return assign(m_value & ~other.m_value);
     }
+    virtual PxEnumWrapper &exclude(ENUM bits) { return assign(m_value & ~bits); }
     /** Sets the given bits. */
-    virtual PxEnumWrapper &expandedTo(ENUM bits)
-    {
-        return assign(static_cast<ENUM>(int(m_value) | int(bits)));
-    }
+    virtual PxEnumWrapper &expandedTo(ENUM bits) { return assign(m_value | bits); }
     virtual bool isValid() const { return !isNull(); }
     /** Inserts the keywords and sets the defaults of the enumeration. Called once in a process. */
     virtual void fillTable(PxEnumToStringTable<ENUM> *table) const = 0;
 
     ENUM value() const { return m_value; }
     /** Shares at least one bit. */
-    bool matches(ENUM bits) const { return (int(m_value) & int(bits)) != 0; }
+    bool matches(ENUM bits) const { return (m_value & bits) != 0; }
     /** Is exactly this value. */
     bool hasValue(const ENUM &value) const { return m_value == value; }
     bool isNull() const { return m_value == 0; }
@@ -73,9 +76,9 @@ public:
     PxEnumToStringTable<ENUM> *enumToStringTable() const;
 
 private:
-    PxEnumWrapper &assign(ENUM value)
+    PxEnumWrapper &assign(int value)
     {
-        m_value = value;
+        m_value = static_cast<ENUM>(value);
         return *this;
     }
 

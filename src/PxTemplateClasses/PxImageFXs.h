@@ -11,14 +11,14 @@ enum PxImageFXs : int {
 
 namespace EnumHelper {
 
-inline constexpr PxKeyword<PxImageFXs> globalImageFXsKeywords[] = {
-    {"grayscale", PxImageFXsGrayscale},
-    {"none", PxImageFXsNone},
-    {"preserve_alpha_channel", PxImageFXsPreserveAlphaChannel},
-};
-
-inline const QHash<QString, PxImageFXs> globalMapImageFXsString =
-    keywordMap(globalImageFXsKeywords);
+inline const QHash<QString, PxImageFXs> globalMapImageFXsString = [] {
+    constexpr PxKeyword<PxImageFXs> keywords[] = {
+        {"grayscale", PxImageFXsGrayscale},
+        {"none", PxImageFXsNone},
+        {"preserve_alpha_channel", PxImageFXsPreserveAlphaChannel},
+    };
+    return keywordMap(keywords);
+}();
 inline const QString globalImageFXsDefaultKey = QStringLiteral("none");
 inline constexpr PxImageFXs globalImageFXsDefaultValue = PxImageFXsNone;
 

@@ -5,6 +5,8 @@
 #include <QHash>
 #include <QString>
 
+#include <cstddef>
+
 /** One row of a keyword table: a keyword of the files, in ASCII, and the value it stands for. */
 template <typename ENUM>
 struct PxKeyword

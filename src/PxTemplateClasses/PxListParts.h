@@ -35,7 +35,7 @@ inline QList<int> pxIntList(const QString &text)
     QList<int> numbers;
     pxForEachPart(text, [&numbers](QStringView part) {
         bool isNumber = false;
-        const int number = part.toString().toInt(&isNumber);
+        const int number = part.toInt(&isNumber);
         if (isNumber)
             numbers.append(number);
     });

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QMap>
+
+#include <cstddef>
 
 /**
  * Display texts by key: an ordered table with a default for what it does not hold.
@@ -12,6 +15,13 @@ class PxLookUpTable
 {
 public:
     void insert(K key, const V &value) { m_map.insert(key, value); }
+    /** Rows of a `value` and a `text`, which is translated in the context now. */
+    template <typename ROW, std::size_t COUNT>
+    void insertTranslated(const char *context, const ROW (&rows)[COUNT])
+    {
+        for (const ROW &row : rows)
+            insert(row.value, QCoreApplication::translate(context, row.text));
+    }
     void setDefaults(K key, const V &value)
     {
         m_defaultKey = key;

@@ -43,7 +43,8 @@ inline constexpr PxPageAlignment globalPageAlignmentDefaultValue = PxPageAlignme
 /**
  * The alignments of a comma-separated list, one per part and in its order, in any case.
  *
- * A part that is no keyword, an empty one too, gives the default alignment.
+ * A part that is no keyword, an empty one too, gives the default alignment. For applications; the
+ * library itself needs only the union of such a list.
  */
 inline QList<PxPageAlignment> decodePageAlignmentAsList(const QString &alignments)
 {

@@ -18,8 +18,7 @@ template <std::size_t COUNT>
 const PxLookUpTable<PxBindingEnum, QString> *createTable(const BindingText (&rows)[COUNT])
 {
     auto *table = new PxLookUpTable<PxBindingEnum, QString>;
-    for (const BindingText &row : rows)
-        table->insert(row.value, QCoreApplication::translate("PxBinding", row.text));
+    table->insertTranslated("PxBinding", rows);
     table->setDefaults(static_cast<PxBindingEnum>(0),
                        QCoreApplication::translate("PxBinding", unknownBinding));
     return table;
@@ -78,7 +77,7 @@ PxBinding::~PxBinding() = default;
 
 PxBinding PxBinding::createFromHumanReadable(const QString &name)
 {
-    // Binding names are ASCII, and so are the Latin-1 bytes that the catalogues are asked with.
+    // Latin-1 bytes, which the translation reads as UTF-8: right for ASCII, and so for our names.
     const QString translated =
         QCoreApplication::translate("PxBinding", name.toLatin1().constData());
     return bindingNames()->findByValue(translated);

@@ -19,8 +19,7 @@ enum PxBindingEnum : int {
     PxBindingCalendarOnePage = 1024,
     PxBindingCalendarAnnualDuplex = 2048,
     PxBindingGift = 4096,
-    // The annual duplex planner hangs on the wall like the other two: its pages are laid out as
-    // theirs.
+    // With the annual duplex planner: applications lay its pages out as those of the other two.
     PxBindingAllSimplex =
         PxBindingCalendarSimplex | PxBindingCalendarOnePage | PxBindingCalendarAnnualDuplex,
     PxBindingAllFullCover = PxBindingHardcover | PxBindingSoftcover | PxBindingBooklet,
@@ -33,17 +32,21 @@ class PXPRODUCTPROPERTIES_EXPORT PxBinding : public PxEnumWrapper<PxBindingEnum>
 public:
     PxBinding() = default;
     PxBinding(PxBindingEnum value) : PxEnumWrapper(value) {}
-    /** From a keyword list; a text that is no keyword gives GIFT. */
-    explicit PxBinding(const QString &keywords);
+    /** From a keyword list; what is no keyword adds GIFT. */
+    PxBinding(const QString &keywords);
     PxBinding(const PxBinding &other);
     PxBinding &operator=(const PxBinding &other);
     ~PxBinding() override;
 
-    /** The binding with this display name, in German or translated; value 0 for any other text. */
+    /**
+     * The binding with this display name, in German or translated; value 0 for any other text.
+     *
+     * Only names that ASCII can spell are found, as all the German ones are.
+     */
     static PxBinding createFromHumanReadable(const QString &name);
 
     bool isSimplex() const { return matches(PxBindingAllSimplex); }
-    /** Has a cover that is one sheet around the book. */
+    /** Hardcover, softcover or booklet. */
     bool isFullCover() const { return matches(PxBindingAllFullCover); }
     bool isClampCover() const { return matches(PxBindingClamp); }
 

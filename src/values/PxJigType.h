@@ -22,7 +22,7 @@ public:
     PxJigType() = default;
     PxJigType(PxJigTypeEnum value) : PxEnumWrapper(value) {}
     /** From a keyword list; a text that is no keyword adds nothing. */
-    explicit PxJigType(const QString &keywords);
+    PxJigType(const QString &keywords);
     PxJigType(const PxJigType &other);
     PxJigType &operator=(const PxJigType &other);
     ~PxJigType() override;

@@ -23,7 +23,7 @@ void PxPageType::expandTo(const QString &keywords)
 
 void PxPageType::fillTable(PxEnumToStringTable<PxPageTypeEnum> *table) const
 {
-    // The misspelt "calender…" keywords come first: files in use are written with them.
+    // The misspelt "calender…" keywords come first, so that they are the ones written back.
     constexpr PxKeyword<PxPageTypeEnum> keywords[] = {
         {"clampcoverfront", PxPageTypeClampCoverFront},
         {"clampcoverback", PxPageTypeClampCoverBack},

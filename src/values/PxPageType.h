@@ -9,7 +9,7 @@ enum PxPageTypeEnum : int {
     PxPageTypeSpine = 0x1,
     PxPageTypeClampCoverFront = 0x2,
     PxPageTypeClampCoverBack = 0x4,
-    PxPageTypeFoilCover = 0x8, // front and back are one sheet, printed alike
+    PxPageTypeFoilCover = 0x8, // front and back alike
     PxPageTypeNormalPage = 0x10,
     PxPageTypeEmptyPage = 0x20,
     PxPageTypeFullCover = 0x40,
@@ -38,7 +38,7 @@ public:
     PxPageType() = default;
     PxPageType(PxPageTypeEnum value) : PxEnumWrapper(value) {}
     /** From a keyword list; a text that is no keyword adds nothing. */
-    explicit PxPageType(const QString &keywords);
+    PxPageType(const QString &keywords);
     PxPageType(const PxPageType &other);
     PxPageType &operator=(const PxPageType &other);
     ~PxPageType() override;

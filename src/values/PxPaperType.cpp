@@ -21,8 +21,7 @@ const PxLookUpTable<PxPaperType, QString> *initPaperTypeNames()
         {PxPaperTypeFotoPaperGlossy, QT_TRANSLATE_NOOP("PxPaperType", "Fotopapier glänzend")},
     };
     auto *table = new PxLookUpTable<PxPaperType, QString>;
-    for (const auto &row : names)
-        table->insert(row.value, QCoreApplication::translate("PxPaperType", row.text));
+    table->insertTranslated("PxPaperType", names);
     table->setDefaults(PxPaperTypeIndigo,
                        QCoreApplication::translate("PxPaperType", "unbekannter Papiertyp"));
     return table;

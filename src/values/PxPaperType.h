@@ -21,8 +21,8 @@ class PXPRODUCTPROPERTIES_EXPORT PxPaperType : public PxEnumWrapper<PxPaperTypeE
 public:
     PxPaperType() = default;
     PxPaperType(PxPaperTypeEnum value) : PxEnumWrapper(value) {}
-    /** From a keyword list; a text that is no keyword gives "indigo". */
-    explicit PxPaperType(const QString &keywords);
+    /** From a keyword list; what is no keyword adds "indigo". */
+    PxPaperType(const QString &keywords);
     PxPaperType(const PxPaperType &other);
     PxPaperType &operator=(const PxPaperType &other);
     ~PxPaperType() override;

@@ -12,7 +12,7 @@ PxProductMaterial::~PxProductMaterial() = default;
 QString PxProductMaterial::visibleDescription() const
 {
     // clang-format off
-    constexpr struct { const char *material; const char *text; } descriptions[] = {
+    constexpr struct { const char *value; const char *text; } descriptions[] = {
         {"Poster", QT_TRANSLATE_NOOP("PxProductMaterial", "Poster-Collage")},
         {"Deko-Poster", QT_TRANSLATE_NOOP("PxProductMaterial", "Poster-Collage")},
         {"Leinwand", QT_TRANSLATE_NOOP("PxProductMaterial", "Fotoleinwand")},
@@ -29,8 +29,6 @@ QString PxProductMaterial::visibleDescription() const
     // clang-format on
     // Built anew each time: lists show few materials, and the language may have changed meanwhile.
     PxLookUpTable<QString, QString> table;
-    for (const auto &row : descriptions)
-        table.insert(QString::fromLatin1(row.material),
-                     QCoreApplication::translate("PxProductMaterial", row.text));
+    table.insertTranslated("PxProductMaterial", descriptions);
     return table.findByKey(m_value);
 }

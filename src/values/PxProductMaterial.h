@@ -9,7 +9,7 @@ class PXPRODUCTPROPERTIES_EXPORT PxProductMaterial
 {
 public:
     PxProductMaterial() = default;
-    explicit PxProductMaterial(const QString &value);
+    PxProductMaterial(const QString &value);
     PxProductMaterial(const PxProductMaterial &other);
     PxProductMaterial &operator=(const PxProductMaterial &other);
     virtual ~PxProductMaterial();

@@ -23,8 +23,7 @@ const PxLookUpTable<PxSpaceMagnitude, QString> *initNames()
         {PxSpaceMagnitude1200, QT_TRANSLATE_NOOP("PxSpaceMagnitude", "XXL")},
     };
     auto *table = new PxLookUpTable<PxSpaceMagnitude, QString>;
-    for (const auto &row : names)
-        table->insert(row.value, QCoreApplication::translate("PxSpaceMagnitude", row.text));
+    table->insertTranslated("PxSpaceMagnitude", names);
     table->setDefaults(PxSpaceMagnitudeUnknown,
                        QCoreApplication::translate("PxSpaceMagnitude", "Undefiniert"));
     return table;

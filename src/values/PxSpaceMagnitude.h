@@ -27,8 +27,8 @@ class PXPRODUCTPROPERTIES_EXPORT PxSpaceMagnitude : public PxEnumWrapper<PxSpace
 public:
     PxSpaceMagnitude() = default;
     PxSpaceMagnitude(PxSpaceMagnitudeEnum value) : PxEnumWrapper(value) {}
-    /** From a keyword list; a text that is no keyword gives any size. */
-    explicit PxSpaceMagnitude(const QString &keywords);
+    /** From a keyword list; what is no keyword adds every size. */
+    PxSpaceMagnitude(const QString &keywords);
     PxSpaceMagnitude(const PxSpaceMagnitude &other);
     PxSpaceMagnitude &operator=(const PxSpaceMagnitude &other);
     ~PxSpaceMagnitude() override;
