@@ -30,7 +30,8 @@ public:
     /**
      * The product of a material whose area comes closest to that of `type`, the first of equals.
      *
-     * A product that is not classified counts as area 0. Type 0 when the material has no product.
+     * A product that is not classified counts as area 0. Type 0 when the material has no product
+     * whose area is less than 1000000000 away.
      */
     PxProductType closestProduct(const PxProductType &type, const QString &materialName) const;
 

@@ -1,7 +1,5 @@
 #include "geometry/PxDefaultTemplateMap.h"
 
-#include "values/PxPageTypeList.h"
-
 #include <PxListParts.h>
 
 #include <QDomElement>
@@ -20,7 +18,7 @@ QString PxDefaultTemplateMap::findTemplate(const PxDefaultTemplateKey &key, bool
         return own;
     PxDefaultTemplateKey fallback = key;
     fallback.setDefaultTheme();
-    return findOwnTemplate(fallback);
+    return fallback == key ? own : findOwnTemplate(fallback);
 }
 
 void PxDefaultTemplateMap::applyDefaultsNode(const QDomElement &parent)
@@ -64,17 +62,19 @@ bool PxDefaultTemplateMap::Defaults::isFor(const PxPageContext &page) const
 PxDefaultTemplateMap::Defaults PxDefaultTemplateMap::readDefaults(const QDomElement &element)
 {
     Defaults defaults;
-    const PxPageTypeList pageTypes(element.attribute(QStringLiteral("pageType")));
-    for (const PxPageType &pageType : pageTypes) {
-        if (!defaults.pageTypes.contains(pageType.value()))
-            defaults.pageTypes.append(pageType.value());
-    }
+    // One part at a time: however long the list, there are few kinds of page.
+    const QString pageTypes = element.attribute(QStringLiteral("pageType"));
+    pxForEachPart(pageTypes, [&defaults](QStringView part) {
+        const PxPageTypeEnum pageType = PxPageType(part.trimmed().toString()).value();
+        if (!defaults.pageTypes.contains(pageType))
+            defaults.pageTypes.append(pageType);
+    });
     defaults.alignments = EnumHelper::decodeKeywordList(
         element.attribute(QStringLiteral("alignment"),
                           QStringLiteral("left,right,top,bottom,center,middle")),
         EnumHelper::globalMapPageAlignmentString, EnumHelper::globalPageAlignmentDefaultValue);
 
-    // The short form: a background alone, or background and layout. More names tell nothing sure.
+    // The short form: a background, or background and layout. Of more names the first still counts.
     const QString shortForm = element.attribute(QStringLiteral("templates"));
     QStringView names[2];
     int count = 0;
@@ -95,10 +95,12 @@ PxDefaultTemplateMap::Defaults PxDefaultTemplateMap::readDefaults(const QDomElem
 
 QString PxDefaultTemplateMap::findOwnTemplate(const PxDefaultTemplateKey &key) const
 {
+    const int type = key.defaultTemplateType();
+    if (type != DefaultTemplateTypeLayout && type != DefaultTemplateTypeBackground)
+        return QString();
+    const PxPageContext page = key.pageContext();
     const QVector<int> ofTheme = m_defaultsOfTheme.value(key.theme());
-    const auto found = std::find_if(ofTheme.crbegin(), ofTheme.crend(), [&](int index) {
-        return m_defaults[index].isFor(key.pageContext());
-    });
-    return found == ofTheme.crend() ? QString()
-                                    : m_defaults[*found].templates[key.defaultTemplateType()];
+    const auto found = std::find_if(ofTheme.crbegin(), ofTheme.crend(),
+                                    [&](int index) { return m_defaults[index].isFor(page); });
+    return found == ofTheme.crend() ? QString() : m_defaults[*found].templates[type];
 }

@@ -28,7 +28,8 @@ public:
      */
     void applyDefaultsNode(const QDomElement &parent);
 
-    /** The text with ä, ö, ü and ß written as ae, oe, ue and ss; template names are ASCII. */
+    /** The text with lower-case ä, ö, ü and ß written as ae, oe, ue and ss, and all else as it is.
+     */
     static QString removeUmlauts(QString text);
 
 private:

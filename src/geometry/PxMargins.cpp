@@ -1,6 +1,11 @@
 #include "geometry/PxMargins.h"
 
-PxMargins::PxMargins() : d(new PxMarginsImpl) {}
+PxMargins::PxMargins()
+{
+    static const QExplicitlySharedDataPointer<const PxMarginsImpl> ourNullMargins(
+        new PxMarginsImpl);
+    d = ourNullMargins;
+}
 
 PxMargins::PxMargins(int top, int bottom, int left, int right)
     : d(new PxMarginsImpl(top, bottom, left, right))

@@ -36,7 +36,8 @@ bool PxPageConstraint::matches(const PxPageConstraint &other) const
 void PxPageConstraint::setPageTypes(const PxPageType &pageType)
 {
     m_pageTypes.clear();
-    for (PxPageTypeEnum bit : splitEnumType(pageType.value()))
+    const QList<PxPageTypeEnum> bits = splitEnumType(pageType.value());
+    for (PxPageTypeEnum bit : bits)
         m_pageTypes.insert(bit);
 }
 
@@ -53,7 +54,8 @@ void PxPageConstraint::setIntendetAlignment(const PxPageAlignment &alignment)
 
 void PxPageConstraint::addIntendetAlignment(const PxPageAlignment &alignment)
 {
-    for (PxPageAlignment bit : splitEnumType(alignment))
+    const QList<PxPageAlignment> bits = splitEnumType(alignment);
+    for (PxPageAlignment bit : bits)
         m_intendetAlignments.insert(bit);
 }
 

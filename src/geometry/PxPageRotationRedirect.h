@@ -2,7 +2,11 @@
 
 #include "PxProductPropertiesExport.h"
 
-/** Two pages that change places, and how their content is turned, when the product is rotated. */
+/**
+ * Where the content of a page goes, and how it is turned, when the product is rotated.
+ *
+ * Page numbers and angle are handed on as the product file states them.
+ */
 class PXPRODUCTPROPERTIES_EXPORT PxPageRotationRedirect
 {
 public:

@@ -12,6 +12,6 @@ bool PxPageSizeKey::operator==(const PxPageSizeKey &other) const
 
 bool PxPageSizeKey::operator<(const PxPageSizeKey &other) const
 {
-    // No strict order: the page count never decides. Do not sort by it.
+    // Not a strict order, and applications rely on it: the page count never decides.
     return m_pageCount != other.m_pageCount && m_pageContext < other.m_pageContext;
 }

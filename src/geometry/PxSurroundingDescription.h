@@ -18,7 +18,7 @@ public:
     /**
      * Reads a "surrounding" element.
      *
-     * A FRAME is for every page of any type and side, whatever its element says.
+     * A FRAME is for every ordinary page of any side, whatever its element says.
      */
     explicit PxSurroundingDescription(const QDomElement &surrounding);
 

@@ -20,6 +20,6 @@ bool PxSurroundingKey::operator==(const PxSurroundingKey &other) const
 
 bool PxSurroundingKey::operator<(const PxSurroundingKey &other) const
 {
-    // No strict order: the page index never decides. Do not sort by it.
+    // Not a strict order, and applications rely on it: the page index never decides.
     return m_pageIndex != other.m_pageIndex && m_pageContext < other.m_pageContext;
 }

@@ -83,9 +83,12 @@ PxThematicCategory PxThematicCategorySet::preferredCategory() const
         return PxThematicCategory();
     if (contains(PxThematicCategory::multiColor()))
         return PxThematicCategory::multiColor();
-    PxThematicCategorySet ordinary = *this;
-    ordinary.subtract(specialCategories());
-    return ordinary.isEmpty() ? *begin() : *ordinary.begin();
+    const PxThematicCategorySet special = specialCategories();
+    const auto ordinary =
+        std::find_if(begin(), end(), [&special](const PxThematicCategory &category) {
+            return !special.contains(category);
+        });
+    return ordinary == end() ? *begin() : *ordinary;
 }
 
 QStringList PxThematicCategorySet::toDataStringList() const
