@@ -22,9 +22,11 @@ public:
     const PxProductTypeDescription *description(const PxProductType &type) const;
     /** Pages lie side by side, not one above the other. */
     bool isHorizontal(const PxProductType &type) const;
+    /** The page after trimming, in the unit of the product files. */
     QSizeF usablePrintSize(const PxProductType &type, const PxPageType &pageType,
                            int pageCount) const;
-    /** The size of all the pages together, side by side or one above the other. */
+    /** All the pages together, side by side or one above the other; pages without a size are left
+     * out. */
     QSizeF usableSize(const PxProductType &type, int pageCount,
                       const QList<PxPageType> &pageTypes) const;
 

@@ -1,6 +1,7 @@
 #pragma once
 
-/** What makes two products interchangeable beside orientation, spine and number of pages; flags. */
+/** What makes two products interchangeable beside orientation, spine and length of the page list;
+ * flags. */
 enum PxProductComparationCriterion : int {
     PxProductComparationNone = 0,
     PxProductComparationBinding = 1,

@@ -129,9 +129,9 @@ PxProductTypeList PxProductTypeConfigRegistry::findCompatibleProducts(
     const PxProductTypeDescription *reference = description(type);
     PxProductTypeList compatible;
     for (auto it = m_descriptions.begin(); it != m_descriptions.end(); ++it) {
-        if (PxProductCheckerRegistry::instance()->isValid(it.key(), 0) &&
-            it.key().productClass() == type.productClass() &&
-            it.value()->isCompatible(*reference, criterion))
+        if (it.key().productClass() == type.productClass() &&
+            it.value()->isCompatible(*reference, criterion) &&
+            PxProductCheckerRegistry::instance()->isValid(it.key(), 0))
             compatible.append(it.key());
     }
     return compatible;
@@ -153,7 +153,8 @@ QStringList PxProductTypeConfigRegistry::sortPageFileNameListInInternOrder(
 {
     QVector<QPair<int, int>> positions;
     positions.reserve(fileNames.size());
-    for (int number : productionNumberingList(type, fileNames.size()))
+    const QList<int> numbers = productionNumberingList(type, fileNames.size());
+    for (int number : numbers)
         positions.append(qMakePair(number, positions.size()));
     std::sort(positions.begin(), positions.end());
 

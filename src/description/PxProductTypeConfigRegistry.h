@@ -14,25 +14,31 @@ class QDir;
 /**
  * The descriptions of all products of one directory, by product type.
  *
- * Created on first use, from any thread; then read-only, so that any thread may ask. A type without
- * a product file is answered from a description with nothing but defaults, which is invalid.
+ * Read-only once it is built, so that any thread may ask. A type without a product file is answered
+ * from a description with nothing but defaults, which is invalid.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxProductTypeConfigRegistry : public PxProductChecker
 {
 public:
+    /**
+     * Reads every product file of the directory, with a warning for each that cannot be read. A
+     * missing directory has no products.
+     */
     explicit PxProductTypeConfigRegistry(const QDir &directory);
     Q_DISABLE_COPY(PxProductTypeConfigRegistry)
     /** Frees no description: those handed out stay usable until the process ends. */
     ~PxProductTypeConfigRegistry() override;
 
-    /** The current products, of the resource directory "products". */
+    /** The current products, of the resource directory "products". Created on first use, from any
+     * thread. */
     static PxProductTypeConfigRegistry *instance();
-    /** The products of earlier catalogues, of the resource directory "products/legacy". */
+    /** The same for the products of earlier catalogues, of "products/legacy". */
     static PxProductTypeConfigRegistry *legacyInstance();
 
     // As a product checker
     /** The same as exists(). */
     bool isValid(const PxProductType &type) const override;
+    /** The kind by which the checker registry asks for this checker. */
     int type() const override { return 4; }
     int minPages(const PxProductType &type) const override;
     int maxPages(const PxProductType &type) const override;
@@ -80,7 +86,10 @@ public:
                                                   const QStringList &fileNames) const;
     /** The size of a text that reads well on a page of the product, in points. */
     int suitablePointSize(const PxProductType &type) const;
-    /** A normal page, or a double page of a book unless `singlePage`. */
+    /**
+     * A normal page, or, unless `singlePage`, the double page of a book whose pages lie side by
+     * side. Negative for a product without a size.
+     */
     QSizeF usablePrintSizeForBackgroundTemplate(const PxProductType &type, bool singlePage) const;
     /** Width by height of the same; 0.0 when the height is 0 or less. */
     double backgroundRatio(const PxProductType &type, bool singlePage) const;

@@ -7,6 +7,7 @@
 #include <PxXMLLoader.h>
 #include <PxXMLParser.h>
 
+#include <QDebug>
 #include <QDir>
 #include <QDomElement>
 #include <QFileInfo>
@@ -21,9 +22,17 @@ PxBleedMargin createBleedMargin(const QDomElement &product, const QString &commo
                          PxXMLParser::intAttribute(product, vertical, bleed));
 }
 
-QList<int> decodeIntList(const QDomElement &element)
+/** The numbers in the text of a child element. */
+QList<int> decodeIntList(const QDomElement &product, const QString &tag)
 {
-    return pxIntList(element.text());
+    return pxIntList(product.firstChildElement(tag).text());
+}
+
+template <typename ENUM>
+ENUM decodeKeywords(const QDomElement &product, const QString &attribute,
+                    const QHash<QString, ENUM> &map, ENUM fallback)
+{
+    return EnumHelper::decodeKeywordList(product.attribute(attribute), map, fallback);
 }
 
 } // namespace
@@ -34,10 +43,12 @@ PxProductTypeDescription::PxProductTypeDescription(const QDomElement &product)
     : m_classification(product)
 {
     readCounts(product);
-    readImageFX(product);
-    m_assemblyWay = EnumHelper::decodeKeywordList(product.attribute(QStringLiteral("assemblyWay")),
-                                                  EnumHelper::globalMapAssemblyWayString,
-                                                  EnumHelper::globalAssemblyWayDefaultValue);
+    m_imageFX = decodeKeywords(product, QStringLiteral("imageFXs"),
+                               EnumHelper::globalMapImageFXsString,
+                               EnumHelper::globalImageFXsDefaultValue);
+    m_assemblyWay = decodeKeywords(product, QStringLiteral("assemblyWay"),
+                                   EnumHelper::globalMapAssemblyWayString,
+                                   EnumHelper::globalAssemblyWayDefaultValue);
     m_binding = PxBinding(product.attribute(QStringLiteral("binding")));
     m_paperType = PxPaperType(product.attribute(QStringLiteral("paper")));
     readJigTypes(product);
@@ -53,16 +64,12 @@ PxProductTypeDescription::PxProductTypeDescription(const QDomElement &product)
     readUserDefaults(product.attribute(QStringLiteral("name")));
     m_barcodes = PxBarcodeList(product.firstChildElement(QStringLiteral("barcodes")));
     readVariants(product.firstChildElement(QStringLiteral("variants")));
-    m_productionNumberingPages =
-        decodeIntList(product.firstChildElement(QStringLiteral("productionnumbering")));
-    m_pagesWithContent =
-        decodeIntList(product.firstChildElement(QStringLiteral("pageswithcontent")));
-    m_pageNamingStyle = EnumHelper::decodeKeywordList(
-        product.attribute(QStringLiteral("pageNamingStyle")),
-        EnumHelper::globalMapPageNamingStyleString, EnumHelper::globalPageNamingStyleDefaultValue);
-    const QDomElement pages = product.firstChildElement(QStringLiteral("pages"));
-    if (!pages.isNull())
-        m_pageTypes = PxPageTypeList(pages.text());
+    m_productionNumberingPages = decodeIntList(product, QStringLiteral("productionnumbering"));
+    m_pagesWithContent = decodeIntList(product, QStringLiteral("pageswithcontent"));
+    m_pageNamingStyle = decodeKeywords(product, QStringLiteral("pageNamingStyle"),
+                                       EnumHelper::globalMapPageNamingStyleString,
+                                       EnumHelper::globalPageNamingStyleDefaultValue);
+    readPages(product.firstChildElement(QStringLiteral("pages")));
 
     initPageSizes(product);
     m_hasSpine = m_pageTypes.contains(PxPageType(PxPageTypeSpine));
@@ -109,13 +116,6 @@ void PxProductTypeDescription::readCounts(const QDomElement &product)
     for (const auto &row : counts)
         this->*row.member = PxXMLParser::intAttribute(product, row.attribute, this->*row.member);
     m_safetyMargins = PxMargins(m_safetyMargin, m_safetyMargin, m_safetyMargin, m_safetyMargin);
-}
-
-void PxProductTypeDescription::readImageFX(const QDomElement &product)
-{
-    m_imageFX = EnumHelper::decodeKeywordList(product.attribute(QStringLiteral("imageFXs")),
-                                              EnumHelper::globalMapImageFXsString,
-                                              EnumHelper::globalImageFXsDefaultValue);
 }
 
 void PxProductTypeDescription::readJigTypes(const QDomElement &product)
@@ -174,14 +174,13 @@ void PxProductTypeDescription::readCardAlignment(const QDomElement &product)
 void PxProductTypeDescription::readUserDefaults(const QString &productName)
 {
     // A product file may hold any name; it shall not lead out of the directory.
-    const QString directory = QDir::cleanPath(PxDirectoryConfig::instance()->userDefaultsPath());
-    const QString path = directory + QLatin1Char('/') + productName + QLatin1String(".xml");
-    if (!QDir::cleanPath(path).startsWith(directory + QLatin1Char('/')))
+    const QDir directory(PxDirectoryConfig::instance()->userDefaultsPath());
+    const QString name = QDir::cleanPath(productName + QLatin1String(".xml"));
+    if (name == QLatin1String("..") || name.startsWith(QLatin1String("../")))
         return;
-    const QFileInfo file(path);
-    if (!file.exists())
-        return;
-    const QDomDocument document = PxXMLLoader::loadDocument(file);
+    // A missing or damaged file is nothing to report: few users have defaults of their own.
+    const QDomDocument document =
+        PxXMLLoader::loadDocument(QFileInfo(directory.path() + QLatin1Char('/') + name));
     updateDefaultUserTemplatesMap(
         document.firstChild().firstChildElement(QStringLiteral("defaults")));
 }
@@ -191,6 +190,19 @@ void PxProductTypeDescription::readVariants(const QDomElement &variants)
     m_variantDescription = variants.attribute(QStringLiteral("type"));
     for (QDomElement e = variants.firstChildElement(); !e.isNull(); e = e.nextSiblingElement())
         m_variants.append(e.text());
+}
+
+void PxProductTypeDescription::readPages(const QDomElement &pages)
+{
+    if (pages.isNull())
+        return;
+    m_pageTypes = PxPageTypeList(pages.text());
+    // Each entry may stand for as many pages as the product has.
+    if (m_pageTypes.size() > maximumAbstractPages) {
+        qWarning() << "PxProductTypeDescription::readPages" << m_pageTypes.size()
+                   << "entries in \"pages\", used are the first" << maximumAbstractPages;
+        m_pageTypes = m_pageTypes.mid(0, maximumAbstractPages);
+    }
 }
 
 void PxProductTypeDescription::initPageSizes(const QDomElement &product)

@@ -32,9 +32,10 @@ class QDomElement;
 /**
  * Everything that is known about one product type, read once from its product file.
  *
- * Lengths are in the one unit that all product files share. Page numbers and page counts are taken
- * as the caller counts them. Reading never fails: what is missing has its default, what is broken
- * too. A record never changes after it was read, so that any thread may ask it.
+ * Lengths are in the one unit that all product files share. Page numbers count the pages of
+ * pageTypes() from 0, covers included; any int may be asked. Reading never fails: what is missing
+ * has its default, what is broken too. A record never changes after it was read, so that any thread
+ * may ask it.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxProductTypeDescription
 {
@@ -63,6 +64,7 @@ public:
     bool hasAssistant() const { return m_hasAssistant; }
     bool hasHook() const { return m_hasHook; }
     bool hasHole() const { return m_hasHole; }
+    /** Of a spiral binding; 0 for none. */
     int numberOfSpiralLoops() const { return m_numberOfSpiralLoops; }
     /** What the variants differ in. */
     QString variantDescription() const { return m_variantDescription; }
@@ -75,11 +77,14 @@ public:
                       PxProductComparationCriterion criterion) const;
 
     // Which design elements the editor offers for it
+    /** One of the given kinds. */
     bool supportsJigType(const PxJigType &jigType) const;
     bool hasContentCategoryBox() const { return m_jigTypes.matches(PxJigTypeContent); }
     /** The categories to which the cover's backgrounds are limited; empty for no limit. */
     PxThematicCategorySet allowedBackgroundCategories() const;
     bool limitBackgroundCategories() const { return !m_allowedBackgroundCategories.isEmpty(); }
+    /** A background fills each page, bleed included; by default so for calendars, gifts and cards.
+     */
     bool fullBackgroundOnEachPage() const { return m_fullBackgroundOnEachPage; }
     /**
      * The template that the editor puts on a new page; empty for none.
@@ -97,8 +102,9 @@ public:
     int maxPages() const;
     /** By how many pages the product grows at a time; the smallest int below three page counts. */
     int pageIncrement() const;
-    /** -1 for none. */
+    /** The page count that is offered first; -1 for none. */
     int defaultSellingPages() const { return m_defaultSellingPages; }
+    /** How many normal pages a product without spines has, 1 by default. */
     int explicitNumberOfNormalPages() const { return m_explicitNumberOfNormalPages; }
     /** How many entries the file's page list has; a range of pages is one. */
     int countAbstractPages() const { return m_pageTypes.size(); }
@@ -106,18 +112,26 @@ public:
     /** The first page is a cover. */
     bool hasCover() const;
     bool isSimplex() const { return m_binding.isSimplex(); }
-    /** The pages of a product of so many pages, in order; at least one. */
+    /**
+     * The pages of the product, in order and at least one; each range in the file's list stands for
+     * `pageCount` normal pages. An illegal entry is left out with a warning.
+     */
     PxPageTypeList pageTypes(int pageCount) const;
     PxPageNamingStyle pageNamingStyle() const { return m_pageNamingStyle; }
     /** Pages lie side by side, not one above the other. */
     bool horizontalPages() const { return m_horizontalPages; }
+    /** Only for the plain card style, not for single cards or college blocks. */
     bool hasCardStyleAlignment() const { return m_cardAlignment == CardAlignment::CardStyle; }
-    /** On which side of a spread a page lies. */
+    /** On which side of a spread a page lies. Page 1 of a product with a spine is the spine. */
     PxPageAlignment pageAlignment(int page) const;
     /** The double page with which the editor starts. */
     int editorStartDoublePage() const { return m_editorStartDoublePage; }
-    /** Where the pages are printed: exactly `pageCount` numbers, none for a negative count. */
+    /**
+     * The numbers that production gives the pages: those of the file, cut off or counted on from
+     * the last (from 1 without any) to exactly `pageCount`; none for 0 or less.
+     */
     QList<int> productionNumberingList(int pageCount) const;
+    /** Always so when the file does not list the pages. */
     bool contentAllowedOnPage(int page) const;
     /** Where content goes that is dropped on the page; the page itself by default. */
     int contentDropRedirect(int page) const;
@@ -127,7 +141,10 @@ public:
     // Sizes
     /** The usable size with the cover's extra width and height. */
     QSize coverSize() const;
-    /** The page after trimming. The spine's width needs a page count; -1 is any for all others. */
+    /**
+     * The page after trimming; the usable size for a union of page types, too. Only the spine needs
+     * a page count: it is 0 wide for one without a spine of its own, and -1 is reported.
+     */
     QSize usablePrintSize(const PxPageType &pageType, int pageCount) const;
     PxPageSizeSpec sizeSpec(const PxPageSizeKey &key) const;
     PxBleedMargin bleedMarginNormal() const { return m_bleedMarginNormal; }
@@ -139,8 +156,9 @@ public:
     PxMargins safetyMargins() const { return m_safetyMargins; }
     /** The part of a page that disappears in the fold. */
     int foldMargin() const { return m_foldMargin; }
+    /** The width that a clamp binding takes of a normal page. */
     int normalPageHorizontalClamp() const { return m_normalPageHorizontalClamp; }
-    /** The width that a clamp binding takes of this kind of page. */
+    /** The same for any kind of page: 0 for all but normal pages. */
     int clampExtra(const PxPageType &pageType) const;
 
     // Spine
@@ -156,25 +174,29 @@ public:
     /** Invalid when the page has none. */
     PxBarcode barcodeOnPage(int page, int pageCount) const;
     PxProductionExtraPageGroupList extraProductionContents() const;
+    /** Where page numbers are printed, 50 from the edges by default, and their size, 24. */
     double pageNumberHorizontalIndent() const { return m_pageNumberHorizontalIndent; }
     double pageNumberVerticalIndent() const { return m_pageNumberVerticalIndent; }
     int pageNumberFontSize() const { return m_pageNumberFontSize; }
 
     // Changes; for reading only, a record in the registry stays as it is
     void setJigTypeFlag(const PxJigType &jigType, bool isSupported);
-    /** Reads the user's own default templates from a "defaults" element. */
+    /** Adds the "defaults" children of the element to the user's own default templates. */
     void updateDefaultUserTemplatesMap(const QDomElement &defaults);
 
 private:
     /** Which rule other than that of a bound book tells the side of a page. */
     enum class CardAlignment { None, CardStyle, VarioSingleCardStyle, CollegeBlockStyle };
 
+    // Far more than a product has; real ones state ranges.
+    static constexpr int maximumAbstractPages = 1000;
+
     void readCounts(const QDomElement &product);
-    void readImageFX(const QDomElement &product);
     void readJigTypes(const QDomElement &product);
     void readFlags(const QDomElement &product);
     void readCardAlignment(const QDomElement &product);
     void readUserDefaults(const QString &productName);
+    void readPages(const QDomElement &pages);
     void readVariants(const QDomElement &variants);
     void initPageSizes(const QDomElement &product);
     void initSpineData(const QDomElement &spines);

@@ -6,6 +6,9 @@
 
 #include <QDebug>
 
+#include <iterator>
+#include <limits>
+
 bool PxProductTypeDescription::isValid() const
 {
     return m_binding.isValid() && m_orientation.isValid() && m_usableSize.isValid();

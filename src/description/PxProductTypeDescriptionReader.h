@@ -31,7 +31,10 @@ public:
      * be read, or whose product is unknown, are left out.
      */
     QHash<PxProductType, PxProductTypeDescription *> readDir();
-    /** Null, with a warning, when the file cannot be read. */
+    /**
+     * The type 0 and null, with a warning, when the file cannot be read; an invalid type beside a
+     * description when the file names no known product.
+     */
     QPair<PxProductType, PxProductTypeDescription *> readFile(const QFileInfo &file);
 
 private:
