@@ -1,0 +1,60 @@
+#include <PxElement.h>
+#include <geometry/PxPageConstraint.h>
+
+#include <QTest>
+
+class PxPageConstraintTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void setsSplitAndAddsDoNot();
+    void matchesWhatItSharesOrLeavesOpen();
+    void writesOneChildPerElement();
+};
+
+void PxPageConstraintTest::setsSplitAndAddsDoNot()
+{
+    PxPageConstraint constraint(PxPageTypeCover, PxPageAlignmentAll);
+    QCOMPARE(constraint.pageTypes().size(), 10);
+    QCOMPARE(constraint.intendetAlignments().size(), 7);
+    constraint.setPageTypes(PxPageTypeNone);
+    constraint.setIntendetAlignment(PxPageAlignmentTop);
+    QCOMPARE(constraint.intendetAlignments().size(), 1);
+    QVERIFY(constraint.isPageType(PxPageType())); // none set means all
+    constraint.addPageType(PxPageTypeCover);
+    QCOMPARE(constraint.pageTypes().size(), 1);
+    QVERIFY(constraint.isPageType(PxPageTypeSpine) && constraint.isPageType(PxPageTypeAll));
+    QVERIFY(!constraint.isPageType(PxPageTypeEmptyPage));
+}
+
+void PxPageConstraintTest::matchesWhatItSharesOrLeavesOpen()
+{
+    const PxPageConstraint open;
+    const PxPageConstraint left(PxPageTypeCover, PxPageAlignmentLeft);
+    const PxPageConstraint right(PxPageTypeSpine, PxPageAlignmentRight);
+    const PxPageConstraint spine(PxPageTypeSpine, PxPageAlignmentNone);
+    QVERIFY(open.matches(left) && left.matches(open));
+    QVERIFY(spine.matches(left) && right.matches(spine));
+    QVERIFY(!left.matches(right));
+    QVERIFY(!right.matches(PxPageConstraint(PxPageTypeFullCover, PxPageAlignmentRight)));
+}
+
+void PxPageConstraintTest::writesOneChildPerElement()
+{
+    PxPageConstraint constraint(PxPageTypeSpine, static_cast<PxPageAlignment>(16 + 64));
+    constraint.addPageType(static_cast<PxPageTypeEnum>(0x20 + 0x40));
+    QDomElement parent = pxElement("<template/>");
+    constraint.toXml(parent);
+    QStringList children; // in the order of the sets, which is open
+    for (QDomElement e = parent.firstChildElement(); !e.isNull(); e = e.nextSiblingElement())
+        children.append(pxXml(e));
+    children.sort();
+    QCOMPARE(children, QStringList({"<intendetAlignment>CENTER</intendetAlignment>",
+                                    "<intendetAlignment>TOP</intendetAlignment>",
+                                    "<pagetype>emptypage, fullcover</pagetype>",
+                                    "<pagetype>spine</pagetype>"}));
+}
+
+QTEST_GUILESS_MAIN(PxPageConstraintTest)
+#include "PxPageConstraintTest.moc"

@@ -1,0 +1,106 @@
+#include <PxDirectoryConfig.h>
+#include <PxLogRecorder.h>
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <thread>
+
+class PxDirectoryConfigTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    // The first to ask for the instance.
+    void isCreatedOnceByThreads();
+    void takesTheDirectoriesOfTheEnvironment();
+    void reportsWhatIsMissing();
+    void answersOneNameWithAPathOfItsOwn();
+    void fallsBackToTheInstalledResources();
+
+private:
+    QTemporaryDir m_root;
+};
+
+void PxDirectoryConfigTest::initTestCase()
+{
+    QVERIFY(QDir(m_root.path()).mkpath("first/shared"));
+    QVERIFY(QDir(m_root.path()).mkpath("second/shared"));
+    QVERIFY(QDir(m_root.path()).mkpath("second/products/legacy"));
+    QVERIFY(QDir::setCurrent(m_root.path()));
+    qputenv("PX_RESOURCE_DIRS", QFile::encodeName(":first/:" + m_root.filePath("second")));
+    qputenv("PX_USER_DEFAULTS_DIR", "own/../user");
+    qputenv("PX_THEMES_DIR", "themes");
+}
+
+void PxDirectoryConfigTest::isCreatedOnceByThreads()
+{
+    PxDirectoryConfig *instances[8] = {};
+    std::vector<std::thread> threads;
+    for (PxDirectoryConfig *&instance : instances)
+        threads.emplace_back([&instance] { instance = PxDirectoryConfig::instance(); });
+    for (std::thread &thread : threads)
+        thread.join();
+    for (PxDirectoryConfig *instance : instances)
+        QCOMPARE(instance, PxDirectoryConfig::instance());
+}
+
+void PxDirectoryConfigTest::takesTheDirectoriesOfTheEnvironment()
+{
+    const PxDirectoryConfig *config = PxDirectoryConfig::instance();
+    const QDir root = QDir::current();
+    QCOMPARE(config->resource("shared", true), root.filePath("first/shared"));
+    QCOMPARE(config->resource("products/legacy", true), m_root.filePath("second/products/legacy"));
+    QCOMPARE(config->resource("logo.png", false), root.filePath("first/logo.png"));
+    QCOMPARE(config->userDefaultsPath(), root.filePath("user"));
+    QCOMPARE(config->lumoThemesDirectory(false).path(), root.filePath("themes"));
+}
+
+void PxDirectoryConfigTest::reportsWhatIsMissing()
+{
+    const PxDirectoryConfig *config = PxDirectoryConfig::instance();
+    const PxLogRecorder log;
+    config->resource("logo.png", false);
+    config->lumoThemesDirectory(false);
+    QCOMPARE(log.texts(), QStringList());
+
+    config->resource("logo.png", true);
+    config->lumoThemesDirectory(true);
+    QCOMPARE(log.texts().size(), 2);
+    QCOMPARE(log.entries().first().level, QtWarningMsg);
+    for (const char *part : {"\"logo.png\"", "/first\"", "/second\""})
+        QVERIFY2(log.texts().first().contains(part), qPrintable(log.texts().first()));
+    QVERIFY(log.texts().last().contains("/themes"));
+}
+
+void PxDirectoryConfigTest::answersOneNameWithAPathOfItsOwn()
+{
+    PxDirectoryConfig *config = PxDirectoryConfig::instance();
+    const QString before = config->resource("products", false);
+    config->setResource("products", "elsewhere");
+    QCOMPARE(config->resource("products", false), QDir::current().filePath("elsewhere"));
+    QCOMPARE(config->resource("products/legacy", false), m_root.filePath("second/products/legacy"));
+    config->setResource("products", QString());
+    QCOMPARE(config->resource("products", false), before);
+}
+
+void PxDirectoryConfigTest::fallsBackToTheInstalledResources()
+{
+    PxDirectoryConfig *config = PxDirectoryConfig::instance();
+    config->setResourceDirectories({QString(), ""});
+    config->setThemesDirectory(QString());
+    config->setUserDefaultsPath(QString());
+    const QDir installed(
+        QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../share/PxProductProperties"));
+    QCOMPARE(config->resource("nothing.xml", false), installed.filePath("nothing.xml"));
+    QCOMPARE(config->lumoThemesDirectory(false).path(), installed.filePath("themes"));
+
+    // The application may get its name after the instance was created.
+    QCoreApplication::setApplicationName("Renamed");
+    QVERIFY2(config->userDefaultsPath().endsWith("/Renamed/defaults"),
+             qPrintable(config->userDefaultsPath()));
+}
+
+QTEST_GUILESS_MAIN(PxDirectoryConfigTest)
+#include "PxDirectoryConfigTest.moc"

@@ -1,0 +1,336 @@
+#include <PxElement.h>
+#include <PxXMLBuilder.h>
+#include <PxXMLLoader.h>
+
+#include <QDirIterator>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextCodec>
+#include <QThread>
+
+#include <sys/stat.h>
+
+class PxXMLLoaderTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void buildsTheTreeOfSetContent_data();
+    void buildsTheTreeOfSetContent();
+    void normalizesLineEnds();
+    void decodes_data();
+    void decodes();
+    void refusesMalformedText_data();
+    void refusesMalformedText();
+    void keepsTheLimits_data();
+    void keepsTheLimits();
+    void opensRegularFilesOnly();
+    void looksAtTheFileAnew();
+    void elementOutlivesItsDocument();
+    void needsLittleStack();
+
+private:
+    QFileInfo write(const QByteArray &xml) const;
+    QString path(const char *name) const { return m_directory.filePath(name); }
+
+    QTemporaryDir m_directory;
+};
+
+namespace {
+
+constexpr int maximumDepth = PxXMLLoader::maximumDepth;
+constexpr int maximumNodes = PxXMLLoader::maximumNodes;
+constexpr int maximumFileSize = PxXMLLoader::maximumFileSize;
+
+QByteArray nested(int depth, const QByteArray &content = QByteArray())
+{
+    return QByteArray("<a>").repeated(depth) + content + QByteArray("</a>").repeated(depth);
+}
+
+QByteArray tagWithAttributes(int count)
+{
+    QByteArray tag = "<a";
+    for (int i = 0; i < count; ++i)
+        tag += " a" + QByteArray::number(i) + (i % 2 ? " = '<!--\"'" : "=\">'\"");
+    return tag.replace("<!--", "--") + "/>";
+}
+
+/** A root with an element, a text, a CDATA section, a comment and an instruction, and more. */
+QByteArray withNodes(int count)
+{
+    return "<r>text<![CDATA[<]]><!----><?p?>" + QByteArray("<b/>").repeated(count - 5) + "</r>";
+}
+
+QByteArray ofSize(int size)
+{
+    return "<a>" + QByteArray(size - 7, 'x') + "</a>";
+}
+
+/** All that a tree holds, attributes in the order of their names, null told from empty. */
+QString description(const QDomNode &node)
+{
+    const auto text = [](const QString &t) { return t.isNull() ? "null" : '"' + t + '"'; };
+    const QDomDocumentType type = node.toDocument().doctype();
+    QString all = QString::number(node.nodeType()) + node.nodeName() + text(node.nodeValue()) +
+                  text(type.name()) + text(type.publicId()) + text(type.systemId());
+    QStringList attributes;
+    for (int i = 0; i < node.attributes().count(); ++i)
+        attributes.append(description(node.attributes().item(i)));
+    attributes.sort();
+    all += attributes.join(' ') + '{';
+    for (QDomNode n = node.firstChild(); !n.isNull(); n = n.nextSibling())
+        all += description(n);
+    return all + '}';
+}
+
+} // namespace
+
+void PxXMLLoaderTest::initTestCase()
+{
+    QVERIFY(QDir(m_directory.path()).mkdir("directory"));
+    QCOMPARE(mkfifo(QFile::encodeName(path("pipe")), 0600), 0);
+    QVERIFY(QFile::link(path("pipe"), path("link to pipe")));
+    QVERIFY(QFile::link(path("nowhere"), path("dead link")));
+}
+
+QFileInfo PxXMLLoaderTest::write(const QByteArray &xml) const
+{
+    QFile file(path("file.xml"));
+    if (!file.open(QIODevice::WriteOnly) || file.write(xml) != xml.size())
+        qFatal("cannot write the file of this test");
+    return QFileInfo(file.fileName());
+}
+
+void PxXMLLoaderTest::buildsTheTreeOfSetContent_data()
+{
+    QTest::addColumn<QByteArray>("xml");
+    // clang-format off
+    constexpr struct { const char *name; const char *xml; } rows[] = {
+        {"declaration", "<?xml version=\"1.0\" encoding='utf-8' standalone = 'no' ?>\n<a/>"},
+        {"standalone", "<?xml version='1.0' standalone='yes'?><a/>"},
+        {"around the root", "<?xml version='1.0'?><!--1--><?p d ?><!DOCTYPE a SYSTEM 'x[y>z'>\n"
+                            "<!--2--><a/><!-- standalone --><?q?>\n"},
+        {"document type", "<!DOCTYPE a><a/>"},
+        {"public document type", "<!DOCTYPE a PUBLIC \"-//x\" \"it's\"><a/>"},
+        {"texts", "<a> x&amp;y &#32;<b> \n\t</b><c>&#32;&#10;</c>]]&gt;<d>&#160;</d>z<!-- c -->"
+                  "\xC3\xA4<?p?>&#x41; </a>"},
+        {"CDATA", "<a> <![CDATA[<b c=\"&d;]] >]]> <![CDATA[]]>x<![CDATA[ ]]><![CDATA[y]]></a>"},
+        {"attributes", "<a b='' c = \"it's &lt;>&#10;\"\nd='&quot;&apos;&amp;'/>"},
+        {"prefixes", "<p:a xmlns:p='u' p:b='1' q:c='2'><q:d/></p:a>"},
+    };
+    // clang-format on
+    for (const auto &row : rows)
+        QTest::newRow(row.name) << QByteArray(row.xml);
+    QTest::newRow("long texts") << "<a b='" + QByteArray("01234567&amp;").repeated(9000) + "'>" +
+                                       QByteArray("01&lt;\xE2\x82\xAC").repeated(9000) + "</a>";
+    QDirIterator it(PX_SAMPLE_DIRECTORY, {"*.xml"}, QDir::Files, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        QFile file(it.next());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QTest::newRow(qPrintable(it.fileName())) << file.readAll();
+    }
+}
+
+void PxXMLLoaderTest::buildsTheTreeOfSetContent()
+{
+    QFETCH(QByteArray, xml);
+    QDomDocument expected;
+    QVERIFY(expected.setContent(xml, false));
+    QString error = "an earlier one";
+    const QDomDocument document = PxXMLLoader::loadDocument(write(xml), &error);
+    QCOMPARE(error, QString());
+    QCOMPARE(description(document), description(expected));
+}
+
+void PxXMLLoaderTest::normalizesLineEnds()
+{
+    const QDomElement element =
+        PxXMLLoader::loadDocumentElement(write("<a b='1\r\n2\t3&#13;'>x\r\ny&#13;</a>"));
+    QCOMPARE(element.attribute("b"), QString("1 2 3\r"));
+    QCOMPARE(element.text(), QString("x\ny\r"));
+}
+
+void PxXMLLoaderTest::decodes_data()
+{
+    QTest::addColumn<QByteArray>("encoding");
+    QTest::addColumn<bool>("hasMark");
+    QTest::addColumn<QString>("declared");
+    QTest::addColumn<QString>("error");
+    // clang-format off
+    constexpr struct { const char *encoding; bool hasMark; const char *declared; const char *error; } rows[] = {
+        {"UTF-8", true, "", ""},
+        {"UTF-8", false, "Utf8", ""},
+        {"UTF-8", false, "klingon", "1:1: the declared encoding is unknown"},
+        {"UTF-8", true, "ISO-8859-1", "1:1: the text is UTF-8, but declares the encoding 'ISO-8859-1'"},
+        {"UTF-16LE", true, "UTF-16", ""},
+        {"UTF-16BE", true, "", ""},
+        {"UTF-16BE", false, "utf-16", ""},
+        {"UTF-16LE", false, "", ""},
+        {"UTF-16LE", true, "UTF-8", "1:1: the text is UTF-16LE, but declares the encoding 'UTF-8'"},
+        {"ISO-8859-1", false, "iso-8859-1", ""},
+        {"ISO-8859-1", false, "", "2:7: the text is no valid UTF-8"},
+    };
+    // clang-format on
+    for (const auto &row : rows)
+        QTest::addRow("%s, %d, %s", row.encoding, row.hasMark, row.declared)
+            << QByteArray(row.encoding) << row.hasMark << row.declared << row.error;
+}
+
+void PxXMLLoaderTest::decodes()
+{
+    QFETCH(QByteArray, encoding);
+    QFETCH(bool, hasMark);
+    QFETCH(QString, declared);
+    QFETCH(QString, error);
+    const QString xml =
+        (hasMark ? QString(QChar::ByteOrderMark) : QString()) +
+        (declared.isEmpty() ? "\n" : "<?xml version='1.0' encoding='" + declared + "'?>\n") +
+        "<a b='\u00E4\"'>\u00F6</a>";
+    QTextCodec::ConverterState noMarkOfItsOwn(QTextCodec::IgnoreHeader);
+    const QByteArray bytes = QTextCodec::codecForName(encoding)->fromUnicode(
+        xml.constData(), xml.size(), &noMarkOfItsOwn);
+    QString message;
+    const QDomElement element = PxXMLLoader::loadDocumentElement(write(bytes), &message);
+    QCOMPARE(message, error.isEmpty() ? error : path("file.xml:") + error);
+    QCOMPARE(element.attribute("b") + element.text(),
+             error.isEmpty() ? QString("\u00E4\"\u00F6") : QString());
+}
+
+void PxXMLLoaderTest::refusesMalformedText_data()
+{
+    QTest::addColumn<QByteArray>("xml");
+    QTest::addColumn<QString>("error");
+    // clang-format off
+    const struct { const char *name; QByteArray xml; const char *error; } rows[] = {
+        {"empty", "", "1:1: Premature end of document."},
+        {"cut off", "<a>\n<b>", "2:3: Premature end of document."},
+        {"crossed tags", "<a>\n <b></a></b>", "2:8: Opening and ending tag mismatch."},
+        {"second root", "<a/>\n<b/>", "2:4: Extra content at end of document."},
+        {"attribute twice", "<a b='1' b='2'/>", "1:16: Attribute 'b' redefined."},
+        {"quote missing", "<a b=\"1>\n" + QByteArray("<c d=\"\"/>").repeated(999), "2:1: Unexpected '<'."},
+        {"zero byte", QByteArray("<a>\0</a>", 8), "1:4: Unexpected ''."},
+        {"control character", "<a>&#1;</a>", "1:7: Invalid character reference."},
+        {"broken UTF-8", "<a>\n\xF0\x9F\x98\x80\xC3(</a>", "2:3: the text is no valid UTF-8"},
+        {"cut UTF-8", "<a/>\n\xC3", "2:1: the text is no valid UTF-8"},
+        {"broken GB18030", "<?xml version='1.0' encoding='gb18030'?>\n<a>\xFF</a>",
+         "2:4: the text is no valid GB18030"},
+        {"undeclared entity", "<a>&b;</a>", "1:6: Entity 'b' not declared."},
+        {"entity in an attribute", "<!DOCTYPE a SYSTEM 'x'><a>\n<b c='&lt;&d;'/>",
+         "2:11: no entities are allowed in an attribute but those of XML itself; a plain '&' is written &amp;"},
+        {"external entity", "<!DOCTYPE a SYSTEM '/etc/passwd'><a>&b;</a>",
+         "1:39: the entity b is declared outside the file, which is not allowed"},
+        {"internal subset", "<!-- [ -->\n<!DOCTYPE a SYSTEM '[' [<!ENTITY b 'c'>]><a>&b;</a>",
+         "2:24: the document type declaration has an internal subset, none is allowed"},
+    };
+    // clang-format on
+    for (const auto &row : rows)
+        QTest::newRow(row.name) << row.xml << row.error;
+}
+
+void PxXMLLoaderTest::refusesMalformedText()
+{
+    QFETCH(QByteArray, xml);
+    QFETCH(QString, error);
+    QString message;
+    QVERIFY(PxXMLLoader::loadDocument(write(xml), &message).isNull());
+    QCOMPARE(message, path("file.xml:") + error);
+    QVERIFY(PxXMLLoader::loadDocumentElement(write(xml)).isNull());
+}
+
+void PxXMLLoaderTest::keepsTheLimits_data()
+{
+    QTest::addColumn<QByteArray>("xml");
+    QTest::addColumn<QString>("error"); // without the place; empty just inside
+    // clang-format off
+    const struct { const char *name; QByteArray xml; const char *error; } rows[] = {
+        {"depth", nested(maximumDepth), ""},
+        {"too deep", nested(maximumDepth + 1), "the element is nested 257 deep, no more than 256 are allowed"},
+        {"far too deep", nested(1000000), "the element is nested 257 deep, no more than 256 are allowed"},
+        {"attributes", tagWithAttributes(256), ""},
+        {"too many", tagWithAttributes(257), "the tag has attribute 257, no more than 256 are allowed"},
+        {"far too many", tagWithAttributes(300000), "the tag has attribute 257, no more than 256 are allowed"},
+        {"nodes", withNodes(maximumNodes), ""},
+        {"a node more", withNodes(maximumNodes + 1), "this is node 200001 of the file, no more than 200000 are allowed"},
+        {"size", ofSize(maximumFileSize), ""},
+        {"a byte more", ofSize(maximumFileSize + 1), "the file has 8388609 bytes, no more than 8388608 are allowed"},
+        // Slow for a reader that is not careful.
+        {"references", "<a>" + QByteArray("&amp;").repeated(1600000) + "</a>", ""},
+        {"open comments", "<a>" + QByteArray("<!--").repeated(2000000), "Expected '>', but got '<'."},
+    };
+    // clang-format on
+    for (const auto &row : rows)
+        QTest::newRow(row.name) << row.xml << row.error;
+}
+
+void PxXMLLoaderTest::keepsTheLimits()
+{
+    QFETCH(QByteArray, xml);
+    QFETCH(QString, error);
+    QString message;
+    QCOMPARE(PxXMLLoader::loadDocument(write(xml), &message).isNull(), !error.isEmpty());
+    QCOMPARE(message.section(": ", 1), error);
+}
+
+void PxXMLLoaderTest::opensRegularFilesOnly()
+{
+    const QString missing(":0:0: there is no such file");
+    const QString irregular(":0:0: this is no regular file");
+    const std::pair<QString, QString> rows[] = {
+        {QString(), ":0:0: no file name is given"},
+        {path("missing.xml"), missing},
+        {path("dead link"), missing},
+        {path("directory"), irregular},
+        {path("link to pipe"), irregular},
+        {"/dev/zero", irregular},
+    };
+    for (const auto &[file, error] : rows) {
+        QString message;
+        QVERIFY(PxXMLLoader::loadDocumentElement(QFileInfo(file), &message).isNull());
+        QCOMPARE(message, file + error);
+    }
+}
+
+void PxXMLLoaderTest::looksAtTheFileAnew()
+{
+    QFile::remove(path("file.xml"));
+    const QFileInfo remembered(path("file.xml"));
+    QVERIFY(!remembered.exists());
+    write("<a/>");
+    QVERIFY(!PxXMLLoader::loadDocumentElement(remembered).isNull());
+}
+
+void PxXMLLoaderTest::elementOutlivesItsDocument()
+{
+    QDomElement element = PxXMLLoader::loadDocumentElement(
+        write("<?xml version='1.0'?><!--1--><!DOCTYPE a><a b='1'><c/>x</a><!--2--><?p?>"));
+    QVERIFY(element.previousSibling().isNull() && element.nextSibling().isNull());
+    QVERIFY(element.parentNode().isNull() && element.ownerDocument().isNull());
+    QCOMPARE(element.elementsByTagName("c").size(), 1);
+
+    element.setAttribute("b", "2");
+    PxXMLBuilder::buildDomElement(element, "d", "y");
+    element.removeChild(element.firstChild());
+    const QDomNode copy = element.cloneNode();
+    element = QDomElement();
+    QCOMPARE(pxXml(copy.toElement()), QString("<a b=\"2\">x<d>y</d></a>"));
+}
+
+void PxXMLLoaderTest::needsLittleStack()
+{
+    const QFileInfo file = write(nested(maximumDepth - 2, withNodes(1000)));
+    bool isLoaded = false;
+    QThread *thread = QThread::create([&] {
+        const QDomElement element = PxXMLLoader::loadDocumentElement(file);
+        QDomNode copy = element.cloneNode(true); // deepest of what is done with a tree
+        isLoaded = !copy.toElement().text().isEmpty();
+    });
+    thread->setStackSize(512 * 1024);
+    thread->start();
+    QVERIFY(thread->wait());
+    delete thread;
+    QVERIFY(isLoaded);
+}
+
+QTEST_GUILESS_MAIN(PxXMLLoaderTest)
+#include "PxXMLLoaderTest.moc"

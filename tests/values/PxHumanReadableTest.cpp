@@ -1,0 +1,83 @@
+#include <PxDirectoryConfig.h>
+#include <PxLogRecorder.h>
+#include <values/PxHumanReadable.h>
+#include <values/PxProductMaterial.h>
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstdio>
+
+class PxHumanReadableTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void readsFrameModels();
+    void describesMaterials();
+};
+
+static int printNames(const QString &directory)
+{
+    PxDirectoryConfig::instance()->setResourceDirectories({directory});
+    const PxLogRecorder log;
+    const PxHumanReadable *names = PxHumanReadable::instance();
+    const QStringList answers{names->frameName("Duene"), names->frameName("Poster Ohne Rahmen"),
+                              names->fotoPaperTypeName(PxFotoPaperTypeGlossy),
+                              names->fotoPaperTypeName(static_cast<PxFotoPaperType>(4))};
+    fputs((answers + log.texts()).join('|').toUtf8().constData(), stdout);
+    return 0;
+}
+
+/** What printNames() answers of a frames.xml: in a process of its own, for it is read only once. */
+static QString namesOf(const QTemporaryDir &directory, const QByteArray &frames)
+{
+    QFile file(directory.filePath("frames.xml"));
+    if (!frames.isEmpty() && file.open(QIODevice::WriteOnly))
+        file.write(frames);
+    file.close();
+    QProcess process;
+    process.start(QCoreApplication::applicationFilePath(), {"--names", directory.path()});
+    process.waitForFinished();
+    return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+void PxHumanReadableTest::readsFrameModels()
+{
+    const QTemporaryDir directory;
+    QCOMPARE(namesOf(directory, ""), QString("Duene|Poster Ohne Rahmen|Glänzend|"));
+    const QByteArray frames = "<frames><frame id='Duene' name='Düne'/>";
+    QCOMPARE(namesOf(directory, frames + "</frames>"),
+             QString("Düne|Poster Ohne Rahmen|Glänzend|"));
+
+    const QString warning = "|PxHumanReadable::initTemplateNames ";
+    QCOMPARE(namesOf(directory, frames + "<frame id='Duene'/><frame name='Wald'/></frames>"),
+             "Düne|Poster Ohne Rahmen|Glänzend|" + warning +
+                 "frame without id or name \"Duene\" \"\"" + warning +
+                 "frame without id or name \"\" \"Wald\"");
+    const QString broken = namesOf(directory, frames);
+    QVERIFY2(broken.startsWith("Duene|Poster Ohne Rahmen|Glänzend|" + warning), qPrintable(broken));
+    QVERIFY2(broken.contains("frames.xml:1:"), qPrintable(broken));
+}
+
+void PxHumanReadableTest::describesMaterials()
+{
+    const auto describe = [](const char *material) {
+        return PxProductMaterial(material).visibleDescription();
+    };
+    QCOMPARE(describe("Deko-Poster"), QString("Poster-Collage"));
+    QCOMPARE(describe("Posterdruck XXL quadratisch"), QString("Posterdruck XXL Quadratisch"));
+    QCOMPARE(describe("poster"), QString());
+    QCOMPARE(describe("Poster "), QString());
+}
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication application(argc, argv);
+    if (argc == 3 && qstrcmp(argv[1], "--names") == 0)
+        return printNames(QFile::decodeName(argv[2]));
+    PxHumanReadableTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "PxHumanReadableTest.moc"
