@@ -58,6 +58,7 @@ function(px_add_program target)
     px_set_defaults(${target})
     target_link_libraries(${target} PRIVATE Px::ProductProperties)
     set_target_properties(${target} PROPERTIES INSTALL_RPATH $ORIGIN/${libraries})
+    install(TARGETS ${target} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 endfunction()
 
 # One test program of the same name as its source; what it links beside the library follows the name.

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "PxCatalogueCommandLine.h"
+
+class PxProductType;
+class PxReport;
+
+/** The program: runs the command of its command line and answers the exit status. */
+class PxCatalogue
+{
+public:
+    explicit PxCatalogue(const QStringList &arguments);
+
+    /** 0 when done, 1 when the answer is "no", 2 for wrong usage or an unreadable directory. */
+    int run() const;
+
+private:
+    int list() const;
+    int show() const;
+    int showCompatible() const;
+
+    int print(const PxReport &report) const;
+    int printUnknownProduct() const;
+
+    PxCatalogueCommandLine m_commandLine;
+};

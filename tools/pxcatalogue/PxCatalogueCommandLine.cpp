@@ -1,0 +1,210 @@
+#include "PxCatalogueCommandLine.h"
+
+#include "PxCatalogueKeywords.h"
+#include "PxOfferedPageCounts.h"
+
+#include <QCoreApplication>
+
+#include <functional>
+#include <numeric>
+
+namespace {
+
+using Command = PxCatalogueCommandLine::Command;
+
+constexpr int everyCommand = int(Command::List) | int(Command::Show) | int(Command::Compatible);
+
+// clang-format off
+constexpr struct { Command command; const char *name; const char *product; const char *description; } commandRows[] = {
+    {Command::List, "list", nullptr, "A table of the products, by class and name.\n"
+        "Pages 26-154/2 means from 26 to 154 in steps of 2."},
+    {Command::Show, "show", "NAME", "Everything that is known about one product.\n"
+        "Page numbers begin at 0 and count covers and spine; 4-28/2 means every second one\n"
+        "from 4 to 28. What the product does not have is left out."},
+    {Command::Compatible, "compatible", "NAME", "The other products that are interchangeable with this one.\n"
+        "Those are the ones of its class with the same orientation and number of pages, and with a spine\n"
+        "if it has one."},
+};
+
+constexpr struct { int commands; const char *name; const char *value; const char *description; } optionRows[] = {
+    {int(Command::List), "class", "KEYWORD", "Only these products: book, calendar, gift, card, deko or print; several with commas."},
+    {int(Command::Show), "pages", "N", "As a product of so many pages, 1 to 9999. Default: as many as it is sold with."},
+    {int(Command::Compatible), "criterion", "KEYWORDS", "What must agree, too: binding, paper, space and increment, with commas. Default: none."},
+    {everyCommand, "json", nullptr, "JSON, with all lengths in tenths of a millimetre, instead of text."},
+    {everyCommand, "resources", "DIR[:DIR]", "The resource directories. Default: PX_RESOURCE_DIRS, else the catalogue installed with the library."},
+    {everyCommand, "products", "DIR", "The directory of the product files. Default: products in the resource directories."},
+    {everyCommand, "legacy", "DIR", "The directory of the legacy product files. Default: products/legacy in the same."},
+    {everyCommand, "user-defaults", "DIR", "The user's default templates. Default: PX_USER_DEFAULTS_DIR, else defaults in the same."},
+    {everyCommand, "verbose", nullptr, "Also the debug messages of the library. Why a product file could not be read is always told."},
+    {everyCommand, "help", nullptr, "This text."},
+    {everyCommand, "version", nullptr, "The version of the program."},
+};
+// clang-format on
+
+constexpr const char *introduction =
+    "Shows the products of a catalogue as the product properties library understands\n"
+    "their files. Tables fit the terminal (COLUMNS), texts that do not are shortened.\n"
+    "\nCommands (--help after a command tells its options):\n";
+constexpr const char *exitStatus =
+    "\nExit status: 0 done; 1 the answer is \"no\": there is no such product, or no other\n"
+    "that is interchangeable; 2 wrong usage, or a directory that cannot be read.";
+
+QString programDescription()
+{
+    QString description = QLatin1String(introduction);
+    for (const auto &row : commandRows) {
+        const QString usage =
+            QLatin1String(row.name) + QLatin1Char(' ') + QLatin1String(row.product);
+        description += QLatin1String("  ") + usage.leftJustified(17) +
+                       QString::fromUtf8(row.description).section(QLatin1Char('\n'), 0, 0) +
+                       QLatin1Char('\n');
+    }
+    return description + QLatin1String(exitStatus);
+}
+
+QString nameOf(int command)
+{
+    for (const auto &row : commandRows) {
+        if (int(row.command) == command)
+            return QLatin1String(row.name);
+    }
+    return QString();
+}
+
+void addOptions(QCommandLineParser *parser, int commands)
+{
+    for (const auto &row : optionRows) {
+        if ((row.commands & commands) == 0)
+            continue;
+        // Among the options of all commands it has to be told whose this one is.
+        const QString owner = commands == everyCommand ? nameOf(row.commands) : QString();
+        const QString description = QString::fromUtf8(row.description);
+        parser->addOption(
+            {QLatin1String(row.name),
+             owner.isEmpty() ? description : owner + QLatin1String(": ") + description,
+             QLatin1String(row.value)});
+    }
+}
+
+} // namespace
+
+PxCatalogueCommandLine::PxCatalogueCommandLine(const QStringList &arguments)
+{
+    if (readCommand(arguments))
+        readOptions(arguments);
+}
+
+QJsonArray PxCatalogueCommandLine::criterionKeywords() const
+{
+    return QJsonArray::fromStringList(keywordsOf(m_criterion, ::criterionKeywords));
+}
+
+/** Answers whether there is one; its options, which may stand before it, are read after it. */
+bool PxCatalogueCommandLine::readCommand(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    addOptions(&parser, everyCommand);
+    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("One of the above."));
+    parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
+    parser.setApplicationDescription(programDescription());
+    const bool isUnderstood = parser.parse(arguments);
+    const QString name = parser.positionalArguments().value(0);
+    for (const auto &row : commandRows) {
+        if (name == QLatin1String(row.name)) {
+            m_command = row.command;
+            return true;
+        }
+    }
+    if (!isUnderstood)
+        setError(parser.errorText());
+    else if (!name.isEmpty())
+        setError(QStringLiteral("unknown command \"%1\": use list, show or compatible").arg(name));
+    else if (parser.isSet(QStringLiteral("help")))
+        m_information = parser.helpText();
+    else if (parser.isSet(QStringLiteral("version")))
+        m_information = QCoreApplication::applicationName() + QLatin1Char(' ') +
+                        QCoreApplication::applicationVersion() + QLatin1Char('\n');
+    else
+        setError(QStringLiteral("a command is missing: use list, show or compatible"));
+    return false;
+}
+
+void PxCatalogueCommandLine::readOptions(const QStringList &arguments)
+{
+    addOptions(&m_parser, int(m_command));
+    int expected = 1;
+    for (const auto &row : commandRows) {
+        if (row.command != m_command)
+            continue;
+        m_parser.setApplicationDescription(QString::fromUtf8(row.description));
+        m_parser.addPositionalArgument(QLatin1String(row.name), QStringLiteral("The command."),
+                                       QLatin1String(row.name));
+        if (row.product) {
+            m_parser.addPositionalArgument(QLatin1String(row.product),
+                                           QStringLiteral("The name of a product, in any case."));
+            expected = 2;
+        }
+    }
+    const bool isUnderstood = m_parser.parse(arguments);
+    const int given = m_parser.positionalArguments().size();
+    if (!isUnderstood)
+        setError(m_parser.errorText());
+    else if (m_parser.isSet(QStringLiteral("help")))
+        m_information = m_parser.helpText();
+    else if (given < expected)
+        setError(nameOf(int(m_command)) + QLatin1String(" needs the name of a product"));
+    else if (given > expected)
+        setError(QStringLiteral("\"%1\" is one argument too many")
+                     .arg(m_parser.positionalArguments().value(expected)));
+    else {
+        for (const auto &row : optionRows) {
+            const QString name = QLatin1String(row.name);
+            if (row.value && m_parser.optionNames().contains(name) &&
+                m_parser.value(name).isEmpty())
+                setError(QStringLiteral("--%1 needs a value").arg(name));
+        }
+        m_productClasses = readKeywords(QStringLiteral("class"), productClassKeywords);
+        m_criterion = readKeywords(QStringLiteral("criterion"), ::criterionKeywords);
+        readPageCount();
+    }
+}
+
+void PxCatalogueCommandLine::readPageCount()
+{
+    const QString option = QStringLiteral("pages");
+    if (!m_parser.optionNames().contains(option))
+        return;
+    m_pageCount = m_parser.value(option).toInt();
+    if (m_pageCount < 1 || m_pageCount > PxOfferedPageCounts::maximumShown)
+        setError(QStringLiteral("--pages needs a number from 1 to %1, not \"%2\"")
+                     .arg(PxOfferedPageCounts::maximumShown)
+                     .arg(m_parser.value(option)));
+}
+
+/** 0 when the option is not given. */
+template <typename ENUM>
+ENUM PxCatalogueCommandLine::readKeywords(const QString &option,
+                                          const QHash<QString, ENUM> &keywords)
+{
+    int flags = 0;
+    if (!m_parser.optionNames().contains(option))
+        return static_cast<ENUM>(flags);
+    pxForEachPart(m_parser.value(option), [&](QStringView part) {
+        const QString keyword = part.toString();
+        const ENUM flag = EnumHelper::decodeKeyword(keyword, keywords, static_cast<ENUM>(0));
+        const int all = std::accumulate(keywords.begin(), keywords.end(), 0, std::bit_or<int>());
+        if (flag == 0)
+            setError(
+                QStringLiteral("--%1 does not know \"%2\": use %3")
+                    .arg(option, keyword,
+                         keywordsOf(static_cast<ENUM>(all), keywords).join(QLatin1String(", "))));
+        flags |= flag;
+    });
+    return static_cast<ENUM>(flags);
+}
+
+void PxCatalogueCommandLine::setError(const QString &error)
+{
+    if (m_error.isEmpty())
+        m_error = error + QLatin1String(" (\"pxcatalogue --help\" explains everything)");
+}

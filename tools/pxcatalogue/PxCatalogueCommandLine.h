@@ -1,0 +1,51 @@
+#pragma once
+
+#include <PxProductClass.h>
+#include <description/PxProductComparationCriterion.h>
+
+#include <QCommandLineParser>
+#include <QJsonArray>
+
+/** What the user wants: a command with its options, or only a text about the program. */
+class PxCatalogueCommandLine
+{
+public:
+    enum class Command { List = 1, Show = 2, Compatible = 4 };
+
+    explicit PxCatalogueCommandLine(const QStringList &arguments);
+
+    /** Why nothing can be done, in one line that says what to do; empty when all is well. */
+    QString error() const { return m_error; }
+    /** The text of --help or --version; empty when there is a command to run. */
+    QString information() const { return m_information; }
+
+    Command command() const { return m_command; }
+    QString productName() const { return m_parser.positionalArguments().value(1); }
+    bool isJson() const { return m_parser.isSet(QStringLiteral("json")); }
+    bool isVerbose() const { return m_parser.isSet(QStringLiteral("verbose")); }
+    /** 0 when none is given. */
+    int pageCount() const { return m_pageCount; }
+    /** None when none is given, which means all. */
+    PxProductClass productClasses() const { return m_productClasses; }
+    /** What must agree beside orientation, spine and number of pages. */
+    PxProductComparationCriterion criterion() const { return m_criterion; }
+    QJsonArray criterionKeywords() const;
+    /** Of an option that names directories; empty when it is not given. */
+    QString value(const char *option) const { return m_parser.value(QLatin1String(option)); }
+
+private:
+    bool readCommand(const QStringList &arguments);
+    void readOptions(const QStringList &arguments);
+    void readPageCount();
+    template <typename ENUM>
+    ENUM readKeywords(const QString &option, const QHash<QString, ENUM> &keywords);
+    void setError(const QString &error);
+
+    QCommandLineParser m_parser;
+    Command m_command = Command::List;
+    int m_pageCount = 0;
+    PxProductClass m_productClasses = PxProductClassUnknown;
+    PxProductComparationCriterion m_criterion = PxProductComparationNone;
+    QString m_error;
+    QString m_information;
+};

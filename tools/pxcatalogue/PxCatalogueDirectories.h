@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+class PxCatalogueCommandLine;
+
+/** Where the catalogue is: the directories of the command line, else those of the platform. */
+class PxCatalogueDirectories
+{
+public:
+    explicit PxCatalogueDirectories(const PxCatalogueCommandLine &commandLine);
+
+    /** Tells them to the platform. Answers what is wrong with them, in one line; empty for nothing.
+     */
+    QString apply() const;
+
+private:
+    QString useGivenOnes() const;
+    QString findCatalogue() const;
+
+    const PxCatalogueCommandLine &m_commandLine;
+};

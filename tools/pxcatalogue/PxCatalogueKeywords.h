@@ -1,0 +1,57 @@
+#pragma once
+
+#include <PxEnumWrapper.h>
+#include <PxKeyword.h>
+#include <PxProductClass.h>
+#include <description/PxProductComparationCriterion.h>
+
+#include <QStringList>
+
+#include <algorithm>
+
+// The keywords of the command line and of the output. Those of the product files are the library's.
+
+inline constexpr PxKeyword<PxProductClass> productClassRows[] = {
+    {"book", PxProductClassBook},       {"calendar", PxProductClassCalendar},
+    {"gift", PxProductClassGift},       {"card", PxProductClassCard},
+    {"deko", PxProductClassDecoration}, {"print", PxProductClassPrint},
+};
+inline const QHash<QString, PxProductClass> productClassKeywords =
+    EnumHelper::keywordMap(productClassRows);
+
+inline constexpr PxKeyword<PxProductComparationCriterion> criterionRows[] = {
+    {"binding", PxProductComparationBinding},
+    {"paper", PxProductComparationPaperType},
+    {"space", PxProductComparationSpaceMagnitude},
+    {"increment", PxProductComparationPageIncrement},
+};
+inline const QHash<QString, PxProductComparationCriterion> criterionKeywords =
+    EnumHelper::keywordMap(criterionRows);
+
+/** The lower-case keyword of each bit, lowest bit first; of several the shortest. */
+template <typename ENUM>
+QStringList keywordsOf(ENUM flags, const QHash<QString, ENUM> &map)
+{
+    QStringList keywords;
+    for (const ENUM bit : splitEnumType(flags)) {
+        const QStringList synonyms = map.keys(bit);
+        const auto shortest = std::min_element(
+            synonyms.begin(), synonyms.end(), [](const QString &a, const QString &b) {
+                return qMakePair(a.size(), a) < qMakePair(b.size(), b);
+            });
+        if (shortest != synonyms.end())
+            keywords.append(shortest->toLower());
+    }
+    return keywords;
+}
+
+/** The keyword of the value, or those of its bits when the value has none of its own. */
+template <typename ENUM>
+QString keywordOf(const PxEnumWrapper<ENUM> &wrapper)
+{
+    const auto *table = wrapper.enumToStringTable();
+    const QString keyword = table->encode(wrapper.value());
+    // A value without keyword is encoded as the default, which stands for another value.
+    const ENUM decoded = table->decode(keyword, static_cast<ENUM>(-1));
+    return decoded == wrapper.value() ? keyword : wrapper.encodeCSV();
+}

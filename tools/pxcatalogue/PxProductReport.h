@@ -1,0 +1,54 @@
+#pragma once
+
+#include "PxOfferedPageCounts.h"
+#include "PxReport.h"
+
+#include <PxProductType.h>
+#include <geometry/DefaultTemplateType.h>
+#include <geometry/PxPageContext.h>
+
+class PxProductTypeConfigRegistry;
+class PxProductTypeDescription;
+
+/** Everything that the library answers about one product of a certain page count. */
+class PxProductReport
+{
+public:
+    /**
+     * A product of this registry, the current one or the legacy one.
+     *
+     * With `pageCount` 0 the product has as many pages as it is sold with.
+     */
+    PxProductReport(const PxProductTypeConfigRegistry *registry, const PxProductType &type,
+                    int pageCount);
+
+    PxReport report() const { return m_report; }
+
+private:
+    void addProduct();
+    void addDesign();
+    void addPages();
+    void addSizes();
+    void addPageKinds();
+    void addSpine();
+    void addSurroundings();
+    void addBarcodes();
+    void addTemplates();
+    void addVariants();
+    void addClassification();
+    void addLegacy();
+    void addProduction();
+    void addRedirects();
+
+    QJsonValue pagesOfKind(const PxPageContext &kind) const;
+    QString defaultTemplate(const PxPageContext &kind, DefaultTemplateType type) const;
+
+    const PxProductTypeConfigRegistry *m_registry;
+    PxProductType m_type;
+    const PxProductTypeDescription *m_product; // the registry's
+    PxOfferedPageCounts m_offered;
+    int m_pageCount;
+    QList<PxPageContext> m_pages; // all pages in their order, covers included
+    QList<PxPageContext> m_kinds; // each of them once
+    PxReport m_report;
+};

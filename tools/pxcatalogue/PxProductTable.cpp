@@ -1,0 +1,52 @@
+#include "PxProductTable.h"
+
+#include "PxCatalogueProducts.h"
+#include "PxOfferedPageCounts.h"
+#include "PxReport.h"
+
+#include <PxProductProperties.h>
+
+namespace {
+
+using Format = PxReportFormat;
+
+QJsonArray row(const PxProductType &type)
+{
+    const auto *registry = PxProductTypeConfigRegistry::instance();
+    const PxProductTypeDescription *product = registry->description(type);
+    return {type.productName(),
+            PxCatalogueProducts::className(type),
+            PxReportValue::size(product->usablePrintSize(PxPageTypeNormalPage, -1)),
+            PxReportValue::name(product->binding()),
+            PxReportValue::name(product->paperType()),
+            PxOfferedPageCounts(registry, type).toJson(),
+            keywordOf(product->orientation()),
+            product->isValid(),
+            int(type.type()),
+            type.shortProductName()};
+}
+
+} // namespace
+
+PxProductTable::PxProductTable(const PxProductTypeList &products) : m_products(products) {}
+
+void PxProductTable::addTo(PxReport *report) const
+{
+    QVector<QJsonArray> rows;
+    for (const PxProductType &type : m_products)
+        rows.append(row(type));
+    // clang-format off
+    report->addTable("products", "", {
+        {"name", "Name", Format::Key},
+        {"class", "Class", Format::Key},
+        {"size", "Size", Format::Size},
+        {"binding", "Binding", Format::Name},
+        {"paper", "Paper", Format::Name},
+        {"pageCounts", "Pages", Format::PageCounts},
+        {"orientation", "Orientation"},
+        {"isOffered", "Offered", Format::Key},
+        {"code", "", Format::JsonOnly},
+        {"shortName", "", Format::JsonOnly},
+    }, rows);
+    // clang-format on
+}

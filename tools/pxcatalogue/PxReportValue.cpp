@@ -1,0 +1,184 @@
+#include "PxReportValue.h"
+
+#include <geometry/PxMargins.h>
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QRect>
+#include <QStringList>
+
+#include <initializer_list>
+
+namespace {
+
+QString lengthText(const QJsonValue &tenths)
+{
+    const int value = tenths.toInt();
+    return QString::number(value / 10.0, 'f', value % 10 == 0 ? 0 : 1);
+}
+
+QString sizeText(const QJsonValue &size)
+{
+    return lengthText(size[u"width"]) + QStringLiteral("×") + lengthText(size[u"height"]);
+}
+
+QString marginsText(const QJsonValue &margins)
+{
+    QStringList sides;
+    for (const char *side : {"top", "bottom", "left", "right"})
+        sides.append(lengthText(margins[QLatin1String(side)]));
+    const bool areEqual = sides.count(sides.constFirst()) == sides.size();
+    return areEqual ? sides.constFirst() : sides.join(QLatin1Char('/'));
+}
+
+QString pageCountsText(const QJsonValue &counts)
+{
+    const int minimum = counts[u"minimum"].toInt();
+    const int maximum = counts[u"maximum"].toInt();
+    const int increment = counts[u"increment"].toInt();
+    if (minimum == maximum)
+        return QString::number(minimum);
+    const QString range = QStringLiteral("%1-%2").arg(minimum).arg(maximum);
+    return increment > 0 ? range + QStringLiteral("/%1").arg(increment) : range;
+}
+
+/** The index behind a run of neighbours, or of every second number, that begins at `first`. */
+int endOfRun(const QJsonArray &numbers, int first)
+{
+    int end = first + 1;
+    const auto stepTo = [&numbers](int i) { return numbers[i].toInt() - numbers[i - 1].toInt(); };
+    if (end == numbers.size() || (stepTo(end) != 1 && stepTo(end) != 2))
+        return end;
+    const int step = stepTo(end);
+    while (end < numbers.size() && stepTo(end) == step)
+        ++end;
+    return end;
+}
+
+QString pageNumbersText(const QJsonArray &numbers)
+{
+    QStringList parts;
+    for (int first = 0; first < numbers.size();) {
+        const int end = endOfRun(numbers, first);
+        const int number = numbers[first].toInt();
+        const int last = numbers[end - 1].toInt();
+        if (end - first < 3) {
+            parts.append(QString::number(number));
+            ++first;
+            continue;
+        }
+        const QString run = QStringLiteral("%1-%2").arg(number).arg(last);
+        parts.append(numbers[first + 1].toInt() == number + 1 ? run : run + QLatin1String("/2"));
+        first = end;
+    }
+    return parts.join(QLatin1String(", "));
+}
+
+QString plainText(const QJsonValue &value)
+{
+    switch (value.type()) {
+    case QJsonValue::Bool:
+        return value.toBool() ? QStringLiteral("yes") : QStringLiteral("no");
+    case QJsonValue::Double:
+        return QString::number(value.toDouble());
+    case QJsonValue::Array: {
+        QStringList parts;
+        for (const QJsonValue &part : value.toArray())
+            parts.append(plainText(part));
+        return parts.join(QLatin1String(", "));
+    }
+    default:
+        return value.toString();
+    }
+}
+
+QJsonObject object(std::initializer_list<QPair<const char *, int>> members)
+{
+    QJsonObject object;
+    for (const auto &[key, value] : members)
+        object.insert(QLatin1String(key), value);
+    return object;
+}
+
+} // namespace
+
+QJsonValue PxReportValue::size(const QSize &size)
+{
+    if (!size.isValid())
+        return QJsonValue();
+    return object({{"width", size.width()}, {"height", size.height()}});
+}
+
+QJsonValue PxReportValue::rect(const QRect &rect)
+{
+    return object(
+        {{"x", rect.x()}, {"y", rect.y()}, {"width", rect.width()}, {"height", rect.height()}});
+}
+
+QJsonValue PxReportValue::margins(const PxMargins &margins)
+{
+    return object({{"top", margins.top()},
+                   {"bottom", margins.bottom()},
+                   {"left", margins.left()},
+                   {"right", margins.right()}});
+}
+
+QJsonValue PxReportValue::name(const QString &keyword, const QString &displayName)
+{
+    if (keyword.isEmpty())
+        return QJsonValue();
+    return QJsonObject{{QStringLiteral("keyword"), keyword}, {QStringLiteral("name"), displayName}};
+}
+
+QJsonValue PxReportValue::numbers(const QList<int> &numbers)
+{
+    QJsonArray array;
+    for (int number : numbers)
+        array.append(number);
+    return array;
+}
+
+QString PxReportValue::text(const QJsonValue &value, PxReportFormat format)
+{
+    if (value.isNull())
+        return QString();
+    switch (format) {
+    case PxReportFormat::Name:
+        return value[u"name"].toString().isEmpty() ? value[u"keyword"].toString()
+                                                   : value[u"name"].toString();
+    case PxReportFormat::Length:
+        return lengthText(value);
+    case PxReportFormat::Size:
+        return sizeText(value);
+    case PxReportFormat::Margins:
+        return marginsText(value);
+    case PxReportFormat::Rect:
+        return QStringLiteral("%1 at %2, %3")
+            .arg(sizeText(value), lengthText(value[u"x"]), lengthText(value[u"y"]));
+    case PxReportFormat::Area:
+        return QString::number(value.toInt() / 10000.0, 'f', 0);
+    case PxReportFormat::PageCounts:
+        return pageCountsText(value);
+    case PxReportFormat::PageNumbers:
+        return pageNumbersText(value.toArray());
+    default:
+        return plainText(value);
+    }
+}
+
+QString PxReportValue::unit(PxReportFormat format)
+{
+    switch (format) {
+    case PxReportFormat::Length:
+    case PxReportFormat::Size:
+    case PxReportFormat::Margins:
+    case PxReportFormat::Rect:
+        return QStringLiteral(" mm");
+    case PxReportFormat::Area:
+        return QStringLiteral(" cm²");
+    case PxReportFormat::Points:
+        return QStringLiteral(" pt");
+    default:
+        return QString();
+    }
+}
