@@ -103,3 +103,11 @@ uint qHash(const PxEnumWrapper<ENUM> &wrapper, uint seed = 0)
 {
     return ::qHash(int(wrapper.value()), seed);
 }
+
+/** The keywords and the number, as in `spine, normalpage(17)`. */
+template <typename ENUM>
+QDebug operator<<(QDebug debug, const PxEnumWrapper<ENUM> &wrapper)
+{
+    const QDebugStateSaver saver(debug);
+    return debug.nospace().noquote() << wrapper.encodeCSV() << '(' << int(wrapper.value()) << ')';
+}

@@ -4,6 +4,7 @@
 
 #include <PxXMLParser.h>
 
+#include <QDebug>
 #include <QDomElement>
 #include <QObject>
 
@@ -26,4 +27,12 @@ QString PxProductClassification::sizeNameWithUnit(bool metric) const
     return sizeName(metric) + QLatin1Char(' ') +
            (metric ? QObject::tr("cm", "Abkürzung für Zentimeter")
                    : QObject::tr("in", "Abkürzung für Zoll/Inch"));
+}
+
+QDebug operator<<(QDebug debug, const PxProductClassification &classification)
+{
+    const QDebugStateSaver saver(debug);
+    return debug.nospace() << "PxProductClassification(" << classification.productType() << ", "
+                           << classification.material() << ", " << classification.sizeName(true)
+                           << " cm)";
 }

@@ -4,6 +4,7 @@
 
 #include <PxProductType.h>
 
+class QDebug;
 class QDomElement;
 
 /** The material and the size by which a product is grouped in the shop. */
@@ -34,3 +35,8 @@ private:
     PxProductMaterial m_material;
     int m_areaSize = 0;
 };
+
+Q_DECLARE_TYPEINFO(PxProductClassification, Q_MOVABLE_TYPE);
+
+PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug,
+                                             const PxProductClassification &classification);

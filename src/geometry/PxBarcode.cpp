@@ -1,5 +1,7 @@
 #include "geometry/PxBarcode.h"
 
+#include <QDebug>
+
 PxBarcode::PxBarcode(const QRect &rect, int pageNr, bool reverseOrder, const QString &imageName)
     : m_rect(rect)
     , m_pageNr(pageNr)
@@ -17,4 +19,12 @@ bool PxBarcode::isOnPage(int page, int pageCount) const
     if (m_reverseOrder)
         return qint64(pageCount) - m_pageNr == page;
     return m_pageNr == page;
+}
+
+QDebug operator<<(QDebug debug, const PxBarcode &barcode)
+{
+    const QDebugStateSaver saver(debug);
+    return debug.nospace() << "PxBarcode(" << barcode.rect() << ", page " << barcode.pageNr()
+                           << (barcode.reverseOrder() ? " from the back, " : ", ")
+                           << barcode.imageName() << ')';
 }

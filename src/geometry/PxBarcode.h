@@ -5,6 +5,8 @@
 #include <QRect>
 #include <QString>
 
+class QDebug;
+
 /** Where production prints its barcode. */
 class PXPRODUCTPROPERTIES_EXPORT PxBarcode
 {
@@ -33,3 +35,7 @@ private:
     bool m_reverseOrder = false;
     QString m_imageName;
 };
+
+Q_DECLARE_TYPEINFO(PxBarcode, Q_MOVABLE_TYPE);
+
+PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug, const PxBarcode &barcode);

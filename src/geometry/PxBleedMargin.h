@@ -2,6 +2,10 @@
 
 #include "PxProductPropertiesExport.h"
 
+#include <QtGlobal>
+
+class QDebug;
+
 /**
  * The strip printed around the trimmed page, so that a skewed cut shows no white edge.
  *
@@ -24,3 +28,7 @@ private:
     int m_horizontal;
     int m_vertical;
 };
+
+Q_DECLARE_TYPEINFO(PxBleedMargin, Q_MOVABLE_TYPE);
+
+PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug, const PxBleedMargin &margin);

@@ -1,5 +1,6 @@
 #include "geometry/PxDefaultTemplateKey.h"
 
+#include <QDebug>
 #include <QHash>
 
 PxDefaultTemplateKey::PxDefaultTemplateKey(const QString &theme, const PxPageContext &pageContext,
@@ -24,4 +25,13 @@ uint qHash(const PxDefaultTemplateKey &key, uint seed)
 {
     return qHash(key.theme()) ^ seed ^ uint(key.defaultTemplateType()) ^
            uint(key.pageType().value()) ^ uint(key.pageAlignment());
+}
+
+QDebug operator<<(QDebug debug, const PxDefaultTemplateKey &key)
+{
+    const QDebugStateSaver saver(debug);
+    return debug.nospace() << "PxDefaultTemplateKey(" << key.theme() << ", " << key.pageContext()
+                           << (key.defaultTemplateType() == DefaultTemplateTypeLayout
+                                   ? ", layout)"
+                                   : ", background)");
 }

@@ -5,6 +5,8 @@
 
 #include <QString>
 
+class QDebug;
+
 /** Under which default templates are looked up: theme, kind of page, and which template. */
 class PXPRODUCTPROPERTIES_EXPORT PxDefaultTemplateKey
 {
@@ -32,3 +34,7 @@ private:
 };
 
 PXPRODUCTPROPERTIES_EXPORT uint qHash(const PxDefaultTemplateKey &key, uint seed = 0);
+
+Q_DECLARE_TYPEINFO(PxDefaultTemplateKey, Q_MOVABLE_TYPE);
+
+PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug, const PxDefaultTemplateKey &key);

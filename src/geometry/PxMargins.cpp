@@ -1,5 +1,7 @@
 #include "geometry/PxMargins.h"
 
+#include <QDebug>
+
 PxMargins::PxMargins()
 {
     static const QExplicitlySharedDataPointer<const PxMarginsImpl> ourNullMargins(
@@ -14,3 +16,10 @@ PxMargins::PxMargins(int top, int bottom, int left, int right)
 PxMargins::PxMargins(const PxMargins &other) = default;
 PxMargins &PxMargins::operator=(const PxMargins &other) = default;
 PxMargins::~PxMargins() = default;
+
+QDebug operator<<(QDebug debug, const PxMargins &margins)
+{
+    const QDebugStateSaver saver(debug);
+    return debug.nospace() << "PxMargins(top " << margins.top() << ", bottom " << margins.bottom()
+                           << ", left " << margins.left() << ", right " << margins.right() << ')';
+}

@@ -2,7 +2,10 @@
 
 #include "geometry/PxMarginsImpl.h"
 
+#include <QMetaType>
 #include <QSharedDataPointer>
+
+class QDebug;
 
 /**
  * The four margins of a page, in the unit of the product files. All 0 by default; immutable, copies
@@ -33,3 +36,8 @@ public:
 private:
     QExplicitlySharedDataPointer<const PxMarginsImpl> d;
 };
+
+Q_DECLARE_TYPEINFO(PxMargins, Q_MOVABLE_TYPE);
+Q_DECLARE_METATYPE(PxMargins)
+
+PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug, const PxMargins &margins);

@@ -1,5 +1,7 @@
 #include "geometry/PxPageContext.h"
 
+#include <QDebug>
+
 PxPageContext::PxPageContext() : m_pageType(PxPageTypeNormalPage), m_alignment(PxPageAlignmentLeft)
 {}
 
@@ -23,4 +25,11 @@ bool PxPageContext::operator<(const PxPageContext &other) const
     if (m_pageType == other.m_pageType)
         return m_alignment < other.m_alignment;
     return m_pageType < other.m_pageType;
+}
+
+QDebug operator<<(QDebug debug, const PxPageContext &page)
+{
+    const QDebugStateSaver saver(debug);
+    return debug.nospace() << "PxPageContext(" << page.pageType() << ", alignment "
+                           << int(page.alignment()) << ')';
 }

@@ -4,6 +4,10 @@
 
 #include <PxPageAlignment.h>
 
+#include <QMetaType>
+
+class QDebug;
+
 /** Which kind of page is meant, and on which side of a spread. */
 class PXPRODUCTPROPERTIES_EXPORT PxPageContext
 {
@@ -28,3 +32,8 @@ private:
     PxPageType m_pageType;
     PxPageAlignment m_alignment;
 };
+
+Q_DECLARE_TYPEINFO(PxPageContext, Q_MOVABLE_TYPE);
+Q_DECLARE_METATYPE(PxPageContext)
+
+PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug, const PxPageContext &page);

@@ -2,6 +2,10 @@
 
 #include "PxProductPropertiesExport.h"
 
+#include <QtGlobal>
+
+class QDebug;
+
 /**
  * Where the content of a page goes, and how it is turned, when the product is rotated.
  *
@@ -25,3 +29,7 @@ private:
     int m_targetPageNr = 0;
     int m_angleInvert = 0;
 };
+
+Q_DECLARE_TYPEINFO(PxPageRotationRedirect, Q_MOVABLE_TYPE);
+
+PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug, const PxPageRotationRedirect &redirect);

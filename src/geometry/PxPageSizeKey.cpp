@@ -1,5 +1,7 @@
 #include "geometry/PxPageSizeKey.h"
 
+#include <QDebug>
+
 PxPageSizeKey::PxPageSizeKey(const PxPageContext &pageContext, int pageCount)
     : m_pageContext(pageContext)
     , m_pageCount(pageCount)
@@ -14,4 +16,11 @@ bool PxPageSizeKey::operator<(const PxPageSizeKey &other) const
 {
     // Not a strict order, and applications rely on it: the page count never decides.
     return m_pageCount != other.m_pageCount && m_pageContext < other.m_pageContext;
+}
+
+QDebug operator<<(QDebug debug, const PxPageSizeKey &key)
+{
+    const QDebugStateSaver saver(debug);
+    return debug.nospace() << "PxPageSizeKey(" << key.pageContext() << ", " << key.pageCount()
+                           << " pages)";
 }

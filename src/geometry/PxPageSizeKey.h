@@ -2,6 +2,8 @@
 
 #include "geometry/PxPageContext.h"
 
+class QDebug;
+
 /** Under which page sizes are looked up: a kind of page in a product of so many pages. */
 class PXPRODUCTPROPERTIES_EXPORT PxPageSizeKey
 {
@@ -28,3 +30,7 @@ private:
     PxPageContext m_pageContext;
     int m_pageCount = -1;
 };
+
+Q_DECLARE_TYPEINFO(PxPageSizeKey, Q_MOVABLE_TYPE);
+
+PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug, const PxPageSizeKey &key);

@@ -37,3 +37,12 @@ QSize PxPageSizeSpec::totalSize() const
 {
     return pxClampedSum(m_usableSize, m_bleedMargins.totalMarginWH());
 }
+
+QDebug operator<<(QDebug debug, const PxPageSizeSpec &size)
+{
+    const QDebugStateSaver saver(debug);
+    return debug.nospace() << "PxPageSizeSpec(" << size.usableSize() << ", bleed "
+                           << size.bleedMargins() << ", safety " << size.safetyMargins() << ", "
+                           << size.orientation() << ", clamp " << size.horizontalClampExtra()
+                           << ')';
+}

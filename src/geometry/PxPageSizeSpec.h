@@ -6,6 +6,8 @@
 
 #include <QSize>
 
+class QDebug;
+
 /** The size of one kind of page and what surrounds it, in the unit of the product files. */
 class PXPRODUCTPROPERTIES_EXPORT PxPageSizeSpec
 {
@@ -40,3 +42,5 @@ private:
     PxOrientation m_orientation;
     int m_horizontalClampExtra;
 };
+
+PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug, const PxPageSizeSpec &size);

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+class QDebug;
+
 /** A ready-made PDF page that production inserts. */
 class PXPRODUCTPROPERTIES_EXPORT PxProductionExtraPage
 {
@@ -24,3 +26,7 @@ private:
     QString m_templateType;
     int m_targetLayer = 0;
 };
+
+Q_DECLARE_TYPEINFO(PxProductionExtraPage, Q_MOVABLE_TYPE);
+
+PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug, const PxProductionExtraPage &page);

@@ -3,6 +3,7 @@
 #include <PxListParts.h>
 #include <PxXMLParser.h>
 
+#include <QDebug>
 #include <QDomElement>
 
 namespace {
@@ -24,4 +25,11 @@ PxProductionExtraPageGroup::PxProductionExtraPageGroup(const QDomElement &item)
 bool PxProductionExtraPageGroup::operator==(const PxProductionExtraPageGroup &other) const
 {
     return m_targetPages == other.m_targetPages && m_content == other.m_content;
+}
+
+QDebug operator<<(QDebug debug, const PxProductionExtraPageGroup &group)
+{
+    const QDebugStateSaver saver(debug);
+    return debug.nospace() << "PxProductionExtraPageGroup(" << group.targetPages() << ", "
+                           << group.content() << ')';
 }

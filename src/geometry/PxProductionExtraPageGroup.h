@@ -4,6 +4,7 @@
 
 #include <QList>
 
+class QDebug;
 class QDomElement;
 
 /** One extra page and the positions at which production inserts it. */
@@ -25,3 +26,7 @@ private:
     QList<int> m_targetPages;
     PxProductionExtraPage m_content;
 };
+
+Q_DECLARE_TYPEINFO(PxProductionExtraPageGroup, Q_MOVABLE_TYPE);
+
+PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug, const PxProductionExtraPageGroup &group);

@@ -2,6 +2,7 @@
 
 #include <PxXMLParser.h>
 
+#include <QDebug>
 #include <QDomElement>
 
 PxSurroundingDescription::PxSurroundingDescription(const QDomElement &surrounding)
@@ -51,4 +52,13 @@ bool PxSurroundingDescription::operator<(const PxSurroundingDescription &other) 
            m_imageRect.bottom() < other.m_imageRect.bottom() ||
            m_imageRect.right() < other.m_imageRect.right() ||
            m_hasBindingShade < other.m_hasBindingShade || m_image < other.m_image;
+}
+
+QDebug operator<<(QDebug debug, const PxSurroundingDescription &surrounding)
+{
+    const QDebugStateSaver saver(debug);
+    return debug.nospace() << "PxSurroundingDescription(type " << int(surrounding.surroundingType())
+                           << ", " << surrounding.pageTypes() << ", alignments "
+                           << int(surrounding.alignments()) << ", page " << surrounding.pageNr()
+                           << ", " << surrounding.image() << ", " << surrounding.imageRect() << ')';
 }

@@ -7,6 +7,7 @@
 #include <QRect>
 #include <QString>
 
+class QDebug;
 class QDomElement;
 
 /** An image that is painted around or over pages: a cover, a frame, a calendar rim, a shade. */
@@ -55,3 +56,8 @@ private:
     QRect m_imageRect;
     bool m_hasBindingShade = false;
 };
+
+Q_DECLARE_TYPEINFO(PxSurroundingDescription, Q_MOVABLE_TYPE);
+
+PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug,
+                                             const PxSurroundingDescription &surrounding);

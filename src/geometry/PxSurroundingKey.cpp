@@ -1,5 +1,7 @@
 #include "geometry/PxSurroundingKey.h"
 
+#include <QDebug>
+
 PxSurroundingKey::PxSurroundingKey(const PxPageContext &pageContext, int pageIndex)
     : m_pageContext(pageContext)
     , m_pageIndex(pageIndex)
@@ -22,4 +24,11 @@ bool PxSurroundingKey::operator<(const PxSurroundingKey &other) const
 {
     // Not a strict order, and applications rely on it: the page index never decides.
     return m_pageIndex != other.m_pageIndex && m_pageContext < other.m_pageContext;
+}
+
+QDebug operator<<(QDebug debug, const PxSurroundingKey &key)
+{
+    const QDebugStateSaver saver(debug);
+    return debug.nospace() << "PxSurroundingKey(" << key.pageContext() << ", page "
+                           << key.pageIndex() << ')';
 }

@@ -2,6 +2,8 @@
 
 #include "geometry/PxPageContext.h"
 
+class QDebug;
+
 /** Under which surroundings are looked up: a kind of page, and which page it is. */
 class PXPRODUCTPROPERTIES_EXPORT PxSurroundingKey
 {
@@ -32,3 +34,7 @@ private:
     PxPageContext m_pageContext;
     int m_pageIndex = -1;
 };
+
+Q_DECLARE_TYPEINFO(PxSurroundingKey, Q_MOVABLE_TYPE);
+
+PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug, const PxSurroundingKey &key);

@@ -5,6 +5,8 @@
 #include <PxEnumWrapper.h>
 #include <PxLookUpTable.h>
 
+#include <QMetaType>
+
 enum PxBindingEnum : int {
     PxBindingHardcover = 1,
     PxBindingSoftcover = 2,
@@ -61,3 +63,6 @@ public:
 
     void fillTable(PxEnumToStringTable<PxBindingEnum> *table) const override;
 };
+
+Q_DECLARE_TYPEINFO(PxBinding, Q_MOVABLE_TYPE);
+Q_DECLARE_METATYPE(PxBinding)

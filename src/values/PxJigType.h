@@ -4,6 +4,8 @@
 
 #include <PxEnumWrapper.h>
 
+#include <QMetaType>
+
 enum PxJigTypeEnum : int {
     PxJigTypeBackground = 1,
     PxJigTypeClipart = 2,
@@ -29,3 +31,6 @@ public:
 
     void fillTable(PxEnumToStringTable<PxJigTypeEnum> *table) const override;
 };
+
+Q_DECLARE_TYPEINFO(PxJigType, Q_MOVABLE_TYPE);
+Q_DECLARE_METATYPE(PxJigType)

@@ -4,6 +4,8 @@
 
 #include <PxEnumWrapper.h>
 
+#include <QMetaType>
+
 enum PxPageTypeEnum : int {
     PxPageTypeNone = 0,
     PxPageTypeSpine = 0x1,
@@ -49,3 +51,6 @@ public:
 
     void fillTable(PxEnumToStringTable<PxPageTypeEnum> *table) const override;
 };
+
+Q_DECLARE_TYPEINFO(PxPageType, Q_MOVABLE_TYPE);
+Q_DECLARE_METATYPE(PxPageType)

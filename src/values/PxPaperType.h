@@ -5,6 +5,8 @@
 #include <PxEnumWrapper.h>
 #include <PxLookUpTable.h>
 
+#include <QMetaType>
+
 enum PxPaperTypeEnum : int {
     PxPaperTypeUnknown = 0,
     PxPaperTypeIndigo = 1,
@@ -38,3 +40,6 @@ public:
 
     void fillTable(PxEnumToStringTable<PxPaperTypeEnum> *table) const override;
 };
+
+Q_DECLARE_TYPEINFO(PxPaperType, Q_MOVABLE_TYPE);
+Q_DECLARE_METATYPE(PxPaperType)

@@ -3,6 +3,7 @@
 #include <PxLookUpTable.h>
 
 #include <QCoreApplication>
+#include <QDebug>
 
 PxProductMaterial::PxProductMaterial(const QString &value) : m_value(value) {}
 PxProductMaterial::PxProductMaterial(const PxProductMaterial &other) = default;
@@ -31,4 +32,10 @@ QString PxProductMaterial::visibleDescription() const
     PxLookUpTable<QString, QString> table;
     table.insertTranslated("PxProductMaterial", descriptions);
     return table.findByKey(m_value);
+}
+
+QDebug operator<<(QDebug debug, const PxProductMaterial &material)
+{
+    const QDebugStateSaver saver(debug);
+    return debug.nospace() << "PxProductMaterial(" << material.value() << ')';
 }

@@ -2,7 +2,10 @@
 
 #include "PxProductPropertiesExport.h"
 
+#include <QMetaType>
 #include <QString>
+
+class QDebug;
 
 /** The material of a wall decoration, kept as the keyword of the product file. */
 class PXPRODUCTPROPERTIES_EXPORT PxProductMaterial
@@ -25,3 +28,8 @@ public:
 private:
     QString m_value;
 };
+
+Q_DECLARE_TYPEINFO(PxProductMaterial, Q_MOVABLE_TYPE);
+Q_DECLARE_METATYPE(PxProductMaterial)
+
+PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug, const PxProductMaterial &material);

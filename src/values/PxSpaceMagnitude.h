@@ -5,6 +5,8 @@
 #include <PxEnumWrapper.h>
 #include <PxLookUpTable.h>
 
+#include <QMetaType>
+
 enum PxSpaceMagnitudeEnum : int {
     PxSpaceMagnitudeUnknown = 0,
     PxSpaceMagnitude150 = 1,
@@ -46,3 +48,6 @@ public:
 
     void fillTable(PxEnumToStringTable<PxSpaceMagnitudeEnum> *table) const override;
 };
+
+Q_DECLARE_TYPEINFO(PxSpaceMagnitude, Q_MOVABLE_TYPE);
+Q_DECLARE_METATYPE(PxSpaceMagnitude)

@@ -4,6 +4,8 @@
 
 #include <PxEnumWrapper.h>
 
+#include <QMetaType>
+
 class QSizeF;
 
 /** The shape of a page or a template; a set of flags. */
@@ -39,3 +41,6 @@ public:
 
     void fillTable(PxEnumToStringTable<PxOrientationEnum> *table) const override;
 };
+
+Q_DECLARE_TYPEINFO(PxOrientation, Q_MOVABLE_TYPE);
+Q_DECLARE_METATYPE(PxOrientation)

@@ -2,6 +2,8 @@
 
 #include "PxProductTypeCatalogue.h"
 
+#include <QDebug>
+
 PxProductType::PxProductType(int code) : m_type(static_cast<PxProductTypeEnum>(code))
 {
     take(PxProductTypeCatalogue::instance()->find(code));
@@ -29,4 +31,11 @@ void PxProductType::take(const PxProductTypeEntry *entry)
     m_type = entry->type;
     m_productClass = entry->productClass;
     m_entry = entry;
+}
+
+QDebug operator<<(QDebug debug, const PxProductType &type)
+{
+    const QDebugStateSaver saver(debug);
+    return debug.nospace() << "PxProductType(" << int(type.type()) << ", " << type.productName()
+                           << ')';
 }

@@ -5,7 +5,10 @@
 #include "PxProductTypeEnum.h"
 
 #include <QHash>
+#include <QMetaType>
 #include <QString>
+
+class QDebug;
 
 struct PxProductTypeEntry;
 
@@ -61,3 +64,7 @@ inline uint qHash(const PxProductType &type, uint seed = 0)
 {
     return ::qHash(int(type.type()), seed);
 }
+
+Q_DECLARE_METATYPE(PxProductType)
+
+PXPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const PxProductType &type);

@@ -66,11 +66,11 @@ std::optional<PxXMLFault> PxXMLMarkupScanner::scanAttributeValue()
 
 std::optional<PxXMLFault> PxXMLMarkupScanner::scanDocumentType()
 {
-    char quote = 0;
+    char quote = '\0';
     for (; m_position < m_text.size(); ++m_position) {
         const char c = m_text[m_position];
         if (quote)
-            quote = c == quote ? 0 : quote;
+            quote = c == quote ? '\0' : quote;
         else if (c == '"' || c == '\'')
             quote = c;
         else if (c == '[')
