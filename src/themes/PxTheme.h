@@ -1,0 +1,95 @@
+#pragma once
+
+#include "themes/PxThemeConfig.h"
+
+#include <QMetaType>
+
+class QDebug;
+
+/**
+ * A design theme: what a product looks like and may hold when it is designed in it.
+ *
+ * Immutable; copies share the record. The void theme, with the id "unbekannt", stands for none.
+ */
+class PXPRODUCTPROPERTIES_EXPORT PxTheme
+{
+public:
+    /** A void theme. */
+    PxTheme();
+    PxTheme(const QString &id, const PxProductGroup &group, const QString &description,
+            const QDateTime &expiry, const QImage &thumbnail,
+            const PxKeyAccountNumberList &keyAccounts,
+            const QMap<PxProductTypeEnum, QPair<QImage, QRect>> &logos, bool useSpineText,
+            bool canMoveContent, bool canUseNormalBackgrounds,
+            const PxDefaultThematicCategories &categories, bool useSpineLogo,
+            const PxEmptyMeansAllSet<PxProductType> &allowedProducts);
+    PxTheme(const PxTheme &other);
+    PxTheme &operator=(const PxTheme &other);
+    virtual ~PxTheme();
+
+    static PxTheme voidTheme();
+
+    /** Belongs to a known product group. */
+    bool isValid() const { return d->isValid(); }
+
+    // Identity
+    QString id() const { return d->id(); }
+    QString description() const { return d->description(); }
+    PxProductGroup productGroup() const { return d->productGroup(); }
+    QImage thumbnail() const { return d->thumbnail(); }
+    /** The id is "normal", in any case. */
+    bool isDefaultTheme() const;
+    /** The id is "design", in any case. */
+    bool isDesignTheme() const;
+    /** Brings content of its own, as every theme but the default one does. */
+    bool isThemeWithContent() const { return !isDefaultTheme(); }
+
+    // Who may order it
+    /** The last moment, in local time. */
+    QDateTime expiryDate() const { return d->expiryDate(); }
+    bool isExpired() const;
+    /** The day of the expiry date, as in "1976-12-30". */
+    QString expiryDayToOrderTxt() const;
+    PxKeyAccountNumberList keyAccounts() const { return d->keyAccounts(); }
+    /** An empty list of key accounts admits none. */
+    bool isValidForKeyAccount(int keyAccount) const;
+    /** An empty set allows every product type. */
+    PxEmptyMeansAllSet<PxProductType> allowedProductTypes() const;
+
+    // What the editor and production may do
+    bool useSpineText() const { return d->useSpineText(); }
+    bool useSpineLogo() const { return d->useSpineLogo(); }
+    bool canMoveContent() const { return d->canMoveContent(); }
+    bool canUseNormalBackgrounds() const { return d->canUseNormalBackgrounds(); }
+    /** Always false: layouts belong to their theme. */
+    bool canUseNormalLayouts() const { return d->canUseNormalLayouts(); }
+    bool mustPaintVemoLogo(const PxProductType &type) const { return d->hasLogo(type); }
+    /** The logo and where it goes; a null image and an invalid rectangle when there is none. */
+    QPair<QImage, QRect> vemoLogo(const PxProductType &type) const { return d->logo(type); }
+
+    // Which category is shown first; an empty one when the theme names none
+    PxThematicCategory defaultCategory(const PxJigType &jigType) const;
+    PxThematicCategory defaultBackgroundCategory() const;
+    PxThematicCategory defaultClipartCategory() const;
+    PxThematicCategory defaultContentCategory() const;
+    PxThematicCategory defaultFadingCategory() const;
+    PxThematicCategory defaultFrameCategory() const;
+
+    /** Compares all but the allowed product types. */
+    bool operator==(const PxTheme &other) const;
+    bool operator!=(const PxTheme &other) const { return !(*this == other); }
+
+private:
+    static const PxTheme ourVoidTheme;
+
+    QExplicitlySharedDataPointer<const PxThemeConfig> d;
+};
+
+Q_DECLARE_METATYPE(PxTheme)
+
+/** By id: themes that compare equal share it. */
+PXPRODUCTPROPERTIES_EXPORT uint qHash(const PxTheme &theme, uint seed = 0);
+
+Q_DECLARE_TYPEINFO(PxTheme, Q_MOVABLE_TYPE);
+
+PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug, const PxTheme &theme);

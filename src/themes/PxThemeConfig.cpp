@@ -1,0 +1,48 @@
+#include "themes/PxThemeConfig.h"
+
+PxThemeConfig::PxThemeConfig()
+    : m_id(QStringLiteral("unbekannt"))
+    , m_description(QStringLiteral("unbekannt"))
+{}
+
+PxThemeConfig::PxThemeConfig(const QString &id, const PxProductGroup &productGroup,
+                             const QString &description, const QDateTime &expiryDate,
+                             const QImage &thumbnail, const PxKeyAccountNumberList &keyAccounts,
+                             const QMap<PxProductTypeEnum, QPair<QImage, QRect>> &logos,
+                             const PxEmptyMeansAllSet<PxProductType> &allowedProductTypes,
+                             bool useSpineText, bool canMoveContent, bool canUseNormalBackgrounds,
+                             const PxDefaultThematicCategories &defaultCategories,
+                             bool useSpineLogo)
+    : m_id(id)
+    , m_productGroup(productGroup)
+    , m_expiryDate(expiryDate)
+    , m_description(description)
+    , m_thumbnail(thumbnail)
+    , m_keyAccounts(keyAccounts)
+    , m_logos(logos)
+    , m_useSpineText(useSpineText)
+    , m_useSpineLogo(useSpineLogo)
+    , m_canMoveContent(canMoveContent)
+    , m_canUseNormalBackgrounds(canUseNormalBackgrounds)
+    , m_defaultCategories(defaultCategories)
+    , m_allowedProductTypes(allowedProductTypes)
+{}
+
+PxThemeConfig::PxThemeConfig(const PxThemeConfig &other) = default;
+PxThemeConfig::~PxThemeConfig() = default;
+
+PxThematicCategory PxThemeConfig::defaultCategory(const PxJigType &jigType) const
+{
+    return m_defaultCategories.value(jigType);
+}
+
+bool PxThemeConfig::operator==(const PxThemeConfig &other) const
+{
+    return m_id == other.m_id && m_productGroup == other.m_productGroup &&
+           m_expiryDate == other.m_expiryDate && m_description == other.m_description &&
+           m_thumbnail == other.m_thumbnail && m_keyAccounts == other.m_keyAccounts &&
+           m_logos == other.m_logos && m_useSpineText == other.m_useSpineText &&
+           m_useSpineLogo == other.m_useSpineLogo && m_canMoveContent == other.m_canMoveContent &&
+           m_canUseNormalBackgrounds == other.m_canUseNormalBackgrounds &&
+           m_defaultCategories == other.m_defaultCategories;
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "themes/PxThemeList.h"
+
+#include <QMap>
+
+class QDir;
+
+/**
+ * All design themes, read from the theme files of the themes directory.
+ *
+ * The instance is created on first use, from any thread, and only read afterwards.
+ */
+class PXPRODUCTPROPERTIES_EXPORT PxThemeFactory
+{
+public:
+    /** Without themes until init() or loadThemeList(). Applications use instance(). */
+    PxThemeFactory() = default;
+    Q_DISABLE_COPY(PxThemeFactory)
+
+    static PxThemeFactory *instance();
+
+    /** All themes, in the order in which they were read. */
+    PxThemeList themeList() const { return m_themeList; }
+    /** The themes that this key account may order today. */
+    PxThemeList themeList(int keyAccount) const;
+    /** The ids of all themes, in the order in which they were read. */
+    QStringList themeNames() const;
+    /** The theme "normal"; the first theme when there is none, the void theme when there are none.
+     */
+    PxTheme defaultTheme() const { return m_defaultTheme; }
+    bool contains(const QString &id) const;
+    /** The first theme of this id, exactly; the void theme when there is none. */
+    PxTheme findTheme(const QString &id) const;
+    /** One theme per known id, in their order; of two themes of one id the one read last. */
+    PxThemeList findThemes(const QStringList &ids) const;
+    /** The same for a comma-separated list. Ids are not trimmed. */
+    PxThemeList findThemes(const QString &ids) const;
+    PxThemeList findThemesWhichAcceptNormalBackgrounds() const;
+    PxThemeList findThemesWhichAcceptNormalLayouts() const;
+
+    /** Reads the themes directory; called once, by instance(). */
+    void init();
+    /** Reads the theme files of a directory into the look-ups by id; answers the themes read. */
+    PxThemeList loadThemeList(QDir &directory);
+
+private:
+    PxThemeList m_themeList;
+    QMap<QString, PxTheme> m_themeOfId;
+    PxThemeList m_normalBackgroundThemes;
+    PxThemeList m_normalLayoutThemes;
+    PxTheme m_defaultTheme = PxTheme::voidTheme();
+};
