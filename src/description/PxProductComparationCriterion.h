@@ -8,6 +8,13 @@ enum PxProductComparationCriterion : int {
     PxProductComparationPaperType = 2,
     PxProductComparationSpaceMagnitude = 4,
     PxProductComparationPageIncrement = 8,
+    // What the same product in another paper, or with another binding, has in common with it.
+    PxProductComparationAllButPaperType = PxProductComparationBinding |
+                                          PxProductComparationSpaceMagnitude |
+                                          PxProductComparationPageIncrement,
+    PxProductComparationAllButBinding = PxProductComparationPaperType |
+                                        PxProductComparationSpaceMagnitude |
+                                        PxProductComparationPageIncrement,
 };
 
 inline PxProductComparationCriterion operator|(PxProductComparationCriterion a,

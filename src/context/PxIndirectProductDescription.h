@@ -1,0 +1,55 @@
+#pragma once
+
+#include "PxProductPropertiesExport.h"
+
+#include <PxEmptyMeansAllSet.h>
+#include <PxOrientation.h>
+#include <PxTemplateTarget.h>
+
+class PxProductContext;
+class QDomElement;
+
+/**
+ * A product described by the orientations and template targets that it accepts, so that designs and
+ * templates can be matched against it. Empty sets accept everything.
+ */
+class PXPRODUCTPROPERTIES_EXPORT PxIndirectProductDescription
+{
+public:
+    /** Accepts everything; invalid. */
+    PxIndirectProductDescription() = default;
+    explicit PxIndirectProductDescription(const PxProductContext &context);
+    PxIndirectProductDescription(const PxOrientation &orientation, PxTemplateTarget target);
+    PxIndirectProductDescription(const PxIndirectProductDescription &other);
+    PxIndirectProductDescription &operator=(const PxIndirectProductDescription &other);
+    virtual ~PxIndirectProductDescription();
+
+    /** The single orientations, or template targets, of a set of flags. */
+    static PxEmptyMeansAllSet<PxOrientation> orientations(const PxOrientation &orientation);
+    static PxEmptyMeansAllSet<PxTemplateTarget> templateTypes(const PxTemplateTarget &target);
+    /** By the product class: book, calendar, or gift for cards and decorations too; else unknown.
+     */
+    static PxTemplateTarget guessTemplateTarget(const PxProductContext &context);
+
+    /** Names no template target. */
+    bool isEmpty() const { return m_templateTypes.isEmpty(); }
+    bool isValid() const { return !isEmpty(); }
+
+    PxEmptyMeansAllSet<PxTemplateTarget> templateTypes() const { return m_templateTypes; }
+    /** All accepted orientations as one set of flags. */
+    PxOrientation orientation() const;
+    /** 0.666666 for portrait, 1.5 for landscape, 1.0 for anything else. */
+    double defaultWidthHeightRatio() const;
+    /** Accepts some product that the other one accepts, too. */
+    bool matches(const PxIndirectProductDescription &other) const;
+
+    /** Appends an "orientation" and a "type" child; nothing when invalid. */
+    void toXml(QDomElement &parent) const;
+
+    bool operator==(const PxIndirectProductDescription &other) const;
+    bool operator!=(const PxIndirectProductDescription &other) const { return !(*this == other); }
+
+private:
+    PxEmptyMeansAllSet<PxOrientation> m_orientations;
+    PxEmptyMeansAllSet<PxTemplateTarget> m_templateTypes;
+};

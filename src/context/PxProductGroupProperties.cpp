@@ -1,0 +1,30 @@
+#include "context/PxProductGroupProperties.h"
+
+#include <QDate>
+#include <QLocale>
+#include <QObject>
+
+PxProductGroupProperties::PxProductGroupProperties()
+    : m_fotoIndex(QObject::tr("Bestellung vom %1")
+                      .arg(QLocale::system().toString(QDate::currentDate(), QLocale::LongFormat)))
+{}
+
+void PxProductGroupProperties::setFotoIndex(const QString &fotoIndex)
+{
+    m_fotoIndex = fotoIndex;
+}
+
+void PxProductGroupProperties::setPaperType(PxFotoPaperType paperType)
+{
+    m_paperType = paperType;
+}
+
+void PxProductGroupProperties::setBorderColor(const QColor &borderColor)
+{
+    m_borderColor = borderColor;
+}
+
+void PxProductGroupProperties::setCopyToWebAlbum(bool copyToWebAlbum)
+{
+    m_copyToWebAlbum = copyToWebAlbum;
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "PxProductPropertiesExport.h"
+#include "values/PxFotoPaperType.h"
+
+#include <QColor>
+#include <QString>
+
+/** What is set once for all products of a group, for example for all photo prints of an order. */
+class PXPRODUCTPROPERTIES_EXPORT PxProductGroupProperties
+{
+public:
+    /** With the defaults; the photo index bears today's date. */
+    PxProductGroupProperties();
+
+    /** The name under which the picture overview is filed. */
+    QString fotoIndex() const { return m_fotoIndex; }
+    PxFotoPaperType paperType() const { return m_paperType; }
+    /** Invalid for no border. */
+    QColor borderColor() const { return m_borderColor; }
+    bool copyToWebAlbum() const { return m_copyToWebAlbum; }
+
+    void setFotoIndex(const QString &fotoIndex);
+    void setPaperType(PxFotoPaperType paperType);
+    void setBorderColor(const QColor &borderColor);
+    void setCopyToWebAlbum(bool copyToWebAlbum);
+
+private:
+    QString m_fotoIndex;
+    PxFotoPaperType m_paperType = PxFotoPaperTypeUnknown;
+    QColor m_borderColor;
+    bool m_copyToWebAlbum = false;
+};

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "context/PxProductGroupProperties.h"
+
+#include <PxProductGroup.h>
+
+#include <QMap>
+
+/**
+ * The properties of each product group, born with defaults when they are first asked for.
+ *
+ * The instance is created on first use, from any thread; the properties belong to the thread of the
+ * user interface.
+ */
+class PXPRODUCTPROPERTIES_EXPORT PxProductGroupPropertyManager
+{
+public:
+    static PxProductGroupPropertyManager *instance();
+
+    /** Never null; owned by the manager and valid as long as the process. */
+    PxProductGroupProperties *productGroupProperties(const PxProductGroup &group);
+
+    QString fotoIndex(const PxProductGroup &group);
+    PxFotoPaperType paperType(const PxProductGroup &group);
+    QColor borderColor(const PxProductGroup &group);
+    bool copyToWebAlbum(const PxProductGroup &group);
+
+    void setFotoIndex(const PxProductGroup &group, const QString &fotoIndex);
+    void setPaperType(const PxProductGroup &group, PxFotoPaperType paperType);
+    void setBorderColor(const PxProductGroup &group, const QColor &borderColor);
+    void setCopyToWebAlbum(const PxProductGroup &group, bool copyToWebAlbum);
+
+private:
+    PxProductGroupPropertyManager() = default;
+    Q_DISABLE_COPY(PxProductGroupPropertyManager)
+
+    QMap<PxProductGroup, PxProductGroupProperties *> m_properties;
+};
