@@ -1,0 +1,115 @@
+#include "classification/PxProductTypeVariationListModel.h"
+
+#include "description/PxProductTypeConfigRegistry.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+QString paperName(const PxProductType &type)
+{
+    return PxProductTypeConfigRegistry::instance()->paperType(type).humanReadableName();
+}
+
+QString bindingName(const PxProductType &type)
+{
+    return PxProductTypeConfigRegistry::instance()->binding(type).humanReadableName();
+}
+
+} // namespace
+
+PxProductTypeVariationListModel::PxProductTypeVariationListModel(
+    const PxProductContext &context, PxProductComparationCriterion criterion)
+    : m_productContext(context)
+    , m_criterion(criterion)
+{
+    updateContent();
+}
+
+int PxProductTypeVariationListModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_products.size();
+}
+
+int PxProductTypeVariationListModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : 1;
+}
+
+QVariant PxProductTypeVariationListModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid() || index.row() >= m_products.size() || role != Qt::DisplayRole)
+        return QVariant();
+    switch (m_criterion) {
+    case PxProductComparationAllButPaperType:
+        return paperName(m_products[index.row()]);
+    case PxProductComparationAllButBinding:
+        return bindingName(m_products[index.row()]);
+    default:
+        return QVariant();
+    }
+}
+
+PxProductType PxProductTypeVariationListModel::productAt(int row) const
+{
+    return m_products.value(row);
+}
+
+QModelIndex PxProductTypeVariationListModel::indexOf(const PxProductType &type) const
+{
+    return index(m_products.indexOf(type));
+}
+
+QModelIndex PxProductTypeVariationListModel::indexOfCurrentProduct() const
+{
+    return indexOf(m_productContext.productType());
+}
+
+PxProductTypeList PxProductTypeVariationListModel::filterAllowedByTheme(
+    const PxProductTypeList &list) const
+{
+    const PxEmptyMeansAllSet<PxProductType> allowed =
+        m_productContext.theme().allowedProductTypes();
+    PxProductTypeList products;
+    std::copy_if(list.begin(), list.end(), std::back_inserter(products),
+                 [&allowed](const PxProductType &type) { return allowed.sharesKey(type); });
+    if (m_criterion == PxProductComparationAllButPaperType)
+        std::sort(products.begin(), products.end(), lessThanPaper);
+    else if (m_criterion == PxProductComparationAllButBinding)
+        std::sort(products.begin(), products.end(), lessThanBinding);
+    return products;
+}
+
+void PxProductTypeVariationListModel::setProductContext(const PxProductContext &context)
+{
+    if (context == m_productContext)
+        return;
+    m_productContext = context;
+    updateContent();
+}
+
+void PxProductTypeVariationListModel::updateContent()
+{
+    const PxProductTypeList products =
+        filterAllowedByTheme(PxProductTypeConfigRegistry::instance()->findCompatibleProducts(
+            m_productContext.productType(), m_criterion));
+    beginResetModel();
+    m_products = products;
+    endResetModel();
+}
+
+bool lessThanQString(const QString &a, const QString &b)
+{
+    return QString::compare(a, b, Qt::CaseSensitive) < 0;
+}
+
+bool lessThanBinding(const PxProductType &a, const PxProductType &b)
+{
+    return lessThanQString(bindingName(a), bindingName(b));
+}
+
+bool lessThanPaper(const PxProductType &a, const PxProductType &b)
+{
+    return lessThanQString(paperName(a), paperName(b));
+}

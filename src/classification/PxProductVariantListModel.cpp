@@ -1,0 +1,98 @@
+#include "classification/PxProductVariantListModel.h"
+
+#include "classification/PxProductVariantIdentifiers.h"
+
+namespace {
+
+QMap<QString, QColor> createColors()
+{
+    constexpr struct
+    {
+        const char *name;
+        QRgb color;
+    } rows[] = {
+        {"schwarz", qRgb(0, 0, 0)},      {"weiß", qRgb(255, 255, 255)},
+        {"weinrot", qRgb(175, 39, 93)},  {"gelb", qRgb(255, 209, 76)},
+        {"grün", qRgb(0, 89, 92)},       {"blau", qRgb(40, 21, 119)},
+        {"rot", qRgb(203, 0, 0)},        {"pink", qRgb(230, 0, 230)},
+        {"hellblau", qRgb(0, 255, 153)}, // Kept although replaced below, where the valid one is.
+        {"violett", qRgb(77, 0, 255)},   {"hellblau", qRgb(14, 166, 167)},
+    };
+    QMap<QString, QColor> colors;
+    for (const auto &row : rows)
+        colors.insert(QString::fromUtf8(row.name), QColor(row.color));
+    return colors;
+}
+
+} // namespace
+
+const QMap<QString, QColor> PxProductVariantListModel::ourColors = createColors();
+
+PxProductVariantListModel::PxProductVariantListModel(const PxProductType &type)
+{
+    setProduct(type);
+}
+
+QPixmap PxProductVariantListModel::colorDescriptionToPixmap(const QString &description)
+{
+    const auto color = ourColors.constFind(description.toLower());
+    if (color == ourColors.constEnd())
+        return QPixmap();
+    QPixmap swatch(100, 100);
+    swatch.fill(*color);
+    return swatch;
+}
+
+int PxProductVariantListModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_names.size();
+}
+
+int PxProductVariantListModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : 1;
+}
+
+QModelIndex PxProductVariantListModel::parent(const QModelIndex &) const
+{
+    return QModelIndex();
+}
+
+QVariant PxProductVariantListModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid() || index.row() >= m_names.size())
+        return QVariant();
+    switch (role) {
+    case Qt::DisplayRole:
+        return m_names[index.row()];
+    case Qt::DecorationRole:
+        return m_icons[index.row()];
+    default:
+        return QVariant();
+    }
+}
+
+int PxProductVariantListModel::indexOf(const QString &identifier) const
+{
+    return m_identifiers.indexOf(identifier);
+}
+
+QString PxProductVariantListModel::identifier(const QString &name) const
+{
+    return m_identifiers.value(m_names.indexOf(name));
+}
+
+void PxProductVariantListModel::setProduct(const PxProductType &type)
+{
+    const QMap<QString, QString> variants = PxProductVariantIdentifiers::instance()->variants(type);
+    beginResetModel();
+    m_product = type;
+    m_identifiers = variants.keys(); // sorted by the map, case-sensitively
+    m_names = variants.values();
+    m_icons.clear();
+    for (const QString &name : qAsConst(m_names)) {
+        m_sizeNeeded = qMax(m_sizeNeeded, name.size());
+        m_icons.append(QIcon(colorDescriptionToPixmap(name)));
+    }
+    endResetModel();
+}

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "PxProductPropertiesExport.h"
+
+#include <PxProductType.h>
+
+#include <QAbstractListModel>
+#include <QColor>
+#include <QIcon>
+#include <QList>
+#include <QMap>
+#include <QPixmap>
+#include <QStringList>
+
+/**
+ * The variants of one product type for a list view: a name a row, and a swatch where it is a
+ * colour.
+ *
+ * Rows are in the order of their identifiers, so that the default variant comes first. Swatches are
+ * pixmaps: model and swatches need a QGuiApplication and its thread.
+ */
+class PXPRODUCTPROPERTIES_EXPORT PxProductVariantListModel : public QAbstractListModel
+{
+    Q_OBJECT
+
+public:
+    explicit PxProductVariantListModel(const PxProductType &type);
+
+    /**
+     * A square of 100 x 100 pixels in the colour of this German name, in any case; null for any
+     * other text. Needs a QGuiApplication.
+     */
+    static QPixmap colorDescriptionToPixmap(const QString &description);
+
+    // As a list model
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex &parent = QModelIndex()) const override;
+    QModelIndex parent(const QModelIndex &child) const override;
+    using QObject::parent;
+    /** Names for Qt::DisplayRole, swatches for Qt::DecorationRole: a null icon for no colour. */
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+
+    // About the variants
+    PxProductType product() const { return m_product; }
+    /** The row of the identifier; -1 when it is not listed. */
+    int indexOf(const QString &identifier) const;
+    /** The identifier of the first row with this name; empty when there is none. */
+    QString identifier(const QString &name) const;
+    /** The length of the longest name that was ever listed: a view that is wide enough stays so. */
+    int sizeNeeded() const { return m_sizeNeeded; }
+
+    /** Resets the model. A product without variants has no rows. */
+    void setProduct(const PxProductType &type);
+
+private:
+    static const QMap<QString, QColor> ourColors; // by name in lower case
+
+    QStringList m_names;
+    QStringList m_identifiers;
+    QList<QIcon> m_icons;
+    PxProductType m_product;
+    int m_sizeNeeded = 0;
+};
