@@ -4,7 +4,7 @@ PRESET ?= release
 WERROR ?= OFF
 JOBS ?= 2
 BUILD = build/$(PRESET)
-PACKAGES = ccache cmake g++ ninja-build qtbase5-dev qttools5-dev-tools
+PACKAGES = ccache cmake g++ ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools
 ROOT = $(if $(filter 0,$(shell id -u)),,sudo)
 
 .PHONY: help demo check build setup clean

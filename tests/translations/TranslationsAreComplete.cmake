@@ -1,0 +1,15 @@
+# Compares the catalogue with the texts of the sources: a forgotten, changed or left-over one fails.
+
+set(copy ${SCRATCH}/compared.ts)
+configure_file(${CATALOGUE} ${copy} COPYONLY)
+execute_process(COMMAND ${LUPDATE} ${SOURCES} -locations none -ts ${copy} COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET)
+file(STRINGS ${copy} differences REGEX "type=\"(unfinished|vanished|obsolete)\"")
+if(differences)
+    list(LENGTH differences count)
+    message(FATAL_ERROR "${count} texts differ: update ${CATALOGUE} with lupdate and translate them; see ${copy}")
+endif()
+file(READ ${copy} updated)
+file(READ ${CATALOGUE} catalogue)
+if(NOT updated STREQUAL catalogue)
+    message(FATAL_ERROR "lupdate would change ${CATALOGUE}; see ${copy}")
+endif()
