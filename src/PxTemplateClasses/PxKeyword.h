@@ -51,4 +51,18 @@ ENUM decodeKeywordList(const QString &keywords, const QHash<QString, ENUM> &map,
     return static_cast<ENUM>(flags);
 }
 
+/** The keyword of a value, of several the shortest; `fallback` for a value that has none. */
+template <typename ENUM>
+QString encodeKeyword(ENUM value, const QHash<QString, ENUM> &map, const QString &fallback)
+{
+    QString shortest;
+    for (auto it = map.begin(); it != map.end(); ++it) {
+        const QString &keyword = it.key();
+        if (it.value() == value && (shortest.isNull() || keyword.size() < shortest.size() ||
+                                    (keyword.size() == shortest.size() && keyword < shortest)))
+            shortest = keyword;
+    }
+    return shortest.isNull() ? fallback : shortest;
+}
+
 } // namespace EnumHelper

@@ -20,8 +20,9 @@ QString bindingName(const PxProductType &type)
 } // namespace
 
 PxProductTypeVariationListModel::PxProductTypeVariationListModel(
-    const PxProductContext &context, PxProductComparationCriterion criterion)
-    : m_productContext(context)
+    const PxProductContext &context, PxProductComparationCriterion criterion, QObject *parent)
+    : QAbstractListModel(parent)
+    , m_productContext(context)
     , m_criterion(criterion)
 {
     updateContent();

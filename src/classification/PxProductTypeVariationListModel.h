@@ -19,7 +19,8 @@ class PXPRODUCTPROPERTIES_EXPORT PxProductTypeVariationListModel : public QAbstr
 
 public:
     PxProductTypeVariationListModel(const PxProductContext &context,
-                                    PxProductComparationCriterion criterion);
+                                    PxProductComparationCriterion criterion,
+                                    QObject *parent = nullptr);
 
     // As a list model
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
@@ -36,7 +37,8 @@ public:
     PxProductTypeList filterAllowedByTheme(const PxProductTypeList &list) const;
 
     // Changes
-    /** Resets the model, unless the context equals the present one. */
+    /** Resets the model, unless the contexts are equal, which the products of a theme do not
+     * decide. */
     void setProductContext(const PxProductContext &context);
     /** Asks for the products again, and resets the model. */
     void updateContent();
@@ -47,7 +49,7 @@ private:
     PxProductTypeList m_products;
 };
 
-/** By code point, never by the rules of a language. */
+/** By character code, never by the rules of a language. */
 PXPRODUCTPROPERTIES_EXPORT bool lessThanQString(const QString &a, const QString &b);
 /** By the display names of the bindings. */
 PXPRODUCTPROPERTIES_EXPORT bool lessThanBinding(const PxProductType &a, const PxProductType &b);

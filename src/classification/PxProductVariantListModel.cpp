@@ -28,7 +28,8 @@ QMap<QString, QColor> createColors()
 
 const QMap<QString, QColor> PxProductVariantListModel::ourColors = createColors();
 
-PxProductVariantListModel::PxProductVariantListModel(const PxProductType &type)
+PxProductVariantListModel::PxProductVariantListModel(const PxProductType &type, QObject *parent)
+    : QAbstractListModel(parent)
 {
     setProduct(type);
 }

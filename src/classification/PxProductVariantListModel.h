@@ -13,8 +13,8 @@
 #include <QStringList>
 
 /**
- * The variants of one product type for a list view: a name a row, and a swatch where it is a
- * colour.
+ * The variants of one product type for a list view: a name a row, and a swatch where that is the
+ * German name of a colour.
  *
  * Rows are in the order of their identifiers, so that the default variant comes first. Swatches are
  * pixmaps: model and swatches need a QGuiApplication and its thread.
@@ -24,7 +24,7 @@ class PXPRODUCTPROPERTIES_EXPORT PxProductVariantListModel : public QAbstractLis
     Q_OBJECT
 
 public:
-    explicit PxProductVariantListModel(const PxProductType &type);
+    explicit PxProductVariantListModel(const PxProductType &type, QObject *parent = nullptr);
 
     /**
      * A square of 100 x 100 pixels in the colour of this German name, in any case; null for any

@@ -1,12 +1,16 @@
 #include "context/PxProductContext.h"
 
 #include "description/PxProductTypeConfigRegistry.h"
+#include "geometry/PxClampedArithmetic.h"
 #include "themes/PxThemeFactory.h"
 
 #include <PxPageOrganizationManager.h>
 
 #include <QDebug>
 #include <QtMath>
+
+#include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -147,7 +151,9 @@ bool PxProductContext::isDuplex() const
 
 int PxProductContext::pagesPerProduct() const
 {
-    return numberOfPages() / productCount();
+    if (productCount() == 0)
+        return 0;
+    return pxClampedInt(qint64(numberOfPages()) / productCount());
 }
 
 bool PxProductContext::useTwoStoryBoards() const

@@ -2,7 +2,6 @@
 
 #include "context/PxProductContextImpl.h"
 #include "description/PxProductComparationCriterion.h"
-#include "geometry/PxMargins.h"
 #include "geometry/PxPageContext.h"
 #include "geometry/PxPageRotationRedirectList.h"
 #include "geometry/PxProductionExtraPageGroupList.h"
@@ -27,7 +26,7 @@
 class QDebug;
 
 /**
- * A product type together with the theme it is designed in: whom the application asks everything
+ * A product type together with the theme it is designed in: what the application asks everything
  * about the product it works on.
  *
  * One pointer wide; copies share the record, and a setter changes only the context it is called on.
@@ -67,9 +66,10 @@ public:
     bool isGift() const { return d->productType.isGift(); }
     bool isDeko() const { return d->productType.isDeko(); }
     bool startsWithLeftPage() const;
-    /** Same size and page increment, allowed by the theme; itself included. */
+    /** Interchangeable, with the same size and page increment, and allowed by the theme. */
     PxProductTypeList compatibleProducts() const;
-    /** Same size, allowed by the theme; itself included. */
+    /** The same with any page increment. The product itself is one of both, if its theme allows it.
+     */
     PxProductTypeList compatibleProductsWithTheSameSize() const;
     /** Theme, size class, orientation and paper are the same, whatever the product types are. */
     bool isVerySimilarTo(const PxProductContext &other) const;
@@ -88,7 +88,7 @@ public:
     /** How many products one order of it is. */
     int productCount() const;
     int numberOfPages() const;
-    /** Truncated; not to be asked of a product with a product count of 0. */
+    /** Truncated; 0 for a product count of 0. */
     int pagesPerProduct() const;
     /** Several products of several pages each. */
     bool useTwoStoryBoards() const;
@@ -107,10 +107,11 @@ public:
     double pageNumberHorizontalIndent() const;
 
     // Geometry and material
+    /** The page after trimming. Not for the spine, whose width needs a page count. */
     QSizeF usablePrintSize(const PxPageType &pageType) const;
-    /** Of a normal page; not finite when its height is 0. */
+    /** Of a normal page; not finite when its height is 0, and 1.0 for a product without a size. */
     double widthByHeight() const;
-    /** An icon of this width; the height is 0 when the product's sizes tell none. */
+    /** An icon of this width; its height is 0 when the ratio is 0 or not finite. */
     QSize optimumIconSizeSinglePage(int width) const;
     /** The same for a spread: two pages of a duplex product. */
     QSize optimumIconSize(int width) const;
@@ -151,6 +152,7 @@ public:
     /**
      * The template of a new page, by the theme or else by the theme "normal": the layout of a
      * double page, the background of a single one; with `useUserDefaults` the user's own first.
+     * A single empty page always has "Weiss".
      */
     QString defaultTemplateForPage(bool doublePage, const PxPageContext &pageContext,
                                    bool useUserDefaults) const;

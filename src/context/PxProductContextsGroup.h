@@ -1,6 +1,6 @@
 #pragma once
 
-#include "context/PxIndirectProductDescription.h"
+#include "description/PxIndirectProductDescription.h"
 #include "themes/PxThemeList.h"
 
 #include <PxProductTypeList.h>
@@ -34,6 +34,7 @@ public:
     QString themeName() const;
     /** The first admitted product in the first admitted theme; void unless both sets name some. */
     PxProductContext defaultContext() const;
+    /** Of the default context, else of the indirect description; not finite for a height of 0. */
     double defaultWidthHeightRatio() const;
 
     // Whether something fits

@@ -3,6 +3,7 @@
 #include <QRectF>
 #include <QtMath>
 
+#include <cmath>
 #include <limits>
 
 namespace {

@@ -1,7 +1,6 @@
 #pragma once
 
-/** What makes two products interchangeable beside orientation, spine and length of the page list;
- * flags. */
+/** What makes two products interchangeable, beside orientation, spine and page list. Flags. */
 enum PxProductComparationCriterion : int {
     PxProductComparationNone = 0,
     PxProductComparationBinding = 1,

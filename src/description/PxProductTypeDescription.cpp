@@ -43,9 +43,9 @@ PxProductTypeDescription::PxProductTypeDescription(const QDomElement &product)
     : m_classification(product)
 {
     readCounts(product);
-    m_imageFX = decodeKeywords(product, QStringLiteral("imageFXs"),
-                               EnumHelper::globalMapImageFXsString,
-                               EnumHelper::globalImageFXsDefaultValue);
+    m_imageFX =
+        decodeKeywords(product, QStringLiteral("imageFXs"), EnumHelper::globalMapImageFXsString,
+                       EnumHelper::globalImageFXsDefaultValue);
     m_assemblyWay = decodeKeywords(product, QStringLiteral("assemblyWay"),
                                    EnumHelper::globalMapAssemblyWayString,
                                    EnumHelper::globalAssemblyWayDefaultValue);

@@ -65,6 +65,8 @@ void PxPageConstraint::toXml(QDomElement &parent) const
         PxXMLBuilder::buildDomElement(parent, QStringLiteral("pagetype"), pageType.encodeCSV());
     // Each element is a single bit, so each child holds one keyword, or none for an unassigned bit.
     for (PxPageAlignment alignment : m_intendetAlignments)
-        PxXMLBuilder::buildDomElement(parent, QStringLiteral("intendetAlignment"),
-                                      EnumHelper::globalMapPageAlignmentString.key(alignment));
+        PxXMLBuilder::buildDomElement(
+            parent, QStringLiteral("intendetAlignment"),
+            EnumHelper::encodeKeyword(alignment, EnumHelper::globalMapPageAlignmentString,
+                                      QString()));
 }

@@ -9,33 +9,69 @@
 #include <QElapsedTimer>
 #include <QTest>
 
+using Ints = QList<int>;
+
 class PxProductTypeDescriptionTest : public QObject
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
-    void defaultBuiltRecordIsComplete();
     void emptyElementGetsTheKeywordTablesDefaults();
     void everyAttributeReachesItsOwnField();
-    void firstTrueCardStyleWins_data();
-    void firstTrueCardStyleWins();
-    void specialBleedReplacesTheCommonOne();
-    void foldMargin_data();
-    void foldMargin();
-    void bookSpinesGrowAtTheCostOfTheCover_data();
+    void specialAttributesReplaceTheCommonOnes();
+    void foldMarginFollowsTheOrientation();
     void bookSpinesGrowAtTheCostOfTheCover();
-    void backgroundDefaultsFollowTheProductClass_data();
     void backgroundDefaultsFollowTheProductClass();
-    void orientationAndSpaceOfTheSizeComeFirst();
-    void userDefaults_data();
-    void userDefaults();
+    void userDefaultsComeFirst();
     void extremeNumbersAreClamped();
     void millionsOfCombinationsAnswerAtOnce();
+    void pageCountsComeFromTheSpines();
+    void pageRangesExpandToThePageCount();
+    void printSizeDependsOnTheKindOfPage();
+    void wrongQuestionsAreReported();
+    void bleedIsLeftOutAtTheBinding();
+    void pageAlignmentFollowsSpineAndCardStyle();
+    void productionNumberingIsCutAndContinued();
+    void compatibilityAsksWhatTheCriterionNames();
+    void validityNeedsBindingOrientationAndSize();
 
 private:
     PxCatalogueDirectory m_directory;
 };
+
+namespace {
+
+const QString ourSize = "<usablesize width='1000' height='2000'/>";
+
+PxProductTypeDescription describe(const QString &attributes, const QString &children = "")
+{
+    return PxProductTypeDescription(
+        pxElement("<product " + attributes + ">" + children + "</product>"));
+}
+
+QString spines(const Ints &pageCounts)
+{
+    QString elements;
+    for (int pages : pageCounts)
+        elements += QString("<spine pages='%1' width='%2'/>").arg(pages).arg(pages * 10);
+    return "<spines>" + elements + "</spines>";
+}
+
+QString pages(const QString &list)
+{
+    return "<pages>" + list + "</pages>";
+}
+
+Ints pageTypes(const QString &children, int pageCount)
+{
+    Ints values;
+    for (const PxPageType &pageType : describe("", children).pageTypes(pageCount))
+        values.append(pageType.value());
+    return values;
+}
+
+} // namespace
 
 void PxProductTypeDescriptionTest::initTestCase()
 {
@@ -43,335 +79,383 @@ void PxProductTypeDescriptionTest::initTestCase()
                                   "5 card CARD\n6 deko CANVAS\n7 print PRINT");
 }
 
-void PxProductTypeDescriptionTest::defaultBuiltRecordIsComplete()
-{
-    const PxProductTypeDescription description;
-    QVERIFY(!description.isValid());
-    QCOMPARE(description.binding().value(), 0);
-    QCOMPARE(description.paperType().value(), 0);
-    QCOMPARE(description.spaceMagnitude().value(), 0);
-    QCOMPARE(int(description.assemblyWay()), 0);
-    QVERIFY(!description.supportsJigType(PxJigType(QStringLiteral("background,layout,content"))));
-    QVERIFY(description.canHaveBorder() && description.canHaveShadow());
-    QVERIFY(!description.fullBackgroundOnEachPage());
-    QVERIFY(description.hasAssistant() && description.horizontalPages());
-    QCOMPARE(description.coverSize(), QSize(-1, -1));
-    QCOMPARE(description.defaultSellingPages(), -1);
-    QVERIFY(!description.legacyProduct().isValid());
-    QVERIFY(!description.hasPages() && !description.hasCover());
-}
-
 void PxProductTypeDescriptionTest::emptyElementGetsTheKeywordTablesDefaults()
 {
+    const auto numbers = [](const PxProductTypeDescription &d) {
+        return Ints{d.binding().value(), d.paperType().value(), d.spaceMagnitude().value(),
+                    int(d.assemblyWay()), int(d.pageNamingStyle())};
+    };
+    const PxProductTypeDescription none;
+    QVERIFY(!none.isValid() && !none.legacyProduct().isValid() && !none.hasCover());
+    QVERIFY(!none.supportsJigType(PxJigType("background,layout,content")));
+    QCOMPARE(numbers(none), Ints({0, 0, 0, 0, 0}));
+    QCOMPARE(none.coverSize(), QSize(-1, -1));
+
     const PxLogRecorder log;
-    const PxProductTypeDescription description(pxElement(QStringLiteral("<product/>")));
-    QCOMPARE(description.binding().value(), PxBindingGift);
-    QCOMPARE(description.paperType().value(), PxPaperTypeIndigo);
-    QCOMPARE(description.spaceMagnitude().value(), PxSpaceMagnitudeAny);
-    QCOMPARE(description.assemblyWay(), PxAssemblyWayFactory);
-    QCOMPARE(int(description.pageNamingStyle()), 0);
+    const PxProductTypeDescription empty = describe("");
+    QCOMPARE(numbers(empty), Ints({PxBindingGift, PxPaperTypeIndigo, PxSpaceMagnitudeAny, 2, 0}));
     for (const char *jigType : {"background", "clipart", "content", "layout", "passepartout"})
-        QVERIFY2(description.supportsJigType(PxJigType(QString::fromLatin1(jigType))), jigType);
-    QVERIFY(!description.supportsJigType(PxJigType(QStringLiteral("style,frame"))));
-    QVERIFY(description.canHaveBorder() && description.canHaveShadow());
-    QCOMPARE(description.explicitNumberOfProducts(), 1);
-    QCOMPARE(description.explicitNumberOfNormalPages(), 1);
-    QCOMPARE(description.pageNumberHorizontalIndent(), 50.0);
-    QCOMPARE(description.pageNumberVerticalIndent(), 50.0);
-    QCOMPARE(description.pageNumberFontSize(), 24);
-    QCOMPARE(description.foldMargin(), 0);
-    QCOMPARE(description.countAbstractPages(), 0);
-    QVERIFY(!description.limitBackgroundCategories());
+        QVERIFY2(empty.supportsJigType(PxJigType(jigType)), jigType);
+    QVERIFY(!empty.supportsJigType(PxJigType("style,frame")));
+    for (const PxProductTypeDescription &d : {none, empty}) {
+        QVERIFY(d.canHaveBorder() && d.canHaveShadow() && d.hasAssistant() && d.horizontalPages());
+        QVERIFY(!d.limitBackgroundCategories() && !d.fullBackgroundOnEachPage() && !d.hasPages());
+        QCOMPARE(Ints({d.defaultSellingPages(), d.explicitNumberOfProducts(),
+                       d.explicitNumberOfNormalPages(), d.pageNumberFontSize(), d.foldMargin()}),
+                 Ints({-1, 1, 1, 24, 0}));
+        QCOMPARE(d.pageNumberHorizontalIndent() + d.pageNumberVerticalIndent(), 100.0);
+    }
     QCOMPARE(log.texts(), QStringList());
 }
 
 void PxProductTypeDescriptionTest::everyAttributeReachesItsOwnField()
 {
-    const QFileInfo file(QStringLiteral(PX_TEST_DATA_DIRECTORY "/distinct-values.xml"));
-    const QDomElement product =
-        PxXMLLoader::loadDocumentElement(file).firstChildElement(QStringLiteral("product"));
-    const PxProductTypeDescription d(product);
+    const QFileInfo file(PX_TEST_DATA_DIRECTORY "/distinct-values.xml");
+    const PxProductTypeDescription d(
+        PxXMLLoader::loadDocumentElement(file).firstChildElement("product"));
 
     QVERIFY(d.isValid());
-    QCOMPARE(d.safetyMargin(), 31);
-    QCOMPARE(d.safetyMargins().totalMarginWH(), QSize(62, 62));
-    QCOMPARE(d.defaultSellingPages(), 32);
-    QCOMPARE(d.explicitNumberOfProducts(), 33);
-    QCOMPARE(d.explicitNumberOfNormalPages(), 34);
-    QCOMPARE(d.normalPageHorizontalClamp(), 35);
-    QCOMPARE(int(d.imageFX()), 5);
-    QVERIFY(!d.canHaveBorder() && !d.canHaveShadow());
-    QCOMPARE(d.assemblyWay(), PxAssemblyWayClient);
-    QCOMPARE(d.binding().value(), PxBindingClamp);
-    QCOMPARE(d.paperType().value(), PxPaperTypeFotoPaperGlossy);
-    QVERIFY(d.supportsJigType(PxJigTypeContent) && d.hasContentCategoryBox());
-    QVERIFY(!d.supportsJigType(PxJigTypeLayout));
-    QVERIFY(d.supportsJigType(PxJigTypePassepartout));
-    QVERIFY(!d.supportsJigType(PxJigTypeClipart));
-    QVERIFY(d.supportsJigType(PxJigTypeBackground));
-    QVERIFY(!d.hasAssistant());
-    QVERIFY(!d.horizontalPages());
-    QVERIFY(!d.hasCardStyleAlignment());
-    QCOMPARE(d.numberOfSpiralLoops(), 36);
-    QVERIFY(d.hasHook() && d.hasHole());
-    QCOMPARE(d.editorStartDoublePage(), 37);
-    QVERIFY(d.mustPaintVemoLogoOnSpine());
-    QCOMPARE(int(d.pageNamingStyle()), 32 + 16);
-    QCOMPARE(d.foldMargin(), 38);
+    QCOMPARE(Ints({d.safetyMargin(), d.defaultSellingPages(), d.explicitNumberOfProducts(),
+                   d.explicitNumberOfNormalPages(), d.normalPageHorizontalClamp(),
+                   d.numberOfSpiralLoops(), d.editorStartDoublePage(), d.foldMargin()}),
+             Ints({31, 32, 33, 34, 35, 36, 37, 38}));
+    QCOMPARE(Ints({d.hasContentCategoryBox(), d.supportsJigType(PxJigTypeContent),
+                   d.supportsJigType(PxJigTypeLayout), d.supportsJigType(PxJigTypePassepartout),
+                   d.supportsJigType(PxJigTypeClipart), d.supportsJigType(PxJigTypeBackground)}),
+             Ints({1, 1, 0, 1, 0, 1}));
+    QCOMPARE(Ints({d.hasAssistant(), d.horizontalPages(), d.hasCardStyleAlignment(), d.hasHook(),
+                   d.hasHole(), d.mustPaintVemoLogoOnSpine(), d.fullBackgroundOnEachPage(),
+                   d.canHaveBorder(), d.canHaveShadow(), d.hasSpine(), d.hasCover()}),
+             Ints({0, 0, 0, 1, 1, 1, 1, 0, 0, 1, 1}));
+    QCOMPARE(
+        Ints({int(d.imageFX()), int(d.assemblyWay()), d.binding().value(), d.paperType().value(),
+              int(d.pageNamingStyle()), d.orientation().value(), d.spaceMagnitude().value()}),
+        Ints({5, PxAssemblyWayClient, PxBindingClamp, PxPaperTypeFotoPaperGlossy, 32 + 16,
+              PxOrientationPortrait, PxSpaceMagnitude600}));
     QCOMPARE(d.legacyProduct(), PxProductType(2));
+    QCOMPARE(d.safetyMargins().totalMarginWH(), QSize(62, 62));
     QCOMPARE(d.bleedMarginNormal(), PxBleedMargin(40, 41));
     QCOMPARE(d.bleedMarginCover(), PxBleedMargin(43, 44));
     QCOMPARE(d.coverSize(), QSize(2050 + 56 - 10, 2700 + 45));
-    QCOMPARE(d.orientation().value(), PxOrientationPortrait);
-    QCOMPARE(d.spaceMagnitude().value(), PxSpaceMagnitude600);
-    QVERIFY(d.fullBackgroundOnEachPage());
-    QStringList categories = d.allowedBackgroundCategories().toDataStringList();
-    categories.sort();
-    QCOMPARE(categories, QStringList({QStringLiteral(" Stadt"), QStringLiteral("Einfarbig"),
-                                      QStringLiteral("Natur")}));
+    const PxPageSizeSpec normalPage = d.sizeSpec(PxPageSizeKey({}, 20));
+    QCOMPARE(normalPage.totalSize(), QSize(2050 + 40, 2700 + 2 * 41));
+    const PxPageContext cover(PxPageTypeFullCover, PxPageAlignmentLeft);
+    QCOMPARE(Ints({normalPage.horizontalClampExtra(), normalPage.safetyMargins().left(),
+                   normalPage.orientation().value(),
+                   d.sizeSpec(PxPageSizeKey(cover, 20)).horizontalClampExtra()}),
+             Ints({35, 31, PxOrientationPortrait, 0}));
+    QCOMPARE(Ints({d.spineWidth(24), d.spineMaxFontHeight(24), d.spineWidth(28),
+                   d.spineMaxFontHeight(28), d.minPages(), d.maxPages(), d.countAbstractPages(),
+                   d.classification().areaSize(), d.contentDropRedirect(67),
+                   int(d.pageNumberVerticalIndent()), int(d.pageNumberHorizontalIndent()),
+                   d.pageNumberFontSize()}),
+             Ints({47 + 20, 48, 55 + 20, 57, 24, 40, 3, 2050 * 2700, 68, 79, 80, 81}));
 
-    QCOMPARE(d.classification().sizeName(true), QStringLiteral("20x27"));
-    QCOMPARE(d.classification().sizeName(false), QStringLiteral("8x11"));
-    QCOMPARE(d.classification().material(), PxProductMaterial(QStringLiteral("Leinwand")));
-    QCOMPARE(d.classification().areaSize(), 2050 * 2700);
-    QCOMPARE(d.spineWidth(24), 47 + 20);
-    QCOMPARE(d.spineMaxFontHeight(24), 48);
-    QCOMPARE(d.spineWidth(28), 55 + 20);
-    QCOMPARE(d.spineMaxFontHeight(28), 57);
-    QCOMPARE(d.minPages(), 24);
-    QCOMPARE(d.maxPages(), 40);
-    QVERIFY(d.hasSpine() && d.hasCover());
-    QCOMPARE(d.countAbstractPages(), 3);
-
-    const PxSurroundingDescription surrounding =
-        d.findSurrounding(PxSurroundingKey(PxPageContext(), 58));
+    const auto surrounding = d.findSurrounding(PxSurroundingKey(PxPageContext(), 58));
     QCOMPARE(surrounding.surroundingType(), PxSurroundingTypePhotoPaperBook);
     QCOMPARE(surrounding.imageRect(), QRect(59, 60, 61, 62));
     QCOMPARE(d.rotationRedirectForSourcePage(63).value(0), PxPageRotationRedirect(63, 64, 65));
     QCOMPARE(d.rotationRedirectForTargetPage(64).value(0), PxPageRotationRedirect(63, 64, 65));
-    QCOMPARE(d.contentDropRedirect(67), 68);
-    QCOMPARE(d.findDefaultTemplate(
-                 PxDefaultTemplateKey(QStringLiteral("normal"), {}, DefaultTemplateTypeLayout),
-                 false, false),
-             QStringLiteral("layoutÄss"));
+    const PxDefaultTemplateKey key("normal", {}, DefaultTemplateTypeLayout);
+    QStringList categories = d.allowedBackgroundCategories().toDataStringList();
+    categories.sort();
+    QCOMPARE(categories, QStringList({" Stadt", "Einfarbig", "Natur"}));
     const PxBarcode barcode = d.barcodeOnPage(100 - 73, 100);
     QCOMPARE(barcode.rect(), QRect(69, 70, 71, 72));
-    QCOMPARE(barcode.imageName(), QStringLiteral("bar.png"));
-    QCOMPARE(d.variantDescription(), QStringLiteral("color"));
-    QCOMPARE(d.variants(),
-             QStringList({QStringLiteral("color:red"), QStringLiteral("color:blue")}));
-    QCOMPARE(d.productionNumberingList(3), QList<int>({74, 76, 77}));
-    QVERIFY(d.contentAllowedOnPage(77) && d.contentAllowedOnPage(78));
-    QVERIFY(!d.contentAllowedOnPage(76));
-    QCOMPARE(d.pageNumberVerticalIndent(), 79.0);
-    QCOMPARE(d.pageNumberHorizontalIndent(), 80.0);
-    QCOMPARE(d.pageNumberFontSize(), 81);
+    QCOMPARE(
+        QStringList({d.classification().sizeName(true), d.classification().sizeName(false),
+                     d.findDefaultTemplate(key, false, false), barcode.imageName(),
+                     d.variantDescription()}) +
+            d.variants(),
+        QStringList({"20x27", "8x11", "layoutÄss", "bar.png", "color", "color:red", "color:blue"}));
+    QCOMPARE(d.classification().material(), PxProductMaterial("Leinwand"));
+    QCOMPARE(d.productionNumberingList(3), Ints({74, 76, 77}));
+    QVERIFY(!d.contentAllowedOnPage(76) && d.contentAllowedOnPage(77) &&
+            d.contentAllowedOnPage(78));
     const PxProductionExtraPageGroup extra = d.extraProductionContents().value(0);
-    QCOMPARE(extra.targetPages(), QList<int>({82, 83}));
-    QCOMPARE(extra.content(),
-             PxProductionExtraPage(QStringLiteral("sheet.pdf"), QStringLiteral("back"), 84));
+    QCOMPARE(extra.targetPages(), Ints({82, 83}));
+    QCOMPARE(extra.content(), PxProductionExtraPage("sheet.pdf", "back", 84));
 }
 
-void PxProductTypeDescriptionTest::firstTrueCardStyleWins_data()
+void PxProductTypeDescriptionTest::specialAttributesReplaceTheCommonOnes()
 {
-    QTest::addColumn<QString>("attributes");
-    QTest::addColumn<int>("alignmentOfPage2");
-    // A one-sided product shows the style: none is right, card and college block change sides.
-    QTest::newRow("none") << "" << 2;
-    QTest::newRow("card before vario")
-        << "cardStyleAlignment='true' varioSingleCardStyleAlignment='true'" << 1;
-    QTest::newRow("vario before college block")
-        << "varioSingleCardStyleAlignment='true' collegeBlockStyleAlignment='true'" << 4;
-    QTest::newRow("college block alone")
-        << "cardStyleAlignment='false' collegeBlockStyleAlignment='true'" << 1;
+    const PxProductTypeDescription bleed =
+        describe("bleedmargin='30' bleedmarginvertical='10' bleedmargincoverhorizontal='7'");
+    QCOMPARE(bleed.bleedMarginNormal(), PxBleedMargin(30, 10));
+    QCOMPARE(bleed.bleedMarginCover(), PxBleedMargin(7, 0));
+
+    const QString size = "<usablesize width='1' height='2' space=''/>";
+    QCOMPARE(describe("", size).orientation().value(), PxOrientationPortrait);
+    const PxProductTypeDescription panorama = describe("orientation='panorama' space='xl'", size);
+    QCOMPARE(panorama.orientation().value(), PxOrientationPanorama);
+    QCOMPARE(panorama.spaceMagnitude().value(), PxSpaceMagnitude900);
 }
 
-void PxProductTypeDescriptionTest::firstTrueCardStyleWins()
+void PxProductTypeDescriptionTest::foldMarginFollowsTheOrientation()
 {
-    QFETCH(QString, attributes);
-    const PxProductTypeDescription description(
-        pxElement(QStringLiteral("<product binding='CALENDAR_SIMPLEX' %1/>").arg(attributes)));
-    QTEST(int(description.pageAlignment(2)), "alignmentOfPage2");
-    QCOMPARE(description.hasCardStyleAlignment(),
-             attributes.startsWith(QLatin1String("cardStyleAlignment='true'")));
-}
-
-void PxProductTypeDescriptionTest::specialBleedReplacesTheCommonOne()
-{
-    const PxProductTypeDescription description(pxElement(QStringLiteral(
-        "<product bleedmargin='30' bleedmarginvertical='10' bleedmargincoverhorizontal='7'/>")));
-    QCOMPARE(description.bleedMarginNormal(), PxBleedMargin(30, 10));
-    QCOMPARE(description.bleedMarginCover(), PxBleedMargin(7, 0));
-}
-
-void PxProductTypeDescriptionTest::foldMargin_data()
-{
-    QTest::addColumn<QString>("product");
-    QTest::addColumn<int>("foldMargin");
-    const QString shade = QStringLiteral(
-        "<product %1><usablesize %2/><surroundings><surrounding hasbindingshade='true'/>"
-        "</surroundings></product>");
-    const QString none;
-    QTest::newRow("portrait") << shade.arg(none, "width='2050' height='2700'") << 110;
-    QTest::newRow("landscape") << shade.arg(none, "width='2700' height='2050'") << 110;
-    QTest::newRow("quadratic") << shade.arg(none, "width='2050' height='2050'") << 91;
-    QTest::newRow("round") << shade.arg(none, "width='2050' height='2050' orientation='round'")
-                           << 0;
-    QTest::newRow("stated") << shade.arg("foldmargin='7'", "width='2050' height='2050'") << 7;
-    QTest::newRow("negative size")
-        << shade.arg(none, "width='-5' height='9' orientation='portrait'") << 0;
-    QTest::newRow("no shade") << QStringLiteral("<product><usablesize width='9' height='9'/>"
-                                                "</product>")
-                              << 0;
-}
-
-void PxProductTypeDescriptionTest::foldMargin()
-{
-    QFETCH(QString, product);
-    QTEST(PxProductTypeDescription(pxElement(product)).foldMargin(), "foldMargin");
-}
-
-void PxProductTypeDescriptionTest::bookSpinesGrowAtTheCostOfTheCover_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("spines");
-    QTest::addColumn<int>("spineWidth");
-    QTest::addColumn<int>("coverWidth");
-    QTest::newRow("book") << "PROBEBOOK"
-                          << "<spine pages='24' width='40'/>" << 60 << 1090;
-    QTest::newRow("book without spines") << "PROBEBOOK"
-                                         << "" << 0 << 1100;
-    QTest::newRow("smallest count without spine")
-        << "PROBEBOOK"
-        << "<spine pages='24' width='40'/><spine pages='22'/>" << 40 << 1100;
-    QTest::newRow("no book") << "CARD"
-                             << "<spine pages='24' width='40'/>" << 40 << 1100;
-    QTest::newRow("widest spine") << "PROBEBOOK"
-                                  << "<spine pages='24' width='2147483640'/>" << 2147483647 << 1090;
+    const QString shade = "<surroundings><surrounding hasbindingshade='true'/></surroundings>";
+    const auto foldMargin = [](int width, int height, const QString &more,
+                               const QString &attributes = "") {
+        return describe(attributes,
+                        QString("<usablesize width='%1' height='%2'/>").arg(width).arg(height) +
+                            more)
+            .foldMargin();
+    };
+    QCOMPARE(foldMargin(2050, 2700, shade), 110);
+    QCOMPARE(foldMargin(2700, 2050, shade), 110);
+    QCOMPARE(foldMargin(2050, 2050, shade), 91);
+    QCOMPARE(foldMargin(2050, 2050, shade, "orientation='round'"), 0);
+    QCOMPARE(foldMargin(2050, 2050, shade, "foldmargin='7'"), 7);
+    QCOMPARE(foldMargin(-5, 9, shade, "orientation='portrait'"), 0);
+    QCOMPARE(foldMargin(2050, 2050, ""), 0);
 }
 
 void PxProductTypeDescriptionTest::bookSpinesGrowAtTheCostOfTheCover()
 {
-    QFETCH(QString, name);
-    QFETCH(QString, spines);
-    const PxProductTypeDescription description(
-        pxElement(QStringLiteral("<product name='%1' coverextrahorizontal='100'><spines>%2</spines>"
-                                 "<usablesize width='1000' height='900'/></product>")
-                      .arg(name, spines)));
-    QTEST(description.spineWidth(24), "spineWidth");
-    QTEST(description.coverSize().width(), "coverWidth");
-}
-
-void PxProductTypeDescriptionTest::backgroundDefaultsFollowTheProductClass_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("isFullBackground");
-    QTest::addColumn<bool>("isLimited");
-    QTest::newRow("book") << "PROBEBOOK" << false << false;
-    QTest::newRow("calendar") << "CAL" << true << false;
-    QTest::newRow("gift") << "CUP" << true << false;
-    QTest::newRow("card") << "CARD" << true << false;
-    QTest::newRow("decoration") << "CANVAS" << false << true;
+    const auto widths = [](const QString &name, const QString &spines) {
+        const PxProductTypeDescription d =
+            describe("coverextrahorizontal='100' name='" + name + "'",
+                     "<spines>" + spines + "</spines><usablesize width='1000' height='900'/>");
+        return Ints{d.spineWidth(24), d.coverSize().width()};
+    };
+    const QString spine = "<spine pages='24' width='40'/>";
+    QCOMPARE(widths("PROBEBOOK", spine), Ints({60, 1090}));
+    QCOMPARE(widths("CARD", spine), Ints({40, 1100}));
+    QCOMPARE(widths("PROBEBOOK", ""), Ints({0, 1100}));
+    QCOMPARE(widths("PROBEBOOK", spine + "<spine pages='22'/>"), Ints({40, 1100}));
 }
 
 void PxProductTypeDescriptionTest::backgroundDefaultsFollowTheProductClass()
 {
-    QFETCH(QString, name);
-    QFETCH(bool, isLimited);
-    const PxProductTypeDescription description(
-        pxElement(QStringLiteral("<product name='%1'/>").arg(name)));
-    QTEST(description.fullBackgroundOnEachPage(), "isFullBackground");
-    QCOMPARE(description.limitBackgroundCategories(), isLimited);
-    QCOMPARE(description.allowedBackgroundCategories().toDataStringList(),
-             isLimited ? QStringList(QStringLiteral("Einfarbig")) : QStringList());
+    QStringList answers;
+    for (const char *name : {"PROBEBOOK", "CAL", "CUP", "CARD", "CANVAS", "PRINT"}) {
+        const PxProductTypeDescription d = describe(QString("name='%1'").arg(name));
+        answers += QString::number(d.fullBackgroundOnEachPage()) +
+                   d.allowedBackgroundCategories().toDataStringList().join(",");
+        QCOMPARE(d.limitBackgroundCategories(), answers.last() == "0Einfarbig");
+    }
+    QCOMPARE(answers, QStringList({"0", "1", "1", "1", "0Einfarbig", "0"}));
 }
 
-void PxProductTypeDescriptionTest::orientationAndSpaceOfTheSizeComeFirst()
+void PxProductTypeDescriptionTest::userDefaultsComeFirst()
 {
-    const PxProductTypeDescription fromProduct(pxElement(QStringLiteral(
-        "<product orientation='panorama' space='xl'><usablesize width='1' height='2' space=''/>"
-        "</product>")));
-    QCOMPARE(fromProduct.orientation().value(), PxOrientationPanorama);
-    QCOMPARE(fromProduct.spaceMagnitude().value(), PxSpaceMagnitude900);
-    const PxProductTypeDescription fromSize(
-        pxElement(QStringLiteral("<product><usablesize width='1' height='2'/></product>")));
-    QCOMPARE(fromSize.orientation().value(), PxOrientationPortrait);
-}
-
-void PxProductTypeDescriptionTest::userDefaults_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QString>("background");
     const QByteArray defaults = "<u><defaults><defaults pageType='normalpage' alignment='left' "
                                 "background='mine'/></defaults></u>";
-    QTest::newRow("read") << "user/A" << defaults << "mine";
-    QTest::newRow("with declaration") << "user/B"
-                                      << "<?xml version='1.0'?>" + defaults << "file";
-    QTest::newRow("damaged") << "user/C" << defaults.left(60) << "file";
-    QTest::newRow("missing") << "user/D" << QByteArray() << "file";
-    QTest::newRow("outside of the directory") << "user/../E" << defaults << "file";
-}
-
-void PxProductTypeDescriptionTest::userDefaults()
-{
-    QFETCH(QString, name);
-    QFETCH(QByteArray, file);
-    m_directory.write("user/keep", "");
-    if (!file.isEmpty())
-        m_directory.write(qPrintable(name + QStringLiteral(".xml")), file);
+    m_directory.write("user/READ.xml", defaults);
+    m_directory.write("user/DECLARATION.xml", "<?xml version='1.0'?>" + defaults);
+    m_directory.write("user/DAMAGED.xml", defaults.left(60));
+    m_directory.write("OUTSIDE.xml", defaults);
     const PxLogRecorder log;
-    const PxProductTypeDescription description(
-        pxElement(QStringLiteral("<product name='%1'><defaults><defaults pageType='normalpage' "
-                                 "alignment='left' background='file'/></defaults></product>")
-                      .arg(name.mid(5))));
-    const PxDefaultTemplateKey key(QStringLiteral("normal"), {}, DefaultTemplateTypeBackground);
-    QTEST(description.findDefaultTemplate(key, true, true), "background");
-    QCOMPARE(description.findDefaultTemplate(key, true, false), QStringLiteral("file"));
+    for (const QString name : {"READ", "DECLARATION", "DAMAGED", "MISSING", "../OUTSIDE"}) {
+        const PxProductTypeDescription d =
+            describe("name='" + name + "'", "<defaults><defaults pageType='normalpage' "
+                                            "alignment='left' background='file'/></defaults>");
+        const PxDefaultTemplateKey key("normal", {}, DefaultTemplateTypeBackground);
+        QCOMPARE(name + d.findDefaultTemplate(key, true, true),
+                 name + (name == "READ" ? "mine" : "file"));
+        QCOMPARE(d.findDefaultTemplate(key, true, false), QString("file"));
+    }
     QCOMPARE(log.texts(), QStringList());
 }
 
 void PxProductTypeDescriptionTest::extremeNumbersAreClamped()
 {
-    const PxProductTypeDescription description(pxElement(QStringLiteral(
-        "<product name='PROBEBOOK' coverextrahorizontal='2147483647' "
-        "coverextravertical='-2147483648' bleedmargin='2147483647' safetymargin='2147483647'>"
+    const int max = 2147483647;
+    const PxProductTypeDescription d = describe(
+        "name='PROBEBOOK' coverextrahorizontal='2147483647' coverextravertical='-2147483648' "
+        "bleedmargin='2147483647' safetymargin='2147483647'",
         "<usablesize width='2147483647' height='2147483647'/>"
-        "<spines><spine pages='-2147483648' width='2147483647'/><spine pages='2147483646'/>"
+        "<spines><spine pages='-2147483648' width='2147483640'/><spine pages='2147483646'/>"
         "<spine pages='2147483647'/></spines>"
-        "<productionnumbering>2147483647</productionnumbering></product>")));
-    QCOMPARE(description.coverSize(), QSize(2147483647, -1));
-    QCOMPARE(description.spineWidth(description.minPages()), 2147483647);
-    QCOMPARE(description.pageIncrement(), 2147483647);
-    QCOMPARE(description.productionNumberingList(2), QList<int>({2147483647, 2147483647}));
-    QCOMPARE(description.sizeSpec(PxPageSizeKey()).totalSize(), QSize(2147483647, 2147483647));
-    QCOMPARE(description.safetyMargins().totalMarginWH(), QSize(2147483647, 2147483647));
-    QCOMPARE(description.classification().areaSize(), 2147483647);
+        "<productionnumbering>2147483647</productionnumbering>");
+    QCOMPARE(d.coverSize(), QSize(max, -1));
+    QCOMPARE(d.sizeSpec(PxPageSizeKey()).totalSize(), QSize(max, max));
+    QCOMPARE(d.safetyMargins().totalMarginWH(), QSize(max, max));
+    QCOMPARE(d.productionNumberingList(2), Ints({max, max}));
+    QCOMPARE(Ints({d.spineWidth(d.minPages()), d.pageIncrement(), d.classification().areaSize()}),
+             Ints({max, max, max}));
 }
 
 void PxProductTypeDescriptionTest::millionsOfCombinationsAnswerAtOnce()
 {
     QString themes;
     for (int i = 0; i < 100000; ++i)
-        themes += QStringLiteral("t%1,").arg(i);
-    const QString pages = QStringLiteral("normalpage,").repeated(20000) + QStringLiteral("spine");
-    const QString sides = QStringLiteral("left,").repeated(20000) + QStringLiteral("top");
-    const QDomElement product = pxElement(
-        QStringLiteral("<product><contentredirects><contentredirect from='0-2147483647' to='3'/>"
-                       "</contentredirects><defaults><defaults theme='%1' pageType='%2' "
-                       "alignment='%3' layout='l'/></defaults></product>")
-            .arg(themes, pages, sides));
+        themes += QString("t%1,").arg(i);
+    const QString pages = QString("normalpage,").repeated(20000) + "spine";
+    const QString sides = QString("left,").repeated(20000) + "top";
     QElapsedTimer timer;
     timer.start();
-    const PxProductTypeDescription description(product);
-    QCOMPARE(description.contentDropRedirect(2147483647), 3);
-    QCOMPARE(description.findDefaultTemplate(
-                 PxDefaultTemplateKey(QStringLiteral("t99999"),
-                                      PxPageContext(PxPageTypeSpine, PxPageAlignmentTop),
-                                      DefaultTemplateTypeLayout),
+    const PxLogRecorder log;
+    const PxProductTypeDescription d = describe(
+        "", "<contentredirects><contentredirect from='0-2147483647' to='3'/></contentredirects>"
+            "<pages>" +
+                pages + "</pages><defaults><defaults theme='" + themes + "' pageType='" + pages +
+                "' alignment='" + sides + "' layout='l'/></defaults>");
+    QCOMPARE(d.contentDropRedirect(2147483647), 3);
+    QCOMPARE(d.findDefaultTemplate(
+                 {"t99999", {PxPageTypeSpine, PxPageAlignmentTop}, DefaultTemplateTypeLayout},
                  false, false),
-             QStringLiteral("l"));
+             QString("l"));
+    QCOMPARE(d.countAbstractPages(), 1000);
+    QCOMPARE(log.texts(), QStringList("PxProductTypeDescription::readPages 20001 entries in "
+                                      "\"pages\", used are the first 1000"));
     QVERIFY2(timer.elapsed() < 10000, "the lists must not be multiplied out");
+}
+
+void PxProductTypeDescriptionTest::pageCountsComeFromTheSpines()
+{
+    const auto counts = [](const Ints &pageCounts) {
+        const PxProductTypeDescription d = describe("", spines(pageCounts));
+        return Ints{d.minPages(), d.maxPages(), d.pageIncrement()};
+    };
+    const int max = 2147483647;
+    QCOMPARE(counts({40, 24, 30, 28, 26}), Ints({24, 40, 2})); // the last step is no increment
+    QCOMPARE(counts({24, 26}), Ints({24, 26, -max - 1}));
+    QCOMPARE(counts({}), Ints({max, -max - 1, -max - 1}));
+}
+
+void PxProductTypeDescriptionTest::pageRangesExpandToThePageCount()
+{
+    QCOMPARE(pageTypes(pages("fullcover,normalpages"), 3), Ints({64, 16, 16, 16}));
+    QCOMPARE(pageTypes(pages("fullcover,normalpages"), 0), Ints({64}));
+    QCOMPARE(pageTypes(pages("simplexmonthcalendar"), -1), Ints({16}));
+    QCOMPARE(pageTypes(pages("duplexmonthcalendar,empty,simplexyearcalendar"), 2),
+             Ints({16, 16, 32, 16, 16}));
+    QCOMPARE(pageTypes("", 5), Ints({16}));
+    QVERIFY(describe("", pages("foilcover,normalpages")).hasCover());
+    QVERIFY(!describe("", pages("normalpages,fullcover")).hasCover());
+}
+
+void PxProductTypeDescriptionTest::printSizeDependsOnTheKindOfPage()
+{
+    const PxProductTypeDescription d =
+        describe("coverextrahorizontal='7' coverextravertical='8'", ourSize + spines({24, 26}));
+    const auto size = [&d](const char *type) { return d.usablePrintSize(PxPageType(type), 26); };
+    for (const char *type : {"fullcover", "clampcoverfront", "clampcoverback", "cromolinen",
+                             "leather", "artificialleather"})
+        QVERIFY2(size(type) == QSize(1007, 2008), type);
+    for (const char *type : {"normalpage", "foilcover", "calendarfront", "cover", "?"})
+        QVERIFY2(size(type) == QSize(1000, 2000), type);
+    QCOMPARE(size("spine"), QSize(260, 2008));
+}
+
+void PxProductTypeDescriptionTest::wrongQuestionsAreReported()
+{
+    const PxProductTypeDescription d = describe("", ourSize);
+    const PxLogRecorder log;
+    QCOMPARE(pageTypes(pages(""), 4), Ints({16}));
+    QCOMPARE(d.usablePrintSize(PxPageTypeSpine, 27), QSize(0, 2000));
+    QCOMPARE(d.usablePrintSize(PxPageTypeSpine, -1), QSize(0, 2000));
+    QStringList messages;
+    for (const PxLogRecorder::Entry &e : log.entries())
+        messages += QString("%1 %2 %3:%4 ").arg(e.level).arg(e.category, e.file).arg(e.line) +
+                    e.function + ": " + e.text;
+    QCOMPARE(
+        messages,
+        QStringList({"1 default PxProductTypeDescription:459 PxPageTypeList "
+                     "PxProductTypeDescription::pageTypes(int) const: "
+                     "Illegaler Seitentyp in fotobook.xml",
+                     "1 default PxProductTypeDescription:264 QSize "
+                     "PxProductTypeDescription::usablePrintSize(const PxPageType&, int) const: "
+                     "Fehler PxProductTypeDescription::usablePrintSize wurde mit dem Buchrücken "
+                     "aufgerufen ohne das eine Seitenanzahl angegeben wurde!"}));
+}
+
+void PxProductTypeDescriptionTest::bleedIsLeftOutAtTheBinding()
+{
+    const QString attributes = "bleedmarginhorizontal='30' bleedmarginvertical='20' "
+                               "bleedmargincoverhorizontal='6' bleedmargincoververtical='5'";
+    const PxProductTypeDescription book = describe(attributes);
+    const PxProductTypeDescription card = describe("cardStyleAlignment='true' " + attributes);
+    const auto bleed = [](const PxProductTypeDescription &d, int type, int side, int pageCount) {
+        const PxMargins margins =
+            d.bleedMargins({PxPageTypeEnum(type), PxPageAlignment(side)}, pageCount);
+        return Ints{margins.top(), margins.bottom(), margins.left(), margins.right()};
+    };
+    QCOMPARE(bleed(book, 16, PxPageAlignmentLeft, 20), Ints({20, 20, 30, 0}));
+    QCOMPARE(bleed(book, 16, PxPageAlignmentRight, 20), Ints({20, 20, 0, 30}));
+    QCOMPARE(bleed(book, 16, PxPageAlignmentMiddle, 20), Ints({20, 20, 30, 30}));
+    QCOMPARE(bleed(book, 16, 3, 20), Ints({20, 20, 30, 30})); // both sides
+    QCOMPARE(bleed(book, 16, PxPageAlignmentLeft, 1), Ints({20, 20, 30, 30}));
+    QCOMPARE(bleed(book, 16, PxPageAlignmentLeft, -1), Ints({20, 20, 30, 30}));
+    QCOMPARE(bleed(card, 16, PxPageAlignmentLeft, 20), Ints({20, 20, 30, 30}));
+    QCOMPARE(bleed(book, 64, PxPageAlignmentRight, 20), Ints({5, 5, 0, 6})); // cover
+    QCOMPARE(bleed(book, 1, PxPageAlignmentRight, 20), Ints({5, 5, 0, 0}));  // spine
+}
+
+void PxProductTypeDescriptionTest::pageAlignmentFollowsSpineAndCardStyle()
+{
+    // Of the pages -2 to 4.
+    const auto alignments = [](const QString &pageList, const QString &attributes = "") {
+        const PxProductTypeDescription d = describe(attributes, pages(pageList));
+        Ints sides;
+        for (int page = -2; page <= 4; ++page)
+            sides.append(d.pageAlignment(page));
+        return sides;
+    };
+    const QString vertical = "horizontalPages='false' ";
+    QCOMPARE(alignments("fullcover,spine"), Ints({2, 1, 1, 4, 2, 1, 2}));
+    QCOMPARE(alignments("spine", vertical), Ints({32, 16, 16, 64, 32, 16, 32}));
+    QCOMPARE(alignments("normalpages"), Ints({1, 2, 1, 2, 1, 2, 1}));
+    QCOMPARE(alignments("", vertical), Ints({16, 32, 16, 32, 16, 32, 16}));
+
+    // One-sided products have right pages only; the first true card style changes that.
+    const QString simplex = "binding='CALENDAR_SIMPLEX' ";
+    const QString card = "cardStyleAlignment='1' ";
+    const QString vario = "varioSingleCardStyleAlignment='1' ";
+    const QString block = "cardStyleAlignment='0' collegeBlockStyleAlignment='1' ";
+    QCOMPARE(alignments("spine", simplex), Ints({2, 2, 2, 2, 2, 2, 2}));
+    QCOMPARE(alignments("", simplex + vertical), Ints({32, 32, 32, 32, 32, 32, 32}));
+    QCOMPARE(alignments("", simplex + vario + block + vertical), Ints({4, 4, 4, 4, 4, 4, 4}));
+    QCOMPARE(alignments("", simplex + block), Ints({1, 2, 1, 2, 1, 2, 1}));
+    QCOMPARE(alignments("", simplex + card + vario + vertical), Ints({16, 32, 16, 32, 16, 32, 16}));
+    QVERIFY(describe(card).hasCardStyleAlignment() && !describe(vario).hasCardStyleAlignment());
+}
+
+void PxProductTypeDescriptionTest::productionNumberingIsCutAndContinued()
+{
+    const auto numbering = [](const QString &list, int pageCount) {
+        return describe("", "<productionnumbering>" + list + "</productionnumbering>")
+            .productionNumberingList(pageCount);
+    };
+    QCOMPARE(numbering("5, 9", 4), Ints({5, 9, 10, 11}));
+    QCOMPARE(numbering("5,9", 1), Ints({5}));
+    QCOMPARE(numbering("", 3), Ints({1, 2, 3}));
+    QCOMPARE(numbering("5,9", 0), Ints());
+    QCOMPARE(numbering("", -1), Ints());
+}
+
+void PxProductTypeDescriptionTest::compatibilityAsksWhatTheCriterionNames()
+{
+    const QString list = pages("fullcover,spine");
+    const QString counts = spines({2, 4, 6});
+    const PxProductTypeDescription reference = describe("", ourSize + list + counts);
+    // "deciding" are the criteria under which the two are not compatible.
+    const auto check = [&](const char *name, int deciding, const QString &children,
+                           const QString &attributes = "") {
+        const PxProductTypeDescription other = describe(attributes, children);
+        for (int criterion = 1; criterion < 16; ++criterion)
+            QVERIFY2(other.isCompatible(reference, PxProductComparationCriterion(criterion)) ==
+                         ((criterion & deciding) == 0),
+                     name);
+        QVERIFY2(other.isCompatible(reference, PxProductComparationNone) == (deciding != 15), name);
+    };
+    check("same", 0, ourSize + list + counts);
+    check("orientation", 15, "<usablesize width='2' height='1'/>" + list + counts);
+    check("spine", 15, ourSize + pages("fullcover,leather") + counts);
+    check("pages", 15, ourSize + pages("fullcover,spine,empty") + counts);
+    check("binding", 1, ourSize + list + counts, "binding='SOFTCOVER'");
+    check("paper", 2, ourSize + list + counts, "paper='glossy'");
+    check("space", 4, ourSize + list + counts, "space='xl'");
+    check("increment", 8, ourSize + list + spines({2, 6, 10}));
+}
+
+void PxProductTypeDescriptionTest::validityNeedsBindingOrientationAndSize()
+{
+    const QString noSize = "<usablesize width='0' height='0'/>";
+    QVERIFY(describe("orientation='round'", noSize).isValid());
+    QVERIFY(!describe("", noSize).isValid());
+    QVERIFY(!describe("orientation='round'", "<usablesize width='5'/>").isValid());
 }
 
 QTEST_GUILESS_MAIN(PxProductTypeDescriptionTest)

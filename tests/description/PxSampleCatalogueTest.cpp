@@ -3,8 +3,11 @@
 #include <PxProductProperties.h>
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QTest>
+
+#include <atomic>
+#include <thread>
+#include <vector>
 
 /** Reads the sample catalogue as an application would. */
 class PxSampleCatalogueTest : public QObject
@@ -13,87 +16,108 @@ class PxSampleCatalogueTest : public QObject
 
 private slots:
     void initTestCase();
-    void everyProductIsOfferedAndEveryFileRead();
-    void everyLegacyProductHasASuccessor();
-    void photoBookOf26Pages();
-    void calendarsAndGiftsHaveTheirPages();
+    void firstUseByThreadsGivesAllTheSameCompleteObjects(); // the first to use anything
+    void everyProductIsOfferedAndEveryLegacyProductReplaced();
+    void registryAnswersForAPhotoBook();
 };
 
 void PxSampleCatalogueTest::initTestCase()
 {
+    qputenv("PX_RESOURCE_DIRS", PX_SAMPLE_DIRECTORY);
+    qputenv("PX_USER_DEFAULTS_DIR", PX_SAMPLE_DIRECTORY "/defaults");
+}
+
+/** Every singleton and what the keyword tables and lists behind them say. */
+static QVariantList ask()
+{
+    const PxBinding binding("softcover");
+    const PxOrientation orientation("square");
+    const PxProductType book("book_a4_portrait");
+    auto *registry = PxProductTypeConfigRegistry::instance();
+    const std::initializer_list<const void *> instances = {
+        PxDirectoryConfig::instance(),         PxProductTypeCatalogue::instance(),
+        PxProductCheckerRegistry::instance(),  PxPageOrganizationManager::instance(),
+        PxLegacyProductTypeConfig::instance(), PxProductTypeConfigRegistry::legacyInstance(),
+        PxHumanReadable::instance(),           registry->description(book),
+        binding.enumToStringTable(),           orientation.enumToStringTable()};
+    QVariantList answers;
+    answers << binding.encodeCSV() << binding.humanReadableName() << binding.toolTip()
+            << orientation.encodeCSV() << PxPageType("spine,normal").encodeCSV()
+            << PxPaperType("glossy").humanReadableName()
+            << PxSpaceMagnitude("xl").humanReadableName() << PxJigType("Rahmen").encodeCSV()
+            << book.productName() << registry->description(book)->spineWidth(26)
+            << PxHumanReadable::instance()->fotoPaperTypeName(PxFotoPaperTypeMatt)
+            << PxThematicCategorySet::specialCategories().preferredCategory().name();
+    for (const void *instance : instances)
+        answers.append(quintptr(instance));
+    return answers;
+}
+
+void PxSampleCatalogueTest::firstUseByThreadsGivesAllTheSameCompleteObjects()
+{
     const PxLogRecorder log;
-    PxDirectoryConfig::instance()->setResourceDirectories({QStringLiteral(PX_SAMPLE_DIRECTORY)});
-    PxDirectoryConfig::instance()->setUserDefaultsPath(
-        QStringLiteral(PX_SAMPLE_DIRECTORY "/defaults"));
+    std::vector<QVariantList> answers(16);
+    std::vector<std::thread> threads;
+    std::atomic<int> waiting{int(answers.size())};
+    for (QVariantList &own : answers) {
+        threads.emplace_back([&own, &waiting] {
+            --waiting;
+            while (waiting > 0) // so that all of them ask at the same moment
+                std::this_thread::yield();
+            own = ask();
+        });
+    }
+    for (std::thread &thread : threads)
+        thread.join();
+
+    QVERIFY(answers[0].contains("SOFTCOVER") && answers[0].contains("BOOK_A4_PORTRAIT"));
+    QVERIFY(!answers[0].contains(quintptr(0)));
+    for (const QVariantList &other : answers)
+        QCOMPARE(other, answers[0]);
     QVERIFY(PxProductPropertiesInitializer::setupModule());
-    PxProductTypeConfigRegistry::legacyInstance();
-    PxHumanReadable::instance();
     QCOMPARE(log.texts(), QStringList());
 }
 
-void PxSampleCatalogueTest::everyProductIsOfferedAndEveryFileRead()
+/** The products of a directory; files bear their product's name. */
+static QStringList productsOf(const char *directory)
 {
-    const QDir directory(QStringLiteral(PX_SAMPLE_DIRECTORY "/products"));
-    const QFileInfoList files = directory.entryInfoList({QStringLiteral("*.xml")}, QDir::Files);
-    QVERIFY(files.size() >= 36);
-    for (const QFileInfo &file : files) {
-        const PxProductType type(file.completeBaseName()); // files bear their product's name
-        QVERIFY2(PxProductTypeConfigRegistry::instance()->exists(type),
-                 qPrintable(file.fileName()));
-    }
+    return QDir(directory).entryList({"*.xml"}, QDir::Files).replaceInStrings(".xml", "");
 }
 
-void PxSampleCatalogueTest::everyLegacyProductHasASuccessor()
+void PxSampleCatalogueTest::everyProductIsOfferedAndEveryLegacyProductReplaced()
 {
-    const QDir directory(QStringLiteral(PX_SAMPLE_DIRECTORY "/products/legacy"));
-    const QFileInfoList files = directory.entryInfoList({QStringLiteral("*.xml")}, QDir::Files);
-    QVERIFY(files.size() >= 6);
-    for (const QFileInfo &file : files) {
-        const PxProductType legacy(file.completeBaseName());
-        QVERIFY(PxLegacyProductTypeConfig::instance()->description(legacy)->isValid());
-        QVERIFY(PxProductTypeConfigRegistry::instance()->findProductForLegacy(legacy).isValid());
-    }
-}
-
-void PxSampleCatalogueTest::photoBookOf26Pages()
-{
-    const PxProductType book(QStringLiteral("BOOK_A4_PORTRAIT"));
     const auto *registry = PxProductTypeConfigRegistry::instance();
-    QVERIFY(book.isBook());
-    QCOMPARE(registry->binding(book).humanReadableName(), QStringLiteral("Hardcover"));
-    QCOMPARE(registry->minPages(book), 26);
-    QCOMPARE(registry->pageIncrement(book), 2);
+    const QStringList products = productsOf(PX_SAMPLE_DIRECTORY "/products");
+    QVERIFY(products.size() >= 36);
+    for (const QString &name : products)
+        QVERIFY2(registry->exists(PxProductType(name)), qPrintable(name));
 
+    const QStringList legacyProducts = productsOf(PX_SAMPLE_DIRECTORY "/products/legacy");
+    QVERIFY(legacyProducts.size() >= 6);
+    for (const QString &name : legacyProducts) {
+        const PxProductType legacy(name);
+        QVERIFY(PxLegacyProductTypeConfig::instance()->description(legacy)->isValid());
+        QVERIFY(registry->findProductForLegacy(legacy).isValid());
+    }
+}
+
+void PxSampleCatalogueTest::registryAnswersForAPhotoBook()
+{
+    const PxProductType book("BOOK_A4_PORTRAIT");
+    const auto *registry = PxProductTypeConfigRegistry::instance();
+    QCOMPARE(registry->binding(book).humanReadableName(), QString("Hardcover"));
+    QCOMPARE(registry->minPages(book), 26);
+    QCOMPARE(registry->maxPages(book), 154);
+    QCOMPARE(registry->pageIncrement(book), 2);
     const PxPageTypeList pageTypes = registry->pageTypes(book, 26);
     QCOMPARE(pageTypes.first().value(), PxPageTypeFullCover);
     QCOMPARE(pageTypes.count(PxPageType(PxPageTypeNormalPage)), 26);
     const int spine = pageTypes.indexOf(PxPageType(PxPageTypeSpine));
     QCOMPARE(registry->pageAlignment(book, spine), PxPageAlignmentMiddle);
-
-    const PxPageSizeSpec right = registry->sizeSpec(
-        book, PxPageSizeKey(PxPageContext(PxPageTypeNormalPage, PxPageAlignmentRight), 26));
-    QCOMPARE(right.usableSize(),
-             registry->usablePrintSize(book, PxPageTypeNormalPage, 26).toSize());
-    QCOMPARE(right.bleedMargins().left(), 0);
-    QVERIFY(right.bleedMargins().right() > 0);
-    QVERIFY(registry->description(book)->spineWidth(26) > 0);
-    QCOMPARE(registry->description(book)->spineWidth(27), 0);
-
-    const PxDefaultTemplateKey key(QStringLiteral("no such theme"),
-                                   PxPageContext(PxPageTypeNormalPage, PxPageAlignmentLeft),
-                                   DefaultTemplateTypeBackground);
-    QVERIFY(!registry->description(book)->findDefaultTemplate(key, true, false).isEmpty());
-    QVERIFY(registry->description(book)->findDefaultTemplate(key, false, false).isEmpty());
-    QVERIFY(registry->findCompatibleProducts(book, PxProductComparationNone).contains(book));
-}
-
-void PxSampleCatalogueTest::calendarsAndGiftsHaveTheirPages()
-{
-    const auto *pages = PxPageOrganizationManager::instance();
-    QCOMPARE(pages->minPages(PxProductType(QStringLiteral("CALENDAR_WALL_A4"))), 12);
-    const PxProductType card(QStringLiteral("CARD_FOLDED_A6"));
-    QCOMPARE(pages->maxPages(card),
-             PxProductTypeConfigRegistry::instance()->explicitNumberOfNormalPages(card));
+    const PxPageSizeSpec right =
+        registry->sizeSpec(book, PxPageSizeKey({PxPageTypeNormalPage, PxPageAlignmentRight}, 26));
+    QCOMPARE(QSizeF(right.usableSize()), registry->usablePrintSize(book, PxPageTypeNormalPage, 26));
+    QVERIFY(right.bleedMargins().left() == 0 && right.bleedMargins().right() > 0);
 }
 
 QTEST_GUILESS_MAIN(PxSampleCatalogueTest)

@@ -4,16 +4,12 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <thread>
-
 class PxDirectoryConfigTest : public QObject
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
-    // The first to ask for the instance.
-    void isCreatedOnceByThreads();
     void takesTheDirectoriesOfTheEnvironment();
     void reportsWhatIsMissing();
     void answersOneNameWithAPathOfItsOwn();
@@ -25,25 +21,12 @@ private:
 
 void PxDirectoryConfigTest::initTestCase()
 {
-    QVERIFY(QDir(m_root.path()).mkpath("first/shared"));
-    QVERIFY(QDir(m_root.path()).mkpath("second/shared"));
-    QVERIFY(QDir(m_root.path()).mkpath("second/products/legacy"));
+    for (const char *path : {"first/shared", "second/shared", "second/products/legacy"})
+        QVERIFY(QDir(m_root.path()).mkpath(path));
     QVERIFY(QDir::setCurrent(m_root.path()));
     qputenv("PX_RESOURCE_DIRS", QFile::encodeName(":first/:" + m_root.filePath("second")));
     qputenv("PX_USER_DEFAULTS_DIR", "own/../user");
     qputenv("PX_THEMES_DIR", "themes");
-}
-
-void PxDirectoryConfigTest::isCreatedOnceByThreads()
-{
-    PxDirectoryConfig *instances[8] = {};
-    std::vector<std::thread> threads;
-    for (PxDirectoryConfig *&instance : instances)
-        threads.emplace_back([&instance] { instance = PxDirectoryConfig::instance(); });
-    for (std::thread &thread : threads)
-        thread.join();
-    for (PxDirectoryConfig *instance : instances)
-        QCOMPARE(instance, PxDirectoryConfig::instance());
 }
 
 void PxDirectoryConfigTest::takesTheDirectoriesOfTheEnvironment()
@@ -59,14 +42,12 @@ void PxDirectoryConfigTest::takesTheDirectoriesOfTheEnvironment()
 
 void PxDirectoryConfigTest::reportsWhatIsMissing()
 {
-    const PxDirectoryConfig *config = PxDirectoryConfig::instance();
     const PxLogRecorder log;
-    config->resource("logo.png", false);
-    config->lumoThemesDirectory(false);
-    QCOMPARE(log.texts(), QStringList());
-
-    config->resource("logo.png", true);
-    config->lumoThemesDirectory(true);
+    for (bool isNeeded : {false, true}) {
+        QCOMPARE(log.texts(), QStringList());
+        PxDirectoryConfig::instance()->resource("logo.png", isNeeded);
+        PxDirectoryConfig::instance()->lumoThemesDirectory(isNeeded);
+    }
     QCOMPARE(log.texts().size(), 2);
     QCOMPARE(log.entries().first().level, QtWarningMsg);
     for (const char *part : {"\"logo.png\"", "/first\"", "/second\""})
@@ -95,11 +76,9 @@ void PxDirectoryConfigTest::fallsBackToTheInstalledResources()
         QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../share/PxProductProperties"));
     QCOMPARE(config->resource("nothing.xml", false), installed.filePath("nothing.xml"));
     QCOMPARE(config->lumoThemesDirectory(false).path(), installed.filePath("themes"));
-
     // The application may get its name after the instance was created.
     QCoreApplication::setApplicationName("Renamed");
-    QVERIFY2(config->userDefaultsPath().endsWith("/Renamed/defaults"),
-             qPrintable(config->userDefaultsPath()));
+    QVERIFY(config->userDefaultsPath().endsWith("/Renamed/defaults"));
 }
 
 QTEST_GUILESS_MAIN(PxDirectoryConfigTest)

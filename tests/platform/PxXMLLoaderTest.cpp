@@ -16,17 +16,11 @@ class PxXMLLoaderTest : public QObject
 
 private slots:
     void initTestCase();
-    void buildsTheTreeOfSetContent_data();
     void buildsTheTreeOfSetContent();
-    void normalizesLineEnds();
-    void decodes_data();
     void decodes();
-    void refusesMalformedText_data();
-    void refusesMalformedText();
-    void keepsTheLimits_data();
-    void keepsTheLimits();
+    void refusesMalformedTextAndKeepsTheLimits_data();
+    void refusesMalformedTextAndKeepsTheLimits();
     void opensRegularFilesOnly();
-    void looksAtTheFileAnew();
     void elementOutlivesItsDocument();
     void needsLittleStack();
 
@@ -38,10 +32,6 @@ private:
 };
 
 namespace {
-
-constexpr int maximumDepth = PxXMLLoader::maximumDepth;
-constexpr int maximumNodes = PxXMLLoader::maximumNodes;
-constexpr int maximumFileSize = PxXMLLoader::maximumFileSize;
 
 QByteArray nested(int depth, const QByteArray &content = QByteArray())
 {
@@ -60,11 +50,6 @@ QByteArray tagWithAttributes(int count)
 QByteArray withNodes(int count)
 {
     return "<r>text<![CDATA[<]]><!----><?p?>" + QByteArray("<b/>").repeated(count - 5) + "</r>";
-}
-
-QByteArray ofSize(int size)
-{
-    return "<a>" + QByteArray(size - 7, 'x') + "</a>";
 }
 
 /** All that a tree holds, attributes in the order of their names, null told from empty. */
@@ -102,61 +87,38 @@ QFileInfo PxXMLLoaderTest::write(const QByteArray &xml) const
     return QFileInfo(file.fileName());
 }
 
-void PxXMLLoaderTest::buildsTheTreeOfSetContent_data()
+void PxXMLLoaderTest::buildsTheTreeOfSetContent()
 {
-    QTest::addColumn<QByteArray>("xml");
     // clang-format off
-    constexpr struct { const char *name; const char *xml; } rows[] = {
-        {"declaration", "<?xml version=\"1.0\" encoding='utf-8' standalone = 'no' ?>\n<a/>"},
-        {"standalone", "<?xml version='1.0' standalone='yes'?><a/>"},
-        {"around the root", "<?xml version='1.0'?><!--1--><?p d ?><!DOCTYPE a SYSTEM 'x[y>z'>\n"
-                            "<!--2--><a/><!-- standalone --><?q?>\n"},
-        {"document type", "<!DOCTYPE a><a/>"},
-        {"public document type", "<!DOCTYPE a PUBLIC \"-//x\" \"it's\"><a/>"},
-        {"texts", "<a> x&amp;y &#32;<b> \n\t</b><c>&#32;&#10;</c>]]&gt;<d>&#160;</d>z<!-- c -->"
-                  "\xC3\xA4<?p?>&#x41; </a>"},
-        {"CDATA", "<a> <![CDATA[<b c=\"&d;]] >]]> <![CDATA[]]>x<![CDATA[ ]]><![CDATA[y]]></a>"},
-        {"attributes", "<a b='' c = \"it's &lt;>&#10;\"\nd='&quot;&apos;&amp;'/>"},
-        {"prefixes", "<p:a xmlns:p='u' p:b='1' q:c='2'><q:d/></p:a>"},
+    QList<QByteArray> texts{
+        "<?xml version=\"1.0\" encoding='utf-8' standalone = 'no' ?>\n<!DOCTYPE a><a/>",
+        "<?xml version='1.0' standalone='yes'?><!DOCTYPE a PUBLIC \"-//x\" \"it's\"><a/>",
+        "<?xml version='1.0'?><!--1--><?p d ?><!DOCTYPE a SYSTEM 'x[y>z'>\n<!--2--><a/><!-- standalone --><?q?>\n",
+        "<a> x&amp;y &#32;<b> \n\t</b><c>&#32;&#10;</c>]]&gt;<d>&#160;</d>z<!-- c -->\xC3\xA4<?p?>&#x41; </a>",
+        "<a> <![CDATA[<b c=\"&d;]] >]]> <![CDATA[]]>x<![CDATA[ ]]><![CDATA[y]]></a>",
+        "<a b='' c = \"it's &lt;>&#10;\"\nd='&quot;&apos;&amp;'/>",
+        "<p:a xmlns:p='u' p:b='1' q:c='2'><q:d/></p:a>",
+        "<a b='" + QByteArray("01234567&amp;").repeated(9000) + "'>" + QByteArray("01&lt;\xE2\x82\xAC").repeated(9000) + "</a>",
     };
     // clang-format on
-    for (const auto &row : rows)
-        QTest::newRow(row.name) << QByteArray(row.xml);
-    QTest::newRow("long texts") << "<a b='" + QByteArray("01234567&amp;").repeated(9000) + "'>" +
-                                       QByteArray("01&lt;\xE2\x82\xAC").repeated(9000) + "</a>";
     QDirIterator it(PX_SAMPLE_DIRECTORY, {"*.xml"}, QDir::Files, QDirIterator::Subdirectories);
     while (it.hasNext()) {
         QFile file(it.next());
         QVERIFY(file.open(QIODevice::ReadOnly));
-        QTest::newRow(qPrintable(it.fileName())) << file.readAll();
+        texts.append(file.readAll());
+    }
+    for (const QByteArray &xml : qAsConst(texts)) {
+        QDomDocument expected;
+        QVERIFY(expected.setContent(xml, false));
+        QString error = "an earlier one";
+        const QDomDocument document = PxXMLLoader::loadDocument(write(xml), &error);
+        QCOMPARE(error, QString());
+        QCOMPARE(description(document), description(expected));
     }
 }
 
-void PxXMLLoaderTest::buildsTheTreeOfSetContent()
+void PxXMLLoaderTest::decodes()
 {
-    QFETCH(QByteArray, xml);
-    QDomDocument expected;
-    QVERIFY(expected.setContent(xml, false));
-    QString error = "an earlier one";
-    const QDomDocument document = PxXMLLoader::loadDocument(write(xml), &error);
-    QCOMPARE(error, QString());
-    QCOMPARE(description(document), description(expected));
-}
-
-void PxXMLLoaderTest::normalizesLineEnds()
-{
-    const QDomElement element =
-        PxXMLLoader::loadDocumentElement(write("<a b='1\r\n2\t3&#13;'>x\r\ny&#13;</a>"));
-    QCOMPARE(element.attribute("b"), QString("1 2 3\r"));
-    QCOMPARE(element.text(), QString("x\ny\r"));
-}
-
-void PxXMLLoaderTest::decodes_data()
-{
-    QTest::addColumn<QByteArray>("encoding");
-    QTest::addColumn<bool>("hasMark");
-    QTest::addColumn<QString>("declared");
-    QTest::addColumn<QString>("error");
     // clang-format off
     constexpr struct { const char *encoding; bool hasMark; const char *declared; const char *error; } rows[] = {
         {"UTF-8", true, "", ""},
@@ -172,88 +134,54 @@ void PxXMLLoaderTest::decodes_data()
         {"ISO-8859-1", false, "", "2:7: the text is no valid UTF-8"},
     };
     // clang-format on
-    for (const auto &row : rows)
-        QTest::addRow("%s, %d, %s", row.encoding, row.hasMark, row.declared)
-            << QByteArray(row.encoding) << row.hasMark << row.declared << row.error;
+    for (const auto &row : rows) {
+        QString xml =
+            *row.declared ? QString("<?xml version='1.0' encoding='%1'?>").arg(row.declared) : "";
+        xml = (row.hasMark ? QString(QChar::ByteOrderMark) : "") + xml +
+              "\n<a b='\u00E4\"'>\u00F6</a>";
+        QTextCodec::ConverterState noMarkOfItsOwn(QTextCodec::IgnoreHeader);
+        const QByteArray bytes = QTextCodec::codecForName(row.encoding)
+                                     ->fromUnicode(xml.constData(), xml.size(), &noMarkOfItsOwn);
+        QString message;
+        const QDomElement element = PxXMLLoader::loadDocumentElement(write(bytes), &message);
+        QCOMPARE(message, *row.error ? path("file.xml:") + row.error : "");
+        QCOMPARE(element.attribute("b") + element.text(),
+                 QString(*row.error ? "" : "\u00E4\"\u00F6"));
+    }
+    const QDomElement lineEnds =
+        PxXMLLoader::loadDocumentElement(write("<a b='1\r\n2\t3&#13;'>x\r\ny&#13;</a>"));
+    QCOMPARE(lineEnds.attribute("b") + '|' + lineEnds.text(), QString("1 2 3\r|x\ny\r"));
 }
 
-void PxXMLLoaderTest::decodes()
-{
-    QFETCH(QByteArray, encoding);
-    QFETCH(bool, hasMark);
-    QFETCH(QString, declared);
-    QFETCH(QString, error);
-    const QString xml =
-        (hasMark ? QString(QChar::ByteOrderMark) : QString()) +
-        (declared.isEmpty() ? "\n" : "<?xml version='1.0' encoding='" + declared + "'?>\n") +
-        "<a b='\u00E4\"'>\u00F6</a>";
-    QTextCodec::ConverterState noMarkOfItsOwn(QTextCodec::IgnoreHeader);
-    const QByteArray bytes = QTextCodec::codecForName(encoding)->fromUnicode(
-        xml.constData(), xml.size(), &noMarkOfItsOwn);
-    QString message;
-    const QDomElement element = PxXMLLoader::loadDocumentElement(write(bytes), &message);
-    QCOMPARE(message, error.isEmpty() ? error : path("file.xml:") + error);
-    QCOMPARE(element.attribute("b") + element.text(),
-             error.isEmpty() ? QString("\u00E4\"\u00F6") : QString());
-}
-
-void PxXMLLoaderTest::refusesMalformedText_data()
+void PxXMLLoaderTest::refusesMalformedTextAndKeepsTheLimits_data()
 {
     QTest::addColumn<QByteArray>("xml");
-    QTest::addColumn<QString>("error");
+    QTest::addColumn<QString>("error"); // empty just inside a limit, else the end of the message
     // clang-format off
     const struct { const char *name; QByteArray xml; const char *error; } rows[] = {
         {"empty", "", "1:1: Premature end of document."},
         {"cut off", "<a>\n<b>", "2:3: Premature end of document."},
         {"crossed tags", "<a>\n <b></a></b>", "2:8: Opening and ending tag mismatch."},
-        {"second root", "<a/>\n<b/>", "2:4: Extra content at end of document."},
         {"attribute twice", "<a b='1' b='2'/>", "1:16: Attribute 'b' redefined."},
         {"quote missing", "<a b=\"1>\n" + QByteArray("<c d=\"\"/>").repeated(999), "2:1: Unexpected '<'."},
         {"zero byte", QByteArray("<a>\0</a>", 8), "1:4: Unexpected ''."},
-        {"control character", "<a>&#1;</a>", "1:7: Invalid character reference."},
         {"broken UTF-8", "<a>\n\xF0\x9F\x98\x80\xC3(</a>", "2:3: the text is no valid UTF-8"},
         {"cut UTF-8", "<a/>\n\xC3", "2:1: the text is no valid UTF-8"},
-        {"broken GB18030", "<?xml version='1.0' encoding='gb18030'?>\n<a>\xFF</a>",
-         "2:4: the text is no valid GB18030"},
+        {"broken GB18030", "<?xml version='1.0' encoding='gb18030'?>\n<a>\xFF</a>", "2:4: the text is no valid GB18030"},
         {"undeclared entity", "<a>&b;</a>", "1:6: Entity 'b' not declared."},
-        {"entity in an attribute", "<!DOCTYPE a SYSTEM 'x'><a>\n<b c='&lt;&d;'/>",
-         "2:11: no entities are allowed in an attribute but those of XML itself; a plain '&' is written &amp;"},
-        {"external entity", "<!DOCTYPE a SYSTEM '/etc/passwd'><a>&b;</a>",
-         "1:39: the entity b is declared outside the file, which is not allowed"},
-        {"internal subset", "<!-- [ -->\n<!DOCTYPE a SYSTEM '[' [<!ENTITY b 'c'>]><a>&b;</a>",
-         "2:24: the document type declaration has an internal subset, none is allowed"},
-    };
-    // clang-format on
-    for (const auto &row : rows)
-        QTest::newRow(row.name) << row.xml << row.error;
-}
-
-void PxXMLLoaderTest::refusesMalformedText()
-{
-    QFETCH(QByteArray, xml);
-    QFETCH(QString, error);
-    QString message;
-    QVERIFY(PxXMLLoader::loadDocument(write(xml), &message).isNull());
-    QCOMPARE(message, path("file.xml:") + error);
-    QVERIFY(PxXMLLoader::loadDocumentElement(write(xml)).isNull());
-}
-
-void PxXMLLoaderTest::keepsTheLimits_data()
-{
-    QTest::addColumn<QByteArray>("xml");
-    QTest::addColumn<QString>("error"); // without the place; empty just inside
-    // clang-format off
-    const struct { const char *name; QByteArray xml; const char *error; } rows[] = {
-        {"depth", nested(maximumDepth), ""},
-        {"too deep", nested(maximumDepth + 1), "the element is nested 257 deep, no more than 256 are allowed"},
+        {"entity in an attribute", "<!DOCTYPE a SYSTEM 'x'><a>\n<b c='&lt;&d;'/>", "2:11: no entities are allowed in an attribute but those of XML itself; a plain '&' is written &amp;"},
+        {"external entity", "<!DOCTYPE a SYSTEM '/etc/passwd'><a>&b;</a>", "1:39: the entity b is declared outside the file, which is not allowed"},
+        {"internal subset", "<!-- [ -->\n<!DOCTYPE a SYSTEM '[' [<!ENTITY b 'c'>]><a>&b;</a>", "2:24: the document type declaration has an internal subset, none is allowed"},
+        {"depth", nested(256), ""},
+        {"too deep", nested(257), "the element is nested 257 deep, no more than 256 are allowed"},
         {"far too deep", nested(1000000), "the element is nested 257 deep, no more than 256 are allowed"},
         {"attributes", tagWithAttributes(256), ""},
         {"too many", tagWithAttributes(257), "the tag has attribute 257, no more than 256 are allowed"},
         {"far too many", tagWithAttributes(300000), "the tag has attribute 257, no more than 256 are allowed"},
-        {"nodes", withNodes(maximumNodes), ""},
-        {"a node more", withNodes(maximumNodes + 1), "this is node 200001 of the file, no more than 200000 are allowed"},
-        {"size", ofSize(maximumFileSize), ""},
-        {"a byte more", ofSize(maximumFileSize + 1), "the file has 8388609 bytes, no more than 8388608 are allowed"},
+        {"nodes", withNodes(200000), ""},
+        {"a node more", withNodes(200001), "this is node 200001 of the file, no more than 200000 are allowed"},
+        {"size", "<a>" + QByteArray(8388608 - 7, 'x') + "</a>", ""},
+        {"a byte more", "<a>" + QByteArray(8388608 - 6, 'x') + "</a>", "the file has 8388609 bytes, no more than 8388608 are allowed"},
         // Slow for a reader that is not careful.
         {"references", "<a>" + QByteArray("&amp;").repeated(1600000) + "</a>", ""},
         {"open comments", "<a>" + QByteArray("<!--").repeated(2000000), "Expected '>', but got '<'."},
@@ -263,39 +191,32 @@ void PxXMLLoaderTest::keepsTheLimits_data()
         QTest::newRow(row.name) << row.xml << row.error;
 }
 
-void PxXMLLoaderTest::keepsTheLimits()
+void PxXMLLoaderTest::refusesMalformedTextAndKeepsTheLimits()
 {
     QFETCH(QByteArray, xml);
     QFETCH(QString, error);
     QString message;
     QCOMPARE(PxXMLLoader::loadDocument(write(xml), &message).isNull(), !error.isEmpty());
-    QCOMPARE(message.section(": ", 1), error);
+    QVERIFY2(message.isEmpty() || message.startsWith(path("file.xml:")), qPrintable(message));
+    QCOMPARE(message.right(error.size()), error);
 }
 
 void PxXMLLoaderTest::opensRegularFilesOnly()
 {
     const QString missing(":0:0: there is no such file");
     const QString irregular(":0:0: this is no regular file");
-    const std::pair<QString, QString> rows[] = {
-        {QString(), ":0:0: no file name is given"},
-        {path("missing.xml"), missing},
-        {path("dead link"), missing},
-        {path("directory"), irregular},
-        {path("link to pipe"), irregular},
-        {"/dev/zero", irregular},
-    };
+    const QList<QPair<QString, QString>> rows{
+        {"", ":0:0: no file name is given"}, {path("missing.xml"), missing},
+        {path("dead link"), missing},        {path("directory"), irregular},
+        {path("link to pipe"), irregular},   {"/dev/zero", irregular}};
     for (const auto &[file, error] : rows) {
         QString message;
         QVERIFY(PxXMLLoader::loadDocumentElement(QFileInfo(file), &message).isNull());
         QCOMPARE(message, file + error);
     }
-}
-
-void PxXMLLoaderTest::looksAtTheFileAnew()
-{
     QFile::remove(path("file.xml"));
     const QFileInfo remembered(path("file.xml"));
-    QVERIFY(!remembered.exists());
+    QVERIFY(!remembered.exists()); // and keeps that in mind, while the file comes into being
     write("<a/>");
     QVERIFY(!PxXMLLoader::loadDocumentElement(remembered).isNull());
 }
@@ -304,8 +225,8 @@ void PxXMLLoaderTest::elementOutlivesItsDocument()
 {
     QDomElement element = PxXMLLoader::loadDocumentElement(
         write("<?xml version='1.0'?><!--1--><!DOCTYPE a><a b='1'><c/>x</a><!--2--><?p?>"));
-    QVERIFY(element.previousSibling().isNull() && element.nextSibling().isNull());
-    QVERIFY(element.parentNode().isNull() && element.ownerDocument().isNull());
+    QVERIFY(element.previousSibling().isNull() && element.nextSibling().isNull() &&
+            element.parentNode().isNull() && element.ownerDocument().isNull());
     QCOMPARE(element.elementsByTagName("c").size(), 1);
 
     element.setAttribute("b", "2");
@@ -318,7 +239,7 @@ void PxXMLLoaderTest::elementOutlivesItsDocument()
 
 void PxXMLLoaderTest::needsLittleStack()
 {
-    const QFileInfo file = write(nested(maximumDepth - 2, withNodes(1000)));
+    const QFileInfo file = write(nested(254, withNodes(1000)));
     bool isLoaded = false;
     QThread *thread = QThread::create([&] {
         const QDomElement element = PxXMLLoader::loadDocumentElement(file);

@@ -1,4 +1,7 @@
+#include <PxElement.h>
 #include <PxLogRecorder.h>
+#include <PxOrientation.h>
+#include <description/PxProductTypeDescription.h>
 #include <values/PxBinding.h>
 #include <values/PxJigType.h>
 #include <values/PxPageTypeList.h>
@@ -8,6 +11,10 @@
 #include <QTest>
 #include <QTranslator>
 
+// An application may instantiate the templates itself; the tables must be those of the libraries.
+template class PxEnumWrapper<PxBindingEnum>;
+template class PxEnumWrapper<PxOrientationEnum>;
+
 /** Puts the context in front of each text, and knows nothing of its own translations. */
 class PxContextTranslator : public QTranslator
 {
@@ -15,7 +22,7 @@ public:
     bool isEmpty() const override { return false; }
     QString translate(const char *context, const char *text, const char *, int) const override
     {
-        return *text == '[' ? QString() : QStringLiteral("[%1] %2").arg(context, text);
+        return *text == '[' ? QString() : QString("[%1] %2").arg(context, text);
     }
 };
 
@@ -25,43 +32,33 @@ class PxAttributeEnumsTest : public QObject
 
 private slots:
     void initTestCase() { QCoreApplication::installTranslator(&m_translator); }
-    void readsKeywords();
-    void writesUnions();
+    void readsKeywordsAndWritesUnions();
     void asksBindingsAndSizes();
     void showsTranslatedTexts();
     void everyValueLeadsBack();
     void listsPageTypes();
+    void librariesDecodeWhatTheProgramInserted();
 
 private:
     PxContextTranslator m_translator; // installed first: the texts are translated on first use
 };
 
-void PxAttributeEnumsTest::readsKeywords()
+void PxAttributeEnumsTest::readsKeywordsAndWritesUnions()
 {
-    QCOMPARE(int(PxBinding(" clampCover").value()), 32);
-    QCOMPARE(int(PxBinding("CALENDAR_ANNUAL_SIMPLEX").value()), 1024);
-    QCOMPARE(int(PxBinding("").value()), 4096);
+    QCOMPARE(int(PxBinding(" clampCover").value()), 32); // a synonym
     QCOMPARE(int(PxJigType("HINTERGRUND,masks,Rahmen").value()), 145);
-    QCOMPARE(int(PxJigType("").value()), 0);
-    QCOMPARE(int(PxPageType("foilcoverback").value()), 8);
     QCOMPARE(int(PxPageType("content,empty,calendarfront").value()), 0x130);
     QCOMPARE(int(PxPageType("all").value()), 69503);
     QCOMPARE(int(PxPaperType("Unbekanntes Papier").value()), 0);
-    QCOMPARE(int(PxPaperType("").value()), 1);
     QCOMPARE(int(PxSpaceMagnitude("XL").value()), 64);
     QCOMPARE(int(PxSpaceMagnitude("normal").value()), 190);
-}
 
-void PxAttributeEnumsTest::writesUnions()
-{
     QCOMPARE(PxPageType("cover").encodeCSV(),
              QString("spine, clampcoverfront, clampcoverback, foilcoverfront, fullcover, "
                      "calendercoverfront, calendercoverback, cromolinen, leather, "
                      "artificialleather"));
     QCOMPARE(PxSpaceMagnitude("").encodeCSV(),
              QString("150cm2, 200cm2, 280cm2, 310cm2, 400cm2, 600cm2, 900cm2, 1200cm2"));
-    QCOMPARE(PxBinding().encodeCSV(), QString("GIFT"));
-    QCOMPARE(PxPaperType().encodeCSV(), QString("indigo"));
     QCOMPARE(PxSpaceMagnitude().encodeCSV(), QString("any"));
 }
 
@@ -71,7 +68,6 @@ void PxAttributeEnumsTest::asksBindingsAndSizes()
     QVERIFY(!PxBinding("CALENDAR_DUPLEX").isSimplex());
     QVERIFY(PxBinding("BOOKLET").isFullCover() && !PxBinding("CROMOLINEN").isFullCover());
     QVERIFY(PxBinding("CLAMP,LEATHER").isClampCover() && !PxBinding("").isClampCover());
-
     QCOMPARE(PxSpaceMagnitude("1200cm2").maxReasonableImagesPerPage(), 14);
     QCOMPARE(PxSpaceMagnitude("normal").maxReasonableImagesPerPage(), 1); // no single size
 }
@@ -119,9 +115,8 @@ void PxAttributeEnumsTest::everyValueLeadsBack()
 
     const auto name = [](const auto &value) {
         const QString translated = value.humanReadableName();
-        const QString german = translated.mid(translated.indexOf(']') + 2);
         const auto back = value.createFromHumanReadable(translated);
-        return back == value ? value.createFromHumanReadable(german) : back;
+        return back == value ? value.createFromHumanReadable(translated.section("] ", 1)) : back;
     };
     QCOMPARE(bitsThatLeadBack<PxBinding>(name), 0xfff);
     QCOMPARE(bitsThatLeadBack<PxPaperType>(name), 0x1f);
@@ -132,7 +127,7 @@ void PxAttributeEnumsTest::listsPageTypes()
 {
     PxPageType both(PxPageTypeEmptyPage);
     both.expandTo(PxPageTypeSpine);
-    both.expandTo(QStringLiteral("leather"));
+    both.expandTo("leather");
     QCOMPARE(int(both.value()), 0x821);
 
     QTest::ignoreMessage(QtDebugMsg,
@@ -140,6 +135,15 @@ void PxAttributeEnumsTest::listsPageTypes()
     const QList<PxPageTypeEnum> expected{PxPageTypeSpine, PxPageTypeNone, PxPageTypeNone};
     QCOMPARE(PxPageTypeList(" spine, ,attic"), PxPageTypeList(expected));
     QCOMPARE(PxPageTypeList("").size(), 1);
+}
+
+void PxAttributeEnumsTest::librariesDecodeWhatTheProgramInserted()
+{
+    PxBinding().enumToStringTable()->insert("ring", PxBindingFoil);
+    PxOrientation().enumToStringTable()->insert("oblique", PxOrientationPanorama);
+    const PxProductTypeDescription product(pxElement("<p binding='ring' orientation='oblique'/>"));
+    QCOMPARE(product.binding().value(), PxBindingFoil);
+    QCOMPARE(product.orientation().value(), PxOrientationPanorama);
 }
 
 QTEST_GUILESS_MAIN(PxAttributeEnumsTest)

@@ -31,8 +31,9 @@ static int printNames(const QString &directory)
 }
 
 /** What printNames() answers of a frames.xml: in a process of its own, for it is read only once. */
-static QString namesOf(const QTemporaryDir &directory, const QByteArray &frames)
+static QString namesOf(const QByteArray &frames)
 {
+    const QTemporaryDir directory;
     QFile file(directory.filePath("frames.xml"));
     if (!frames.isEmpty() && file.open(QIODevice::WriteOnly))
         file.write(frames);
@@ -40,25 +41,21 @@ static QString namesOf(const QTemporaryDir &directory, const QByteArray &frames)
     QProcess process;
     process.start(QCoreApplication::applicationFilePath(), {"--names", directory.path()});
     process.waitForFinished();
-    return QString::fromUtf8(process.readAllStandardOutput());
+    return QString::fromUtf8(process.readAllStandardOutput()).remove(directory.path());
 }
 
 void PxHumanReadableTest::readsFrameModels()
 {
-    const QTemporaryDir directory;
-    QCOMPARE(namesOf(directory, ""), QString("Duene|Poster Ohne Rahmen|Glänzend|"));
     const QByteArray frames = "<frames><frame id='Duene' name='Düne'/>";
-    QCOMPARE(namesOf(directory, frames + "</frames>"),
-             QString("Düne|Poster Ohne Rahmen|Glänzend|"));
-
+    const QString unread = "Duene|Poster Ohne Rahmen|Glänzend|";
+    const QString read = "Düne|Poster Ohne Rahmen|Glänzend|";
     const QString warning = "|PxHumanReadable::initTemplateNames ";
-    QCOMPARE(namesOf(directory, frames + "<frame id='Duene'/><frame name='Wald'/></frames>"),
-             "Düne|Poster Ohne Rahmen|Glänzend|" + warning +
-                 "frame without id or name \"Duene\" \"\"" + warning +
+    QCOMPARE(namesOf(""), unread);
+    QCOMPARE(namesOf(frames + "</frames>"), read);
+    QCOMPARE(namesOf(frames + "<frame id='Duene'/><frame name='Wald'/></frames>"),
+             read + warning + "frame without id or name \"Duene\" \"\"" + warning +
                  "frame without id or name \"\" \"Wald\"");
-    const QString broken = namesOf(directory, frames);
-    QVERIFY2(broken.startsWith("Duene|Poster Ohne Rahmen|Glänzend|" + warning), qPrintable(broken));
-    QVERIFY2(broken.contains("frames.xml:1:"), qPrintable(broken));
+    QVERIFY(namesOf(frames).startsWith(unread + warning + "could not open \"/frames.xml:1:"));
 }
 
 void PxHumanReadableTest::describesMaterials()
@@ -68,8 +65,7 @@ void PxHumanReadableTest::describesMaterials()
     };
     QCOMPARE(describe("Deko-Poster"), QString("Poster-Collage"));
     QCOMPARE(describe("Posterdruck XXL quadratisch"), QString("Posterdruck XXL Quadratisch"));
-    QCOMPARE(describe("poster"), QString());
-    QCOMPARE(describe("Poster "), QString());
+    QCOMPARE(describe("poster") + describe("Poster "), QString());
 }
 
 int main(int argc, char *argv[])

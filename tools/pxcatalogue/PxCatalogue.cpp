@@ -8,11 +8,16 @@
 #include "PxProductTable.h"
 #include "PxReport.h"
 #include "PxTerminal.h"
+#include "PxThemeTable.h"
 
 #include <PxProductProperties.h>
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QLocale>
+#include <QTranslator>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -29,6 +34,28 @@ int write(const QByteArray &output)
         return done;
     PxTerminal::printError(QStringLiteral("cannot write the output: ") + file.errorString());
     return cannotRun;
+}
+
+/** Before the library is asked anything: it translates its tables when it builds them. */
+void installTranslation(const QString &language)
+{
+    const QLocale locale = language.isEmpty() ? QLocale() : QLocale(language);
+    // The texts are German, so there is no catalogue for it: where German is the first choice, the
+    // catalogue of the second one would be found.
+    if (locale.uiLanguages().value(0).startsWith(QLatin1String("de")))
+        return;
+    auto *translator = new QTranslator(QCoreApplication::instance());
+    if (translator->load(locale, QStringLiteral("pxproductproperties"), QStringLiteral("_"),
+                         QStringLiteral(":/pxproductproperties")))
+        QCoreApplication::installTranslator(translator);
+}
+
+QString suggestionOf(const QStringList &names, const QString &name)
+{
+    const QStringList nearest = PxNearestNames(names).find(name);
+    return nearest.isEmpty()
+               ? QString()
+               : QStringLiteral(": did you mean %1?").arg(nearest.join(QLatin1String(", ")));
 }
 
 } // namespace
@@ -51,12 +78,17 @@ int PxCatalogue::run() const
         PxTerminal::printError(problem);
         return cannotRun;
     }
+    installTranslation(m_commandLine.language());
     PxProductPropertiesInitializer::setupModule();
     switch (m_commandLine.command()) {
     case PxCatalogueCommandLine::Command::Show:
         return show();
     case PxCatalogueCommandLine::Command::Compatible:
         return showCompatible();
+    case PxCatalogueCommandLine::Command::Themes:
+        return showThemes();
+    case PxCatalogueCommandLine::Command::Variants:
+        return showVariants();
     default:
         return list();
     }
@@ -78,14 +110,16 @@ int PxCatalogue::list() const
 int PxCatalogue::show() const
 {
     const PxProductType type(m_commandLine.productName());
-    const int pages = m_commandLine.pageCount();
-    if (PxCatalogueProducts::isCurrent(type))
-        return print(
-            PxProductReport(PxProductTypeConfigRegistry::instance(), type, pages).report());
-    if (PxCatalogueProducts::isLegacy(type))
-        return print(
-            PxProductReport(PxProductTypeConfigRegistry::legacyInstance(), type, pages).report());
-    return printUnknownProduct();
+    const QString theme = m_commandLine.themeId();
+    const bool isCurrent = PxCatalogueProducts::isCurrent(type);
+    // Nobody designs a product of an earlier catalogue: none of the themes is for it.
+    if (!isCurrent && (!theme.isEmpty() || !PxCatalogueProducts::isLegacy(type)))
+        return printUnknownProduct();
+    if (!isThemeKnown())
+        return printUnknownTheme();
+    const auto *registry = isCurrent ? PxProductTypeConfigRegistry::instance()
+                                     : PxProductTypeConfigRegistry::legacyInstance();
+    return print(PxProductReport(registry, type, m_commandLine.pageCount(), theme).report());
 }
 
 int PxCatalogue::showCompatible() const
@@ -93,21 +127,76 @@ int PxCatalogue::showCompatible() const
     const PxProductType type(m_commandLine.productName());
     if (!PxCatalogueProducts::isCurrent(type))
         return printUnknownProduct();
+    if (!isThemeKnown())
+        return printUnknownTheme();
 
     PxProductTypeList others = PxProductTypeConfigRegistry::instance()->findCompatibleProducts(
         type, m_commandLine.criterion());
     others.removeAll(type);
+    QVector<PxReport::Field> query{{"product", "With", type.productName()},
+                                   {"criterion", "Agreeing in", m_commandLine.criterionKeywords()}};
+    const QString themeId = m_commandLine.themeId();
+    if (!themeId.isEmpty()) {
+        const auto allowed = PxThemeFactory::instance()->findTheme(themeId).allowedProductTypes();
+        others.erase(
+            std::remove_if(others.begin(), others.end(),
+                           [&](const PxProductType &other) { return !allowed.sharesKey(other); }),
+            others.end());
+        query.append({"theme", "Allowed by the theme", themeId});
+    }
     PxReport report;
-    report.addFields("query", "Interchangeable",
-                     {{"product", "With", type.productName()},
-                      {"criterion", "Agreeing in", m_commandLine.criterionKeywords()}});
+    report.addFields("query", "Interchangeable", query);
     PxProductTable(PxCatalogueProducts::sorted(others)).addTo(&report);
     const int status = print(report);
     if (status != done || !others.isEmpty())
         return status;
-    PxTerminal::printError(QStringLiteral("no other product is interchangeable with ") +
-                           type.productName());
-    return answerIsNo;
+    return printNo(QStringLiteral("no other product is interchangeable with ") +
+                   type.productName());
+}
+
+int PxCatalogue::showThemes() const
+{
+    const auto *factory = PxThemeFactory::instance();
+    const int keyAccount = m_commandLine.keyAccount();
+    const PxThemeList themes =
+        keyAccount < 0 ? factory->themeList() : factory->themeList(keyAccount);
+    PxReport report;
+    PxThemeTable(themes).addTo(&report);
+    const int status = print(report);
+    if (status != done || !themes.isEmpty())
+        return status;
+    return printNo(factory->themeList().isEmpty()
+                       ? QStringLiteral("no themes in the directory \"%1\"")
+                             .arg(PxDirectoryConfig::instance()->lumoThemesDirectory(false).path())
+                       : QStringLiteral("no theme that key account %1 may order").arg(keyAccount));
+}
+
+int PxCatalogue::showVariants() const
+{
+    const PxProductType type(m_commandLine.productName());
+    if (!PxCatalogueProducts::isCurrent(type))
+        return printUnknownProduct();
+
+    const auto *identifiers = PxProductVariantIdentifiers::instance();
+    const QMap<QString, QString> nameOfVariant = identifiers->variants(type);
+    const QString standard = identifiers->defaultVariant(type);
+    QVector<QJsonArray> rows;
+    for (auto it = nameOfVariant.begin(); it != nameOfVariant.end(); ++it)
+        rows.append({it.key(), it.value(), it.key() == standard});
+    PxReport report;
+    report.addFields("product", "Product",
+                     {{"name", "Name", type.productName()},
+                      {"variantDescription", "Differ in", identifiers->variantDescription(type)},
+                      {"defaultVariant", "Default", standard}});
+    report.addTable("variants", "Variants",
+                    {{"identifier", "Identifier", PxReportFormat::Key},
+                     {"name", "Name"},
+                     {"isDefault", "", PxReportFormat::JsonOnly}},
+                    rows);
+    const int status = print(report);
+    if (status != done || !rows.isEmpty())
+        return status;
+    return printNo(type.productName() + QLatin1String(" has no variants that have a name"));
 }
 
 int PxCatalogue::print(const PxReport &report) const
@@ -116,20 +205,38 @@ int PxCatalogue::print(const PxReport &report) const
                                         : report.text(PxTerminal::columns()).toUtf8());
 }
 
+int PxCatalogue::printNo(const QString &reason) const
+{
+    PxTerminal::printError(reason);
+    return answerIsNo;
+}
+
 int PxCatalogue::printUnknownProduct() const
 {
     const QString name = m_commandLine.productName();
     const PxProductType type(name);
     const PxProductType successor =
         PxProductTypeConfigRegistry::instance()->findProductForLegacy(type);
-    const QStringList nearest = PxNearestNames(PxCatalogueProducts::names()).find(name);
     QString reason = QStringLiteral("no product \"%1\"").arg(name);
     if (successor.isValid())
         reason += QStringLiteral(" any more: %1 replaces it").arg(successor.productName());
     else if (type.isValid())
         reason += QLatin1String(": its type is known, but no product file describes it");
-    else if (!nearest.isEmpty())
-        reason += QStringLiteral(": did you mean %1?").arg(nearest.join(QLatin1String(", ")));
-    PxTerminal::printError(reason + QLatin1String(" (\"pxcatalogue list\" shows all)"));
-    return answerIsNo;
+    else
+        reason += suggestionOf(PxCatalogueProducts::names(), name);
+    return printNo(reason + QLatin1String(" (\"pxcatalogue list\" shows all)"));
+}
+
+int PxCatalogue::printUnknownTheme() const
+{
+    const QString id = m_commandLine.themeId();
+    return printNo(QStringLiteral("no theme \"%1\"%2 (\"pxcatalogue themes\" shows all)")
+                       .arg(id, suggestionOf(PxThemeFactory::instance()->themeNames(), id)));
+}
+
+/** Also when none is given. */
+bool PxCatalogue::isThemeKnown() const
+{
+    const QString id = m_commandLine.themeId();
+    return id.isEmpty() || PxThemeFactory::instance()->contains(id);
 }

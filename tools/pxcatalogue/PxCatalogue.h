@@ -18,9 +18,14 @@ private:
     int list() const;
     int show() const;
     int showCompatible() const;
+    int showThemes() const;
+    int showVariants() const;
 
     int print(const PxReport &report) const;
+    int printNo(const QString &reason) const;
     int printUnknownProduct() const;
+    int printUnknownTheme() const;
+    bool isThemeKnown() const;
 
     PxCatalogueCommandLine m_commandLine;
 };

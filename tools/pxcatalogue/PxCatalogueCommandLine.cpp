@@ -6,13 +6,16 @@
 #include <QCoreApplication>
 
 #include <functional>
+#include <limits>
 #include <numeric>
 
 namespace {
 
 using Command = PxCatalogueCommandLine::Command;
 
-constexpr int everyCommand = int(Command::List) | int(Command::Show) | int(Command::Compatible);
+constexpr int themedCommands = int(Command::Show) | int(Command::Compatible);
+constexpr int everyCommand =
+    themedCommands | int(Command::List) | int(Command::Themes) | int(Command::Variants);
 
 // clang-format off
 constexpr struct { Command command; const char *name; const char *product; const char *description; } commandRows[] = {
@@ -24,17 +27,26 @@ constexpr struct { Command command; const char *name; const char *product; const
     {Command::Compatible, "compatible", "NAME", "The other products that are interchangeable with this one.\n"
         "Those are the ones of its class with the same orientation and number of pages, and with a spine\n"
         "if it has one."},
+    {Command::Themes, "themes", nullptr, "A table of the design themes, by id.\n"
+        "Products are those that a theme allows. Normal: the theme takes the backgrounds of the theme\n"
+        "normal. Movable: its content may be moved. Spine: what is printed there."},
+    {Command::Variants, "variants", "NAME", "The variants of one product, as its colours, with their names.\n"
+        "Those without a name are not on offer and left out."},
 };
 
 constexpr struct { int commands; const char *name; const char *value; const char *description; } optionRows[] = {
     {int(Command::List), "class", "KEYWORD", "Only these products: book, calendar, gift, card, deko or print; several with commas."},
     {int(Command::Show), "pages", "N", "As a product of so many pages, 1 to 9999. Default: as many as it is sold with."},
     {int(Command::Compatible), "criterion", "KEYWORDS", "What must agree, too: binding, paper, space and increment, with commas. Default: none."},
+    {themedCommands, "theme", "ID", "As designed in this theme. Default: default templates of the theme normal, products whatever their themes."},
+    {int(Command::Themes), "key-account", "N", "Only the themes that this key account may order today."},
     {everyCommand, "json", nullptr, "JSON, with all lengths in tenths of a millimetre, instead of text."},
     {everyCommand, "resources", "DIR[:DIR]", "The resource directories. Default: PX_RESOURCE_DIRS, else the catalogue installed with the library."},
     {everyCommand, "products", "DIR", "The directory of the product files. Default: products in the resource directories."},
     {everyCommand, "legacy", "DIR", "The directory of the legacy product files. Default: products/legacy in the same."},
     {everyCommand, "user-defaults", "DIR", "The user's default templates. Default: PX_USER_DEFAULTS_DIR, else defaults in the same."},
+    {everyCommand, "themes", "DIR", "The directory of the theme files. Default: PX_THEMES_DIR, else themes in the same."},
+    {everyCommand, "lang", "LANGUAGE", "The language of display names: en or de. Default: that of the locale, else German."},
     {everyCommand, "verbose", nullptr, "Also the debug messages of the library. Why a product file could not be read is always told."},
     {everyCommand, "help", nullptr, "This text."},
     {everyCommand, "version", nullptr, "The version of the program."},
@@ -46,8 +58,9 @@ constexpr const char *introduction =
     "their files. Tables fit the terminal (COLUMNS), texts that do not are shortened.\n"
     "\nCommands (--help after a command tells its options):\n";
 constexpr const char *exitStatus =
-    "\nExit status: 0 done; 1 the answer is \"no\": there is no such product, or no other\n"
-    "that is interchangeable; 2 wrong usage, or a directory that cannot be read.";
+    "\nExit status: 0 done; 1 the answer is \"no\": there is no such product or\n"
+    "theme, no other product that is interchangeable, no theme to order, or no variant;\n"
+    "2 wrong usage, or a directory that cannot be read.";
 
 QString programDescription()
 {
@@ -62,13 +75,14 @@ QString programDescription()
     return description + QLatin1String(exitStatus);
 }
 
-QString nameOf(int command)
+QString namesOf(int commands)
 {
+    QStringList names;
     for (const auto &row : commandRows) {
-        if (int(row.command) == command)
-            return QLatin1String(row.name);
+        if ((int(row.command) & commands) != 0)
+            names.append(QLatin1String(row.name));
     }
-    return QString();
+    return names.join(QLatin1String(", "));
 }
 
 void addOptions(QCommandLineParser *parser, int commands)
@@ -77,7 +91,8 @@ void addOptions(QCommandLineParser *parser, int commands)
         if ((row.commands & commands) == 0)
             continue;
         // Among the options of all commands it has to be told whose this one is.
-        const QString owner = commands == everyCommand ? nameOf(row.commands) : QString();
+        const bool isOfSome = commands == everyCommand && row.commands != everyCommand;
+        const QString owner = isOfSome ? namesOf(row.commands) : QString();
         const QString description = QString::fromUtf8(row.description);
         parser->addOption(
             {QLatin1String(row.name),
@@ -118,14 +133,14 @@ bool PxCatalogueCommandLine::readCommand(const QStringList &arguments)
     if (!isUnderstood)
         setError(parser.errorText());
     else if (!name.isEmpty())
-        setError(QStringLiteral("unknown command \"%1\": use list, show or compatible").arg(name));
+        setError(QStringLiteral("unknown command \"%1\": use %2").arg(name, namesOf(everyCommand)));
     else if (parser.isSet(QStringLiteral("help")))
         m_information = parser.helpText();
     else if (parser.isSet(QStringLiteral("version")))
         m_information = QCoreApplication::applicationName() + QLatin1Char(' ') +
                         QCoreApplication::applicationVersion() + QLatin1Char('\n');
     else
-        setError(QStringLiteral("a command is missing: use list, show or compatible"));
+        setError(QLatin1String("a command is missing: use ") + namesOf(everyCommand));
     return false;
 }
 
@@ -152,7 +167,7 @@ void PxCatalogueCommandLine::readOptions(const QStringList &arguments)
     else if (m_parser.isSet(QStringLiteral("help")))
         m_information = m_parser.helpText();
     else if (given < expected)
-        setError(nameOf(int(m_command)) + QLatin1String(" needs the name of a product"));
+        setError(namesOf(int(m_command)) + QLatin1String(" needs the name of a product"));
     else if (given > expected)
         setError(QStringLiteral("\"%1\" is one argument too many")
                      .arg(m_parser.positionalArguments().value(expected)));
@@ -165,20 +180,29 @@ void PxCatalogueCommandLine::readOptions(const QStringList &arguments)
         }
         m_productClasses = readKeywords(QStringLiteral("class"), productClassKeywords);
         m_criterion = readKeywords(QStringLiteral("criterion"), ::criterionKeywords);
-        readPageCount();
+        m_pageCount = readNumber(QStringLiteral("pages"), 1, PxOfferedPageCounts::maximumShown);
+        m_keyAccount =
+            readNumber(QStringLiteral("key-account"), 0, std::numeric_limits<int>::max());
+        if (!QStringList{QString(), QStringLiteral("en"), QStringLiteral("de")}.contains(
+                language()))
+            setError(QStringLiteral("--lang needs en or de, not \"%1\"").arg(language()));
     }
 }
 
-void PxCatalogueCommandLine::readPageCount()
+/** Below the minimum when the option is not given. */
+int PxCatalogueCommandLine::readNumber(const QString &option, int minimum, int maximum)
 {
-    const QString option = QStringLiteral("pages");
     if (!m_parser.optionNames().contains(option))
-        return;
-    m_pageCount = m_parser.value(option).toInt();
-    if (m_pageCount < 1 || m_pageCount > PxOfferedPageCounts::maximumShown)
-        setError(QStringLiteral("--pages needs a number from 1 to %1, not \"%2\"")
-                     .arg(PxOfferedPageCounts::maximumShown)
+        return minimum - 1;
+    bool isNumber = false;
+    const int number = m_parser.value(option).toInt(&isNumber);
+    if (!isNumber || number < minimum || number > maximum)
+        setError(QStringLiteral("--%1 needs a number from %2 to %3, not \"%4\"")
+                     .arg(option)
+                     .arg(minimum)
+                     .arg(maximum)
                      .arg(m_parser.value(option)));
+    return number;
 }
 
 /** 0 when the option is not given. */

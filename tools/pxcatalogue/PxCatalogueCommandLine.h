@@ -10,7 +10,7 @@
 class PxCatalogueCommandLine
 {
 public:
-    enum class Command { List = 1, Show = 2, Compatible = 4 };
+    enum class Command { List = 1, Show = 2, Compatible = 4, Themes = 8, Variants = 16 };
 
     explicit PxCatalogueCommandLine(const QStringList &arguments);
 
@@ -30,13 +30,19 @@ public:
     /** What must agree beside orientation, spine and number of pages. */
     PxProductComparationCriterion criterion() const { return m_criterion; }
     QJsonArray criterionKeywords() const;
-    /** Of an option that names directories; empty when it is not given. */
+    /** Ids of themes are in lower case. Empty when none is given. */
+    QString themeId() const { return value("theme").toLower(); }
+    /** -1 when none is given. */
+    int keyAccount() const { return m_keyAccount; }
+    /** "en" or "de"; empty for that of the locale. */
+    QString language() const { return value("lang"); }
+    /** Of an option of the command; empty when it is not given. */
     QString value(const char *option) const { return m_parser.value(QLatin1String(option)); }
 
 private:
     bool readCommand(const QStringList &arguments);
     void readOptions(const QStringList &arguments);
-    void readPageCount();
+    int readNumber(const QString &option, int minimum, int maximum);
     template <typename ENUM>
     ENUM readKeywords(const QString &option, const QHash<QString, ENUM> &keywords);
     void setError(const QString &error);
@@ -44,6 +50,7 @@ private:
     QCommandLineParser m_parser;
     Command m_command = Command::List;
     int m_pageCount = 0;
+    int m_keyAccount = -1;
     PxProductClass m_productClasses = PxProductClassUnknown;
     PxProductComparationCriterion m_criterion = PxProductComparationNone;
     QString m_error;

@@ -35,6 +35,8 @@ QString PxCatalogueDirectories::apply() const
     if (m_commandLine.value("user-defaults").isEmpty() &&
         qEnvironmentVariableIsEmpty("PX_USER_DEFAULTS_DIR"))
         config->setUserDefaultsPath(config->resource(QStringLiteral("defaults"), false));
+    if (m_commandLine.value("themes").isEmpty() && qEnvironmentVariableIsEmpty("PX_THEMES_DIR"))
+        config->setThemesDirectory(config->resource(QStringLiteral("themes"), false));
     return findCatalogue();
 }
 
@@ -46,7 +48,9 @@ QString PxCatalogueDirectories::useGivenOnes() const
     const QString products = m_commandLine.value("products");
     const QString legacy = m_commandLine.value("legacy");
     const QString userDefaults = m_commandLine.value("user-defaults");
-    for (const QString &directory : resources + QStringList{products, legacy, userDefaults}) {
+    const QString themes = m_commandLine.value("themes");
+    for (const QString &directory :
+         resources + QStringList{products, legacy, userDefaults, themes}) {
         if (!directory.isEmpty() && !problemOf(directory).isEmpty())
             return problemOf(directory);
     }
@@ -54,6 +58,8 @@ QString PxCatalogueDirectories::useGivenOnes() const
         config->setResourceDirectories(resources);
     if (!userDefaults.isEmpty())
         config->setUserDefaultsPath(userDefaults);
+    if (!themes.isEmpty())
+        config->setThemesDirectory(themes);
     config->setResource(QStringLiteral("products"), products);
     config->setResource(QStringLiteral("products/legacy"), legacy);
     return QString();

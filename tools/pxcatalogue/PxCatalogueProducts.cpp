@@ -79,3 +79,11 @@ PxProductTypeList PxCatalogueProducts::sorted(PxProductTypeList types)
     });
     return types;
 }
+
+QJsonArray PxCatalogueProducts::nameArray(const PxProductTypeList &types)
+{
+    QJsonArray names;
+    for (const PxProductType &type : sorted(types))
+        names.append(type.productName());
+    return names;
+}

@@ -2,6 +2,7 @@
 
 #include <PxProductTypeList.h>
 
+#include <QJsonArray>
 #include <QStringList>
 
 /** Which products there are: those of the product types that have a product file. */
@@ -20,4 +21,6 @@ public:
     static QString className(const PxProductType &type);
     /** By class, then by name: the library answers in the order of a hash. */
     static PxProductTypeList sorted(PxProductTypeList types);
+    /** The names, in that order. */
+    static QJsonArray nameArray(const PxProductTypeList &types);
 };

@@ -8,6 +8,8 @@ namespace {
 
 using Format = PxReportFormat;
 
+constexpr int iconWidth = 300;
+
 QString sideOf(const PxPageContext &page)
 {
     return keywordsOf(page.alignment(), EnumHelper::globalMapPageAlignmentString)
@@ -42,12 +44,13 @@ QJsonArray backgroundCategoriesOf(const PxProductTypeDescription *product)
 } // namespace
 
 PxProductReport::PxProductReport(const PxProductTypeConfigRegistry *registry,
-                                 const PxProductType &type, int pageCount)
+                                 const PxProductType &type, int pageCount, const QString &themeId)
     : m_registry(registry)
     , m_type(type)
     , m_product(registry->description(type))
     , m_offered(registry, type)
     , m_pageCount(m_offered.shown(pageCount))
+    , m_themeId(themeId)
 {
     for (const PxPageType &pageType : m_product->pageTypes(m_pageCount)) {
         const PxPageContext page(pageType, m_product->pageAlignment(m_pages.size()));
@@ -63,6 +66,7 @@ PxProductReport::PxProductReport(const PxProductTypeConfigRegistry *registry,
     addSurroundings();
     addBarcodes();
     addTemplates();
+    addTheme();
     addDesign();
     addVariants();
     addClassification();
@@ -241,14 +245,66 @@ void PxProductReport::addTemplates()
         rows.append({keywordOf(kind.pageType()), sideOf(kind), pagesOfKind(kind),
                      defaultTemplate(kind, DefaultTemplateTypeLayout),
                      defaultTemplate(kind, DefaultTemplateTypeBackground)});
+    const QString heading = QStringLiteral("Default templates (theme %1, with the user's own)")
+                                .arg(m_themeId.isEmpty() ? QStringLiteral("normal") : m_themeId);
     // clang-format off
-    m_report.addTable("templates", "Default templates (theme normal, with the user's own)", {
+    m_report.addTable("templates", heading.toUtf8(), {
         {"pageType", "Page", Format::Key},
         {"alignment", "Side", Format::Key},
         {"pages", "Numbers", Format::PageNumbers},
         {"layout", "Layout"},
         {"background", "Background"},
     }, rows);
+    // clang-format on
+}
+
+void PxProductReport::addTheme()
+{
+    if (m_themeId.isEmpty())
+        return;
+    const PxProductContext context(m_type, m_themeId);
+    const PxTheme theme = context.theme();
+    const auto [logo, logoRect] = theme.vemoLogo(m_type);
+    const bool hasLogo = context.mustPaintVemoLogo();
+    QList<int> withContent;
+    for (int page = 0; page < m_pages.size(); ++page) {
+        if (context.contentAllowedOnPage(page))
+            withContent.append(page);
+    }
+    const auto category = [&theme](PxJigTypeEnum type) {
+        return theme.defaultCategory(type).name();
+    };
+    const auto others = [this](PxProductTypeList products) {
+        products.removeAll(m_type);
+        return PxCatalogueProducts::nameArray(products);
+    };
+    // clang-format off
+    m_report.addFields("theme", "In this theme", {
+        {"id", "Theme", theme.id()},
+        {"description", "Description", theme.description()},
+        {"isValid", "Valid together", context.isValid()},
+        {"expiryDay", "Until", theme.expiryDayToOrderTxt()},
+        {"isExpired", "Expired", theme.isExpired()},
+        {"iconSize", "Icon", PxReportValue::size(context.optimumIconSize(iconWidth)), Format::Pixels},
+        {"iconSizeSinglePage", "Icon of a page", PxReportValue::size(context.optimumIconSizeSinglePage(iconWidth)), Format::Pixels},
+        {"mustPaintLogo", "Logo painted", hasLogo},
+        {"logoRect", "Place of the logo", hasLogo ? PxReportValue::rect(logoRect) : QJsonValue(), Format::Rect},
+        {"logoSize", "Image of the logo", PxReportValue::size(logo.isNull() ? QSize() : logo.size()), Format::Pixels},
+        {"isThemeWithContent", "Content of its own", theme.isThemeWithContent()},
+        {"pagesWithContent", "Pages with content", PxReportValue::numbers(withContent), Format::PageNumbers},
+        {"canMoveContent", "Content movable", theme.canMoveContent()},
+        {"canUseNormalBackgrounds", "Normal backgrounds", theme.canUseNormalBackgrounds()},
+        {"useSpineText", "Text on the spine", theme.useSpineText()},
+        {"useSpineLogo", "Logo on the spine", theme.useSpineLogo()},
+        {"backgroundCategory", "Backgrounds begin at", category(PxJigTypeBackground)},
+        {"clipartCategory", "Cliparts", category(PxJigTypeClipart)},
+        {"contentCategory", "Content", category(PxJigTypeContent)},
+        {"layoutCategory", "Layouts", category(PxJigTypeLayout)},
+        {"fadingCategory", "Fadings", category(PxJigTypePassepartout)},
+        {"frameCategory", "Frames", category(PxJigTypeFrame)},
+        {"compatibleProducts", "Compatible products", others(context.compatibleProducts())},
+        {"compatibleProductsWithTheSameSize", "Same size", others(context.compatibleProductsWithTheSameSize())},
+    });
     // clang-format on
 }
 
@@ -384,6 +440,9 @@ QJsonValue PxProductReport::pagesOfKind(const PxPageContext &kind) const
 
 QString PxProductReport::defaultTemplate(const PxPageContext &kind, DefaultTemplateType type) const
 {
+    if (!m_themeId.isEmpty()) // as the editor asks: it has a background of its own for empty pages
+        return PxProductContext(m_type, m_themeId)
+            .defaultTemplateForPage(type == DefaultTemplateTypeLayout, kind, true);
     return m_product->findDefaultTemplate(
         PxDefaultTemplateKey(QStringLiteral("normal"), kind, type), true, true);
 }

@@ -17,10 +17,11 @@ public:
     /**
      * A product of this registry, the current one or the legacy one.
      *
-     * With `pageCount` 0 the product has as many pages as it is sold with.
+     * With `pageCount` 0 the product has as many pages as it is sold with. With a theme, which is
+     * for current products only, it is designed in that.
      */
     PxProductReport(const PxProductTypeConfigRegistry *registry, const PxProductType &type,
-                    int pageCount);
+                    int pageCount, const QString &themeId);
 
     PxReport report() const { return m_report; }
 
@@ -34,6 +35,7 @@ private:
     void addSurroundings();
     void addBarcodes();
     void addTemplates();
+    void addTheme();
     void addVariants();
     void addClassification();
     void addLegacy();
@@ -48,6 +50,7 @@ private:
     const PxProductTypeDescription *m_product; // the registry's
     PxOfferedPageCounts m_offered;
     int m_pageCount;
+    QString m_themeId;            // empty for none
     QList<PxPageContext> m_pages; // all pages in their order, covers included
     QList<PxPageContext> m_kinds; // each of them once
     PxReport m_report;

@@ -150,6 +150,8 @@ QString PxReportValue::text(const QJsonValue &value, PxReportFormat format)
         return lengthText(value);
     case PxReportFormat::Size:
         return sizeText(value);
+    case PxReportFormat::Pixels:
+        return QStringLiteral("%1×%2").arg(value[u"width"].toInt()).arg(value[u"height"].toInt());
     case PxReportFormat::Margins:
         return marginsText(value);
     case PxReportFormat::Rect:
@@ -161,6 +163,9 @@ QString PxReportValue::text(const QJsonValue &value, PxReportFormat format)
         return pageCountsText(value);
     case PxReportFormat::PageNumbers:
         return pageNumbersText(value.toArray());
+    case PxReportFormat::CountOrAll:
+        return value.toArray().isEmpty() ? QStringLiteral("all")
+                                         : QString::number(value.toArray().size());
     default:
         return plainText(value);
     }
@@ -178,6 +183,8 @@ QString PxReportValue::unit(PxReportFormat format)
         return QStringLiteral(" cm²");
     case PxReportFormat::Points:
         return QStringLiteral(" pt");
+    case PxReportFormat::Pixels:
+        return QStringLiteral(" px");
     default:
         return QString();
     }

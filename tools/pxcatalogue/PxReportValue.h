@@ -19,8 +19,10 @@ enum class PxReportFormat {
     Rect,
     Area,
     Points,
+    Pixels, // a size
     PageCounts,
     PageNumbers, // a list in which runs are drawn together
+    CountOrAll,  // a list in which none stands for all
     JsonOnly,
 };
 

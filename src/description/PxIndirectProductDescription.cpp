@@ -1,4 +1,4 @@
-#include "context/PxIndirectProductDescription.h"
+#include "description/PxIndirectProductDescription.h"
 
 #include "context/PxProductContext.h"
 
@@ -6,6 +6,8 @@
 
 #include <QDomElement>
 #include <QStringList>
+
+#include <algorithm>
 
 namespace {
 
@@ -102,11 +104,13 @@ void PxIndirectProductDescription::toXml(QDomElement &parent) const
     const PxOrientation all = orientation();
     if (all.isValid())
         PxXMLBuilder::buildDomElement(parent, QStringLiteral("orientation"), all.encodeCSV());
-    QStringList targets;
-    for (PxTemplateTarget target : m_templateTypes)
-        targets.append(EnumHelper::globalMapTemplateTargetString.key(
-            target, EnumHelper::globalTemplateTargetDefaultKey));
-    PxXMLBuilder::buildDomElement(parent, QStringLiteral("type"), targets.join(QLatin1Char(',')));
+    QList<PxTemplateTarget> targets = m_templateTypes.values();
+    std::sort(targets.begin(), targets.end()); // documents shall not follow the order of a hash
+    QStringList keywords;
+    for (PxTemplateTarget target : qAsConst(targets))
+        keywords.append(EnumHelper::encodeKeyword(target, EnumHelper::globalMapTemplateTargetString,
+                                                  EnumHelper::globalTemplateTargetDefaultKey));
+    PxXMLBuilder::buildDomElement(parent, QStringLiteral("type"), keywords.join(QLatin1Char(',')));
 }
 
 bool PxIndirectProductDescription::operator==(const PxIndirectProductDescription &other) const

@@ -1,0 +1,205 @@
+#include <PxCatalogueDirectory.h>
+#include <PxDirectoryConfig.h>
+#include <classification/PxProductTypeVariationListModel.h>
+#include <classification/PxProductVariantIdentifiers.h>
+#include <classification/PxProductVariantListModel.h>
+#include <description/PxProductPropertiesInitializer.h>
+
+#include <QAbstractItemModelTester>
+#include <QFile>
+#include <QProcess>
+#include <QTest>
+#include <QTranslator>
+
+/** Knows one name, by its comment too, and one label. */
+class Translator : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *text, const char *comment,
+                      int) const override
+    {
+        const QByteArray key = QByteArrayList{context, text, comment}.join('|');
+        if (key == "PxProductVariantIdentifiers|Äffchen|Art des Tierchenanhängers")
+            return "Monkey";
+        return key == "PxProductVariantIdentifiers|Art|" ? "Kind" : QString();
+    }
+};
+
+class PxVariantModelsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void namesVariantsOfTheirOwnProduct();
+    void translatesNamesAndLabels();
+    void listsVariants();
+    void paintsSwatches();
+    void listsCompatibleProducts();
+    void listsWhatTheThemeAllows();
+    void changesRowsBetweenTheResetSignals();
+    void exampleShowsTheSwatches();
+
+private:
+    PxCatalogueDirectory m_catalogue;
+    Translator m_translator;
+};
+
+namespace {
+
+PxProductType type(const char *name)
+{
+    return PxProductType(QString(name));
+}
+
+PxProductContext book(const PxEmptyMeansAllSet<PxProductType> &allowed, const char *themeId = "t")
+{
+    const PxTheme theme(themeId, PxProductGroup(), QString(), QDateTime(), QImage(), {}, {}, false,
+                        false, false, {}, false, allowed);
+    return PxProductContext(type("BOOK_A4_PORTRAIT"), theme);
+}
+
+QStringList textsOf(const QAbstractItemModel &model)
+{
+    QStringList texts;
+    for (int row = 0; row < model.rowCount(); ++row)
+        texts.append(model.index(row, 0).data().toString());
+    return texts;
+}
+
+} // namespace
+
+void PxVariantModelsTest::initTestCase()
+{
+    // A part of the sample catalogue, and two products with variants that nothing names.
+    m_catalogue.write("products/ba7.xml",
+                      "<p><product name='BA7'><variants type='Größe'><variant>color:plaid</variant>"
+                      "<variant>color:black</variant></variants></product></p>");
+    m_catalogue.write("products/game_memory.xml", "<p><product name='GAME_MEMORY'><variants>"
+                                                  "<v>color:black</v></variants></product></p>");
+    for (const QString file : {"cup2", "cb14", "pdt1", "book_a4_portrait", "book_a4_portrait_soft",
+                               "book_a4_portrait_glossy", "book_a4_portrait_photo"})
+        QVERIFY(QFile::copy(PX_SAMPLE_DIRECTORY "/products/" + file + ".xml",
+                            m_catalogue.filePath("products/" + file + ".xml")));
+    PxDirectoryConfig::instance()->setResourceDirectories(
+        {m_catalogue.filePath(QString()), PX_SAMPLE_DIRECTORY});
+    QVERIFY(QCoreApplication::installTranslator(&m_translator));
+    QVERIFY(PxProductPropertiesInitializer::setupModule());
+}
+
+void PxVariantModelsTest::namesVariantsOfTheirOwnProduct()
+{
+    const auto *identifiers = PxProductVariantIdentifiers::instance();
+    QCOMPARE(identifiers->variantName(type("CUP2"), "color:blue"), QString("Blau"));
+    QCOMPARE(identifiers->variantName(type("BA7"), "color:blue"), QString());
+    QCOMPARE(identifiers->defaultVariant(type("CB14")), QString("ruling:blank")); // last in file
+    QCOMPARE(identifiers->defaultVariant(type("BA7")), QString("color:black"));
+    QVERIFY(identifiers->hasVariants(type("BA7")));
+    for (const char *none : {"GAME_MEMORY", "BOOK_MINI"}) {
+        QCOMPARE(identifiers->defaultVariant(type(none)), QString());
+        QVERIFY(!identifiers->hasVariants(type(none)));
+    }
+}
+
+void PxVariantModelsTest::translatesNamesAndLabels()
+{
+    const auto *identifiers = PxProductVariantIdentifiers::instance();
+    QCOMPARE(identifiers->variantName(type("PDT1"), "figure:monkey"), QString("Monkey"));
+    QCOMPARE(identifiers->variantDescription(type("PDT1")), QString("Kind"));
+    QCOMPARE(identifiers->variantDescription(type("CUP2")), QString("Innenfarbe"));
+    QCOMPARE(identifiers->variantDescription(type("BA7")), QString("Größe"));
+}
+
+void PxVariantModelsTest::listsVariants()
+{
+    PxProductVariantListModel model(type("CB14"));
+    QVERIFY(model.index(0).data(Qt::DecorationRole).value<QIcon>().isNull());
+    model.setProduct(type("CUP2"));
+    QCOMPARE(textsOf(model), QStringList({"Schwarz", "Blau", "Grün", "Rot", "Gelb"}));
+    QCOMPARE(model.indexOf("color:red"), 3);
+    QCOMPARE(model.identifier("Grün"), QString("color:green"));
+    QCOMPARE(model.identifier("Lila"), QString());
+    const QPixmap red = model.index(3).data(Qt::DecorationRole).value<QIcon>().pixmap(1);
+    QCOMPARE(red.toImage().pixelColor(0, 0), QColor(203, 0, 0));
+    QVERIFY(!model.index(3).data(Qt::EditRole).isValid());
+    QCOMPARE(textsOf(PxProductVariantListModel(type("BA7"))), QStringList("Schwarz"));
+}
+
+void PxVariantModelsTest::paintsSwatches()
+{
+    const QImage swatch = PxProductVariantListModel::colorDescriptionToPixmap("HellBlau").toImage();
+    QCOMPARE(swatch.size(), QSize(100, 100));
+    QCOMPARE(swatch.pixelColor(99, 0), QColor(14, 166, 167));
+    QVERIFY(!PxProductVariantListModel::colorDescriptionToPixmap("WEIß").isNull());
+    QVERIFY(PxProductVariantListModel::colorDescriptionToPixmap("liniert").isNull());
+}
+
+void PxVariantModelsTest::listsCompatibleProducts()
+{
+    const PxProductTypeVariationListModel papers(book({}), PxProductComparationAllButPaperType);
+    QCOMPARE(textsOf(papers), QStringList({"Digitaldruck", "Digitaldruck mit Hochglanz-Veredelung",
+                                           "Fotopapier glänzend"}));
+    QCOMPARE(papers.indexOfCurrentProduct(), papers.index(0));
+    QCOMPARE(papers.columnCount(papers.index(0)), 0);
+    QVERIFY(!papers.productAt(3).isValid());
+    // By code point "Premium-Matt", which is CB14, stands before "mit Hochglanz-Veredelung".
+    const PxProductTypeList sorted{type("CB14"), type("BOOK_A4_PORTRAIT_GLOSSY")};
+    QCOMPARE(papers.filterAllowedByTheme({sorted[1], sorted[0]}), sorted);
+
+    const PxProductTypeVariationListModel bindings(book({}), PxProductComparationAllButBinding);
+    QCOMPARE(textsOf(bindings), QStringList({"Hardcover", "Softcover"}));
+    const PxProductTypeVariationListModel sizes(book({}), PxProductComparationSpaceMagnitude);
+    QCOMPARE(sizes.filterAllowedByTheme({sorted[1], sorted[0]})[0], sorted[1]);
+    QVERIFY(!sizes.index(0).data().isValid());
+}
+
+void PxVariantModelsTest::listsWhatTheThemeAllows()
+{
+    const PxProductTypeVariationListModel model(
+        book({type("CUP2"), type("BOOK_A4_PORTRAIT_GLOSSY")}), PxProductComparationAllButPaperType);
+    QCOMPARE(textsOf(model), QStringList("Digitaldruck mit Hochglanz-Veredelung"));
+    QVERIFY(!model.indexOfCurrentProduct().isValid());
+}
+
+void PxVariantModelsTest::changesRowsBetweenTheResetSignals()
+{
+    PxProductVariantListModel variants(type("CB14"));
+    PxProductTypeVariationListModel papers(book({}), PxProductComparationAllButPaperType);
+    QList<int> rows; // of the model, when a reset is announced and when it is done
+    for (QAbstractItemModel *model :
+         std::initializer_list<QAbstractItemModel *>{&variants, &papers}) {
+        new QAbstractItemModelTester(model, QAbstractItemModelTester::FailureReportingMode::QtTest,
+                                     model);
+        const auto record = [&rows, model] { rows.append(model->rowCount()); };
+        connect(model, &QAbstractItemModel::modelAboutToBeReset, record);
+        connect(model, &QAbstractItemModel::modelReset, record);
+    }
+    variants.setProduct(type("CUP2"));
+    QCOMPARE(variants.sizeNeeded(), 7);
+    variants.setProduct(type("BOOK_MINI"));
+    QCOMPARE(variants.sizeNeeded(), 7); // as wide as it was
+    QCOMPARE(rows, QList<int>({3, 5, 5, 0}));
+    papers.setProductContext(book({})); // equal
+    QCOMPARE(rows.size(), 4);
+    papers.setProductContext(book({type("BOOK_A4_PORTRAIT_GLOSSY")}, "other"));
+    papers.updateContent();
+    QCOMPARE(rows.mid(4), QList<int>({3, 1, 1, 1}));
+}
+
+void PxVariantModelsTest::exampleShowsTheSwatches()
+{
+    const QString file = m_catalogue.filePath("window.png");
+    qputenv("PX_RESOURCE_DIRS", PX_SAMPLE_DIRECTORY);
+    QCOMPARE(QProcess::execute(PX_VARIANTS_PROGRAM, {"--screenshot", file}), 0);
+    const QImage picture(file);
+    QHash<QRgb, int> pixels;
+    for (int i = 0; i < picture.width() * picture.height(); ++i)
+        ++pixels[picture.pixel(i % picture.width(), i / picture.width())];
+    const QColor colors[] = {{0, 0, 0}, {40, 21, 119}, {0, 89, 92}, {203, 0, 0}, {255, 209, 76}};
+    for (const QColor &color : colors)
+        QVERIFY2(pixels[color.rgb()] >= 32 * 32, qPrintable(color.name()));
+}
+
+QTEST_MAIN(PxVariantModelsTest)
+#include "PxVariantModelsTest.moc"

@@ -1,0 +1,189 @@
+#include "PxCatalogueDirectory.h"
+
+#include <context/PxProductContext.h>
+#include <description/PxProductPropertiesInitializer.h>
+#include <geometry/PxMargins.h>
+#include <themes/PxThemeFactory.h>
+
+#include <PxDirectoryConfig.h>
+
+#include <QTest>
+
+#include <algorithm>
+
+class PxProductContextTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void defaultContextIsVoid();
+    void settersLeaveOtherHoldersAlone();
+    void validityAsksTheThemesProducts();
+    void similarProductsMayDiffer();
+    void compatibleProductsAreThoseOfTheTheme();
+    void iconsShowASpread_data();
+    void iconsShowASpread();
+    void storyBoardsNeedSeveralProducts();
+    void templatesFollowTheme();
+    void contentNeedsATheme();
+    void unknownProductIsAnsweredFromDefaults();
+    void printsReadably();
+
+private:
+    PxCatalogueDirectory m_directory;
+};
+
+void PxProductContextTest::initTestCase()
+{
+    m_directory.writeProductTypes("1 book BOOK\n2 book TWIN\n3 book BIG\n4 calendar CAL\n"
+                                  "5 gift CUP\n8 gift ODD\n6 gift SET\n7 card FLAT\n13 book LEFT");
+    const auto product = [this](const char *file, const QByteArray &content) {
+        m_directory.write(file, "<d><product " + content + "</product></d>");
+    };
+    const QByteArray size = "<usablesize width='300' height='200'/>";
+    const QByteArray spines = "<spines><spine pages='4'/><spine pages='6'/><spine pages='8'/>"
+                              "</spines>";
+    product("products/1.xml", "name='BOOK' space='xl' numOfSpirals='-1'>" + size + spines +
+                                  "<pageswithcontent>2</pageswithcontent><defaults>"
+                                  "<defaults pageType='normalpage,empty' templates='b,l'/>"
+                                  "<defaults theme='a' pageType='normalpage' background='ab'/>"
+                                  "</defaults>");
+    product("products/2.xml", "name='TWIN' space='xl' binding='FOIL'>" + size + spines);
+    product("products/3.xml", "name='BIG' space='600cm2'>" + size + spines);
+    product("products/4.xml", "name='CAL' binding='CALENDAR_DUPLEX' horizontalPages='0'>" + size);
+    product("products/5.xml", "name='CUP' numOfProducts='0' numOfNormalPages='4'>" + size);
+    product("products/8.xml", "name='ODD' numOfProducts='-1' numOfNormalPages='-2147483648'>");
+    product("products/6.xml", "name='SET' numOfProducts='2' numOfNormalPages='5'>" + size);
+    product("products/7.xml", "name='FLAT' numOfNormalPages='2'><usablesize width='9' height='0' "
+                              "orientation='round'/>");
+    m_directory.write("themes/a.xml",
+                      "<themes><t id='a' producttype='book'><products><product>TWIN</product>"
+                      "</products></t><t id='normal' producttype='book'/></themes>");
+    PxDirectoryConfig::instance()->setThemesDirectory(m_directory.filePath("themes"));
+    QVERIFY(PxProductPropertiesInitializer::setupModule());
+}
+
+void PxProductContextTest::defaultContextIsVoid()
+{
+    const PxProductContext context;
+    QVERIFY(context.isVoidContext() && !context.isValid());
+    QCOMPARE(context.themeId(), QString("normal"));
+    QVERIFY(!PxProductContext(0, QString("a")).isVoidContext());
+    QVERIFY(!PxProductContext(1).isVoidContext());
+    QCOMPARE(PxProductContext(1, QString("no such theme")).theme(), PxTheme::voidTheme());
+}
+
+void PxProductContextTest::settersLeaveOtherHoldersAlone()
+{
+    const PxProductContext context(1);
+    PxProductContext copy = context;
+    copy.setTheme(PxThemeFactory::instance()->findTheme("a"));
+    QVERIFY(context.isDefaultTheme() && context != copy);
+    copy.setTheme(context.theme());
+    QVERIFY(context == copy); // without sharing a record
+    QCOMPARE(qHash(context), qHash(copy));
+    copy.setProductType(3);
+    QCOMPARE(copy.spaceMagnitude().value(), PxSpaceMagnitude600);
+    QCOMPARE(context.spaceMagnitude().value(), PxSpaceMagnitude900);
+}
+
+void PxProductContextTest::validityAsksTheThemesProducts()
+{
+    QVERIFY(PxProductContext(2, QString("a")).isValid());
+    QVERIFY(!PxProductContext(1, QString("a")).isValid());
+    QVERIFY(PxProductContext(1, PxTheme()).isValid()); // not whether the theme itself is valid
+    QVERIFY(PxProductContext(13).isValid());           // nor whether the product has a file
+    QVERIFY(!PxProductContext(99).isValid());
+    QVERIFY(PxProductContext(13).startsWithLeftPage() && !PxProductContext(1).startsWithLeftPage());
+}
+
+void PxProductContextTest::similarProductsMayDiffer()
+{
+    QVERIFY(PxProductContext(1).isVerySimilarTo(PxProductContext(2)));
+    QVERIFY(!PxProductContext(1).isVerySimilarTo(PxProductContext(3)));
+    QVERIFY(!PxProductContext(1).isVerySimilarTo(PxProductContext(1, QString("a"))));
+}
+
+void PxProductContextTest::compatibleProductsAreThoseOfTheTheme()
+{
+    PxProductTypeList products = PxProductContext(1).compatibleProducts();
+    std::sort(products.begin(), products.end());
+    QCOMPARE(products, PxProductTypeList({1, 2}));
+    QCOMPARE(PxProductContext(1, QString("a")).compatibleProductsWithTheSameSize(),
+             PxProductTypeList({2}));
+}
+
+void PxProductContextTest::iconsShowASpread_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QSize>("single");
+    QTest::addColumn<QSize>("spread");
+    QTest::newRow("two pages side by side") << 1 << QSize(300, 200) << QSize(300, 100);
+    QTest::newRow("two pages of a calendar") << 4 << QSize(300, 200) << QSize(300, 400);
+    QTest::newRow("page without height") << 7 << QSize(300, 0) << QSize(300, 0);
+    QTest::newRow("no product") << 0 << QSize(300, 300) << QSize(300, 300);
+}
+
+void PxProductContextTest::iconsShowASpread()
+{
+    QFETCH(int, type);
+    const PxProductContext context(type);
+    QTEST(context.optimumIconSizeSinglePage(300), "single");
+    QTEST(context.optimumIconSize(300), "spread");
+    QCOMPARE(PxProductContext(1).optimumIconSizeSinglePage(100), QSize(100, 66)); // truncated
+}
+
+void PxProductContextTest::storyBoardsNeedSeveralProducts()
+{
+    QVERIFY(!PxProductContext(5).useTwoStoryBoards()); // no products at all: nothing to divide by
+    QVERIFY(PxProductContext(6).useTwoStoryBoards());
+    QCOMPARE(PxProductContext(6).pagesPerProduct(), 2);
+    QCOMPARE(PxProductContext(5).pagesPerProduct(), 0);
+    QCOMPARE(PxProductContext(8).pagesPerProduct(), 2147483647);
+    QVERIFY(!PxProductContext(7).useTwoStoryBoards());
+    QVERIFY(!PxProductContext(1).hasSpiral());
+}
+
+void PxProductContextTest::templatesFollowTheme()
+{
+    const auto find = [](const char *theme, PxPageTypeEnum type, bool doublePage) {
+        return PxProductContext(1, QString(theme))
+            .defaultTemplateForPage(doublePage, PxPageContext(type, PxPageAlignmentLeft), true);
+    };
+    QCOMPARE(find("normal", PxPageTypeNormalPage, false), QString("b"));
+    QCOMPARE(find("normal", PxPageTypeNormalPage, true), QString("l"));
+    QCOMPARE(find("a", PxPageTypeNormalPage, false), QString("ab"));
+    QCOMPARE(find("a", PxPageTypeNormalPage, true), QString("l")); // falls back to "normal"
+    QCOMPARE(find("a", PxPageTypeEmptyPage, false), QString("Weiss"));
+    QCOMPARE(find("a", PxPageTypeEmptyPage, true), QString("l"));
+}
+
+void PxProductContextTest::contentNeedsATheme()
+{
+    const PxProductContext themed(1, QString("a"));
+    QVERIFY(themed.contentAllowedOnPage(2) && !themed.contentAllowedOnPage(3));
+    QVERIFY(!PxProductContext(1).contentAllowedOnPage(2));
+}
+
+void PxProductContextTest::unknownProductIsAnsweredFromDefaults()
+{
+    const PxProductContext context(99);
+    QCOMPARE(context.pageTypes(3).size(), 1);
+    QVERIFY(context.isOnePage() && !context.isDuplex());
+    QCOMPARE(context.usablePrintSize(PxPageTypeSpine), QSizeF(0, -1));
+    QVERIFY(!context.hasBookletBinding() && !context.canHaveStyles());
+}
+
+void PxProductContextTest::printsReadably()
+{
+    QString text;
+    QDebug(&text) << PxProductContext(1, QString("a")) << PxMargins(1, 2, 3, 4)
+                  << PxPageContext(PxPageType("spine,normal"), PxPageAlignmentRight) << 5;
+    QCOMPARE(text, QString("PxProductContext(PxProductType(1, \"BOOK\"), PxTheme(\"a\")) "
+                           "PxMargins(top 1, bottom 2, left 3, right 4) "
+                           "PxPageContext(spine, normalpage(17), alignment 2) 5 "));
+}
+
+QTEST_GUILESS_MAIN(PxProductContextTest)
+#include "PxProductContextTest.moc"

@@ -1,0 +1,155 @@
+#include "PxCatalogueDirectory.h"
+#include "PxLogRecorder.h"
+
+#include <PxDirectoryConfig.h>
+#include <themes/PxThemeFactory.h>
+
+#include <QDir>
+#include <QTest>
+
+class PxThemeFactoryTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void readsEveryItemOfATheme();
+    void missingItemsGetDefaults();
+    void strayNodesAreThemesButBlanksAreNot();
+    void damagedAndForeignFilesAreLeftOut();
+    void bothEndingsAreReadAndTheIndexTakesTheLast();
+    void instanceChoosesTheDefaultTheme();
+
+private:
+    PxThemeList load(const char *file, const QByteArray &themes);
+
+    PxCatalogueDirectory m_directory;
+    PxThemeFactory m_factory;
+};
+
+void PxThemeFactoryTest::initTestCase()
+{
+    m_directory.writeProductTypes("7 book BOOK\n8 gift CUP");
+    m_directory.write("logo.png", "");
+    QImage(5, 6, QImage::Format_RGB32).save(m_directory.filePath("logo.png"));
+}
+
+PxThemeList PxThemeFactoryTest::load(const char *file, const QByteArray &themes)
+{
+    m_directory.write(file, themes);
+    QDir directory = QFileInfo(m_directory.filePath(file)).dir();
+    return m_factory.loadThemeList(directory);
+}
+
+void PxThemeFactoryTest::readsEveryItemOfATheme()
+{
+    const QByteArray thumbnail = m_directory.filePath("logo.png").toUtf8();
+    const PxThemeList themes =
+        load("full/a.xml", R"(<Themes><any id="Hochzeit" producttype="fotobuch,"
+        /><any id="Reise" producttype=" book" expiry="205001022304" thumbnail=")" +
+                               thumbnail + R"(">
+        <description>Große Reise</description>
+        <keyaccounts><a>12</a><b>x</b><c>12</c></keyaccounts>
+        <products><product>cup</product><product>none</product><other>BOOK</other></products>
+        <logos><l filename="none.png" booktype="book" width="1" height="1"/>
+               <l filename="LOGO.PNG" booktype="book" x="1" y="2" width="3" height="4"/></logos>
+        <spinetext use="true"/><spinelogo use="false"/>
+        <content movable="true" normalBackgrounds="false"/>
+        <defaultcategories background="B" clipart="C" fading="F" content="I" frame="R" layout="L"/>
+        </any></Themes>)");
+    QCOMPARE(themes.size(), 2);
+    QVERIFY(!themes[0].isValid());
+    const PxTheme theme = themes[1];
+    QVERIFY(theme.isValid());
+    QCOMPARE(theme.id(), QString("reise"));
+    QCOMPARE(theme.productGroup().value(), PxProductGroupBook);
+    QCOMPARE(theme.expiryDate(), QDateTime(QDate(2050, 1, 2), QTime(23, 4)));
+    QCOMPARE(theme.description(), QString("Große Reise"));
+    QCOMPARE(theme.keyAccounts(), QList<int>({12, 0, 12}));
+    QCOMPARE(theme.allowedProductTypes().values(), QList<PxProductType>{8});
+    QCOMPARE(theme.vemoLogo(7).first.size(), QSize(5, 6));
+    QCOMPARE(theme.vemoLogo(7).second, QRect(1, 2, 3, 4));
+    QVERIFY(theme.useSpineText() && !theme.useSpineLogo() && theme.canMoveContent());
+    QVERIFY(!theme.canUseNormalBackgrounds());
+    QString categories;
+    for (const char *jigType : {"background", "clipart", "fading", "content", "frame", "layout"})
+        categories += theme.defaultCategory(PxJigType(jigType)).name();
+    QCOMPARE(categories, QString("BCFIRL"));
+    // The path is read in lower case: a file whose path is not is not found.
+    QCOMPARE(theme.thumbnail().isNull(), thumbnail != thumbnail.toLower());
+}
+
+void PxThemeFactoryTest::missingItemsGetDefaults()
+{
+    const PxTheme theme = load("bare/a.xml", "<themes><t/></themes>").value(0);
+    QCOMPARE(theme.id() + theme.description(), QString("unbekanntunbekannt"));
+    QCOMPARE(theme.expiryDayToOrderTxt(), QString("1976-12-30"));
+    QVERIFY(theme.isExpired() && theme.useSpineLogo() && !theme.useSpineText());
+    QVERIFY(theme.thumbnail().isNull() && theme.allowedProductTypes().isEmpty());
+}
+
+void PxThemeFactoryTest::strayNodesAreThemesButBlanksAreNot()
+{
+    const PxLogRecorder log;
+    const PxThemeList themes = load("stray/a.xml", "<themes>\n  <!-- note -->\n  <t id='A'/>\n"
+                                                   "  text\n</themes>");
+    QCOMPARE(themes.idList(), QStringList({"unbekannt", "a", "unbekannt"}));
+    QCOMPARE(log.texts(), QStringList("PxThemeFactory::loadThemeList() 3"));
+    QCOMPARE(log.entries().constFirst().level, QtDebugMsg);
+}
+
+void PxThemeFactoryTest::damagedAndForeignFilesAreLeftOut()
+{
+    const PxLogRecorder log;
+    QVERIFY(load("other/a.xml", "<theme><t id='A'/></theme>").isEmpty());
+    QCOMPARE(log.texts(), QStringList());
+    QVERIFY(load("broken/a.xml", "<themes><t id='A'></themes>").isEmpty());
+    QCOMPARE(log.entries().constFirst().level, QtWarningMsg);
+    QCOMPARE(log.texts().constFirst(),
+             "PxThemeFactory::loadThemeList Could not open config file: " + QDir::currentPath() +
+                 '/' + m_directory.filePath("broken/a.xml"));
+}
+
+void PxThemeFactoryTest::bothEndingsAreReadAndTheIndexTakesTheLast()
+{
+    m_directory.write("both/c.txt", "<themes><t id='c'/></themes>");
+    m_directory.write("both/B.XML", "<themes><t id='b' producttype='book'/></themes>");
+    QStringList ids =
+        load("both/a.xml", "<themes><t id='a' producttype='book'/></themes>").idList();
+    ids.sort();
+    QCOMPARE(ids, QStringList({"a", "b"}));
+
+    PxThemeFactory factory;
+    QDir directory(m_directory.filePath("twice"));
+    m_directory.write("twice/a.xml", "<themes><t id='a'><description>1</description></t>"
+                                     "<t id='a'><description>2</description></t></themes>");
+    QCOMPARE(factory.loadThemeList(directory).findTheme("a").description(), QString("1"));
+    QCOMPARE(factory.findThemes(QString("x,a,,a, a")).descriptionList(), QStringList({"2", "2"}));
+}
+
+void PxThemeFactoryTest::instanceChoosesTheDefaultTheme()
+{
+    m_directory.write("themes/a.xml",
+                      "<themes><t id='A' producttype='book'/><t id='alone' producttype='book'>"
+                      "<content normalBackgrounds='0'/></t><t id='Normal' producttype='book' "
+                      "expiry='299901010000'><keyaccounts><k>5</k></keyaccounts></t></themes>");
+    PxDirectoryConfig::instance()->setThemesDirectory(m_directory.filePath("themes"));
+    const PxLogRecorder log;
+    const PxThemeFactory *factory = PxThemeFactory::instance();
+    QCOMPARE(log.texts().constFirst(),
+             "\"PxThemeFactory::init() directory: " + m_directory.filePath("themes") + '"');
+    QCOMPARE(factory->defaultTheme().id(), QString("normal"));
+    QCOMPARE(factory->themeNames(), QStringList({"a", "alone", "normal"}));
+    QCOMPARE(factory->themeList(5).idList(), QStringList("normal"));
+    QCOMPARE(factory->findThemesWhichAcceptNormalBackgrounds().idList(),
+             QStringList({"normal", "a"}));
+    QCOMPARE(factory->findThemesWhichAcceptNormalLayouts().idList(), QStringList("normal"));
+
+    PxThemeList list(QString("alone,normal"));
+    QVERIFY(list.containsDefaultTheme());
+    list.expandDefaultThemeToAllNormalThemes();
+    QCOMPARE(list.idList(), QStringList({"alone", "normal", "a"}));
+}
+
+QTEST_GUILESS_MAIN(PxThemeFactoryTest)
+#include "PxThemeFactoryTest.moc"
