@@ -159,14 +159,15 @@ void PxProductTypeConfigRegistryTest::pageFilesAreSortedByTheirNumbers()
 
 void PxProductTypeConfigRegistryTest::pointSizeFollowsSpaceOrArea()
 {
-    static QList<PxProductTypeConfigRegistry *> ourRegistries;
+    // Kept for good, as every registry: see its destructor.
+    static auto *ourRegistries = new QList<PxProductTypeConfigRegistry *>;
     const auto pointSize = [this](const QByteArray &space, const QByteArray &width,
                                   const QByteArray &height) {
         write("point/a.xml",
               product("name='BOOK' space='" + space + "'",
                       "<usablesize width='" + width + "' height='" + height + "'/>"));
-        ourRegistries.append(new PxProductTypeConfigRegistry(directory("point")));
-        return ourRegistries.constLast()->suitablePointSize(1);
+        ourRegistries->append(new PxProductTypeConfigRegistry(directory("point")));
+        return ourRegistries->constLast()->suitablePointSize(1);
     };
     QCOMPARE(pointSize("310cm2", "9", "9"), 12);
     QCOMPARE(pointSize("400cm2", "9", "9"), 16);
