@@ -94,7 +94,8 @@ void PxXMLParserTest::readsRectanglesAndSizes()
     QCOMPARE(rect("x='1' y='2' width='3' height='4mm'"), QRect());
     QCOMPARE(rect("x='1' y='2' width='-3' height='0'"), QRect(1, 2, -3, 0));
     // As far as the last place, and no further.
-    QCOMPARE(rect("x='2147483647' width='1' height='1'"), QRect(2147483647, 0, 1, 1));
+    QCOMPARE(rect("x='2147483647' width='1' height='1'"),
+             QRect(QPoint(2147483647, 0), QPoint(2147483647, 0)));
     QCOMPARE(rect("x='2147483647' width='2' height='1'"), QRect());
     QCOMPARE(rect("y='2147483000' width='1' height='1000'"), QRect());
     QCOMPARE(rect("x='-2147483648' width='0' height='1'"), QRect());
