@@ -45,7 +45,7 @@ public:
     bool isThemeWithContent() const { return !isDefaultTheme(); }
 
     // Who may order it
-    /** The last moment, in local time. */
+    /** The last moment, in local time; null for the void theme, which counts as expired. */
     QDateTime expiryDate() const { return d->expiryDate(); }
     bool isExpired() const;
     /** The day of the expiry date, as in "1976-12-30". */
@@ -85,11 +85,9 @@ private:
     QExplicitlySharedDataPointer<const PxThemeConfig> d;
 };
 
+Q_DECLARE_TYPEINFO(PxTheme, Q_MOVABLE_TYPE);
 Q_DECLARE_METATYPE(PxTheme)
 
 /** By id: themes that compare equal share it. */
 PXPRODUCTPROPERTIES_EXPORT uint qHash(const PxTheme &theme, uint seed = 0);
-
-Q_DECLARE_TYPEINFO(PxTheme, Q_MOVABLE_TYPE);
-
 PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug, const PxTheme &theme);

@@ -28,7 +28,6 @@ PxThemeConfig::PxThemeConfig(const QString &id, const PxProductGroup &productGro
     , m_allowedProductTypes(allowedProductTypes)
 {}
 
-PxThemeConfig::PxThemeConfig(const PxThemeConfig &other) = default;
 PxThemeConfig::~PxThemeConfig() = default;
 
 PxThematicCategory PxThemeConfig::defaultCategory(const PxJigType &jigType) const

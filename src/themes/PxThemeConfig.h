@@ -29,8 +29,7 @@ public:
                   const PxEmptyMeansAllSet<PxProductType> &allowedProductTypes, bool useSpineText,
                   bool canMoveContent, bool canUseNormalBackgrounds,
                   const PxDefaultThematicCategories &defaultCategories, bool useSpineLogo);
-    PxThemeConfig(const PxThemeConfig &other);
-    PxThemeConfig &operator=(const PxThemeConfig &other) = delete;
+    Q_DISABLE_COPY(PxThemeConfig)
     virtual ~PxThemeConfig();
 
     bool isValid() const { return m_productGroup.isValid(); }

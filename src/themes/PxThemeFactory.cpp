@@ -1,10 +1,10 @@
 #include "themes/PxThemeFactory.h"
 
+#include "themes/PxThemeImages.h"
 #include "values/PxJigType.h"
 
 #include <PxCreateOnce.h>
 #include <PxDirectoryConfig.h>
-#include <PxListParts.h>
 #include <PxXMLLoader.h>
 #include <PxXMLParser.h>
 
@@ -12,21 +12,10 @@
 #include <QDir>
 #include <QDomElement>
 #include <QFileInfo>
-#include <QImageReader>
 
 #include <algorithm>
 
 namespace {
-
-/** Null for a file that is missing, no regular file or no image. */
-QImage readImage(const QString &path)
-{
-    if (path.isEmpty() || !QFileInfo(path).isFile())
-        return QImage();
-    QImageReader reader(path);
-    reader.setDecideFormatFromContent(true);
-    return reader.read();
-}
 
 PxKeyAccountNumberList readKeyAccounts(const QDomElement &keyAccounts)
 {
@@ -49,14 +38,15 @@ PxEmptyMeansAllSet<PxProductType> readProducts(const QDomElement &products)
     return types;
 }
 
-QMap<PxProductTypeEnum, QPair<QImage, QRect>> readLogos(const QDomElement &logos)
+QMap<PxProductTypeEnum, QPair<QImage, QRect>> readLogos(const QDomElement &logos,
+                                                        PxThemeImages &images)
 {
     QMap<PxProductTypeEnum, QPair<QImage, QRect>> logoOfType;
     for (QDomNode node = logos.firstChild(); !node.isNull(); node = node.nextSibling()) {
         const QDomElement logo = node.toElement();
         const QString fileName =
             PxXMLParser::attribute(logo, QStringLiteral("filename"), QString(), true).toLower();
-        const QImage image = readImage(PxDirectoryConfig::instance()->resource(fileName, false));
+        const QImage image = images.image(PxDirectoryConfig::instance()->resource(fileName, false));
         const PxProductType type(
             PxXMLParser::attribute(logo, QStringLiteral("booktype"), QString(), true).toUpper());
         logoOfType.insert(type.type(), qMakePair(image, PxXMLParser::readRect(logo.attributes())));
@@ -87,14 +77,8 @@ PxDefaultThematicCategories readDefaultCategories(const QDomElement &defaultCate
     return categories;
 }
 
-QString readDescription(const QDomElement &description)
+PxTheme readTheme(const QDomElement &theme, PxThemeImages &images)
 {
-    return description.isNull() ? QStringLiteral("unbekannt") : description.text();
-}
-
-PxTheme readTheme(const QDomElement &theme)
-{
-    const QString use = QStringLiteral("use");
     const QString id =
         PxXMLParser::attribute(theme, QStringLiteral("id"), QStringLiteral("unbekannt"), true)
             .toLower();
@@ -103,20 +87,33 @@ PxTheme readTheme(const QDomElement &theme)
     // Without an expiry date a theme has always been expired: it is offered to nobody.
     const QDateTime expiry = PxXMLParser::dateTimeAttribute(theme, QStringLiteral("expiry"),
                                                             QStringLiteral("197612302359"));
-    const QImage thumbnail = readImage(
+    const QImage thumbnail = images.image(
         PxXMLParser::attribute(theme, QStringLiteral("thumbnail"), QString(), true).toLower());
+
+    const QDomElement text = theme.firstChildElement(QStringLiteral("description"));
+    const QString description = text.isNull() ? QStringLiteral("unbekannt") : text.text();
+    const PxKeyAccountNumberList keyAccounts =
+        readKeyAccounts(theme.firstChildElement(QStringLiteral("keyaccounts")));
+    const PxEmptyMeansAllSet<PxProductType> products =
+        readProducts(theme.firstChildElement(QStringLiteral("products")));
+    const auto logos = readLogos(theme.firstChildElement(QStringLiteral("logos")), images);
+
+    const QString use = QStringLiteral("use");
+    const bool useSpineText = PxXMLParser::boolAttribute(
+        theme.firstChildElement(QStringLiteral("spinetext")), use, false);
+    const bool useSpineLogo =
+        PxXMLParser::boolAttribute(theme.firstChildElement(QStringLiteral("spinelogo")), use, true);
     const QDomElement content = theme.firstChildElement(QStringLiteral("content"));
-    return PxTheme(
-        id, productGroup, readDescription(theme.firstChildElement(QStringLiteral("description"))),
-        expiry, thumbnail, readKeyAccounts(theme.firstChildElement(QStringLiteral("keyaccounts"))),
-        readLogos(theme.firstChildElement(QStringLiteral("logos"))),
-        PxXMLParser::boolAttribute(theme.firstChildElement(QStringLiteral("spinetext")), use,
-                                   false),
-        PxXMLParser::boolAttribute(content, QStringLiteral("movable"), false),
-        PxXMLParser::boolAttribute(content, QStringLiteral("normalBackgrounds"), true),
-        readDefaultCategories(theme.firstChildElement(QStringLiteral("defaultcategories"))),
-        PxXMLParser::boolAttribute(theme.firstChildElement(QStringLiteral("spinelogo")), use, true),
-        readProducts(theme.firstChildElement(QStringLiteral("products"))));
+    const bool canMoveContent =
+        PxXMLParser::boolAttribute(content, QStringLiteral("movable"), false);
+    const bool canUseNormalBackgrounds =
+        PxXMLParser::boolAttribute(content, QStringLiteral("normalBackgrounds"), true);
+    const PxDefaultThematicCategories categories =
+        readDefaultCategories(theme.firstChildElement(QStringLiteral("defaultcategories")));
+
+    return PxTheme(id, productGroup, description, expiry, thumbnail, keyAccounts, logos,
+                   useSpineText, canMoveContent, canUseNormalBackgrounds, categories, useSpineLogo,
+                   products);
 }
 
 } // namespace
@@ -196,8 +193,9 @@ void PxThemeFactory::init()
 PxThemeList PxThemeFactory::loadThemeList(QDir &directory)
 {
     PxThemeList themes;
-    // One listing for both patterns: whether they match in any case is up to the platform, and a
-    // file that matches both is listed once.
+    PxThemeImages images;
+    // Patterns match in any case unless the directory says otherwise (QDir::CaseSensitive); a file
+    // that matches both is listed once.
     const QFileInfoList files = directory.entryInfoList(
         {QStringLiteral("*.XML"), QStringLiteral("*.xml")}, QDir::Files, QDir::Unsorted);
     for (const QFileInfo &file : files) {
@@ -214,7 +212,7 @@ PxThemeList PxThemeFactory::loadThemeList(QDir &directory)
             continue;
         qDebug() << "PxThemeFactory::loadThemeList()" << root.childNodes().count();
         for (QDomNode node = root.firstChild(); !node.isNull(); node = node.nextSibling()) {
-            const PxTheme theme = readTheme(node.toElement());
+            const PxTheme theme = readTheme(node.toElement(), images);
             themes.append(theme);
             m_themeOfId.insert(theme.id(), theme);
             if (theme.canUseNormalBackgrounds() || theme.isDefaultTheme())

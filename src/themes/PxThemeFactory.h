@@ -9,7 +9,8 @@ class QDir;
 /**
  * All design themes, read from the theme files of the themes directory.
  *
- * The instance is created on first use, from any thread, and only read afterwards.
+ * The instance is created on first use, from any thread, and only read afterwards. It reads its
+ * files, and logs, while other threads that ask for it wait.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxThemeFactory
 {
@@ -22,7 +23,7 @@ public:
 
     /** All themes, in the order in which they were read. */
     PxThemeList themeList() const { return m_themeList; }
-    /** The themes that this key account may order today. */
+    /** The themes that this key account may order now. */
     PxThemeList themeList(int keyAccount) const;
     /** The ids of all themes, in the order in which they were read. */
     QStringList themeNames() const;
@@ -41,7 +42,12 @@ public:
 
     /** Reads the themes directory; called once, by instance(). */
     void init();
-    /** Reads the theme files of a directory into the look-ups by id; answers the themes read. */
+    /**
+     * Reads the theme files of a directory and answers their themes.
+     *
+     * Adds to what findThemes() and the two lists of themes that accept normal backgrounds or
+     * layouts answer; themeList() and defaultTheme() are left as they are.
+     */
     PxThemeList loadThemeList(QDir &directory);
 
 private:

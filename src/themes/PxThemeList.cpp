@@ -2,11 +2,23 @@
 
 #include "themes/PxThemeFactory.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <iterator>
 
 const QStringList PxThemeList::ourReverseOrderedThemeNames = {
     QStringLiteral("normal"), QStringLiteral("design"), QStringLiteral("albfreetheme")};
+
+namespace {
+
+PxThemeList::const_iterator findId(const PxThemeList &themes, const QString &id)
+{
+    return std::find_if(themes.begin(), themes.end(),
+                        [&id](const PxTheme &theme) { return theme.id() == id; });
+}
+
+} // namespace
 
 PxThemeList::PxThemeList(const PxTheme &theme)
 {
@@ -31,7 +43,7 @@ bool PxThemeList::contains(const PxTheme &theme) const
 
 bool PxThemeList::contains(const QString &id) const
 {
-    return std::any_of(begin(), end(), [&id](const PxTheme &theme) { return theme.id() == id; });
+    return findId(*this, id) != end();
 }
 
 bool PxThemeList::containsDefaultTheme() const
@@ -41,8 +53,7 @@ bool PxThemeList::containsDefaultTheme() const
 
 PxTheme PxThemeList::findTheme(const QString &id) const
 {
-    const auto found =
-        std::find_if(begin(), end(), [&id](const PxTheme &theme) { return theme.id() == id; });
+    const auto found = findId(*this, id);
     return found == end() ? PxTheme::voidTheme() : *found;
 }
 
@@ -79,9 +90,12 @@ QStringList PxThemeList::descriptionList() const
 
 void PxThemeList::appendUnique(const PxThemeList &other)
 {
+    QSet<PxTheme> known(begin(), end());
     for (const PxTheme &theme : other) {
-        if (!contains(theme))
-            append(theme);
+        if (known.contains(theme))
+            continue;
+        known.insert(theme);
+        append(theme);
     }
 }
 

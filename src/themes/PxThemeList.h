@@ -36,7 +36,7 @@ public:
     void appendUnique(const PxThemeList &other);
     /** When the default theme is here, all that accept its backgrounds shall be here, too. */
     void expandDefaultThemeToAllNormalThemes();
-    /** Moves "albfreetheme", "design" and "normal", in this order, to the front. */
+    /** Moves "albfreetheme", "design" and "normal", in this order and if valid, to the front. */
     void normalize();
 
 private:

@@ -3,6 +3,7 @@
 #include <PxProductProperties.h>
 
 #include <QDir>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <atomic>
@@ -25,6 +26,7 @@ void PxSampleCatalogueTest::initTestCase()
 {
     qputenv("PX_RESOURCE_DIRS", PX_SAMPLE_DIRECTORY);
     qputenv("PX_USER_DEFAULTS_DIR", PX_SAMPLE_DIRECTORY "/defaults");
+    qputenv("PX_THEMES_DIR", PX_SAMPLE_DIRECTORY "/themes");
 }
 
 /** Every singleton and what the keyword tables and lists behind them say. */
@@ -35,11 +37,18 @@ static QVariantList ask()
     const PxProductType book("book_a4_portrait");
     auto *registry = PxProductTypeConfigRegistry::instance();
     const std::initializer_list<const void *> instances = {
-        PxDirectoryConfig::instance(),         PxProductTypeCatalogue::instance(),
-        PxProductCheckerRegistry::instance(),  PxPageOrganizationManager::instance(),
-        PxLegacyProductTypeConfig::instance(), PxProductTypeConfigRegistry::legacyInstance(),
-        PxHumanReadable::instance(),           registry->description(book),
-        binding.enumToStringTable(),           orientation.enumToStringTable()};
+        PxDirectoryConfig::instance(),
+        PxProductTypeCatalogue::instance(),
+        PxProductCheckerRegistry::instance(),
+        PxPageOrganizationManager::instance(),
+        PxLegacyProductTypeConfig::instance(),
+        PxProductTypeConfigRegistry::legacyInstance(),
+        PxHumanReadable::instance(),
+        registry->description(book),
+        PxThemeFactory::instance(),
+        PxProductGroupPropertyManager::instance(),
+        binding.enumToStringTable(),
+        orientation.enumToStringTable()};
     QVariantList answers;
     answers << binding.encodeCSV() << binding.humanReadableName() << binding.toolTip()
             << orientation.encodeCSV() << PxPageType("spine,normal").encodeCSV()
@@ -47,7 +56,8 @@ static QVariantList ask()
             << PxSpaceMagnitude("xl").humanReadableName() << PxJigType("Rahmen").encodeCSV()
             << book.productName() << registry->description(book)->spineWidth(26)
             << PxHumanReadable::instance()->fotoPaperTypeName(PxFotoPaperTypeMatt)
-            << PxThematicCategorySet::specialCategories().preferredCategory().name();
+            << PxThematicCategorySet::specialCategories().preferredCategory().name()
+            << PxThemeFactory::instance()->themeNames();
     for (const void *instance : instances)
         answers.append(quintptr(instance));
     return answers;
@@ -75,7 +85,10 @@ void PxSampleCatalogueTest::firstUseByThreadsGivesAllTheSameCompleteObjects()
     for (const QVariantList &other : answers)
         QCOMPARE(other, answers[0]);
     QVERIFY(PxProductPropertiesInitializer::setupModule());
-    QCOMPARE(log.texts(), QStringList());
+    const QStringList others = log.texts();
+    const QStringList ofThemes = others.filter(QRegularExpression("^\"?PxThemeFactory::"));
+    QCOMPARE(ofThemes.size(), 3); // the directory and its two files, read once
+    QCOMPARE(others, ofThemes);
 }
 
 /** The products of a directory; files bear their product's name. */

@@ -18,6 +18,8 @@ private slots:
     void strayNodesAreThemesButBlanksAreNot();
     void damagedAndForeignFilesAreLeftOut();
     void bothEndingsAreReadAndTheIndexTakesTheLast();
+    void imagesAreReadOnceAndWithinBounds();
+    void defaultThemeFallsBackToTheFirst();
     void instanceChoosesTheDefaultTheme();
 
 private:
@@ -108,6 +110,8 @@ void PxThemeFactoryTest::damagedAndForeignFilesAreLeftOut()
     QCOMPARE(log.texts().constFirst(),
              "PxThemeFactory::loadThemeList Could not open config file: " + QDir::currentPath() +
                  '/' + m_directory.filePath("broken/a.xml"));
+    QCOMPARE(log.entries().constLast().level, QtDebugMsg);
+    QVERIFY(log.texts().constLast().startsWith(m_directory.filePath("broken/a.xml:1:")));
 }
 
 void PxThemeFactoryTest::bothEndingsAreReadAndTheIndexTakesTheLast()
@@ -125,6 +129,38 @@ void PxThemeFactoryTest::bothEndingsAreReadAndTheIndexTakesTheLast()
                                      "<t id='a'><description>2</description></t></themes>");
     QCOMPARE(factory.loadThemeList(directory).findTheme("a").description(), QString("1"));
     QCOMPARE(factory.findThemes(QString("x,a,,a, a")).descriptionList(), QStringList({"2", "2"}));
+}
+
+void PxThemeFactoryTest::imagesAreReadOnceAndWithinBounds()
+{
+    // A bitmap's header is enough to tell its size: this one claims 40,000 x 1,000 pixels.
+    m_directory.write("vast.bmp", QByteArray::fromHex("424d0000000000000000360000002800000040"
+                                                      "9c0000e8030000010018000000000000000000"
+                                                      "00000000000000000000000000000000"));
+    m_directory.write("folder.png/x", "");
+    const PxLogRecorder log;
+    const PxTheme theme = load("images/a.xml", R"(<themes><t><logos>
+        <l filename="vast.bmp" booktype="BOOK"/><l filename="VAST.BMP" booktype="CUP"/></logos></t>
+        <t><logos><l filename="folder.png" booktype="CUP"/></logos></t></themes>)")
+                              .value(0);
+    QVERIFY(theme.mustPaintVemoLogo(7) && theme.vemoLogo(7).first.isNull());
+    QCOMPARE(log.texts().filter("too large").size(), 1);
+    QCOMPARE(log.entries().constLast().level, QtWarningMsg);
+    QVERIFY(log.texts().constLast().endsWith("vast.bmp\" QSize(40000, 1000)"));
+}
+
+void PxThemeFactoryTest::defaultThemeFallsBackToTheFirst()
+{
+    auto *directories = PxDirectoryConfig::instance();
+    const auto defaultTheme = [&](const QByteArray &themes) {
+        m_directory.write("fallback/a.xml", "<themes>" + themes + "</themes>");
+        directories->setThemesDirectory(m_directory.filePath("fallback"));
+        PxThemeFactory factory;
+        factory.init();
+        return factory.defaultTheme();
+    };
+    QCOMPARE(defaultTheme("<t id='a' producttype='book'/><t id='normal'/>").id(), QString("a"));
+    QCOMPARE(defaultTheme(""), PxTheme::voidTheme());
 }
 
 void PxThemeFactoryTest::instanceChoosesTheDefaultTheme()

@@ -102,6 +102,10 @@ void PxThemeTest::listFindsFiltersAndOrders()
     list.normalize();
     QCOMPARE(list.asCommaSeparatedIDList(), QString("albfreetheme,design,normal,a,b,a"));
     QCOMPARE(list.descriptionList().constLast(), QString("text of a"));
+    PxThemeList invalid({createTheme("a"), PxTheme("normal", {}, {}, {}, {}, {}, {}, false, false,
+                                                   false, {}, false, {})});
+    invalid.normalize();
+    QCOMPARE(invalid.asCommaSeparatedIDList(), QString("a,normal"));
 }
 
 QTEST_GUILESS_MAIN(PxThemeTest)
