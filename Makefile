@@ -18,6 +18,10 @@ demo: build
 	$(BUILD)/bin/pxcatalogue list
 	@echo
 	$(BUILD)/bin/pxcatalogue show BOOK_A4_PORTRAIT --pages 26
+	@echo
+	$(BUILD)/bin/pxcatalogue themes
+	@echo
+	$(BUILD)/bin/pxcatalogue show BOOK_A4_PORTRAIT --pages 26 --theme hochzeit
 
 check: build
 	ctest --preset $(PRESET) -j $(JOBS)
