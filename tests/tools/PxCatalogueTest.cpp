@@ -1,8 +1,7 @@
+#include "PxProgramRun.h"
+
 #include <QDir>
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -26,36 +25,16 @@ private slots:
 
 namespace {
 
-struct Run
-{
-    int status;
-    QStringList output;
-    QStringList errors;
-    QJsonObject json;
-    QStringList names; // of the products in the JSON
-};
-
 /** Runs the program with the words of a command, and with more arguments that may hold blanks. */
-Run run(const QString &command, const QStringList &more = {}, int columns = 150)
+PxProgramRun run(const QString &command, const QStringList &more = {}, int columns = 150)
 {
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("PX_RESOURCE_DIRS", PX_SAMPLE_DIRECTORY);
-    environment.insert("COLUMNS", QString::number(columns));
-    environment.remove("PX_USER_DEFAULTS_DIR");
-    process.setProcessEnvironment(environment);
-    process.start(PX_CATALOGUE_PROGRAM, command.split(' ', Qt::SkipEmptyParts) + more);
-    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
-        return {-1, {}, {}, {}, {}};
-    const auto lines = [](const QByteArray &text) {
-        return QString::fromUtf8(text).split('\n', Qt::SkipEmptyParts);
-    };
-    const QByteArray output = process.readAllStandardOutput();
-    const QJsonObject json = QJsonDocument::fromJson(output).object();
-    QStringList names;
-    for (const QJsonValue &product : json["products"].toArray())
-        names.append(product["name"].toString());
-    return {process.exitCode(), lines(output), lines(process.readAllStandardError()), json, names};
+    return PxProgramRun(PX_CATALOGUE_PROGRAM, command.split(' ', Qt::SkipEmptyParts) + more,
+                        {{"COLUMNS", QString::number(columns)}, {"LC_ALL", "C.UTF-8"}});
+}
+
+QStringList namesOf(const PxProgramRun &products)
+{
+    return products.jsonColumn("products", "name");
 }
 
 /** The lines without their alignment. */
@@ -86,32 +65,33 @@ QString textOf(const char *path)
 
 void PxCatalogueTest::listsTheProductsByClassAndName()
 {
-    const Run text = run("list");
-    QCOMPARE(text.status, 0);
-    QCOMPARE(text.errors, QStringList());
-    const QStringList rows = simplified(text.output);
+    const PxProgramRun text = run("list");
+    QCOMPARE(text.status(), 0);
+    QCOMPARE(text.errors(), QStringList());
+    const QStringList rows = simplified(text.output());
     const QString print = "PRINT_10X15 print 152.4×101.6 GIFT Fotopapier glänzend 1 landscape yes";
     QVERIFY(rows.contains(print)); // books: see the readme
-    const Run json = run("list --json");
-    QCOMPARE(json.names.size() + 1, rows.size());
-    for (int i = 0; i < json.names.size(); ++i)
-        QVERIFY(rows[i + 1].startsWith(json.names[i] + ' '));
-    QVERIFY(json.names.indexOf("BOOK_MINI") < json.names.indexOf("BOOK_XL_SQUARE"));
-    QVERIFY(json.names.indexOf("BOOK_XL_SQUARE") < json.names.indexOf("ADDRESSBOOK_A6"));
-    QVERIFY(!json.names.contains("CUP1")); // a legacy product
-    const QJsonValue cup = json.json["products"].toArray().at(json.names.indexOf("CUP2"));
+    const PxProgramRun json = run("list --json");
+    const QStringList names = namesOf(json);
+    QCOMPARE(names.size() + 1, rows.size());
+    for (int i = 0; i < names.size(); ++i)
+        QVERIFY(rows[i + 1].startsWith(names[i] + ' '));
+    QVERIFY(names.indexOf("BOOK_MINI") < names.indexOf("BOOK_XL_SQUARE"));
+    QVERIFY(names.indexOf("BOOK_XL_SQUARE") < names.indexOf("ADDRESSBOOK_A6"));
+    QVERIFY(!names.contains("CUP1")); // a legacy product
+    const QJsonValue cup = json.json()["products"].toArray().at(names.indexOf("CUP2"));
     QCOMPARE(cup["code"].toInt(), 401);
     QCOMPARE(cup["size"]["height"].toInt(), 950);
     QVERIFY(cup["paper"].isNull());
 
-    QCOMPARE(run("list --class print --json").names, QStringList{"PRINT_10X15"});
-    QCOMPARE(run("--json --class PRINT list").names, QStringList{"PRINT_10X15"});
-    QCOMPARE(run("list --class print,calendar --json").names.size(), 6);
+    QCOMPARE(namesOf(run("list --class print --json")), QStringList{"PRINT_10X15"});
+    QCOMPARE(namesOf(run("--json --class PRINT list")), QStringList{"PRINT_10X15"});
+    QCOMPARE(namesOf(run("list --class print,calendar --json")).size(), 6);
 }
 
 void PxCatalogueTest::showsSizesInMillimetres()
 {
-    const QStringList lines = simplified(run("show book_a4_portrait").output);
+    const QStringList lines = simplified(run("show book_a4_portrait").output());
     for (const char *line :
          {"Name BOOK_A4_PORTRAIT", "Page counts 26-154/2", "Sold with 26", "Shown with 26",
           "With covers and spine 31", "Fold margin 11.2 mm", "Replaces BOOK_CLASSIC_A4",
@@ -123,7 +103,7 @@ void PxCatalogueTest::showsSizesInMillimetres()
 
 void PxCatalogueTest::showsSizesAsTheyAreInJson()
 {
-    const QJsonObject cup = run("show CUP2 --json").json;
+    const QJsonObject cup = run("show CUP2 --json").json();
     QCOMPARE(cup["format"].toInt(), 1);
     QCOMPARE(cup["lengthUnit"].toString(), QString("tenths of a millimetre"));
     QCOMPARE(cup["sizes"]["safetyMargins"]["left"].toInt(), 30);
@@ -132,29 +112,30 @@ void PxCatalogueTest::showsSizesAsTheyAreInJson()
     QCOMPARE(cup["variants"]["identifiers"].toArray().size(), 5);
     QVERIFY(cup["barcodes"].isArray() && cup["barcodes"].toArray().isEmpty());
     QCOMPARE(cup["legacy"]["replacedPage"]["width"].toInt(), 1950);
-    const QJsonObject calendar = run("show CALENDAR_DESK_A5 --json").json;
+    const QJsonObject calendar = run("show CALENDAR_DESK_A5 --json").json();
     QCOMPARE(calendar["rotationRedirects"][1]["target"].toInt(), -1);
     QCOMPARE(calendar["pages"]["isSimplex"], QJsonValue(false));
 
-    const Run legacy = run("show BOOK_CLASSIC_A4 --json");
-    QCOMPARE(legacy.status, 0);
-    QCOMPARE(legacy.json["legacy"]["replacedBy"].toString(), QString("BOOK_A4_PORTRAIT"));
-    QCOMPARE(legacy.json["product"]["isOffered"], QJsonValue(false));
-    QCOMPARE(legacy.json["pages"]["pageCounts"]["increment"].toInt(), 4);
-    QCOMPARE(legacy.json["pages"]["pageCount"].toInt(), 26);
-    QCOMPARE(legacy.json["pageKinds"][1]["usableSize"]["width"].toInt(), 90);
+    const PxProgramRun legacy = run("show BOOK_CLASSIC_A4 --json");
+    QCOMPARE(legacy.status(), 0);
+    QCOMPARE(legacy.json()["legacy"]["replacedBy"].toString(), QString("BOOK_A4_PORTRAIT"));
+    QCOMPARE(legacy.json()["product"]["isOffered"], QJsonValue(false));
+    QCOMPARE(legacy.json()["pages"]["pageCounts"]["increment"].toInt(), 4);
+    QCOMPARE(legacy.json()["pages"]["pageCount"].toInt(), 26);
+    QCOMPARE(legacy.json()["pageKinds"][1]["usableSize"]["width"].toInt(), 90);
 }
 
 void PxCatalogueTest::showsAsManyPagesAsAsked()
 {
     const auto show = [](int count, bool isOffered, const QJsonArray &nearest, int spine) {
-        const Run book = run(QString("show BOOK_A4_PORTRAIT --json --pages %1").arg(count));
-        const QJsonValue pages = book.json["pages"];
+        const PxProgramRun book =
+            run(QString("show BOOK_A4_PORTRAIT --json --pages %1").arg(count));
+        const QJsonValue pages = book.json()["pages"];
         QCOMPARE(pages["pageCount"].toInt(), count);
         QCOMPARE(pages["printedPages"].toInt(), count + 5);
         QCOMPARE(pages["isPageCountOffered"], QJsonValue(isOffered));
         QCOMPARE(pages["nearestPageCounts"].toArray(), nearest);
-        QCOMPARE(book.json["spine"]["width"].toInt(), spine);
+        QCOMPARE(book.json()["spine"]["width"].toInt(), spine);
     };
     show(26, true, {}, 94);
     show(154, true, {}, 203);
@@ -167,11 +148,11 @@ void PxCatalogueTest::findsCompatibleProducts()
 {
     const auto find = [](const QString &criterion, int status, const QStringList &endings) {
         const QString book = "BOOK_A4_PORTRAIT";
-        const Run found = run("compatible --json " + book + criterion);
-        QCOMPARE(found.status, status);
-        QCOMPARE(found.errors.size(), status);
-        QCOMPARE(found.names.join(' ').remove(book), endings.join(' '));
-        QCOMPARE(found.json["query"]["product"].toString(), book);
+        const PxProgramRun found = run("compatible --json " + book + criterion);
+        QCOMPARE(found.status(), status);
+        QCOMPARE(found.errors().size(), status);
+        QCOMPARE(namesOf(found).join(' ').remove(book), endings.join(' '));
+        QCOMPARE(found.json()["query"]["product"].toString(), book);
     };
     find("", 0, {"_GLOSSY", "_PHOTO", "_SOFT", "BOOK_XXL_PORTRAIT"});
     find(" --criterion paper", 0, {"_SOFT"});
@@ -181,12 +162,12 @@ void PxCatalogueTest::findsCompatibleProducts()
 void PxCatalogueTest::fitsTheTerminal()
 {
     const auto fit = [](const QString &command, int columns) {
-        const Run fitted = run(command, {}, columns);
-        for (const QString &line : fitted.output)
+        const PxProgramRun fitted = run(command, {}, columns);
+        for (const QString &line : fitted.output())
             QVERIFY2(line.size() <= columns, qPrintable(line));
-        QCOMPARE(fitted.output.size(), run(command).output.size());
+        QCOMPARE(fitted.output().size(), run(command).output().size());
         // The names are what one copies from the list, so that other texts are shortened first.
-        QVERIFY(columns < 30 || fitted.output.join(' ').contains("BOOK_A4_PORTRAIT"));
+        QVERIFY(columns < 30 || fitted.output().join(' ').contains("BOOK_A4_PORTRAIT"));
     };
     for (int columns : {1, 30, 80, 100})
         fit("list", columns);
@@ -196,9 +177,9 @@ void PxCatalogueTest::fitsTheTerminal()
 void PxCatalogueTest::saysWhatIsWrong()
 {
     const auto check = [](const QString &command, int status, const QString &error) {
-        const Run wrong = run(command);
-        QCOMPARE(wrong.errors, QStringList{"pxcatalogue: " + error});
-        QVERIFY2(wrong.status == status && wrong.output.isEmpty(), qPrintable(command));
+        const PxProgramRun wrong = run(command);
+        QCOMPARE(wrong.errors(), QStringList{"pxcatalogue: " + error});
+        QVERIFY2(wrong.status() == status && wrong.output().isEmpty(), qPrintable(command));
     };
     const QString help = " (\"pxcatalogue --help\" explains everything)";
     const QString list = " (\"pxcatalogue list\" shows all)";
@@ -232,27 +213,27 @@ void PxCatalogueTest::survivesBrokenProductFiles()
                    "layout='a&#10;b&#x9b;1m'/></defaults></product>",
                    "name='BOOK_MINI'><usablesize width='10' height='20'/></product>"});
     const QStringList products{"--products", directory.path()};
-    const Run list = run("list", products);
-    QCOMPARE(list.status, 0);
-    const QStringList rows = simplified(list.output);
+    const PxProgramRun list = run("list", products);
+    QCOMPARE(list.status(), 0);
+    const QStringList rows = simplified(list.output());
     QCOMPARE(rows.size(), 4);
     QCOMPARE(rows[1], QString("BOOK_MINI book 1×2 GIFT Digitaldruck portrait yes"));
     QVERIFY(rows[2].startsWith("CB6 "));
     QCOMPARE(rows[3], QString("PDT1 gift GIFT Digitaldruck 1 no"));
     const QString file = directory.filePath("product1.xml");
-    QCOMPARE(list.errors.size(), 2);
-    QVERIFY(list.errors[0].startsWith("pxcatalogue: warning: ") &&
-            list.errors[0].endsWith("could not open \"" + file + '"'));
-    QVERIFY(list.errors[1].startsWith("pxcatalogue: warning: the reason: " + file + ":1:"));
+    QCOMPARE(list.errors().size(), 2);
+    QVERIFY(list.errors()[0].startsWith("pxcatalogue: warning: ") &&
+            list.errors()[0].endsWith("could not open \"" + file + '"'));
+    QVERIFY(list.errors()[1].startsWith("pxcatalogue: warning: the reason: " + file + ":1:"));
 
-    const Run block = run("show CB6", products);
-    QCOMPARE(block.status, 0);
-    QVERIFY(block.errors.contains(
+    const PxProgramRun block = run("show CB6", products);
+    QCOMPARE(block.status(), 0);
+    QVERIFY(block.errors().contains(
         "pxcatalogue: warning: 2000000000 pages are too many to show: 9999 are shown"));
-    QVERIFY(block.output.join('\n').contains("a\uFFFDb\uFFFD1m"));
-    QVERIFY(block.output.join('\n').contains("214748364.7×0.5 mm"));
+    QVERIFY(block.output().join('\n').contains("a\uFFFDb\uFFFD1m"));
+    QVERIFY(block.output().join('\n').contains("214748364.7×0.5 mm"));
 
-    const QJsonValue pages = run("show BOOK_MINI --json", products).json["pages"];
+    const QJsonValue pages = run("show BOOK_MINI --json", products).json()["pages"];
     QVERIFY(pages["pageCounts"].isNull());
     QCOMPARE(pages["pageCount"].toInt(), 1);
     QCOMPARE(pages["isPageCountOffered"], QJsonValue(false));
@@ -263,7 +244,7 @@ void PxCatalogueTest::showsTemplatesOfTheGivenUser()
 {
     const QTemporaryDir empty;
     const auto layout = [](const QStringList &more) {
-        const QJsonValue templates = run("show BOOK_A4_PORTRAIT --json", more).json["templates"];
+        const QJsonValue templates = run("show BOOK_A4_PORTRAIT --json", more).json()["templates"];
         return templates[4]["layout"].toString();
     };
     QCOMPARE(layout({}), QString("1 Bild mit Rand"));
@@ -275,12 +256,12 @@ void PxCatalogueTest::keepsTheLogOffTheOutput()
     const QTemporaryDir directory;
     writeProducts(directory,
                   {"name='CUP2' binding='TASSE'><usablesize width='1' height='1'/></product>"});
-    const Run quiet = run("list --json --products", {directory.path()});
-    const Run verbose = run("list --json --verbose --products", {directory.path()});
-    QCOMPARE(quiet.errors, QStringList());
-    QVERIFY(verbose.errors.value(0).startsWith("pxcatalogue: debug: undecodable: "));
-    QCOMPARE(verbose.output, quiet.output);
-    QCOMPARE(quiet.names, QStringList{"CUP2"});
+    const PxProgramRun quiet = run("list --json --products", {directory.path()});
+    const PxProgramRun verbose = run("list --json --verbose --products", {directory.path()});
+    QCOMPARE(quiet.errors(), QStringList());
+    QVERIFY(verbose.errors().value(0).startsWith("pxcatalogue: debug: undecodable: "));
+    QCOMPARE(verbose.output(), quiet.output());
+    QCOMPARE(namesOf(quiet), QStringList{"CUP2"});
 }
 
 void PxCatalogueTest::printsWhatTheReadmeShows()
@@ -290,7 +271,7 @@ void PxCatalogueTest::printsWhatTheReadmeShows()
     QVERIFY(blocks.size() >= 2);
     for (const QString &block : blocks) {
         const QString shown = block.section("\n```", 0, 0).replace("\n\n", "\n");
-        const QString output = run(shown.section('\n', 0, 0), {}, 100).output.join('\n');
+        const QString output = run(shown.section('\n', 0, 0), {}, 100).output().join('\n');
         // "..." stands for groups that the document leaves out.
         for (const QString &group : shown.section('\n', 1).split("...", Qt::SkipEmptyParts))
             QVERIFY2(output.contains(group.trimmed()), qPrintable(group));

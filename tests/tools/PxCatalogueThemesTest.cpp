@@ -1,8 +1,7 @@
+#include "PxProgramRun.h"
+
 #include <QFile>
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -20,62 +19,28 @@ private slots:
 
 namespace {
 
-struct Run
+PxProgramRun run(const QString &command, const QMap<QString, QString> &environment = {})
 {
-    int status;
-    QString output;
-    QString errors;
-    QJsonObject json;
-};
-
-/** Runs a program with the sample catalogue, in a German locale unless another is given. */
-Run run(const char *program, const QString &arguments, const QString &locale = "de_DE.UTF-8",
-        const QString &language = QString())
-{
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("PX_RESOURCE_DIRS", PX_SAMPLE_DIRECTORY);
-    environment.insert("PX_THEMES_DIR", PX_SAMPLE_DIRECTORY "/themes");
-    environment.insert("COLUMNS", "160");
-    environment.insert("LC_ALL", locale);
-    environment.insert("LANGUAGE", language);
-    environment.remove("PX_USER_DEFAULTS_DIR");
-    process.setProcessEnvironment(environment);
-    process.start(program, arguments.split(' ', Qt::SkipEmptyParts));
-    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
-        return {-1, {}, {}, {}};
-    const QByteArray output = process.readAllStandardOutput();
-    return {process.exitCode(), QString::fromUtf8(output).simplified(),
-            QString::fromUtf8(process.readAllStandardError()).trimmed(),
-            QJsonDocument::fromJson(output).object()};
-}
-
-Run run(const QString &arguments)
-{
-    return run(PX_CATALOGUE_PROGRAM, arguments);
+    return PxProgramRun(PX_CATALOGUE_PROGRAM, command.split(' '), environment);
 }
 
 /** A member of all elements, in their order, with commas. */
-QString joined(const QJsonValue &array, const char *member)
+QString joined(const PxProgramRun &shown, const char *array, const char *member)
 {
-    QStringList texts;
-    for (const QJsonValue &element : array.toArray())
-        texts.append(element[member].toString());
-    return texts.join(',');
+    return shown.jsonColumn(array, member).join(',');
 }
 
 } // namespace
 
 void PxCatalogueThemesTest::listsTheThemes()
 {
-    const QString text = run("themes").output;
-    for (const char *row :
-         {"albfreetheme Freie Gestaltung für Bücher book 2050-12-31 no 1000 7 yes yes text ",
-          "design Design-Vorlagen book 2050-12-31 no 1000, 2000 all no no text, logo ",
-          "winter-2022 Winterzauber 2022 book 2023-02-28 yes 1000 all yes no logo"})
+    const QString text = run("themes").text();
+    for (const char *row : {"albfreetheme Freie Gestaltung für Bücher book 2050-12-31 no 1000 7 ",
+                            "design Design-Vorlagen book 2050-12-31 no 1000, 2000 all ",
+                            "winter-2022 Winterzauber 2022 book 2023-02-28 yes 1000 all"})
         QVERIFY2(text.contains(row), row);
-    const QJsonObject partner = run("themes --json --key-account 3000").json;
-    QCOMPARE(joined(partner["themes"], "id"), // without "jubilaeum", which is expired
+    const PxProgramRun partner = run("themes --json --key-account 3000");
+    QCOMPARE(joined(partner, "themes", "id"), // without "jubilaeum", which is expired
              QString("geburtstag,normal,reise,schule,urlaub,weihnachten"));
 
     // Of themes with one id all are shown, in the order in which they are read.
@@ -86,15 +51,16 @@ void PxCatalogueThemesTest::listsTheThemes()
         file.write("<themes><theme id='B'><description>1</description></theme>"
                    "<theme id='b'><description>2</description></theme><theme id='a'/></themes>"));
     file.close();
-    const QJsonValue themes = run("themes --json --themes " + directory.path()).json["themes"];
-    QCOMPARE(joined(themes, "id") + joined(themes, "description"), QString("a,b,bunbekannt,1,2"));
+    const PxProgramRun themes = run("themes --json --themes " + directory.path());
+    QCOMPARE(joined(themes, "themes", "id") + joined(themes, "themes", "description"),
+             QString("a,b,bunbekannt,1,2"));
 }
 
 void PxCatalogueThemesTest::showsAProductInATheme()
 {
     const QString command = "show BOOK_A4_PORTRAIT --pages 26 --json";
-    const QJsonObject normal = run(command).json;
-    const QJsonObject wedding = run(command + " --theme Hochzeit").json;
+    const QJsonObject normal = run(command).json();
+    const QJsonObject wedding = run(command + " --theme Hochzeit").json();
     QVERIFY(!normal.contains("theme"));
     QCOMPARE(normal["templates"][2]["background"].toString(), QString("Schiefer dunkel"));
     QCOMPARE(wedding["templates"][2]["background"].toString(), QString("Rosenblueten"));
@@ -106,30 +72,31 @@ void PxCatalogueThemesTest::showsAProductInATheme()
     QCOMPARE(theme["logoSize"]["width"].toInt(), 48);
     QCOMPARE(theme["fadingCategory"].toString(), QString("Ovale"));
     QCOMPARE(theme["pagesWithContent"].toArray().size(), 31);
-    const QJsonValue plain = run(command + " --theme normal").json["theme"];
+    const QJsonValue plain = run(command + " --theme normal").json()["theme"];
     QVERIFY(plain["logoRect"].isNull() && plain["logoSize"].isNull());
     QCOMPARE(plain["pagesWithContent"].toArray().size(), 0); // the default theme has no content
-    const QString text = run("show CUP2 --theme geburt").output;
+    const QString text = run("show CUP2 --theme geburt").text();
     for (const char *part : {"Valid together no", "Icon 300×142 px", "(theme geburt, "})
         QVERIFY2(text.contains(part), part);
 
     const QString compatible = "compatible BOOK_A4_PORTRAIT --json";
-    QVERIFY(joined(run(compatible).json["products"], "name").contains("BOOK_XXL_PORTRAIT"));
-    QCOMPARE(joined(run(compatible + " --theme albfreetheme").json["products"], "name"),
+    QVERIFY(joined(run(compatible), "products", "name").contains("BOOK_XXL_PORTRAIT"));
+    QCOMPARE(joined(run(compatible + " --theme albfreetheme"), "products", "name"),
              QString("BOOK_A4_PORTRAIT_GLOSSY,BOOK_A4_PORTRAIT_PHOTO,BOOK_A4_PORTRAIT_SOFT"));
-    QCOMPARE(run(compatible + " --theme geburt").status, 1);
+    QCOMPARE(run(compatible + " --theme geburt").status(), 1);
 }
 
 void PxCatalogueThemesTest::namesVariantsInTheLanguageAskedFor()
 {
-    const QJsonObject notebook = run("variants CB14 --json").json;
-    QCOMPARE(joined(notebook["variants"], "name"), QString("blanko,kariert,liniert"));
-    QCOMPARE(notebook["product"]["defaultVariant"].toString(), QString("ruling:blank"));
+    const PxProgramRun notebook = run("variants CB14 --json");
+    QCOMPARE(joined(notebook, "variants", "name"), QString("blanko,kariert,liniert"));
+    QCOMPARE(notebook.json()["product"]["defaultVariant"].toString(), QString("ruling:blank"));
 
     const auto check = [](const char *locale, const char *language, const QString &option,
                           const char *words) {
-        const Run variants = run(PX_CATALOGUE_PROGRAM, "variants CUP2" + option, locale, language);
-        QVERIFY2(variants.output.contains(words), qPrintable(locale + option));
+        const PxProgramRun variants =
+            run("variants CUP2" + option, {{"LC_ALL", locale}, {"LANGUAGE", language}});
+        QVERIFY2(variants.text().contains(words), qPrintable(locale + option));
     };
     check("de_DE.UTF-8", "", " --lang en", "Differ in Inside colour");
     check("en_US.UTF-8", "", " --lang de", "Differ in Innenfarbe");
@@ -137,16 +104,16 @@ void PxCatalogueThemesTest::namesVariantsInTheLanguageAskedFor()
     check("fr_FR.UTF-8", "", "", "color:black Schwarz");
     check("de_DE.UTF-8", "de:en", "", "color:black Schwarz"); // the first choice needs no catalogue
     // Tables of display names are translated, too: those that are built when they are first used.
-    QVERIFY(run("list --lang en").output.contains("BOOKLET_A5_LANDSCAPE book 210×148 Booklet "));
-    QVERIFY(run("list --lang de").output.contains("BOOKLET_A5_LANDSCAPE book 210×148 Heft "));
+    QVERIFY(run("list --lang en").text().contains("BOOKLET_A5_LANDSCAPE book 210×148 Booklet "));
+    QVERIFY(run("list --lang de").text().contains("BOOKLET_A5_LANDSCAPE book 210×148 Heft "));
 }
 
 void PxCatalogueThemesTest::saysWhatIsWrong()
 {
     const auto check = [](const QString &command, int status, const QString &error) {
-        const Run wrong = run(command);
-        QCOMPARE(wrong.errors, "pxcatalogue: " + error);
-        QCOMPARE(wrong.status, status);
+        const PxProgramRun wrong = run(command);
+        QCOMPARE(wrong.errors().join('\n'), "pxcatalogue: " + error);
+        QCOMPARE(wrong.status(), status);
     };
     const QString help = " (\"pxcatalogue --help\" explains everything)";
     const QString themes = " (\"pxcatalogue themes\" shows all)";
@@ -166,7 +133,7 @@ void PxCatalogueThemesTest::runsTheEditorExample()
 {
     const QString lastPage = "30: emptypage, 213 x 303 mm, \"\" on \"Weiss\", "
                              "images/book-binding-shade-right.png";
-    QVERIFY(run(PX_EDITOR_PROGRAM, QString()).output.endsWith(lastPage));
+    QVERIFY(PxProgramRun(PX_EDITOR_PROGRAM, {}).text().endsWith(lastPage));
 }
 
 QTEST_GUILESS_MAIN(PxCatalogueThemesTest)

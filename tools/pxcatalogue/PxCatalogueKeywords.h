@@ -7,8 +7,6 @@
 
 #include <QStringList>
 
-#include <algorithm>
-
 // The keywords of the command line and of the output. Those of the product files are the library's.
 
 inline constexpr PxKeyword<PxProductClass> productClassRows[] = {
@@ -34,13 +32,9 @@ QStringList keywordsOf(ENUM flags, const QHash<QString, ENUM> &map)
 {
     QStringList keywords;
     for (const ENUM bit : splitEnumType(flags)) {
-        const QStringList synonyms = map.keys(bit);
-        const auto shortest = std::min_element(
-            synonyms.begin(), synonyms.end(), [](const QString &a, const QString &b) {
-                return qMakePair(a.size(), a) < qMakePair(b.size(), b);
-            });
-        if (shortest != synonyms.end())
-            keywords.append(shortest->toLower());
+        const QString keyword = EnumHelper::encodeKeyword(bit, map, QString());
+        if (!keyword.isEmpty())
+            keywords.append(keyword.toLower());
     }
     return keywords;
 }

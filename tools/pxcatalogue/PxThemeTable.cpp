@@ -13,11 +13,6 @@ using Format = PxReportFormat;
 
 QJsonArray row(const PxTheme &theme)
 {
-    QJsonArray spine;
-    if (theme.useSpineText())
-        spine.append(QStringLiteral("text"));
-    if (theme.useSpineLogo())
-        spine.append(QStringLiteral("logo"));
     return {theme.id(),
             theme.description(),
             keywordsOf(theme.productGroup().value(), EnumHelper::globalMapProductGroupEnumString)
@@ -25,10 +20,7 @@ QJsonArray row(const PxTheme &theme)
             theme.expiryDayToOrderTxt(),
             theme.isExpired(),
             PxReportValue::numbers(theme.keyAccounts()),
-            PxCatalogueProducts::nameArray(theme.allowedProductTypes().values()),
-            theme.canUseNormalBackgrounds(),
-            theme.canMoveContent(),
-            spine};
+            PxCatalogueProducts::nameArray(theme.allowedProductTypes().values())};
 }
 
 } // namespace
@@ -54,9 +46,6 @@ void PxThemeTable::addTo(PxReport *report) const
         {"isExpired", "Expired", Format::Key},
         {"keyAccounts", "Key accounts"},
         {"allowedProducts", "Products", Format::CountOrAll},
-        {"canUseNormalBackgrounds", "Normal", Format::Key},
-        {"canMoveContent", "Movable", Format::Key},
-        {"spine", "Spine"},
     }, rows);
     // clang-format on
 }
