@@ -6,8 +6,8 @@
 
 namespace {
 
-constexpr qint64 maximumPixels = 16 * 1024 * 1024;    // of one image, as 4096 x 4096
-constexpr qint64 maximumAllPixels = 64 * 1024 * 1024; // 256 MB
+constexpr qint64 maximumPixels = 4096LL * 4096;        // of one image
+constexpr qint64 maximumAllPixels = 4 * maximumPixels; // 256 MB
 
 } // namespace
 
