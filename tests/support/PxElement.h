@@ -8,3 +8,6 @@ QDomElement pxElement(const QString &xml);
 
 /** The same text the other way round, without indentation: to compare what was written. */
 QString pxXml(const QDomElement &element);
+
+/** All that a tree holds, attributes in the order of their names, null told from empty. */
+QString pxTree(const QDomNode &node);

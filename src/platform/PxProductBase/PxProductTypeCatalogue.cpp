@@ -74,7 +74,9 @@ const PxProductTypeEntry *PxProductTypeCatalogue::find(int code) const
 
 const PxProductTypeEntry *PxProductTypeCatalogue::find(const QString &name) const
 {
-    return m_byName.value(nameKey(name));
+    // Nearly every name is written as in the catalogue, and then need not be folded.
+    const auto found = m_byName.constFind(name);
+    return found == m_byName.constEnd() ? m_byName.value(nameKey(name)) : *found;
 }
 
 const char *PxProductTypeCatalogue::addRow(const QDomElement &row)
@@ -101,5 +103,6 @@ const char *PxProductTypeCatalogue::addRow(const QDomElement &row)
     m_entries.push_back(entry);
     m_byCode.insert(code, &m_entries.back());
     m_byName.insert(key, &m_entries.back());
+    m_byName.insert(entry.name, &m_entries.back());
     return nullptr;
 }

@@ -38,5 +38,5 @@ private:
 
     std::deque<PxProductTypeEntry> m_entries; // never moves an entry
     QHash<int, const PxProductTypeEntry *> m_byCode;
-    QHash<QString, const PxProductTypeEntry *> m_byName; // case-folded
+    QHash<QString, const PxProductTypeEntry *> m_byName; // as written, and case-folded
 };

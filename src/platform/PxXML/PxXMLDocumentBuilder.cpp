@@ -71,8 +71,11 @@ std::optional<PxXMLFault> PxXMLDocumentBuilder::addElement()
                          .arg(PxXMLLoader::maximumDepth));
     QDomElement element = m_document.createElement(shared(m_reader.qualifiedName()));
     const QXmlStreamAttributes attributes = m_reader.attributes();
-    for (const QXmlStreamAttribute &attribute : attributes)
+    for (const QXmlStreamAttribute &attribute : attributes) {
+        if (const std::optional<PxXMLFault> tooMany = count())
+            return tooMany;
         element.setAttribute(shared(attribute.qualifiedName()), shared(attribute.value()));
+    }
     const std::optional<PxXMLFault> found = add(element);
     m_parent = element;
     return found;
@@ -80,12 +83,19 @@ std::optional<PxXMLFault> PxXMLDocumentBuilder::addElement()
 
 std::optional<PxXMLFault> PxXMLDocumentBuilder::add(const QDomNode &node)
 {
-    if (++m_nodes > PxXMLLoader::maximumNodes)
-        return fault(QStringLiteral("this is node %1 of the file, no more than %2 are allowed")
-                         .arg(m_nodes)
-                         .arg(PxXMLLoader::maximumNodes));
-    m_parent.appendChild(node);
-    return std::nullopt;
+    const std::optional<PxXMLFault> found = count();
+    if (!found)
+        m_parent.appendChild(node);
+    return found;
+}
+
+std::optional<PxXMLFault> PxXMLDocumentBuilder::count()
+{
+    if (++m_nodes <= PxXMLLoader::maximumNodes)
+        return std::nullopt;
+    return fault(QStringLiteral("this is node %1 of the file, no more than %2 are allowed")
+                     .arg(m_nodes)
+                     .arg(PxXMLLoader::maximumNodes));
 }
 
 void PxXMLDocumentBuilder::addDeclaration(bool hasStandalone)

@@ -28,6 +28,8 @@ private:
     std::optional<PxXMLFault> addToken();
     std::optional<PxXMLFault> addElement();
     std::optional<PxXMLFault> add(const QDomNode &node);
+    /** One node more. */
+    std::optional<PxXMLFault> count();
     void addDeclaration(bool hasStandalone);
     void addDocumentType();
     PxXMLFault fault(const QString &message) const;

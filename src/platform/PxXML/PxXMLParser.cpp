@@ -1,5 +1,6 @@
 #include "PxXMLParser.h"
 
+#include <algorithm>
 #include <limits>
 #include <optional>
 
@@ -16,10 +17,17 @@ std::optional<int> toInt(const QString &text)
 QDateTime toLocalTime(const QString &text)
 {
     const QString trimmed = text.trimmed();
-    const QDateTime compact = QDateTime::fromString(trimmed, QStringLiteral("yyyyMMddHHmm"));
-    if (compact.isValid())
-        return compact;
-    return QDateTime::fromString(trimmed, Qt::ISODate).toLocalTime();
+    const bool isCompact =
+        trimmed.size() == 12 && std::all_of(trimmed.begin(), trimmed.end(), [](QChar c) {
+            return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+        });
+    if (!isCompact)
+        return QDateTime::fromString(trimmed, Qt::ISODate).toLocalTime();
+    const auto number = [&trimmed](int begin, int length) {
+        return trimmed.midRef(begin, length).toInt();
+    };
+    return QDateTime(QDate(number(0, 4), number(4, 2), number(6, 2)),
+                     QTime(number(8, 2), number(10, 2)));
 }
 
 /** Whether QRect can compute with them: it stores the last edge inside and measures from the first.

@@ -1,0 +1,292 @@
+#include "PxXMLPlainReader.h"
+
+#include "PxXMLLoader.h"
+#include "PxXMLTextPool.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+enum CharacterClass : unsigned char {
+    Other = 0,
+    NameStart = 1,
+    NamePart = 2,
+    Blank = 4,
+    Plain = 8
+};
+
+/** What each byte may be part of; a byte of none is left to the full parser. */
+constexpr std::array<unsigned char, 256> characterClasses()
+{
+    std::array<unsigned char, 256> classes{};
+    for (int c = 0x20; c < 0x100; ++c)
+        classes[std::size_t(c)] = Plain;
+    for (int c = 'a'; c <= 'z'; ++c) {
+        classes[std::size_t(c)] |= NameStart | NamePart;
+        classes[std::size_t(c - 'a' + 'A')] |= NameStart | NamePart;
+    }
+    for (int c = '0'; c <= '9'; ++c)
+        classes[std::size_t(c)] |= NamePart;
+    classes['_'] |= NameStart | NamePart;
+    classes['-'] |= NamePart;
+    classes['.'] |= NamePart;
+    classes[' '] |= Blank;
+    classes['\t'] = classes['\n'] = classes['\r'] = Blank;
+    return classes;
+}
+
+constexpr std::array<unsigned char, 256> classes = characterClasses();
+
+bool is(char c, CharacterClass characterClass)
+{
+    return (classes[static_cast<unsigned char>(c)] & characterClass) != 0;
+}
+
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+/** The text with its references replaced; none when one is not of the five. */
+std::optional<QString> resolved(QStringView text)
+{
+    constexpr struct
+    {
+        QLatin1String reference;
+        char16_t character;
+    } references[] = {
+        {QLatin1String("&lt;"), u'<'},   {QLatin1String("&gt;"), u'>'},
+        {QLatin1String("&quot;"), u'"'}, {QLatin1String("&apos;"), u'\''},
+        {QLatin1String("&amp;"), u'&'},
+    };
+    // Appended part by part: replaced in place, a text of nothing else would take for ever.
+    QString result;
+    result.reserve(int(text.size()));
+    for (qsizetype begin = 0; begin < text.size();) {
+        const qsizetype end = text.indexOf(QLatin1Char('&'), begin);
+        if (end < 0) {
+            result.append(text.mid(begin));
+            break;
+        }
+        result.append(text.mid(begin, end - begin));
+        const QStringView rest = text.mid(end);
+        const auto found =
+            std::find_if(std::begin(references), std::end(references),
+                         [rest](const auto &row) { return rest.startsWith(row.reference); });
+        if (found == std::end(references))
+            return std::nullopt;
+        result.append(QChar(found->character));
+        begin = end + found->reference.size();
+    }
+    return result;
+}
+
+} // namespace
+
+PxXMLPlainReader::PxXMLPlainReader(std::string_view text)
+    : m_text(text)
+    , m_texts(PxXMLTextPool::ofThread())
+    , m_document(QDomDocumentType())
+    , m_parent(m_document)
+{}
+
+QDomDocument PxXMLPlainReader::read()
+{
+    bool isPlain = readDeclaration();
+    while (isPlain && m_position < m_text.size())
+        isPlain = current() == '<' ? readMarkup() : readText();
+    return isPlain && m_hasRoot && m_open.empty() ? m_document : QDomDocument();
+}
+
+/** Only the one that all editors write. */
+bool PxXMLPlainReader::readDeclaration()
+{
+    if (!startsWith("<?"))
+        return true;
+    if (!skip("<?xml version=\"1.0\""))
+        return false;
+    QString data = QStringLiteral("version='1.0'");
+    if (skip(" encoding=\"UTF-8\""))
+        data += QLatin1String(" encoding='UTF-8'");
+    else if (skip(" encoding=\"utf-8\""))
+        data += QLatin1String(" encoding='utf-8'");
+    return skip("?>") && add(m_document.createProcessingInstruction(QStringLiteral("xml"), data));
+}
+
+bool PxXMLPlainReader::readMarkup()
+{
+    switch (m_position + 1 < m_text.size() ? m_text[m_position + 1] : '\0') {
+    case '/':
+        return readEndTag();
+    case '!':
+        return readComment();
+    default:
+        return readStartTag();
+    }
+}
+
+bool PxXMLPlainReader::readText()
+{
+    const std::size_t end = std::min(m_text.find('<', m_position), m_text.size());
+    const std::string_view text = m_text.substr(m_position, end - m_position);
+    m_position = end;
+    if (std::all_of(text.begin(), text.end(), [](char c) { return is(c, Blank); }))
+        return true;
+    // The end of a CDATA section is no text.
+    if (m_open.empty() || text.find("]]>") != std::string_view::npos)
+        return false;
+    const std::optional<QString> decoded = decode(text);
+    if (!decoded)
+        return false;
+    return QStringView(*decoded).trimmed().isEmpty() || add(m_document.createTextNode(*decoded));
+}
+
+bool PxXMLPlainReader::readComment()
+{
+    if (!skip("<!--"))
+        return false;
+    const std::size_t end = m_text.find("--", m_position);
+    if (end == std::string_view::npos || m_text.substr(end, 3) != "-->")
+        return false;
+    const std::string_view text = m_text.substr(m_position, end - m_position);
+    m_position = end + 3;
+    if (text.find('&') != std::string_view::npos) // no reference, in a comment
+        return false;
+    const std::optional<QString> decoded = decode(text);
+    return decoded && add(m_document.createComment(*decoded));
+}
+
+bool PxXMLPlainReader::readStartTag()
+{
+    ++m_position;
+    const std::string_view name = readName();
+    if (name.empty() || (m_open.empty() && m_hasRoot) ||
+        int(m_open.size()) >= PxXMLLoader::maximumDepth)
+        return false;
+    QDomElement element = m_document.createElement(m_texts.text(name));
+    m_attributes.clear();
+    bool hasBlank = skipBlanks();
+    while (hasBlank && is(current(), NameStart)) {
+        if (!readAttribute(element))
+            return false;
+        hasBlank = skipBlanks();
+    }
+    const bool isEmpty = skip('/');
+    if (!skip('>') || !add(element))
+        return false;
+    m_hasRoot = true;
+    if (!isEmpty) {
+        m_open.push_back(name);
+        m_parent = element;
+    }
+    return true;
+}
+
+bool PxXMLPlainReader::readAttribute(QDomElement &element)
+{
+    constexpr std::size_t maximumAttributes = 64; // they are compared pairwise
+    const std::string_view name = readName();
+    skipBlanks();
+    if (!skip('='))
+        return false;
+    skipBlanks();
+    const char quote = current();
+    const std::size_t begin = m_position + 1;
+    const std::size_t end = m_text.find(quote, begin);
+    if ((quote != '"' && quote != '\'') || end == std::string_view::npos ||
+        m_attributes.size() >= maximumAttributes ||
+        std::find(m_attributes.begin(), m_attributes.end(), name) != m_attributes.end())
+        return false;
+    m_attributes.push_back(name);
+    const std::string_view value = m_text.substr(begin, end - begin);
+    m_position = end + 1;
+    // Line breaks and tabs would become blanks.
+    if (value.find_first_of("<\n\t") != std::string_view::npos)
+        return false;
+    const std::optional<QString> decoded = decode(value);
+    if (!decoded || ++m_nodes > PxXMLLoader::maximumNodes)
+        return false;
+    element.setAttribute(m_texts.text(name), *decoded);
+    return true;
+}
+
+bool PxXMLPlainReader::readEndTag()
+{
+    m_position += 2;
+    const std::string_view name = readName();
+    skipBlanks();
+    if (m_open.empty() || m_open.back() != name || !skip('>'))
+        return false;
+    m_open.pop_back();
+    m_parent = m_parent.parentNode();
+    return true;
+}
+
+bool PxXMLPlainReader::add(const QDomNode &node)
+{
+    m_parent.appendChild(node);
+    return ++m_nodes <= PxXMLLoader::maximumNodes;
+}
+
+bool PxXMLPlainReader::startsWith(std::string_view token) const
+{
+    return m_text.compare(m_position, token.size(), token) == 0;
+}
+
+bool PxXMLPlainReader::skip(std::string_view token)
+{
+    if (!startsWith(token))
+        return false;
+    m_position += token.size();
+    return true;
+}
+
+bool PxXMLPlainReader::skip(char c)
+{
+    const bool isThere = current() == c;
+    m_position += isThere ? 1 : 0;
+    return isThere;
+}
+
+/** Whether there were any. */
+bool PxXMLPlainReader::skipBlanks()
+{
+    const std::size_t begin = m_position;
+    while (is(current(), Blank))
+        ++m_position;
+    return m_position > begin;
+}
+
+/** Empty when there is none. */
+std::string_view PxXMLPlainReader::readName()
+{
+    const std::size_t begin = m_position;
+    if (is(current(), NameStart)) {
+        while (is(current(), NamePart))
+            ++m_position;
+    }
+    return m_text.substr(begin, m_position - begin);
+}
+
+/** The text of a value or between tags; none when it is not plain. */
+std::optional<QString> PxXMLPlainReader::decode(std::string_view utf8)
+{
+    bool isAscii = true;
+    bool hasReferences = false;
+    for (const char c : utf8) {
+        isAscii = isAscii && static_cast<signed char>(c) >= 0;
+        hasReferences = hasReferences || c == '&';
+        // A carriage return would become a line feed.
+        if (!is(c, Plain) && c != '\n' && c != '\t')
+            return std::nullopt;
+    }
+    // A byte order mark at the start would get lost, though here it is a character like others.
+    if (!isAscii && utf8.substr(0, byteOrderMark.size()) == byteOrderMark)
+        return std::nullopt;
+    QString text = m_texts.text(utf8);
+    // What is no UTF-8 becomes the replacement character, and no character has the last two codes.
+    if (!isAscii && (text.contains(QChar::ReplacementCharacter) || text.contains(QChar(0xFFFE)) ||
+                     text.contains(QChar(0xFFFF))))
+        return std::nullopt;
+    if (!hasReferences)
+        return text;
+    return resolved(text);
+}

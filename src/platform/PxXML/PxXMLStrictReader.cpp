@@ -1,0 +1,123 @@
+#include "PxXMLStrictReader.h"
+
+#include "PxXMLDocumentBuilder.h"
+#include "PxXMLMarkupScanner.h"
+
+#include <QRegularExpression>
+#include <QTextCodec>
+#include <QXmlStreamReader>
+
+namespace {
+
+/** The XML declaration at the start of an ASCII-compatible text, without its end; or empty. */
+QByteArray xmlDeclaration(const QByteArray &text)
+{
+    constexpr int maximumLength = 1024;
+    const QByteArray start = text.left(maximumLength);
+    return start.startsWith("<?xml") ? start.left(start.indexOf("?>")) : QByteArray();
+}
+
+/** By byte order mark or declaration, UTF-8 without these; null for an encoding we do not know. */
+QTextCodec *codecOf(const QByteArray &bytes)
+{
+    if (QTextCodec *marked = QTextCodec::codecForUtfText(bytes, nullptr))
+        return marked;
+    // "<" with a zero byte beside it: the reader takes that for UTF-16, so we do, too.
+    if (bytes.startsWith('\0'))
+        return QTextCodec::codecForName("UTF-16BE");
+    if (bytes.size() > 1 && bytes.at(1) == '\0')
+        return QTextCodec::codecForName("UTF-16LE");
+    static const QRegularExpression ourEncoding(
+        QStringLiteral("\\sencoding\\s*=\\s*[\"']([^\"']*)[\"']"));
+    const QRegularExpressionMatch declared =
+        ourEncoding.match(QString::fromLatin1(xmlDeclaration(bytes)));
+    return QTextCodec::codecForName(declared.hasMatch() ? declared.captured(1).toLatin1()
+                                                        : QByteArrayLiteral("UTF-8"));
+}
+
+/** Decodes the first bytes; false when some are no text in this encoding. */
+bool decode(const QTextCodec &codec, const QByteArray &bytes, int size, QString &text)
+{
+    constexpr int utf8 = 106;
+    constexpr int utf16BigEndian = 1013; // the first of the IANA numbers of UTF-16 and UTF-32
+    constexpr int utf32LittleEndian = 1019;
+    const int number = codec.mibEnum();
+    const bool isUnicode =
+        number == utf8 || (number >= utf16BigEndian && number <= utf32LittleEndian);
+
+    QTextCodec::ConverterState state;
+    text = codec.toUnicode(bytes.constData(), size, &state);
+    // Codecs of other encodings do not count faults, they leave the character that stands for one.
+    return state.invalidChars == 0 && (size < bytes.size() || state.remainingChars == 0) &&
+           (isUnicode || !text.contains(QChar::ReplacementCharacter));
+}
+
+/** Where the part of the bytes ends that can be decoded. */
+PxXMLFault undecodable(const QTextCodec &codec, const QByteArray &bytes)
+{
+    int good = 0;
+    int bad = bytes.size();
+    QString text;
+    while (bad - good > 1) {
+        const int middle = good + (bad - good) / 2;
+        QString part;
+        if (decode(codec, bytes, middle, part)) {
+            good = middle;
+            text = part;
+        } else {
+            bad = middle;
+        }
+    }
+    return {QStringLiteral("the text is no valid ") + QString::fromLatin1(codec.name()),
+            text.count(QLatin1Char('\n')) + 1, text.size() - text.lastIndexOf(QLatin1Char('\n'))};
+}
+
+/** Whether the text is in the encoding that it declares, if it declares one. */
+bool isDeclared(const QTextCodec *codec, const QString &declared)
+{
+    if (declared.isEmpty())
+        return codec->name().startsWith("UTF-");
+    const QByteArray name = declared.toLatin1();
+    // "UTF-16" leaves the byte order to the mark.
+    return QTextCodec::codecForName(name) == codec ||
+           (name.toUpper() == "UTF-16" && codec->name().startsWith("UTF-16"));
+}
+
+} // namespace
+
+std::optional<PxXMLFault> PxXMLStrictReader::read()
+{
+    const QTextCodec *codec = codecOf(m_bytes);
+    if (!codec)
+        return PxXMLFault{QStringLiteral("the declared encoding is unknown"), 1, 1};
+    QString text;
+    if (!decode(*codec, m_bytes, m_bytes.size(), text))
+        return undecodable(*codec, m_bytes);
+
+    // The reader gets UTF-8 as it is, which is quickest. Of any other encoding it gets the decoded
+    // text: then it reads just the characters that were scanned, whatever the file declares.
+    const bool isUtf8 = codec == QTextCodec::codecForName("UTF-8");
+    if (text.startsWith(QChar::ByteOrderMark))
+        text.remove(0, 1);
+    if (!isUtf8)
+        m_bytes = text.toUtf8();
+    else if (m_bytes.startsWith("\xEF\xBB\xBF"))
+        m_bytes.remove(0, 3);
+    if (const std::optional<PxXMLFault> found =
+            PxXMLMarkupScanner({m_bytes.constData(), std::size_t(m_bytes.size())}).scan())
+        return found;
+
+    QXmlStreamReader reader = isUtf8 ? QXmlStreamReader(m_bytes) : QXmlStreamReader(text);
+    reader.setNamespaceProcessing(false);
+    reader.readNext();
+    const QString declared = reader.documentEncoding().toString();
+    if (!reader.hasError() && !isDeclared(codec, declared))
+        return PxXMLFault{QStringLiteral("the text is %1, but declares the encoding '%2'")
+                              .arg(QString::fromLatin1(codec->name()), declared),
+                          1, 1};
+    PxXMLDocumentBuilder builder(reader, xmlDeclaration(m_bytes).contains("standalone"));
+    const std::optional<PxXMLFault> found = builder.build();
+    if (!found)
+        m_document = builder.document();
+    return found;
+}

@@ -1,0 +1,24 @@
+#include "PxXMLTextPool.h"
+
+#include <QHashFunctions>
+
+PxXMLTextPool &PxXMLTextPool::ofThread()
+{
+    static thread_local PxXMLTextPool ourPool;
+    return ourPool;
+}
+
+QString PxXMLTextPool::text(std::string_view utf8)
+{
+    constexpr std::size_t maximumLength = 64; // longer ones seldom recur
+    if (utf8.empty())
+        return QLatin1String("");
+    if (utf8.size() > maximumLength)
+        return QString::fromUtf8(utf8.data(), int(utf8.size()));
+    Slot &slot = m_slots[qHashBits(utf8.data(), utf8.size()) % m_slots.size()];
+    if (std::string_view(slot.utf8.constData(), std::size_t(slot.utf8.size())) != utf8) {
+        slot.utf8 = QByteArray(utf8.data(), int(utf8.size()));
+        slot.text = QString::fromUtf8(slot.utf8);
+    }
+    return slot.text;
+}

@@ -1,0 +1,180 @@
+#include <PxElement.h>
+#include <PxXMLPlainReader.h>
+#include <PxXMLStrictReader.h>
+
+#include <QDirIterator>
+#include <QTest>
+
+#include <random>
+
+/** Whatever the plain reader reads, the strict one reads as the same tree. */
+class PxXMLPlainReaderTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void readsTheSampleCatalogue();
+    void leavesWhatIsOddToTheStrictReader();
+    void agreesAboutMutations();
+
+private:
+    QList<QByteArray> m_samples;
+};
+
+namespace {
+
+QDomDocument plain(const QByteArray &xml)
+{
+    return PxXMLPlainReader({xml.constData(), std::size_t(xml.size())}).read();
+}
+
+/** Empty when the readers agree. */
+QString difference(const QByteArray &xml)
+{
+    const QDomDocument document = plain(xml);
+    if (document.isNull())
+        return QString();
+    PxXMLStrictReader strict(xml);
+    const std::optional<PxXMLFault> fault = strict.read();
+    if (fault)
+        return "refused: " + fault->message;
+    if (pxTree(document) != pxTree(strict.document()))
+        return pxTree(document) + " is not " + pxTree(strict.document());
+    return document.toString() == strict.document().toString() ? "" : "written otherwise";
+}
+
+/** One to four small damages, of the kinds that editing, copying and transmitting do. */
+QByteArray mutated(QByteArray xml, std::mt19937 &random)
+{
+    static const QList<QByteArray> pieces{
+        "<",
+        ">",
+        "/",
+        "&",
+        ";",
+        "\"",
+        "'",
+        "=",
+        "\r\n",
+        "\t",
+        "]]>",
+        "--",
+        "<!--",
+        "-->",
+        "<?",
+        "?>",
+        "&amp;",
+        "&#65;",
+        "&lt;",
+        "&x;",
+        " a='1'",
+        " a=1",
+        "<b/>",
+        "</product>",
+        "<![CDATA[",
+        "<p:q/>",
+        " xml:a=''",
+        "\xC3\xA4",
+        "\xEF\xBB\xBF",
+        "\xEF\xBF\xBE",
+        "\xED\xA0\x80",
+        "\xC2\xA0",
+    };
+    const auto below = [&random](int end) { return int(random() % unsigned(qMax(1, end))); };
+    for (int count = 1 + below(4); count > 0; --count) {
+        const int position = below(xml.size());
+        const int length = below(4) ? 1 + below(3) : below(xml.size() / 2);
+        switch (below(6)) {
+        case 0:
+            xml.remove(position, length);
+            break;
+        case 1:
+            xml.insert(position, xml.mid(position, length));
+            break;
+        case 2:
+            xml.insert(below(xml.size()), xml.mid(position, length));
+            break;
+        case 3:
+            xml[position] = char(below(256));
+            break;
+        case 4:
+            xml.insert(position, pieces[below(pieces.size())]);
+            break;
+        default:
+            xml.replace(position, length, pieces[below(pieces.size())]);
+        }
+        if (xml.isEmpty())
+            return xml;
+    }
+    return xml;
+}
+
+} // namespace
+
+void PxXMLPlainReaderTest::initTestCase()
+{
+    QDirIterator it(PX_SAMPLE_DIRECTORY, {"*.xml"}, QDir::Files, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        QFile file(it.next());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        m_samples.append(file.readAll());
+    }
+    std::sort(m_samples.begin(), m_samples.end());
+}
+
+void PxXMLPlainReaderTest::readsTheSampleCatalogue()
+{
+    for (const QByteArray &xml : qAsConst(m_samples)) {
+        QVERIFY2(!plain(xml).isNull(), xml);
+        QCOMPARE(difference(xml), QString());
+    }
+}
+
+void PxXMLPlainReaderTest::leavesWhatIsOddToTheStrictReader()
+{
+    // clang-format off
+    const QList<QByteArray> whole{
+        "", " ", "x", "<", "<>", "</a>", "<a", "<a/", "<a b", "<a b=", "<a b='", "<a b=''", "<a>", "<a></a", "<a></b>", "<a></a>x", "<a/><a/>", "x<a/>",
+        "<a/>&amp;", "<a/>\n<!--x-->\n", "<!--x--><a/>", "<a/><?p?>", " <?xml version='1.0'?><a/>", "\n<a/>", "<?xml version=\"1.0\"?><a/>",
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<a/>", "<?xml version=\"1.0\" encoding=\"utf-8\" ?><a/>", "<?xml version=\"1.0\" encoding=\"Latin1\"?><a/>",
+        "<?xml version='1.0' standalone='yes'?><a/>", "<?xml version=\"1.1\"?><a/>", "<?xml version=\"1.0\"?>", "<?xml?><a/>", "<?xml version=\"1.0\"?><?xml version=\"1.0\"?><a/>",
+        "<!DOCTYPE a><a/>", "<!DOCTYPE a [<!ENTITY b 'c'>]><a>&b;</a>", "\xEF\xBB\xBF<a/>", "\xEF\xBB\xBF\xEF\xBB\xBF<a/>", "<a/>\xEF\xBB\xBF", "\xFF\xFE<\0a\0/\0>\0",
+        "<a b='1'c='2'/>", "<a b='1' b='1'/>", "<a b = \n'1' />", "<a b='\"' c=\"'\"/>", "<a 1='1'/>", "<a.b-c_d/>", "<-a/>", "<.a/>", "<1/>", "<_/>", "<a b/>",
+        "<p:a xmlns:p='u'/>", "<a xmlns='u'/>", "<:a/>", "<a:/>", "<\xC3\xA4/>", "<a \xC3\xA4='1'/>", "<a>\n</a\n>", "<a/ >", "< a/>", "</ a>", "<a></ a>", "<a b='<'/>", "<a b='>'/>",
+        "<a><b></a></b>", "<a/>\0", "<!---><a/>", "<!----><a/>", "<!--a--b--><a/>", "<!--a---><a/>", "<!-- & \xC3\xA4 --><a/>", "<!--\r\n\t--><a/>", "<!--", "<!-- --", "<a xml='1'/>", "<xml/>",
+    };
+    const QList<QByteArray> content{
+        "&lt;&gt;&amp;&quot;&apos;", "&amp;lt;", "&", "&;", "&amp", "&AMP;", "&lt ;", "&b;", "&#65;", "&#x41;", "&#0;", "&#10;", "&nbsp;", "a\rb", "a\r\nb", "\t\n", " x ", "x\ty\nz",
+        "]]>", "]]", "x]]&gt;", "<![CDATA[x]]>", "<![CDATA[", "<?p x?>", "\xC2\xA0", "\xE3\x80\x80", "\xE2\x80\xA8", "\xC2\x85", "&#160;", "x\xC2\xA0", "\xEF\xBB\xBF", "x\xEF\xBB\xBFy", "\xEF\xBB\xBF ",
+        "\xC3", "\xC3(", "\xFF", "\xC0\xAF", "\xC0\x80", "\xED\xA0\x80", "\xED\xA0\x80\xED\xB0\x80", "\xF4\x90\x80\x80", "\xF0\x9F\x98\x80", "\xEF\xBF\xBD", "\xEF\xBF\xBE", "\xEF\xBF\xBF", "\xEF\xB7\x90",
+        "\xF0\x9F\xBF\xBE", "\x01", "\x08", "\x0B", "\x0C", "\x1F", "\x7F", "\xC2\x80", "\xC2\x9F", QByteArray("\0", 1), "--", "-->", "&\xC3\xA4;", "&lt;\xC2\xA0&gt;",
+    };
+    // clang-format on
+    QList<QByteArray> texts = whole;
+    for (const QByteArray &c : content)
+        texts << "<a>" + c + "</a>"
+              << "<a>x" + c + "<b/>" + c + "</a>"
+              << "<a b='" + c + "'/>"
+              << "<a>x<!--" + c + "--></a>" << c + "<a/>"
+              << "<a/>" + c << "<a" + c + "/>";
+    for (const QByteArray &xml : qAsConst(texts))
+        QVERIFY2(difference(xml).isEmpty(),
+                 xml.toPercentEncoding("<>='/") + qPrintable(difference(xml)));
+}
+
+void PxXMLPlainReaderTest::agreesAboutMutations()
+{
+    std::mt19937 random(1); // the same ones in every run
+    int readCount = 0;
+    for (int i = 0; i < 6000; ++i) {
+        const QByteArray sample = m_samples[int(random() % unsigned(m_samples.size()))];
+        const QByteArray xml = mutated(sample, random);
+        QVERIFY2(difference(xml).isEmpty(), xml + qPrintable(difference(xml)));
+        readCount += plain(xml).isNull() ? 0 : 1;
+    }
+    QVERIFY2(readCount > 500, "hardly anything was compared");
+}
+
+QTEST_GUILESS_MAIN(PxXMLPlainReaderTest)
+#include "PxXMLPlainReaderTest.moc"
