@@ -39,6 +39,8 @@ endfunction()
 function(px_add_library target name base)
     add_library(${target} SHARED)
     px_set_defaults(${target})
+    # Nobody replaces our functions when the program is loaded: calls within a library stay in it.
+    target_compile_options(${target} PRIVATE -fno-semantic-interposition)
     target_compile_features(${target} PUBLIC cxx_std_17)
     generate_export_header(${target}
         BASE_NAME ${target} EXPORT_FILE_NAME ${CMAKE_CURRENT_BINARY_DIR}/export/${target}Export.h)

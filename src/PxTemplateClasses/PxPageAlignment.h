@@ -17,6 +17,8 @@ enum PxPageAlignment : int {
     PxPageAlignmentAll = PxPageAlignmentLeft | PxPageAlignmentRight | PxPageAlignmentMiddle |
                          PxPageAlignmentFullPage | PxPageAlignmentTop | PxPageAlignmentBottom |
                          PxPageAlignmentCenter,
+    /** Where single pages lie: not the whole spread. */
+    PxPageAlignmentSinglePages = PxPageAlignmentAll & ~PxPageAlignmentFullPage,
 };
 
 namespace EnumHelper {

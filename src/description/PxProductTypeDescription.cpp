@@ -12,6 +12,8 @@
 #include <QDomElement>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace {
 
 PxBleedMargin createBleedMargin(const QDomElement &product, const QString &common,
@@ -240,8 +242,17 @@ void PxProductTypeDescription::initSpineData(const QDomElement &spines)
 {
     const QString tag = QStringLiteral("spine");
     for (QDomElement e = spines.firstChildElement(tag); !e.isNull(); e = e.nextSiblingElement(tag))
-        m_spines.insert(PxXMLParser::intAttribute(e, QStringLiteral("pages"), 0),
-                        PxProductTypeDescriptionSpineData(e));
+        m_spines.append({PxXMLParser::intAttribute(e, QStringLiteral("pages"), 0),
+                         PxProductTypeDescriptionSpineData(e)});
+    // Of two with the same page count the later one counts: it comes to stand first.
+    std::reverse(m_spines.begin(), m_spines.end());
+    std::stable_sort(m_spines.begin(), m_spines.end(),
+                     [](const Spine &a, const Spine &b) { return a.pageCount < b.pageCount; });
+    const auto end =
+        std::unique(m_spines.begin(), m_spines.end(),
+                    [](const Spine &a, const Spine &b) { return a.pageCount == b.pageCount; });
+    m_spines.erase(end, m_spines.end());
+    m_spines.squeeze();
 }
 
 void PxProductTypeDescription::adjustSpineWidth()
@@ -249,8 +260,8 @@ void PxProductTypeDescription::adjustSpineWidth()
     if (!m_classification.productType().isBook() || spineWidth(minPages()) <= 0)
         return;
     // The spine gains on the cover what the two halves of the cover give up.
-    for (PxProductTypeDescriptionSpineData &spine : m_spines)
-        spine.considerExtraCoverWidth(20);
+    for (Spine &spine : m_spines)
+        spine.data.considerExtraCoverWidth(20);
     m_coverExtraHorizontal = pxClampedSum(m_coverExtraHorizontal, -10);
 }
 

@@ -188,6 +188,12 @@ private:
     /** Which rule other than that of a bound book tells the side of a page. */
     enum class CardAlignment { None, CardStyle, VarioSingleCardStyle, CollegeBlockStyle };
 
+    struct Spine
+    {
+        int pageCount;
+        PxProductTypeDescriptionSpineData data;
+    };
+
     // Far more than a product has; real ones state ranges.
     static constexpr int maximumAbstractPages = 1000;
 
@@ -203,12 +209,13 @@ private:
     void adjustSpineWidth();
     void initPageNumbering(const QDomElement &pageNumberConfig);
     void initBackgroundCategories(const QDomElement &product);
+    PxProductTypeDescriptionSpineData spine(int pageCount) const;
     int decodeFoldMargin(const QDomElement &product) const;
 
     PxOrientation m_orientation;
     bool m_hasAssistant = true;
     PxBinding m_binding;
-    QMap<int, PxProductTypeDescriptionSpineData> m_spines; // by page count
+    QVector<Spine> m_spines; // by page count
     bool m_hasSpine = false;
     bool m_mustPaintVemoLogoOnSpine = false;
     PxImageFXs m_imageFX = PxImageFXsNone;

@@ -6,7 +6,7 @@
 
 #include <QDebug>
 
-#include <iterator>
+#include <algorithm>
 #include <limits>
 
 bool PxProductTypeDescription::isValid() const
@@ -56,23 +56,22 @@ QString PxProductTypeDescription::findDefaultTemplate(const PxDefaultTemplateKey
 
 int PxProductTypeDescription::minPages() const
 {
-    return m_spines.isEmpty() ? std::numeric_limits<int>::max() : m_spines.firstKey();
+    return m_spines.isEmpty() ? std::numeric_limits<int>::max() : m_spines.constFirst().pageCount;
 }
 
 int PxProductTypeDescription::maxPages() const
 {
-    return m_spines.isEmpty() ? std::numeric_limits<int>::min() : m_spines.lastKey();
+    return m_spines.isEmpty() ? std::numeric_limits<int>::min() : m_spines.constLast().pageCount;
 }
 
 int PxProductTypeDescription::pageIncrement() const
 {
-    if (m_spines.size() < 3)
+    const int count = m_spines.size();
+    if (count < 3)
         return std::numeric_limits<int>::min();
     // Not the step to the last page count: that one may be irregular.
-    const auto last = std::prev(m_spines.constEnd());
-    const auto secondLast = std::prev(last);
-    const auto thirdLast = std::prev(secondLast);
-    return pxClampedInt(qint64(secondLast.key()) - thirdLast.key());
+    return pxClampedInt(qint64(m_spines.at(count - 2).pageCount) -
+                        m_spines.at(count - 3).pageCount);
 }
 
 bool PxProductTypeDescription::hasCover() const
@@ -82,6 +81,8 @@ bool PxProductTypeDescription::hasCover() const
 
 PxPageTypeList PxProductTypeDescription::pageTypes(int pageCount) const
 {
+    constexpr int maximumReserved = 1000; // as good as any product
+    const PxPageType normalPage(PxPageTypeNormalPage);
     PxPageTypeList pageTypes;
     for (const PxPageType &pageType : m_pageTypes) {
         switch (pageType.value()) {
@@ -94,8 +95,10 @@ PxPageTypeList PxProductTypeDescription::pageTypes(int pageCount) const
         case PxPageTypeSimplexYearCalendar:
         case PxPageTypeNormalPages:
         case PxPageTypeSimplexMonthCalendar:
+            pageTypes.reserve(pageTypes.size() + qBound(0, pageCount, maximumReserved) +
+                              m_pageTypes.size());
             for (int page = 0; page < pageCount; ++page)
-                pageTypes.append(PxPageTypeNormalPage);
+                pageTypes.append(normalPage);
             break;
         default:
             pageTypes.append(pageType);
@@ -220,12 +223,23 @@ int PxProductTypeDescription::clampExtra(const PxPageType &pageType) const
 
 int PxProductTypeDescription::spineWidth(int pageCount) const
 {
-    return m_spines.value(pageCount).width();
+    return spine(pageCount).width();
 }
 
 int PxProductTypeDescription::spineMaxFontHeight(int pageCount) const
 {
-    return m_spines.value(pageCount).maxFontHeight();
+    return spine(pageCount).maxFontHeight();
+}
+
+/** Of width 0 for a page count without one. */
+PxProductTypeDescriptionSpineData PxProductTypeDescription::spine(int pageCount) const
+{
+    const auto found =
+        std::lower_bound(m_spines.begin(), m_spines.end(), pageCount,
+                         [](const Spine &s, int count) { return s.pageCount < count; });
+    return found == m_spines.end() || found->pageCount != pageCount
+               ? PxProductTypeDescriptionSpineData()
+               : found->data;
 }
 
 PxSurroundingDescription PxProductTypeDescription::findSurrounding(

@@ -1,10 +1,13 @@
 #include "geometry/PxDefaultTemplateMap.h"
 
+#include "geometry/PxPageAlignments.h"
+
 #include <PxListParts.h>
 
 #include <QDomElement>
 
 #include <algorithm>
+#include <array>
 
 PxDefaultTemplateMap::PxDefaultTemplateMap(const QDomElement &parent)
 {
@@ -37,6 +40,7 @@ void PxDefaultTemplateMap::applyDefaultsNode(const QDomElement &parent)
                 ofTheme.append(index);
         });
     }
+    m_defaults.squeeze();
 }
 
 QString PxDefaultTemplateMap::removeUmlauts(QString text)
@@ -46,33 +50,51 @@ QString PxDefaultTemplateMap::removeUmlauts(QString text)
         char16_t letter;
         const char *replacement;
     } umlauts[] = {{u'ä', "ae"}, {u'ö', "oe"}, {u'ü', "ue"}, {u'ß', "ss"}};
-    for (const auto &row : umlauts)
-        text.replace(QChar(row.letter), QLatin1String(row.replacement));
-    return text;
+    const auto isAscii = [](QChar c) { return c.unicode() < 0x80; };
+    if (std::all_of(text.cbegin(), text.cend(), isAscii))
+        return text;
+    // Template names recur in hundreds of products: their copies share one text, made once.
+    static thread_local std::array<QPair<QString, QString>, 256> ourRecentTexts;
+    auto &[original, replaced] = ourRecentTexts[qHash(text) % ourRecentTexts.size()];
+    if (original != text) {
+        original = text;
+        for (const auto &row : umlauts)
+            text.replace(QChar(row.letter), QLatin1String(row.replacement));
+        replaced = text;
+    }
+    return replaced;
+}
+
+static bool isSingleBit(int flags)
+{
+    return flags > 0 && (flags & (flags - 1)) == 0;
 }
 
 bool PxDefaultTemplateMap::Defaults::isFor(const PxPageContext &page) const
 {
-    const unsigned alignment = unsigned(page.alignment());
-    const bool isSingleBit = alignment != 0 && (alignment & (alignment - 1)) == 0;
-    return isSingleBit && (unsigned(alignments) & alignment) != 0 &&
-           pageTypes.contains(page.pageType().value());
+    if (!isSingleBit(page.alignment()) || (alignments & page.alignment()) == 0)
+        return false;
+    const PxPageTypeEnum pageType = page.pageType().value();
+    return isSingleBit(pageType) ? (pageTypes & pageType) != 0 : otherPageTypes.contains(pageType);
+}
+
+/** One part at a time: however long the list, there are few kinds of page. */
+void PxDefaultTemplateMap::readPageTypes(const QString &keywords, Defaults &defaults)
+{
+    pxForEachPart(keywords, [&defaults](QStringView part) {
+        const PxPageTypeEnum pageType = PxPageType(part.trimmed().toString()).value();
+        if (isSingleBit(pageType))
+            defaults.pageTypes |= pageType;
+        else if (!defaults.otherPageTypes.contains(pageType))
+            defaults.otherPageTypes.append(pageType);
+    });
 }
 
 PxDefaultTemplateMap::Defaults PxDefaultTemplateMap::readDefaults(const QDomElement &element)
 {
     Defaults defaults;
-    // One part at a time: however long the list, there are few kinds of page.
-    const QString pageTypes = element.attribute(QStringLiteral("pageType"));
-    pxForEachPart(pageTypes, [&defaults](QStringView part) {
-        const PxPageTypeEnum pageType = PxPageType(part.trimmed().toString()).value();
-        if (!defaults.pageTypes.contains(pageType))
-            defaults.pageTypes.append(pageType);
-    });
-    defaults.alignments = EnumHelper::decodeKeywordList(
-        element.attribute(QStringLiteral("alignment"),
-                          QStringLiteral("left,right,top,bottom,center,middle")),
-        EnumHelper::globalMapPageAlignmentString, EnumHelper::globalPageAlignmentDefaultValue);
+    readPageTypes(element.attribute(QStringLiteral("pageType")), defaults);
+    defaults.alignments = pxPageAlignments(element);
 
     // The short form: a background, or background and layout. Of more names the first still counts.
     const QString shortForm = element.attribute(QStringLiteral("templates"));

@@ -35,13 +35,15 @@ public:
 private:
     struct Defaults
     {
-        QVector<PxPageTypeEnum> pageTypes;
-        int alignments; // the alignments of a list are single bits: their union tells them all
-        QString templates[2]; // by DefaultTemplateType
+        int pageTypes = 0;  // the union of those that are single bits, as nearly all are
+        int alignments = 0; // of a list are single bits: their union tells them all
+        QVector<PxPageTypeEnum> otherPageTypes; // a union of page types is only equal to itself
+        QString templates[2];                   // by DefaultTemplateType
 
         bool isFor(const PxPageContext &page) const;
     };
 
+    static void readPageTypes(const QString &keywords, Defaults &defaults);
     static Defaults readDefaults(const QDomElement &element);
     QString findOwnTemplate(const PxDefaultTemplateKey &key) const;
 

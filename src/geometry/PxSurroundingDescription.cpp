@@ -1,5 +1,7 @@
 #include "geometry/PxSurroundingDescription.h"
 
+#include "geometry/PxPageAlignments.h"
+
 #include <PxXMLParser.h>
 
 #include <QDebug>
@@ -11,10 +13,7 @@ PxSurroundingDescription::PxSurroundingDescription(const QDomElement &surroundin
           EnumHelper::globalMapSurroundingTypeString,
           EnumHelper::globalSurroundingTypeDefaultValue))
     , m_pageTypes(surrounding.attribute(QStringLiteral("pageType"), QStringLiteral("all")))
-    , m_alignments(EnumHelper::decodeKeywordList(
-          surrounding.attribute(QStringLiteral("alignment"),
-                                QStringLiteral("left,right,top,bottom,center,middle")),
-          EnumHelper::globalMapPageAlignmentString, EnumHelper::globalPageAlignmentDefaultValue))
+    , m_alignments(pxPageAlignments(surrounding))
     , m_pageNr(PxXMLParser::intAttribute(surrounding, QStringLiteral("pageNr"), -1))
     , m_paintOnTop(PxXMLParser::boolAttribute(surrounding, QStringLiteral("paintOnTop"), true))
     , m_image(surrounding.attribute(QStringLiteral("image")))
