@@ -7,11 +7,12 @@ BUILD = build/$(PRESET)
 PACKAGES = ccache cmake g++ ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools
 ROOT = $(if $(filter 0,$(shell id -u)),,sudo)
 
-.PHONY: help demo check build setup clean
+.PHONY: help demo check bench build setup clean
 
 help:
 	@echo "make demo    set up, build, and show what the library answers about the sample catalogue"
 	@echo "make check   set up, build, and run every test (PRESET=debug|release|asan|tsan, WERROR=ON)"
+	@echo "make bench   build Release and print what start-up and answers cost, beside what they may cost"
 	@echo "make clean   remove everything that was built"
 
 demo: build
@@ -25,6 +26,13 @@ demo: build
 
 check: build
 	ctest --preset $(PRESET) -j $(JOBS)
+
+# Both sides of each ratio take turns, so that other work on the machine troubles both alike.
+bench: PACKAGES += libbenchmark-dev
+bench: setup
+	cmake --preset release -DPX_BUILD_BENCHMARKS=ON
+	cmake --build --preset release -j $(JOBS) --target PxBenchmarks
+	build/release/bin/PxBenchmarks --benchmark_enable_random_interleaving=true --benchmark_min_time=0.2
 
 build: setup
 	cmake --preset $(PRESET) -DPX_WARNINGS_AS_ERRORS=$(WERROR)

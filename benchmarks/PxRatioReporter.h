@@ -1,0 +1,31 @@
+#pragma once
+
+#include "PxRatio.h"
+
+#include <benchmark/benchmark.h>
+
+#include <map>
+#include <string>
+#include <vector>
+
+/** Collects the times of both sides of each ratio and prints one table of the ratios. */
+class PxRatioReporter : public benchmark::BenchmarkReporter
+{
+public:
+    explicit PxRatioReporter(const std::vector<PxRatio> &ratios) : m_ratios(ratios) {}
+
+    bool ReportContext(const Context &context) override;
+    void ReportRuns(const std::vector<Run> &runs) override;
+
+    /** A line that is no time: a value and its bounds. */
+    void printValue(const char *name, double value, double must, double aim, const char *unit);
+    void printTable();
+    bool isEveryMustReached() const { return m_isEveryMustReached; }
+
+private:
+    void printLine(const char *name, double value, double must, double aim, const char *unit);
+
+    const std::vector<PxRatio> &m_ratios;
+    std::map<std::string, double> m_nanoseconds; // the median by the name of the benchmark
+    bool m_isEveryMustReached = true;
+};
