@@ -1,0 +1,137 @@
+#pragma once
+
+#include <cstddef>
+
+class QString;
+
+/** The rows of a table, all of which live as long as the program. */
+template <typename ROW>
+class PxRows
+{
+public:
+    constexpr PxRows() = default;
+    template <std::size_t COUNT>
+    constexpr PxRows(const ROW (&rows)[COUNT]) : m_first(rows)
+                                               , m_count(int(COUNT))
+    {}
+
+    constexpr const ROW *begin() const { return m_first; }
+    constexpr const ROW *end() const { return m_first + m_count; }
+    constexpr int size() const { return m_count; }
+    constexpr bool isEmpty() const { return m_count == 0; }
+
+private:
+    const ROW *m_first = nullptr;
+    int m_count = 0;
+};
+
+/** The kinds of files that authors write. */
+enum class PxFileKind { Product, Theme, UserDefaults, ProductTypes, Frames };
+
+/** The keyword tables. */
+enum class PxKeywordSet {
+    None,
+    Binding,
+    Paper,
+    SizeClass,
+    PageType,
+    PageNamingStyle,
+    AssemblyWay,
+    ImageEffect,
+    SurroundingType,
+    Alignment,
+    ProductGroup,
+    Orientation,
+    Material,
+    ProductClass,
+};
+
+/** What the value of an attribute is. */
+enum class PxValueType {
+    Integer,
+    Boolean,
+    Text,
+    TextList,
+    Path,
+    DateTime,
+    Keyword,     ///< read as a list, but only one keyword makes sense
+    KeywordList, ///< keywords that add up
+    OneKeyword,  ///< not read as a list
+    PageRange,
+    RectanglePart, ///< one of x, y, width and height; a whole number
+    ProductName,
+};
+
+/**
+ * An attribute of an element.
+ *
+ * The last members are cells of the tables in the documentation of the file format, in Markdown.
+ */
+struct PxAttributeRow
+{
+    const char *name;
+    PxValueType type;
+    /** A value that is read like a missing attribute; null when none is. May be empty. */
+    const char *defaultText;
+    const char *absent; ///< what is used when it is absent or unreadable
+    /** Null when the attribute shares the line of the table with the one before. */
+    const char *meaning;
+    PxKeywordSet keywords = PxKeywordSet::None;
+    const char *typeText = nullptr; ///< instead of the usual name of the type
+    /**
+     * Where the attribute is told about, when that is not in the main table of the element. The
+     * main table has one line for all neighbours of the same section, with this text as meaning.
+     */
+    const char *section = nullptr;
+};
+
+/** How many elements of a name, or of any name, count below the same parent. */
+enum class PxOccurrence {
+    First,   ///< the first of the name
+    Any,     ///< all of the name
+    AnyName, ///< all, whatever their name; the name in the row is the usual one
+};
+
+/** What the text between the tags of an element is. */
+enum class PxTextKind { None, Text, Integer, NumberList, PageTypes, ProductName };
+
+/** An element, with what may stand in it. The last members are cells of the documentation. */
+struct PxElementRow
+{
+    const char *name;
+    PxOccurrence occurrence;
+    PxTextKind text;
+    const char *meaning;
+    PxRows<PxAttributeRow> attributes;
+    PxRows<PxElementRow> children;
+    const char *contents = nullptr; ///< in the columns "Contents" and "Type"
+    const char *absent = nullptr;   ///< what counts when it is absent or empty
+};
+
+/** A keyword, and what it stands for. */
+struct PxKeywordTableRow
+{
+    const char *keyword;
+    int value; ///< 0 where keywords stand for no value
+    /**
+     * Null when the keyword shares the line of the table with the one before, as its synonym; empty
+     * when nothing is said.
+     */
+    const char *meaning;
+    const char *size = nullptr; ///< of a page of this type
+    const char *note = nullptr; ///< behind the keyword
+};
+
+/** A keyword table. */
+struct PxKeywordSetRow
+{
+    PxKeywordSet set;
+    const char *name; ///< of one of its members
+    PxRows<PxKeywordTableRow> keywords;
+    int defaultValue;        ///< what an unknown word or an empty entry stands for
+    const char *defaultText; ///< the same in words
+    /** Asks the library whether it knows a word. */
+    bool (*isKeyword)(const QString &word);
+    /** Asks the library what it reads a text as: a list where it reads lists. */
+    int (*decode)(const QString &text);
+};
