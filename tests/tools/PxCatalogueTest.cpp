@@ -188,8 +188,8 @@ void PxCatalogueTest::saysWhatIsWrong()
     check("show collage", 1, "no product \"collage\": did you mean DEKO_COLLAGE_40X30?" + list);
     check("show \x1b[31mXYZZY", 1, "no product \"\uFFFD[31mXYZZY\"" + list); // no escape sequence gets through
     check("compatible CUP1", 1, "no product \"CUP1\" any more: CUP2 replaces it" + list);
-    check("", 2, "a command is missing: use list, show, compatible, themes, variants" + help);
-    check("lst", 2, "unknown command \"lst\": use list, show, compatible, themes, variants" + help);
+    check("", 2, "a command is missing: use list, show, compatible, themes, check, variants" + help);
+    check("lst", 2, "unknown command \"lst\": use list, show, compatible, themes, check, variants" + help);
     check("show", 2, "show needs the name of a product" + help);
     check("show CUP2 PDT1", 2, "\"PDT1\" is one argument too many" + help);
     check("list --pages 26", 2, "Unknown option 'pages'." + help);

@@ -3,6 +3,7 @@
 #include "PxCatalogueDirectories.h"
 #include "PxCatalogueLog.h"
 #include "PxCatalogueProducts.h"
+#include "PxCheckCommand.h"
 #include "PxNearestNames.h"
 #include "PxProductReport.h"
 #include "PxProductTable.h"
@@ -13,12 +14,10 @@
 #include <PxProductProperties.h>
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QLocale>
 #include <QTranslator>
 
 #include <algorithm>
-#include <cstdio>
 
 namespace {
 
@@ -28,12 +27,17 @@ constexpr int cannotRun = 2;
 
 int write(const QByteArray &output)
 {
-    QFile file;
-    if (file.open(stdout, QIODevice::WriteOnly) && file.write(output) == output.size() &&
-        file.flush())
-        return done;
-    PxTerminal::printError(QStringLiteral("cannot write the output: ") + file.errorString());
-    return cannotRun;
+    return PxTerminal::write(output) ? done : cannotRun;
+}
+
+PxCatalogueLog::Shown shownLog(const PxCatalogueCommandLine &commandLine)
+{
+    if (commandLine.isVerbose())
+        return PxCatalogueLog::Shown::Everything;
+    // What the library complains about is what "check" finds, and tells better.
+    return commandLine.command() == PxCatalogueCommandLine::Command::Check
+               ? PxCatalogueLog::Shown::Nothing
+               : PxCatalogueLog::Shown::Warnings;
 }
 
 /** Before the library is asked anything: it translates its tables when it builds them. */
@@ -72,7 +76,11 @@ int PxCatalogue::run() const
     if (!m_commandLine.information().isEmpty())
         return write(m_commandLine.information().toUtf8());
 
-    PxCatalogueLog::install(m_commandLine.isVerbose());
+    PxCatalogueLog::install(shownLog(m_commandLine));
+    if (m_commandLine.command() == PxCatalogueCommandLine::Command::Check) {
+        installTranslation(m_commandLine.language());
+        return PxCheckCommand(m_commandLine).run();
+    }
     const QString problem = PxCatalogueDirectories(m_commandLine).apply();
     if (!problem.isEmpty()) {
         PxTerminal::printError(problem);

@@ -11,7 +11,10 @@ class PxCatalogue
 public:
     explicit PxCatalogue(const QStringList &arguments);
 
-    /** 0 when done, 1 when the answer is "no", 2 for wrong usage or an unreadable directory. */
+    /**
+     * 0 when done, 1 when the answer is "no", 2 for wrong usage or an unreadable directory; for
+     * "check" see PxCheckCommand.
+     */
     int run() const;
 
 private:

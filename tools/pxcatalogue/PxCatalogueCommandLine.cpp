@@ -14,8 +14,9 @@ namespace {
 using Command = PxCatalogueCommandLine::Command;
 
 constexpr int themedCommands = int(Command::Show) | int(Command::Compatible);
-constexpr int everyCommand =
+constexpr int shownCommands =
     themedCommands | int(Command::List) | int(Command::Themes) | int(Command::Variants);
+constexpr int everyCommand = shownCommands | int(Command::Check);
 
 // clang-format off
 constexpr struct { Command command; const char *name; const char *product; const char *description; } commandRows[] = {
@@ -30,6 +31,13 @@ constexpr struct { Command command; const char *name; const char *product; const
     {Command::Themes, "themes", nullptr, "A table of the design themes, by id.\n"
         "Products are those that a theme allows. Normal: the theme takes the backgrounds of the theme\n"
         "normal. Movable: its content may be moved. Spine: what is printed there."},
+    {Command::Check, "check", "[PATH…]", "What authors should know about the files of a catalogue.\n"
+        "Each place where what a file says and what the library does part ways, with the line and the\n"
+        "column, what the library does now, and what was probably meant. PATH is a resource directory,\n"
+        "or single files, which are checked each by itself; default: the resource directories. The\n"
+        "comment <!-- check: allow TAG reason --> silences a tag for the element behind it.\n"
+        "Exit status: 0 nothing found that is as bad as --fail-on says; 1 something is; 2 wrong usage,\n"
+        "or what cannot be read or written; 3 a fault of the program."},
     {Command::Variants, "variants", "NAME", "The variants of one product, as its colours, with their names.\n"
         "Those without a name are not on offer and left out."},
 };
@@ -40,14 +48,25 @@ constexpr struct { int commands; const char *name; const char *value; const char
     {int(Command::Compatible), "criterion", "KEYWORDS", "What must agree, too: binding, paper, space and increment, with commas. Default: none."},
     {themedCommands, "theme", "ID", "As designed in this theme. Default: default templates of the theme normal, products whatever their themes."},
     {int(Command::Themes), "key-account", "N", "Only the themes that this key account may order today."},
-    {everyCommand, "json", nullptr, "JSON, with all lengths in tenths of a millimetre, instead of text."},
+    {shownCommands, "json", nullptr, "JSON, with all lengths in tenths of a millimetre, instead of text."},
+    {int(Command::Check), "format", "FORMAT", "text, json or sarif (2.1.0). Default: text."},
+    {int(Command::Check), "quiet", nullptr, "As text, the findings only: nothing at all when there is none."},
+    {int(Command::Check), "pedantic", nullptr, "Also matters of style."},
+    {int(Command::Check), "fail-on", "SEVERITY", "How bad a finding must be for exit status 1: error, warning, info or pedantic. Default: error."},
+    {int(Command::Check), "override", "TAG=SEVERITY", "Another severity for this tag; several with commas."},
+    {int(Command::Check), "only", "TAGS", "Only findings with these tags; several with commas."},
+    {int(Command::Check), "skip", "TAGS", "No findings with these tags; several with commas."},
+    {int(Command::Check), "baseline", "FILE", "No findings that are listed in this file."},
+    {int(Command::Check), "write-baseline", "FILE", "List all findings in this file instead of printing them."},
+    {int(Command::Check), "explain", "TAG", "What a tag means, with an example. Nothing is checked."},
+    {int(Command::Check), "list-tags", nullptr, "A table of all tags. Nothing is checked. --format markdown: with their explanations."},
     {everyCommand, "resources", "DIR[:DIR]", "The resource directories. Default: PX_RESOURCE_DIRS, else the catalogue installed with the library."},
     {everyCommand, "products", "DIR", "The directory of the product files. Default: products in the resource directories."},
     {everyCommand, "legacy", "DIR", "The directory of the legacy product files. Default: products/legacy in the same."},
     {everyCommand, "user-defaults", "DIR", "The user's default templates. Default: PX_USER_DEFAULTS_DIR, else defaults in the same."},
     {everyCommand, "themes", "DIR", "The directory of the theme files. Default: PX_THEMES_DIR, else themes in the same."},
     {everyCommand, "lang", "LANGUAGE", "The language of display names: en or de. Default: that of the locale, else German."},
-    {everyCommand, "verbose", nullptr, "Also the debug messages of the library. Why a product file could not be read is always told."},
+    {everyCommand, "verbose", nullptr, "Also the debug messages of the library. Why a product file could not be read is always told; check tells no messages without this."},
     {everyCommand, "help", nullptr, "This text."},
     {everyCommand, "version", nullptr, "The version of the program."},
 };
@@ -60,14 +79,14 @@ constexpr const char *introduction =
 constexpr const char *exitStatus =
     "\nExit status: 0 done; 1 the answer is \"no\": there is no such product or\n"
     "theme, no other product that is interchangeable, no theme to order, or no variant;\n"
-    "2 wrong usage, or a directory that cannot be read.";
+    "2 wrong usage, or a directory that cannot be read. \"check --help\" tells that of check.";
 
 QString programDescription()
 {
     QString description = QLatin1String(introduction);
     for (const auto &row : commandRows) {
         const QString usage =
-            QLatin1String(row.name) + QLatin1Char(' ') + QLatin1String(row.product);
+            QLatin1String(row.name) + QLatin1Char(' ') + QString::fromUtf8(row.product);
         description += QLatin1String("  ") + usage.leftJustified(17) +
                        QString::fromUtf8(row.description).section(QLatin1Char('\n'), 0, 0) +
                        QLatin1Char('\n');
@@ -155,9 +174,12 @@ void PxCatalogueCommandLine::readOptions(const QStringList &arguments)
         m_parser.addPositionalArgument(QLatin1String(row.name), QStringLiteral("The command."),
                                        QLatin1String(row.name));
         if (row.product) {
-            m_parser.addPositionalArgument(QLatin1String(row.product),
-                                           QStringLiteral("The name of a product, in any case."));
-            expected = 2;
+            const bool isCheck = m_command == Command::Check;
+            m_parser.addPositionalArgument(
+                QString::fromUtf8(row.product),
+                isCheck ? QStringLiteral("A resource directory, or files.")
+                        : QStringLiteral("The name of a product, in any case."));
+            expected = isCheck ? 1 : 2;
         }
     }
     const bool isUnderstood = m_parser.parse(arguments);
@@ -168,7 +190,7 @@ void PxCatalogueCommandLine::readOptions(const QStringList &arguments)
         m_information = m_parser.helpText();
     else if (given < expected)
         setError(namesOf(int(m_command)) + QLatin1String(" needs the name of a product"));
-    else if (given > expected)
+    else if (given > expected && m_command != Command::Check)
         setError(QStringLiteral("\"%1\" is one argument too many")
                      .arg(m_parser.positionalArguments().value(expected)));
     else {

@@ -10,7 +10,14 @@
 class PxCatalogueCommandLine
 {
 public:
-    enum class Command { List = 1, Show = 2, Compatible = 4, Themes = 8, Variants = 16 };
+    enum class Command {
+        List = 1,
+        Show = 2,
+        Compatible = 4,
+        Themes = 8,
+        Variants = 16,
+        Check = 32
+    };
 
     explicit PxCatalogueCommandLine(const QStringList &arguments);
 
@@ -21,8 +28,10 @@ public:
 
     Command command() const { return m_command; }
     QString productName() const { return m_parser.positionalArguments().value(1); }
-    bool isJson() const { return m_parser.isSet(QStringLiteral("json")); }
-    bool isVerbose() const { return m_parser.isSet(QStringLiteral("verbose")); }
+    /** What to check; empty for the catalogue of the resource directories. */
+    QStringList paths() const { return m_parser.positionalArguments().mid(1); }
+    bool isJson() const { return isSet("json"); }
+    bool isVerbose() const { return isSet("verbose"); }
     /** 0 when none is given. */
     int pageCount() const { return m_pageCount; }
     /** None when none is given, which means all. */
@@ -36,8 +45,11 @@ public:
     int keyAccount() const { return m_keyAccount; }
     /** "en" or "de"; empty for that of the locale. */
     QString language() const { return value("lang"); }
+    bool isSet(const char *option) const { return m_parser.isSet(QLatin1String(option)); }
     /** Of an option of the command; empty when it is not given. */
     QString value(const char *option) const { return m_parser.value(QLatin1String(option)); }
+    /** The same of an option that may be given several times. */
+    QStringList values(const char *option) const { return m_parser.values(QLatin1String(option)); }
 
 private:
     bool readCommand(const QStringList &arguments);

@@ -15,6 +15,9 @@ public:
     QString apply() const;
 
 private:
+    bool isCheck() const;
+    bool isCheckOfFiles() const;
+    QString readResources(QStringList *resources) const;
     QString useGivenOnes() const;
     QString findCatalogue() const;
 

@@ -5,9 +5,11 @@
 #include <QByteArray>
 #include <QString>
 
+#include <cstdlib>
+
 namespace {
 
-bool ourIsVerbose = false;
+auto ourShown = PxCatalogueLog::Shown::Warnings;
 
 /** The reader of product files says at debug level only why it refused a file. */
 bool isReasonOfRefusal(const QMessageLogContext &context)
@@ -17,18 +19,24 @@ bool isReasonOfRefusal(const QMessageLogContext &context)
 
 void print(QtMsgType level, const QMessageLogContext &context, const QString &text)
 {
+    if (level == QtFatalMsg) {
+        PxTerminal::printError(QLatin1String("internal fault: ") + text);
+        std::_Exit(3); // Qt would abort, which says less
+    }
+    if (ourShown == PxCatalogueLog::Shown::Nothing)
+        return;
     if (level != QtDebugMsg)
         PxTerminal::printError(QLatin1String("warning: ") + text);
     else if (isReasonOfRefusal(context))
         PxTerminal::printError(QLatin1String("warning: the reason: ") + text);
-    else if (ourIsVerbose)
+    else if (ourShown == PxCatalogueLog::Shown::Everything)
         PxTerminal::printError(QLatin1String("debug: ") + text);
 }
 
 } // namespace
 
-void PxCatalogueLog::install(bool isVerbose)
+void PxCatalogueLog::install(Shown shown)
 {
-    ourIsVerbose = isVerbose;
+    ourShown = shown;
     qInstallMessageHandler(print);
 }

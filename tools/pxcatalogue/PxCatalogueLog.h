@@ -4,10 +4,13 @@
 class PxCatalogueLog
 {
 public:
-    /**
-     * Debug messages are shown when `isVerbose`.
-     *
-     * One is shown always: why a product file could not be read, which its author has to know.
-     */
-    static void install(bool isVerbose);
+    enum class Shown {
+        Nothing,
+        /** Also one debug message: why a product file could not be read, which authors must know.
+         */
+        Warnings,
+        Everything,
+    };
+
+    static void install(Shown shown);
 };

@@ -1,34 +1,11 @@
 #include "PxNearestNames.h"
 
+#include "check/PxEditDistance.h"
+
 #include <QVector>
 
 #include <algorithm>
-#include <numeric>
 #include <tuple>
-
-namespace {
-
-enum class Compared { WithWhole, WithBestPart };
-
-/** How many characters must be added, removed or replaced to make one text of the other. */
-int editDistance(const QString &text, const QString &name, Compared compared)
-{
-    const bool isPart = compared == Compared::WithBestPart;
-    QVector<int> row(name.size() + 1, 0); // a part may begin anywhere at no cost
-    if (!isPart)
-        std::iota(row.begin(), row.end(), 0);
-    for (const QChar character : text) {
-        int diagonal = row[0]++;
-        for (int i = 0; i < name.size(); ++i) {
-            const int replaced = diagonal + (name[i] == character ? 0 : 1);
-            diagonal = row[i + 1];
-            row[i + 1] = std::min({replaced, diagonal + 1, row[i] + 1});
-        }
-    }
-    return isPart ? *std::min_element(row.cbegin(), row.cend()) : row.constLast();
-}
-
-} // namespace
 
 PxNearestNames::PxNearestNames(const QStringList &names) : m_names(names) {}
 
@@ -39,9 +16,9 @@ QStringList PxNearestNames::find(const QString &text) const
     QVector<std::tuple<int, int, QString>> candidates;
     for (const QString &name : m_names) {
         const QString upper = name.toUpper();
-        const int distance = editDistance(wanted, upper, Compared::WithBestPart);
+        const int distance = PxEditDistance::toPartOf(upper, wanted);
         if (!wanted.isEmpty() && distance <= tolerated)
-            candidates.append({distance, editDistance(wanted, upper, Compared::WithWhole), name});
+            candidates.append({distance, PxEditDistance::between(wanted, upper), name});
     }
     std::sort(candidates.begin(), candidates.end());
     QStringList nearest;

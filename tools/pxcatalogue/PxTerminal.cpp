@@ -1,9 +1,18 @@
 #include "PxTerminal.h"
 
+#include <QFile>
+#include <QJsonDocument>
+
 #include <cstdio>
 
 #include <sys/ioctl.h>
 #include <unistd.h>
+
+/** Neither a line break nor an escape sequence nor a change of direction may get through. */
+static bool isHarmless(QChar character)
+{
+    return character.isPrint() || character.isSurrogate();
+}
 
 int PxTerminal::columns()
 {
@@ -18,15 +27,32 @@ int PxTerminal::columns()
     return 100;
 }
 
+bool PxTerminal::hasColours()
+{
+    return isatty(STDOUT_FILENO) != 0 && qEnvironmentVariableIsEmpty("NO_COLOR") &&
+           qgetenv("TERM") != "dumb";
+}
+
 QString PxTerminal::printable(const QString &text)
 {
     QString printable = text;
     for (QChar &character : printable) {
-        // Neither a line break nor an escape sequence nor a change of direction may get through.
-        if (!character.isPrint() && !character.isSurrogate())
+        if (!isHarmless(character))
             character = QChar::ReplacementCharacter;
     }
     return printable;
+}
+
+QByteArray PxTerminal::printable(const QJsonObject &json)
+{
+    QString printable;
+    for (const QChar character : QString::fromUtf8(QJsonDocument(json).toJson())) {
+        if (isHarmless(character) || character == QLatin1Char('\n'))
+            printable += character;
+        else
+            printable += QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QLatin1Char('0'));
+    }
+    return printable.toUtf8();
 }
 
 QString PxTerminal::shortened(const QString &text, int width)
@@ -37,6 +63,16 @@ QString PxTerminal::shortened(const QString &text, int width)
     if (!start.isEmpty() && start.at(start.size() - 1).isHighSurrogate())
         start.chop(1);
     return start + QChar(0x2026);
+}
+
+bool PxTerminal::write(const QByteArray &output)
+{
+    QFile file;
+    if (file.open(stdout, QIODevice::WriteOnly) && file.write(output) == output.size() &&
+        file.flush())
+        return true;
+    printError(QStringLiteral("cannot write the output: ") + file.errorString());
+    return false;
 }
 
 void PxTerminal::printError(const QString &message)

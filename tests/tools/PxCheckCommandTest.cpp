@@ -1,0 +1,367 @@
+#include "PxProgramRun.h"
+#include "PxSampleCopy.h"
+
+#include <check/PxCheckTags.h>
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <sys/stat.h>
+
+/** The command line of "check", with findings that any file can have. */
+class PxCheckCommandTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void tellsTheSameInEveryFormat();
+    void declaresAllRulesInSarif();
+    void answersTheWorstFinding_data();
+    void answersTheWorstFinding();
+    void silencesWhatIsAllowed();
+    void hidesWhatIsKnown();
+    void checksSingleFiles();
+    void checksWhatItIsToldTo();
+    void saysWhatIsWrong_data();
+    void saysWhatIsWrong();
+    void keepsQuiet();
+    void explains();
+    void optionsAreDocumented();
+
+private:
+    PxProgramRun check(const QString &options) const;
+    void addFindings() const;
+
+    QScopedPointer<PxSampleCopy> m_sample;
+};
+
+namespace {
+
+const QString cup = "products/cup2.xml";
+const QString size = "<usablesize width=\"2000\" height=\"950\"/>";
+const QString comment = "<!-- check: allow xml-limit-exceeded for a reason -->";
+
+/** "PATH:LINE:COLUMN SEVERITY TAG" of each finding in the text. */
+QStringList findingsOf(const PxProgramRun &text)
+{
+    static const QRegularExpression ourFinding("^(\\S+:\\d+:\\d+): (\\w+): .* \\[(\\S+)\\]$");
+    QStringList findings;
+    for (const QString &line : text.output()) {
+        const QRegularExpressionMatch finding = ourFinding.match(line);
+        if (finding.hasMatch())
+            findings.append(finding.capturedTexts().mid(1).join(' '));
+    }
+    return findings;
+}
+
+QStringList findingsOf(const QJsonObject &json)
+{
+    QStringList findings;
+    for (const QJsonValue &finding : json["findings"].toArray())
+        findings.append(QString("%1:%2:%3 %4 %5")
+                            .arg(finding["path"].toString())
+                            .arg(finding["line"].toInt())
+                            .arg(finding["column"].toInt())
+                            .arg(finding["severity"].toString(), finding["tag"].toString()));
+    return findings;
+}
+
+QStringList findingsOfSarif(const QJsonObject &sarif)
+{
+    QStringList findings;
+    for (const QJsonValue &result : sarif["runs"][0]["results"].toArray()) {
+        const QJsonValue location = result["locations"][0]["physicalLocation"];
+        findings.append(
+            QString("./%1:%2:%3 %4 %5")
+                .arg(location["artifactLocation"]["uri"].toString())
+                .arg(location["region"]["startLine"].toInt())
+                .arg(location["region"]["startColumn"].toInt())
+                .arg(result["properties"]["severity"].toString(), result["ruleId"].toString()));
+    }
+    return findings;
+}
+
+} // namespace
+
+/** Where the program runs, "." is a copy of the sample. */
+void PxCheckCommandTest::init()
+{
+    QDir::setCurrent("/");
+    m_sample.reset(new PxSampleCopy);
+    QDir::setCurrent(m_sample->path());
+}
+
+PxProgramRun PxCheckCommandTest::check(const QString &options) const
+{
+    return PxProgramRun(PX_CATALOGUE_PROGRAM,
+                        QStringList("check") + options.split(' ', Qt::SkipEmptyParts),
+                        {{"PX_RESOURCE_DIRS", QString()}, {"PX_THEMES_DIR", QString()}});
+}
+
+/** An error, a warning and an info. */
+void PxCheckCommandTest::addFindings() const
+{
+    m_sample->write("products/pendant.xml",
+                    QStringLiteral("\uFEFF<!-- ü -->\r\n<p>\r\n\t<a n='\U0001F600ü>'\tm=\"1\"\r\n"
+                                   "   ö='\U0001F600' ö=''/></p>"));
+    m_sample->replace(cup, size, comment + size);
+    m_sample->write("products/cup3.xml.b\u009B", QString());
+}
+
+void PxCheckCommandTest::tellsTheSameInEveryFormat()
+{
+    addFindings();
+    const PxProgramRun text = check(".");
+    const QStringList expected{"./products/cup2.xml:30:5 warning allowance-unused",
+                               "./products/cup3.xml.b\uFFFD:1:1 info file-not-read",
+                               "./products/pendant.xml:4:10 error xml-attribute-twice"};
+    QCOMPARE(findingsOf(text), expected);
+    QVERIFY(text.output().contains("    now: the file is not read at all"));
+    QVERIFY(text.output().contains("    hint: keep the one that is meant"));
+    QVERIFY(text.output().constLast().endsWith(" files read: 1 error, 1 warning, 1 info"));
+    QCOMPARE(text.errors(), QStringList());
+
+    const PxProgramRun json = check("--format json .");
+    QCOMPARE(findingsOf(json.json()).replaceInStrings("\u009B", "\uFFFD"), expected);
+    QVERIFY(!json.text().contains(QChar(0x9B)));
+    QCOMPARE(json.json()["counts"]["warning"].toInt(), 1);
+    QCOMPARE(json.json()["files"].toInt(), text.output().constLast().section(' ', 0, 0).toInt());
+    const QJsonValue twice = json.json()["findings"][2];
+    QCOMPARE(twice["endColumn"].toInt(), 11);
+    QCOMPARE(twice["hint"].toString(), QString("keep the one that is meant"));
+
+    const PxProgramRun sarif = check("--format sarif .");
+    QCOMPARE(findingsOfSarif(sarif.json()).replaceInStrings("%C2%9B", "\uFFFD"), expected);
+    QCOMPARE(QVector<int>({text.status(), json.status(), sarif.status()}), QVector<int>(3, 1));
+}
+
+void PxCheckCommandTest::declaresAllRulesInSarif()
+{
+    addFindings();
+    const auto run = [&](const QString &path) {
+        return check("--format sarif " + path).json()["runs"][0];
+    };
+    const QJsonValue here = run(".");
+    QCOMPARE(here["tool"]["driver"]["rules"].toArray().size(), PxCheckTags::all().size());
+    const QJsonValue info = here["results"][1];
+    QCOMPARE(here["tool"]["driver"]["rules"][info["ruleIndex"].toInt()]["id"], info["ruleId"]);
+    QCOMPARE(info["level"].toString(), QString("note"));
+
+    // From elsewhere the same findings have other places, but are the same findings.
+    const QString path = m_sample->path();
+    QDir::setCurrent(QDir::rootPath() + "proc");
+    const QJsonValue there = run(path);
+    QCOMPARE(there["results"].toArray().size(), 3);
+    QCOMPARE(there["results"][0]["partialFingerprints"], here["results"][0]["partialFingerprints"]);
+    const QJsonValue file =
+        there["results"][0]["locations"][0]["physicalLocation"]["artifactLocation"];
+    QCOMPARE(file["uri"].toString(), cup);
+    QVERIFY(there["originalUriBaseIds"].toObject().contains(file["uriBaseId"].toString()));
+}
+
+void PxCheckCommandTest::answersTheWorstFinding_data()
+{
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<int>("count");
+    const QString skip = "--skip xml-attribute-twice ";
+    QTest::newRow("an error") << "" << 1 << 3;
+    QTest::newRow("a warning") << skip << 0 << 2;
+    QTest::newRow("a warning that counts") << skip + "--fail-on warning" << 1 << 2;
+    QTest::newRow("an info") << skip + "--skip allowance-unused --fail-on warning" << 0 << 1;
+    QTest::newRow("raised") << skip + "--override file-not-read=error" << 1 << 2;
+    QTest::newRow("lowered") << "--override xml-attribute-twice=info" << 0 << 3;
+    QTest::newRow("lowered to style")
+        << "--override xml-attribute-twice=pedantic,allowance-unused=pedantic" << 0 << 1;
+    QTest::newRow("style") << "--pedantic --override xml-attribute-twice=pedantic" << 0 << 3;
+    QTest::newRow("style that counts")
+        << "--pedantic --fail-on pedantic --override file-not-read=pedantic --only file-not-read"
+        << 1 << 1;
+}
+
+void PxCheckCommandTest::answersTheWorstFinding()
+{
+    QFETCH(QString, options);
+    QFETCH(int, status);
+    QFETCH(int, count);
+    addFindings();
+    const PxProgramRun run = check(options + " --format json .");
+    QCOMPARE(run.status(), status);
+    QCOMPARE(findingsOf(run.json()).size(), count);
+}
+
+void PxCheckCommandTest::silencesWhatIsAllowed()
+{
+    const auto findings = [&](const QString &allowed, const QString &options = QString()) {
+        m_sample->restore(cup);
+        m_sample->replace(cup, "<productdescription>",
+                          "<!-- check: allow " + allowed + " --><productdescription>");
+        return findingsOf(check(options + " --pedantic .")).size();
+    };
+    m_sample->replace("products/addressbook_a6.xml", "<productdescription>",
+                      comment + "<productdescription>");
+    QCOMPARE(findings("allowance-unused"), 2); // not in another file, and not itself
+    QCOMPARE(findings("xml-limit-exceeded", "--skip xml-limit-exceeded"), 0);
+    QCOMPARE(findings(""), 2);
+    findings("xml-limit-exceded because");
+    QVERIFY(check(".").output().contains("    hint: did you mean \"xml-limit-exceeded\"?"));
+}
+
+void PxCheckCommandTest::hidesWhatIsKnown()
+{
+    addFindings();
+    const QString themes = "themes/grundthemen.xml";
+    m_sample->write("themes/twice.xml",
+                    m_sample->read(themes)); // found with the place of the other
+    const PxProgramRun first = check("--write-baseline known.json .");
+    QCOMPARE(first.status(), 0);
+    QCOMPARE(first.output().size(), 1);
+    QVERIFY(first.text().contains(" files read: nothing found, "));
+    const QString written = m_sample->read("known.json");
+    check("--write-baseline known.json " + m_sample->path());
+    QCOMPARE(m_sample->read("known.json"), written);
+
+    m_sample->replace(themes, "<themes>", "\n\n<themes>"); // the line does not matter
+    QCOMPARE(findingsOf(check("--baseline known.json .")), QStringList());
+    QVERIFY(check("--baseline known.json --format json .").json()["known"].toInt() > 3);
+    m_sample->replace(cup, "<pages>", comment + "<pages>"); // one more of them
+    QCOMPARE(findingsOf(check("--baseline known.json .")).size(), 1);
+
+    for (const char *broken :
+         {"", "[]", "{\"format\": 2, \"findings\": []}", "{\"format\": 1}",
+          "{\"format\": 1, \"findings\": [{\"path\": \"\", \"tag\": \"\", \"message\": \"\"}]}"}) {
+        m_sample->write("known.json", broken);
+        QCOMPARE(check("--baseline known.json .").status(), 2);
+    }
+}
+
+void PxCheckCommandTest::checksSingleFiles()
+{
+    addFindings();
+    const PxProgramRun run = check("products/pendant.xml ./products/pendant.xml " + cup);
+    QCOMPARE(findingsOf(run), (QStringList{"products/cup2.xml:30:5 warning allowance-unused",
+                                           "products/pendant.xml:4:10 error xml-attribute-twice"}));
+    QCOMPARE(run.output().constLast(), QString("2 files read: 1 error, 1 warning"));
+    QVERIFY(run.text().contains("not checked without the whole catalogue: "));
+    const QJsonObject json = check("--format json --skip file-not-read " + cup).json();
+    QVERIFY(!json["notChecked"].toArray().contains("file-not-read"));
+
+    // Each is of another kind, and clean as such.
+    const PxProgramRun clean = check("--pedantic producttypes.xml frames.xml "
+                                     "themes/JAHRESZEITEN.XML defaults/CARD_FOLDED_A6.xml "
+                                     "products/legacy/cup1.xml products/book_mini.xml");
+    QCOMPARE(findingsOf(clean), QStringList());
+    QCOMPARE(clean.output().constLast(), QString("6 files read: nothing found"));
+
+    // An allowance for what is not checked may well be of use.
+    m_sample->replace("products/book_mini.xml", "<productdescription>",
+                      "<!-- check: allow file-not-read --><productdescription>");
+    QCOMPARE(findingsOf(check("products/book_mini.xml")), QStringList());
+}
+
+void PxCheckCommandTest::checksWhatItIsToldTo()
+{
+    addFindings();
+    QVERIFY(mkfifo(QFile::encodeName(m_sample->filePath("products/pipe.xml")), 0600) == 0);
+    QVERIFY(QFile::rename(m_sample->filePath("themes"), m_sample->filePath("designs")));
+    m_sample->write("designs/lost.xml~", QString());
+    m_sample->write("designs/preview.png", QString());
+    const PxProgramRun run =
+        check("--resources " + m_sample->path() + "/ --themes ./designs --only file-not-read");
+    QCOMPARE(findingsOf(run),
+             (QStringList{"./designs/lost.xml~:1:1 info file-not-read",
+                          m_sample->path() + "/products/cup3.xml.b\uFFFD:1:1 info file-not-read",
+                          m_sample->path() + "/products/pipe.xml:1:1 info file-not-read"}));
+    QCOMPARE(check("products/pipe.xml").status(), 2);
+}
+
+void PxCheckCommandTest::saysWhatIsWrong_data()
+{
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<QString>("error");
+    QTest::newRow("tag") << "--only xml-limit-exceded ."
+                         << "did you mean \"xml-limit-exceeded\"?";
+    QTest::newRow("list") << "--skip file-not-read,,x ."
+                          << "--skip does not know the tag \"\"";
+    QTest::newRow("severity") << "--override file-not-read=fatal ."
+                              << "use error, warning, info";
+    QTest::newRow("override") << "--override file-not-read ."
+                              << "needs TAG=SEVERITY";
+    QTest::newRow("format") << "--format xml ."
+                            << "text or json or sarif, not \"xml\"";
+    QTest::newRow("format of tags") << "--list-tags --format json"
+                                    << "text or markdown";
+    QTest::newRow("explain") << "--explain nothing"
+                             << "--list-tags shows all";
+    QTest::newRow("baselines") << "--baseline a --write-baseline b ."
+                               << "do not go together";
+    QTest::newRow("mixed") << "products/cup2.xml ."
+                           << "one resource directory, or files";
+    QTest::newRow("two resources") << "--resources . ."
+                                   << "both name the resource directory";
+    QTest::newRow("missing") << "products/nothing.xml"
+                             << "does not exist";
+    QTest::newRow("no catalogue") << "products"
+                                  << "producttypes.xml";
+    QTest::newRow("no catalogue above") << "/etc/passwd"
+                                        << "with --resources";
+    QTest::newRow("no baseline") << "--baseline nothing.json ."
+                                 << "cannot be read";
+    QTest::newRow("baseline nowhere") << "--write-baseline no/where ."
+                                      << "cannot be written";
+}
+
+void PxCheckCommandTest::saysWhatIsWrong()
+{
+    QFETCH(QString, options);
+    QFETCH(QString, error);
+    QDir().mkpath(m_sample->filePath("products/products"));
+    const PxProgramRun run = check(options);
+    QCOMPARE(run.status(), 2);
+    QCOMPARE(run.output(), QStringList());
+    QCOMPARE(run.errors().size(), 1);
+    QVERIFY2(run.errors().constFirst().contains(error), qPrintable(run.errors().constFirst()));
+}
+
+void PxCheckCommandTest::keepsQuiet()
+{
+    QCOMPARE(check("--quiet .").output(), QStringList());
+    addFindings();
+    const PxProgramRun run = check("--quiet --only xml-attribute-twice .");
+    QCOMPARE(run.output().size(), 3);
+    QCOMPARE(run.errors(), QStringList());
+}
+
+void PxCheckCommandTest::explains()
+{
+    const QStringList lines = check("--explain xml-attribute-twice").output();
+    QVERIFY(lines.constFirst().startsWith("xml-attribute-twice (error): "));
+    const int example =
+        lines.indexOf("    <usablesize width=\"2000\" width=\"2500\" height=\"950\"/>");
+    QVERIFY(example > 0);
+    QCOMPARE(lines.value(example + 1), QString(29, ' ') + '^');
+    QCOMPARE(check("--list-tags").output().size(), PxCheckTags::all().size());
+}
+
+void PxCheckCommandTest::optionsAreDocumented()
+{
+    QFile file(PX_SOURCE_DIRECTORY "/docs/pxcatalogue.md");
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString documentation = QString::fromUtf8(file.readAll());
+    static const QRegularExpression ourOption("--[a-z-]+");
+    QRegularExpressionMatchIterator options = ourOption.globalMatch(check("--help").text());
+    QVERIFY(options.hasNext());
+    while (options.hasNext()) {
+        const QString option = options.next().captured();
+        QVERIFY2(documentation.contains(QRegularExpression(option + "\\b(?!-)")),
+                 qPrintable(option));
+    }
+}
+
+QTEST_GUILESS_MAIN(PxCheckCommandTest)
+#include "PxCheckCommandTest.moc"

@@ -1,0 +1,94 @@
+#include "PxProgramRun.h"
+#include "PxSampleCopy.h"
+
+#include <check/PxCheckTags.h>
+
+#include <QFile>
+#include <QTest>
+
+/** Each kind of finding by its example, which is a change to one file of the sample catalogue. */
+class PxCheckTagsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void sampleIsClean();
+    void exampleIsFound_data();
+    void exampleIsFound();
+    void documentationIsWhatTheProgramSays();
+
+private:
+    QStringList findings(const QString &path) const;
+
+    PxSampleCopy m_sample;
+};
+
+/** Place and tag of each finding, without the directory. */
+QStringList PxCheckTagsTest::findings(const QString &path) const
+{
+    const PxProgramRun run(PX_CATALOGUE_PROGRAM, {"check", "--pedantic", path},
+                           {{"PX_RESOURCE_DIRS", QString()}, {"PX_THEMES_DIR", QString()}});
+    const QString directory = m_sample.path() + '/';
+    QStringList found;
+    for (QString line : run.output()) {
+        if (line.startsWith(directory) && line.endsWith(']'))
+            found.append(line.remove(0, directory.size()).section(": ", 0, 0) + ' ' +
+                         line.section(" [", -1).chopped(1));
+    }
+    return found;
+}
+
+void PxCheckTagsTest::sampleIsClean()
+{
+    QCOMPARE(findings(m_sample.path()), QStringList());
+}
+
+void PxCheckTagsTest::exampleIsFound_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const QString &name : PxCheckTags::names())
+        QTest::newRow(qPrintable(name)) << name;
+}
+
+void PxCheckTagsTest::exampleIsFound()
+{
+    QFETCH(QString, name);
+    const PxCheckTag &tag = *PxCheckTags::find(name);
+    if (qstrlen(tag.bad) == 0)
+        return; // no text can show it
+    const QString good = QString::fromUtf8(tag.good);
+    const QString mark = "»";
+    QString bad = QString::fromUtf8(tag.bad);
+    if (!good.isEmpty())
+        bad = m_sample.read(tag.file).replace(good, bad);
+    const QString before = bad.section(mark, 0, 0);
+    QCOMPARE(bad.count(mark), 1);
+    bad.remove(mark);
+    if (good.isEmpty())
+        m_sample.write(tag.file, bad);
+    else
+        m_sample.replace(tag.file, good, QString::fromUtf8(tag.bad).remove(mark));
+
+    const QString place = QString("%1:%2:%3 ")
+                              .arg(tag.file)
+                              .arg(before.count('\n') + 1)
+                              .arg(before.size() - before.lastIndexOf('\n'));
+    const QStringList found = findings(m_sample.path());
+    const QStringList foundAlone = findings(m_sample.filePath(tag.file));
+    m_sample.restore(tag.file);
+    QCOMPARE(found, QStringList(place + name));
+    QCOMPARE(foundAlone.contains(place + name), !tag.needsCatalogue);
+}
+
+void PxCheckTagsTest::documentationIsWhatTheProgramSays()
+{
+    const PxProgramRun run(PX_CATALOGUE_PROGRAM, {"check", "--list-tags", "--format", "markdown"});
+    QFile file(PX_SOURCE_DIRECTORY "/docs/checks.md");
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString documented = QString::fromUtf8(file.readAll());
+    QVERIFY2(documented.split('\n', Qt::SkipEmptyParts) == run.output(),
+             "write it again: pxcatalogue check --list-tags --format markdown > docs/checks.md");
+}
+
+QTEST_GUILESS_MAIN(PxCheckTagsTest)
+#include "PxCheckTagsTest.moc"

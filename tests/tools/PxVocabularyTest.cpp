@@ -1,0 +1,425 @@
+#include "PxCatalogueDirectory.h"
+#include "PxLogRecorder.h"
+
+#include <EnumHelper.h>
+#include <PxOrientation.h>
+#include <PxProductTypeCatalogue.h>
+#include <PxProductTypeEntry.h>
+#include <description/PxProductTypeDescription.h>
+#include <description/PxProductTypeDescriptionReader.h>
+#include <themes/PxThemeFactory.h>
+#include <vocabulary/PxVocabulary.h>
+
+#include <QDir>
+#include <QDomDocument>
+#include <QFile>
+#include <QImage>
+#include <QTest>
+
+/** Holds the vocabulary against what the library really reads. */
+class PxVocabularyTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void attributeIsReadAndHasItsDefault_data();
+    void attributeIsReadAndHasItsDefault();
+    void elementCountsAsOften_data();
+    void elementCountsAsOften();
+    void fixtureHoldsNothingElse();
+    void keywordsAreThoseOfTheLibrary();
+    void productClassesAreThoseOfTheLibrary();
+
+private:
+    QDomDocument document(PxFileKind kind) const;
+    QString answers(PxFileKind kind, const QDomDocument &document) const;
+
+    PxCatalogueDirectory m_directory;
+    QMap<PxFileKind, QByteArray> m_files;
+};
+
+namespace {
+
+/** The path of the row and of all that is in it. */
+void addPaths(PxFileKind kind, const PxElementRow &row, const QString &path,
+              QVector<QPair<PxFileKind, QString>> *paths)
+{
+    paths->append({kind, path});
+    for (const PxElementRow &child : row.children)
+        addPaths(kind, child, path + '/' + child.name, paths);
+}
+
+/** The elements of all kinds of files whose reading can be repeated, by path. */
+QVector<QPair<PxFileKind, QString>> allPaths()
+{
+    QVector<QPair<PxFileKind, QString>> paths;
+    for (PxFileKind kind : {PxFileKind::Product, PxFileKind::UserDefaults, PxFileKind::Theme,
+                            PxFileKind::ProductTypes})
+        addPaths(kind, PxVocabulary::root(kind), QString(), &paths);
+    return paths;
+}
+
+QDomElement elementAt(const QDomDocument &document, const QString &path)
+{
+    QDomElement element = document.documentElement();
+    for (const QString &name : path.split('/', Qt::SkipEmptyParts))
+        element = element.firstChildElement(name);
+    return element;
+}
+
+/**
+ * Attributes that hide others, or that show in no answer with the value that they have in the
+ * fixture: their value while others are tested, null for none, and while they are.
+ */
+constexpr struct
+{
+    const char *path;
+    const char *attribute;
+    const char *base;
+    const char *probe;
+} adaptations[] = {
+    {"/product", "binding", "CALENDAR_SIMPLEX", nullptr},
+    {"/product", "bleedmarginhorizontal", nullptr, nullptr},
+    {"/product", "bleedmarginvertical", nullptr, nullptr},
+    {"/product", "bleedmargincoverhorizontal", nullptr, nullptr},
+    {"/product", "bleedmargincoververtical", nullptr, nullptr},
+    {"/product", "collegeBlockStyleAlignment", nullptr, nullptr},
+    {"/product/usablesize", "orientation", nullptr, nullptr},
+    {"/product/usablesize", "space", nullptr, nullptr},
+    {"/product/surroundings/surrounding", "pageNr", nullptr, nullptr},
+    {"/product/defaults/defaults", "theme", nullptr, "design"},
+    {"/product/defaults/defaults", "templates", "short,form", "form,short"},
+    {"/product/defaults/defaults", "layout", nullptr, nullptr},
+    {"/product/defaults/defaults", "background", nullptr, nullptr},
+    {"/defaults/defaults", "layout", nullptr, nullptr},
+    {"/defaults/defaults", "background", nullptr, nullptr},
+};
+
+constexpr PxPageTypeEnum pageTypes[] = {PxPageTypeNone, PxPageTypeSpine, PxPageTypeNormalPage,
+                                        PxPageTypeFullCover};
+constexpr PxPageAlignment alignments[] = {PxPageAlignmentLeft, PxPageAlignmentRight,
+                                          PxPageAlignmentTop, PxPageAlignmentCenter};
+
+void tellTemplates(QDebug &out, const PxProductTypeDescription &d, const PxPageContext &page)
+{
+    for (const char *theme : {"normal", "design"}) {
+        for (auto type : {DefaultTemplateTypeLayout, DefaultTemplateTypeBackground})
+            out << d.findDefaultTemplate({theme, page, type}, false, true);
+    }
+}
+
+void tellPages(QDebug &out, const PxProductTypeDescription &d)
+{
+    for (PxPageTypeEnum type : pageTypes) {
+        for (PxPageAlignment alignment : alignments) {
+            const PxPageContext page(type, alignment);
+            out << d.sizeSpec({page, 24});
+            tellTemplates(out, d, page);
+            for (int number : {-1, 58}) {
+                const PxSurroundingDescription found =
+                    d.findSurrounding(PxSurroundingKey(page, number));
+                out << found << found.paintOnTop() << found.hasBindingShade();
+            }
+        }
+    }
+    for (int page = 0; page < 90; ++page) {
+        out << d.pageAlignment(page) << d.contentAllowedOnPage(page) << d.contentDropRedirect(page)
+            << d.rotationRedirectForSourcePage(page) << d.rotationRedirectForTargetPage(page)
+            << d.barcodeOnPage(page, 100);
+    }
+}
+
+QString answersOf(const PxProductTypeDescription &d)
+{
+    QString text;
+    QDebug out(&text);
+    const PxProductClassification c = d.classification();
+    out << d.isValid() << c << c.areaSize() << c.sizeName(true) << c.sizeName(false)
+        << d.legacyProduct() << d.orientation() << d.binding() << d.paperType()
+        << d.spaceMagnitude() << d.assemblyWay() << d.imageFX() << d.hasAssistant() << d.hasHook()
+        << d.hasHole() << d.numberOfSpiralLoops() << d.variantDescription() << d.variants()
+        << d.explicitNumberOfProducts() << d.explicitNumberOfNormalPages()
+        << d.fullBackgroundOnEachPage() << d.minPages() << d.maxPages() << d.pageIncrement()
+        << d.defaultSellingPages() << d.hasPages() << d.hasCover() << d.pageTypes(3)
+        << d.pageNamingStyle() << d.horizontalPages() << d.hasCardStyleAlignment()
+        << d.editorStartDoublePage() << d.productionNumberingList(9) << d.coverSize()
+        << d.bleedMarginNormal() << d.bleedMarginCover() << d.safetyMargins() << d.foldMargin()
+        << d.normalPageHorizontalClamp() << d.hasSpine() << d.mustPaintVemoLogoOnSpine()
+        << d.extraProductionContents() << d.pageNumberHorizontalIndent()
+        << d.pageNumberVerticalIndent() << d.pageNumberFontSize();
+    QStringList categories = d.allowedBackgroundCategories().toDataStringList();
+    categories.sort();
+    out << categories;
+    for (PxJigTypeEnum type : {PxJigTypeBackground, PxJigTypeClipart, PxJigTypeContent,
+                               PxJigTypeLayout, PxJigTypePassepartout})
+        out << d.supportsJigType(type);
+    for (int pages : {0, 24, 26, 28, 40})
+        out << d.spineWidth(pages) << d.spineMaxFontHeight(pages);
+    tellPages(out, d);
+    return text;
+}
+
+QString answersOf(const PxThemeList &themes)
+{
+    QString text;
+    QDebug out(&text);
+    for (const PxTheme &theme : themes) {
+        out << theme.id() << theme.productGroup().value() << theme.description()
+            << theme.expiryDate() << theme.thumbnail().size() << theme.keyAccounts()
+            << theme.allowedProductTypes().values() << theme.mustPaintVemoLogo(4)
+            << theme.vemoLogo(4).first.size() << theme.vemoLogo(4).second << theme.useSpineText()
+            << theme.useSpineLogo() << theme.canMoveContent() << theme.canUseNormalBackgrounds();
+        for (PxJigTypeEnum type : {PxJigTypeBackground, PxJigTypeClipart, PxJigTypeContent,
+                                   PxJigTypeLayout, PxJigTypePassepartout, PxJigTypeFrame})
+            out << theme.defaultCategory(type).name();
+    }
+    return text;
+}
+
+QString answersOf(const PxProductTypeCatalogue &catalogue)
+{
+    const PxProductTypeEntry *entry = catalogue.find(9);
+    return entry ? QString("%1 %2 %3")
+                       .arg(entry->name, entry->shortName)
+                       .arg(int(entry->productClass))
+                 : QString();
+}
+
+/** Keywords that the library knows and the set does not. */
+template <typename WRAPPER>
+QStringList missingKeywords(PxKeywordSet set, const WRAPPER &wrapper)
+{
+    QStringList missing;
+    const auto *table = wrapper.enumToStringTable();
+    for (int bit = 0; bit < 31; ++bit) {
+        const auto value = static_cast<decltype(wrapper.value())>(1 << bit);
+        const QString keyword = table->encode(value);
+        const bool isKeyword = table->decode(keyword, decltype(value)(0)) == value;
+        if (isKeyword && !PxVocabulary::keywordNames(set).contains(keyword))
+            missing.append(keyword);
+    }
+    return missing;
+}
+
+template <typename MAP>
+QStringList missingKeywordsOf(PxKeywordSet set, const MAP &map)
+{
+    QStringList missing = map.keys();
+    for (const QString &name : PxVocabulary::keywordNames(set))
+        missing.removeOne(name.toUpper());
+    return missing;
+}
+
+} // namespace
+
+void PxVocabularyTest::initTestCase()
+{
+    m_directory.writeProductTypes("1 book PROBEBOOK\n2 book OLDBOOK\n4 gift CUP");
+    m_directory.write("logo.png", "");
+    QImage(5, 6, QImage::Format_RGB32).save(m_directory.filePath("logo.png"));
+    QDir::setCurrent(m_directory.filePath(QString())); // where previews are looked for
+
+    QFile product(PX_TEST_DATA_DIRECTORY "/distinct-values.xml");
+    QVERIFY(product.open(QIODevice::ReadOnly));
+    m_files[PxFileKind::Product] = product.readAll();
+    m_files[PxFileKind::UserDefaults] = R"(<userdefaults><defaults>
+        <defaults theme="design" pageType="normalpage" alignment="left" templates="my,own"
+                  layout="mine" background="own"/></defaults></userdefaults>)";
+    m_files[PxFileKind::Theme] = R"(<themes>
+        <theme id="reise" producttype="book" expiry="205001022304" thumbnail="logo.png">
+        <description>Reise</description>
+        <keyaccounts><keyaccount>12</keyaccount></keyaccounts>
+        <products><product>CUP</product></products>
+        <logos><logo booktype="CUP" filename="logo.png" x="1" y="2" width="3" height="4"/></logos>
+        <spinetext use="true"/><spinelogo use="false"/>
+        <content movable="true" normalBackgrounds="false"/>
+        <defaultcategories background="B" clipart="C" fading="F" content="I" frame="R" layout="L"/>
+        </theme></themes>)";
+    m_files[PxFileKind::ProductTypes] = R"(<producttypes>
+        <producttype code="9" name="CAN" class="gift" shortname="Dose"/></producttypes>)";
+}
+
+QDomDocument PxVocabularyTest::document(PxFileKind kind) const
+{
+    QDomDocument document;
+    document.setContent(m_files[kind]);
+    return document;
+}
+
+QString PxVocabularyTest::answers(PxFileKind kind, const QDomDocument &document) const
+{
+    const PxLogRecorder log;
+    const QByteArray text = document.toByteArray();
+    const auto describe = [this] {
+        const QScopedPointer<PxProductTypeDescription> description(
+            PxProductTypeDescriptionReader(QDir())
+                .readFile(QFileInfo(m_directory.filePath("products/a.xml")))
+                .second);
+        return answersOf(*description);
+    };
+    if (kind == PxFileKind::Product) {
+        m_directory.write("products/a.xml", text);
+        return describe();
+    }
+    if (kind == PxFileKind::UserDefaults) {
+        m_directory.write("products/a.xml", "<a><product name='PROBEBOOK'/></a>");
+        m_directory.write("user/PROBEBOOK.xml", text);
+        const QString found = describe();
+        QFile::remove(m_directory.filePath("user/PROBEBOOK.xml"));
+        return found;
+    }
+    if (kind == PxFileKind::Theme) {
+        m_directory.write("themes/a.xml", text);
+        QDir directory(m_directory.filePath("themes"));
+        return answersOf(PxThemeFactory().loadThemeList(directory));
+    }
+    m_directory.write("types.xml", text);
+    return answersOf(PxProductTypeCatalogue(QFileInfo(m_directory.filePath("types.xml"))));
+}
+
+void PxVocabularyTest::attributeIsReadAndHasItsDefault_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("attribute");
+    for (const auto &[kind, path] : allPaths()) {
+        for (const PxAttributeRow &row : PxVocabulary::find(kind, path)->attributes)
+            QTest::newRow(qPrintable(path + '@' + row.name)) << int(kind) << path << row.name;
+    }
+}
+
+void PxVocabularyTest::attributeIsReadAndHasItsDefault()
+{
+    QFETCH(int, kind);
+    QFETCH(QString, path);
+    QFETCH(QString, attribute);
+    const auto fileKind = static_cast<PxFileKind>(kind);
+    const PxAttributeRow &row =
+        *PxVocabulary::attribute(*PxVocabulary::find(fileKind, path), attribute);
+    const QDomDocument file = document(fileKind);
+    QDomElement element = elementAt(file, path);
+    QString probe = element.attribute(attribute);
+    for (const auto &adaptation : adaptations) {
+        QDomElement adapted = elementAt(file, adaptation.path);
+        if (path == adaptation.path && attribute == adaptation.attribute && adaptation.probe)
+            probe = adaptation.probe;
+        if (adaptation.base)
+            adapted.setAttribute(adaptation.attribute, adaptation.base);
+        else
+            adapted.removeAttribute(adaptation.attribute);
+    }
+    if (row.type == PxValueType::Boolean && row.defaultText)
+        probe = row.defaultText == QByteArray("true") ? "false" : "true";
+
+    element.removeAttribute(attribute);
+    const QString without = answers(fileKind, file);
+    element.setAttribute(attribute, probe);
+    QVERIFY(answers(fileKind, file) != without);
+    if (row.defaultText) {
+        element.setAttribute(attribute, QString::fromUtf8(row.defaultText));
+        QCOMPARE(answers(fileKind, file), without);
+    }
+}
+
+void PxVocabularyTest::elementCountsAsOften_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("path");
+    for (const auto &[kind, path] : allPaths())
+        QTest::newRow(qPrintable(QString::number(int(kind)) + path)) << int(kind) << path;
+}
+
+void PxVocabularyTest::elementCountsAsOften()
+{
+    QFETCH(int, kind);
+    QFETCH(QString, path);
+    const auto fileKind = static_cast<PxFileKind>(kind);
+    const PxElementRow &row = *PxVocabulary::find(fileKind, path);
+    const QDomDocument file = document(fileKind);
+    QDomElement element = elementAt(file, path);
+    const QString full = answers(fileKind, file);
+
+    element.setTagName("any");
+    QCOMPARE(answers(fileKind, file) == full, row.occurrence == PxOccurrence::AnyName);
+    element.setTagName(row.name);
+    if (row.text == PxTextKind::None && row.occurrence != PxOccurrence::AnyName &&
+        fileKind != PxFileKind::Theme) {
+        const QDomNode text = element.appendChild(QDomDocument(file).createTextNode("7"));
+        QCOMPARE(answers(fileKind, file), full);
+        element.removeChild(text);
+    }
+    if (path.isEmpty())
+        return; // there is only one document element
+    // An empty one before it: where only the first one counts, nothing is left.
+    QDomNode parent = element.parentNode();
+    parent.insertBefore(QDomDocument(file).createElement(row.name), element);
+    const QString withBoth = answers(fileKind, file);
+    parent.removeChild(element);
+    const QString empty = answers(fileKind, file);
+    QVERIFY(empty != full);
+    QCOMPARE(withBoth == empty, row.occurrence == PxOccurrence::First);
+}
+
+/** The fixture of the library's tests has all that the library reads. */
+void PxVocabularyTest::fixtureHoldsNothingElse()
+{
+    QVector<QPair<QDomElement, const PxElementRow *>> open = {
+        {document(PxFileKind::Product).documentElement(),
+         &PxVocabulary::root(PxFileKind::Product)}};
+    while (!open.isEmpty()) {
+        const auto [element, row] = open.takeLast();
+        QVERIFY(row);
+        const QDomNamedNodeMap attributes = element.attributes();
+        for (int i = 0; i < attributes.size(); ++i)
+            QVERIFY(PxVocabulary::attribute(*row, attributes.item(i).nodeName()));
+        for (QDomElement e = element.firstChildElement(); !e.isNull(); e = e.nextSiblingElement())
+            open.append({e, PxVocabulary::child(*row, e.tagName())});
+    }
+}
+
+void PxVocabularyTest::keywordsAreThoseOfTheLibrary()
+{
+    using Set = PxKeywordSet;
+    for (int i = int(Set::Binding); i <= int(Set::Orientation); ++i) {
+        const PxKeywordSetRow &set = PxVocabulary::keywords(Set(i));
+        for (const PxKeywordTableRow &row : set.keywords) {
+            QVERIFY2(PxVocabulary::isKeyword(set.set, row.keyword), row.keyword);
+            QCOMPARE(PxVocabulary::decode(set.set, row.keyword), row.value);
+        }
+        QVERIFY(!PxVocabulary::isKeyword(set.set, "none of them"));
+        QCOMPARE(PxVocabulary::decode(set.set, "none of them"), set.defaultValue);
+    }
+    for (const PxKeywordTableRow &row : PxVocabulary::keywords(Set::Material).keywords)
+        QCOMPARE(PxProductMaterial(row.keyword).visibleDescription(), QString(row.meaning));
+
+    using namespace EnumHelper;
+    QCOMPARE(missingKeywords(Set::Binding, PxBinding()) +
+                 missingKeywords(Set::Paper, PxPaperType()) +
+                 missingKeywords(Set::SizeClass, PxSpaceMagnitude()) +
+                 missingKeywords(Set::PageType, PxPageType()) +
+                 missingKeywords(Set::Orientation, PxOrientation()) +
+                 missingKeywordsOf(Set::PageNamingStyle, globalMapPageNamingStyleString) +
+                 missingKeywordsOf(Set::AssemblyWay, globalMapAssemblyWayString) +
+                 missingKeywordsOf(Set::ImageEffect, globalMapImageFXsString) +
+                 missingKeywordsOf(Set::SurroundingType, globalMapSurroundingTypeString) +
+                 missingKeywordsOf(Set::Alignment, globalMapPageAlignmentString) +
+                 missingKeywordsOf(Set::ProductGroup, globalMapProductGroupEnumString),
+             QStringList());
+}
+
+void PxVocabularyTest::productClassesAreThoseOfTheLibrary()
+{
+    for (const PxKeywordTableRow &row :
+         PxVocabulary::keywords(PxKeywordSet::ProductClass).keywords) {
+        m_directory.write("types.xml",
+                          QByteArray("<producttypes><producttype code='9' name='A' class='") +
+                              row.keyword + "'/></producttypes>");
+        const PxProductTypeCatalogue types(QFileInfo(m_directory.filePath("types.xml")));
+        QVERIFY2(types.find(9), row.keyword);
+        QCOMPARE(int(types.find(9)->productClass), row.value);
+    }
+}
+
+QTEST_GUILESS_MAIN(PxVocabularyTest)
+#include "PxVocabularyTest.moc"

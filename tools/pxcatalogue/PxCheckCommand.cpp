@@ -1,0 +1,112 @@
+#include "PxCheckCommand.h"
+
+#include "PxCatalogueCommandLine.h"
+#include "PxCatalogueDirectories.h"
+#include "PxCheckExplanation.h"
+#include "PxCheckFiles.h"
+#include "PxFindingsBaseline.h"
+#include "PxFindingsJson.h"
+#include "PxFindingsSarif.h"
+#include "PxFindingsText.h"
+#include "PxTerminal.h"
+#include "check/PxCheck.h"
+
+#include <exception>
+
+namespace {
+
+constexpr int nothingFound = 0;
+constexpr int somethingFound = 1;
+constexpr int cannotRun = 2;
+constexpr int faultOfOurs = 3;
+
+int cannotRunBecause(const QString &problem)
+{
+    PxTerminal::printError(problem);
+    return cannotRun;
+}
+
+} // namespace
+
+PxCheckCommand::PxCheckCommand(const PxCatalogueCommandLine &commandLine)
+    : m_commandLine(commandLine)
+    , m_options(commandLine)
+{}
+
+int PxCheckCommand::run()
+{
+    try {
+        if (!m_options.error().isEmpty())
+            return cannotRunBecause(m_options.error());
+        if (m_options.mustListTags() || m_options.explainedTag())
+            return explain();
+        return runChecks();
+    } catch (const std::exception &fault) {
+        PxTerminal::printError(QStringLiteral("internal fault: ") +
+                               QString::fromUtf8(fault.what()));
+        return faultOfOurs;
+    }
+}
+
+int PxCheckCommand::explain() const
+{
+    QString text = PxCheckExplanation::table();
+    if (m_options.explainedTag())
+        text = PxCheckExplanation::of(*m_options.explainedTag());
+    else if (m_options.format() == PxCheckOptions::Format::Markdown)
+        text = PxCheckExplanation::markdown();
+    return PxTerminal::write(text.toUtf8()) ? nothingFound : cannotRun;
+}
+
+int PxCheckCommand::runChecks()
+{
+    PxFindingsBaseline known;
+    QString problem = m_options.baseline().isEmpty() ? QString() : known.read(m_options.baseline());
+    if (problem.isEmpty())
+        problem = check();
+    if (problem.isEmpty() && !m_options.newBaseline().isEmpty()) {
+        known = PxFindingsBaseline(m_report);
+        problem = known.write(m_options.newBaseline());
+    }
+    if (!problem.isEmpty())
+        return cannotRunBecause(problem);
+    known.hide(&m_report);
+    return print();
+}
+
+QString PxCheckCommand::check()
+{
+    QString problem = PxCatalogueDirectories(m_commandLine).apply();
+    PxCheckFiles files(m_commandLine);
+    if (problem.isEmpty())
+        problem = files.find();
+    if (!problem.isEmpty())
+        return problem;
+    PxFindings findings;
+    m_options.applyTo(&findings);
+    PxCheck check(files.paths());
+    check.run(&findings);
+    m_report.findings = findings.sorted();
+    m_report.tagsNotChecked = findings.tagsNotChecked();
+    m_report.fileCount = check.fileCount();
+    m_report.catalogueNames = files.catalogueNames();
+    return QString();
+}
+
+int PxCheckCommand::print() const
+{
+    QByteArray output;
+    if (m_options.format() == PxCheckOptions::Format::Json) {
+        output = PxTerminal::printable(PxFindingsJson(m_report).json());
+    } else if (m_options.format() == PxCheckOptions::Format::Sarif) {
+        output = PxTerminal::printable(PxFindingsSarif(m_report).json());
+    } else {
+        const PxFindingsText text(m_report, PxTerminal::hasColours());
+        output = text.findings().toUtf8();
+        if (!m_options.isQuiet())
+            output += text.summary().toUtf8();
+    }
+    if (!PxTerminal::write(output))
+        return cannotRun;
+    return m_report.hasAtLeast(m_options.failOn()) ? somethingFound : nothingFound;
+}

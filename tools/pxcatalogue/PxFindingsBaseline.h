@@ -1,0 +1,28 @@
+#pragma once
+
+#include "check/PxCheckReport.h"
+#include "check/PxFindingIdentity.h"
+
+#include <QJsonArray>
+#include <QMap>
+
+/** The findings of an old catalogue that are known: a file that lists them hides them. */
+class PxFindingsBaseline
+{
+public:
+    PxFindingsBaseline() = default;
+    /** Of all findings of the report. */
+    explicit PxFindingsBaseline(const PxCheckReport &report);
+
+    /** Both answer what is wrong, in one line; empty for nothing. */
+    QString read(const QString &path);
+    QString write(const QString &path) const;
+
+    /** Takes the known findings out of the report, each as often as it is known. */
+    void hide(PxCheckReport *report) const;
+
+private:
+    QString readFindings(const QJsonArray &findings);
+
+    QMap<PxFindingIdentity, int> m_counts;
+};

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "check/PxFinding.h"
+
+#include <QHash>
+#include <QStringList>
+#include <QVector>
+
+/** What a check has found, as it is told in any format. */
+struct PxCheckReport
+{
+    QVector<PxFinding> findings; ///< sorted
+    QStringList tagsNotChecked;  ///< which only a check of the whole catalogue can find
+    int fileCount = 0;
+    int knownCount = 0; ///< findings that are left out because they are known
+    /** What the files are called in the catalogue, by their path: the same wherever it lies. */
+    QHash<QString, QString> catalogueNames;
+
+    int count(PxSeverity severity) const
+    {
+        int found = 0;
+        for (const PxFinding &finding : findings)
+            found += finding.severity == severity ? 1 : 0;
+        return found;
+    }
+    bool hasAtLeast(PxSeverity severity) const
+    {
+        for (const PxFinding &finding : findings) {
+            if (finding.severity >= severity)
+                return true;
+        }
+        return false;
+    }
+};

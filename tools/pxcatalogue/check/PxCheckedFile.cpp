@@ -1,0 +1,178 @@
+#include "check/PxCheckedFile.h"
+
+#include <PxXMLLoader.h>
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QTextCodec>
+
+#include <limits>
+
+namespace {
+
+/**
+ * By byte order mark or declaration, UTF-8 without these, as the library finds it; null for an
+ * unknown encoding.
+ */
+QTextCodec *codecOf(const QByteArray &bytes)
+{
+    if (QTextCodec *marked = QTextCodec::codecForUtfText(bytes, nullptr))
+        return marked;
+    if (bytes.startsWith('\0'))
+        return QTextCodec::codecForName("UTF-16BE");
+    if (bytes.size() > 1 && bytes.at(1) == '\0')
+        return QTextCodec::codecForName("UTF-16LE");
+    static const QRegularExpression ourEncoding(
+        QStringLiteral("^<\\?xml[^>]*\\sencoding\\s*=\\s*[\"']([^\"']*)[\"']"));
+    const QRegularExpressionMatch declared =
+        ourEncoding.match(QString::fromLatin1(bytes.left(1024)));
+    return QTextCodec::codecForName(declared.hasMatch() ? declared.captured(1).toLatin1()
+                                                        : QByteArrayLiteral("UTF-8"));
+}
+
+/** Whether the library objects to the encoding: only it knows which faults it lets pass. */
+bool isOfEncoding(const QString &error)
+{
+    return error.startsWith(QLatin1String("the declared encoding ")) ||
+           error.startsWith(QLatin1String("the text is "));
+}
+
+/** The text up to a place and some more, so that a fault at that place can be seen. */
+QString textUpTo(const QString &text, int line, int column)
+{
+    constexpr int more = 1024;
+    int lineBegin = 0;
+    for (; line > 1 && lineBegin >= 0; --line)
+        lineBegin = text.indexOf(QLatin1Char('\n'), lineBegin) + 1;
+    return text.left(int(qMin<qint64>(qint64(lineBegin) + column + more, text.size())));
+}
+
+} // namespace
+
+PxCheckedFile::PxCheckedFile(const QString &path) : m_path(path)
+{
+    QString error;
+    m_document = PxXMLLoader::loadDocument(QFileInfo(path), &error);
+    static const QRegularExpression ourPlace(QStringLiteral("^:(\\d+):(\\d+): (.*)$"));
+    const QRegularExpressionMatch place = ourPlace.match(error.mid(path.size()));
+    m_error = place.captured(3);
+    m_errorPlace.path = path;
+    m_errorPlace.line = m_errorPlace.endLine = qMax(1, place.captured(1).toInt());
+    m_errorPlace.column = m_errorPlace.endColumn = qMax(1, place.captured(2).toInt());
+    m_hasErrorPlace = place.captured(1).toInt() > 0;
+    readSource();
+    if (isRead() && !m_source->connectTo(m_document.documentElement()))
+        m_error = QStringLiteral("the file changes while it is read");
+}
+
+void PxCheckedFile::readSource()
+{
+    QString text;
+    QFile file(m_path);
+    // Where the library gives up without a place, there is no text, or too much of it.
+    if ((isRead() || m_hasErrorPlace) && file.open(QIODevice::ReadOnly)) {
+        const QByteArray bytes = file.read(PxXMLLoader::maximumFileSize);
+        if (const QTextCodec *codec = codecOf(bytes))
+            text = codec->toUnicode(bytes);
+        if (text.startsWith(QChar::ByteOrderMark))
+            text.remove(0, 1);
+        // Behind a limit, reading on could take very long.
+        const int size = text.size();
+        if (!isRead())
+            text = textUpTo(text, m_errorPlace.line, m_errorPlace.column);
+        m_isWhole = text.size() == size;
+    }
+    m_source = std::make_unique<PxSourceDocument>(text);
+}
+
+PxPlace PxCheckedFile::place(const PxSourceRange &range) const
+{
+    PxPlace place = m_source->place(range);
+    place.path = m_path;
+    return place;
+}
+
+void PxCheckedFile::add(PxFindings *findings, const char *tag, const PxSourceRange &range,
+                        const QString &message, const QString &now, const QString &hint) const
+{
+    findings->add(tag, place(range), message, now, hint);
+}
+
+void PxCheckedFile::checkReading(PxFindings *findings) const
+{
+    if (isRead())
+        return;
+    const QString now = QStringLiteral("the file is not read at all");
+    if (isOfEncoding(m_error)) {
+        findings->add("xml-encoding-damaged", m_errorPlace, m_error, now,
+                      QStringLiteral("save the file as UTF-8, or declare its encoding"));
+    } else if (m_hasErrorPlace) {
+        addFault(findings, now);
+    } else {
+        const bool isTooLarge = QFileInfo(m_path).size() > PxXMLLoader::maximumFileSize;
+        findings->add(isTooLarge ? "xml-limit-exceeded" : "file-unreadable", m_errorPlace, m_error,
+                      now);
+    }
+}
+
+void PxCheckedFile::addFault(PxFindings *findings, const QString &now) const
+{
+    using Fault = PxSourceDocument::Fault;
+    const PxSourceRange range = m_source->faultRange();
+    const QString name = m_source->text().mid(range.begin, range.end - range.begin);
+    const Fault fault = m_source->fault();
+    if (fault == Fault::None || (fault == Fault::EndMissing && !m_isWhole)) {
+        findings->add("xml-limit-exceeded", m_errorPlace, m_error, now);
+    } else if (fault == Fault::AttributeTwice) {
+        add(findings, "xml-attribute-twice", range,
+            QStringLiteral("attribute \"%1\" is given twice").arg(name), now,
+            QStringLiteral("keep the one that is meant"));
+    } else if (fault == Fault::EntityUndeclared) {
+        add(findings, "xml-entity-undeclared", range,
+            QStringLiteral("the entity \"%1\" is not defined").arg(name), now,
+            QStringLiteral("write the character itself"));
+    } else {
+        const bool isOfEnd = fault == Fault::EndMissing || fault == Fault::EndTagWrong;
+        const PxSourceElement *unclosed = isOfEnd ? m_source->unclosed() : nullptr;
+        add(findings, "xml-not-well-formed", range, m_source->faultMessage(), now,
+            unclosed ? QStringLiteral("\"%1\" of line %2 is not closed")
+                           .arg(unclosed->name)
+                           .arg(m_source->place(unclosed->nameRange).line)
+                     : QString());
+    }
+}
+
+/** Each node with the first of the elements behind it; both stand in their order. */
+void PxCheckedFile::findAllowances(const QVector<PxSourceNode> &nodes,
+                                   const QVector<const PxSourceElement *> &elements,
+                                   PxFindings *findings) const
+{
+    static const QRegularExpression ourAllowance(
+        QStringLiteral("^\\s*check:\\s*allow(?:\\s+(\\S+)|\\s*$)"));
+    auto element = elements.begin();
+    for (const PxSourceNode &node : nodes) {
+        const QRegularExpressionMatch allowance =
+            node.isText ? QRegularExpressionMatch() : ourAllowance.match(node.text);
+        if (!allowance.hasMatch())
+            continue;
+        while (element != elements.end() && (*element)->range.begin < node.range.end)
+            ++element;
+        PxPlace part = place(element == elements.end() ? node.range : (*element)->range);
+        if (element != elements.end() && *element == m_source->root()) {
+            part.line = part.column = 1; // with what stands around the document element
+            part.endLine = std::numeric_limits<int>::max();
+        }
+        findings->allow(allowance.captured(1), place(node.range), part);
+    }
+}
+
+void PxCheckedFile::findAllowances(PxFindings *findings) const
+{
+    // What cannot be read is not checked, so that every allowance in it would seem to be unused.
+    if (!root())
+        return;
+    findAllowances(m_source->prolog(), {m_source->root()}, findings);
+    m_source->forEachElement([&](const PxSourceElement &element) {
+        findAllowances(element.nodes, element.children, findings);
+    });
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "check/PxFindings.h"
+#include "check/PxSourceDocument.h"
+
+#include <memory>
+
+/** A file under check: what the library reads of it, and where each thing stands. */
+class PxCheckedFile
+{
+public:
+    /** Reads the file. `path` is how it is shown, and leads to it. */
+    explicit PxCheckedFile(const QString &path);
+
+    QString path() const { return m_path; }
+    /** Null when the library cannot read the file, or there is no document element. */
+    const PxSourceElement *root() const { return isRead() ? m_source->root() : nullptr; }
+    /** Whether the library can read it. */
+    bool isRead() const { return m_error.isEmpty(); }
+    const PxSourceDocument &source() const { return *m_source; }
+    /** The document as the library reads it. */
+    QDomDocument document() const { return m_document; }
+
+    PxPlace place(const PxSourceRange &range) const;
+    void add(PxFindings *findings, const char *tag, const PxSourceRange &range,
+             const QString &message, const QString &now = QString(),
+             const QString &hint = QString()) const;
+
+    /** Why the library cannot read the file, and what a stricter reader objects to. */
+    void checkReading(PxFindings *findings) const;
+    /** What comments in the file silence. */
+    void findAllowances(PxFindings *findings) const;
+
+private:
+    void readSource();
+    void addFault(PxFindings *findings, const QString &now) const;
+    void findAllowances(const QVector<PxSourceNode> &nodes,
+                        const QVector<const PxSourceElement *> &elements,
+                        PxFindings *findings) const;
+
+    QString m_path;
+    QString m_error; ///< of the library: message, without the place
+    PxPlace m_errorPlace;
+    bool m_hasErrorPlace = false; ///< the fault stands somewhere in the text
+    QDomDocument m_document;
+    bool m_isWhole = false; ///< the source is the whole text
+    std::unique_ptr<PxSourceDocument> m_source;
+};

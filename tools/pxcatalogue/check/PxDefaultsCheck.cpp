@@ -1,0 +1,156 @@
+#include "check/PxDefaultsCheck.h"
+
+#include "check/PxDefaultsOverrides.h"
+#include "check/PxPlainReading.h"
+#include "check/PxSourceParts.h"
+#include "check/PxSpelling.h"
+
+#include <geometry/PxDefaultTemplateMap.h>
+
+#include <algorithm>
+
+namespace {
+
+// Of one list: more would tell the author nothing new.
+constexpr int maximumReported = 100;
+
+QString named(const QString &name)
+{
+    return name.isEmpty() ? QStringLiteral("none") : QLatin1Char('"') + name + QLatin1Char('"');
+}
+
+QString templatesText(const PxDefaultsEntry &entry)
+{
+    return QStringLiteral("background %1, layout %2")
+        .arg(named(entry.background()), named(entry.layout()));
+}
+
+} // namespace
+
+PxDefaultsCheck::PxDefaultsCheck(const PxCheckedFile &file, const PxSourceElement &parent,
+                                 const QSet<QString> &themeIds)
+    : m_file(file)
+    , m_parent(parent)
+    , m_themeIds(themeIds)
+    , m_themeNames(themeIds.begin(), themeIds.end())
+{
+    m_themeNames.sort();
+}
+
+void PxDefaultsCheck::run(PxFindings *findings) const
+{
+    const auto containers = m_parent.childrenNamed(QStringLiteral("defaults"));
+    if (containers.isEmpty())
+        return;
+    checkNesting(containers, findings);
+    PxDefaultsOverrides overrides(m_file);
+    for (const auto *child : containers.constFirst()->childrenNamed(QStringLiteral("defaults"))) {
+        const PxDefaultsEntry entry(*child);
+        checkThemes(entry, findings);
+        checkPageTypes(entry, findings);
+        checkTemplates(entry, findings);
+        overrides.add(entry, findings);
+    }
+}
+
+/** One finding for all: whoever knows the container puts every entry into it. */
+void PxDefaultsCheck::checkNesting(const QVector<const PxSourceElement *> &containers,
+                                   PxFindings *findings) const
+{
+    const PxSourceElement &first = *containers.constFirst();
+    const int entries = first.childrenNamed(QStringLiteral("defaults")).size();
+    const bool isFlat = entries == 0 && PxDefaultsEntry::isEntry(first);
+    if (!isFlat && containers.size() == 1)
+        return;
+    const PxSourceElement &misplaced = isFlat ? first : *containers[1];
+    m_file.add(
+        findings, "defaults-not-nested", misplaced.nameRange,
+        PxDefaultsEntry::isEntry(misplaced)
+            ? QStringLiteral("an entry directly in \"%1\"").arg(m_parent.name)
+            : QStringLiteral("a second container of \"defaults\""),
+        QStringLiteral("only what is in the first \"defaults\" is read: %1 entries").arg(entries),
+        QStringLiteral("put all entries into one \"defaults\""));
+}
+
+void PxDefaultsCheck::checkThemes(const PxDefaultsEntry &entry, PxFindings *findings) const
+{
+    constexpr const char *tag = "defaults-theme-unknown";
+    const QString now = QStringLiteral("no theme finds these templates");
+    if (entry.themes().isEmpty()) {
+        m_file.add(findings, tag, entry.element().rangeOf(QStringLiteral("theme")),
+                   QStringLiteral("\"theme\" names no theme"), now,
+                   QStringLiteral("without the attribute they are for \"normal\""));
+        return;
+    }
+    if (m_themeIds.isEmpty())
+        return;
+    int reported = 0;
+    for (const PxSourcePart &part :
+         PxSourceParts::ofAttribute(m_file, entry.element(), QStringLiteral("theme"))) {
+        const QString id = part.text.trimmed();
+        // Other themes fall back to this one, whether it is there or not.
+        if (id.isEmpty() || id == QLatin1String("normal") || m_themeIds.contains(id))
+            continue;
+        m_file.add(findings, tag, part.range, QStringLiteral("there is no theme \"%1\"").arg(id),
+                   now, PxSpelling::hint(id, m_themeNames));
+        if (++reported == maximumReported)
+            return;
+    }
+}
+
+void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry, PxFindings *findings) const
+{
+    const QString attribute = QStringLiteral("pageType");
+    const QString now = QStringLiteral("no page finds these templates");
+    if (!entry.element().attribute(attribute)) {
+        if (entry.isPlain())
+            m_file.add(findings, "defaults-page-type-missing", entry.element().nameRange,
+                       QStringLiteral("\"pageType\" is missing"), now,
+                       QStringLiteral("name the types of pages, as pageType=\"normalpage\""));
+        return;
+    }
+    int reported = 0;
+    for (const PxSourcePart &part :
+         PxSourceParts::ofAttribute(m_file, entry.element(), attribute)) {
+        const PxPageType pageType(part.text);
+        const bool isUnion = splitEnumType(pageType.value()).size() > 1;
+        const bool isRange = pageType.isValid() && !pageType.matches(PxPageTypeAll);
+        if (!isUnion && !isRange)
+            continue;
+        m_file.add(findings, "defaults-page-type-union", part.range,
+                   isUnion ? QStringLiteral("\"%1\" is more than one type").arg(part.text.trimmed())
+                           : QStringLiteral("\"%1\" stands for pages of another type")
+                                 .arg(part.text.trimmed()),
+                   now,
+                   isUnion ? QStringLiteral("name each type, as \"fullcover,spine\"")
+                           : QStringLiteral("did you mean \"normalpage\"?"));
+        if (++reported == maximumReported)
+            return;
+    }
+}
+
+/** Only where a name is lost: giving one twice does no harm. */
+void PxDefaultsCheck::checkTemplates(const PxDefaultsEntry &entry, PxFindings *findings) const
+{
+    QVector<PxSourcePart> names =
+        PxSourceParts::ofAttribute(m_file, entry.element(), QStringLiteral("templates"));
+    names.erase(std::remove_if(names.begin(), names.end(),
+                               [](const PxSourcePart &name) { return name.text.isEmpty(); }),
+                names.end());
+    const auto lost = std::find_if(names.begin(), names.end(), [&](const PxSourcePart &name) {
+        const QString own = PxDefaultTemplateMap::removeUmlauts(name.text.trimmed());
+        return own != entry.background() && own != entry.layout();
+    });
+    if (lost == names.end())
+        return;
+    const bool isBackground = lost == names.begin();
+    const QString message =
+        names.size() > 2
+            ? QStringLiteral("\"templates\" takes a background and a layout, not %1 names")
+                  .arg(names.size())
+            : QStringLiteral("the %1 is given in \"templates\" and as an attribute")
+                  .arg(isBackground ? QLatin1String("background") : QLatin1String("layout"));
+    m_file.add(findings, "defaults-templates-count",
+               names.size() > 2 ? names[2].range : lost->range, message, templatesText(entry),
+               names.size() > 2 ? QString() : QStringLiteral("keep the one that is meant"));
+}

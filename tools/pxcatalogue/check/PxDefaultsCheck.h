@@ -1,0 +1,29 @@
+#pragma once
+
+#include "check/PxCheckedFile.h"
+#include "check/PxDefaultsEntry.h"
+
+#include <QSet>
+
+/** Checks the default templates of a product file or of a user-defaults file. */
+class PxDefaultsCheck
+{
+public:
+    /** `parent` holds the container. The ids of all themes; none when they are not known. */
+    PxDefaultsCheck(const PxCheckedFile &file, const PxSourceElement &parent,
+                    const QSet<QString> &themeIds);
+
+    void run(PxFindings *findings) const;
+
+private:
+    void checkNesting(const QVector<const PxSourceElement *> &containers,
+                      PxFindings *findings) const;
+    void checkThemes(const PxDefaultsEntry &entry, PxFindings *findings) const;
+    void checkPageTypes(const PxDefaultsEntry &entry, PxFindings *findings) const;
+    void checkTemplates(const PxDefaultsEntry &entry, PxFindings *findings) const;
+
+    const PxCheckedFile &m_file;
+    const PxSourceElement &m_parent;
+    QSet<QString> m_themeIds;
+    QStringList m_themeNames; // what may be written, sorted
+};

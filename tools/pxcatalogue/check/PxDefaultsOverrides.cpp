@@ -1,0 +1,78 @@
+#include "check/PxDefaultsOverrides.h"
+
+#include <PxPageAlignment.h>
+
+namespace {
+
+// Lists of a hostile file cross into millions of pages; real ones into hundreds.
+constexpr int maximumPages = 100000;
+
+} // namespace
+
+void PxDefaultsOverrides::add(const PxDefaultsEntry &entry, PxFindings *findings)
+{
+    if (!entry.isPlain())
+        return;
+    const QVector<Page> pages = pagesOf(entry);
+    m_asked += pages.size();
+    if (m_asked > maximumPages)
+        return;
+    QMap<int, QVector<Page>> taken;
+    for (const Page &page : pages) {
+        const auto owner = m_entryOfPage.constFind(page);
+        if (owner != m_entryOfPage.constEnd())
+            taken[*owner].append(page);
+        m_entryOfPage[page] = m_entries.size();
+    }
+    m_entries.append(entry);
+    m_pageCounts.append(pages.size());
+    for (auto it = taken.constBegin(); it != taken.constEnd(); ++it) {
+        const PxDefaultsEntry &replaced = m_entries[it.key()];
+        const bool isWhole = it->size() == m_pageCounts[it.key()];
+        const bool isLoss = (entry.layout().isEmpty() && !replaced.layout().isEmpty()) ||
+                            (entry.background().isEmpty() && !replaced.background().isEmpty());
+        if (isWhole || isLoss) {
+            report(entry, replaced, isWhole, it->constFirst(), findings);
+            return;
+        }
+    }
+}
+
+QVector<PxDefaultsOverrides::Page> PxDefaultsOverrides::pagesOf(const PxDefaultsEntry &entry) const
+{
+    QVector<Page> pages;
+    for (const QString &theme : entry.themes()) {
+        for (const PxPageTypeEnum pageType : entry.pageTypes()) {
+            for (const int alignment : splitEnumType(entry.alignments()))
+                pages.append({theme, pageType, alignment});
+        }
+        if (pages.size() > maximumPages)
+            break;
+    }
+    return pages;
+}
+
+void PxDefaultsOverrides::report(const PxDefaultsEntry &entry, const PxDefaultsEntry &replaced,
+                                 bool isWhole, const Page &page, PxFindings *findings) const
+{
+    const QString line =
+        QStringLiteral("line %1").arg(m_file.place(replaced.element().nameRange).line);
+    const auto [theme, pageType, alignment] = page;
+    const QString side =
+        EnumHelper::encodeKeyword(static_cast<PxPageAlignment>(alignment),
+                                  EnumHelper::globalMapPageAlignmentString, QString())
+            .toLower();
+    const bool isLayout = entry.layout().isEmpty() && !replaced.layout().isEmpty();
+    const QString lost = isLayout
+                             ? QStringLiteral("the layout \"%1\"").arg(replaced.layout())
+                             : QStringLiteral("the background \"%1\"").arg(replaced.background());
+    m_file.add(
+        findings, "defaults-overridden", entry.element().nameRange,
+        QStringLiteral("replaces %1 for %2/%3/%4")
+            .arg(line, theme, PxPageType(static_cast<PxPageTypeEnum>(pageType)).encodeCSV(), side),
+        isWhole ? QStringLiteral("%1 is never used").arg(line)
+                : QStringLiteral("%1 of %2 is lost there").arg(lost, line),
+        isWhole
+            ? QStringLiteral("keep the one that is meant")
+            : QStringLiteral("an entry names layout and background, also what does not change"));
+}

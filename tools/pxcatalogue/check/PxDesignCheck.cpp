@@ -1,0 +1,24 @@
+#include "check/PxDesignCheck.h"
+
+#include "check/PxBackgroundCategoryCheck.h"
+#include "check/PxClassificationCheck.h"
+#include "check/PxDefaultsCheck.h"
+#include "check/PxUserDefaultsCheck.h"
+#include "check/PxVariantCheck.h"
+
+void PxDesignCheck::checkProduct(const PxCheckedProduct &product, PxFindings *findings) const
+{
+    m_productNames.insert(product.element().value(QStringLiteral("name")));
+    PxDefaultsCheck(product.file(), product.element(), m_themeIds).run(findings);
+    PxVariantCheck(product).run(findings);
+    PxBackgroundCategoryCheck(product).run(findings);
+    PxClassificationCheck(product).run(findings);
+}
+
+void PxDesignCheck::checkUserDefaults(const PxCheckedFile &file, PxFindings *findings) const
+{
+    const PxUserDefaultsCheck check(file, m_productNames);
+    check.checkName(findings);
+    if (check.checkStart(findings))
+        PxDefaultsCheck(file, *file.root(), m_themeIds).run(findings);
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "check/PxCheckedProduct.h"
+
+#include <QSet>
+
+/**
+ * Checks what a product is designed with: default templates, variants, categories of backgrounds,
+ * material.
+ */
+class PxDesignCheck
+{
+public:
+    /** The ids of all themes; empty when they are not known. */
+    explicit PxDesignCheck(const QSet<QString> &themeIds) : m_themeIds(themeIds) {}
+
+    void checkProduct(const PxCheckedProduct &product, PxFindings *findings) const;
+    /** A file of the user-defaults directory, when the products have been checked. */
+    void checkUserDefaults(const PxCheckedFile &file, PxFindings *findings) const;
+
+private:
+    QSet<QString> m_themeIds;
+    mutable QSet<QString> m_productNames; // of the products checked so far
+};

@@ -1,0 +1,93 @@
+#include "check/PxFindings.h"
+
+#include "check/PxCheckTags.h"
+#include "check/PxSpelling.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <string>
+#include <tuple>
+
+namespace {
+
+bool isBefore(const PxFinding &a, const PxFinding &b)
+{
+    const auto key = [](const PxFinding &f) {
+        return std::make_tuple(f.place.path, f.place.line, f.place.column,
+                               QLatin1String(f.tag->name), f.message, f.now, f.hint);
+    };
+    return key(a) < key(b);
+}
+
+} // namespace
+
+void PxFindings::add(const char *tag, const PxPlace &place, const QString &message,
+                     const QString &now, const QString &hint)
+{
+    PxFinding finding;
+    finding.tag = PxCheckTags::find(QLatin1String(tag));
+    if (!finding.tag)
+        throw std::logic_error(std::string("there is no tag ") + tag);
+    finding.severity = m_severities.value(QLatin1String(tag), finding.tag->severity);
+    finding.place = place;
+    finding.message = message;
+    finding.now = now;
+    finding.hint = hint;
+    m_findings.append(finding);
+}
+
+void PxFindings::allow(const QString &tag, const PxPlace &comment, const PxPlace &part)
+{
+    m_allowances.add({tag, comment, part});
+}
+
+bool PxFindings::isWanted(const QString &tag) const
+{
+    return (m_only.isEmpty() || m_only.contains(tag)) && !m_excluded.contains(tag);
+}
+
+QVector<PxFinding> PxFindings::sorted() const
+{
+    PxFindings left = *this;
+    std::sort(left.m_findings.begin(), left.m_findings.end(), isBefore);
+    const QVector<PxAllowances::Allowance> unused = m_allowances.apply(&left.m_findings);
+    for (const PxAllowances::Allowance &allowance : unused)
+        left.addUnused(allowance);
+    QVector<PxFinding> wanted;
+    std::copy_if(left.m_findings.begin(), left.m_findings.end(), std::back_inserter(wanted),
+                 [this](const PxFinding &finding) {
+                     return isWanted(QLatin1String(finding.tag->name)) &&
+                            (m_isPedantic || finding.severity != PxSeverity::Pedantic);
+                 });
+    std::sort(wanted.begin(), wanted.end(), isBefore);
+    return wanted;
+}
+
+void PxFindings::addUnused(const PxAllowances::Allowance &allowance)
+{
+    constexpr const char *unused = "allowance-unused";
+    const PxCheckTag *tag = PxCheckTags::find(allowance.tag);
+    if (allowance.tag.isEmpty()) {
+        add(unused, allowance.comment, QStringLiteral("the allowance names no tag"), QString(),
+            QStringLiteral("write the tag that it is for"));
+    } else if (!tag) {
+        const QString hint = PxSpelling::hint(allowance.tag, PxCheckTags::names());
+        add(unused, allowance.comment,
+            QStringLiteral("there is no tag \"%1\" to allow").arg(allowance.tag), QString(),
+            hint.isEmpty() ? QStringLiteral("take the comment out") : hint);
+    } else if (!m_excluded.contains(allowance.tag) &&
+               !(m_isPartial && tag->needsCatalogue)) { // else nobody knows
+        add(unused, allowance.comment, QStringLiteral("nothing here is \"%1\"").arg(allowance.tag),
+            QString(), QStringLiteral("take the comment out"));
+    }
+}
+
+QStringList PxFindings::tagsNotChecked() const
+{
+    QStringList tags;
+    for (const PxCheckTag *tag : PxCheckTags::all()) {
+        if (m_isPartial && tag->needsCatalogue && isWanted(QLatin1String(tag->name)))
+            tags.append(QLatin1String(tag->name));
+    }
+    return tags;
+}

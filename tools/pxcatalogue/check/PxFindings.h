@@ -1,0 +1,50 @@
+#pragma once
+
+#include "check/PxAllowances.h"
+
+#include <QHash>
+#include <QSet>
+#include <QVector>
+
+/** Collects findings and keeps those that the author wants to see. */
+class PxFindings
+{
+public:
+    /** The tag is one of PxCheckTags; else that is a fault of ours, and thrown. */
+    void add(const char *tag, const PxPlace &place, const QString &message,
+             const QString &now = QString(), const QString &hint = QString());
+    /**
+     * Silences a tag in a part of a file, as the comment at `comment` says. When there is nothing
+     * to silence, that is a finding of its own.
+     */
+    void allow(const QString &tag, const PxPlace &comment, const PxPlace &part);
+    /** Not all files of the catalogue are checked. */
+    void setPartial(bool isPartial) { m_isPartial = isPartial; }
+
+    void setSeverity(const QString &tag, PxSeverity severity) { m_severities[tag] = severity; }
+    /** Only these tags; all when none are named. */
+    void setOnly(const QStringList &tags) { m_only = QSet<QString>(tags.begin(), tags.end()); }
+    void setSkipped(const QStringList &tags)
+    {
+        m_excluded = QSet<QString>(tags.begin(), tags.end());
+    }
+    /** Matters of style are left out unless asked for. */
+    void setPedantic(bool isPedantic) { m_isPedantic = isPedantic; }
+
+    /** What is left, by path, line, column and tag. */
+    QVector<PxFinding> sorted() const;
+    /** Those that only a check of the whole catalogue can find, when this is none. */
+    QStringList tagsNotChecked() const;
+
+private:
+    bool isWanted(const QString &tag) const;
+    void addUnused(const PxAllowances::Allowance &allowance);
+
+    QVector<PxFinding> m_findings;
+    PxAllowances m_allowances;
+    QHash<QString, PxSeverity> m_severities;
+    QSet<QString> m_only;
+    QSet<QString> m_excluded;
+    bool m_isPedantic = false;
+    bool m_isPartial = false;
+};

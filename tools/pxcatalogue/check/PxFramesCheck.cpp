@@ -1,0 +1,46 @@
+#include "check/PxFramesCheck.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+namespace {
+
+bool isAscii(const QString &text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 128; });
+}
+
+} // namespace
+
+void PxFramesCheck::run(PxFindings *findings) const
+{
+    if (!m_file.root())
+        return;
+    QHash<QString, const PxSourceElement *> frames; // by id
+    for (const PxSourceElement *frame : m_file.root()->childrenNamed(QStringLiteral("frame"))) {
+        const QString id = frame->value(QStringLiteral("id"));
+        const QString missing = id.isEmpty() ? QStringLiteral("id") : QStringLiteral("name");
+        const PxSourceRange range = frame->rangeOf(QStringLiteral("id"));
+        if (frame->value(missing).isEmpty()) {
+            m_file.add(findings, "frame-incomplete", frame->rangeOf(missing),
+                       QStringLiteral("the frame has no \"%1\"").arg(missing),
+                       id.isEmpty() ? QStringLiteral("it is left out")
+                                    : QStringLiteral("it is shown as \"%1\"").arg(id));
+            continue;
+        }
+        const PxSourceElement *&known = frames[id];
+        if (known)
+            m_file.add(findings, "frame-id-twice", range,
+                       QStringLiteral("the frame \"%1\" is in line %2, too")
+                           .arg(id)
+                           .arg(m_file.place(known->nameRange).line),
+                       QStringLiteral("the later name is shown: \"%1\"")
+                           .arg(frame->value(QStringLiteral("name"))));
+        else if (!isAscii(id))
+            m_file.add(findings, "frame-id-not-ascii", range,
+                       QStringLiteral("the id \"%1\" is not plain ASCII").arg(id),
+                       QStringLiteral("it is found by exactly these letters"));
+        known = frame;
+    }
+}

@@ -1,0 +1,110 @@
+#include "check/PxNumberListCheck.h"
+
+#include "check/PxPlainReading.h"
+#include "check/PxProductPages.h"
+#include "check/PxSourceParts.h"
+
+#include <PxListParts.h>
+#include <geometry/PxProductionExtraPageGroup.h>
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+// Of one list: more would tell the author nothing new.
+constexpr int maximumReported = 100;
+
+} // namespace
+
+void PxNumberListCheck::run(PxFindings *findings) const
+{
+    const PxSourceElement &product = m_product.element();
+    if (const auto *list = product.firstChild(QStringLiteral("pageswithcontent")))
+        checkParts(*list, findings);
+    const auto *numbering = product.firstChild(QStringLiteral("productionnumbering"));
+    if (numbering && checkParts(*numbering, findings))
+        checkNumbering(*numbering, findings);
+    if (const auto *extra = product.firstChild(QStringLiteral("extra_production_pages"))) {
+        for (const auto *item : extra->childrenNamed(QStringLiteral("item")))
+            checkExtraPage(*item, findings);
+    }
+}
+
+bool PxNumberListCheck::checkParts(const PxSourceElement &list, PxFindings *findings) const
+{
+    const QVector<PxSourcePart> parts = PxSourceParts::ofText(m_product.file(), list);
+    const int numbers = pxIntList(list.dom.text()).size();
+    int reported = 0;
+    for (int i = 0; i < parts.size() && reported < maximumReported; ++i) {
+        const QString text = parts[i].text.trimmed();
+        // Nothing is lost with an empty part at the end, and an empty text is the default.
+        if (!pxIntList(parts[i].text).isEmpty() || (text.isEmpty() && i == parts.size() - 1))
+            continue;
+        ++reported;
+        m_product.add(findings, "number-list-part-dropped", parts[i].range,
+                      text.isEmpty()
+                          ? QStringLiteral("part %1 of \"%2\" is empty").arg(i + 1).arg(list.name)
+                          : QStringLiteral("\"%1\" is no whole number").arg(text),
+                      QStringLiteral("it is left out: %1 of %2 parts are read")
+                          .arg(numbers)
+                          .arg(parts.size()));
+    }
+    return reported == 0;
+}
+
+/** The numbers that go on from the last one may meet those that the list has given already. */
+void PxNumberListCheck::checkNumbering(const PxSourceElement &list, PxFindings *findings) const
+{
+    const QVector<PxSourcePart> parts = PxSourceParts::ofText(m_product.file(), list);
+    const QList<int> given = pxIntList(list.dom.text());
+    if (!m_pages.isKnown() || given.isEmpty() || parts.size() != given.size())
+        return;
+    const QList<int> all = m_product.description().productionNumberingList(m_pages.lastPage() + 1);
+    const QList<int> continued = all.mid(given.size());
+    const QSet<int> known(given.begin(), given.end());
+    const auto again = std::find_if(continued.begin(), continued.end(),
+                                    [&](int number) { return known.contains(number); });
+    if (again == continued.end())
+        return;
+    m_product.add(findings, "production-number-repeated", parts.constLast().range,
+                  QStringLiteral("the list ends with %1, which is not its largest number")
+                      .arg(given.constLast()),
+                  QStringLiteral("numbering goes on from there: %1 is given twice").arg(*again),
+                  QStringLiteral("add the number that it shall go on with: %1")
+                      .arg(qint64(*std::max_element(given.begin(), given.end())) + 1));
+}
+
+void PxNumberListCheck::checkExtraPage(const PxSourceElement &item, PxFindings *findings) const
+{
+    const auto *pages = item.firstChild(QStringLiteral("target_pages"));
+    const auto *pdf = item.firstChild(QStringLiteral("pdf"));
+    if (pages && !checkParts(*pages, findings))
+        return;
+    // Another child may be a misspelt one of those that are missing.
+    if ((!pages || !pdf) && item.children.size() > (pages ? 1 : 0) + (pdf ? 1 : 0))
+        return;
+    const PxProductionExtraPageGroup group(item.dom);
+    PxSourceRange place = item.nameRange;
+    QString message;
+    if (!pages || !pdf) {
+        message = QStringLiteral("no \"%1\"")
+                      .arg(pages ? QLatin1String("pdf") : QLatin1String("target_pages"));
+    } else if (group.targetPages().isEmpty()) {
+        place = pages->textRange();
+        message = QStringLiteral("no target page");
+    } else if (group.content().filename().trimmed().isEmpty() &&
+               PxPlainReading::hasOnly(*pdf, {"filename", "type", "layer"})) {
+        place = pdf->rangeOf(QStringLiteral("filename"));
+        message = QStringLiteral("no file name");
+    } else {
+        return;
+    }
+    const int count = group.targetPages().size();
+    m_product.add(findings, "extra-page-incomplete", place, message,
+                  QStringLiteral("production gets the file \"%1\" for %2 target %3")
+                      .arg(group.content().filename())
+                      .arg(count)
+                      .arg(count == 1 ? QLatin1String("page") : QLatin1String("pages")));
+}

@@ -1,0 +1,40 @@
+#include "check/PxPageEntries.h"
+
+#include "check/PxTextParts.h"
+
+#include <algorithm>
+
+bool PxPageEntry::isRange() const
+{
+    constexpr int ranges = PxPageTypeNormalPages | PxPageTypeSimplexMonthCalendar |
+                           PxPageTypeDuplexMonthCalendar | PxPageTypeSimplexYearCalendar;
+    return type.matches(static_cast<PxPageTypeEnum>(ranges));
+}
+
+PxPageEntries::PxPageEntries(const PxCheckedProduct &product)
+{
+    const PxSourceElement *pages = product.element().firstChild(QStringLiteral("pages"));
+    m_isGiven = pages != nullptr;
+    if (!pages)
+        return;
+    const PxTextParts parts(product.file().source().text(), *pages);
+    for (const PxTextPart &part : parts.parts().mid(0, product.description().countAbstractPages()))
+        m_read.append({part.text, PxPageType(part.text), part.range});
+    m_droppedCount = parts.parts().size() - m_read.size();
+    if (m_droppedCount > 0)
+        m_firstDropped = parts.parts().at(m_read.size()).range;
+}
+
+bool PxPageEntries::isSound() const
+{
+    return std::none_of(m_read.begin(), m_read.end(),
+                        [](const PxPageEntry &entry) { return entry.type.isNull(); });
+}
+
+const PxPageEntry *PxPageEntries::spine() const
+{
+    const auto found = std::find_if(m_read.begin(), m_read.end(), [](const PxPageEntry &entry) {
+        return entry.type.hasValue(PxPageTypeSpine);
+    });
+    return found == m_read.end() ? nullptr : found;
+}

@@ -1,0 +1,153 @@
+#include "check/PxPagesCheck.h"
+
+#include "check/PxMissingName.h"
+#include "check/PxSpelling.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace {
+
+/** One keyword of each type of page that a list may hold. */
+const QStringList &keywords()
+{
+    constexpr int types = PxPageTypeAll | PxPageTypeNormalPages | PxPageTypeSimplexMonthCalendar |
+                          PxPageTypeDuplexMonthCalendar | PxPageTypeSimplexYearCalendar;
+    static const QStringList ourKeywords =
+        PxPageType().enumToStringTable()->encodeAsList(static_cast<PxPageTypeEnum>(types));
+    return ourKeywords;
+}
+
+QString hintFor(const QString &text)
+{
+    static const QRegularExpression ourOtherSeparator(QStringLiteral("[;|+\\s]+"));
+    const QStringList parts = text.split(ourOtherSeparator, Qt::SkipEmptyParts);
+    const bool isList = std::all_of(parts.begin(), parts.end(),
+                                    [](const QString &part) { return !PxPageType(part).isNull(); });
+    return isList ? QStringLiteral("separate pages with commas")
+                  : PxSpelling::hint(text, keywords());
+}
+
+bool isCover(const PxPageEntry &entry)
+{
+    // The back of a calendar comes last, and stands without a front, too.
+    return entry.type.matches(PxPageTypeCover) && !entry.isUnion() &&
+           !entry.type.hasValue(PxPageTypeSpine) &&
+           !entry.type.hasValue(PxPageTypeCalendarCoverBack);
+}
+
+} // namespace
+
+void PxPagesCheck::run(PxFindings *findings) const
+{
+    if (!m_pages.isGiven()) {
+        checkPresence(findings);
+        return;
+    }
+    checkCount(findings);
+    for (const PxPageEntry &entry : m_pages.read())
+        checkEntry(entry, findings);
+    // A page that is left out moves all others.
+    if (!m_pages.isSound())
+        return;
+    if (checkCoverPosition(findings))
+        checkSpinePosition(findings);
+    checkRange(findings);
+}
+
+void PxPagesCheck::checkPresence(PxFindings *findings) const
+{
+    // One normal page is just what many a small product has.
+    if (!hasSeveralPages() || PxMissingName::isMisplaced(m_product, QStringLiteral("pages")))
+        return;
+    m_product.add(findings, "pages-missing", m_product.element().nameRange,
+                  QStringLiteral("the product has no \"pages\""),
+                  QStringLiteral("it has %1 page, and no cover")
+                      .arg(m_product.description().pageTypes(1).size()));
+}
+
+bool PxPagesCheck::hasSeveralPages() const
+{
+    const PxProductTypeDescription &description = m_product.description();
+    constexpr auto calendars = static_cast<PxBindingEnum>(
+        PxBindingCalendarSimplex | PxBindingCalendarDuplex | PxBindingCalendarAnnualDuplex);
+    return m_product.type().isBook() ||
+           (m_product.type().isCalendar() && description.binding().matches(calendars)) ||
+           description.explicitNumberOfNormalPages() > 1;
+}
+
+void PxPagesCheck::checkCount(PxFindings *findings) const
+{
+    if (m_pages.droppedCount() == 0)
+        return;
+    m_product.add(
+        findings, "pages-too-many", m_pages.firstDropped(),
+        QStringLiteral("a list of %1 pages").arg(m_pages.read().size() + m_pages.droppedCount()),
+        QStringLiteral("the first %1 are used").arg(m_pages.read().size()),
+        QStringLiteral("write \"normalpages\" for all normal pages"));
+}
+
+void PxPagesCheck::checkEntry(const PxPageEntry &entry, PxFindings *findings) const
+{
+    if (entry.text.isEmpty()) {
+        m_product.add(findings, "pages-entry-empty", entry.range,
+                      m_pages.read().size() == 1
+                          ? QStringLiteral("the list of pages is empty")
+                          : QStringLiteral("an empty entry in the list of pages"),
+                      QStringLiteral("it is left out, with a warning each time"));
+    } else if (entry.type.isNull()) {
+        m_product.add(findings, "pages-entry-unknown", entry.range,
+                      QStringLiteral("\"%1\" is no type of page").arg(entry.text),
+                      QStringLiteral("it is left out, and the pages behind it move up"),
+                      hintFor(entry.text));
+    } else if (entry.isUnion()) {
+        m_product.add(findings, "page-type-union", entry.range,
+                      QStringLiteral("\"%1\" is several types of page at once").arg(entry.text),
+                      QStringLiteral("the product has one page that is all of: %1")
+                          .arg(entry.type.encodeCSV()),
+                      QStringLiteral("name the type of this page"));
+    }
+}
+
+/** Whether nothing was found. */
+bool PxPagesCheck::checkCoverPosition(PxFindings *findings) const
+{
+    const auto cover = std::find_if(m_pages.read().begin(), m_pages.read().end(), isCover);
+    if (m_product.description().hasCover() || cover == m_pages.read().end())
+        return true;
+    m_product.add(findings, "cover-not-first", cover->range,
+                  QStringLiteral("a cover, but the list begins with \"%1\"")
+                      .arg(m_pages.read().constFirst().text),
+                  QStringLiteral("the product counts as one without cover"),
+                  QStringLiteral("begin with the cover"));
+    return false;
+}
+
+void PxPagesCheck::checkSpinePosition(PxFindings *findings) const
+{
+    int page = 0;
+    for (const PxPageEntry &entry : m_pages.read()) {
+        const PxPageAlignment alignment = m_product.description().pageAlignment(page);
+        if (entry.type.hasValue(PxPageTypeSpine) && !m_product.description().isSimplex() &&
+            alignment != PxPageAlignmentMiddle && alignment != PxPageAlignmentCenter)
+            m_product.add(findings, "spine-not-second", entry.range,
+                          QStringLiteral("a spine that is not the second of the pages"),
+                          QStringLiteral("page 1 is the one that lies in the middle"),
+                          QStringLiteral("begin with back cover, spine, front cover"));
+        page += entry.isRange() ? 2 : 1; // two stand for many
+    }
+}
+
+void PxPagesCheck::checkRange(PxFindings *findings) const
+{
+    const bool hasRange = std::any_of(m_pages.read().begin(), m_pages.read().end(),
+                                      [](const PxPageEntry &entry) { return entry.isRange(); });
+    if (hasRange || !m_product.type().isBook())
+        return;
+    m_product.add(findings, "pages-range-missing", m_pages.read().constFirst().range,
+                  QStringLiteral("a book whose list of pages has no \"normalpages\""),
+                  QStringLiteral("it has %1 pages, whatever page count is ordered")
+                      .arg(m_pages.read().size()),
+                  QStringLiteral("write \"normalpages\" where the pages of the book are"));
+}

@@ -1,0 +1,133 @@
+#include "check/PxProductPages.h"
+
+#include "check/PxPlainReading.h"
+
+#include <PxListParts.h>
+#include <PxXMLParser.h>
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+// Of all layouts together. Real books stay far below; no file shall keep us busy.
+constexpr qint64 maximumPages = 200000;
+constexpr int maximumPageCount = 10000;
+
+bool isSingle(const PxPageType &type)
+{
+    return splitEnumType(type.value()).size() == 1;
+}
+
+} // namespace
+
+PxProductPages::PxProductPages(const PxCheckedProduct &product) : m_product(product)
+{
+    if (!isPlain())
+        return;
+    qint64 pages = 0;
+    for (const int count : pageCounts()) {
+        const bool isSane =
+            count >= 1 && count <= maximumPageCount &&
+            qint64(count) * product.description().countAbstractPages() <= maximumPages;
+        if (isSane)
+            m_layouts.append({count, product.description().pageTypes(count)});
+        pages += isSane ? m_layouts.constLast().pages.size() : maximumPages;
+        if (pages >= maximumPages) {
+            m_layouts.clear();
+            return;
+        }
+    }
+    collectPages();
+}
+
+bool PxProductPages::isPlain() const
+{
+    constexpr struct
+    {
+        const char *attribute;
+        bool (*isReadable)(const PxSourceElement &, const char *);
+    } rows[] = {
+        {"binding", PxPlainReading::isBindings},
+        {"numOfNormalPages", PxPlainReading::isInt},
+        {"horizontalPages", PxPlainReading::isBool},
+        {"cardStyleAlignment", PxPlainReading::isBool},
+        {"varioSingleCardStyleAlignment", PxPlainReading::isBool},
+        {"collegeBlockStyleAlignment", PxPlainReading::isBool},
+    };
+    const PxSourceElement &element = m_product.element();
+    const PxSourceElement *pages = element.firstChild(QStringLiteral("pages"));
+    bool isPlain = pages && m_product.type().isValid();
+    for (const auto &row : rows)
+        isPlain = isPlain && row.isReadable(element, row.attribute) &&
+                  (element.attribute(QLatin1String(row.attribute)) ||
+                   PxPlainReading::isMissing(element, row.attribute));
+    if (isPlain)
+        pxForEachPart(pages->dom.text(), [&isPlain](QStringView part) {
+            isPlain = isPlain && isSingle(PxPageType(part.trimmed().toString()));
+        });
+    return isPlain;
+}
+
+QVector<int> PxProductPages::pageCounts() const
+{
+    switch (m_product.type().productClass()) {
+    case PxProductClassBook:
+        return pageCountsOfBook();
+    case PxProductClassCalendar:
+        // The library answers this for products of its registry only, and not every file is there.
+        switch (m_product.description().binding().value()) {
+        case PxBindingCalendarSimplex:
+            return {12};
+        case PxBindingCalendarDuplex:
+            return {24};
+        case PxBindingCalendarAnnualDuplex:
+            return {2};
+        default:
+            return {1};
+        }
+    case PxProductClassGift:
+    case PxProductClassCard:
+    case PxProductClassDecoration:
+        return {m_product.description().explicitNumberOfNormalPages()};
+    default:
+        return {1};
+    }
+}
+
+/** What the editor steps through, and what has a spine: rather one too many than one too few. */
+QVector<int> PxProductPages::pageCountsOfBook() const
+{
+    const PxProductTypeDescription &book = m_product.description();
+    const qint64 step = book.pageIncrement();
+    if (step < 1 || book.minPages() < 1 || book.maxPages() > maximumPageCount)
+        return {};
+    QSet<int> counts{book.maxPages()};
+    for (qint64 count = book.minPages(); count < book.maxPages(); count += step)
+        counts.insert(int(count));
+    const PxSourceElement *spines = m_product.element().firstChild(QStringLiteral("spines"));
+    const auto ofTable = spines ? spines->childrenNamed(QStringLiteral("spine"))
+                                : QVector<const PxSourceElement *>();
+    for (const PxSourceElement *spine : ofTable)
+        counts.insert(PxXMLParser::intAttribute(spine->dom, QStringLiteral("pages"), 0));
+    QVector<int> sorted(counts.begin(), counts.end());
+    std::sort(sorted.begin(), sorted.end());
+    return sorted;
+}
+
+void PxProductPages::collectPages()
+{
+    QSet<QPair<int, int>> known;
+    for (const Layout &layout : m_layouts) {
+        m_lastPage = std::max(m_lastPage, layout.pages.size() - 1);
+        for (int number = 0; number < layout.pages.size(); ++number) {
+            const PxPageType type = layout.pages.at(number);
+            if (known.contains({number, type.value()}))
+                continue;
+            known.insert({number, type.value()});
+            m_pages.append({number, type, m_product.description().pageAlignment(number)});
+            m_pageTypes |= type;
+        }
+    }
+}

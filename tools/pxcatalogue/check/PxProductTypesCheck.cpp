@@ -1,0 +1,112 @@
+#include "check/PxProductTypesCheck.h"
+
+#include "PxCatalogueKeywords.h"
+#include "check/PxSpelling.h"
+
+#include <PxDirectoryConfig.h>
+#include <PxProductTypeCatalogue.h>
+#include <PxXMLParser.h>
+
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <memory>
+
+void PxProductTypesCheck::run(PxFindings *findings)
+{
+    const PxSourceElement *root = m_file.root();
+    if (!root)
+        return;
+    if (root->name != QLatin1String("producttypes")) {
+        m_file.add(
+            findings, "product-types-root-wrong", root->nameRange,
+            QStringLiteral("the document element is \"%1\", not \"producttypes\"").arg(root->name),
+            QStringLiteral("no product is known"));
+        return;
+    }
+    // The library has read its own file before, and has told its log about it.
+    const QFileInfo own(
+        PxDirectoryConfig::instance()->resource(QStringLiteral("producttypes.xml"), false));
+    std::unique_ptr<PxProductTypeCatalogue> other;
+    if (own != QFileInfo(m_file.path()))
+        other = std::make_unique<PxProductTypeCatalogue>(QFileInfo(m_file.path()));
+    const PxProductTypeCatalogue &types = other ? *other : *PxProductTypeCatalogue::instance();
+    for (const PxSourceElement *row : root->childrenNamed(QStringLiteral("producttype")))
+        checkRow(*row, types, findings);
+}
+
+void PxProductTypesCheck::checkRow(const PxSourceElement &row, const PxProductTypeCatalogue &types,
+                                   PxFindings *findings)
+{
+    const QString codeText = row.value(QStringLiteral("code"));
+    const int code = PxXMLParser::intAttribute(row.dom, QStringLiteral("code"), 0);
+    const QString name = row.value(QStringLiteral("name")).trimmed();
+    const QString key = name.toCaseFolded();
+    const auto earlier = [&](const PxSourceElement *other) {
+        return QStringLiteral("line %1 has").arg(m_file.place(other->nameRange).line);
+    };
+    if (code < 1) {
+        drop(row, "code",
+             codeText.isEmpty() ? QStringLiteral("the product type has no \"code\"")
+                                : QStringLiteral("\"%1\" is no code above 0").arg(codeText),
+             findings);
+    } else if (name.isEmpty()) {
+        drop(row, "name", QStringLiteral("the product type has no \"name\""), findings);
+    } else if (m_rowOfCode.contains(code)) {
+        drop(row, "code",
+             QStringLiteral("%1 the code %2, too").arg(earlier(m_rowOfCode.value(code))).arg(code),
+             findings);
+    } else if (m_rowOfName.contains(key)) {
+        drop(row, "name",
+             QStringLiteral("%1 the name \"%2\", too").arg(earlier(m_rowOfName.value(key)), name),
+             findings);
+    } else if (!types.find(code) || types.find(code) != types.find(name)) {
+        dropClass(row, findings); // nothing else keeps the library from taking it
+    } else {
+        m_rowOfCode.insert(code, &row);
+        m_rowOfName.insert(key, &row);
+        m_places.insert(PxProductType(code), m_file.place(row.rangeOf(QStringLiteral("name"))));
+        checkStyle(row, *types.find(code), findings);
+    }
+}
+
+void PxProductTypesCheck::drop(const PxSourceElement &row, const char *attribute,
+                               const QString &message, PxFindings *findings,
+                               const QString &hint) const
+{
+    m_file.add(findings, "product-type-row-dropped", row.rangeOf(QLatin1String(attribute)), message,
+               QStringLiteral("the product type is left out"), hint);
+}
+
+void PxProductTypesCheck::dropClass(const PxSourceElement &row, PxFindings *findings) const
+{
+    const QString text = row.value(QStringLiteral("class"));
+    QStringList classes;
+    for (const PxKeyword<PxProductClass> &known : productClassRows)
+        classes.append(QLatin1String(known.keyword));
+    drop(row, "class",
+         text.trimmed().isEmpty() ? QStringLiteral("the product type has no \"class\"")
+                                  : QStringLiteral("\"%1\" is no product class").arg(text),
+         findings,
+         text.trimmed().isEmpty()
+             ? QStringLiteral("it is one of %1").arg(classes.join(QLatin1String(", ")))
+             : PxSpelling::hint(text, classes));
+}
+
+void PxProductTypesCheck::checkStyle(const PxSourceElement &row, const PxProductTypeEntry &entry,
+                                     PxFindings *findings) const
+{
+    static const QRegularExpression ourStyle(QStringLiteral("^[A-Z0-9_]+$"));
+    if (!ourStyle.match(entry.name).hasMatch())
+        m_file.add(findings, "product-type-name-unsafe", row.rangeOf(QStringLiteral("name")),
+                   QStringLiteral("\"%1\" is not all upper-case ASCII letters, digits and \"_\"")
+                       .arg(entry.name),
+                   QStringLiteral("the product is found by the name in any case"));
+    if (row.value(QStringLiteral("shortname")).isEmpty())
+        m_file.add(findings, "product-type-shortname-missing",
+                   row.rangeOf(QStringLiteral("shortname")),
+                   row.attribute(QStringLiteral("shortname"))
+                       ? QStringLiteral("the \"shortname\" of the product type is empty")
+                       : QStringLiteral("the product type has no \"shortname\""),
+                   QStringLiteral("\"%1\" is shown").arg(entry.shortName));
+}

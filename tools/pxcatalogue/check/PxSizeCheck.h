@@ -1,0 +1,26 @@
+#pragma once
+
+#include "check/PxCheckedProduct.h"
+
+#include <QSize>
+
+/** Checks the size of the page, and what is said about it beside: orientation and size class. */
+class PxSizeCheck
+{
+public:
+    /** The product must outlive the check. */
+    explicit PxSizeCheck(const PxCheckedProduct &product);
+
+    void run(PxFindings *findings) const;
+
+private:
+    void checkPresence(PxFindings *findings) const;
+    void checkArea(PxFindings *findings) const;
+    void checkShadowing(PxFindings *findings) const;
+    bool checkOrientation(PxFindings *findings) const;
+    void checkSpace(PxFindings *findings) const;
+
+    const PxCheckedProduct &m_product;
+    const PxSourceElement *m_usableSize; // null when there is none
+    QSize m_size;                        // as the library takes it
+};

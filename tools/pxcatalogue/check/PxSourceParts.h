@@ -1,0 +1,26 @@
+#pragma once
+
+#include "check/PxCheckedFile.h"
+
+/** A part of a comma-separated list and where it stands. */
+struct PxSourcePart
+{
+    QString text;        ///< as it is written, with the blanks around it
+    PxSourceRange range; ///< without the blanks
+    PxSourceRange whole; ///< with them
+};
+
+/**
+ * The parts of the lists in files.
+ *
+ * Where the text is written with entities or in pieces, all parts have the place of the whole list.
+ */
+class PxSourceParts
+{
+public:
+    /** Of the value of an attribute; none when there is no such attribute. */
+    static QVector<PxSourcePart> ofAttribute(const PxCheckedFile &file,
+                                             const PxSourceElement &element, const QString &name);
+    /** Of the text in an element. */
+    static QVector<PxSourcePart> ofText(const PxCheckedFile &file, const PxSourceElement &element);
+};

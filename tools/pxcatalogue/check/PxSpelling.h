@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QStringList>
+
+/** Guesses what somebody meant who misspelt a name. */
+class PxSpelling
+{
+public:
+    /** The one candidate that is nearest and near; empty when none is. Case does not count. */
+    static QString nearest(const QString &word, const QStringList &candidates);
+    /** The same as a question to the author; empty when none is near. */
+    static QString hint(const QString &word, const QStringList &candidates);
+};

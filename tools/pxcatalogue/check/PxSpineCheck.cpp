@@ -1,0 +1,270 @@
+#include "check/PxSpineCheck.h"
+
+#include "check/PxIntAttribute.h"
+#include "check/PxMissingName.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+const QString pagesName = QStringLiteral("pages");
+const QString width = QStringLiteral("width");
+const QString maxFontHeight = QStringLiteral("maxfontheight");
+
+} // namespace
+
+PxSpineCheck::PxSpineCheck(const PxCheckedProduct &product, const PxPageEntries &pages)
+    : m_product(product)
+    , m_pages(pages)
+    , m_table(product.element().firstChild(QStringLiteral("spines")))
+{}
+
+void PxSpineCheck::run(PxFindings *findings)
+{
+    readTable(findings);
+    checkPresence(findings);
+    checkSpinePage(findings);
+    checkWidths(findings);
+    checkTextHeights(findings);
+    // Without one of its page counts little can be said about a table.
+    if (!m_product.type().isBook() || m_spines.isEmpty() || !m_isComplete)
+        return;
+    checkLength(findings);
+    checkSteps(findings);
+    checkSellingPages(findings);
+}
+
+void PxSpineCheck::readTable(PxFindings *findings)
+{
+    if (!m_table)
+        return;
+    for (const PxSourceElement *spine : m_table->childrenNamed(QStringLiteral("spine"))) {
+        ++m_rowCount;
+        readPageCount(*spine, findings);
+    }
+    // What has another name was meant for a row.
+    m_isComplete = m_isComplete && m_rowCount == m_table->children.size();
+}
+
+void PxSpineCheck::readPageCount(const PxSourceElement &spine, PxFindings *findings)
+{
+    const PxIntAttribute pageCount(spine, pagesName);
+    if (pageCount.isNumber() && pageCount.number() > 0) {
+        if (m_spines.contains(pageCount.number())) {
+            m_isComplete = false; // most likely one of the two is meant for another page count
+            addTwice(spine, pageCount.number(), findings);
+        }
+        m_spines.insert(pageCount.number(), &spine);
+        return;
+    }
+    m_isComplete = false;
+    if (pageCount.isUnreadable() ||
+        (!pageCount.isGiven() && PxMissingName::isMisspelt(spine, pagesName)))
+        return;
+    m_product.add(
+        findings, "spine-pages-missing", spine.rangeOf(pagesName),
+        pageCount.isGiven() ? QStringLiteral("a spine for %1 pages").arg(pageCount.number())
+                            : QStringLiteral("a spine without a page count"),
+        QStringLiteral("the smallest page count is %1").arg(m_product.description().minPages()));
+}
+
+void PxSpineCheck::addTwice(const PxSourceElement &spine, int pageCount, PxFindings *findings) const
+{
+    const PxSourceElement &earlier = *m_spines.value(pageCount);
+    m_product.add(findings, "spine-pages-twice", spine.rangeOf(pagesName),
+                  QStringLiteral("a second spine for %1 pages, %2 wide; the one in line %3 is %4")
+                      .arg(pageCount)
+                      .arg(PxIntAttribute(spine, width).number())
+                      .arg(line(earlier, pagesName))
+                      .arg(PxIntAttribute(earlier, width).number()),
+                  QStringLiteral("the later one is used, as a spine of %1")
+                      .arg(m_product.description().spineWidth(pageCount)),
+                  QStringLiteral("keep the one that is meant"));
+}
+
+void PxSpineCheck::checkPresence(PxFindings *findings) const
+{
+    if (!m_product.type().isBook() || m_rowCount > 0)
+        return;
+    const bool isMisspelt = m_table
+                                ? !m_table->children.isEmpty()
+                                : PxMissingName::isMisplaced(m_product, QStringLiteral("spines"));
+    if (!isMisspelt)
+        m_product.add(findings, "book-without-page-counts",
+                      m_table ? m_table->nameRange : m_product.element().nameRange,
+                      m_table ? QStringLiteral("the \"spines\" of this book are empty")
+                              : QStringLiteral("a book without \"spines\""),
+                      QStringLiteral("its page counts go from %1 to %2")
+                          .arg(m_product.description().minPages())
+                          .arg(m_product.description().maxPages()),
+                      QStringLiteral("add a \"spine\" for each page count, with the width 0 when "
+                                     "none is printed"));
+}
+
+void PxSpineCheck::checkLength(PxFindings *findings) const
+{
+    if (m_rowCount < 3)
+        m_product.add(findings, "spine-table-short", m_table->nameRange,
+                      QStringLiteral("a book with %1 page counts").arg(m_rowCount),
+                      QStringLiteral("the step between its page counts is %1")
+                          .arg(m_product.description().pageIncrement()),
+                      QStringLiteral("give three page counts or more"));
+}
+
+/** The step that most page counts have; of two the one that the library takes. */
+int PxSpineCheck::usualStep() const
+{
+    QHash<int, int> frequencies;
+    for (auto it = std::next(m_spines.begin()); it != m_spines.end(); ++it)
+        ++frequencies[it.key() - std::prev(it).key()];
+    int usual = m_product.description().pageIncrement();
+    for (auto it = frequencies.constBegin(); it != frequencies.constEnd(); ++it) {
+        const int best = frequencies.value(usual);
+        if (it.value() > best || (it.value() == best && it.key() < usual &&
+                                  usual != m_product.description().pageIncrement()))
+            usual = it.key();
+    }
+    return usual;
+}
+
+void PxSpineCheck::checkSteps(PxFindings *findings) const
+{
+    if (m_spines.size() < 3)
+        return;
+    const int usual = usualStep();
+    int before = usual;
+    // The last step is free.
+    for (auto it = std::next(m_spines.begin()); it != std::prev(m_spines.end()); ++it) {
+        const int smaller = std::prev(it).key();
+        const int step = it.key() - smaller;
+        // A table may go on in other steps: that is one place, not many.
+        if (step != usual && step != before)
+            m_product.add(findings, "spine-steps-irregular", it.value()->rangeOf(pagesName),
+                          QStringLiteral("%1 pages after %2, where most steps are %3")
+                              .arg(it.key())
+                              .arg(smaller)
+                              .arg(usual),
+                          QStringLiteral("the page counts go from %1 to %2 in steps of %3")
+                              .arg(m_product.description().minPages())
+                              .arg(m_product.description().maxPages())
+                              .arg(m_product.description().pageIncrement()),
+                          step > usual
+                              ? QStringLiteral("add a spine for %1 pages").arg(smaller + usual)
+                              : QString());
+        before = step;
+    }
+}
+
+bool PxSpineCheck::hasWidth() const
+{
+    return std::any_of(m_spines.begin(), m_spines.end(), [](const PxSourceElement *spine) {
+        return PxIntAttribute(*spine, width).number() > 0;
+    });
+}
+
+void PxSpineCheck::checkWidths(PxFindings *findings) const
+{
+    if (!hasWidth())
+        return;
+    const PxSourceElement *narrower = nullptr;
+    for (auto it = m_spines.begin(); it != m_spines.end(); ++it) {
+        const PxSourceElement &spine = *it.value();
+        const PxIntAttribute own(spine, width);
+        if (own.isUnreadable() || (!own.isGiven() && PxMissingName::isMisspelt(spine, width)))
+            continue;
+        if (own.number() <= 0) {
+            m_product.add(findings, "spine-width-missing", spine.rangeOf(width),
+                          own.isGiven()
+                              ? QStringLiteral("a spine of the width %1").arg(own.number())
+                              : QStringLiteral("a spine without a width"),
+                          QStringLiteral("the spine for %1 pages is %2 wide")
+                              .arg(it.key())
+                              .arg(m_product.description().spineWidth(it.key())));
+            continue;
+        }
+        const int other = narrower ? PxIntAttribute(*narrower, width).number() : 0;
+        if (own.number() < other && m_isComplete)
+            m_product.add(findings, "spine-width-falls", spine.rangeOf(width),
+                          QStringLiteral("a spine of %1 for %2 pages, but one of %3 for fewer in "
+                                         "line %4")
+                              .arg(own.number())
+                              .arg(it.key())
+                              .arg(other)
+                              .arg(line(*narrower, width)),
+                          QStringLiteral("the spine for %1 pages is %2 wide")
+                              .arg(it.key())
+                              .arg(m_product.description().spineWidth(it.key())));
+        narrower = &spine;
+    }
+}
+
+void PxSpineCheck::checkTextHeights(PxFindings *findings) const
+{
+    for (auto it = m_spines.begin(); it != m_spines.end(); ++it) {
+        // What the library has added to the width may take type, too.
+        const int spineWidth = m_product.description().spineWidth(it.key());
+        const int height = m_product.description().spineMaxFontHeight(it.key());
+        if (PxIntAttribute(*it.value(), width).number() > 0 && height > spineWidth)
+            m_product.add(findings, "spine-text-too-high", it.value()->rangeOf(maxFontHeight),
+                          QStringLiteral("type of the height %1 on a spine of %2")
+                              .arg(height)
+                              .arg(PxIntAttribute(*it.value(), width).number()),
+                          QStringLiteral("type may be %1 high on a spine that is %2 wide")
+                              .arg(height)
+                              .arg(spineWidth));
+    }
+}
+
+void PxSpineCheck::checkSellingPages(PxFindings *findings) const
+{
+    const PxIntAttribute selling(m_product.element(), QStringLiteral("defaultSellingPages"), -1);
+    const int pageCount = m_product.description().defaultSellingPages();
+    if (!selling.isNumber() || pageCount == -1 || m_spines.contains(pageCount))
+        return;
+    const auto next = m_spines.lowerBound(pageCount);
+    QStringList near;
+    if (next != m_spines.begin())
+        near.append(QString::number(std::prev(next).key()));
+    if (next != m_spines.end())
+        near.append(QString::number(next.key()));
+    m_product.add(findings, "selling-pages-not-offered",
+                  m_product.element().rangeOf(QStringLiteral("defaultSellingPages")),
+                  QStringLiteral("%1 is no page count of \"spines\"").arg(pageCount),
+                  QStringLiteral("a new book has %1 pages, and a spine of %2")
+                      .arg(pageCount)
+                      .arg(m_product.description().spineWidth(pageCount)),
+                  QStringLiteral("the nearest: %1").arg(near.join(QStringLiteral(", "))));
+}
+
+void PxSpineCheck::checkSpinePage(PxFindings *findings) const
+{
+    const bool isBookWithoutTable = m_product.type().isBook() && m_rowCount == 0;
+    const bool isWidthKnown =
+        m_isComplete &&
+        std::none_of(m_spines.begin(), m_spines.end(), [](const PxSourceElement *spine) {
+            const PxIntAttribute own(*spine, width);
+            return own.isUnreadable() ||
+                   (!own.isGiven() && PxMissingName::isMisspelt(*spine, width));
+        });
+    const PxPageEntry *spinePage = m_pages.spine();
+    if (spinePage && !hasWidth() && isWidthKnown && !isBookWithoutTable &&
+        (m_table || !PxMissingName::isMisplaced(m_product, QStringLiteral("spines"))))
+        m_product.add(findings, "spine-page-without-table", spinePage->range,
+                      QStringLiteral("a spine among the pages, but no width in \"spines\""),
+                      QStringLiteral("the spine is %1 wide")
+                          .arg(m_product.description().spineWidth(
+                              m_spines.isEmpty() ? 0 : m_spines.firstKey())),
+                      QStringLiteral("give its width, or take the spine out"));
+    if (m_pages.isGiven() && m_pages.isSound() && !m_product.description().hasSpine() && hasWidth())
+        m_product.add(findings, "spine-without-page", m_table->nameRange,
+                      QStringLiteral("spines with a width, but \"pages\" lists no spine"),
+                      QStringLiteral("the product has no spine; a cover half is %1 wide")
+                          .arg(m_product.description().coverSize().width()),
+                      QStringLiteral("add \"spine\" to the pages, or give the width 0"));
+}
+
+int PxSpineCheck::line(const PxSourceElement &element, const QString &attribute) const
+{
+    return m_product.file().place(element.rangeOf(attribute)).line;
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "check/PxCheckedFile.h"
+#include "check/PxListedProductTypes.h"
+
+#include <QHash>
+#include <QSet>
+
+/** Checks theme files, each and all together. */
+class PxThemeCheck
+{
+public:
+    void checkFile(const PxCheckedFile &file, PxFindings *findings);
+    /** When all files have been checked. */
+    void finish(PxFindings *findings) const;
+
+    /**
+     * What product files may name, in lower case. Empty when not every theme of the themes
+     * directory could be checked: then nothing can be said about a name.
+     */
+    QSet<QString> ids() const;
+
+private:
+    void checkStrayNodes(const PxCheckedFile &file, PxFindings *findings) const;
+    void checkIdOnce(const PxCheckedFile &file, const PxSourceElement &theme, PxFindings *findings);
+    bool isComplete() const;
+
+    PxListedProductTypes m_types;
+    QSet<QString> m_files;            ///< canonical paths of those that the library reads
+    QHash<QString, PxPlace> m_themes; ///< where an id is first, by id
+    PxPlace m_firstRoot;
+    bool m_hasUnnamed = false;
+};

@@ -1,0 +1,216 @@
+#include "check/PxThemeElementCheck.h"
+
+#include "check/PxListedProductTypes.h"
+#include "check/PxSpelling.h"
+
+#include <PxProductGroup.h>
+#include <PxProductType.h>
+#include <PxXMLParser.h>
+
+#include <QRegularExpression>
+
+namespace {
+
+const auto compactFormat = QLatin1String("yyyyMMddHHmm");
+
+/** Nearly the right form, for those that authors use elsewhere. */
+QString expiryHint(const QString &text)
+{
+    const QDateTime withSeconds =
+        QDateTime::fromString(text.trimmed(), QStringLiteral("yyyyMMddHHmmss"));
+    QString meant = withSeconds.toString(compactFormat);
+    for (const char *format : {"yyyyMMdd", "dd.MM.yyyy", "d.M.yyyy"}) {
+        const QDate day = QDate::fromString(text.trimmed(), QLatin1String(format));
+        if (day.isValid())
+            meant = day.endOfDay().toString(compactFormat);
+    }
+    return meant.isEmpty() ? QStringLiteral("write year to minute, as in \"205012312359\"")
+                           : QStringLiteral("did you mean \"%1\"?").arg(meant);
+}
+
+} // namespace
+
+PxThemeElementCheck::PxThemeElementCheck(const PxCheckedFile &file, const PxSourceElement &theme,
+                                         PxListedProductTypes *types)
+    : m_file(file)
+    , m_theme(theme)
+    , m_types(*types)
+    , m_expiry(PxXMLParser::dateTimeAttribute(theme.dom, QStringLiteral("expiry"), QString()))
+    , m_isExpired(m_expiry.isValid() && m_expiry < QDateTime::currentDateTime())
+{}
+
+void PxThemeElementCheck::run(PxFindings *findings)
+{
+    checkId(findings);
+    checkGroup(findings);
+    checkExpiry(findings);
+    checkDescription(findings);
+    checkKeyAccounts(findings);
+    checkProducts(findings);
+}
+
+void PxThemeElementCheck::checkId(PxFindings *findings) const
+{
+    const QString id = m_theme.value(QStringLiteral("id"));
+    const PxSourceRange range = m_theme.rangeOf(QStringLiteral("id"));
+    if (id.isEmpty()) {
+        const bool isThere = m_theme.attribute(QStringLiteral("id"));
+        m_file.add(findings, "theme-id-missing", range,
+                   isThere ? QStringLiteral("the \"id\" of the theme is empty")
+                           : QStringLiteral("the theme has no \"id\""),
+                   QStringLiteral("its id is \"%1\"")
+                       .arg(isThere ? QString() : QStringLiteral("unbekannt")));
+    } else if (id.contains(QLatin1Char(','))) {
+        m_file.add(findings, "theme-id-unlistable", range,
+                   QStringLiteral("the id \"%1\" holds a comma").arg(id),
+                   QStringLiteral("no list of ids finds the theme"));
+    } else if (id != id.trimmed()) {
+        m_file.add(findings, "theme-id-unlistable", range,
+                   QStringLiteral("the id \"%1\" begins or ends with a blank").arg(id),
+                   QStringLiteral("the blank belongs to the id"),
+                   QStringLiteral("write \"%1\"").arg(id.trimmed().toLower()));
+    }
+    if (id != id.toLower())
+        m_file.add(findings, "theme-id-lowered", range,
+                   QStringLiteral("the id \"%1\" has upper-case letters").arg(id),
+                   QStringLiteral("the id is \"%1\"").arg(id.toLower()));
+}
+
+void PxThemeElementCheck::checkGroup(PxFindings *findings) const
+{
+    const QString attribute = QStringLiteral("producttype");
+    const QString group = m_theme.value(attribute);
+    const QString now = QStringLiteral("the theme is not valid");
+    if (group.trimmed().isEmpty()) {
+        m_file.add(findings, "theme-group-missing", m_theme.rangeOf(attribute),
+                   m_theme.attribute(attribute)
+                       ? QStringLiteral("the \"producttype\" of the theme is empty")
+                       : QStringLiteral("the theme has no \"producttype\""),
+                   now, QStringLiteral("name the product group, as in \"book\""));
+    } else if (!PxProductGroup(group).isValid()) {
+        QStringList groups;
+        for (const QString &keyword : EnumHelper::globalMapProductGroupEnumString.keys())
+            groups.append(keyword.toLower());
+        m_file.add(findings, "theme-group-unknown", m_theme.rangeOf(attribute),
+                   QStringLiteral("\"%1\" is no product group").arg(group), now,
+                   group.contains(QLatin1Char(',')) ? QStringLiteral("name one product group only")
+                                                    : PxSpelling::hint(group, groups));
+    }
+}
+
+void PxThemeElementCheck::checkExpiry(PxFindings *findings) const
+{
+    static const QRegularExpression ourDay(QStringLiteral("^\\d{4}-\\d\\d-\\d\\d$"));
+    const QString text = m_theme.value(QStringLiteral("expiry"));
+    const PxSourceRange range = m_theme.rangeOf(QStringLiteral("expiry"));
+    const QString now = QStringLiteral("the theme has expired, it is never offered");
+    if (text.trimmed().isEmpty())
+        m_file.add(findings, "theme-expiry-missing", range,
+                   m_theme.attribute(QStringLiteral("expiry"))
+                       ? QStringLiteral("the \"expiry\" of the theme is empty")
+                       : QStringLiteral("the theme has no \"expiry\""),
+                   now, QStringLiteral("write year to minute, as in \"205012312359\""));
+    else if (!m_expiry.isValid())
+        m_file.add(findings, "theme-expiry-malformed", range,
+                   QStringLiteral("\"%1\" is no date and time").arg(text), now, expiryHint(text));
+    else if (m_isExpired)
+        m_file.add(findings, "theme-expiry-past", range,
+                   QStringLiteral("the theme expired on %1")
+                       .arg(m_expiry.toString(QStringLiteral("yyyy-MM-dd 'at' HH:mm"))),
+                   QStringLiteral("it is not offered any more"));
+    else if (ourDay.match(text.trimmed()).hasMatch())
+        m_file.add(findings, "theme-expiry-day", range,
+                   QStringLiteral("\"%1\" is a day without a time").arg(text),
+                   QStringLiteral("the theme expires when the day begins, at %1")
+                       .arg(m_expiry.toString(QStringLiteral("HH:mm"))),
+                   QStringLiteral("write \"%1\" to include the day")
+                       .arg(m_expiry.date().endOfDay().toString(compactFormat)));
+}
+
+void PxThemeElementCheck::checkDescription(PxFindings *findings) const
+{
+    const PxSourceElement *description = m_theme.firstChild(QStringLiteral("description"));
+    if (description && !description->dom.text().trimmed().isEmpty())
+        return;
+    m_file.add(findings, "theme-description-missing",
+               description ? description->nameRange : m_theme.nameRange,
+               description ? QStringLiteral("the \"description\" of the theme is empty")
+                           : QStringLiteral("the theme has no \"description\""),
+               QStringLiteral("it is shown as \"%1\"")
+                   .arg(description ? QString() : QStringLiteral("unbekannt")));
+}
+
+void PxThemeElementCheck::checkKeyAccounts(PxFindings *findings) const
+{
+    const PxSourceElement *accounts = m_theme.firstChild(QStringLiteral("keyaccounts"));
+    if (!accounts || !accounts->dom.hasChildNodes()) {
+        if (!m_isExpired) // nobody is offered it then anyway
+            m_file.add(findings, "theme-for-nobody",
+                       accounts ? accounts->nameRange : m_theme.nameRange,
+                       accounts ? QStringLiteral("\"keyaccounts\" names no key account")
+                                : QStringLiteral("the theme has no \"keyaccounts\""),
+                       QStringLiteral("the theme is offered to nobody"));
+        return;
+    }
+    for (const PxSourceElement *account : accounts->children)
+        checkKeyAccount(*account, findings);
+    for (const PxSourceNode &node : accounts->nodes) {
+        if (!node.text.trimmed().isEmpty())
+            m_file.add(findings, "theme-key-account-malformed", node.range,
+                       node.isText ? QStringLiteral("text directly in \"keyaccounts\"")
+                                   : QStringLiteral("a comment directly in \"keyaccounts\""),
+                       QStringLiteral("it counts as key account 0"),
+                       node.isText ? QStringLiteral("write an element for each key account")
+                                   : QStringLiteral("move it out of \"keyaccounts\""));
+    }
+}
+
+void PxThemeElementCheck::checkKeyAccount(const PxSourceElement &account,
+                                          PxFindings *findings) const
+{
+    const QString text = account.dom.text();
+    bool isNumber = false;
+    text.toInt(&isNumber);
+    if (isNumber)
+        return;
+    m_file.add(findings, "theme-key-account-malformed", account.textRange(),
+               text.trimmed().isEmpty()
+                   ? QStringLiteral("the key account is empty")
+                   : QStringLiteral("\"%1\" is no number of a key account").arg(text.trimmed()),
+               QStringLiteral("it counts as key account 0"),
+               text.contains(QLatin1Char(','))
+                   ? QStringLiteral("write an element for each key account")
+                   : QString());
+}
+
+void PxThemeElementCheck::checkProducts(PxFindings *findings)
+{
+    const PxSourceElement *products = m_theme.firstChild(QStringLiteral("products"));
+    if (!products || m_types.isEmpty())
+        return;
+    QVector<const PxSourceElement *> unknown;
+    bool isAnyKnown = false;
+    for (const PxSourceElement *product : products->childrenNamed(QStringLiteral("product"))) {
+        const QString name = product->dom.text();
+        if (PxProductType(name).isValid() || m_types.isListed(name))
+            isAnyKnown = true;
+        else
+            unknown.append(product);
+    }
+    if (!unknown.isEmpty() && !isAnyKnown) {
+        m_file.add(
+            findings, "theme-products-all-unknown", products->nameRange,
+            unknown.size() == 1
+                ? QStringLiteral("\"%1\" is no known product name, and no other is there")
+                      .arg(unknown.constFirst()->dom.text().trimmed())
+                : QStringLiteral("none of %1 names is a known product name").arg(unknown.size()),
+            QStringLiteral("the theme is allowed for every product"),
+            m_types.hint(unknown.constFirst()->dom.text()));
+        return;
+    }
+    for (const PxSourceElement *product : unknown)
+        m_file.add(
+            findings, "theme-product-unknown", product->textRange(),
+            QStringLiteral("\"%1\" is no known product name").arg(product->dom.text().trimmed()),
+            QStringLiteral("it is left out"), m_types.hint(product->dom.text()));
+}

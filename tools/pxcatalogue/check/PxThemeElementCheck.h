@@ -1,0 +1,33 @@
+#pragma once
+
+#include "check/PxCheckedFile.h"
+
+#include <QDateTime>
+
+class PxListedProductTypes;
+
+/** Checks one theme: when, to whom and for which products it is offered. */
+class PxThemeElementCheck
+{
+public:
+    /** All must outlive the check. */
+    PxThemeElementCheck(const PxCheckedFile &file, const PxSourceElement &theme,
+                        PxListedProductTypes *types);
+
+    void run(PxFindings *findings);
+
+private:
+    void checkId(PxFindings *findings) const;
+    void checkGroup(PxFindings *findings) const;
+    void checkExpiry(PxFindings *findings) const;
+    void checkDescription(PxFindings *findings) const;
+    void checkKeyAccounts(PxFindings *findings) const;
+    void checkKeyAccount(const PxSourceElement &account, PxFindings *findings) const;
+    void checkProducts(PxFindings *findings);
+
+    const PxCheckedFile &m_file;
+    const PxSourceElement &m_theme;
+    PxListedProductTypes &m_types;
+    QDateTime m_expiry; ///< invalid when it is missing or unreadable
+    bool m_isExpired;
+};

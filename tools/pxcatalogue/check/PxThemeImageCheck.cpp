@@ -1,0 +1,161 @@
+#include "check/PxThemeImageCheck.h"
+
+#include "check/PxSpelling.h"
+
+#include <PxDirectoryConfig.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QImageReader>
+
+namespace {
+
+constexpr QLatin1String logoNow("the logo has no image");
+constexpr QLatin1String thumbnailNow("the theme has no preview");
+
+/** What an application has compiled in cannot be seen from here. */
+bool isCompiledIn(const QString &path)
+{
+    return path.startsWith(QLatin1String(":/")) || path.startsWith(QLatin1String("qrc:"));
+}
+
+/** The directories that an application may run in, as far as can be guessed. */
+QStringList baseDirectories(const QString &themeFile)
+{
+    QStringList bases{QDir::currentPath()};
+    QDir directory = QFileInfo(themeFile).absoluteDir();
+    do {
+        bases.append(directory.path());
+    } while (directory.cdUp());
+    return bases;
+}
+
+} // namespace
+
+void PxThemeImageCheck::checkLogo(const PxSourceElement &logo, PxFindings *findings)
+{
+    const PxSourceAttribute *name = logo.attribute(QStringLiteral("filename"));
+    if (!name || name->value.isEmpty())
+        m_file.add(findings, "theme-image-missing", logo.rangeOf(QStringLiteral("filename")),
+                   QStringLiteral("the logo names no image: \"filename\" is %1")
+                       .arg(name ? QLatin1String("empty") : QLatin1String("missing")),
+                   logoNow);
+    else
+        checkImage(
+            {name, PxDirectoryConfig::instance()->resource(name->value.toLower(), false), logoNow},
+            findings);
+}
+
+void PxThemeImageCheck::checkThumbnail(const PxSourceElement &theme, PxFindings *findings)
+{
+    const PxSourceAttribute *name = theme.attribute(QStringLiteral("thumbnail"));
+    if (!name || name->value.isEmpty())
+        return; // no preview is meant
+    if (QDir::isAbsolutePath(name->value))
+        checkImage({name, name->value.toLower(), thumbnailNow}, findings);
+    else
+        m_relativeThumbnails.append(name);
+}
+
+/**
+ * Where an application will run is not known, so a relative thumbnail is judged only in a directory
+ * that has proved to be the one: other thumbnails of the file are found from there.
+ */
+void PxThemeImageCheck::finish(PxFindings *findings)
+{
+    QString best;
+    int bestCount = 0;
+    QSet<const PxSourceAttribute *> found;
+    for (const QString &base : baseDirectories(m_file.path())) {
+        const QDir directory(base);
+        int count = 0;
+        for (const PxSourceAttribute *name : m_relativeThumbnails) {
+            if (fault(directory.filePath(name->value.toLower())).isEmpty()) {
+                found.insert(name);
+                ++count;
+            }
+        }
+        if (count > bestCount) {
+            best = base;
+            bestCount = count;
+        }
+    }
+    for (const PxSourceAttribute *name : m_relativeThumbnails) {
+        if (bestCount > 0 && !found.contains(name))
+            checkImage({name, QDir(best).filePath(name->value.toLower()), thumbnailNow}, findings);
+    }
+}
+
+/** Why the library shows nothing; empty for an image. */
+QString PxThemeImageCheck::fault(const QString &path)
+{
+    const auto known = m_faults.constFind(path);
+    if (known != m_faults.constEnd())
+        return *known;
+    QString fault;
+    const QFileInfo info(path);
+    if (!info.exists()) {
+        fault = QStringLiteral("there is no file \"%1\"");
+    } else if (!info.isFile()) {
+        fault = QStringLiteral("\"%1\" is no regular file");
+    } else {
+        QImageReader reader(path);
+        reader.setDecideFormatFromContent(true);
+        if (!reader.canRead())
+            fault = QStringLiteral("\"%1\" is no image");
+    }
+    m_faults.insert(path, fault);
+    return fault;
+}
+
+void PxThemeImageCheck::checkImage(const Image &image, PxFindings *findings)
+{
+    const QString fault = isCompiledIn(image.path) ? QString() : this->fault(image.path);
+    if (fault.isEmpty())
+        return;
+    const QString written = image.attribute->value;
+    const QString lowered = written.toLower();
+    const bool isLowered = written != lowered && !QFileInfo::exists(image.path);
+    m_file.add(findings, isLowered ? "theme-image-path-lowered" : "theme-image-missing",
+               image.attribute->valueRange,
+               isLowered ? QStringLiteral("\"%1\" is looked up as \"%2\", which is not there")
+                               .arg(written, lowered)
+                         : fault.arg(lowered),
+               image.now, hint(image));
+}
+
+QString PxThemeImageCheck::hint(const Image &image)
+{
+    const QString written = image.attribute->value;
+    const QString lowered = written.toLower();
+    const QFileInfo info(image.path);
+    if (info.exists() || m_hintsLeft-- <= 0)
+        return QString();
+    // The path as it is written, from the same directory: lower-casing changes what is behind it.
+    const QString asWritten =
+        image.path.endsWith(lowered) ? image.path.chopped(lowered.size()) + written : QString();
+    if (written != lowered && QFileInfo::exists(asWritten))
+        return QStringLiteral("rename the file to lower case");
+    const QString name = PxSpelling::nearest(info.fileName(), namesBeside(image.path));
+    if (name.isEmpty())
+        return QString();
+    const QString directory = lowered.left(lowered.lastIndexOf(QLatin1Char('/')) + 1);
+    return QStringLiteral("did you mean \"%1\"?").arg(directory + name);
+}
+
+/** The names in the directory that can be found at all. */
+QStringList PxThemeImageCheck::namesBeside(const QString &path)
+{
+    constexpr int maximumNames = 1000;
+    const QString directory = QFileInfo(path).path();
+    const auto known = m_names.constFind(directory);
+    if (known != m_names.constEnd())
+        return *known;
+    QStringList names;
+    for (const QString &name : QDir(directory).entryList(QDir::Files)) {
+        if (name == name.toLower() && names.size() < maximumNames)
+            names.append(name);
+    }
+    m_names.insert(directory, names);
+    return names;
+}

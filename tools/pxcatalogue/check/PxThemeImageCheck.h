@@ -1,0 +1,41 @@
+#pragma once
+
+#include "check/PxCheckedFile.h"
+
+#include <QHash>
+
+/** Checks whether the images that a theme file names are there, where the library looks for them.
+ */
+class PxThemeImageCheck
+{
+public:
+    /** The file must outlive the check. */
+    explicit PxThemeImageCheck(const PxCheckedFile &file) : m_file(file) {}
+
+    /** The image is a path in the resource directories. */
+    void checkLogo(const PxSourceElement &logo, PxFindings *findings);
+    /** A relative one is kept for finish(). */
+    void checkThumbnail(const PxSourceElement &theme, PxFindings *findings);
+    /** When all thumbnails have been checked. */
+    void finish(PxFindings *findings);
+
+private:
+    /** An attribute that names an image, and the file that the library opens for it. */
+    struct Image
+    {
+        const PxSourceAttribute *attribute;
+        QString path;
+        QLatin1String now;
+    };
+
+    QString fault(const QString &path);
+    void checkImage(const Image &image, PxFindings *findings);
+    QString hint(const Image &image);
+    QStringList namesBeside(const QString &path);
+
+    const PxCheckedFile &m_file;
+    QVector<const PxSourceAttribute *> m_relativeThumbnails;
+    QHash<QString, QString> m_faults;    ///< by path
+    QHash<QString, QStringList> m_names; ///< by directory
+    int m_hintsLeft = 100; // guessing takes time, and so many mistakes are no slips of the pen
+};

@@ -1,0 +1,75 @@
+#include "check/PxThemeLogoCheck.h"
+
+#include "check/PxListedProductTypes.h"
+#include "check/PxThemeImageCheck.h"
+
+#include <PxProductType.h>
+#include <PxXMLParser.h>
+
+#include <limits>
+
+void PxThemeLogoCheck::run(const PxSourceElement &logos, PxFindings *findings)
+{
+    m_logos.clear();
+    for (const PxSourceElement *logo : logos.children) { // whatever they are called
+        checkProduct(*logo, findings);
+        checkPlace(*logo, findings);
+        m_images.checkLogo(*logo, findings);
+    }
+}
+
+void PxThemeLogoCheck::checkProduct(const PxSourceElement &logo, PxFindings *findings)
+{
+    const QString booktype = QStringLiteral("booktype");
+    const QString name = logo.value(booktype);
+    const QString now = QStringLiteral("the logo belongs to no product");
+    const PxProductType type(name.toUpper());
+    if (name.trimmed().isEmpty()) {
+        m_file.add(
+            findings, "theme-logo-product-missing", logo.rangeOf(booktype),
+            QStringLiteral("the logo names no product: \"booktype\" is %1")
+                .arg(logo.attribute(booktype) ? QLatin1String("empty") : QLatin1String("missing")),
+            now);
+    } else if (type.isValid()) {
+        const PxSourceElement *&known = m_logos[int(type.type())];
+        if (known)
+            m_file.add(findings, "theme-logo-twice", logo.rangeOf(booktype),
+                       QStringLiteral("%1 has a logo in line %2, too")
+                           .arg(type.productName())
+                           .arg(m_file.place(known->nameRange).line),
+                       QStringLiteral("the later one is used, image and place together"));
+        known = &logo;
+    } else if (!m_types.isEmpty() && !m_types.isListed(name)) {
+        m_file.add(findings, "theme-logo-product-unknown", logo.rangeOf(booktype),
+                   QStringLiteral("\"%1\" is no known product name").arg(name), now,
+                   m_types.hint(name));
+    }
+}
+
+void PxThemeLogoCheck::checkPlace(const PxSourceElement &logo, PxFindings *findings)
+{
+    const QRect rect = PxXMLParser::readRect(logo.dom);
+    if (!rect.isEmpty())
+        return;
+    constexpr int unreadable = std::numeric_limits<int>::min();
+    QStringList missing;
+    QString culprit = QStringLiteral("width");
+    for (const QString &side : {QStringLiteral("height"), QStringLiteral("width")}) {
+        const int length = PxXMLParser::intAttribute(logo.dom, side, unreadable);
+        if (!logo.attribute(side))
+            missing.prepend(QLatin1Char('"') + side + QLatin1Char('"'));
+        else if (length == unreadable)
+            return; // no number, which is told where values are checked
+        else if (length < 1)
+            culprit = side;
+    }
+    if (missing.isEmpty())
+        m_file.add(findings, "theme-logo-without-place", logo.rangeOf(culprit),
+                   QStringLiteral("the place of the logo is empty or too far out"),
+                   QStringLiteral("it is %1 x %2 large").arg(rect.width()).arg(rect.height()));
+    else
+        m_file.add(
+            findings, "theme-logo-without-place", logo.nameRange,
+            QStringLiteral("the logo has no %1").arg(missing.join(QLatin1String(" and no "))),
+            QStringLiteral("it has no place"));
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "check/PxCheckedProduct.h"
+
+/** Checks the variants of a product: whether each is shown. */
+class PxVariantCheck
+{
+public:
+    /** The product must outlive the check. */
+    explicit PxVariantCheck(const PxCheckedProduct &product) : m_product(product) {}
+
+    void run(PxFindings *findings) const;
+
+private:
+    const PxCheckedProduct &m_product;
+};

@@ -1,0 +1,254 @@
+#include "check/PxVocabularyCheck.h"
+
+#include "check/PxKeywordCheck.h"
+#include "check/PxMissingValue.h"
+#include "check/PxSpelling.h"
+#include "check/PxValueCheck.h"
+#include "check/PxVocabularySearch.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+namespace {
+
+QString nameOf(const PxElementRow &row)
+{
+    return QLatin1String(row.name);
+}
+
+/** The name without its namespace prefix. */
+QString localName(const QString &name)
+{
+    return name.mid(name.indexOf(QLatin1Char(':')) + 1);
+}
+
+QString withoutPrefix(const QString &local)
+{
+    return QStringLiteral("names have no prefix here: \"%1\"").arg(local);
+}
+
+/** The attribute that may be meant by a name; none that is given already. */
+QString nearestMissing(const PxSourceElement &element, const PxElementRow &row, const QString &name)
+{
+    QStringList missing;
+    for (const PxAttributeRow &attribute : row.attributes) {
+        if (!element.attribute(QLatin1String(attribute.name)))
+            missing.append(QLatin1String(attribute.name));
+    }
+    return PxSpelling::nearest(name, missing);
+}
+
+/** What XML itself, or a schema, has to say. */
+bool isOfXml(const QString &attribute)
+{
+    const QString prefix = attribute.section(QLatin1Char(':'), 0, 0);
+    return prefix == QLatin1String("xmlns") || prefix == QLatin1String("xml") ||
+           prefix == QLatin1String("xsi");
+}
+
+/** The row of the entries in a container of the same name; null for any other element. */
+const PxElementRow *entriesOfSameName(const PxElementRow &row)
+{
+    return row.children.size() == 1 ? PxVocabulary::child(row, nameOf(row)) : nullptr;
+}
+
+/** A container that was taken for one of its entries: what it says is another check's matter. */
+bool isMeantAsEntry(const PxSourceElement &element, const PxElementRow &row)
+{
+    const PxElementRow *entry = entriesOfSameName(row);
+    return entry && entry != &row &&
+           std::any_of(element.attributes.begin(), element.attributes.end(),
+                       [entry](const PxSourceAttribute &attribute) {
+                           return PxVocabulary::attribute(*entry, attribute.name);
+                       });
+}
+
+QString quotedList(QStringList names)
+{
+    names.removeDuplicates();
+    const QString last = names.takeLast();
+    const QString quoted = QLatin1Char('"') + last + QLatin1Char('"');
+    if (names.isEmpty())
+        return quoted;
+    return QLatin1Char('"') + names.join(QLatin1String("\", \"")) + QLatin1String("\" and ") +
+           quoted;
+}
+
+} // namespace
+
+void PxVocabularyCheck::run(PxFindings *findings) const
+{
+    if (!m_file.root() || !isOfKind(*m_file.root()))
+        return;
+    PxFileFindings ofFile(m_file, findings);
+    checkElement({*m_file.root(), PxVocabulary::root(m_kind), nullptr}, ofFile);
+}
+
+/** Whether anything is read from the file; when nothing is, that is told elsewhere. */
+bool PxVocabularyCheck::isOfKind(const PxSourceElement &root) const
+{
+    const QString name = nameOf(PxVocabulary::root(m_kind));
+    switch (m_kind) {
+    case PxFileKind::Product:
+        return root.firstChild(QStringLiteral("product"));
+    case PxFileKind::Theme:
+        return root.name.toLower() == name;
+    case PxFileKind::ProductTypes:
+        return root.name == name;
+    default:
+        return true;
+    }
+}
+
+void PxVocabularyCheck::checkElement(const Place &place, PxFileFindings &findings) const
+{
+    checkAttributes(place, findings);
+    checkText(place, findings);
+    checkChildren(place, findings);
+}
+
+void PxVocabularyCheck::checkAttributes(const Place &place, PxFileFindings &findings) const
+{
+    const PxValueCheck values(findings);
+    for (const PxSourceAttribute &attribute : place.element.attributes) {
+        if (findings.isFull())
+            return;
+        const PxAttributeRow *row = PxVocabulary::attribute(place.row, attribute.name);
+        const PxElementRow *entry = entriesOfSameName(place.row);
+        if (row)
+            values.check(place.element, *row, attribute);
+        else if (!isOfXml(attribute.name) &&
+                 !(entry && PxVocabulary::attribute(*entry, attribute.name)))
+            addUnknownAttribute(place, attribute, findings);
+    }
+}
+
+void PxVocabularyCheck::addUnknownAttribute(const Place &place, const PxSourceAttribute &attribute,
+                                            PxFileFindings &findings) const
+{
+    const QString local = localName(attribute.name);
+    const bool hasPrefix = local != attribute.name;
+    const PxVocabularySearch search(PxVocabulary::root(m_kind), place.row, place.parent);
+    const QStringList owners = search.ownersOf(attribute.name);
+    if (hasPrefix ? !PxVocabulary::attribute(place.row, local) : !place.parent && owners.isEmpty())
+        return; // somebody else's, or a note about the file as a whole, as its version
+
+    QString now;
+    QString hint;
+    const QString meant = nearestMissing(place.element, place.row, attribute.name);
+    // The same letters are a better guess than another element, and that one than other letters.
+    if (hasPrefix) {
+        hint = withoutPrefix(local);
+    } else if (!owners.isEmpty() && meant.compare(attribute.name, Qt::CaseInsensitive) != 0) {
+        hint = QStringLiteral("it is read on %1").arg(quotedList(owners));
+    } else if (!meant.isEmpty()) {
+        hint = QStringLiteral("did you mean \"%1\"?").arg(meant);
+        now = PxMissingValue::text(place.element, *PxVocabulary::attribute(place.row, meant));
+    }
+    findings.add("attribute-unknown", attribute.nameRange,
+                 QStringLiteral("\"%1\" is not read on \"%2\"")
+                     .arg(PxKeywordCheck::shown(attribute.name), place.element.name),
+                 now.isEmpty() ? now : QStringLiteral("\"%1\" is missing: %2").arg(meant, now),
+                 hint);
+}
+
+void PxVocabularyCheck::checkText(const Place &place, PxFileFindings &findings) const
+{
+    if (place.row.text != PxTextKind::None)
+        return;
+    // There each piece of text counts as an element, which is worse and told elsewhere.
+    if (m_kind == PxFileKind::Theme &&
+        (!place.parent || place.element.name == QLatin1String("keyaccounts")))
+        return;
+    const QVector<PxSourceNode> &nodes = place.element.nodes;
+    const auto text = std::find_if(nodes.begin(), nodes.end(),
+                                   [](const PxSourceNode &node) { return node.isText; });
+    if (text == nodes.end())
+        return;
+    const PxRows<PxElementRow> &children = place.row.children;
+    const bool isOfChild = children.size() == 1 && children.begin()->text != PxTextKind::None;
+    findings.add("text-not-read", text->range,
+                 QStringLiteral("the text \"%1\" is not read in \"%2\"")
+                     .arg(PxKeywordCheck::shown(text->text.simplified()), place.element.name),
+                 QString(),
+                 isOfChild
+                     ? QStringLiteral("put it into a \"%1\" element").arg(nameOf(*children.begin()))
+                     : QString());
+}
+
+void PxVocabularyCheck::checkChildren(const Place &place, PxFileFindings &findings) const
+{
+    QHash<QString, const PxSourceElement *> first;
+    bool isFlat = false;
+    for (const PxSourceElement *child : place.element.children) {
+        if (findings.isFull())
+            return;
+        const PxElementRow *row = PxVocabulary::child(place.row, child->name);
+        if (!row) {
+            addUnknownElement(place, *child, findings);
+            continue;
+        }
+        isFlat = isFlat || isMeantAsEntry(*child, *row);
+        const bool isRepeated =
+            row->occurrence == PxOccurrence::First && first.contains(child->name);
+        if (!isRepeated) {
+            first.insert(child->name, child);
+            checkElement({*child, *row, &place.row}, findings);
+        } else if (!isFlat || !entriesOfSameName(*row)) {
+            addRepeated(place, *child, *first.value(child->name), findings);
+        }
+    }
+}
+
+void PxVocabularyCheck::addRepeated(const Place &place, const PxSourceElement &child,
+                                    const PxSourceElement &first, PxFileFindings &findings) const
+{
+    const PxElementRow &row = *PxVocabulary::child(place.row, child.name);
+    QString hint = QStringLiteral("keep the one that is meant");
+    if (!place.parent && row.children.size() > 1)
+        hint = QStringLiteral("give each \"%1\" a file of its own").arg(child.name);
+    else if (!row.children.isEmpty())
+        hint = QStringLiteral("move what it holds into the first one");
+    findings.add("element-repeated", child.nameRange,
+                 QStringLiteral("another \"%1\" in \"%2\"").arg(child.name, place.element.name),
+                 QStringLiteral("only the first one is read, in line %1")
+                     .arg(findings.line(first.nameRange)),
+                 hint);
+}
+
+void PxVocabularyCheck::addUnknownElement(const Place &place, const PxSourceElement &child,
+                                          PxFileFindings &findings) const
+{
+    const QString local = localName(child.name);
+    const bool hasPrefix = local != child.name;
+    if (hasPrefix && !PxVocabulary::child(place.row, local))
+        return; // somebody else's
+    const QString now =
+        place.row.text == PxTextKind::None
+            ? QStringLiteral("nothing in it is read")
+            : QStringLiteral("its text counts as text of \"%1\"").arg(place.element.name);
+    const PxVocabularySearch search(PxVocabulary::root(m_kind), place.row, place.parent);
+    const PxElementRow *owner = hasPrefix ? nullptr : search.parentOf(child.name);
+    if (owner) {
+        const QString into = owner == &PxVocabulary::root(m_kind)
+                                 ? QStringLiteral("the document element")
+                                 : QLatin1Char('"') + nameOf(*owner) + QLatin1Char('"');
+        findings.add("element-misplaced", child.nameRange,
+                     QStringLiteral("\"%1\" directly below \"%2\" is not read")
+                         .arg(child.name, place.element.name),
+                     now,
+                     (owner == place.parent ? QStringLiteral("move it out, into %1")
+                                            : QStringLiteral("put it into %1"))
+                         .arg(into));
+        return;
+    }
+    QString hint = hasPrefix ? withoutPrefix(local)
+                             : PxSpelling::hint(local, PxVocabulary::childNames(place.row));
+    if (hint.isEmpty())
+        hint = PxSpelling::hint(local, search.elementNames());
+    findings.add("element-unknown", child.nameRange,
+                 QStringLiteral("\"%1\" is not read in \"%2\"")
+                     .arg(PxKeywordCheck::shown(child.name), place.element.name),
+                 now, hint);
+}
