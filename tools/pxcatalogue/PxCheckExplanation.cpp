@@ -1,5 +1,6 @@
 #include "PxCheckExplanation.h"
 
+#include "PxTerminal.h"
 #include "check/PxCheckTags.h"
 
 #include <QStringList>
@@ -95,9 +96,10 @@ QString sectionOf(const PxCheckTag &tag)
 
 QString PxCheckExplanation::of(const PxCheckTag &tag)
 {
-    QString text = QStringLiteral("%1 (%2): %3\n\n%4\n")
-                       .arg(QLatin1String(tag.name), severityOf(tag),
-                            QString::fromUtf8(tag.summary), QString::fromUtf8(tag.explanation));
+    QString text =
+        QStringLiteral("%1 (%2): %3\n\n%4\n")
+            .arg(QLatin1String(tag.name), severityOf(tag), QString::fromUtf8(tag.summary),
+                 PxTerminal::wrapped(QString::fromUtf8(tag.explanation), PxTerminal::columns()));
     if (tag.needsCatalogue)
         text += QLatin1String("\nOnly found when the whole catalogue is checked.\n");
     if (qstrlen(tag.bad) > 0)

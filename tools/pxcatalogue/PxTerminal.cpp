@@ -3,6 +3,8 @@
 #include <QFile>
 #include <QJsonDocument>
 
+#include <QStringList>
+
 #include <cstdio>
 
 #include <sys/ioctl.h>
@@ -73,6 +75,21 @@ bool PxTerminal::write(const QByteArray &output)
         return true;
     printError(QStringLiteral("cannot write the output: ") + file.errorString());
     return false;
+}
+
+QString PxTerminal::wrapped(const QString &text, int width)
+{
+    QString lines;
+    int column = 0;
+    const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString &word : words) {
+        const bool isBreak = column > 0 && column + 1 + word.size() > width;
+        if (column > 0)
+            lines += QLatin1Char(isBreak ? '\n' : ' ');
+        column = isBreak || column == 0 ? word.size() : column + 1 + word.size();
+        lines += word;
+    }
+    return lines;
 }
 
 void PxTerminal::printError(const QString &message)

@@ -22,6 +22,9 @@ public:
 
     /** To stdout. Answers false when that cannot be done, which is told on stderr. */
     static bool write(const QByteArray &output);
+    /** Broken into lines of at most so many characters, if its words allow. */
+    static QString wrapped(const QString &text, int width);
+
     /** One line on stderr, with the name of the program before it. */
     static void printError(const QString &message);
 };
