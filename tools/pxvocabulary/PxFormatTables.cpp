@@ -1,0 +1,294 @@
+#include "PxFormatTables.h"
+
+#include "vocabulary/PxKeywordRows.h"
+#include "vocabulary/PxVocabulary.h"
+
+#include <QMap>
+#include <QVector>
+
+#include <algorithm>
+
+namespace {
+
+/** The cells that tables choose from. */
+struct Line
+{
+    QString element;
+    QString attribute;
+    QString keyword;
+    QString value;
+    QString type;
+    QString absent;
+    QString meaning;
+    QString size;
+    QString place; ///< element and attribute in one cell
+};
+
+struct Column
+{
+    const char *heading;
+    QString Line::*cell;
+};
+
+using Lines = QVector<Line>;
+using Columns = QVector<Column>;
+using Kind = PxFileKind;
+
+enum class Attributes {
+    Main,      ///< with one line for each section that has a table of its own
+    OfSections ///< those that the main table leaves out
+};
+
+constexpr Column type = {"Type", &Line::type};
+constexpr Column absent = {"Absent", &Line::absent};
+constexpr Column absentOrUnreadable = {"Absent or unreadable", &Line::absent};
+constexpr Column meaning = {"Meaning", &Line::meaning};
+
+QString code(const char *name)
+{
+    return QStringLiteral("`%1`").arg(QString::fromUtf8(name));
+}
+
+const PxElementRow &at(Kind kind, const char *path)
+{
+    return *PxVocabulary::find(kind, QLatin1String(path));
+}
+
+Line attributeLine(const PxAttributeRow &row, const QString &names)
+{
+    Line line;
+    line.attribute = names;
+    line.type = PxVocabulary::typeName(row);
+    line.absent = QString::fromUtf8(row.absent);
+    line.meaning = QString::fromUtf8(row.meaning);
+    return line;
+}
+
+Lines attributeLines(const PxElementRow &element, Attributes which = Attributes::Main)
+{
+    Lines lines;
+    const PxAttributeRow *const end = element.attributes.end();
+    for (const PxAttributeRow *row = element.attributes.begin(); row != end;) {
+        const PxAttributeRow *next = row + 1;
+        if (row->section && which == Attributes::Main) {
+            next = std::find_if(next, end, [row](const PxAttributeRow &other) {
+                return other.section != row->section;
+            });
+            Line line =
+                attributeLine(*row, code(row->name) + QStringLiteral(" … ") + code(next[-1].name));
+            line.absent.clear();
+            line.meaning = QString::fromUtf8(row->section);
+            lines.append(line);
+        } else {
+            next =
+                std::find_if(next, end, [](const PxAttributeRow &other) { return other.meaning; });
+            QStringList names;
+            for (const PxAttributeRow *named = row; named != next; ++named)
+                names.append(code(named->name));
+            const QLatin1String separator(row->type == PxValueType::RectanglePart ? " " : ", ");
+            if (row->section || which == Attributes::Main)
+                lines.append(attributeLine(*row, names.join(separator)));
+        }
+        row = next;
+    }
+    return lines;
+}
+
+/** One line for an element with contents of its own, else one for each attribute. */
+Lines elementLines(const PxElementRow &row)
+{
+    Lines lines;
+    if (row.contents || row.absent) {
+        Line line;
+        line.type = QString::fromUtf8(row.contents);
+        line.absent = QString::fromUtf8(row.absent);
+        line.meaning = QString::fromUtf8(row.meaning);
+        lines.append(line);
+    } else {
+        lines = attributeLines(row);
+    }
+    for (Line &line : lines) {
+        line.element = code(row.name);
+        line.place = QStringLiteral("%1 %2").arg(line.element, line.attribute).trimmed();
+    }
+    return lines;
+}
+
+Lines childLines(const PxElementRow &parent)
+{
+    Lines lines;
+    for (const PxElementRow &child : parent.children)
+        lines += elementLines(child);
+    return lines;
+}
+
+Lines keywordLines(PxKeywordSet set)
+{
+    Lines lines;
+    for (const PxKeywordTableRow &row : PxVocabulary::keywords(set).keywords) {
+        if (!row.meaning) {
+            lines.last().keyword += QStringLiteral(", ") + code(row.keyword);
+            continue;
+        }
+        Line line;
+        line.keyword = code(row.keyword);
+        if (row.note)
+            line.keyword += QStringLiteral(" (%1)").arg(QString::fromUtf8(row.note));
+        line.value = QString::number(row.value);
+        line.meaning = QString::fromUtf8(row.meaning);
+        line.size = QString::fromUtf8(row.size);
+        lines.append(line);
+    }
+    return lines;
+}
+
+QStringList table(const Columns &columns, const Lines &lines)
+{
+    QString headings(QLatin1Char('|'));
+    QString rule(QLatin1Char('|'));
+    for (const Column &column : columns) {
+        headings += QStringLiteral(" %1 |").arg(QLatin1String(column.heading));
+        rule += QStringLiteral("---|");
+    }
+    QStringList rows = {headings, rule};
+    for (const Line &line : lines) {
+        QString row(QLatin1Char('|'));
+        for (const Column &column : columns) {
+            const QString cell = line.*column.cell;
+            row += cell.isEmpty() ? QStringLiteral(" |") : QStringLiteral(" %1 |").arg(cell);
+        }
+        rows.append(row);
+    }
+    return rows;
+}
+
+QStringList attributeTable(const char *heading, const Column &absence, const Lines &lines)
+{
+    return table({{heading, &Line::attribute}, type, absence, meaning}, lines);
+}
+
+QStringList attributeTable(Kind kind, const char *path, const Column &absence = absentOrUnreadable)
+{
+    return attributeTable("Attribute", absence, attributeLines(at(kind, path)));
+}
+
+void addElementTables(QMap<QString, QStringList> *tables)
+{
+    const PxElementRow &product = at(Kind::Product, "product");
+    tables->insert("product attributes", attributeTable(Kind::Product, "product"));
+    tables->insert("product size attributes",
+                   attributeTable("Attribute of `product`", absentOrUnreadable,
+                                  attributeLines(product, Attributes::OfSections)));
+    tables->insert("usablesize attributes",
+                   attributeTable("Attribute of `usablesize`", absentOrUnreadable,
+                                  attributeLines(at(Kind::Product, "product/usablesize"))));
+    tables->insert("spine attributes",
+                   attributeTable("Attribute of `spine`", absentOrUnreadable,
+                                  attributeLines(at(Kind::Product, "product/spines/spine"))));
+    tables->insert("surrounding attributes",
+                   attributeTable(Kind::Product, "product/surroundings/surrounding", absent));
+    tables->insert("defaults attributes",
+                   attributeTable(Kind::Product, "product/defaults/defaults", absent));
+    tables->insert("rotationredirect attributes",
+                   attributeTable(Kind::Product, "product/rotationredirects/rotationredirect"));
+    tables->insert("contentredirect attributes",
+                   attributeTable(Kind::Product, "product/contentredirects/contentredirect"));
+    tables->insert("barcode attributes", attributeTable(Kind::Product, "product/barcodes/barcode"));
+    tables->insert("production elements",
+                   table({{"Element", &Line::element},
+                          {"Contents", &Line::type},
+                          {"Absent or empty", &Line::absent},
+                          meaning},
+                         elementLines(at(Kind::Product, "product/productionnumbering")) +
+                             elementLines(at(Kind::Product, "product/pageswithcontent")) +
+                             elementLines(at(Kind::Product, "product/extra_production_pages"))));
+    tables->insert("item elements",
+                   table({{"In `item`", &Line::place}, type, absentOrUnreadable, meaning},
+                         childLines(at(Kind::Product, "product/extra_production_pages/item"))));
+    tables->insert("pageNumberConfig elements",
+                   table({{"Child", &Line::element},
+                          {"Attribute", &Line::attribute},
+                          type,
+                          absentOrUnreadable,
+                          meaning},
+                         childLines(at(Kind::Product, "product/pageNumberConfig"))));
+    tables->insert("classification attributes",
+                   attributeTable(Kind::Product, "product/classification", absent));
+    tables->insert("producttype attributes", attributeTable(Kind::ProductTypes, "producttype"));
+    tables->insert("frame attributes", table({{"Attribute", &Line::attribute}, type, meaning},
+                                             attributeLines(at(Kind::Frames, "frame"))));
+    tables->insert("theme attributes", attributeTable(Kind::Theme, "theme"));
+    tables->insert("theme elements", table({{"Element", &Line::element},
+                                            {"Attribute", &Line::attribute},
+                                            type,
+                                            absentOrUnreadable,
+                                            meaning},
+                                           childLines(at(Kind::Theme, "theme"))));
+    tables->insert("logo attributes", attributeTable(Kind::Theme, "theme/logos/logo"));
+    tables->insert("defaultcategories attributes",
+                   table({{"Attribute", &Line::attribute}, {"Material", &Line::meaning}},
+                         attributeLines(at(Kind::Theme, "theme/defaultcategories"))));
+}
+
+void addKeywordTables(QMap<QString, QStringList> *tables)
+{
+    constexpr Column keyword = {"Keyword", &Line::keyword};
+    constexpr Column value = {"Value", &Line::value};
+    const struct
+    {
+        PxKeywordSet set;
+        Columns columns;
+    } rows[] = {
+        {PxKeywordSet::Binding, {keyword, value, {"Binding", &Line::meaning}}},
+        {PxKeywordSet::Paper, {keyword, value, {"Paper", &Line::meaning}}},
+        {PxKeywordSet::SizeClass, {keyword, value, {"Class", &Line::meaning}}},
+        {PxKeywordSet::PageType, {keyword, value, {"Page", &Line::meaning}, {"Size", &Line::size}}},
+        {PxKeywordSet::PageNamingStyle, {keyword, value}},
+        {PxKeywordSet::AssemblyWay, {keyword, value, {"Who", &Line::meaning}}},
+        {PxKeywordSet::ImageEffect, {keyword, value, {"Effect", &Line::meaning}}},
+        {PxKeywordSet::SurroundingType, {keyword, value, {"Painted", &Line::meaning}}},
+        {PxKeywordSet::Alignment, {keyword, value, {"Position", &Line::meaning}}},
+        {PxKeywordSet::ProductGroup, {keyword, value, {"Group", &Line::meaning}}},
+        {PxKeywordSet::Orientation, {keyword, value}},
+        {PxKeywordSet::Material, {keyword, {"Display name", &Line::meaning}}},
+    };
+    for (const auto &row : rows)
+        tables->insert(QLatin1String(PxVocabulary::keywords(row.set).name) + " keywords",
+                       table(row.columns, keywordLines(row.set)));
+}
+
+} // namespace
+
+PxFormatTables::PxFormatTables(const QString &document)
+{
+    const QString start = QStringLiteral("<!-- table: ");
+    const QString end = QStringLiteral("<!-- end of table -->");
+    QMap<QString, QStringList> tables;
+    addElementTables(&tables);
+    addKeywordTables(&tables);
+
+    bool isInTable = false;
+    for (const QString &line : document.split(QLatin1Char('\n'))) {
+        if (line == end) {
+            if (!isInTable)
+                m_problems.append(QStringLiteral("an end of table without a table"));
+            isInTable = false;
+        } else if (line.startsWith(start)) {
+            const QString name = line.mid(start.size()).section(QStringLiteral(" -->"), 0, 0);
+            if (isInTable)
+                m_problems.append(QStringLiteral("no end of table before \"%1\"").arg(name));
+            if (!tables.contains(name))
+                m_problems.append(QStringLiteral("table \"%1\" is not known, or twice").arg(name));
+            m_lines.append(line);
+            m_lines += tables.take(name);
+            isInTable = true;
+            continue;
+        }
+        if (!isInTable)
+            m_lines.append(line);
+    }
+    if (isInTable)
+        m_problems.append(QStringLiteral("no end of the last table"));
+    for (auto left = tables.keyBegin(); left != tables.keyEnd(); ++left)
+        m_problems.append(QStringLiteral("no table \"%1\"").arg(*left));
+}
