@@ -1,7 +1,8 @@
 #include "check/PxBarcodeCheck.h"
 
+#include "check/PxElementReading.h"
 #include "check/PxImageCheck.h"
-#include "check/PxPlainReading.h"
+#include "check/PxMessageText.h"
 #include "check/PxProductPages.h"
 
 #include <algorithm>
@@ -13,17 +14,17 @@ constexpr int maximumBarcodes = 100;
 
 bool isPageNrPlain(const PxSourceElement &barcode)
 {
-    return PxPlainReading::hasOnly(
-               barcode, {"x", "y", "width", "height", "pageNr", "reverseOrder", "image"}) &&
-           PxPlainReading::isInt(barcode, "pageNr") &&
-           PxPlainReading::isBool(barcode, "reverseOrder");
+    const PxElementReading reading(barcode);
+    return reading.hasOnlyKnown() && reading.isReadable(QStringLiteral("pageNr")) &&
+           reading.isReadable(QStringLiteral("reverseOrder"));
 }
 
 bool isRectPlain(const PxSourceElement &barcode)
 {
-    constexpr const char *names[] = {"x", "y", "width", "height"};
-    return std::all_of(std::begin(names), std::end(names),
-                       [&](const char *name) { return PxPlainReading::isInt(barcode, name); });
+    const PxElementReading reading(barcode);
+    return reading.isReadable(QStringLiteral("x")) && reading.isReadable(QStringLiteral("y")) &&
+           reading.isReadable(QStringLiteral("width")) &&
+           reading.isReadable(QStringLiteral("height"));
 }
 
 } // namespace
@@ -124,10 +125,10 @@ bool PxBarcodeCheck::checkReach(int index, const QVector<Place> &places, PxFindi
     const int shadow = shadowOf(index, places);
     if (shadow < 0 || !isPageNrPlain(*m_elements[shadow]))
         return true;
-    const int line = m_product.file().place(m_elements[shadow]->nameRange).line;
     m_product.add(findings, tag, element.nameRange,
                   QStringLiteral("a second barcode for page %1").arg(places.constFirst().page),
-                  QStringLiteral("the one in line %1 is used").arg(line));
+                  QStringLiteral("the one in %1 is used")
+                      .arg(PxMessageText::line(m_product.file(), m_elements[shadow]->nameRange)));
     return false;
 }
 

@@ -2,7 +2,7 @@
 
 #include "check/PxFramesCheck.h"
 #include "check/PxListedProductTypes.h"
-#include "check/PxPlaceText.h"
+#include "check/PxMessageText.h"
 #include "check/PxProductTypesCheck.h"
 
 #include <PxDirectoryConfig.h>
@@ -97,7 +97,8 @@ bool PxCatalogueCheck::checkNames(PxFindings *findings) const
             findings->add(
                 isSameKind ? "product-name-twice" : "product-current-and-legacy", product.name,
                 QStringLiteral("%1 is also in %2")
-                    .arg(product.type.productName(), pxPlaceText(first->name, product.name.path)),
+                    .arg(product.type.productName(),
+                         PxMessageText::place(first->name, product.name.path)),
                 isSameKind ? QStringLiteral("which of the two is used depends on the file system")
                            : QStringLiteral("it is a current and an older product, each with its "
                                             "own description"));
@@ -111,7 +112,7 @@ bool PxCatalogueCheck::checkNames(PxFindings *findings) const
 
 void PxCatalogueCheck::checkPredecessors(PxFindings *findings) const
 {
-    PxListedProductTypes types;
+    PxListedProductTypes &types = PxListedProductTypes::instance();
     QMap<PxProductType, const Product *> successors;
     for (const Product &product : m_products) {
         const PxProductType legacy(product.legacyName);
@@ -129,7 +130,7 @@ void PxCatalogueCheck::checkPredecessors(PxFindings *findings) const
             findings->add("legacy-claimed-twice", product.legacy,
                           QStringLiteral("%1 is also replaced by %2, in %3")
                               .arg(legacy.productName(), other->type.productName(),
-                                   pxPlaceText(other->legacy, product.legacy.path)),
+                                   PxMessageText::place(other->legacy, product.legacy.path)),
                           QStringLiteral("either of the two may be found for it"));
         else
             other = &product;

@@ -4,6 +4,7 @@
 #include "check/PxDesignCheck.h"
 #include "check/PxLayoutCheck.h"
 #include "check/PxProductCheck.h"
+#include "check/PxSpelling.h"
 #include "check/PxThemeCheck.h"
 #include "check/PxVocabularyCheck.h"
 
@@ -12,29 +13,22 @@
 void PxCheck::run(PxFindings *findings)
 {
     PxThemeCheck themes;
-    checkThemes(&themes, findings);
-
+    const bool isEveryThemeRead =
+        checkFiles(m_paths.themes, PxFileKind::Theme, findings,
+                   [&](const PxCheckedFile &file) { themes.checkFile(file, findings); });
+    addKnownThemes(&themes);
     PxCatalogueCheck catalogue;
-    if (!m_paths.productTypes.isEmpty()) {
-        const PxCheckedFile file(m_paths.productTypes);
-        checkReading(file, findings);
-        if (file.isRead()) {
-            PxVocabularyCheck(file, PxFileKind::ProductTypes).run(findings);
-            catalogue.checkProductTypes(file, findings);
-        }
-    }
-    if (!m_paths.frames.isEmpty()) {
-        const PxCheckedFile file(m_paths.frames);
-        checkReading(file, findings);
-        if (file.isRead()) {
-            PxVocabularyCheck(file, PxFileKind::Frames).run(findings);
-            catalogue.checkFrames(file, findings);
-        }
-    }
-    const PxDesignCheck design(themeIds(themes));
-    checkProducts(m_paths.products, false, design, &catalogue, findings);
-    checkProducts(m_paths.legacyProducts, true, design, &catalogue, findings);
-    checkUserDefaults(design, findings);
+    checkFiles({m_paths.productTypes}, PxFileKind::ProductTypes, findings,
+               [&](const PxCheckedFile &file) { catalogue.checkProductTypes(file, findings); });
+    checkFiles({m_paths.frames}, PxFileKind::Frames, findings,
+               [&](const PxCheckedFile &file) { catalogue.checkFrames(file, findings); });
+    PxDesignCheck design(isEveryThemeRead ? themes.ids() : QSet<QString>());
+    for (const QStringList *paths : {&m_paths.products, &m_paths.legacyProducts})
+        checkFiles(*paths, PxFileKind::Product, findings, [&](const PxCheckedFile &file) {
+            checkProduct(file, paths == &m_paths.legacyProducts, &design, &catalogue, findings);
+        });
+    checkFiles(m_paths.userDefaults, PxFileKind::UserDefaults, findings,
+               [&](const PxCheckedFile &file) { design.checkUserDefaults(file, findings); });
     findings->setPartial(!m_paths.isCatalogue);
     if (m_paths.isCatalogue) {
         catalogue.finish(findings);
@@ -43,67 +37,58 @@ void PxCheck::run(PxFindings *findings)
     checkStrays(findings);
 }
 
-void PxCheck::checkThemes(PxThemeCheck *check, PxFindings *findings)
+/** What every file is checked for, and then `checkFile`. Answers whether all could be read. */
+template <typename CheckFile>
+bool PxCheck::checkFiles(const QStringList &paths, PxFileKind kind, PxFindings *findings,
+                         CheckFile checkFile)
 {
-    for (const QString &path : m_paths.themes) {
-        const PxCheckedFile file(path);
-        checkReading(file, findings);
-        m_isThemeMissing = m_isThemeMissing || !file.isRead();
-        if (!file.isRead())
-            continue;
-        PxVocabularyCheck(file, PxFileKind::Theme).run(findings);
-        check->checkFile(file, findings);
-    }
-}
-
-void PxCheck::checkProducts(const QStringList &paths, bool isLegacy, const PxDesignCheck &design,
-                            PxCatalogueCheck *catalogue, PxFindings *findings)
-{
+    bool isEveryRead = true;
     for (const QString &path : paths) {
+        if (path.isEmpty())
+            continue;
+        ++m_fileCount;
         const PxCheckedFile file(path);
-        checkReading(file, findings);
+        file.checkReading(findings);
+        file.findAllowances(findings);
+        isEveryRead = isEveryRead && file.isRead();
         if (!file.isRead())
             continue;
-        PxVocabularyCheck(file, PxFileKind::Product).run(findings);
-        if (!file.root()->firstChild(QStringLiteral("product"))) {
-            file.add(findings, "product-element-missing", file.root()->nameRange,
-                     QStringLiteral("no \"product\" element below \"%1\"").arg(file.root()->name),
-                     QStringLiteral("nothing is read from this file"));
-            continue;
-        }
-        const PxCheckedProduct product(file, isLegacy);
-        PxProductCheck(product).run(findings);
-        PxLayoutCheck(product).run(findings);
-        design.checkProduct(product, findings);
-        catalogue->addProduct(product);
+        PxVocabularyCheck(file, kind).run(findings);
+        checkFile(file);
     }
+    return isEveryRead;
 }
 
-void PxCheck::checkUserDefaults(const PxDesignCheck &design, PxFindings *findings)
+void PxCheck::checkProduct(const PxCheckedFile &file, bool isLegacy, PxDesignCheck *design,
+                           PxCatalogueCheck *catalogue, PxFindings *findings) const
 {
-    for (const QString &path : m_paths.userDefaults) {
-        const PxCheckedFile file(path);
-        checkReading(file, findings);
-        if (!file.isRead())
-            continue;
-        PxVocabularyCheck(file, PxFileKind::UserDefaults).run(findings);
-        design.checkUserDefaults(file, findings);
+    const PxSourceElement &root = *file.root();
+    const QString name = QStringLiteral("product");
+    if (!root.firstChild(name)) {
+        QStringList children;
+        for (const PxSourceElement *child : root.children)
+            children.append(child->name);
+        const QString misspelt = PxSpelling::nearest(name, children);
+        file.add(findings, "product-element-missing", root.nameRange,
+                 QStringLiteral("no \"product\" element below \"%1\"").arg(root.name),
+                 QStringLiteral("nothing is read from this file"),
+                 misspelt.isEmpty() ? QString()
+                                    : QStringLiteral("write \"product\" for \"%1\"").arg(misspelt));
+        return;
     }
+    const PxCheckedProduct product(file, isLegacy);
+    PxProductCheck(product).run(findings);
+    PxLayoutCheck(product).run(findings);
+    design->checkProduct(product, findings);
+    catalogue->addProduct(product);
 }
 
-/** Also of themes that are not checked themselves; none when not all can be known. */
-QSet<QString> PxCheck::themeIds(const PxThemeCheck &checked) const
+/** Themes that are not checked themselves. */
+void PxCheck::addKnownThemes(PxThemeCheck *themes) const
 {
-    PxThemeCheck others;
     PxFindings nobodysFindings;
-    bool isComplete = !m_isThemeMissing;
-    for (const QString &path : m_paths.knownThemes) {
-        const PxCheckedFile file(path);
-        isComplete = isComplete && file.isRead();
-        if (file.isRead())
-            others.checkFile(file, &nobodysFindings);
-    }
-    return isComplete ? checked.ids() + others.ids() : QSet<QString>();
+    for (const QString &path : m_paths.knownThemes)
+        themes->checkFile(PxCheckedFile(path), &nobodysFindings);
 }
 
 void PxCheck::checkStrays(PxFindings *findings) const
@@ -117,11 +102,4 @@ void PxCheck::checkStrays(PxFindings *findings) const
                       file.isFile() ? QStringLiteral("files that are read end in \".xml\"")
                                     : QString());
     }
-}
-
-void PxCheck::checkReading(const PxCheckedFile &file, PxFindings *findings)
-{
-    ++m_fileCount;
-    file.checkReading(findings);
-    file.findAllowances(findings);
 }

@@ -2,6 +2,7 @@
 
 #include "check/PxCheckPaths.h"
 #include "check/PxFindings.h"
+#include "vocabulary/PxVocabularyRows.h"
 
 class PxCatalogueCheck;
 class PxCheckedFile;
@@ -19,15 +20,14 @@ public:
     int fileCount() const { return m_fileCount; }
 
 private:
-    void checkThemes(PxThemeCheck *check, PxFindings *findings);
-    void checkProducts(const QStringList &paths, bool isLegacy, const PxDesignCheck &design,
-                       PxCatalogueCheck *catalogue, PxFindings *findings);
-    void checkUserDefaults(const PxDesignCheck &design, PxFindings *findings);
-    QSet<QString> themeIds(const PxThemeCheck &checked) const;
+    template <typename CheckFile>
+    bool checkFiles(const QStringList &paths, PxFileKind kind, PxFindings *findings,
+                    CheckFile checkFile);
+    void checkProduct(const PxCheckedFile &file, bool isLegacy, PxDesignCheck *design,
+                      PxCatalogueCheck *catalogue, PxFindings *findings) const;
+    void addKnownThemes(PxThemeCheck *themes) const;
     void checkStrays(PxFindings *findings) const;
-    void checkReading(const PxCheckedFile &file, PxFindings *findings);
 
     PxCheckPaths m_paths;
     int m_fileCount = 0;
-    bool m_isThemeMissing = false; ///< in a file that cannot be read
 };

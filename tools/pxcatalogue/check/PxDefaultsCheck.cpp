@@ -1,7 +1,7 @@
 #include "check/PxDefaultsCheck.h"
 
 #include "check/PxDefaultsOverrides.h"
-#include "check/PxPlainReading.h"
+#include "check/PxMessageText.h"
 #include "check/PxSourceParts.h"
 #include "check/PxSpelling.h"
 
@@ -16,7 +16,7 @@ constexpr int maximumReported = 100;
 
 QString named(const QString &name)
 {
-    return name.isEmpty() ? QStringLiteral("none") : QLatin1Char('"') + name + QLatin1Char('"');
+    return name.isEmpty() ? QStringLiteral("none") : PxMessageText::quoted(name);
 }
 
 QString templatesText(const PxDefaultsEntry &entry)

@@ -1,6 +1,7 @@
 #include "check/PxDefaultsEntry.h"
 
-#include "check/PxPlainReading.h"
+#include "check/PxElementReading.h"
+#include "vocabulary/PxVocabulary.h"
 
 #include <PxListParts.h>
 #include <geometry/PxDefaultTemplateMap.h>
@@ -9,26 +10,40 @@
 
 namespace {
 
-constexpr auto attributeNames = {"theme",     "pageType", "alignment",
-                                 "templates", "layout",   "background"};
+/** The same in all files that hold entries. */
+const PxElementRow &entryRow()
+{
+    static const PxElementRow &ourRow =
+        *PxVocabulary::find(PxFileKind::UserDefaults, QStringLiteral("defaults/defaults"));
+    return ourRow;
+}
+
+/** As the library takes it: the default where the attribute is missing. */
+QString listOf(const PxSourceElement &entry, const QString &attribute)
+{
+    return entry.dom.attribute(
+        attribute, QLatin1String(PxVocabulary::attribute(entryRow(), attribute)->defaultText));
+}
+
+bool isPlainEntry(const PxSourceElement &element)
+{
+    const PxElementReading reading(element, entryRow());
+    return reading.hasOnlyKnown() && reading.isReadable(QStringLiteral("pageType")) &&
+           reading.isReadable(QStringLiteral("alignment"));
+}
 
 } // namespace
 
 PxDefaultsEntry::PxDefaultsEntry(const PxSourceElement &element)
     : m_element(&element)
-    , m_isPlain(PxPlainReading::hasOnly(element, attributeNames) &&
-                PxPlainReading::isPageTypes(element, "pageType") &&
-                PxPlainReading::isAlignments(element, "alignment"))
-    , m_alignments(EnumHelper::decodeKeywordList(
-          element.dom.attribute(QStringLiteral("alignment"),
-                                QStringLiteral("left,right,top,bottom,center,middle")),
-          EnumHelper::globalMapPageAlignmentString, EnumHelper::globalPageAlignmentDefaultValue))
+    , m_isPlain(isPlainEntry(element))
+    , m_alignments(PxVocabulary::decode(PxKeywordSet::Alignment,
+                                        listOf(element, QStringLiteral("alignment"))))
 {
-    pxForEachPart(element.dom.attribute(QStringLiteral("theme"), QStringLiteral("normal")),
-                  [this](QStringView theme) {
-                      if (!theme.trimmed().isEmpty())
-                          m_themes.append(theme.trimmed().toString());
-                  });
+    pxForEachPart(listOf(element, QStringLiteral("theme")), [this](QStringView theme) {
+        if (!theme.trimmed().isEmpty())
+            m_themes.append(theme.trimmed().toString());
+    });
     m_themes.removeDuplicates();
     pxForEachPart(element.value(QStringLiteral("pageType")), [this](QStringView part) {
         const PxPageTypeEnum pageType = PxPageType(part.trimmed().toString()).value();
@@ -57,7 +72,8 @@ void PxDefaultsEntry::readTemplates()
 
 bool PxDefaultsEntry::isEntry(const PxSourceElement &element)
 {
-    return std::any_of(attributeNames.begin(), attributeNames.end(), [&](const char *name) {
-        return element.attribute(QLatin1String(name)) != nullptr;
-    });
+    return std::any_of(element.attributes.begin(), element.attributes.end(),
+                       [](const PxSourceAttribute &attribute) {
+                           return PxVocabulary::attribute(entryRow(), attribute.name);
+                       });
 }

@@ -1,5 +1,7 @@
 #include "check/PxDefaultsOverrides.h"
 
+#include "check/PxMessageText.h"
+
 #include <PxPageAlignment.h>
 
 namespace {
@@ -55,8 +57,7 @@ QVector<PxDefaultsOverrides::Page> PxDefaultsOverrides::pagesOf(const PxDefaults
 void PxDefaultsOverrides::report(const PxDefaultsEntry &entry, const PxDefaultsEntry &replaced,
                                  bool isWhole, const Page &page, PxFindings *findings) const
 {
-    const QString line =
-        QStringLiteral("line %1").arg(m_file.place(replaced.element().nameRange).line);
+    const QString line = PxMessageText::line(m_file, replaced.element().nameRange);
     const auto [theme, pageType, alignment] = page;
     const QString side =
         EnumHelper::encodeKeyword(static_cast<PxPageAlignment>(alignment),

@@ -6,7 +6,7 @@
 #include "check/PxUserDefaultsCheck.h"
 #include "check/PxVariantCheck.h"
 
-void PxDesignCheck::checkProduct(const PxCheckedProduct &product, PxFindings *findings) const
+void PxDesignCheck::checkProduct(const PxCheckedProduct &product, PxFindings *findings)
 {
     m_productNames.insert(product.element().value(QStringLiteral("name")));
     PxDefaultsCheck(product.file(), product.element(), m_themeIds).run(findings);

@@ -15,8 +15,7 @@ public:
     bool isFull() const { return m_count >= maximumCount; }
     void add(const char *tag, const PxSourceRange &range, const QString &message,
              const QString &now = QString(), const QString &hint = QString());
-    /** Of the place that the range begins at. */
-    int line(const PxSourceRange &range) const { return m_file.place(range).line; }
+    const PxCheckedFile &file() const { return m_file; }
 
 private:
     static constexpr int maximumCount = 1000;

@@ -1,5 +1,7 @@
 #include "check/PxFramesCheck.h"
 
+#include "check/PxMessageText.h"
+
 #include <QHash>
 
 #include <algorithm>
@@ -32,9 +34,8 @@ void PxFramesCheck::run(PxFindings *findings) const
         const PxSourceElement *&known = frames[id];
         if (known)
             m_file.add(findings, "frame-id-twice", range,
-                       QStringLiteral("the frame \"%1\" is in line %2, too")
-                           .arg(id)
-                           .arg(m_file.place(known->nameRange).line),
+                       QStringLiteral("the frame \"%1\" is in %2, too")
+                           .arg(id, PxMessageText::line(m_file, known->nameRange)),
                        QStringLiteral("the later name is shown: \"%1\"")
                            .arg(frame->value(QStringLiteral("name"))));
         else if (!isAscii(id))

@@ -1,5 +1,6 @@
 #include "check/PxKeywordCheck.h"
 
+#include "check/PxMessageText.h"
 #include "check/PxMissingValue.h"
 #include "check/PxSpelling.h"
 #include "vocabulary/PxVocabulary.h"
@@ -22,17 +23,15 @@ QStringList wordsOf(const QString &entry)
 
 } // namespace
 
-PxKeywordCheck::PxKeywordCheck(const PxSourceElement &element, const PxAttributeRow &row,
-                               const PxSourceAttribute &attribute)
+PxKeywordCheck::PxKeywordCheck(const PxCheckedFile &file, const PxSourceElement &element,
+                               const PxAttributeRow &row, const PxSourceAttribute &attribute)
     : m_element(element)
     , m_row(row)
     , m_attribute(attribute)
+    , m_entries(PxSourceParts::ofAttribute(file, element, attribute.name))
 {
-    pxForEachPart(attribute.value, [&](QStringView part) {
-        const QString word = part.trimmed().toString();
-        const int blanks = int(part.indexOf(word));
-        m_entries.append({word, int(part.data() - attribute.value.data()) + blanks});
-    });
+    for (PxSourcePart &entry : m_entries)
+        entry.text = entry.text.trimmed();
 }
 
 void PxKeywordCheck::run(PxFileFindings &findings) const
@@ -52,12 +51,6 @@ void PxKeywordCheck::run(PxFileFindings &findings) const
         checkOneKeyword(findings);
     else
         checkList(findings);
-}
-
-QString PxKeywordCheck::shown(const QString &value)
-{
-    constexpr int maximum = 60;
-    return value.size() <= maximum ? value : value.left(maximum) + QStringLiteral("…");
 }
 
 /** An empty value is the same as none, unless the library reads it as something else. */
@@ -88,17 +81,20 @@ void PxKeywordCheck::checkOneKeyword(PxFileFindings &findings) const
                      QStringLiteral("\"%1\" takes one keyword, not a list").arg(m_attribute.name),
                      now(), QStringLiteral("keep the one that is meant"));
     else
-        checkUnknown({word, m_attribute.value.indexOf(word)}, now(), findings);
+        checkUnknown({word,
+                      {m_entries.constFirst().range.begin, m_entries.constLast().range.end},
+                      m_attribute.valueRange},
+                     now(), findings);
 }
 
 void PxKeywordCheck::checkList(PxFileFindings &findings) const
 {
     bool areKnown = true;
     QString asRead;
-    for (const Entry &entry : m_entries) {
+    for (const PxSourcePart &entry : m_entries) {
         if (findings.isFull())
             return;
-        if (entry.word.isEmpty() || isKnown(entry.word))
+        if (entry.text.isEmpty() || isKnown(entry.text))
             continue;
         if (areKnown)
             asRead = now(); // once: lists may be long
@@ -110,51 +106,50 @@ void PxKeywordCheck::checkList(PxFileFindings &findings) const
         checkRepeated(findings);
 }
 
-void PxKeywordCheck::checkUnknown(const Entry &entry, const QString &asRead,
+void PxKeywordCheck::checkUnknown(const PxSourcePart &entry, const QString &asRead,
                                   PxFileFindings &findings) const
 {
     const QString name = QString::fromUtf8(PxVocabulary::keywords(m_row.keywords).name);
-    const QStringList words = wordsOf(entry.word);
+    const QStringList words = wordsOf(entry.text);
     const auto known = std::count_if(words.begin(), words.end(),
                                      [this](const QString &word) { return isKnown(word); });
     // Blanks belong to some keywords, so that they separate only what leaves nothing open.
     static const QRegularExpression ourMarks(QStringLiteral("[;|/+]"));
     const bool isList =
-        words.size() > 1 && (known == words.size() || (known > 0 && entry.word.contains(ourMarks)));
+        words.size() > 1 && (known == words.size() || (known > 0 && entry.text.contains(ourMarks)));
     if (isList && m_row.type != PxValueType::OneKeyword) {
-        findings.add("keyword-list-separator", rangeOf(entry),
-                     QStringLiteral("\"%1\" is one word, and no %2").arg(shown(entry.word), name),
+        findings.add("keyword-list-separator", entry.range,
+                     QStringLiteral("\"%1\" is one word, and no %2")
+                         .arg(PxMessageText::shortened(entry.text), name),
                      asRead,
                      QStringLiteral("separate with commas: \"%1\"")
-                         .arg(shown(words.join(QLatin1Char(',')))));
+                         .arg(PxMessageText::shortened(words.join(QLatin1Char(',')))));
         return;
     }
     const bool isAlignment = m_row.keywords == PxKeywordSet::Alignment;
-    findings.add(isAlignment ? "alignment-unknown" : "keyword-unknown", rangeOf(entry),
-                 QStringLiteral("\"%1\" is no %2").arg(shown(entry.word), name), asRead,
-                 PxSpelling::hint(entry.word, PxVocabulary::keywordNames(m_row.keywords)));
+    findings.add(isAlignment ? "alignment-unknown" : "keyword-unknown", entry.range,
+                 QStringLiteral("\"%1\" is no %2").arg(PxMessageText::shortened(entry.text), name),
+                 asRead, PxSpelling::hint(entry.text, PxVocabulary::keywordNames(m_row.keywords)));
 }
 
 /** An entry without a word adds the default, which matters where the default is something. */
 bool PxKeywordCheck::checkGap(PxFileFindings &findings) const
 {
     const auto gap = std::find_if(m_entries.begin(), m_entries.end(),
-                                  [](const Entry &entry) { return entry.word.isEmpty(); });
+                                  [](const PxSourcePart &entry) { return entry.text.isEmpty(); });
     if (gap == m_entries.end())
         return false;
     QStringList words;
-    for (const Entry &entry : m_entries) {
-        if (!entry.word.isEmpty())
-            words.append(entry.word);
+    for (const PxSourcePart &entry : m_entries) {
+        if (!entry.text.isEmpty())
+            words.append(entry.text);
     }
     const int without = PxVocabulary::decode(m_row.keywords, words.join(QLatin1Char(',')));
     if (PxVocabulary::decode(m_row.keywords, m_attribute.value) == without && !words.isEmpty())
         return false;
     // The comma before it, or behind it when it is the first.
-    const int comma = gap == m_entries.begin()
-                          ? m_attribute.value.indexOf(QLatin1Char(','))
-                          : m_attribute.value.lastIndexOf(QLatin1Char(','), gap->begin - 1);
-    findings.add("keyword-list-gap", rangeOf({QStringLiteral(","), comma}),
+    const int comma = gap == m_entries.begin() ? gap->whole.end : gap->whole.begin - 1;
+    findings.add("keyword-list-gap", {comma, comma + 1},
                  QStringLiteral("an entry of \"%1\" is empty").arg(m_attribute.name),
                  QStringLiteral("it adds %1")
                      .arg(QString::fromUtf8(PxVocabulary::keywords(m_row.keywords).defaultText)),
@@ -167,9 +162,9 @@ bool PxKeywordCheck::checkSeveral(PxFileFindings &findings) const
     if (m_row.type != PxValueType::Keyword)
         return false;
     QSet<int> values;
-    for (const Entry &entry : m_entries) {
-        if (!entry.word.isEmpty())
-            values.insert(PxVocabulary::decode(m_row.keywords, entry.word));
+    for (const PxSourcePart &entry : m_entries) {
+        if (!entry.text.isEmpty())
+            values.insert(PxVocabulary::decode(m_row.keywords, entry.text));
     }
     if (values.size() < 2)
         return false;
@@ -185,11 +180,12 @@ bool PxKeywordCheck::checkSeveral(PxFileFindings &findings) const
 void PxKeywordCheck::checkRepeated(PxFileFindings &findings) const
 {
     QSet<QString> words;
-    for (const Entry &entry : m_entries) {
-        const QString word = entry.word.toLower();
+    for (const PxSourcePart &entry : m_entries) {
+        const QString word = entry.text.toLower();
         if (words.contains(word) && !word.isEmpty()) {
-            findings.add("keyword-repeated", rangeOf(entry),
-                         QStringLiteral("\"%1\" is in the list already").arg(shown(entry.word)),
+            findings.add("keyword-repeated", entry.range,
+                         QStringLiteral("\"%1\" is in the list already")
+                             .arg(PxMessageText::shortened(entry.text)),
                          QStringLiteral("it counts once"));
             return;
         }
@@ -200,14 +196,6 @@ void PxKeywordCheck::checkRepeated(PxFileFindings &findings) const
 bool PxKeywordCheck::isKnown(const QString &word) const
 {
     return PxVocabulary::isKeyword(m_row.keywords, word);
-}
-
-PxSourceRange PxKeywordCheck::rangeOf(const Entry &entry) const
-{
-    const PxSourceRange &value = m_attribute.valueRange;
-    if (value.end - value.begin != m_attribute.value.size())
-        return value; // written with entities
-    return {value.begin + entry.begin, value.begin + entry.begin + entry.word.size()};
 }
 
 QString PxKeywordCheck::now() const

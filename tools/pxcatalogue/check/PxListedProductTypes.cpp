@@ -3,25 +3,40 @@
 #include "check/PxSpelling.h"
 
 #include <PxDirectoryConfig.h>
-#include <PxProductType.h>
 #include <PxXMLLoader.h>
+
+#include <QDomElement>
+
+#include <algorithm>
+
+PxListedProductTypes &PxListedProductTypes::instance()
+{
+    static PxListedProductTypes ourTypes;
+    return ourTypes;
+}
 
 PxListedProductTypes::PxListedProductTypes()
 {
-    const QDomElement types = PxXMLLoader::loadDocumentElement(
+    const QDomElement catalogue = PxXMLLoader::loadDocumentElement(
         PxDirectoryConfig::instance()->resource(QStringLiteral("producttypes.xml"), false));
     const QString tag = QStringLiteral("producttype");
-    for (QDomElement row = types.firstChildElement(tag); !row.isNull();
+    for (QDomElement row = catalogue.firstChildElement(tag); !row.isNull();
          row = row.nextSiblingElement(tag)) {
         const QString name = row.attribute(QStringLiteral("name"));
         m_keys.insert(key(name));
         const PxProductType type(name);
         if (type.isValid())
-            m_names.append(type.productName());
+            m_types.append(type);
     }
+    // A name that stands there twice is the same type both times.
+    std::sort(m_types.begin(), m_types.end());
+    m_types.erase(std::unique(m_types.begin(), m_types.end()), m_types.end());
+    for (const PxProductType &type : qAsConst(m_types))
+        m_names.append(type.productName());
 }
 
 QString PxListedProductTypes::hint(const QString &name)
 {
-    return m_hintsLeft-- > 0 ? PxSpelling::hint(name, m_names) : QString();
+    m_comparisonsLeft -= qMin(m_comparisonsLeft, m_names.size());
+    return m_comparisonsLeft > 0 ? PxSpelling::hint(name, m_names) : QString();
 }

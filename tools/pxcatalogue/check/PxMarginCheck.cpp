@@ -1,7 +1,6 @@
 #include "check/PxMarginCheck.h"
 
-#include "check/PxIntAttribute.h"
-#include "check/PxMissingName.h"
+#include "check/PxElementReading.h"
 
 #include <algorithm>
 
@@ -49,7 +48,7 @@ void PxMarginCheck::checkNegative(PxFindings *findings) const
     };
     const PxSourceElement &element = m_product.element();
     for (const QString &margin : ourMargins) {
-        const int length = PxIntAttribute(element, margin).number();
+        const int length = PxElementReading(element).number(margin);
         const bool isComputed = margin == foldMargin && length == -1;
         if (length < 0 && !isComputed)
             m_product.add(findings, "margin-negative", element.rangeOf(margin),
@@ -67,7 +66,7 @@ void PxMarginCheck::checkNegativeIndent(PxFindings *findings) const
         return;
     for (const QString &name :
          {QStringLiteral("verticalMargin"), QStringLiteral("horizontalMargin")}) {
-        const int length = PxIntAttribute(*margin, name).number();
+        const int length = PxElementReading(*margin).number(name);
         if (length < 0)
             m_product.add(findings, "margin-negative", margin->rangeOf(name),
                           QStringLiteral("\"%1\" is %2").arg(name).arg(length),
@@ -134,21 +133,19 @@ void PxMarginCheck::checkCoverWidth(PxFindings *findings) const
 {
     const PxSourceElement &element = m_product.element();
     const QSize cover = m_product.description().coverSize();
-    const PxIntAttribute extra(element, coverExtraHorizontal);
-    const bool isMisspelt =
-        !extra.isGiven() &&
-        PxMissingName::isMisspelt(element, coverExtraHorizontal, {coverExtraVertical});
-    if (extra.isUnreadable() || isMisspelt)
+    const PxElementReading reading(element);
+    if (!reading.isReadable(coverExtraHorizontal) || reading.isMisspelt(coverExtraHorizontal))
         return;
+    const int extra = reading.number(coverExtraHorizontal);
     const QString now =
         QStringLiteral("a cover half is %1, a page %2").arg(sizeText(cover), sizeText(m_size));
-    if (extra.number() < 0)
+    if (extra < 0)
         m_product.add(findings, "cover-smaller-than-page", element.rangeOf(coverExtraHorizontal),
                       QStringLiteral("a cover that is %1 narrower than the page")
                           .arg(qint64(m_size.width()) - cover.width()),
                       now);
     else
-        addAdjustment(extra.number(), now, findings);
+        addAdjustment(extra, now, findings);
 }
 
 /** What is not negative in the file has been made so for the sake of the spine. */

@@ -1,6 +1,6 @@
 #include "check/PxNumberListCheck.h"
 
-#include "check/PxPlainReading.h"
+#include "check/PxElementReading.h"
 #include "check/PxProductPages.h"
 #include "check/PxSourceParts.h"
 
@@ -95,7 +95,7 @@ void PxNumberListCheck::checkExtraPage(const PxSourceElement &item, PxFindings *
         place = pages->textRange();
         message = QStringLiteral("no target page");
     } else if (group.content().filename().trimmed().isEmpty() &&
-               PxPlainReading::hasOnly(*pdf, {"filename", "type", "layer"})) {
+               PxElementReading(*pdf).hasOnlyKnown()) {
         place = pdf->rangeOf(QStringLiteral("filename"));
         message = QStringLiteral("no file name");
     } else {

@@ -1,6 +1,6 @@
 #include "check/PxPageEntries.h"
 
-#include "check/PxTextParts.h"
+#include "check/PxSourceParts.h"
 
 #include <algorithm>
 
@@ -17,12 +17,12 @@ PxPageEntries::PxPageEntries(const PxCheckedProduct &product)
     m_isGiven = pages != nullptr;
     if (!pages)
         return;
-    const PxTextParts parts(product.file().source().text(), *pages);
-    for (const PxTextPart &part : parts.parts().mid(0, product.description().countAbstractPages()))
-        m_read.append({part.text, PxPageType(part.text), part.range});
-    m_droppedCount = parts.parts().size() - m_read.size();
+    const QVector<PxSourcePart> parts = PxSourceParts::ofText(product.file(), *pages);
+    for (const PxSourcePart &part : parts.mid(0, product.description().countAbstractPages()))
+        m_read.append({part.text.trimmed(), PxPageType(part.text), part.range});
+    m_droppedCount = parts.size() - m_read.size();
     if (m_droppedCount > 0)
-        m_firstDropped = parts.parts().at(m_read.size()).range;
+        m_firstDropped = parts.at(m_read.size()).range;
 }
 
 bool PxPageEntries::isSound() const

@@ -1,23 +1,14 @@
 #include "check/PxPagesCheck.h"
 
-#include "check/PxMissingName.h"
+#include "check/PxElementReading.h"
 #include "check/PxSpelling.h"
+#include "vocabulary/PxVocabulary.h"
 
 #include <QRegularExpression>
 
 #include <algorithm>
 
 namespace {
-
-/** One keyword of each type of page that a list may hold. */
-const QStringList &keywords()
-{
-    constexpr int types = PxPageTypeAll | PxPageTypeNormalPages | PxPageTypeSimplexMonthCalendar |
-                          PxPageTypeDuplexMonthCalendar | PxPageTypeSimplexYearCalendar;
-    static const QStringList ourKeywords =
-        PxPageType().enumToStringTable()->encodeAsList(static_cast<PxPageTypeEnum>(types));
-    return ourKeywords;
-}
 
 QString hintFor(const QString &text)
 {
@@ -26,7 +17,7 @@ QString hintFor(const QString &text)
     const bool isList = std::all_of(parts.begin(), parts.end(),
                                     [](const QString &part) { return !PxPageType(part).isNull(); });
     return isList ? QStringLiteral("separate pages with commas")
-                  : PxSpelling::hint(text, keywords());
+                  : PxSpelling::hint(text, PxVocabulary::keywordNames(PxKeywordSet::PageType));
 }
 
 bool isCover(const PxPageEntry &entry)
@@ -59,7 +50,8 @@ void PxPagesCheck::run(PxFindings *findings) const
 void PxPagesCheck::checkPresence(PxFindings *findings) const
 {
     // One normal page is just what many a small product has.
-    if (!hasSeveralPages() || PxMissingName::isMisplaced(m_product, QStringLiteral("pages")))
+    if (!hasSeveralPages() ||
+        PxElementReading(m_product.element()).isChildMisplaced(QStringLiteral("pages")))
         return;
     m_product.add(findings, "pages-missing", m_product.element().nameRange,
                   QStringLiteral("the product has no \"pages\""),

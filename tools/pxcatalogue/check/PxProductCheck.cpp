@@ -1,12 +1,10 @@
 #include "check/PxProductCheck.h"
 
+#include "check/PxListedProductTypes.h"
 #include "check/PxMarginCheck.h"
-#include "check/PxMissingName.h"
 #include "check/PxPageEntries.h"
 #include "check/PxPagesCheck.h"
-#include "check/PxProductTypeNames.h"
 #include "check/PxSizeCheck.h"
-#include "check/PxSpelling.h"
 #include "check/PxSpineCheck.h"
 
 #include <PxXMLParser.h>
@@ -45,18 +43,17 @@ void PxProductCheck::checkName(PxFindings *findings) const
     const QString attribute = QStringLiteral("name");
     const QString name = element.value(attribute);
     const QString now = QStringLiteral("the file is skipped without a word");
-    if (!element.attribute(attribute) && PxMissingName::isMisspelt(element, attribute))
-        return;
+    PxListedProductTypes &types = PxListedProductTypes::instance();
     if (name.trimmed().isEmpty())
         m_product.add(findings, "product-name-missing", element.rangeOf(attribute),
                       QStringLiteral("the product has no name"), now);
     else if (isUnsafeForFile(name))
         checkNameOfFile(findings);
     // Without any product type there is one cause, and it is not in this file.
-    else if (!m_product.type().isValid() && !PxProductTypeNames::all().isEmpty())
+    else if (!m_product.type().isValid() && !types.isEmpty())
         m_product.add(findings, "product-name-unknown", element.rangeOf(attribute),
                       QStringLiteral("there is no product type \"%1\"").arg(name), now,
-                      PxSpelling::hint(name, PxProductTypeNames::all()));
+                      types.hint(name));
 }
 
 void PxProductCheck::checkNameOfFile(PxFindings *findings) const

@@ -1,6 +1,6 @@
 #include "check/PxProductPages.h"
 
-#include "check/PxPlainReading.h"
+#include "check/PxElementReading.h"
 
 #include <PxListParts.h>
 #include <PxXMLParser.h>
@@ -44,25 +44,16 @@ PxProductPages::PxProductPages(const PxCheckedProduct &product) : m_product(prod
 
 bool PxProductPages::isPlain() const
 {
-    constexpr struct
-    {
-        const char *attribute;
-        bool (*isReadable)(const PxSourceElement &, const char *);
-    } rows[] = {
-        {"binding", PxPlainReading::isBindings},
-        {"numOfNormalPages", PxPlainReading::isInt},
-        {"horizontalPages", PxPlainReading::isBool},
-        {"cardStyleAlignment", PxPlainReading::isBool},
-        {"varioSingleCardStyleAlignment", PxPlainReading::isBool},
-        {"collegeBlockStyleAlignment", PxPlainReading::isBool},
-    };
     const PxSourceElement &element = m_product.element();
     const PxSourceElement *pages = element.firstChild(QStringLiteral("pages"));
+    const PxElementReading reading(element);
     bool isPlain = pages && m_product.type().isValid();
-    for (const auto &row : rows)
-        isPlain = isPlain && row.isReadable(element, row.attribute) &&
-                  (element.attribute(QLatin1String(row.attribute)) ||
-                   PxPlainReading::isMissing(element, row.attribute));
+    for (const QString &attribute :
+         {QStringLiteral("binding"), QStringLiteral("numOfNormalPages"),
+          QStringLiteral("horizontalPages"), QStringLiteral("cardStyleAlignment"),
+          QStringLiteral("varioSingleCardStyleAlignment"),
+          QStringLiteral("collegeBlockStyleAlignment")})
+        isPlain = isPlain && reading.isReadable(attribute) && !reading.isMisspelt(attribute);
     if (isPlain)
         pxForEachPart(pages->dom.text(), [&isPlain](QStringView part) {
             isPlain = isPlain && isSingle(PxPageType(part.trimmed().toString()));

@@ -1,7 +1,8 @@
 #include "check/PxProductTypesCheck.h"
 
-#include "PxCatalogueKeywords.h"
+#include "check/PxMessageText.h"
 #include "check/PxSpelling.h"
+#include "vocabulary/PxVocabulary.h"
 
 #include <PxDirectoryConfig.h>
 #include <PxProductTypeCatalogue.h>
@@ -43,7 +44,7 @@ void PxProductTypesCheck::checkRow(const PxSourceElement &row, const PxProductTy
     const QString name = row.value(QStringLiteral("name")).trimmed();
     const QString key = name.toCaseFolded();
     const auto earlier = [&](const PxSourceElement *other) {
-        return QStringLiteral("line %1 has").arg(m_file.place(other->nameRange).line);
+        return PxMessageText::line(m_file, other->nameRange) + QLatin1String(" has");
     };
     if (code < 1) {
         drop(row, "code",
@@ -81,9 +82,7 @@ void PxProductTypesCheck::drop(const PxSourceElement &row, const char *attribute
 void PxProductTypesCheck::dropClass(const PxSourceElement &row, PxFindings *findings) const
 {
     const QString text = row.value(QStringLiteral("class"));
-    QStringList classes;
-    for (const PxKeyword<PxProductClass> &known : productClassRows)
-        classes.append(QLatin1String(known.keyword));
+    const QStringList classes = PxVocabulary::keywordNames(PxKeywordSet::ProductClass);
     drop(row, "class",
          text.trimmed().isEmpty() ? QStringLiteral("the product type has no \"class\"")
                                   : QStringLiteral("\"%1\" is no product class").arg(text),

@@ -1,8 +1,7 @@
 #include "check/PxRedirectCheck.h"
 
-#include "check/PxPlainReading.h"
-
-#include <PxXMLParser.h>
+#include "check/PxElementReading.h"
+#include "check/PxMessageText.h"
 
 #include <algorithm>
 
@@ -17,20 +16,20 @@ QString pagesText(int first, int last)
                          : QStringLiteral("pages %1 to %2").arg(first).arg(last);
 }
 
-/** The names of those attributes that are not there. */
-QStringList missing(const PxSourceElement &element, std::initializer_list<const char *> attributes)
+/** Which of the attributes that it needs are not there. */
+QStringList missing(const PxSourceElement &redirect)
 {
     QStringList names;
-    for (const char *attribute : attributes) {
-        if (!element.attribute(QLatin1String(attribute)))
-            names.append(QLatin1Char('"') + QLatin1String(attribute) + QLatin1Char('"'));
+    for (const QString &name : {QStringLiteral("from"), QStringLiteral("to")}) {
+        if (!redirect.attribute(name))
+            names.append(name);
     }
     return names;
 }
 
 QString missingText(const QStringList &names)
 {
-    return names.join(QLatin1String(" and ")) +
+    return PxMessageText::quotedList(names) +
            (names.size() == 1 ? QLatin1String(" is missing") : QLatin1String(" are missing"));
 }
 
@@ -55,16 +54,17 @@ void PxRedirectCheck::checkRotation(const PxSourceElement &redirect, PxFindings 
 {
     constexpr const char *tag = "rotation-redirect-incomplete";
     const QString now = QStringLiteral("the redirect is left out");
-    if (!PxPlainReading::hasOnly(redirect, {"from", "to", "angleinvert"}) ||
-        !PxPlainReading::isInt(redirect, "from") || !PxPlainReading::isInt(redirect, "to"))
+    const PxElementReading reading(redirect);
+    if (!reading.hasOnlyKnown() || !reading.isReadable(QStringLiteral("from")) ||
+        !reading.isReadable(QStringLiteral("to")))
         return;
-    const QStringList names = missing(redirect, {"from", "to"});
+    const QStringList names = missing(redirect);
     if (!names.isEmpty()) {
         m_product.add(findings, tag, redirect.nameRange, missingText(names), now);
         return;
     }
     for (const QString &name : {QStringLiteral("from"), QStringLiteral("to")}) {
-        if (PxXMLParser::intAttribute(redirect.dom, name, 0) < -1) {
+        if (reading.number(name) < -1) {
             m_product.add(findings, tag, redirect.rangeOf(name),
                           QStringLiteral("\"%1\" is no page").arg(redirect.value(name)), now,
                           QStringLiteral("pages count from 0; -1 is the only number below"));
@@ -76,8 +76,8 @@ void PxRedirectCheck::checkRotation(const PxSourceElement &redirect, PxFindings 
 void PxRedirectCheck::checkContent(const PxSourceElement &redirect, QVector<Range> *ranges,
                                    PxFindings *findings) const
 {
-    if (!PxPlainReading::hasOnly(redirect, {"from", "to"}) ||
-        !PxPlainReading::isInt(redirect, "to"))
+    const PxElementReading reading(redirect);
+    if (!reading.hasOnlyKnown() || !reading.isReadable(QStringLiteral("to")))
         return;
     const QString from = redirect.value(QStringLiteral("from"));
     const PxSourceRange place = redirect.rangeOf(QStringLiteral("from"));
@@ -85,7 +85,7 @@ void PxRedirectCheck::checkContent(const PxSourceElement &redirect, QVector<Rang
     bool hasLast = false;
     const int first = from.section(QLatin1Char('-'), 0, 0).toInt(&hasFirst);
     const int last = from.section(QLatin1Char('-'), -1).toInt(&hasLast);
-    const int target = PxXMLParser::intAttribute(redirect.dom, QStringLiteral("to"), -1);
+    const int target = reading.number(QStringLiteral("to"), -1);
     if (!hasFirst || !hasLast || target < 0) {
         checkIncomplete(redirect, findings);
     } else if (first > last) {
@@ -108,11 +108,11 @@ void PxRedirectCheck::checkIncomplete(const PxSourceElement &redirect, PxFinding
     constexpr const char *tag = "content-redirect-incomplete";
     const QString now = QStringLiteral("the redirect is left out");
     const QString hint = QStringLiteral("pages count from 0");
-    const QStringList names = missing(redirect, {"from", "to"});
+    const QStringList names = missing(redirect);
     const QString from = redirect.value(QStringLiteral("from"));
     if (!names.isEmpty())
         m_product.add(findings, tag, redirect.nameRange, missingText(names), now);
-    else if (PxXMLParser::intAttribute(redirect.dom, QStringLiteral("to"), 0) < 0)
+    else if (PxElementReading(redirect).number(QStringLiteral("to")) < 0)
         m_product.add(findings, tag, redirect.rangeOf(QStringLiteral("to")),
                       QStringLiteral("\"%1\" is no page").arg(redirect.value(QStringLiteral("to"))),
                       now, hint);
@@ -144,17 +144,13 @@ void PxRedirectCheck::checkOverlaps(const QVector<Range> &ranges, PxFindings *fi
             continue;
         const QString pages =
             pagesText(std::max(earlier->first, later.first), std::min(earlier->last, later.last));
-        m_product.add(findings, "content-redirect-overlap",
-                      later.element->rangeOf(QStringLiteral("from")),
-                      QStringLiteral("%1: also in %2").arg(pages, lineOf(*earlier->element)),
-                      QStringLiteral("content goes to page %1, not to page %2")
-                          .arg(m_product.description().contentDropRedirect(
-                              std::max(earlier->first, later.first)))
-                          .arg(earlier->target));
+        m_product.add(
+            findings, "content-redirect-overlap", later.element->rangeOf(QStringLiteral("from")),
+            QStringLiteral("%1: also in %2")
+                .arg(pages, PxMessageText::line(m_product.file(), earlier->element->nameRange)),
+            QStringLiteral("content goes to page %1, not to page %2")
+                .arg(m_product.description().contentDropRedirect(
+                    std::max(earlier->first, later.first)))
+                .arg(earlier->target));
     }
-}
-
-QString PxRedirectCheck::lineOf(const PxSourceElement &element) const
-{
-    return QStringLiteral("line %1").arg(m_product.file().place(element.nameRange).line);
 }

@@ -26,7 +26,6 @@ private:
                       PxFindings *findings) const;
     void checkIncomplete(const PxSourceElement &redirect, PxFindings *findings) const;
     void checkOverlaps(const QVector<Range> &ranges, PxFindings *findings) const;
-    QString lineOf(const PxSourceElement &element) const;
 
     const PxCheckedProduct &m_product;
 };

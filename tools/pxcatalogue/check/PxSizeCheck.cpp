@@ -1,7 +1,7 @@
 #include "check/PxSizeCheck.h"
 
-#include "check/PxIntAttribute.h"
-#include "check/PxMissingName.h"
+#include "check/PxElementReading.h"
+#include "check/PxMessageText.h"
 
 #include <algorithm>
 #include <iterator>
@@ -85,28 +85,28 @@ void PxSizeCheck::checkPresence(PxFindings *findings) const
 {
     const QString now = QStringLiteral("the product is never offered");
     if (!m_usableSize) {
-        if (!PxMissingName::isMisplaced(m_product, QStringLiteral("usablesize")))
-            m_product.add(findings, "size-missing", m_product.element().nameRange,
-                          QStringLiteral("the product has no \"usablesize\""), now);
+        m_product.add(findings, "size-missing", m_product.element().nameRange,
+                      QStringLiteral("the product has no \"usablesize\""), now);
         return;
     }
     QStringList missing;
     for (const QString &side : {width, height}) {
-        if (!m_usableSize->attribute(side) && !PxMissingName::isMisspelt(*m_usableSize, side))
-            missing.append(QLatin1Char('"') + side + QLatin1Char('"'));
+        if (!m_usableSize->attribute(side))
+            missing.append(side);
     }
     if (!missing.isEmpty())
-        m_product.add(
-            findings, "size-missing", m_usableSize->nameRange,
-            QStringLiteral("the size has no %1").arg(missing.join(QStringLiteral(" and no "))),
-            now);
+        m_product.add(findings, "size-missing", m_usableSize->nameRange,
+                      QStringLiteral("the size has no %1")
+                          .arg(PxMessageText::quotedList(missing, QStringLiteral(" and no "))),
+                      now);
 }
 
 void PxSizeCheck::checkArea(PxFindings *findings) const
 {
     for (const QString &side : {width, height}) {
-        const PxIntAttribute length(*m_usableSize, side);
-        if (!length.isNumber() || length.number() > 0)
+        const PxElementReading reading(*m_usableSize);
+        const int length = reading.number(side);
+        if (!reading.isNumber(side) || length > 0)
             continue;
         const PxSourceRange range = m_usableSize->rangeOf(side);
         if (m_product.description().isValid())
@@ -115,9 +115,9 @@ void PxSizeCheck::checkArea(PxFindings *findings) const
                           QStringLiteral("the product is offered, with pages of %1 x %2")
                               .arg(m_size.width())
                               .arg(m_size.height()));
-        else if (length.number() < 0)
+        else if (length < 0)
             m_product.add(findings, "product-not-offered", range,
-                          QStringLiteral("a page of the %1 %2").arg(side).arg(length.number()),
+                          QStringLiteral("a page of the %1 %2").arg(side).arg(length),
                           QStringLiteral("the product is never offered, as it has no valid size"));
         else if (m_size.isValid())
             m_product.add(findings, "product-not-offered", range,
@@ -135,9 +135,9 @@ void PxSizeCheck::checkShadowing(PxFindings *findings) const
         m_product.add(
             findings, "size-attribute-shadowed", element.rangeOf(name),
             QStringLiteral("\"%1\" of the product differs from that of its size").arg(name),
-            QStringLiteral("\"%1\" in line %2 is used")
+            QStringLiteral("\"%1\" in %2 is used")
                 .arg(m_usableSize->value(name),
-                     QString::number(m_product.file().place(m_usableSize->rangeOf(name)).line)),
+                     PxMessageText::line(m_product.file(), m_usableSize->rangeOf(name))),
             QStringLiteral("keep the one that is meant"));
     };
     const PxOrientation ownOrientation(element.value(orientation));

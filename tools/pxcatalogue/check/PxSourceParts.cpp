@@ -4,32 +4,113 @@
 
 namespace {
 
-PxSourceRange trimmed(const QString &text, PxSourceRange range)
+/** Goes through a list as it is written in a file, and finds the place of each part. */
+class ListScanner
 {
-    while (range.begin < range.end && text.at(range.begin).isSpace())
-        ++range.begin;
-    while (range.begin < range.end && text.at(range.end - 1).isSpace())
-        --range.end;
-    return range;
+public:
+    ListScanner(const QString &source, const PxSourceRange &list)
+        : m_source(source)
+        , m_position(list.begin)
+        , m_end(list.end)
+    {
+        open(m_position);
+        while (m_position < m_end)
+            readNext();
+        m_parts.last().whole.end = m_end;
+    }
+
+    /** Without their texts. */
+    QVector<PxSourcePart> parts() const { return m_parts; }
+
+private:
+    bool isAt(const char *mark) const
+    {
+        return QStringView(m_source).mid(m_position).startsWith(QLatin1String(mark));
+    }
+    /** Where the next mark ends. */
+    int behind(const char *mark) const
+    {
+        const QLatin1String text(mark);
+        const int found = m_source.indexOf(text, m_position);
+        return found < 0 || found + text.size() > m_end ? m_end : found + text.size();
+    }
+    void open(int begin) { m_parts.append({QString(), {begin, begin}, {begin, begin}}); }
+
+    void readNext();
+    void readCharacterData();
+    void readReference();
+    void add(QChar character, int end);
+
+    const QString &m_source;
+    int m_position;
+    int m_end;
+    bool m_isBlank = true; // the last part, so far
+    QVector<PxSourcePart> m_parts;
+};
+
+void ListScanner::readNext()
+{
+    const QChar next = m_source.at(m_position);
+    if (next == QLatin1Char('&'))
+        readReference();
+    else if (next != QLatin1Char('<'))
+        add(next, m_position + 1);
+    else if (isAt("<![CDATA["))
+        readCharacterData();
+    else
+        m_position = behind(isAt("<!--") ? "-->" : ">");
+}
+
+void ListScanner::readCharacterData()
+{
+    const int end = behind("]]>");
+    m_position += int(qstrlen("<![CDATA["));
+    while (m_position < end - int(qstrlen("]]>")))
+        add(m_source.at(m_position), m_position + 1);
+    m_position = end;
+}
+
+void ListScanner::readReference()
+{
+    const int end = behind(";");
+    const QStringView name = QStringView(m_source).mid(m_position + 1, end - m_position - 2);
+    uint code = 'x'; // what has a name is neither a comma nor a blank
+    if (name.startsWith(QLatin1String("#x")))
+        code = name.mid(2).toUInt(nullptr, 16);
+    else if (name.startsWith(QLatin1Char('#')))
+        code = name.mid(1).toUInt();
+    add(code <= 0xffff ? QChar(code) : QLatin1Char('x'), end);
+}
+
+/** `end` is behind what stands for the character. */
+void ListScanner::add(QChar character, int end)
+{
+    PxSourcePart &part = m_parts.last();
+    if (character == QLatin1Char(',')) {
+        part.whole.end = m_position;
+        m_isBlank = true;
+        open(end);
+    } else if (!character.isSpace()) {
+        if (m_isBlank)
+            part.range.begin = m_position;
+        m_isBlank = false;
+        part.range.end = end;
+    }
+    m_position = end;
 }
 
 /** `value` is what the library reads of the source text in `range`. */
-QVector<PxSourcePart> split(const QString &source, const PxSourceRange &range, const QString &value)
+QVector<PxSourcePart> split(const PxCheckedFile &file, const PxSourceRange &range,
+                            const QString &value)
 {
-    QVector<PxSourcePart> parts;
-    pxForEachPart(value, [&](QStringView part) { parts.append({part.toString(), range, range}); });
-    const QString written = source.mid(range.begin, range.end - range.begin);
-    const bool isPlain = !written.contains(QLatin1Char('&')) && !written.contains(QLatin1Char('<'));
-    if (!isPlain || written.count(QLatin1Char(',')) != parts.size() - 1)
-        return parts;
-    int begin = range.begin;
-    for (PxSourcePart &part : parts) {
-        const int comma = written.indexOf(QLatin1Char(','), begin - range.begin);
-        const int end = comma < 0 ? range.end : range.begin + comma;
-        part.whole = {begin, end};
-        part.range = trimmed(source, part.whole);
-        begin = end + 1;
-    }
+    QStringList texts;
+    pxForEachPart(value, [&texts](QStringView text) { texts.append(text.toString()); });
+    const QString source = file.source().text();
+    QVector<PxSourcePart> parts = ListScanner(source, range).parts();
+    if (parts.size() != texts.size())
+        parts = QVector<PxSourcePart>(texts.size(), {QString(), range, range});
+    for (int i = 0; i < parts.size(); ++i)
+        parts[i].text = texts[i];
     return parts;
 }
 
@@ -42,11 +123,11 @@ QVector<PxSourcePart> PxSourceParts::ofAttribute(const PxCheckedFile &file,
     const PxSourceAttribute *attribute = element.attribute(name);
     if (!attribute)
         return {};
-    return split(file.source().text(), attribute->valueRange, attribute->value);
+    return split(file, attribute->valueRange, attribute->value);
 }
 
 QVector<PxSourcePart> PxSourceParts::ofText(const PxCheckedFile &file,
                                             const PxSourceElement &element)
 {
-    return split(file.source().text(), element.textRange(), element.dom.text());
+    return split(file, element.textRange(), element.dom.text());
 }

@@ -5,15 +5,16 @@
 /** A part of a comma-separated list and where it stands. */
 struct PxSourcePart
 {
-    QString text;        ///< as it is written, with the blanks around it
-    PxSourceRange range; ///< without the blanks
+    QString text;        ///< as the library reads it, with the blanks around it
+    PxSourceRange range; ///< without the blanks; where nothing else is there, the place for it
     PxSourceRange whole; ///< with them
 };
 
 /**
  * The parts of the lists in files.
  *
- * Where the text is written with entities or in pieces, all parts have the place of the whole list.
+ * Where the places cannot be told, as of what an entity of the file's own stands for, all parts
+ * have the place of the whole list.
  */
 class PxSourceParts
 {

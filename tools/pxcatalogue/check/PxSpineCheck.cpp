@@ -1,7 +1,7 @@
 #include "check/PxSpineCheck.h"
 
-#include "check/PxIntAttribute.h"
-#include "check/PxMissingName.h"
+#include "check/PxElementReading.h"
+#include "check/PxMessageText.h"
 
 #include <algorithm>
 #include <iterator>
@@ -11,6 +11,18 @@ namespace {
 const QString pagesName = QStringLiteral("pages");
 const QString width = QStringLiteral("width");
 const QString maxFontHeight = QStringLiteral("maxfontheight");
+
+int widthOf(const PxSourceElement &spine)
+{
+    return PxElementReading(spine).number(width);
+}
+
+/** A wrong name or number is told where it stands. */
+bool isWidthKnown(const PxSourceElement &spine)
+{
+    const PxElementReading reading(spine);
+    return reading.isReadable(width) && !reading.isMisspelt(width);
+}
 
 } // namespace
 
@@ -49,23 +61,23 @@ void PxSpineCheck::readTable(PxFindings *findings)
 
 void PxSpineCheck::readPageCount(const PxSourceElement &spine, PxFindings *findings)
 {
-    const PxIntAttribute pageCount(spine, pagesName);
-    if (pageCount.isNumber() && pageCount.number() > 0) {
-        if (m_spines.contains(pageCount.number())) {
+    const PxElementReading reading(spine);
+    const int pageCount = reading.number(pagesName);
+    if (pageCount > 0) {
+        if (m_spines.contains(pageCount)) {
             m_isComplete = false; // most likely one of the two is meant for another page count
-            addTwice(spine, pageCount.number(), findings);
+            addTwice(spine, pageCount, findings);
         }
-        m_spines.insert(pageCount.number(), &spine);
+        m_spines.insert(pageCount, &spine);
         return;
     }
     m_isComplete = false;
-    if (pageCount.isUnreadable() ||
-        (!pageCount.isGiven() && PxMissingName::isMisspelt(spine, pagesName)))
+    if (!reading.isReadable(pagesName) || reading.isMisspelt(pagesName))
         return;
     m_product.add(
         findings, "spine-pages-missing", spine.rangeOf(pagesName),
-        pageCount.isGiven() ? QStringLiteral("a spine for %1 pages").arg(pageCount.number())
-                            : QStringLiteral("a spine without a page count"),
+        reading.isGiven(pagesName) ? QStringLiteral("a spine for %1 pages").arg(pageCount)
+                                   : QStringLiteral("a spine without a page count"),
         QStringLiteral("the smallest page count is %1").arg(m_product.description().minPages()));
 }
 
@@ -73,11 +85,11 @@ void PxSpineCheck::addTwice(const PxSourceElement &spine, int pageCount, PxFindi
 {
     const PxSourceElement &earlier = *m_spines.value(pageCount);
     m_product.add(findings, "spine-pages-twice", spine.rangeOf(pagesName),
-                  QStringLiteral("a second spine for %1 pages, %2 wide; the one in line %3 is %4")
+                  QStringLiteral("a second spine for %1 pages, %2 wide; the one in %3 is %4")
                       .arg(pageCount)
-                      .arg(PxIntAttribute(spine, width).number())
-                      .arg(line(earlier, pagesName))
-                      .arg(PxIntAttribute(earlier, width).number()),
+                      .arg(widthOf(spine))
+                      .arg(PxMessageText::line(m_product.file(), earlier.rangeOf(pagesName)))
+                      .arg(widthOf(earlier)),
                   QStringLiteral("the later one is used, as a spine of %1")
                       .arg(m_product.description().spineWidth(pageCount)),
                   QStringLiteral("keep the one that is meant"));
@@ -87,19 +99,15 @@ void PxSpineCheck::checkPresence(PxFindings *findings) const
 {
     if (!m_product.type().isBook() || m_rowCount > 0)
         return;
-    const bool isMisspelt = m_table
-                                ? !m_table->children.isEmpty()
-                                : PxMissingName::isMisplaced(m_product, QStringLiteral("spines"));
-    if (!isMisspelt)
-        m_product.add(findings, "book-without-page-counts",
-                      m_table ? m_table->nameRange : m_product.element().nameRange,
-                      m_table ? QStringLiteral("the \"spines\" of this book are empty")
-                              : QStringLiteral("a book without \"spines\""),
-                      QStringLiteral("its page counts go from %1 to %2")
-                          .arg(m_product.description().minPages())
-                          .arg(m_product.description().maxPages()),
-                      QStringLiteral("add a \"spine\" for each page count, with the width 0 when "
-                                     "none is printed"));
+    m_product.add(findings, "book-without-page-counts",
+                  m_table ? m_table->nameRange : m_product.element().nameRange,
+                  m_table ? QStringLiteral("the \"spines\" of this book hold no \"spine\"")
+                          : QStringLiteral("a book without \"spines\""),
+                  QStringLiteral("its page counts go from %1 to %2")
+                      .arg(m_product.description().minPages())
+                      .arg(m_product.description().maxPages()),
+                  QStringLiteral("add a \"spine\" for each page count, with the width 0 when "
+                                 "none is printed"));
 }
 
 void PxSpineCheck::checkLength(PxFindings *findings) const
@@ -158,9 +166,8 @@ void PxSpineCheck::checkSteps(PxFindings *findings) const
 
 bool PxSpineCheck::hasWidth() const
 {
-    return std::any_of(m_spines.begin(), m_spines.end(), [](const PxSourceElement *spine) {
-        return PxIntAttribute(*spine, width).number() > 0;
-    });
+    return std::any_of(m_spines.begin(), m_spines.end(),
+                       [](const PxSourceElement *spine) { return widthOf(*spine) > 0; });
 }
 
 void PxSpineCheck::checkWidths(PxFindings *findings) const
@@ -170,31 +177,31 @@ void PxSpineCheck::checkWidths(PxFindings *findings) const
     const PxSourceElement *narrower = nullptr;
     for (auto it = m_spines.begin(); it != m_spines.end(); ++it) {
         const PxSourceElement &spine = *it.value();
-        const PxIntAttribute own(spine, width);
-        if (own.isUnreadable() || (!own.isGiven() && PxMissingName::isMisspelt(spine, width)))
+        const int own = widthOf(spine);
+        if (!isWidthKnown(spine))
             continue;
-        if (own.number() <= 0) {
+        if (own <= 0) {
             m_product.add(findings, "spine-width-missing", spine.rangeOf(width),
-                          own.isGiven()
-                              ? QStringLiteral("a spine of the width %1").arg(own.number())
+                          spine.attribute(width)
+                              ? QStringLiteral("a spine of the width %1").arg(own)
                               : QStringLiteral("a spine without a width"),
                           QStringLiteral("the spine for %1 pages is %2 wide")
                               .arg(it.key())
                               .arg(m_product.description().spineWidth(it.key())));
             continue;
         }
-        const int other = narrower ? PxIntAttribute(*narrower, width).number() : 0;
-        if (own.number() < other && m_isComplete)
-            m_product.add(findings, "spine-width-falls", spine.rangeOf(width),
-                          QStringLiteral("a spine of %1 for %2 pages, but one of %3 for fewer in "
-                                         "line %4")
-                              .arg(own.number())
-                              .arg(it.key())
-                              .arg(other)
-                              .arg(line(*narrower, width)),
-                          QStringLiteral("the spine for %1 pages is %2 wide")
-                              .arg(it.key())
-                              .arg(m_product.description().spineWidth(it.key())));
+        const int other = narrower ? widthOf(*narrower) : 0;
+        if (own < other && m_isComplete)
+            m_product.add(
+                findings, "spine-width-falls", spine.rangeOf(width),
+                QStringLiteral("a spine of %1 for %2 pages, but one of %3 for fewer in %4")
+                    .arg(own)
+                    .arg(it.key())
+                    .arg(other)
+                    .arg(PxMessageText::line(m_product.file(), narrower->rangeOf(width))),
+                QStringLiteral("the spine for %1 pages is %2 wide")
+                    .arg(it.key())
+                    .arg(m_product.description().spineWidth(it.key())));
         narrower = &spine;
     }
 }
@@ -205,11 +212,11 @@ void PxSpineCheck::checkTextHeights(PxFindings *findings) const
         // What the library has added to the width may take type, too.
         const int spineWidth = m_product.description().spineWidth(it.key());
         const int height = m_product.description().spineMaxFontHeight(it.key());
-        if (PxIntAttribute(*it.value(), width).number() > 0 && height > spineWidth)
+        if (widthOf(*it.value()) > 0 && height > spineWidth)
             m_product.add(findings, "spine-text-too-high", it.value()->rangeOf(maxFontHeight),
                           QStringLiteral("type of the height %1 on a spine of %2")
                               .arg(height)
-                              .arg(PxIntAttribute(*it.value(), width).number()),
+                              .arg(widthOf(*it.value())),
                           QStringLiteral("type may be %1 high on a spine that is %2 wide")
                               .arg(height)
                               .arg(spineWidth));
@@ -218,9 +225,10 @@ void PxSpineCheck::checkTextHeights(PxFindings *findings) const
 
 void PxSpineCheck::checkSellingPages(PxFindings *findings) const
 {
-    const PxIntAttribute selling(m_product.element(), QStringLiteral("defaultSellingPages"), -1);
+    const QString attribute = QStringLiteral("defaultSellingPages");
     const int pageCount = m_product.description().defaultSellingPages();
-    if (!selling.isNumber() || pageCount == -1 || m_spines.contains(pageCount))
+    if (!PxElementReading(m_product.element()).isNumber(attribute) || pageCount == -1 ||
+        m_spines.contains(pageCount))
         return;
     const auto next = m_spines.lowerBound(pageCount);
     QStringList near;
@@ -228,8 +236,7 @@ void PxSpineCheck::checkSellingPages(PxFindings *findings) const
         near.append(QString::number(std::prev(next).key()));
     if (next != m_spines.end())
         near.append(QString::number(next.key()));
-    m_product.add(findings, "selling-pages-not-offered",
-                  m_product.element().rangeOf(QStringLiteral("defaultSellingPages")),
+    m_product.add(findings, "selling-pages-not-offered", m_product.element().rangeOf(attribute),
                   QStringLiteral("%1 is no page count of \"spines\"").arg(pageCount),
                   QStringLiteral("a new book has %1 pages, and a spine of %2")
                       .arg(pageCount)
@@ -240,16 +247,14 @@ void PxSpineCheck::checkSellingPages(PxFindings *findings) const
 void PxSpineCheck::checkSpinePage(PxFindings *findings) const
 {
     const bool isBookWithoutTable = m_product.type().isBook() && m_rowCount == 0;
-    const bool isWidthKnown =
-        m_isComplete &&
-        std::none_of(m_spines.begin(), m_spines.end(), [](const PxSourceElement *spine) {
-            const PxIntAttribute own(*spine, width);
-            return own.isUnreadable() ||
-                   (!own.isGiven() && PxMissingName::isMisspelt(*spine, width));
-        });
+    const bool isEveryWidthKnown = m_isComplete && std::all_of(m_spines.begin(), m_spines.end(),
+                                                               [](const PxSourceElement *spine) {
+                                                                   return isWidthKnown(*spine);
+                                                               });
     const PxPageEntry *spinePage = m_pages.spine();
-    if (spinePage && !hasWidth() && isWidthKnown && !isBookWithoutTable &&
-        (m_table || !PxMissingName::isMisplaced(m_product, QStringLiteral("spines"))))
+    if (spinePage && !hasWidth() && isEveryWidthKnown && !isBookWithoutTable &&
+        (m_table ||
+         !PxElementReading(m_product.element()).isChildMisplaced(QStringLiteral("spines"))))
         m_product.add(findings, "spine-page-without-table", spinePage->range,
                       QStringLiteral("a spine among the pages, but no width in \"spines\""),
                       QStringLiteral("the spine is %1 wide")
@@ -262,9 +267,4 @@ void PxSpineCheck::checkSpinePage(PxFindings *findings) const
                       QStringLiteral("the product has no spine; a cover half is %1 wide")
                           .arg(m_product.description().coverSize().width()),
                       QStringLiteral("add \"spine\" to the pages, or give the width 0"));
-}
-
-int PxSpineCheck::line(const PxSourceElement &element, const QString &attribute) const
-{
-    return m_product.file().place(element.rangeOf(attribute)).line;
 }

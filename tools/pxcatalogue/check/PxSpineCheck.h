@@ -26,7 +26,6 @@ private:
     void checkSellingPages(PxFindings *findings) const;
     void checkSpinePage(PxFindings *findings) const;
     bool hasWidth() const;
-    int line(const PxSourceElement &element, const QString &attribute) const;
 
     const PxCheckedProduct &m_product;
     const PxPageEntries &m_pages;

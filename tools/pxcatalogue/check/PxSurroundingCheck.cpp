@@ -1,7 +1,8 @@
 #include "check/PxSurroundingCheck.h"
 
+#include "check/PxElementReading.h"
 #include "check/PxImageCheck.h"
-#include "check/PxPlainReading.h"
+#include "check/PxMessageText.h"
 #include "check/PxProductPages.h"
 
 #include <QSet>
@@ -14,13 +15,11 @@ constexpr qint64 maximumAsked = 1000000;
 
 bool isPlain(const PxSourceElement &surrounding)
 {
-    return PxPlainReading::hasOnly(surrounding,
-                                   {"type", "pageType", "alignment", "pageNr", "paintOnTop",
-                                    "hasbindingshade", "image", "x", "y", "width", "height"}) &&
-           PxPlainReading::isSurroundingType(surrounding, "type") &&
-           PxPlainReading::isPageTypes(surrounding, "pageType") &&
-           PxPlainReading::isAlignments(surrounding, "alignment") &&
-           PxPlainReading::isInt(surrounding, "pageNr");
+    const PxElementReading reading(surrounding);
+    return reading.hasOnlyKnown() && reading.isReadable(QStringLiteral("type")) &&
+           reading.isReadable(QStringLiteral("pageType")) &&
+           reading.isReadable(QStringLiteral("alignment")) &&
+           reading.isReadable(QStringLiteral("pageNr"));
 }
 
 QVector<const PxSourceElement *> surroundingElements(const PxSourceElement &product)
@@ -181,11 +180,11 @@ void PxSurroundingCheck::reportUnfit(const Surrounding &surrounding, PxFindings 
 void PxSurroundingCheck::reportHidden(const Surrounding &surrounding, const Surrounding &by,
                                       PxFindings *findings) const
 {
-    const int line = m_product.file().place(by.element->nameRange).line;
+    const QString line = PxMessageText::line(m_product.file(), by.element->nameRange);
     m_product.add(findings, "surrounding-unreachable", surrounding.element->nameRange,
                   QStringLiteral("every page that this is for has an earlier surrounding already"),
-                  QStringLiteral("it is never painted, but the one in line %1").arg(line),
+                  QStringLiteral("it is never painted, but the one in %1").arg(line),
                   surrounding.description.pageNr() == -1
                       ? QString()
-                      : QStringLiteral("put it before line %1").arg(line));
+                      : QStringLiteral("put it before %1").arg(line));
 }

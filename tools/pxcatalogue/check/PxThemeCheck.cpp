@@ -1,6 +1,6 @@
 #include "check/PxThemeCheck.h"
 
-#include "check/PxPlaceText.h"
+#include "check/PxMessageText.h"
 #include "check/PxSpelling.h"
 #include "check/PxThemeElementCheck.h"
 #include "check/PxThemeImageCheck.h"
@@ -38,10 +38,10 @@ void PxThemeCheck::checkFile(const PxCheckedFile &file, PxFindings *findings)
         m_firstRoot = file.place(root->nameRange);
     checkStrayNodes(file, findings);
     PxThemeImageCheck images(file);
-    PxThemeLogoCheck logoCheck(file, &m_types, &images);
+    PxThemeLogoCheck logoCheck(file, &images);
     for (const PxSourceElement *theme : root->children) { // whatever they are called
         checkIdOnce(file, *theme, findings);
-        PxThemeElementCheck(file, *theme, &m_types).run(findings);
+        PxThemeElementCheck(file, *theme).run(findings);
         images.checkThumbnail(*theme, findings);
         if (const PxSourceElement *logos = theme->firstChild(QStringLiteral("logos")))
             logoCheck.run(*logos, findings);
@@ -83,7 +83,8 @@ void PxThemeCheck::checkIdOnce(const PxCheckedFile &file, const PxSourceElement 
     }
     findings->add(
         "theme-id-twice", place,
-        QStringLiteral("the id \"%1\" is also in %2").arg(id, pxPlaceText(*first, place.path)),
+        QStringLiteral("the id \"%1\" is also in %2")
+            .arg(id, PxMessageText::place(*first, place.path)),
         first->path == place.path
             ? QStringLiteral("looking for one theme finds the first, looking up a list the last")
             : QStringLiteral("looking for one theme finds the one, looking up a list the other, "

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "check/PxCheckedFile.h"
-#include "check/PxListedProductTypes.h"
 
 #include <QHash>
 #include <QSet>
@@ -25,7 +24,6 @@ private:
     void checkIdOnce(const PxCheckedFile &file, const PxSourceElement &theme, PxFindings *findings);
     bool isComplete() const;
 
-    PxListedProductTypes m_types;
     QSet<QString> m_files;            ///< canonical paths of those that the library reads
     QHash<QString, PxPlace> m_themes; ///< where an id is first, by id
     PxPlace m_firstRoot;

@@ -2,6 +2,7 @@
 
 #include "check/PxListedProductTypes.h"
 #include "check/PxSpelling.h"
+#include "vocabulary/PxVocabulary.h"
 
 #include <PxProductGroup.h>
 #include <PxProductType.h>
@@ -30,16 +31,14 @@ QString expiryHint(const QString &text)
 
 } // namespace
 
-PxThemeElementCheck::PxThemeElementCheck(const PxCheckedFile &file, const PxSourceElement &theme,
-                                         PxListedProductTypes *types)
+PxThemeElementCheck::PxThemeElementCheck(const PxCheckedFile &file, const PxSourceElement &theme)
     : m_file(file)
     , m_theme(theme)
-    , m_types(*types)
     , m_expiry(PxXMLParser::dateTimeAttribute(theme.dom, QStringLiteral("expiry"), QString()))
     , m_isExpired(m_expiry.isValid() && m_expiry < QDateTime::currentDateTime())
 {}
 
-void PxThemeElementCheck::run(PxFindings *findings)
+void PxThemeElementCheck::run(PxFindings *findings) const
 {
     checkId(findings);
     checkGroup(findings);
@@ -88,13 +87,12 @@ void PxThemeElementCheck::checkGroup(PxFindings *findings) const
                        : QStringLiteral("the theme has no \"producttype\""),
                    now, QStringLiteral("name the product group, as in \"book\""));
     } else if (!PxProductGroup(group).isValid()) {
-        QStringList groups;
-        for (const QString &keyword : EnumHelper::globalMapProductGroupEnumString.keys())
-            groups.append(keyword.toLower());
-        m_file.add(findings, "theme-group-unknown", m_theme.rangeOf(attribute),
-                   QStringLiteral("\"%1\" is no product group").arg(group), now,
-                   group.contains(QLatin1Char(',')) ? QStringLiteral("name one product group only")
-                                                    : PxSpelling::hint(group, groups));
+        m_file.add(
+            findings, "theme-group-unknown", m_theme.rangeOf(attribute),
+            QStringLiteral("\"%1\" is no product group").arg(group), now,
+            group.contains(QLatin1Char(','))
+                ? QStringLiteral("name one product group only")
+                : PxSpelling::hint(group, PxVocabulary::keywordNames(PxKeywordSet::ProductGroup)));
     }
 }
 
@@ -183,16 +181,17 @@ void PxThemeElementCheck::checkKeyAccount(const PxSourceElement &account,
                    : QString());
 }
 
-void PxThemeElementCheck::checkProducts(PxFindings *findings)
+void PxThemeElementCheck::checkProducts(PxFindings *findings) const
 {
+    PxListedProductTypes &types = PxListedProductTypes::instance();
     const PxSourceElement *products = m_theme.firstChild(QStringLiteral("products"));
-    if (!products || m_types.isEmpty())
+    if (!products || types.isEmpty())
         return;
     QVector<const PxSourceElement *> unknown;
     bool isAnyKnown = false;
     for (const PxSourceElement *product : products->childrenNamed(QStringLiteral("product"))) {
         const QString name = product->dom.text();
-        if (PxProductType(name).isValid() || m_types.isListed(name))
+        if (PxProductType(name).isValid() || types.isListed(name))
             isAnyKnown = true;
         else
             unknown.append(product);
@@ -205,12 +204,12 @@ void PxThemeElementCheck::checkProducts(PxFindings *findings)
                       .arg(unknown.constFirst()->dom.text().trimmed())
                 : QStringLiteral("none of %1 names is a known product name").arg(unknown.size()),
             QStringLiteral("the theme is allowed for every product"),
-            m_types.hint(unknown.constFirst()->dom.text()));
+            types.hint(unknown.constFirst()->dom.text()));
         return;
     }
     for (const PxSourceElement *product : unknown)
         m_file.add(
             findings, "theme-product-unknown", product->textRange(),
             QStringLiteral("\"%1\" is no known product name").arg(product->dom.text().trimmed()),
-            QStringLiteral("it is left out"), m_types.hint(product->dom.text()));
+            QStringLiteral("it is left out"), types.hint(product->dom.text()));
 }

@@ -4,17 +4,14 @@
 
 #include <QDateTime>
 
-class PxListedProductTypes;
-
 /** Checks one theme: when, to whom and for which products it is offered. */
 class PxThemeElementCheck
 {
 public:
-    /** All must outlive the check. */
-    PxThemeElementCheck(const PxCheckedFile &file, const PxSourceElement &theme,
-                        PxListedProductTypes *types);
+    /** Both must outlive the check. */
+    PxThemeElementCheck(const PxCheckedFile &file, const PxSourceElement &theme);
 
-    void run(PxFindings *findings);
+    void run(PxFindings *findings) const;
 
 private:
     void checkId(PxFindings *findings) const;
@@ -23,11 +20,10 @@ private:
     void checkDescription(PxFindings *findings) const;
     void checkKeyAccounts(PxFindings *findings) const;
     void checkKeyAccount(const PxSourceElement &account, PxFindings *findings) const;
-    void checkProducts(PxFindings *findings);
+    void checkProducts(PxFindings *findings) const;
 
     const PxCheckedFile &m_file;
     const PxSourceElement &m_theme;
-    PxListedProductTypes &m_types;
     QDateTime m_expiry; ///< invalid when it is missing or unreadable
     bool m_isExpired;
 };

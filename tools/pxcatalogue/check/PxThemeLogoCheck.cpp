@@ -1,6 +1,7 @@
 #include "check/PxThemeLogoCheck.h"
 
 #include "check/PxListedProductTypes.h"
+#include "check/PxMessageText.h"
 #include "check/PxThemeImageCheck.h"
 
 #include <PxProductType.h>
@@ -24,6 +25,7 @@ void PxThemeLogoCheck::checkProduct(const PxSourceElement &logo, PxFindings *fin
     const QString name = logo.value(booktype);
     const QString now = QStringLiteral("the logo belongs to no product");
     const PxProductType type(name.toUpper());
+    PxListedProductTypes &types = PxListedProductTypes::instance();
     if (name.trimmed().isEmpty()) {
         m_file.add(
             findings, "theme-logo-product-missing", logo.rangeOf(booktype),
@@ -34,15 +36,14 @@ void PxThemeLogoCheck::checkProduct(const PxSourceElement &logo, PxFindings *fin
         const PxSourceElement *&known = m_logos[int(type.type())];
         if (known)
             m_file.add(findings, "theme-logo-twice", logo.rangeOf(booktype),
-                       QStringLiteral("%1 has a logo in line %2, too")
-                           .arg(type.productName())
-                           .arg(m_file.place(known->nameRange).line),
+                       QStringLiteral("%1 has a logo in %2, too")
+                           .arg(type.productName(), PxMessageText::line(m_file, known->nameRange)),
                        QStringLiteral("the later one is used, image and place together"));
         known = &logo;
-    } else if (!m_types.isEmpty() && !m_types.isListed(name)) {
+    } else if (!types.isEmpty() && !types.isListed(name)) {
         m_file.add(findings, "theme-logo-product-unknown", logo.rangeOf(booktype),
                    QStringLiteral("\"%1\" is no known product name").arg(name), now,
-                   m_types.hint(name));
+                   types.hint(name));
     }
 }
 
@@ -57,7 +58,7 @@ void PxThemeLogoCheck::checkPlace(const PxSourceElement &logo, PxFindings *findi
     for (const QString &side : {QStringLiteral("height"), QStringLiteral("width")}) {
         const int length = PxXMLParser::intAttribute(logo.dom, side, unreadable);
         if (!logo.attribute(side))
-            missing.prepend(QLatin1Char('"') + side + QLatin1Char('"'));
+            missing.prepend(side);
         else if (length == unreadable)
             return; // no number, which is told where values are checked
         else if (length < 1)
@@ -68,8 +69,8 @@ void PxThemeLogoCheck::checkPlace(const PxSourceElement &logo, PxFindings *findi
                    QStringLiteral("the place of the logo is empty or too far out"),
                    QStringLiteral("it is %1 x %2 large").arg(rect.width()).arg(rect.height()));
     else
-        m_file.add(
-            findings, "theme-logo-without-place", logo.nameRange,
-            QStringLiteral("the logo has no %1").arg(missing.join(QLatin1String(" and no "))),
-            QStringLiteral("it has no place"));
+        m_file.add(findings, "theme-logo-without-place", logo.nameRange,
+                   QStringLiteral("the logo has no %1")
+                       .arg(PxMessageText::quotedList(missing, QStringLiteral(" and no "))),
+                   QStringLiteral("it has no place"));
 }

@@ -4,18 +4,15 @@
 
 #include <QHash>
 
-class PxListedProductTypes;
 class PxThemeImageCheck;
 
 /** Checks the logos of a theme. */
 class PxThemeLogoCheck
 {
 public:
-    /** All must outlive the check. */
-    PxThemeLogoCheck(const PxCheckedFile &file, PxListedProductTypes *types,
-                     PxThemeImageCheck *images)
+    /** Both must outlive the check. */
+    PxThemeLogoCheck(const PxCheckedFile &file, PxThemeImageCheck *images)
         : m_file(file)
-        , m_types(*types)
         , m_images(*images)
     {}
 
@@ -27,7 +24,6 @@ private:
     void checkPlace(const PxSourceElement &logo, PxFindings *findings);
 
     const PxCheckedFile &m_file;
-    PxListedProductTypes &m_types;
     PxThemeImageCheck &m_images;
     QHash<int, const PxSourceElement *> m_logos; ///< by product type
 };

@@ -1,15 +1,12 @@
 #include "check/PxValueCheck.h"
 
+#include "check/PxElementReading.h"
 #include "check/PxKeywordCheck.h"
+#include "check/PxMessageText.h"
 #include "check/PxMissingValue.h"
 #include "check/PxSpelling.h"
 
-#include <PxXMLParser.h>
-
-#include <QLocale>
 #include <QRegularExpression>
-
-#include <limits>
 
 namespace {
 
@@ -70,7 +67,7 @@ void PxValueCheck::check(const PxSourceElement &element, const PxAttributeRow &r
     case PxValueType::Keyword:
     case PxValueType::KeywordList:
     case PxValueType::OneKeyword:
-        PxKeywordCheck(element, row, attribute).run(m_findings);
+        PxKeywordCheck(m_findings.file(), element, row, attribute).run(m_findings);
         break;
     default:
         break; // any text can be read
@@ -80,18 +77,15 @@ void PxValueCheck::check(const PxSourceElement &element, const PxAttributeRow &r
 void PxValueCheck::checkInteger(const PxSourceElement &element, const PxAttributeRow &row,
                                 const PxSourceAttribute &attribute) const
 {
-    const auto read = [&](int fallback) {
-        return PxXMLParser::intAttribute(element.dom, attribute.name, fallback);
-    };
-    if (read(0) == read(1)) // no fallback was needed
+    if (PxElementReading::isReadable(element, row))
         return;
     QString message =
-        QStringLiteral("\"%1\" is no whole number").arg(PxKeywordCheck::shown(attribute.value));
+        QStringLiteral("\"%1\" is no whole number").arg(PxMessageText::shortened(attribute.value));
     if (attribute.value.trimmed().isEmpty())
         message = QStringLiteral("\"%1\" is empty").arg(attribute.name);
     else if (isTooLarge(attribute.value))
         message = QStringLiteral("%1 is beyond the numbers of 32 bits")
-                      .arg(PxKeywordCheck::shown(attribute.value.trimmed()));
+                      .arg(PxMessageText::shortened(attribute.value.trimmed()));
     m_findings.add("integer-malformed", attribute.valueRange, message,
                    PxMissingValue::text(element, row), integerHint(attribute));
 }
@@ -99,10 +93,7 @@ void PxValueCheck::checkInteger(const PxSourceElement &element, const PxAttribut
 void PxValueCheck::checkBoolean(const PxSourceElement &element, const PxAttributeRow &row,
                                 const PxSourceAttribute &attribute) const
 {
-    const auto read = [&](bool fallback) {
-        return PxXMLParser::boolAttribute(element.dom, attribute.name, fallback);
-    };
-    if (read(false) == read(true))
+    if (PxElementReading::isReadable(element, row))
         return;
     const QString meant =
         PxSpelling::hint(attribute.value, {QStringLiteral("true"), QStringLiteral("false")});
@@ -110,7 +101,7 @@ void PxValueCheck::checkBoolean(const PxSourceElement &element, const PxAttribut
                    attribute.value.trimmed().isEmpty()
                        ? QStringLiteral("\"%1\" is empty").arg(attribute.name)
                        : QStringLiteral("\"%1\" is neither true nor false")
-                             .arg(PxKeywordCheck::shown(attribute.value)),
+                             .arg(PxMessageText::shortened(attribute.value)),
                    PxMissingValue::text(element, row),
                    meant.isEmpty() ? QStringLiteral("write \"true\" or \"false\"") : meant);
 }

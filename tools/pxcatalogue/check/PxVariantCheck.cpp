@@ -1,5 +1,7 @@
 #include "check/PxVariantCheck.h"
 
+#include "check/PxMessageText.h"
+
 #include <classification/PxProductVariantIdentifiers.h>
 
 #include <QHash>
@@ -38,12 +40,11 @@ void PxVariantCheck::run(PxFindings *findings) const
         const QString identifier = variant->dom.text();
         const PxSourceElement *first = known.value(identifier);
         if (first) {
-            m_product.add(findings, "variant-twice", variant->textRange(),
-                          QStringLiteral("\"%1\" is also in line %2")
-                              .arg(identifier)
-                              .arg(m_product.file().place(first->nameRange).line),
-                          QStringLiteral("it is shown once"),
-                          QStringLiteral("take one of them out"));
+            m_product.add(
+                findings, "variant-twice", variant->textRange(),
+                QStringLiteral("\"%1\" is also in %2")
+                    .arg(identifier, PxMessageText::line(m_product.file(), first->nameRange)),
+                QStringLiteral("it is shown once"), QStringLiteral("take one of them out"));
             continue;
         }
         known.insert(identifier, variant);

@@ -1,6 +1,7 @@
 #include "check/PxVocabularyCheck.h"
 
-#include "check/PxKeywordCheck.h"
+#include "check/PxElementReading.h"
+#include "check/PxMessageText.h"
 #include "check/PxMissingValue.h"
 #include "check/PxSpelling.h"
 #include "check/PxValueCheck.h"
@@ -28,17 +29,6 @@ QString withoutPrefix(const QString &local)
     return QStringLiteral("names have no prefix here: \"%1\"").arg(local);
 }
 
-/** The attribute that may be meant by a name; none that is given already. */
-QString nearestMissing(const PxSourceElement &element, const PxElementRow &row, const QString &name)
-{
-    QStringList missing;
-    for (const PxAttributeRow &attribute : row.attributes) {
-        if (!element.attribute(QLatin1String(attribute.name)))
-            missing.append(QLatin1String(attribute.name));
-    }
-    return PxSpelling::nearest(name, missing);
-}
-
 /** What XML itself, or a schema, has to say. */
 bool isOfXml(const QString &attribute)
 {
@@ -62,17 +52,6 @@ bool isMeantAsEntry(const PxSourceElement &element, const PxElementRow &row)
                        [entry](const PxSourceAttribute &attribute) {
                            return PxVocabulary::attribute(*entry, attribute.name);
                        });
-}
-
-QString quotedList(QStringList names)
-{
-    names.removeDuplicates();
-    const QString last = names.takeLast();
-    const QString quoted = QLatin1Char('"') + last + QLatin1Char('"');
-    if (names.isEmpty())
-        return quoted;
-    return QLatin1Char('"') + names.join(QLatin1String("\", \"")) + QLatin1String("\" and ") +
-           quoted;
 }
 
 } // namespace
@@ -136,19 +115,19 @@ void PxVocabularyCheck::addUnknownAttribute(const Place &place, const PxSourceAt
 
     QString now;
     QString hint;
-    const QString meant = nearestMissing(place.element, place.row, attribute.name);
+    const QString meant = PxElementReading(place.element, place.row).meant(attribute.name);
     // The same letters are a better guess than another element, and that one than other letters.
     if (hasPrefix) {
         hint = withoutPrefix(local);
     } else if (!owners.isEmpty() && meant.compare(attribute.name, Qt::CaseInsensitive) != 0) {
-        hint = QStringLiteral("it is read on %1").arg(quotedList(owners));
+        hint = QStringLiteral("it is read on %1").arg(PxMessageText::quotedList(owners));
     } else if (!meant.isEmpty()) {
         hint = QStringLiteral("did you mean \"%1\"?").arg(meant);
         now = PxMissingValue::text(place.element, *PxVocabulary::attribute(place.row, meant));
     }
     findings.add("attribute-unknown", attribute.nameRange,
                  QStringLiteral("\"%1\" is not read on \"%2\"")
-                     .arg(PxKeywordCheck::shown(attribute.name), place.element.name),
+                     .arg(PxMessageText::shortened(attribute.name), place.element.name),
                  now.isEmpty() ? now : QStringLiteral("\"%1\" is missing: %2").arg(meant, now),
                  hint);
 }
@@ -170,7 +149,7 @@ void PxVocabularyCheck::checkText(const Place &place, PxFileFindings &findings) 
     const bool isOfChild = children.size() == 1 && children.begin()->text != PxTextKind::None;
     findings.add("text-not-read", text->range,
                  QStringLiteral("the text \"%1\" is not read in \"%2\"")
-                     .arg(PxKeywordCheck::shown(text->text.simplified()), place.element.name),
+                     .arg(PxMessageText::shortened(text->text.simplified()), place.element.name),
                  QString(),
                  isOfChild
                      ? QStringLiteral("put it into a \"%1\" element").arg(nameOf(*children.begin()))
@@ -212,8 +191,8 @@ void PxVocabularyCheck::addRepeated(const Place &place, const PxSourceElement &c
         hint = QStringLiteral("move what it holds into the first one");
     findings.add("element-repeated", child.nameRange,
                  QStringLiteral("another \"%1\" in \"%2\"").arg(child.name, place.element.name),
-                 QStringLiteral("only the first one is read, in line %1")
-                     .arg(findings.line(first.nameRange)),
+                 QStringLiteral("only the first one is read, in %1")
+                     .arg(PxMessageText::line(m_file, first.nameRange)),
                  hint);
 }
 
@@ -233,7 +212,7 @@ void PxVocabularyCheck::addUnknownElement(const Place &place, const PxSourceElem
     if (owner) {
         const QString into = owner == &PxVocabulary::root(m_kind)
                                  ? QStringLiteral("the document element")
-                                 : QLatin1Char('"') + nameOf(*owner) + QLatin1Char('"');
+                                 : PxMessageText::quoted(nameOf(*owner));
         findings.add("element-misplaced", child.nameRange,
                      QStringLiteral("\"%1\" directly below \"%2\" is not read")
                          .arg(child.name, place.element.name),
@@ -249,6 +228,6 @@ void PxVocabularyCheck::addUnknownElement(const Place &place, const PxSourceElem
         hint = PxSpelling::hint(local, search.elementNames());
     findings.add("element-unknown", child.nameRange,
                  QStringLiteral("\"%1\" is not read in \"%2\"")
-                     .arg(PxKeywordCheck::shown(child.name), place.element.name),
+                     .arg(PxMessageText::shortened(child.name), place.element.name),
                  now, hint);
 }

@@ -49,6 +49,7 @@ QStringList PxVocabularySearch::ownersOf(const QString &attribute) const
         if (PxVocabulary::attribute(row, attribute))
             all.append(QLatin1String(row.name));
     });
+    all.removeDuplicates(); // elements of one name stand in several places
     return all;
 }
 

@@ -1,0 +1,112 @@
+#include "check/PxElementReading.h"
+
+#include "check/PxSpelling.h"
+#include "vocabulary/PxVocabulary.h"
+
+#include <PxListParts.h>
+#include <PxXMLParser.h>
+
+#include <algorithm>
+
+namespace {
+
+const PxElementRow &productRow(const PxSourceElement &element)
+{
+    const PxElementRow *row =
+        element.parent ? PxVocabulary::child(productRow(*element.parent), element.name) : nullptr;
+    return row ? *row : PxVocabulary::root(PxFileKind::Product);
+}
+
+} // namespace
+
+PxElementReading::PxElementReading(const PxSourceElement &element)
+    : PxElementReading(element, productRow(element))
+{}
+
+bool PxElementReading::hasOnlyKnown() const
+{
+    return std::all_of(m_element.attributes.begin(), m_element.attributes.end(),
+                       [this](const PxSourceAttribute &attribute) {
+                           return PxVocabulary::attribute(m_row, attribute.name);
+                       });
+}
+
+bool PxElementReading::isMisspelt(const QString &attribute) const
+{
+    return !isGiven(attribute) &&
+           std::any_of(m_element.attributes.begin(), m_element.attributes.end(),
+                       [&](const PxSourceAttribute &own) {
+                           return !PxVocabulary::attribute(m_row, own.name) &&
+                                  meant(own.name) == attribute;
+                       });
+}
+
+bool PxElementReading::isReadable(const QString &attribute) const
+{
+    const PxAttributeRow *row = PxVocabulary::attribute(m_row, attribute);
+    return !row || isReadable(m_element, *row);
+}
+
+bool PxElementReading::isReadable(const PxSourceElement &element, const PxAttributeRow &attribute)
+{
+    const QString name = QLatin1String(attribute.name);
+    const PxSourceAttribute *own = element.attribute(name);
+    if (!own)
+        return true;
+    bool isReadable = true;
+    switch (attribute.type) {
+    case PxValueType::Integer:
+    case PxValueType::RectanglePart:
+        // Only what is no number depends on the default, and so below.
+        return PxXMLParser::intAttribute(element.dom, name, 0) ==
+               PxXMLParser::intAttribute(element.dom, name, 1);
+    case PxValueType::Boolean:
+        return PxXMLParser::boolAttribute(element.dom, name, false) ==
+               PxXMLParser::boolAttribute(element.dom, name, true);
+    case PxValueType::OneKeyword:
+        return PxVocabulary::isKeyword(attribute.keywords, own->value);
+    case PxValueType::Keyword:
+    case PxValueType::KeywordList:
+        pxForEachPart(own->value, [&](QStringView part) {
+            isReadable = isReadable && PxVocabulary::isKeyword(attribute.keywords, part.toString());
+        });
+        return isReadable;
+    default:
+        return true; // any text can be read
+    }
+}
+
+int PxElementReading::number(const QString &attribute, int absent) const
+{
+    return PxXMLParser::intAttribute(m_element.dom, attribute, absent);
+}
+
+QString PxElementReading::meant(const QString &name) const
+{
+    QStringList missing;
+    for (const PxAttributeRow &attribute : m_row.attributes) {
+        if (!isGiven(QLatin1String(attribute.name)))
+            missing.append(QLatin1String(attribute.name));
+    }
+    return PxSpelling::nearest(name, missing);
+}
+
+bool PxElementReading::isChildMisplaced(const QString &name) const
+{
+    const PxSourceElement *root = &m_element;
+    while (root->parent)
+        root = root->parent;
+    return isBelow(*root, name);
+}
+
+/** Not in others like this element: what stands there belongs to those. */
+bool PxElementReading::isBelow(const PxSourceElement &parent, const QString &name) const
+{
+    return std::any_of(
+        parent.children.begin(), parent.children.end(), [&](const PxSourceElement *child) {
+            const bool isOther =
+                child != &m_element && &parent == m_element.parent && child->name == m_element.name;
+            return !isOther &&
+                   (!PxSpelling::nearest(child->name, {name}).isEmpty() || isBelow(*child, name));
+        });
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "check/PxSourceElement.h"
+#include "vocabulary/PxVocabularyRows.h"
+
+/**
+ * How the library reads an element, and whether that is just what is written.
+ *
+ * Where it is not, that is a finding already, and what follows from it shall be none.
+ */
+class PxElementReading
+{
+public:
+    /** The element stands where the library reads it in a product file. It must outlive this. */
+    explicit PxElementReading(const PxSourceElement &element);
+    /** The row is that of the element, in any file. */
+    PxElementReading(const PxSourceElement &element, const PxElementRow &row)
+        : m_element(element)
+        , m_row(row)
+    {}
+
+    /** There are no unknown attributes, which might be misspelt ones. */
+    bool hasOnlyKnown() const;
+    bool isGiven(const QString &attribute) const { return m_element.attribute(attribute); }
+    /** The attribute is missing, but another one looks like a misspelling of it. */
+    bool isMisspelt(const QString &attribute) const;
+    /** The attribute is missing, or can be read. */
+    bool isReadable(const QString &attribute) const;
+    /** The same of an attribute whose row is known. */
+    static bool isReadable(const PxSourceElement &element, const PxAttributeRow &attribute);
+    /** The attribute is there, and a whole number. */
+    bool isNumber(const QString &attribute) const
+    {
+        return isGiven(attribute) && isReadable(attribute);
+    }
+    int number(const QString &attribute, int absent = 0) const;
+
+    /** The attribute that may be meant by a name; none that is given already. */
+    QString meant(const QString &name) const;
+    /** Whether a missing child is misspelt, or stands elsewhere in the file. */
+    bool isChildMisplaced(const QString &name) const;
+
+private:
+    bool isBelow(const PxSourceElement &parent, const QString &name) const;
+
+    const PxSourceElement &m_element;
+    const PxElementRow &m_row;
+};

@@ -1,0 +1,34 @@
+#include "check/PxMessageText.h"
+
+QString PxMessageText::line(const PxCheckedFile &file, const PxSourceRange &range)
+{
+    return place(file.place(range), file.path());
+}
+
+QString PxMessageText::place(const PxPlace &other, const QString &path)
+{
+    return other.path == path ? QStringLiteral("line %1").arg(other.line)
+                              : QStringLiteral("%1:%2").arg(other.path).arg(other.line);
+}
+
+QString PxMessageText::quoted(const QString &name)
+{
+    return QLatin1Char('"') + name + QLatin1Char('"');
+}
+
+QString PxMessageText::quotedList(const QStringList &names, const QString &last)
+{
+    QString list;
+    for (int i = 0; i < names.size(); ++i) {
+        if (i > 0)
+            list += i == names.size() - 1 ? last : QStringLiteral(", ");
+        list += quoted(names[i]);
+    }
+    return list;
+}
+
+QString PxMessageText::shortened(const QString &value)
+{
+    constexpr int maximum = 60;
+    return value.size() <= maximum ? value : value.left(maximum) + QStringLiteral("…");
+}
