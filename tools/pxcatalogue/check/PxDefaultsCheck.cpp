@@ -1,6 +1,7 @@
 #include "check/PxDefaultsCheck.h"
 
 #include "check/PxDefaultsOverrides.h"
+#include "check/PxFileFindings.h"
 #include "check/PxMessageText.h"
 #include "check/PxSourceParts.h"
 #include "check/PxSpelling.h"
@@ -11,18 +12,15 @@
 
 namespace {
 
-// Of one list: more would tell the author nothing new.
-constexpr int maximumReported = 100;
-
 QString named(const QString &name)
 {
     return name.isEmpty() ? QStringLiteral("none") : PxMessageText::quoted(name);
 }
 
-QString templatesText(const PxDefaultsEntry &entry)
+QString templatesText(const PxDefaultsEntry::Templates &templates)
 {
     return QStringLiteral("background %1, layout %2")
-        .arg(named(entry.background()), named(entry.layout()));
+        .arg(named(templates.background), named(templates.layout));
 }
 
 } // namespace
@@ -84,17 +82,17 @@ void PxDefaultsCheck::checkThemes(const PxDefaultsEntry &entry, PxFindings *find
     }
     if (m_themeIds.isEmpty())
         return;
-    int reported = 0;
+    PxFileFindings found(m_file, findings, PxFileFindings::maximumOfList);
     for (const PxSourcePart &part :
          PxSourceParts::ofAttribute(m_file, entry.element(), QStringLiteral("theme"))) {
         const QString id = part.text.trimmed();
         // Other themes fall back to this one, whether it is there or not.
         if (id.isEmpty() || id == QLatin1String("normal") || m_themeIds.contains(id))
             continue;
-        m_file.add(findings, tag, part.range, QStringLiteral("there is no theme \"%1\"").arg(id),
-                   now, PxSpelling::hint(id, m_themeNames));
-        if (++reported == maximumReported)
+        if (found.isFull())
             return;
+        found.add(tag, part.range, QStringLiteral("there is no theme \"%1\"").arg(id), now,
+                  PxSpelling::hint(id, m_themeNames));
     }
 }
 
@@ -109,7 +107,7 @@ void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry, PxFindings *f
                        QStringLiteral("name the types of pages, as pageType=\"normalpage\""));
         return;
     }
-    int reported = 0;
+    PxFileFindings found(m_file, findings, PxFileFindings::maximumOfList);
     for (const PxSourcePart &part :
          PxSourceParts::ofAttribute(m_file, entry.element(), attribute)) {
         const PxPageType pageType(part.text);
@@ -117,15 +115,13 @@ void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry, PxFindings *f
         const bool isRange = pageType.isValid() && !pageType.matches(PxPageTypeAll);
         if (!isUnion && !isRange)
             continue;
-        m_file.add(findings, "defaults-page-type-union", part.range,
-                   isUnion ? QStringLiteral("\"%1\" is more than one type").arg(part.text.trimmed())
-                           : QStringLiteral("\"%1\" stands for pages of another type")
-                                 .arg(part.text.trimmed()),
-                   now,
-                   isUnion ? QStringLiteral("name each type, as \"fullcover,spine\"")
-                           : QStringLiteral("did you mean \"normalpage\"?"));
-        if (++reported == maximumReported)
-            return;
+        found.add("defaults-page-type-union", part.range,
+                  isUnion ? QStringLiteral("\"%1\" is more than one type").arg(part.text.trimmed())
+                          : QStringLiteral("\"%1\" stands for pages of another type")
+                                .arg(part.text.trimmed()),
+                  now,
+                  isUnion ? QStringLiteral("name each type, as \"fullcover,spine\"")
+                          : QStringLiteral("did you mean \"normalpage\"?"));
     }
 }
 
@@ -137,9 +133,12 @@ void PxDefaultsCheck::checkTemplates(const PxDefaultsEntry &entry, PxFindings *f
     names.erase(std::remove_if(names.begin(), names.end(),
                                [](const PxSourcePart &name) { return name.text.isEmpty(); }),
                 names.end());
+    if (names.isEmpty())
+        return;
+    const PxDefaultsEntry::Templates used = entry.templates();
     const auto lost = std::find_if(names.begin(), names.end(), [&](const PxSourcePart &name) {
         const QString own = PxDefaultTemplateMap::removeUmlauts(name.text.trimmed());
-        return own != entry.background() && own != entry.layout();
+        return own != used.background && own != used.layout;
     });
     if (lost == names.end())
         return;
@@ -151,6 +150,6 @@ void PxDefaultsCheck::checkTemplates(const PxDefaultsEntry &entry, PxFindings *f
             : QStringLiteral("the %1 is given in \"templates\" and as an attribute")
                   .arg(isBackground ? QLatin1String("background") : QLatin1String("layout"));
     m_file.add(findings, "defaults-templates-count",
-               names.size() > 2 ? names[2].range : lost->range, message, templatesText(entry),
+               names.size() > 2 ? names[2].range : lost->range, message, templatesText(used),
                names.size() > 2 ? QString() : QStringLiteral("keep the one that is meant"));
 }

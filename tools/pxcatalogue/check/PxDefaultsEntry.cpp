@@ -50,12 +50,11 @@ PxDefaultsEntry::PxDefaultsEntry(const PxSourceElement &element)
         if (pageType != PxPageTypeNone && !m_pageTypes.contains(pageType))
             m_pageTypes.append(pageType);
     });
-    readTemplates();
 }
 
-/** Asks the library for the templates, for a page that it is sure to find. */
-void PxDefaultsEntry::readTemplates()
+PxDefaultsEntry::Templates PxDefaultsEntry::templates() const
 {
+    // For a page that the library is sure to find.
     QDomDocument document;
     QDomElement parent = document.createElement(QStringLiteral("defaults"));
     QDomElement entry = document.importNode(m_element->dom, false).toElement();
@@ -66,8 +65,8 @@ void PxDefaultsEntry::readTemplates()
     const PxDefaultTemplateMap map(parent);
     const PxPageContext page(PxPageTypeNormalPage, PxPageAlignmentLeft);
     const QString theme = QStringLiteral("normal");
-    m_layout = map.findTemplate({theme, page, DefaultTemplateTypeLayout}, false);
-    m_background = map.findTemplate({theme, page, DefaultTemplateTypeBackground}, false);
+    return {map.findTemplate({theme, page, DefaultTemplateTypeLayout}, false),
+            map.findTemplate({theme, page, DefaultTemplateTypeBackground}, false)};
 }
 
 bool PxDefaultsEntry::isEntry(const PxSourceElement &element)

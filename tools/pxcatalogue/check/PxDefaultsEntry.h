@@ -8,6 +8,13 @@
 class PxDefaultsEntry
 {
 public:
+    /** Empty where none is named. */
+    struct Templates
+    {
+        QString layout;
+        QString background;
+    };
+
     explicit PxDefaultsEntry(const PxSourceElement &element);
 
     const PxSourceElement &element() const { return *m_element; }
@@ -19,21 +26,16 @@ public:
     QVector<PxPageTypeEnum> pageTypes() const { return m_pageTypes; }
     /** Bits of PxPageAlignment. */
     int alignments() const { return m_alignments; }
-    /** Empty when it names none. */
-    QString layout() const { return m_layout; }
-    QString background() const { return m_background; }
+    /** The library is asked each time: only few entries need it. */
+    Templates templates() const;
 
     /** Whether the element has an attribute that only entries have. */
     static bool isEntry(const PxSourceElement &element);
 
 private:
-    void readTemplates();
-
     const PxSourceElement *m_element;
     bool m_isPlain;
     QStringList m_themes;
     QVector<PxPageTypeEnum> m_pageTypes;
     int m_alignments;
-    QString m_layout;
-    QString m_background;
 };

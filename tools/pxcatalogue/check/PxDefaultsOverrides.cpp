@@ -29,15 +29,24 @@ void PxDefaultsOverrides::add(const PxDefaultsEntry &entry, PxFindings *findings
     m_entries.append(entry);
     m_pageCounts.append(pages.size());
     for (auto it = taken.constBegin(); it != taken.constEnd(); ++it) {
-        const PxDefaultsEntry &replaced = m_entries[it.key()];
         const bool isWhole = it->size() == m_pageCounts[it.key()];
-        const bool isLoss = (entry.layout().isEmpty() && !replaced.layout().isEmpty()) ||
-                            (entry.background().isEmpty() && !replaced.background().isEmpty());
+        const Templates used = templatesOf(m_entries.size() - 1);
+        const Templates before = templatesOf(it.key());
+        const bool isLoss = (used.layout.isEmpty() && !before.layout.isEmpty()) ||
+                            (used.background.isEmpty() && !before.background.isEmpty());
         if (isWhole || isLoss) {
-            report(entry, replaced, isWhole, it->constFirst(), findings);
+            report(entry, m_entries[it.key()], isWhole, it->constFirst(), findings);
             return;
         }
     }
+}
+
+/** Asked of the library once, and only where entries meet. */
+PxDefaultsOverrides::Templates PxDefaultsOverrides::templatesOf(int entry)
+{
+    if (!m_templates.contains(entry))
+        m_templates.insert(entry, m_entries[entry].templates());
+    return m_templates.value(entry);
 }
 
 QVector<PxDefaultsOverrides::Page> PxDefaultsOverrides::pagesOf(const PxDefaultsEntry &entry) const
@@ -63,10 +72,10 @@ void PxDefaultsOverrides::report(const PxDefaultsEntry &entry, const PxDefaultsE
         EnumHelper::encodeKeyword(static_cast<PxPageAlignment>(alignment),
                                   EnumHelper::globalMapPageAlignmentString, QString())
             .toLower();
-    const bool isLayout = entry.layout().isEmpty() && !replaced.layout().isEmpty();
-    const QString lost = isLayout
-                             ? QStringLiteral("the layout \"%1\"").arg(replaced.layout())
-                             : QStringLiteral("the background \"%1\"").arg(replaced.background());
+    const Templates before = replaced.templates();
+    const bool isLayout = entry.templates().layout.isEmpty() && !before.layout.isEmpty();
+    const QString lost = isLayout ? QStringLiteral("the layout \"%1\"").arg(before.layout)
+                                  : QStringLiteral("the background \"%1\"").arg(before.background);
     m_file.add(
         findings, "defaults-overridden", entry.element().nameRange,
         QStringLiteral("replaces %1 for %2/%3/%4")

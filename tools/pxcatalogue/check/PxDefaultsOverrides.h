@@ -19,15 +19,18 @@ public:
     void add(const PxDefaultsEntry &entry, PxFindings *findings);
 
 private:
+    using Templates = PxDefaultsEntry::Templates;
     using Page = std::tuple<QString, int, int>; // theme, page type, alignment
 
+    Templates templatesOf(int entry);
     QVector<Page> pagesOf(const PxDefaultsEntry &entry) const;
     void report(const PxDefaultsEntry &entry, const PxDefaultsEntry &replaced, bool isWhole,
                 const Page &page, PxFindings *findings) const;
 
     const PxCheckedFile &m_file;
     QVector<PxDefaultsEntry> m_entries;
-    QVector<int> m_pageCounts; // how many pages each entry was for
+    QHash<int, Templates> m_templates; // by index of the entry
+    QVector<int> m_pageCounts;         // how many pages each entry was for
     QMap<Page, int> m_entryOfPage;
     qint64 m_asked = 0; // pages of all entries
 };

@@ -33,11 +33,13 @@ bool PxElementReading::hasOnlyKnown() const
 
 bool PxElementReading::isMisspelt(const QString &attribute) const
 {
-    return !isGiven(attribute) &&
-           std::any_of(m_element.attributes.begin(), m_element.attributes.end(),
+    if (isGiven(attribute) || hasOnlyKnown())
+        return false;
+    const QStringList names = missing();
+    return std::any_of(m_element.attributes.begin(), m_element.attributes.end(),
                        [&](const PxSourceAttribute &own) {
                            return !PxVocabulary::attribute(m_row, own.name) &&
-                                  meant(own.name) == attribute;
+                                  PxSpelling::nearest(own.name, names) == attribute;
                        });
 }
 
@@ -83,12 +85,19 @@ int PxElementReading::number(const QString &attribute, int absent) const
 
 QString PxElementReading::meant(const QString &name) const
 {
-    QStringList missing;
-    for (const PxAttributeRow &attribute : m_row.attributes) {
-        if (!isGiven(QLatin1String(attribute.name)))
-            missing.append(QLatin1String(attribute.name));
+    return PxSpelling::nearest(name, missing());
+}
+
+/** The attributes that the library would read, and that are not given. */
+QStringList PxElementReading::missing() const
+{
+    QStringList names;
+    for (const PxAttributeRow &row : m_row.attributes) {
+        const QString name = QLatin1String(row.name);
+        if (!isGiven(name))
+            names.append(name);
     }
-    return PxSpelling::nearest(name, missing);
+    return names;
 }
 
 bool PxElementReading::isChildMisplaced(const QString &name) const

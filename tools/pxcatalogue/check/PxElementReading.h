@@ -3,6 +3,8 @@
 #include "check/PxSourceElement.h"
 #include "vocabulary/PxVocabularyRows.h"
 
+#include <QStringList>
+
 /**
  * How the library reads an element, and whether that is just what is written.
  *
@@ -41,6 +43,7 @@ public:
     bool isChildMisplaced(const QString &name) const;
 
 private:
+    QStringList missing() const;
     bool isBelow(const PxSourceElement &parent, const QString &name) const;
 
     const PxSourceElement &m_element;

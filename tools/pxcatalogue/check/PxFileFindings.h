@@ -6,21 +6,25 @@
 class PxFileFindings
 {
 public:
-    PxFileFindings(const PxCheckedFile &file, PxFindings *findings)
+    /** More of one list would tell the author nothing new. */
+    static constexpr int maximumOfList = 100;
+
+    PxFileFindings(const PxCheckedFile &file, PxFindings *findings, int maximum = 1000)
         : m_file(file)
         , m_findings(findings)
+        , m_maximum(maximum)
     {}
 
+    bool isEmpty() const { return m_count == 0; }
     /** More are not taken: a damaged file may have as many as it has characters. */
-    bool isFull() const { return m_count >= maximumCount; }
+    bool isFull() const { return m_count >= m_maximum; }
     void add(const char *tag, const PxSourceRange &range, const QString &message,
              const QString &now = QString(), const QString &hint = QString());
     const PxCheckedFile &file() const { return m_file; }
 
 private:
-    static constexpr int maximumCount = 1000;
-
     const PxCheckedFile &m_file;
     PxFindings *m_findings;
+    int m_maximum;
     int m_count = 0;
 };

@@ -1,6 +1,7 @@
 #include "check/PxNumberListCheck.h"
 
 #include "check/PxElementReading.h"
+#include "check/PxFileFindings.h"
 #include "check/PxProductPages.h"
 #include "check/PxSourceParts.h"
 
@@ -10,13 +11,6 @@
 #include <QSet>
 
 #include <algorithm>
-
-namespace {
-
-// Of one list: more would tell the author nothing new.
-constexpr int maximumReported = 100;
-
-} // namespace
 
 void PxNumberListCheck::run(PxFindings *findings) const
 {
@@ -36,22 +30,21 @@ bool PxNumberListCheck::checkParts(const PxSourceElement &list, PxFindings *find
 {
     const QVector<PxSourcePart> parts = PxSourceParts::ofText(m_product.file(), list);
     const int numbers = pxIntList(list.dom.text()).size();
-    int reported = 0;
-    for (int i = 0; i < parts.size() && reported < maximumReported; ++i) {
+    PxFileFindings found(m_product.file(), findings, PxFileFindings::maximumOfList);
+    for (int i = 0; i < parts.size() && !found.isFull(); ++i) {
         const QString text = parts[i].text.trimmed();
         // Nothing is lost with an empty part at the end, and an empty text is the default.
         if (!pxIntList(parts[i].text).isEmpty() || (text.isEmpty() && i == parts.size() - 1))
             continue;
-        ++reported;
-        m_product.add(findings, "number-list-part-dropped", parts[i].range,
-                      text.isEmpty()
-                          ? QStringLiteral("part %1 of \"%2\" is empty").arg(i + 1).arg(list.name)
-                          : QStringLiteral("\"%1\" is no whole number").arg(text),
-                      QStringLiteral("it is left out: %1 of %2 parts are read")
-                          .arg(numbers)
-                          .arg(parts.size()));
+        found.add("number-list-part-dropped", parts[i].range,
+                  text.isEmpty()
+                      ? QStringLiteral("part %1 of \"%2\" is empty").arg(i + 1).arg(list.name)
+                      : QStringLiteral("\"%1\" is no whole number").arg(text),
+                  QStringLiteral("it is left out: %1 of %2 parts are read")
+                      .arg(numbers)
+                      .arg(parts.size()));
     }
-    return reported == 0;
+    return found.isEmpty();
 }
 
 /** The numbers that go on from the last one may meet those that the list has given already. */

@@ -12,5 +12,8 @@ public:
     void run(PxFindings *findings) const;
 
 private:
+    void checkEach(const PxSourceElement &list, PxFindings *findings) const;
+    bool isNamed(const QString &identifier) const;
+
     const PxCheckedProduct &m_product;
 };

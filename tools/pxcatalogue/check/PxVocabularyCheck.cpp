@@ -40,18 +40,19 @@ bool isOfXml(const QString &attribute)
 /** The row of the entries in a container of the same name; null for any other element. */
 const PxElementRow *entriesOfSameName(const PxElementRow &row)
 {
-    return row.children.size() == 1 ? PxVocabulary::child(row, nameOf(row)) : nullptr;
+    const bool isContainer =
+        row.children.size() == 1 && qstrcmp(row.children.begin()->name, row.name) == 0;
+    return isContainer ? row.children.begin() : nullptr;
 }
 
 /** A container that was taken for one of its entries: what it says is another check's matter. */
 bool isMeantAsEntry(const PxSourceElement &element, const PxElementRow &row)
 {
     const PxElementRow *entry = entriesOfSameName(row);
-    return entry && entry != &row &&
-           std::any_of(element.attributes.begin(), element.attributes.end(),
-                       [entry](const PxSourceAttribute &attribute) {
-                           return PxVocabulary::attribute(*entry, attribute.name);
-                       });
+    return entry && std::any_of(element.attributes.begin(), element.attributes.end(),
+                                [entry](const PxSourceAttribute &attribute) {
+                                    return PxVocabulary::attribute(*entry, attribute.name);
+                                });
 }
 
 } // namespace
@@ -90,11 +91,11 @@ void PxVocabularyCheck::checkElement(const Place &place, PxFileFindings &finding
 void PxVocabularyCheck::checkAttributes(const Place &place, PxFileFindings &findings) const
 {
     const PxValueCheck values(findings);
+    const PxElementRow *entry = entriesOfSameName(place.row);
     for (const PxSourceAttribute &attribute : place.element.attributes) {
         if (findings.isFull())
             return;
         const PxAttributeRow *row = PxVocabulary::attribute(place.row, attribute.name);
-        const PxElementRow *entry = entriesOfSameName(place.row);
         if (row)
             values.check(place.element, *row, attribute);
         else if (!isOfXml(attribute.name) &&
