@@ -1,6 +1,7 @@
 #include "PxCatalogueProducts.h"
 
 #include "PxCatalogueKeywords.h"
+#include "check/PxListedProductTypes.h"
 
 #include <PxProductProperties.h>
 
@@ -8,25 +9,6 @@
 #include <tuple>
 
 namespace {
-
-/** The library finds a product type by its name, but does not list the names. */
-PxProductTypeList knownTypes()
-{
-    PxProductTypeList types;
-    const QDomElement catalogue = PxXMLLoader::loadDocumentElement(
-        PxDirectoryConfig::instance()->resource(QStringLiteral("producttypes.xml"), false));
-    const QString tag = QStringLiteral("producttype");
-    for (QDomElement row = catalogue.firstChildElement(tag); !row.isNull();
-         row = row.nextSiblingElement(tag)) {
-        const PxProductType type(row.attribute(QStringLiteral("name")));
-        if (type.isValid())
-            types.append(type);
-    }
-    // A name that stands there twice is the same type both times.
-    std::sort(types.begin(), types.end());
-    types.erase(std::unique(types.begin(), types.end()), types.end());
-    return types;
-}
 
 bool hasFile(const PxProductTypeConfigRegistry *registry, const PxProductType &type)
 {
@@ -39,7 +21,7 @@ bool hasFile(const PxProductTypeConfigRegistry *registry, const PxProductType &t
 PxProductTypeList PxCatalogueProducts::current()
 {
     PxProductTypeList types;
-    for (const PxProductType &type : knownTypes()) {
+    for (const PxProductType &type : PxListedProductTypes::instance().types()) {
         if (isCurrent(type))
             types.append(type);
     }
@@ -49,7 +31,7 @@ PxProductTypeList PxCatalogueProducts::current()
 QStringList PxCatalogueProducts::names()
 {
     QStringList names;
-    for (const PxProductType &type : knownTypes()) {
+    for (const PxProductType &type : PxListedProductTypes::instance().types()) {
         if (isCurrent(type) || isLegacy(type))
             names.append(type.productName());
     }

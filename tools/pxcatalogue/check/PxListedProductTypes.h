@@ -14,7 +14,7 @@ public:
     static PxListedProductTypes &instance();
 
     /** Those that the library takes, each once. */
-    PxProductTypeList types() const { return m_types; }
+    const PxProductTypeList &types() const { return m_types; }
     /** Nothing can be said about names then: each would be unknown. */
     bool isEmpty() const { return m_types.isEmpty(); }
     /** Stands there, though the library may leave the row out: that is told at the row. */
