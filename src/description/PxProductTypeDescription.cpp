@@ -198,13 +198,19 @@ void PxProductTypeDescription::readPages(const QDomElement &pages)
 {
     if (pages.isNull())
         return;
-    m_pageTypes = PxPageTypeList(pages.text());
-    // Each entry may stand for as many pages as the product has.
-    if (m_pageTypes.size() > maximumAbstractPages) {
-        qWarning() << "PxProductTypeDescription::readPages" << m_pageTypes.size()
-                   << "entries in \"pages\", used are the first" << maximumAbstractPages;
-        m_pageTypes = m_pageTypes.mid(0, maximumAbstractPages);
+    QString text = pages.text();
+    int entries = 1;
+    for (int i = text.indexOf(QLatin1Char(',')); i >= 0;
+         i = text.indexOf(QLatin1Char(','), i + 1)) {
+        // Each entry may stand for as many pages as the product has.
+        if (entries++ == maximumAbstractPages) {
+            qWarning() << "PxProductTypeDescription::readPages"
+                       << entries + text.midRef(i + 1).count(QLatin1Char(','))
+                       << "entries in \"pages\", used are the first" << maximumAbstractPages;
+            text.truncate(i);
+        }
     }
+    m_pageTypes = PxPageTypeList(text);
 }
 
 void PxProductTypeDescription::initPageSizes(const QDomElement &product)
