@@ -1,0 +1,248 @@
+#include "PxHostileFiles.h"
+
+#include <PxAskEverything.h>
+#include <PxCatalogueDirectory.h>
+#include <PxLogRecorder.h>
+
+#include <description/PxProductTypeConfigRegistry.h>
+#include <description/PxProductTypeDescriptionReader.h>
+
+#include <PxDirectoryConfig.h>
+
+#include <QDir>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTest>
+#include <QTextStream>
+#include <QThread>
+
+#include <malloc.h>
+#include <memory>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <time.h>
+#include <unistd.h>
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#define PX_SANITIZED
+#endif
+
+/** Loads a catalogue of good products among hostile files in a process of its own. */
+class PxHostileCatalogueTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void goodProductsAreThere();
+    void oneWarningForEachUnreadableFile();
+    void noFileCostsMuch();
+
+private:
+    PxCatalogueDirectory m_directory;
+    QStringList m_unreadable;
+    QStringList m_products;
+    QStringList m_report; // of the child: "kind rest" a line
+};
+
+namespace {
+
+#ifdef PX_SANITIZED
+constexpr int slowness = 20;
+#elif defined(NDEBUG)
+constexpr int slowness = 1;
+#else
+constexpr int slowness = 4;
+#endif
+constexpr int maximumMilliseconds = 250 * slowness;
+constexpr rlim_t maximumMemory = 150 << 20;
+constexpr unsigned stackSize = 512 * 1024 * (slowness > 4 ? 4 : 1);
+
+void setLimit(__rlimit_resource resource, rlim_t value)
+{
+    rlimit limit;
+    getrlimit(resource, &limit);
+    limit.rlim_cur = value;
+    setrlimit(resource, &limit);
+}
+
+/** From now on the process may take this much more; an allocation that fails ends it. */
+void allowMoreMemory(rlim_t bytes)
+{
+#ifndef PX_SANITIZED // which reserve terabytes
+    QFile status(QStringLiteral("/proc/self/statm"));
+    if (!status.open(QIODevice::ReadOnly))
+        qFatal("cannot tell the size of this process");
+    setLimit(RLIMIT_AS, status.readAll().split(' ').first().toULongLong() * 4096 + bytes);
+#else
+    Q_UNUSED(bytes)
+#endif
+}
+
+/** Of this thread, whatever else the machine does. */
+double milliseconds()
+{
+    timespec time;
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
+}
+
+void load(const QString &directory)
+{
+    QTextStream report(stdout);
+    PxProductTypeDescriptionReader reader{QDir(directory)};
+    const QFileInfoList files = QDir(directory).entryInfoList(
+        PxProductTypeDescriptionReader::fileFilter(), QDir::AllEntries | QDir::System);
+    for (const QFileInfo &file : files) {
+        const PxLogRecorder log;
+        report << "reading " << file.fileName() << Qt::endl;
+        allowMoreMemory(maximumMemory);
+        const double start = milliseconds();
+        const std::unique_ptr<PxProductTypeDescription> description(reader.readFile(file).second);
+        report << "cost " << milliseconds() - start << ' ' << file.fileName() << Qt::endl;
+        allowMoreMemory(RLIM_INFINITY / 2);
+        if (description)
+            pxAskEverything(*description);
+    }
+    const PxLogRecorder log;
+    const PxProductTypeConfigRegistry *registry = PxProductTypeConfigRegistry::instance();
+    for (const QString &text : log.texts().filter(QStringLiteral("could not open")))
+        report << "warning " << QFileInfo(text.section('"', 1, 1)).completeBaseName() << '\n';
+    for (int code = 0; code < 100; ++code) {
+        if (registry->description(code) != registry->description(0))
+            report << "product " << PxProductType(code).productName() << '\n';
+        pxAskEverything(*registry->description(code));
+    }
+    report << "done all\n";
+}
+
+int loadAsChild(const QString &directory)
+{
+    mallopt(M_ARENA_MAX, 1); // one of its own would reserve more than a file may take
+    setLimit(RLIMIT_CPU, 60 * slowness);
+    PxDirectoryConfig::instance()->setResourceDirectories({directory});
+    PxDirectoryConfig::instance()->setUserDefaultsPath(directory + QStringLiteral("/user"));
+    const std::unique_ptr<QThread> thread(
+        QThread::create([&directory] { load(directory + QStringLiteral("/products")); }));
+    thread->setStackSize(stackSize);
+    thread->start();
+    thread->wait();
+    return 0;
+}
+
+} // namespace
+
+void PxHostileCatalogueTest::initTestCase()
+{
+    QByteArray types;
+    const auto writeProduct = [&](const QByteArray &name, const QByteArray &file,
+                                  const QByteArray &content) {
+        m_products.append(QString::fromUtf8(name));
+        types += QByteArray::number(m_products.size()) + " book " + name + '\n';
+        m_directory.write("products/" + file + ".xml", content);
+    };
+    const QDir samples(PX_SAMPLE_DIRECTORY "/products");
+    for (const QString &name : samples.entryList({"book*.xml"})) {
+        QFile file(samples.filePath(name));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray product = name.toUtf8().chopped(4);
+        writeProduct(product.toUpper(), product, file.readAll());
+    }
+    for (const PxHostileFiles::File &file : PxHostileFiles::wild())
+        writeProduct(file.name, "wild-" + QByteArray(file.name).replace('/', '+'), file.content);
+
+    const QList<PxHostileFiles::File> unreadable = PxHostileFiles::unreadable();
+    // What the fuzzers found: each had crashed something, most are no XML.
+    const QDir found(PX_TEST_DATA_DIRECTORY "/hostile");
+    for (const QString &name : found.entryList(QDir::Files)) {
+        QFile file(found.filePath(name));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        m_directory.write("products/found-" + name.toUtf8() + ".xml", file.readAll());
+    }
+    for (const PxHostileFiles::File &file : unreadable) {
+        m_unreadable.append(QString::fromUtf8(file.name));
+        m_directory.write("products/" + file.name + ".xml", file.content);
+    }
+    m_directory.writeProductTypes(types);
+    m_directory.write("user/BOOK_MINI.xml", unreadable.constLast().content);
+    m_directory.write("OUTSIDE.xml", "<d><defaults><defaults layout='stolen'/></defaults></d>");
+
+    // What has the name of a product file, but is none. A super-user can read the forbidden one.
+    const auto path = [this](const char *name) {
+        return QFile::encodeName(m_directory.filePath(QStringLiteral("products/") + name));
+    };
+    m_directory.write("products/forbidden.xml", "forbidden, and no XML");
+    QCOMPARE(chmod(path("forbidden.xml"), 0), 0);
+    m_directory.write("products/sparse.xml", "");
+    QVERIFY(QFile::resize(path("sparse.xml"), qint64(1) << 40));
+    m_unreadable << "forbidden"
+                 << "sparse";
+    QVERIFY(QDir().mkpath(path("directory.xml")));
+    QCOMPARE(mkfifo(path("pipe.xml"), 0600), 0);
+    for (const auto &[from, to] : {std::pair("nowhere", "dangling.xml"),
+                                   {"loop.xml", "loop.xml"},
+                                   {"/dev/zero", "zero-device.xml"},
+                                   {".", "link-to-directory.xml"}})
+        QCOMPARE(symlink(from, path(to)), 0);
+
+    QProcess child;
+    child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    child.start(QCoreApplication::applicationFilePath(), {"--load", m_directory.filePath("")});
+    QVERIFY(child.waitForFinished(110000));
+    m_report = QString::fromUtf8(child.readAllStandardOutput()).split('\n');
+    QVERIFY2(m_report.contains("done all"),
+             qPrintable("it crashed after " + m_report.value(m_report.size() - 2)));
+}
+
+static QStringList restOf(const QStringList &report, const QString &kind)
+{
+    QStringList found;
+    for (const QString &line : report) {
+        if (line.startsWith(kind))
+            found.append(line.mid(kind.size()));
+    }
+    return found;
+}
+
+/** What is in one of the lists only, or there twice; texts short enough for the log of a test. */
+static QString difference(QStringList found, const QStringList &expected)
+{
+    QStringList missing;
+    for (const QString &text : expected) {
+        if (!found.removeOne(text))
+            missing.append(text);
+    }
+    return "missing: " + missing.join(' ') + ", too many: " + found.join(' ');
+}
+
+void PxHostileCatalogueTest::goodProductsAreThere()
+{
+    QCOMPARE(difference(restOf(m_report, "product "), m_products),
+             QString("missing: , too many: "));
+}
+
+void PxHostileCatalogueTest::oneWarningForEachUnreadableFile()
+{
+    QCOMPARE(difference(restOf(m_report, "warning ").filter(QRegularExpression("^(?!found-)")),
+                        m_unreadable),
+             QString("missing: , too many: "));
+}
+
+void PxHostileCatalogueTest::noFileCostsMuch()
+{
+    const QStringList costs = restOf(m_report, "cost ");
+    QVERIFY(costs.size() > 60);
+    for (const QString &cost : costs)
+        QVERIFY2(cost.section(' ', 0, 0).toDouble() <= maximumMilliseconds, qPrintable(cost));
+}
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication application(argc, argv);
+    if (argc == 3 && QByteArray(argv[1]) == "--load")
+        return loadAsChild(QFile::decodeName(argv[2]));
+    PxHostileCatalogueTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "PxHostileCatalogueTest.moc"

@@ -1,0 +1,155 @@
+#include "PxHostileFiles.h"
+
+#include <PxXMLLoader.h>
+
+#include <QTextCodec>
+
+namespace PxHostileFiles {
+
+static QByteArray product(const QByteArray &name, const QByteArray &attributes,
+                          const QByteArray &children)
+{
+    return "<d><product name='" + name + "' " + attributes +
+           "><usablesize width='2100' height='2970'/>" + children + "</product></d>";
+}
+
+/** As often as the limits allow, with room for the rest of the file. */
+static QByteArray asMany(const QByteArray &text, int nodes)
+{
+    const int bySize = (PxXMLLoader::maximumFileSize - 1000) / text.size();
+    const int byNodes = nodes > 0 ? (PxXMLLoader::maximumNodes - 50) / nodes : bySize;
+    return text.repeated(qMin(bySize, byNodes));
+}
+
+static QByteArray encoded(const char *codec, const QByteArray &utf8)
+{
+    return QTextCodec::codecForName(codec)->fromUnicode(QString::fromUtf8(utf8));
+}
+
+QList<File> unreadable()
+{
+    const QByteArray good =
+        product("BOOK", "binding='HARDCOVER'", "<classification group='Größe'/>");
+    const QByteArray begin = "<d><product name='BOOK'>";
+    const QByteArray end = "</product></d>";
+    const QByteArray entities = "<!DOCTYPE d [<!ENTITY a 'aaaaaaaaaa'><!ENTITY b '&a;&a;&a;&a;'>"
+                                "<!ENTITY c '&b;&b;&b;&b;'><!ENTITY d '&c;&c;&c;&c;'>]>";
+    QByteArray manyAttributes;
+    for (int i = 0; i < 100000; ++i)
+        manyAttributes += " a" + QByteArray::number(i) + "=''";
+    const QByteArray latin = "<?xml version='1.0' encoding='ISO-8859-1'?>";
+    const QByteArray utf16 = encoded("UTF-16", good);
+    // clang-format off
+    return {
+        {"empty", ""}, {"blank", QByteArray(100000, ' ')}, {"zeros", QByteArray(100000, '\0')},
+        {"text", "This is no XML.\n"}, {"page", "<!DOCTYPE html><html><br><img src=x></html>"},
+        {"archive", QByteArray("PK\3\4\0\0\xFF\xFE\0\1", 10).repeated(1000)},
+        {"cut-at-once", good.left(1)}, {"cut-early", good.left(20)}, {"cut-in-the-middle", good.left(good.size() / 2)},
+        {"cut-late", good.chopped(1)}, {"without-beginning", good.mid(10)}, {"twice", good + good},
+        {"text-behind", good + "x"}, {"text-before", "x" + good}, {"crossed", "<a><b></a></b>"}, {"quote", "<d a='" + good},
+        {"latin-1", encoded("ISO-8859-1", good)}, {"unknown-encoding", "<?xml version='1.0' encoding='klingon'?>" + good},
+        {"utf-16-odd", utf16.chopped(1)}, {"utf-16-cut", utf16.left(utf16.size() / 4 * 2)}, {"utf-16-as-utf-8", utf16.mid(2).replace('\0', '\1')},
+        {"utf-8-as-latin-1", "\xEF\xBB\xBF" + latin + good}, {"mark-only", "\xEF\xBB\xBF"}, {"mark-of-utf-16", "\xFF\xFE"},
+        {"overlong", begin + "\xC0\xBC" + end}, {"surrogate", begin + "\xED\xA0\x80" + end}, {"cut-character", begin + "\xC3" + end},
+        {"beyond-unicode", begin + "\xF4\x90\x80\x80" + end}, {"control-character", begin + "\x01" + end}, {"zero", begin + QByteArray(1, '\0') + end},
+        {"zero-reference", begin + "&#0;" + end}, {"huge-reference", begin + "&#" + QByteArray(100000, '9') + ";" + end},
+        {"entity", begin + "&wrong;" + end}, {"entity-bomb", entities + begin + "&d;&d;&d;" + end}, {"entity-in-attribute", entities + "<d a='&d;'/>"},
+        {"endless-entity", "<!DOCTYPE d [<!ENTITY a '&b;'><!ENTITY b '&a;'>]><d>&a;</d>"},
+        {"external-entity", "<!DOCTYPE d [<!ENTITY a SYSTEM 'file:///etc/passwd'>]><d>&a;</d>"}, {"external-subset", "<!DOCTYPE d SYSTEM 'file:///dev/zero'><d>&a;</d>"},
+        {"parameter-entity", "<!DOCTYPE d [<!ENTITY % a SYSTEM 'http://localhost/'>%a;]><d/>"}, {"attribute-defaults", "<!DOCTYPE d [<!ATTLIST d a CDATA 'x'>]><d/>"},
+        {"deep", QByteArray("<a>").repeated(257) + QByteArray("</a>").repeated(257)}, {"bottomless", asMany("<a>", 0)}, {"deep-comments", asMany("<!--", 0)},
+        {"many-elements", "<d>" + asMany("<a/>", 0) + "</d>"}, {"many-texts", "<d>" + asMany("<a>x</a>", 0) + "</d>"}, {"many-sections", "<d>" + asMany("<![CDATA[x]]>", 0) + "</d>"},
+        {"many-attributes", "<d" + manyAttributes + "/>"}, {"attributes-all-over", "<d>" + asMany("<a b='' c='' d='' e=''/>", 0) + "</d>"}, {"same-attribute", "<d" + asMany(" a=''", 0) + "/>"},
+        {"no-section-end", "<d><![CDATA[" + asMany("]]", 0)}, {"no-instruction-end", "<d><?" + asMany("a?", 0)}, {"no-comment-end", "<d><!--" + asMany("-", 0)},
+        {"no-name-end", "<" + asMany("d", 0)}, {"too-large", good + QByteArray(PxXMLLoader::maximumFileSize, ' ')},
+    };
+    // clang-format on
+}
+
+/** Every number of a product file is this text, wherever the file format has one. */
+static QByteArray productOfNumbers(const QByteArray &name, const QByteArray &number)
+{
+    QByteArray attributes;
+    for (const char *attribute :
+         {"safetymargin", "defaultSellingPages", "numOfProducts", "numOfNormalPages",
+          "normalpagehorizontalclamp", "numOfSpirals", "editorStartDoublePage", "bleedmargin",
+          "bleedmarginhorizontal", "bleedmarginvertical", "bleedmargincover",
+          "bleedmargincoverhorizontal", "bleedmargincoververtical", "coverextravertical",
+          "coverextrahorizontal", "foldmargin"})
+        attributes += QByteArray(attribute) + "='N' ";
+    QByteArray xml = product(
+        name, attributes + "binding='HARDCOVER' orientation='portrait'",
+        "<spines><spine pages='N' width='N' maxfontheight='N'/><spine pages='-N' width='N'/>"
+        "<spine pages='0' width='N'/><spine pages='26' width='N'/></spines>"
+        "<surroundings><surrounding pageNr='N' x='N' y='N' width='N' height='N' "
+        "hasbindingshade='true'/></surroundings>"
+        "<rotationredirects><rotationredirect from='N' to='N' angleinvert='N'/>"
+        "</rotationredirects><contentredirects><contentredirect from='N' to='N'/>"
+        "<contentredirect from='0-N' to='N'/><contentredirect from='N-N' to='0'/>"
+        "</contentredirects><barcodes><barcode x='N' y='N' width='N' height='N' pageNr='N' "
+        "reverseOrder='true'/><barcode x='-N' y='N' width='9' height='N' pageNr='N'/></barcodes>"
+        "<productionnumbering>N,N,-N,N</productionnumbering>"
+        "<pageswithcontent>N,-N,0</pageswithcontent><extra_production_pages><item>"
+        "<target_pages>N,N</target_pages><pdf layer='N'/></item></extra_production_pages>"
+        "<pageNumberConfig><margin verticalMargin='N' horizontalMargin='N'/>"
+        "<font fontSize='N'/></pageNumberConfig><pages>fullcover,spine,normalpages</pages>");
+    // The names of elements and attributes have no such letter, alone between these.
+    for (const char *before : {"'", "-", ",", ">"}) {
+        for (const char *after : {"'", "-", ",", "<"})
+            xml.replace(QByteArray(before) + 'N' + after, before + number + after);
+    }
+    return xml.replace("width='2100' height='2970'", number == "2147483647"
+                                                         ? "width='2147483647' height='2147483647'"
+                                                         : "width='2100' height='2970'");
+}
+
+QList<File> wild()
+{
+    QByteArray categories;
+    for (int i = 0; i < 100000; ++i)
+        categories += "C" + QByteArray::number(i) + ",";
+    QByteArray spines;
+    for (int i = 0; i < 18000; ++i)
+        spines += "<spine pages='" + QByteArray::number(18000 - i) + "' width='9'/>";
+    const QByteArray deep = QByteArray("<a>").repeated(250) + asMany("1,", 0).chopped(2000) +
+                            QByteArray("</a>").repeated(250);
+    QList<File> files;
+    for (const char *number :
+         {"2147483647", "-2147483648", "2147483648", "-2147483649", "99999999999999999999", "-1",
+          "0", "00000000000000000001", "1e9", "0x10", "24,5", "\xD9\xA1", ""})
+        files.append({"NUMBERS" + QByteArray::number(files.size()), number});
+    for (File &file : files)
+        file.content = productOfNumbers(file.name, file.content);
+    // clang-format off
+    const struct { const char *name; QByteArray attributes; QByteArray children; } rows[] = {
+        {"KEYWORDS", "space='" + asMany("A4,", 0) + "'", ""},
+        {"PAGES", "", "<pages>" + asMany("normalpages,", 0) + "</pages>"},
+        {"NUMBERING", "", "<productionnumbering>" + asMany("7,", 0) + "</productionnumbering>"},
+        {"CONTENT", "", "<pageswithcontent>" + asMany("7,", 0) + "</pageswithcontent>"},
+        {"TARGETS", "", "<extra_production_pages><item><target_pages>" + asMany("7,", 0) + "</target_pages></item></extra_production_pages>"},
+        {"ITEMS", "", "<extra_production_pages>" + asMany("<item><target_pages>7</target_pages><pdf/></item>", 4) + "</extra_production_pages>"},
+        {"CATEGORIES", "coverBackgroundCategories='" + categories + "'", ""},
+        {"REDIRECTS", "", "<contentredirects>" + asMany("<contentredirect from='0-2147483647' to='2147483647'/>", 3) + "</contentredirects>"},
+        {"BROKENREDIRECTS", "", "<contentredirects>" + asMany("<contentredirect from='-' to='1'/>", 3) + "</contentredirects>"},
+        {"ROTATIONS", "", "<rotationredirects>" + asMany("<rotationredirect from='1' to='1'/>", 3) + "</rotationredirects>"},
+        {"BARCODES", "", "<barcodes>" + asMany("<barcode pageNr='999'/>", 2) + "</barcodes>"},
+        {"SURROUNDINGS", "", "<surroundings>" + asMany("<surrounding pageType='none'/>", 2) + "</surroundings>"},
+        {"SURROUNDINGLISTS", "", asMany("<surroundings/>", 1)},
+        {"SPINES", "", "<spines>" + spines + "</spines>"},
+        {"DEFAULTS", "", "<defaults>" + asMany("<defaults background='\xC3\xA4'/>", 2) + "</defaults>"},
+        {"THEMES", "", "<defaults><defaults theme='" + categories + "' templates='" + QByteArray("ä,").repeated(100000) + "'/></defaults>"},
+        {"SAMETHEME", "", "<defaults><defaults pageType='" + asMany("normalpage,", 0) + "'/></defaults>"},
+        {"VARIANTS", "", "<variants>" + asMany("<v>x</v>", 2) + "</variants>"},
+        {"DEEPTEXT", "", "<productionnumbering>" + deep + "</productionnumbering>"},
+        {"DEEPPAGES", "", "<pages>" + deep + "</pages>"},
+        {"REFERENCES", "paper='" + asMany("&lt;", 0) + "'", ""},
+        {"UMLAUTS", "", "<defaults><defaults background='" + asMany("ä", 0) + "'/></defaults>"},
+        {"../OUTSIDE", "", ""}, {"/ETC/PASSWD", "", ""}, {"..", "", ""}, {"A/../../OUTSIDE", "", ""},
+    };
+    // clang-format on
+    for (const auto &row : rows)
+        files.append({row.name, product(row.name, row.attributes, row.children)});
+    return files;
+}
+
+} // namespace PxHostileFiles

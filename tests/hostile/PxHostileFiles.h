@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+
+/** Product files that nobody should write, to be loaded all the same. */
+namespace PxHostileFiles {
+
+struct File
+{
+    QByteArray name; // without ".xml"
+    QByteArray content;
+};
+
+/** Files that no loader may accept. */
+QList<File> unreadable();
+
+/** Well-formed files of real products, by their names, that hold what is wild or far too much. */
+QList<File> wild();
+
+} // namespace PxHostileFiles
