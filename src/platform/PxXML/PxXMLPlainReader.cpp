@@ -48,7 +48,7 @@ constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 /** The text with its references replaced; none when one is not of the five. */
 std::optional<QString> resolved(QStringView text)
 {
-    constexpr struct
+    static const struct
     {
         QLatin1String reference;
         char16_t character;
