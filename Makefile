@@ -3,16 +3,18 @@
 PRESET ?= release
 WERROR ?= OFF
 JOBS ?= 2
+FUZZ_SECONDS ?= 600
 BUILD = build/$(PRESET)
 PACKAGES = ccache cmake g++ ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools
 ROOT = $(if $(filter 0,$(shell id -u)),,sudo)
 
-.PHONY: help demo check bench build setup clean
+.PHONY: help demo check bench fuzz build setup clean
 
 help:
 	@echo "make demo    set up, build, and show what the library answers about the sample catalogue"
 	@echo "make check   set up, build, and run every test (PRESET=debug|release|asan|tsan, WERROR=ON)"
 	@echo "make bench   build Release and print what start-up and answers cost, beside what they may cost"
+	@echo "make fuzz    set up, build with clang, and run every fuzzer (FUZZ_SECONDS=600, all together)"
 	@echo "make clean   remove everything that was built"
 
 demo: build
@@ -33,6 +35,11 @@ bench: setup
 	cmake --preset release -DPX_BUILD_BENCHMARKS=ON
 	cmake --build --preset release -j $(JOBS) --target PxBenchmarks
 	build/release/bin/PxBenchmarks --benchmark_enable_random_interleaving=true --benchmark_min_time=0.2
+
+fuzz: PRESET = fuzz
+fuzz: PACKAGES += clang libclang-rt-14-dev
+fuzz: build
+	fuzz/run $(FUZZ_SECONDS)
 
 build: setup
 	cmake --preset $(PRESET) -DPX_WARNINGS_AS_ERRORS=$(WERROR)

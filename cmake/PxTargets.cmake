@@ -75,3 +75,13 @@ function(px_add_test name)
 LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0;\
 TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp")
 endfunction()
+
+# One fuzzer of the same name as its source, part of the target fuzzers; the preset "fuzz" instruments all the rest.
+function(px_add_fuzzer name)
+    add_executable(${name} ${name}.cpp)
+    px_set_defaults(${name})
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/fuzzers)
+    target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+    target_link_libraries(${name} PRIVATE PxFuzzSupport Px::ProductProperties)
+    add_dependencies(fuzzers ${name})
+endfunction()

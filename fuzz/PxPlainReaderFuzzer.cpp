@@ -1,0 +1,16 @@
+#include "PxXMLPlainReader.h"
+#include "PxXMLStrictReader.h"
+
+#include <cstdint>
+
+/** Whatever the plain reader reads, the strict one reads as the same tree. */
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const char *text = reinterpret_cast<const char *>(data);
+    const QDomDocument document = PxXMLPlainReader({text, size}).read();
+    PxXMLStrictReader strict(QByteArray(text, int(size)));
+    const bool isRefused = strict.read().has_value();
+    if (!document.isNull() && (isRefused || document.toString() != strict.document().toString()))
+        qFatal("the readers disagree");
+    return 0;
+}

@@ -1,0 +1,19 @@
+#include "PxFuzzedDirectory.h"
+
+#include <PxAskEverything.h>
+
+#include <description/PxProductTypeDescription.h>
+#include <description/PxProductTypeDescriptionReader.h>
+
+#include <memory>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const PxFuzzedDirectory &directory = PxFuzzedDirectory::withFile("product.xml");
+    PxProductTypeDescriptionReader reader{QDir(directory.path())};
+    const std::unique_ptr<PxProductTypeDescription> description(
+        reader.readFile(directory.write(data, size)).second);
+    if (description)
+        pxAskEverything(*description);
+    return 0;
+}
