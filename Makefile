@@ -4,6 +4,7 @@ PRESET ?= release
 WERROR ?= OFF
 JOBS ?= 2
 FUZZ_SECONDS ?= 600
+FUZZ_SEED ?= 0
 BUILD = build/$(PRESET)
 PACKAGES = ccache cmake g++ ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools
 ROOT = $(if $(filter 0,$(shell id -u)),,sudo)
@@ -39,7 +40,7 @@ bench: setup
 fuzz: PRESET = fuzz
 fuzz: PACKAGES += clang libclang-rt-14-dev
 fuzz: build
-	fuzz/run $(FUZZ_SECONDS)
+	fuzz/run $(FUZZ_SECONDS) $(FUZZ_SEED)
 
 build: setup
 	cmake --preset $(PRESET) -DPX_WARNINGS_AS_ERRORS=$(WERROR)
