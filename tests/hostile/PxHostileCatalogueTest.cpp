@@ -175,8 +175,8 @@ void PxHostileCatalogueTest::initTestCase()
     QCOMPARE(chmod(path("forbidden.xml"), 0), 0);
     m_directory.write("products/sparse.xml", "");
     QVERIFY(QFile::resize(path("sparse.xml"), qint64(1) << 40));
-    m_unreadable << "forbidden"
-                 << "sparse";
+    // The directory lists a link to a device, too, and the loader refuses it.
+    m_unreadable.append({"forbidden", "sparse", "zero-device"});
     QVERIFY(QDir().mkpath(path("directory.xml")));
     QCOMPARE(mkfifo(path("pipe.xml"), 0600), 0);
     for (const auto &[from, to] : {std::pair("nowhere", "dangling.xml"),
