@@ -20,11 +20,7 @@ QFileInfo PxFuzzedDirectory::write(const std::uint8_t *data, std::size_t size) c
 }
 
 PxFuzzedDirectory::PxFuzzedDirectory(const char *name)
-    // Into memory, where there is such a place: it is written thousands of times in a second.
-    : m_directory(QFileInfo(QStringLiteral("/dev/shm")).isWritable()
-                      ? QStringLiteral("/dev/shm/px-fuzz-XXXXXX")
-                      : QString())
-    , m_file(m_directory.filePath(QLatin1String(name)))
+    : m_file(m_directory.filePath(QLatin1String(name)))
 {
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     PxDirectoryConfig::instance()->setResourceDirectories({QStringLiteral(PX_SAMPLE_DIRECTORY)});

@@ -89,12 +89,13 @@ void pxAskEverything(const PxTheme &theme)
 {
     QString text;
     QDebug answers(&text);
-    answers << theme << theme.isValid() << theme.description().size() << theme.productGroup().isValid()
-            << theme.thumbnail().size() << theme.isDefaultTheme() << theme.isDesignTheme()
-            << theme.expiryDate() << theme.isExpired() << theme.expiryDayToOrderTxt()
-            << theme.keyAccounts().size() << theme.isValidForKeyAccount(largest)
-            << theme.allowedProductTypes().size() << theme.useSpineText()
-            << theme.canUseNormalBackgrounds() << theme.mustPaintVemoLogo(PxProductType())
+    answers << theme << theme.isValid() << theme.description().size()
+            << theme.productGroup().isValid() << theme.thumbnail().size() << theme.isDefaultTheme()
+            << theme.isDesignTheme() << theme.expiryDate() << theme.isExpired()
+            << theme.expiryDayToOrderTxt() << theme.keyAccounts().size()
+            << theme.isValidForKeyAccount(largest) << theme.allowedProductTypes().size()
+            << theme.useSpineText() << theme.canUseNormalBackgrounds()
+            << theme.mustPaintVemoLogo(PxProductType())
             << theme.vemoLogo(PxProductType(largest)).second
             << theme.defaultBackgroundCategory().name() << theme.defaultFrameCategory().name()
             << (theme == PxTheme::voidTheme()) << qHash(theme);
