@@ -19,7 +19,10 @@ class PXPRODUCTPROPERTIES_EXPORT PxProductVariantIdentifiers : public QObject
     Q_OBJECT
 
 public:
-    /** Created on first use, from any thread; never destroyed. */
+    /**
+     * Created on first use, from any thread; never destroyed. As a QObject it belongs to the thread
+     * that asks first: let that be the one of the user interface.
+     */
     static PxProductVariantIdentifiers *instance();
 
     /** Whether or not the product file lists the identifier; empty for one without a name. */

@@ -20,7 +20,10 @@ class PXPRODUCTPROPERTIES_EXPORT PxHumanReadable : public QObject
     Q_OBJECT
 
 public:
-    /** Created on first use, from any thread; never destroyed. */
+    /**
+     * Created on first use, from any thread; never destroyed. As a QObject it belongs to the thread
+     * that asks first: let that be the one of the user interface.
+     */
     static PxHumanReadable *instance();
 
     /** Empty for a value that is no finish. */
