@@ -1,5 +1,7 @@
 #include "PxRatioReporter.h"
 
+#include <QByteArray>
+
 #include <cstdio>
 
 bool PxRatioReporter::ReportContext(const Context &)
@@ -37,8 +39,10 @@ void PxRatioReporter::printLine(const char *name, double value, double must, dou
 {
     const bool isReached = value <= must || must == 0;
     m_isEveryMustReached = m_isEveryMustReached && isReached;
-    printf("%-46s %10.2f %8.2f %8.2f %-6s %s\n", name, value, must, aim, unit,
+    const QByteArray bound = must > 0 ? QByteArray::number(must, 'f', 2) : QByteArray("-");
+    printf("%-46s %10.2f %8s %8.2f %-6s %s\n", name, value, bound.constData(), aim, unit,
            !isReached     ? "MISSED"
            : value <= aim ? "aim"
-                          : "must");
+           : must > 0     ? "must"
+                          : "");
 }

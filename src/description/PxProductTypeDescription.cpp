@@ -211,6 +211,7 @@ void PxProductTypeDescription::readPages(const QDomElement &pages)
         }
     }
     m_pageTypes = PxPageTypeList(text);
+    m_abstractPageCount = m_pageTypes.size();
 }
 
 void PxProductTypeDescription::initPageSizes(const QDomElement &product)
@@ -259,6 +260,7 @@ void PxProductTypeDescription::initSpineData(const QDomElement &spines)
                     [](const Spine &a, const Spine &b) { return a.pageCount == b.pageCount; });
     m_spines.erase(end, m_spines.end());
     m_spines.squeeze();
+    m_pageIncrement = findPageIncrement();
 }
 
 void PxProductTypeDescription::adjustSpineWidth()

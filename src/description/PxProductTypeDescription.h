@@ -23,9 +23,11 @@
 #include <PxImageFXs.h>
 #include <PxPageNamingStyle.h>
 
-#include <QMap>
 #include <QSize>
 #include <QStringList>
+#include <QVector>
+
+#include <limits>
 
 class QDomElement;
 
@@ -101,13 +103,13 @@ public:
     /** The largest page count that has a spine; the smallest int when none has. */
     int maxPages() const;
     /** By how many pages the product grows at a time; the smallest int below three page counts. */
-    int pageIncrement() const;
+    int pageIncrement() const { return m_pageIncrement; }
     /** The page count that is offered first; -1 for none. */
     int defaultSellingPages() const { return m_defaultSellingPages; }
     /** How many normal pages a product without spines has, 1 by default. */
     int explicitNumberOfNormalPages() const { return m_explicitNumberOfNormalPages; }
     /** How many entries the file's page list has; a range of pages is one. */
-    int countAbstractPages() const { return m_pageTypes.size(); }
+    int countAbstractPages() const { return m_abstractPageCount; }
     bool hasPages() const { return !m_pageTypes.isEmpty(); }
     /** The first page is a cover. */
     bool hasCover() const;
@@ -210,12 +212,16 @@ private:
     void initPageNumbering(const QDomElement &pageNumberConfig);
     void initBackgroundCategories(const QDomElement &product);
     PxProductTypeDescriptionSpineData spine(int pageCount) const;
+    int findPageIncrement() const;
     int decodeFoldMargin(const QDomElement &product) const;
 
     PxOrientation m_orientation;
     bool m_hasAssistant = true;
     PxBinding m_binding;
     QVector<Spine> m_spines; // by page count
+    // What all products are compared by stands in the record, not behind a pointer.
+    int m_pageIncrement = std::numeric_limits<int>::min();
+    int m_abstractPageCount = 0;
     bool m_hasSpine = false;
     bool m_mustPaintVemoLogoOnSpine = false;
     PxImageFXs m_imageFX = PxImageFXsNone;

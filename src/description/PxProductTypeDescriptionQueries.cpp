@@ -64,7 +64,7 @@ int PxProductTypeDescription::maxPages() const
     return m_spines.isEmpty() ? std::numeric_limits<int>::min() : m_spines.constLast().pageCount;
 }
 
-int PxProductTypeDescription::pageIncrement() const
+int PxProductTypeDescription::findPageIncrement() const
 {
     const int count = m_spines.size();
     if (count < 3)

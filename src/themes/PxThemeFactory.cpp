@@ -69,6 +69,7 @@ PxDefaultThematicCategories readDefaultCategories(const QDomElement &defaultCate
         {QStringLiteral("layout"), PxJigTypeLayout},
     };
     PxDefaultThematicCategories categories;
+    categories.reserve(int(std::size(rows)));
     for (const auto &row : rows)
         categories.insert(row.jigType,
                           PxThematicCategory(PxXMLParser::attribute(defaultCategories,
