@@ -50,13 +50,13 @@ namespace {
 #ifdef PX_SANITIZED
 constexpr int slowness = 20;
 #elif defined(NDEBUG)
-constexpr int slowness = 1;
+constexpr int slowness = 2; // others use the machine, too
 #else
-constexpr int slowness = 4;
+constexpr int slowness = 6;
 #endif
 constexpr int maximumMilliseconds = 250 * slowness;
 constexpr rlim_t maximumMemory = 150 << 20;
-constexpr unsigned stackSize = 512 * 1024 * (slowness > 4 ? 4 : 1);
+constexpr unsigned stackSize = 512 * 1024 * (slowness > 6 ? 4 : 1);
 
 void setLimit(__rlimit_resource resource, rlim_t value)
 {
