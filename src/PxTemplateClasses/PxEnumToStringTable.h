@@ -3,7 +3,6 @@
 #include "PxKeyword.h"
 #include "splitEnumType.h"
 
-#include <QAtomicInt>
 #include <QDebug>
 #include <QHash>
 #include <QSet>
@@ -51,8 +50,7 @@ public:
      * The union of a comma-separated list of keywords.
      *
      * A part that is no keyword, an empty one too, adds the default value and is logged at debug
-     * level, the first ten thousand of a process; an empty text gives the default value without a
-     * word.
+     * level; an empty text gives the default value without a word.
      */
     ENUM decodeCSV(const QString &keywords) const
     {
@@ -104,12 +102,6 @@ private:
 
     static void reportUndecodable(const QString &keyword, const char *function)
     {
-        // A single hostile file can hold hundreds of thousands, which would be seconds of logging.
-        constexpr int maximumReports = 10000;
-        static QAtomicInt ourReports;
-        if (ourReports.loadRelaxed() >= maximumReports)
-            return;
-        ourReports.fetchAndAddRelaxed(1);
         QMessageLogger("../PxTemplateClasses/PxEnumToStringTable", 161, function).debug()
             << "undecodable: (using default in " << typeid(ENUM).name() << ")" << keyword;
     }

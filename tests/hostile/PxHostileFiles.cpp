@@ -13,12 +13,11 @@ static QByteArray product(const QByteArray &name, const QByteArray &attributes,
            "><usablesize width='2100' height='2970'/>" + children + "</product></d>";
 }
 
-/** As often as the limits allow, with room for the rest of the file. */
+/** As often as a file of 1.5 MB and 55,000 nodes holds: hundreds of times as much as a real one. */
 static QByteArray asMany(const QByteArray &text, int nodes)
 {
-    const int bySize = (PxXMLLoader::maximumFileSize - 1000) / text.size();
-    const int byNodes = nodes > 0 ? (PxXMLLoader::maximumNodes - 50) / nodes : bySize;
-    return text.repeated(qMin(bySize, byNodes));
+    const int bySize = 1500000 / text.size();
+    return text.repeated(nodes > 0 ? qMin(bySize, 55000 / nodes - 20) : bySize);
 }
 
 static QByteArray encoded(const char *codec, const QByteArray &utf8)
@@ -58,7 +57,7 @@ QList<File> unreadable()
         {"external-entity", "<!DOCTYPE d [<!ENTITY a SYSTEM 'file:///etc/passwd'>]><d>&a;</d>"}, {"external-subset", "<!DOCTYPE d SYSTEM 'file:///dev/zero'><d>&a;</d>"},
         {"parameter-entity", "<!DOCTYPE d [<!ENTITY % a SYSTEM 'http://localhost/'>%a;]><d/>"}, {"attribute-defaults", "<!DOCTYPE d [<!ATTLIST d a CDATA 'x'>]><d/>"},
         {"deep", QByteArray("<a>").repeated(257) + QByteArray("</a>").repeated(257)}, {"bottomless", asMany("<a>", 0)}, {"deep-comments", asMany("<!--", 0)},
-        {"many-elements", "<d>" + asMany("<a/>", 0) + "</d>"}, {"many-texts", "<d>" + asMany("<a>x</a>", 0) + "</d>"}, {"many-sections", "<d>" + asMany("<![CDATA[x]]>", 0) + "</d>"},
+        {"many-elements", "<d>" + asMany("<a/>", 0) + "</d>"}, {"many-texts", "<d>" + asMany("<a>x</a>", 0) + "</d>"}, {"many-sections", "<d>" + QByteArray("<![CDATA[x]]>").repeated(PxXMLLoader::maximumNodes) + "</d>"},
         {"many-attributes", "<d" + manyAttributes + "/>"}, {"attributes-all-over", "<d>" + asMany("<a b='' c='' d='' e=''/>", 0) + "</d>"}, {"same-attribute", "<d" + asMany(" a=''", 0) + "/>"},
         {"no-section-end", "<d><![CDATA[" + asMany("]]", 0)}, {"no-instruction-end", "<d><?" + asMany("a?", 0)}, {"no-comment-end", "<d><!--" + asMany("-", 0)},
         {"no-name-end", "<" + asMany("d", 0)}, {"too-large", good + QByteArray(PxXMLLoader::maximumFileSize, ' ')},
@@ -122,7 +121,8 @@ QList<File> wild()
         file.content = productOfNumbers(file.name, file.content);
     // clang-format off
     const struct { const char *name; QByteArray attributes; QByteArray children; } rows[] = {
-        {"KEYWORDS", "space='" + asMany("A4,", 0) + "'", ""},
+        {"KEYWORDS", "space='" + asMany("600cm2,", 0) + "'", ""},
+        {"WRONGKEYWORDS", "space='" + QByteArray("A4,").repeated(30000) + "'", ""}, // a message for each
         {"PAGES", "", "<pages>" + asMany("normalpages,", 0) + "</pages>"},
         {"NUMBERING", "", "<productionnumbering>" + asMany("7,", 0) + "</productionnumbering>"},
         {"CONTENT", "", "<pageswithcontent>" + asMany("7,", 0) + "</pageswithcontent>"},

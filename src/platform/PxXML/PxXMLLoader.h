@@ -21,15 +21,15 @@ class PXXML_EXPORT PxXMLLoader
 {
 public:
     // What no honest file comes near; larger ones would cost more time, memory or stack than we
-    // are ready to give an unknown file: a quarter of a second, 150 MB and 512 KB of stack.
+    // are ready to give an unknown file.
     /** Bytes of a file. */
-    static constexpr int maximumFileSize = 3 * 512 * 1024;
+    static constexpr int maximumFileSize = 8 * 1024 * 1024;
     /** Elements inside each other, the document element included. */
     static constexpr int maximumDepth = 256;
     /** Attributes of one tag. */
     static constexpr int maximumAttributes = 256;
     /** Elements, attributes, texts, CDATA sections, comments, processing instructions of a file. */
-    static constexpr int maximumNodes = 55000;
+    static constexpr int maximumNodes = 200000;
 
     static QDomDocument loadDocument(const QFileInfo &file, QString *error = nullptr);
     /**
