@@ -90,7 +90,9 @@ PxXMLPlainReader::PxXMLPlainReader(std::string_view text)
 
 QDomDocument PxXMLPlainReader::read()
 {
-    bool isPlain = readDeclaration();
+    // A larger text is left to the full parser alone, or a hostile one would take the time of both.
+    constexpr std::size_t maximumSize = 512 * 1024;
+    bool isPlain = m_text.size() <= maximumSize && readDeclaration();
     while (isPlain && m_position < m_text.size())
         isPlain = current() == '<' ? readMarkup() : readText();
     return isPlain && m_hasRoot && m_open.empty() ? m_document : QDomDocument();
