@@ -2,7 +2,6 @@
 
 #include <PxXMLParser.h>
 
-#include <QDebug>
 #include <QDomElement>
 
 #include <algorithm>

@@ -8,6 +8,41 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
+
+namespace {
+
+constexpr struct
+{
+    char16_t letter;
+    const char *replacement;
+} umlauts[] = {{u'ä', "ae"}, {u'ö', "oe"}, {u'ü', "ue"}, {u'ß', "ss"}};
+
+/**
+ * The template's name without umlauts.
+ *
+ * Names with umlauts recur in hundreds of products: a short one is made once and shared, as the
+ * reader of the file shares those without.
+ */
+QString templateName(const QString &text)
+{
+    constexpr int maximumSharedLength = 64;
+    const QString name = text.trimmed();
+    const auto isAscii = [](QChar c) { return c.unicode() < 0x80; };
+    if (std::all_of(name.cbegin(), name.cend(), isAscii))
+        return name;
+    if (name.size() > maximumSharedLength)
+        return PxDefaultTemplateMap::removeUmlauts(name);
+    static thread_local std::array<QPair<QString, QString>, 256> ourRecentNames;
+    auto &[original, replaced] = ourRecentNames[qHash(name) % ourRecentNames.size()];
+    if (original != name) {
+        original = name;
+        replaced = PxDefaultTemplateMap::removeUmlauts(name);
+    }
+    return replaced;
+}
+
+} // namespace
 
 PxDefaultTemplateMap::PxDefaultTemplateMap(const QDomElement &parent)
 {
@@ -43,26 +78,19 @@ void PxDefaultTemplateMap::applyDefaultsNode(const QDomElement &parent)
     m_defaults.squeeze();
 }
 
-QString PxDefaultTemplateMap::removeUmlauts(QString text)
+QString PxDefaultTemplateMap::removeUmlauts(const QString &text)
 {
-    constexpr struct
-    {
-        char16_t letter;
-        const char *replacement;
-    } umlauts[] = {{u'ä', "ae"}, {u'ö', "oe"}, {u'ü', "ue"}, {u'ß', "ss"}};
-    const auto isAscii = [](QChar c) { return c.unicode() < 0x80; };
-    if (std::all_of(text.cbegin(), text.cend(), isAscii))
-        return text;
-    // Template names recur in hundreds of products: their copies share one text, made once.
-    static thread_local std::array<QPair<QString, QString>, 256> ourRecentTexts;
-    auto &[original, replaced] = ourRecentTexts[qHash(text) % ourRecentTexts.size()];
-    if (original != text) {
-        original = text;
-        for (const auto &row : umlauts)
-            text.replace(QChar(row.letter), QLatin1String(row.replacement));
-        replaced = text;
+    QString result;
+    result.reserve(text.size());
+    for (const QChar c : text) {
+        const auto found = std::find_if(std::begin(umlauts), std::end(umlauts),
+                                        [c](const auto &row) { return c == QChar(row.letter); });
+        if (found == std::end(umlauts))
+            result.append(c);
+        else
+            result.append(QLatin1String(found->replacement));
     }
-    return replaced;
+    return result;
 }
 
 static bool isSingleBit(int flags)
@@ -109,9 +137,9 @@ PxDefaultTemplateMap::Defaults PxDefaultTemplateMap::readDefaults(const QDomElem
     });
     const QString layout = count == 2 ? names[1].toString() : QString();
     defaults.templates[DefaultTemplateTypeLayout] =
-        removeUmlauts(element.attribute(QStringLiteral("layout"), layout).trimmed());
-    defaults.templates[DefaultTemplateTypeBackground] = removeUmlauts(
-        element.attribute(QStringLiteral("background"), names[0].toString()).trimmed());
+        templateName(element.attribute(QStringLiteral("layout"), layout));
+    defaults.templates[DefaultTemplateTypeBackground] =
+        templateName(element.attribute(QStringLiteral("background"), names[0].toString()));
     return defaults;
 }
 

@@ -28,16 +28,15 @@ public:
      */
     void applyDefaultsNode(const QDomElement &parent);
 
-    /** The text with lower-case ä, ö, ü and ß written as ae, oe, ue and ss, and all else as it is.
-     */
-    static QString removeUmlauts(QString text);
+    /** The text with lower-case ä, ö, ü and ß as ae, oe, ue and ss, and all else as it is. */
+    static QString removeUmlauts(const QString &text);
 
 private:
     struct Defaults
     {
         int pageTypes = 0;  // the union of those that are single bits, as nearly all are
-        int alignments = 0; // of a list are single bits: their union tells them all
-        QVector<PxPageTypeEnum> otherPageTypes; // a union of page types is only equal to itself
+        int alignments = 0; // the alignments of a list are single bits: their union tells them all
+        QVector<PxPageTypeEnum> otherPageTypes; // 0 or a union, which is only equal to itself
         QString templates[2];                   // by DefaultTemplateType
 
         bool isFor(const PxPageContext &page) const;

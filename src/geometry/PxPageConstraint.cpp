@@ -6,6 +6,14 @@
 
 #include <algorithm>
 
+template <typename SET>
+static auto sorted(const SET &set)
+{
+    auto values = set.values();
+    std::sort(values.begin(), values.end());
+    return values;
+}
+
 PxPageConstraint::PxPageConstraint(const PxPageType &pageType, const PxPageAlignment &alignment)
 {
     setPageTypes(pageType);
@@ -61,10 +69,11 @@ void PxPageConstraint::addIntendetAlignment(const PxPageAlignment &alignment)
 
 void PxPageConstraint::toXml(QDomElement &parent) const
 {
-    for (const PxPageType &pageType : m_pageTypes)
+    // The order of the sets changes from run to run, that of a document should not.
+    for (const PxPageType &pageType : sorted(m_pageTypes))
         PxXMLBuilder::buildDomElement(parent, QStringLiteral("pagetype"), pageType.encodeCSV());
     // Each element is a single bit, so each child holds one keyword, or none for an unassigned bit.
-    for (PxPageAlignment alignment : m_intendetAlignments)
+    for (PxPageAlignment alignment : sorted(m_intendetAlignments))
         PxXMLBuilder::buildDomElement(
             parent, QStringLiteral("intendetAlignment"),
             EnumHelper::encodeKeyword(alignment, EnumHelper::globalMapPageAlignmentString,

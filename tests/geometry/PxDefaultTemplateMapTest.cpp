@@ -29,6 +29,11 @@ void PxDefaultTemplateMapTest::readsNames()
     QCOMPARE(names("templates='bg_a,x,lay_a'"), QString("/bg_a"));
     QCOMPARE(names("templates='a,b' layout='' background='c'"), QString("/c"));
     QCOMPARE(names("layout=' Größe Öl ' templates=' für '"), QString("Groesse Öl/fuer"));
+    // Names with umlauts are shared; however many there are, none is taken for another.
+    for (int i = 0; i < 1200; ++i) {
+        const QString number = QString::number(i % 600);
+        QCOMPARE(names("layout='Tür " + number + "'"), "Tuer " + number + '/');
+    }
 }
 
 void PxDefaultTemplateMapTest::findsByThemeTypeAndAlignment()

@@ -46,14 +46,13 @@ void PxPageConstraintTest::writesOneChildPerElement()
     constraint.addPageType(static_cast<PxPageTypeEnum>(0x20 + 0x40));
     QDomElement parent = pxElement("<template/>");
     constraint.toXml(parent);
-    QStringList children; // in the order of the sets, which is open
+    QStringList children;
     for (QDomElement e = parent.firstChildElement(); !e.isNull(); e = e.nextSiblingElement())
         children.append(pxXml(e));
-    children.sort();
-    QCOMPARE(children, QStringList({"<intendetAlignment>CENTER</intendetAlignment>",
-                                    "<intendetAlignment>TOP</intendetAlignment>",
+    QCOMPARE(children, QStringList({"<pagetype>spine</pagetype>",
                                     "<pagetype>emptypage, fullcover</pagetype>",
-                                    "<pagetype>spine</pagetype>"}));
+                                    "<intendetAlignment>TOP</intendetAlignment>",
+                                    "<intendetAlignment>CENTER</intendetAlignment>"}));
 }
 
 QTEST_GUILESS_MAIN(PxPageConstraintTest)
