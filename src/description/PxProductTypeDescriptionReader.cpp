@@ -1,11 +1,11 @@
 #include "description/PxProductTypeDescriptionReader.h"
 
 #include "description/PxProductTypeDescription.h"
+#include "values/PxLogReason.h"
 
 #include <PxXMLLoader.h>
 #include <PxXMLParser.h>
 
-#include <QDebug>
 #include <QDomElement>
 #include <QFileInfo>
 
@@ -54,7 +54,7 @@ QPair<PxProductType, PxProductTypeDescription *> PxProductTypeDescriptionReader:
                        "PxProductTypeDescriptionReader::readFile(const QFileInfo&)")
                 .warning()
             << "PxProductTypeDescriptionReader::readFile could not open" << file.absoluteFilePath();
-        qDebug().noquote() << error; // the reason, for the author of the file
+        pxLogReason(error);
         return qMakePair(PxProductType(), static_cast<PxProductTypeDescription *>(nullptr));
     }
     const QDomElement product = root.firstChildElement(QStringLiteral("product"));

@@ -2,6 +2,7 @@
 
 #include "themes/PxThemeImages.h"
 #include "values/PxJigType.h"
+#include "values/PxLogReason.h"
 
 #include <PxCreateOnce.h>
 #include <PxDirectoryConfig.h>
@@ -195,8 +196,7 @@ PxThemeList PxThemeFactory::loadThemeList(QDir &directory)
 {
     PxThemeList themes;
     PxThemeImages images;
-    // Patterns match in any case unless the directory says otherwise (QDir::CaseSensitive); a file
-    // that matches both is listed once.
+    // Patterns match in any case; a file that matches both is listed once.
     const QFileInfoList files = directory.entryInfoList(
         {QStringLiteral("*.XML"), QStringLiteral("*.xml")}, QDir::Files, QDir::Unsorted);
     for (const QFileInfo &file : files) {
@@ -206,7 +206,7 @@ PxThemeList PxThemeFactory::loadThemeList(QDir &directory)
             qWarning().noquote()
                 << QStringLiteral("PxThemeFactory::loadThemeList Could not open config file: %2/%1")
                        .arg(file.absoluteFilePath(), QDir::currentPath());
-            qDebug().noquote() << error; // the reason, for the author of the file
+            pxLogReason(error);
             continue;
         }
         if (root.tagName().toLower() != QLatin1String("themes"))

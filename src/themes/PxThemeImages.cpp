@@ -7,7 +7,7 @@
 namespace {
 
 constexpr qint64 maximumPixels = 4096LL * 4096;        // of one image
-constexpr qint64 maximumAllPixels = 4 * maximumPixels; // 256 MB
+constexpr qint64 maximumAllPixels = 4 * maximumPixels; // 512 MB, when one takes eight bytes
 
 } // namespace
 

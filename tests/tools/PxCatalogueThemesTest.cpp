@@ -54,6 +54,13 @@ void PxCatalogueThemesTest::listsTheThemes()
     const PxProgramRun themes = run("themes --json --themes " + directory.path());
     QCOMPARE(joined(themes, "themes", "id") + joined(themes, "themes", "description"),
              QString("a,b,bunbekannt,1,2"));
+
+    QFile broken(directory.filePath("broken.xml"));
+    QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("<themes>"));
+    broken.close();
+    const QStringList errors = run("themes --themes " + directory.path()).errors();
+    QVERIFY(errors.size() == 2 && errors[0].contains("Could not open config file"));
+    QVERIFY(errors[1].startsWith("pxcatalogue: warning: the reason: " + broken.fileName() + ":1:"));
 }
 
 void PxCatalogueThemesTest::showsAProductInATheme()

@@ -66,7 +66,7 @@ constexpr struct { int commands; const char *name; const char *value; const char
     {everyCommand, "user-defaults", "DIR", "The user's default templates. Default: PX_USER_DEFAULTS_DIR, else defaults in the same."},
     {everyCommand, "themes", "DIR", "The directory of the theme files. Default: PX_THEMES_DIR, else themes in the same."},
     {everyCommand, "lang", "LANGUAGE", "The language of display names: en or de. Default: that of the locale, else German."},
-    {everyCommand, "verbose", nullptr, "Also the debug messages of the library. Why a product file could not be read is always told; check tells no messages without this."},
+    {everyCommand, "verbose", nullptr, "Also the debug messages of the library. Why a product or theme file could not be read is always told; check tells no messages without this."},
     {everyCommand, "help", nullptr, "This text."},
     {everyCommand, "version", nullptr, "The version of the program."},
 };

@@ -2,7 +2,6 @@
 
 #include "PxTerminal.h"
 
-#include <QByteArray>
 #include <QString>
 
 #include <cstdlib>
@@ -11,10 +10,10 @@ namespace {
 
 auto ourShown = PxCatalogueLog::Shown::Warnings;
 
-/** The reader of product files says at debug level only why it refused a file. */
+/** The library says at debug level only why it refused a file. */
 bool isReasonOfRefusal(const QMessageLogContext &context)
 {
-    return QByteArray(context.function).contains("PxProductTypeDescriptionReader::readFile");
+    return qstrcmp(context.function, "pxLogReason") == 0;
 }
 
 void print(QtMsgType level, const QMessageLogContext &context, const QString &text)
