@@ -83,7 +83,7 @@ double PxIndirectProductDescription::defaultWidthHeightRatio() const
 {
     switch (orientation().value()) {
     case PxOrientationPortrait:
-        return 0.666666; // not two thirds: documents in use were laid out with just this
+        return 0.666666; // exactly this decimal, not two thirds
     case PxOrientationLandscape:
         return 1.5;
     default:

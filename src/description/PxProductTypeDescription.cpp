@@ -71,7 +71,7 @@ PxProductTypeDescription::PxProductTypeDescription(const QDomElement &product)
     m_pageNamingStyle = decodeKeywords(product, QStringLiteral("pageNamingStyle"),
                                        EnumHelper::globalMapPageNamingStyleString,
                                        EnumHelper::globalPageNamingStyleDefaultValue);
-    readPages(product.firstChildElement(QStringLiteral("pages")));
+    readPages(product);
 
     initPageSizes(product);
     m_hasSpine = m_pageTypes.contains(PxPageType(PxPageTypeSpine));
@@ -177,8 +177,9 @@ void PxProductTypeDescription::readUserDefaults(const QString &productName)
 {
     // A product file may hold any name; it shall not lead out of the directory.
     const QDir directory(PxDirectoryConfig::instance()->userDefaultsPath());
+    // Opened is what was tested: through links, the name as it stands could lead elsewhere.
     const QString name = QDir::cleanPath(productName + QLatin1String(".xml"));
-    if (name == QLatin1String("..") || name.startsWith(QLatin1String("../")))
+    if (name.startsWith(QLatin1String("../")))
         return;
     // A missing or damaged file is nothing to report: few users have defaults of their own.
     const QDomDocument document =
@@ -194,8 +195,9 @@ void PxProductTypeDescription::readVariants(const QDomElement &variants)
         m_variants.append(e.text());
 }
 
-void PxProductTypeDescription::readPages(const QDomElement &pages)
+void PxProductTypeDescription::readPages(const QDomElement &product)
 {
+    const QDomElement pages = product.firstChildElement(QStringLiteral("pages"));
     if (pages.isNull())
         return;
     QString text = pages.text();
@@ -206,7 +208,8 @@ void PxProductTypeDescription::readPages(const QDomElement &pages)
         if (entries++ == maximumAbstractPages) {
             qWarning() << "PxProductTypeDescription::readPages"
                        << entries + text.midRef(i + 1).count(QLatin1Char(','))
-                       << "entries in \"pages\", used are the first" << maximumAbstractPages;
+                       << "entries in \"pages\" of" << product.attribute(QStringLiteral("name"))
+                       << "- used are the first" << maximumAbstractPages;
             text.truncate(i);
         }
     }

@@ -106,7 +106,7 @@ public:
     int pageIncrement() const { return m_pageIncrement; }
     /** The page count that is offered first; -1 for none. */
     int defaultSellingPages() const { return m_defaultSellingPages; }
-    /** How many normal pages a product without spines has, 1 by default. */
+    /** How many normal pages a gift, card or decoration has, 1 by default. */
     int explicitNumberOfNormalPages() const { return m_explicitNumberOfNormalPages; }
     /** How many entries the file's page list has; a range of pages is one. */
     int countAbstractPages() const { return m_abstractPageCount; }
@@ -204,7 +204,7 @@ private:
     void readFlags(const QDomElement &product);
     void readCardAlignment(const QDomElement &product);
     void readUserDefaults(const QString &productName);
-    void readPages(const QDomElement &pages);
+    void readPages(const QDomElement &product);
     void readVariants(const QDomElement &variants);
     void initPageSizes(const QDomElement &product);
     void initSpineData(const QDomElement &spines);
@@ -219,7 +219,7 @@ private:
     bool m_hasAssistant = true;
     PxBinding m_binding;
     QVector<Spine> m_spines; // by page count
-    // What all products are compared by stands in the record, not behind a pointer.
+    // Asked of every product when compatible ones are looked for: the record itself answers.
     int m_pageIncrement = std::numeric_limits<int>::min();
     int m_abstractPageCount = 0;
     bool m_hasSpine = false;

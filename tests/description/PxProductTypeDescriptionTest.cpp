@@ -287,10 +287,11 @@ void PxProductTypeDescriptionTest::millionsOfCombinationsAnswerAtOnce()
     timer.start();
     const PxLogRecorder log;
     const PxProductTypeDescription d = describe(
-        "", "<contentredirects><contentredirect from='0-2147483647' to='3'/></contentredirects>"
-            "<pages>" +
-                pages + "</pages><defaults><defaults theme='" + themes + "' pageType='" + pages +
-                "' alignment='" + sides + "' layout='l'/></defaults>");
+        "name='CUP2'",
+        "<contentredirects><contentredirect from='0-2147483647' to='3'/></contentredirects>"
+        "<pages>" +
+            pages + "</pages><defaults><defaults theme='" + themes + "' pageType='" + pages +
+            "' alignment='" + sides + "' layout='l'/></defaults>");
     QCOMPARE(d.contentDropRedirect(2147483647), 3);
     QCOMPARE(d.findDefaultTemplate(
                  {"t99999", {PxPageTypeSpine, PxPageAlignmentTop}, DefaultTemplateTypeLayout},
@@ -298,7 +299,7 @@ void PxProductTypeDescriptionTest::millionsOfCombinationsAnswerAtOnce()
              QString("l"));
     QCOMPARE(d.countAbstractPages(), 1000);
     QCOMPARE(log.texts(), QStringList("PxProductTypeDescription::readPages 20001 entries in "
-                                      "\"pages\", used are the first 1000"));
+                                      "\"pages\" of \"CUP2\" - used are the first 1000"));
     QVERIFY2(timer.elapsed() < 10000, "the lists must not be multiplied out");
 }
 

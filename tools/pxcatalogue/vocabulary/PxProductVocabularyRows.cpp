@@ -73,7 +73,7 @@ constexpr PxAttributeRow surroundingAttributes[] = {
 };
 constexpr PxAttributeRow defaultsAttributes[] = {
     {"theme", PxValueType::TextList, "normal", "`normal`", "theme ids, compared exactly; ids of themes are lower case"},
-    {"pageType", PxValueType::KeywordList, "", "empty: the entry is never found", "[page types](#page-types)", PxKeywordSet::PageType},
+    {"pageType", PxValueType::KeywordList, "", "empty: found for no page type", "[page types](#page-types)", PxKeywordSet::PageType},
     {"alignment", PxValueType::KeywordList, "left,right,top,bottom,center,middle", "`left,right,top,bottom,center,middle`", "[positions](#alignments); an unknown or empty entry counts as `left`", PxKeywordSet::Alignment},
     {"templates", PxValueType::TextList, "", "empty", "short form: background, then layout"},
     {"layout", PxValueType::Text, nullptr, "second name of `templates` when it has exactly two", "layout template"},
