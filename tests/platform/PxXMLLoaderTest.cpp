@@ -172,6 +172,8 @@ void PxXMLLoaderTest::refusesMalformedTextAndKeepsTheLimits_data()
         {"attributes", tagWithAttributes(256), ""},
         {"too many", tagWithAttributes(257), "the tag has attribute 257, no more than 256 are allowed"},
         {"far too many", tagWithAttributes(100000), "the tag has attribute 257, no more than 256 are allowed"},
+        {"too many behind a comment", "<!--><b '--><c/>" + tagWithAttributes(257), "the tag has attribute 257, no more than 256 are allowed"},
+        {"internal subset behind a comment", "<!---><!DOCTYPE '--><!DOCTYPE a [<!ENTITY b 'c'>]><a>&b;</a>", "1:33: the document type declaration has an internal subset, none is allowed"},
         {"nodes", withNodes(200000), ""},
         {"a node more", withNodes(200001), "this is node 200001 of the file, no more than 200000 are allowed"},
         {"product types", productTypes(10000), ""},

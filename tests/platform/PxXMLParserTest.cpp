@@ -76,7 +76,8 @@ void PxXMLParserTest::readsTimes()
     QCOMPARE(time("2024-02-29"), QString("2024-02-29 00:00:00 0"));
     QCOMPARE(time("2024-02-29T13:05:00Z"), QString("2024-02-29 18:35:00 0"));
     QCOMPARE(time("2024-02-29T13:05:00+02:00"), QString("2024-02-29 16:35:00 0"));
-    for (const char *text : {"", "202302291305", "2024022913050", "20240229", "29.02.2024", "soon"})
+    for (const char *text : {"", "202302291305", "202402292400", "202402291260", "2024022913050",
+                             "20240229", "29.02.2024", "soon"})
         QVERIFY2(time(text) == "2020-01-02 03:04:00 0", text);
     QVERIFY(!PxXMLParser::dateTimeAttribute(elementWith("x"), "a", "y").isValid());
 }

@@ -14,7 +14,8 @@
  * `error`. Nothing is logged.
  *
  * The tree is the one of QDomDocument::setContent() without namespace processing, only that nodes
- * do not know their line and column. Any thread with a stack of 512 KB or more may load and destroy
+ * do not know their line and column, and that line ends, and white space in attribute values, are
+ * normalized as XML demands. Any thread with a stack of 512 KB or more may load and destroy
  * documents.
  */
 class PXXML_EXPORT PxXMLLoader

@@ -12,13 +12,13 @@ std::optional<PxXMLFault> PxXMLMarkupScanner::scan()
         if (m_position == std::string_view::npos)
             break;
         if (startsWith("<!--"))
-            skipPast("-->");
+            skip("<!--", "-->");
         else if (startsWith("<![CDATA["))
-            skipPast("]]>");
+            skip("<![CDATA[", "]]>");
         else if (startsWith("<?"))
-            skipPast("?>");
+            skip("<?", "?>");
         else if (startsWith("</"))
-            skipPast(">");
+            skip("</", ">");
         else if (startsWith("<!"))
             found = scanDocumentType();
         else
@@ -94,10 +94,11 @@ bool PxXMLMarkupScanner::startsWith(std::string_view token) const
     return m_text.compare(m_position, token.size(), token) == 0;
 }
 
-void PxXMLMarkupScanner::skipPast(std::string_view token)
+/** Goes behind the end; no character of the begin is part of it: "<!-->" is still open. */
+void PxXMLMarkupScanner::skip(std::string_view begin, std::string_view end)
 {
-    const std::size_t found = m_text.find(token, m_position);
-    m_position = found == std::string_view::npos ? m_text.size() : found + token.size();
+    const std::size_t found = m_text.find(end, m_position + begin.size());
+    m_position = found == std::string_view::npos ? m_text.size() : found + end.size();
 }
 
 PxXMLFault PxXMLMarkupScanner::fault(const QString &message) const

@@ -23,7 +23,7 @@ public:
 
 private:
     bool startsWith(std::string_view token) const;
-    void skipPast(std::string_view token);
+    void skip(std::string_view begin, std::string_view end);
     std::optional<PxXMLFault> scanTag();
     std::optional<PxXMLFault> scanAttributeValue();
     std::optional<PxXMLFault> scanDocumentType();

@@ -26,8 +26,9 @@ QDateTime toLocalTime(const QString &text)
     const auto number = [&trimmed](int begin, int length) {
         return trimmed.midRef(begin, length).toInt();
     };
-    return QDateTime(QDate(number(0, 4), number(4, 2), number(6, 2)),
-                     QTime(number(8, 2), number(10, 2)));
+    const QDate date(number(0, 4), number(4, 2), number(6, 2));
+    const QTime time(number(8, 2), number(10, 2));
+    return time.isValid() ? QDateTime(date, time) : QDateTime(); // else it would be midnight
 }
 
 /** Whether QRect can compute with them: it stores the last edge inside and measures from the first.

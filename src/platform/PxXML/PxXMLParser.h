@@ -23,7 +23,8 @@ public:
     /** `true`, `1`, `yes`, `on` or `false`, `0`, `no`, `off`, in any case and trimmed. */
     static bool boolAttribute(const QDomElement &element, const QString &name, bool defaultValue);
     /**
-     * A point in time as `yyyyMMddHHmm` or in ISO 8601, answered in local time.
+     * A point in time as `yyyyMMddHHmm` or in the long form of ISO 8601, `yyyy-MM-ddTHH:mm:ss`
+     * with or without a time zone, or the date alone; answered in local time.
      *
      * An unreadable text counts as the default text; when that is unreadable too, the answer is
      * an invalid time.
