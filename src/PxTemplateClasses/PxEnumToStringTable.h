@@ -14,13 +14,16 @@
 /**
  * The two-way table between the keywords of the files and the flag values of one enumeration.
  *
- * Keywords are found in any case and with white space around them.
+ * Keywords are found in any case and with white space around them. Other threads may read the table
+ * at any time, so keywords are inserted before they start.
  */
 template <typename ENUM>
 class PxEnumToStringTable
 {
 public:
-    /** Adds a keyword. The first one of a value is the one that encoding yields, as spelled here.
+    /**
+     * Adds a keyword, without white space around it, or gives it another value. The first one of a
+     * value is the one that encoding yields, as spelled here.
      */
     void insert(const QString &keyword, ENUM value)
     {

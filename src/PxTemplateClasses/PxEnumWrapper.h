@@ -53,7 +53,10 @@ public:
     /** Sets the given bits. */
     virtual PxEnumWrapper &expandedTo(ENUM bits) { return assign(m_value | bits); }
     virtual bool isValid() const { return !isNull(); }
-    /** Inserts the keywords and sets the defaults of the enumeration. Called once in a process. */
+    /**
+     * Inserts the keywords and sets the defaults of the enumeration. Called once in a process,
+     * while whoever else asks for the table waits: it must not decode or encode this enumeration.
+     */
     virtual void fillTable(PxEnumToStringTable<ENUM> *table) const = 0;
 
     ENUM value() const { return m_value; }

@@ -57,7 +57,7 @@ public:
     /** Translated, with line breaks; "unbekannter Bindungstyp" for a value without one. */
     QString toolTip() const;
 
-    /** The display tables, translated when first asked for. */
+    /** The display tables, translated when first asked for. Never null, never freed. */
     static const PxLookUpTable<PxBindingEnum, QString> *bindingNames();
     static const PxLookUpTable<PxBindingEnum, QString> *bindingToolTips();
 

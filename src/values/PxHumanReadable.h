@@ -13,7 +13,10 @@
  *
  * The frame models belong to the maker's catalogue: the optional file `frames.xml` in the resource
  * directories lists them, one `frame` element with `id` (plain ASCII) and `name` (the German text)
- * each. The two frameless variants are built in. Texts are translated when the instance is created.
+ * each. The two frameless variants are built in. An entry without id or name is left out; of two
+ * with one id the later one counts, also over a built-in one. Of a file that cannot be read, which
+ * is a warning, there are the built-in ones only. Texts are translated when the instance is
+ * created.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxHumanReadable : public QObject
 {

@@ -35,7 +35,7 @@ public:
     /** The translated display name; "unbekannter Papiertyp" for a value without one. */
     QString humanReadableName() const;
 
-    /** The display table, translated when first asked for. */
+    /** The display table, translated when first asked for. Never null, never freed. */
     static const PxLookUpTable<PxPaperType, QString> *paperTypeNames();
 
     void fillTable(PxEnumToStringTable<PxPaperTypeEnum> *table) const override;

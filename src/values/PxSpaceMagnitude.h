@@ -43,7 +43,7 @@ public:
     /** The translated display name; "Undefiniert" for a value without one. */
     QString humanReadableName() const;
 
-    /** The display table, translated when first asked for. */
+    /** The display table, translated when first asked for. Never null, never freed. */
     static const PxLookUpTable<PxSpaceMagnitude, QString> *names();
 
     void fillTable(PxEnumToStringTable<PxSpaceMagnitudeEnum> *table) const override;

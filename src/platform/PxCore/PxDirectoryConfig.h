@@ -32,7 +32,10 @@ public:
     QString resource(const QString &name, bool reportMissing) const;
     /** The directory of the user-defaults files; `defaults` in the application's data directory. */
     QString userDefaultsPath() const;
-    /** The directory of the theme files; `themes` in the resources installed with the library. */
+    /**
+     * The directory of the theme files; `themes` in the resources installed with the library. With
+     * `reportMissing` it is a warning when there is none.
+     */
     QDir lumoThemesDirectory(bool reportMissing) const;
 
     /** In the order they are searched. Empty entries count for nothing, no entry for the default.

@@ -4,7 +4,10 @@
 
 class PxProductType;
 
-/** Tells of product types whether they can be ordered, and how many pages they may have. */
+/**
+ * Tells of product types whether they can be ordered, and how many pages they may have. Asked from
+ * any thread.
+ */
 class PXPRODUCTBASE_EXPORT PxProductChecker
 {
 public:
