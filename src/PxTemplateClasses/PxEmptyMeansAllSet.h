@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QList>
 #include <QSet>
+
+#include <algorithm>
 
 /** A set of admitted values, in which the empty set admits every value. */
 template <typename T>
@@ -10,6 +13,13 @@ public:
     using QSet<T>::QSet;
 
     bool sharesKey(const T &key) const { return this->isEmpty() || this->contains(key); }
+    /** Those of the keys that the set admits, in their order. */
+    QList<T> sharedKeys(QList<T> keys) const
+    {
+        const auto isNotShared = [this](const T &key) { return !sharesKey(key); };
+        keys.erase(std::remove_if(keys.begin(), keys.end(), isNotShared), keys.end());
+        return keys;
+    }
     bool sharesKeysWith(const PxEmptyMeansAllSet<T> &other) const
     {
         return this->isEmpty() || other.isEmpty() || sharesRealKeysWith(other);

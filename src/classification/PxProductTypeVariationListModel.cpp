@@ -3,7 +3,6 @@
 #include "description/PxProductTypeConfigRegistry.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace {
 
@@ -70,11 +69,7 @@ QModelIndex PxProductTypeVariationListModel::indexOfCurrentProduct() const
 PxProductTypeList PxProductTypeVariationListModel::filterAllowedByTheme(
     const PxProductTypeList &list) const
 {
-    const PxEmptyMeansAllSet<PxProductType> allowed =
-        m_productContext.theme().allowedProductTypes();
-    PxProductTypeList products;
-    std::copy_if(list.begin(), list.end(), std::back_inserter(products),
-                 [&allowed](const PxProductType &type) { return allowed.sharesKey(type); });
+    PxProductTypeList products = m_productContext.theme().allowedProductTypes().sharedKeys(list);
     if (m_criterion == PxProductComparationAllButPaperType)
         std::sort(products.begin(), products.end(), lessThanPaper);
     else if (m_criterion == PxProductComparationAllButBinding)

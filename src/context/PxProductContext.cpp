@@ -9,7 +9,6 @@
 #include <QDebug>
 #include <QtMath>
 
-#include <algorithm>
 #include <limits>
 
 namespace {
@@ -236,14 +235,8 @@ uint PxProductContext::hash() const
 PxProductTypeList PxProductContext::compatibleProducts(
     PxProductComparationCriterion criterion) const
 {
-    const PxEmptyMeansAllSet<PxProductType> allowed = d->theme.allowedProductTypes();
-    PxProductTypeList products =
-        PxProductTypeConfigRegistry::instance()->findCompatibleProducts(d->productType, criterion);
-    products.erase(
-        std::remove_if(products.begin(), products.end(),
-                       [&allowed](const PxProductType &type) { return !allowed.sharesKey(type); }),
-        products.end());
-    return products;
+    return d->theme.allowedProductTypes().sharedKeys(
+        PxProductTypeConfigRegistry::instance()->findCompatibleProducts(d->productType, criterion));
 }
 
 QString PxProductContext::defaultTemplateForPage(bool doublePage, const PxPageContext &pageContext,

@@ -17,8 +17,6 @@
 #include <QLocale>
 #include <QTranslator>
 
-#include <algorithm>
-
 namespace {
 
 constexpr int done = 0;
@@ -145,11 +143,8 @@ int PxCatalogue::showCompatible() const
                                    {"criterion", "Agreeing in", m_commandLine.criterionKeywords()}};
     const QString themeId = m_commandLine.themeId();
     if (!themeId.isEmpty()) {
-        const auto allowed = PxThemeFactory::instance()->findTheme(themeId).allowedProductTypes();
-        others.erase(
-            std::remove_if(others.begin(), others.end(),
-                           [&](const PxProductType &other) { return !allowed.sharesKey(other); }),
-            others.end());
+        const PxTheme theme = PxThemeFactory::instance()->findTheme(themeId);
+        others = theme.allowedProductTypes().sharedKeys(others);
         query.append({"theme", "Allowed by the theme", themeId});
     }
     PxReport report;
