@@ -90,7 +90,6 @@ void PxCatalogueThemesTest::showsAProductInATheme()
     QVERIFY(joined(run(compatible), "products", "name").contains("BOOK_XXL_PORTRAIT"));
     QCOMPARE(joined(run(compatible + " --theme albfreetheme"), "products", "name"),
              QString("BOOK_A4_PORTRAIT_GLOSSY,BOOK_A4_PORTRAIT_PHOTO,BOOK_A4_PORTRAIT_SOFT"));
-    QCOMPARE(run(compatible + " --theme geburt").status(), 1);
 }
 
 void PxCatalogueThemesTest::namesVariantsInTheLanguageAskedFor()
@@ -127,6 +126,7 @@ void PxCatalogueThemesTest::saysWhatIsWrong()
     // clang-format off
     check("show CUP2 --theme hochzet", 1, "no theme \"hochzet\": did you mean hochzeit?" + themes);
     check("compatible CUP2 --theme xyzzy", 1, "no theme \"xyzzy\"" + themes);
+    check("compatible BOOK_A4_PORTRAIT --theme geburt", 1, "no other product is interchangeable with BOOK_A4_PORTRAIT and allowed by the theme \"geburt\"");
     check("show CUP1 --theme normal", 1, "no product \"CUP1\" any more: CUP2 replaces it (\"pxcatalogue list\" shows all)");
     check("variants BOOK_MINI", 1, "BOOK_MINI has no variants that have a name");
     check("themes --key-account 4711", 1, "no theme that key account 4711 may order");

@@ -153,8 +153,11 @@ int PxCatalogue::showCompatible() const
     const int status = print(report);
     if (status != done || !others.isEmpty())
         return status;
-    return printNo(QStringLiteral("no other product is interchangeable with ") +
-                   type.productName());
+    QString reason =
+        QLatin1String("no other product is interchangeable with ") + type.productName();
+    if (!themeId.isEmpty())
+        reason += QStringLiteral(" and allowed by the theme \"%1\"").arg(themeId);
+    return printNo(reason);
 }
 
 int PxCatalogue::showThemes() const

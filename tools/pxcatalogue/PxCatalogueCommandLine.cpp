@@ -29,8 +29,7 @@ constexpr struct { Command command; const char *name; const char *product; const
         "Those are the ones of its class with the same orientation and number of pages, and with a spine\n"
         "if it has one."},
     {Command::Themes, "themes", nullptr, "A table of the design themes, by id.\n"
-        "Products are those that a theme allows. Normal: the theme takes the backgrounds of the theme\n"
-        "normal. Movable: its content may be moved. Spine: what is printed there."},
+        "Products is the number of those that a theme allows; JSON names them."},
     {Command::Check, "check", "[PATH…]", "What authors should know about the files of a catalogue.\n"
         "Each place where what a file says and what the library does part ways, with the line and the\n"
         "column, what the library does now, and what was probably meant. PATH is a resource directory,\n"
