@@ -2,6 +2,10 @@
 
 #include "PxProductBaseExport.h"
 
+#include <QtGlobal>
+
+class QDebug;
+
 /** How many pages a product may have, and in which steps. */
 class PXPRODUCTBASE_EXPORT PxPageCountOrganization
 {
@@ -24,3 +28,7 @@ private:
     unsigned m_maximum;
     unsigned m_increment;
 };
+
+Q_DECLARE_TYPEINFO(PxPageCountOrganization, Q_MOVABLE_TYPE);
+
+PXPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const PxPageCountOrganization &pageCounts);

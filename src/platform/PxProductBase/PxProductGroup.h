@@ -4,6 +4,8 @@
 
 #include <PxProductGroupEnum.h>
 
+class QDebug;
+
 /** The group under which the shop offers a product. */
 class PXPRODUCTBASE_EXPORT PxProductGroup
 {
@@ -24,3 +26,7 @@ public:
 private:
     PxProductGroupEnum m_value = PxProductGroupUnknown;
 };
+
+Q_DECLARE_TYPEINFO(PxProductGroup, Q_MOVABLE_TYPE);
+
+PXPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const PxProductGroup &group);
