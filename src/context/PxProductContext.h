@@ -26,8 +26,9 @@
 class QDebug;
 
 /**
- * A product type together with the theme it is designed in: what the application asks everything
- * about the product it works on.
+ * A product type together with the theme it is designed in: what the application asks about the
+ * product it works on. The rest, such as sizes with bleed, barcodes, variants and background
+ * categories, the registry answers by productType().
  *
  * One pointer wide; copies share the record, and a setter changes only the context it is called on.
  * Copying and destroying are safe from any thread. A product type without a product file is
@@ -68,7 +69,9 @@ public:
     bool startsWithLeftPage() const;
     /** Interchangeable, with the same size and page increment, and allowed by the theme. */
     PxProductTypeList compatibleProducts() const;
-    /** The same with any page increment. The product itself is one of both, if its theme allows it.
+    /**
+     * The same with any page increment. The product itself is one of both, if it is offered and its
+     * theme allows it.
      */
     PxProductTypeList compatibleProductsWithTheSameSize() const;
     /** Theme, size class, orientation and paper are the same, whatever the product types are. */

@@ -59,7 +59,7 @@ public:
     /**
      * When the default theme is admitted, admits the themes that accept its backgrounds or layouts.
      *
-     * A group that admits every theme admits only these afterwards.
+     * A group that admits every theme admits only these afterwards, if there are any.
      */
     void expandThemesIfMyThemesContainTheDefaultTheme(bool acceptNormalBackgrounds,
                                                       bool acceptNormalLayouts);

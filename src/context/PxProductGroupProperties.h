@@ -16,7 +16,7 @@ public:
     /** The name under which the picture overview is filed. */
     QString fotoIndex() const { return m_fotoIndex; }
     PxFotoPaperType paperType() const { return m_paperType; }
-    /** Invalid for no border. */
+    /** Invalid by default. */
     QColor borderColor() const { return m_borderColor; }
     bool copyToWebAlbum() const { return m_copyToWebAlbum; }
 
