@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDebug>
 #include <QList>
 #include <QSet>
 
@@ -30,3 +31,14 @@ public:
         return this->intersects(other);
     }
 };
+
+/** The admitted values in ascending order, or "all". */
+template <typename T>
+QDebug operator<<(QDebug debug, const PxEmptyMeansAllSet<T> &set)
+{
+    if (set.isEmpty())
+        return debug << "all";
+    QList<T> values = set.values();
+    std::sort(values.begin(), values.end());
+    return debug << values;
+}

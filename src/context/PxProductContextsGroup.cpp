@@ -5,6 +5,7 @@
 
 #include <PxXMLBuilder.h>
 
+#include <QDebug>
 #include <QDomElement>
 
 #include <algorithm>
@@ -167,4 +168,16 @@ void PxProductContextsGroup::toXml(QDomElement &parent) const
     for (const QString &theme : themes)
         PxXMLBuilder::buildDomElement(parent, QStringLiteral("theme"), theme);
     m_indirectProductDescription.toXml(parent);
+}
+
+QDebug operator<<(QDebug debug, const PxProductContextsGroup &group)
+{
+    const QDebugStateSaver saver(debug);
+    const PxProductTypeList types = group.explicitProductTypes();
+    const QStringList themes = group.themeNames();
+    return debug.nospace() << "PxProductContextsGroup(products "
+                           << PxEmptyMeansAllSet<PxProductType>(types.begin(), types.end())
+                           << ", themes "
+                           << PxEmptyMeansAllSet<QString>(themes.begin(), themes.end()) << ", "
+                           << group.indirectProductDescription() << ')';
 }

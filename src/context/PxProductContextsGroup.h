@@ -5,6 +5,8 @@
 
 #include <PxProductTypeList.h>
 
+class QDebug;
+
 /**
  * The product types and themes in which a document or an offer may be realised.
  *
@@ -72,3 +74,7 @@ private:
     PxEmptyMeansAllSet<PxTheme> m_themes;
     PxIndirectProductDescription m_indirectProductDescription;
 };
+
+Q_DECLARE_TYPEINFO(PxProductContextsGroup, Q_MOVABLE_TYPE);
+
+PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug, const PxProductContextsGroup &group);

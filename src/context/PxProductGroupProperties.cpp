@@ -1,6 +1,7 @@
 #include "context/PxProductGroupProperties.h"
 
 #include <QDate>
+#include <QDebug>
 #include <QLocale>
 #include <QObject>
 
@@ -27,4 +28,12 @@ void PxProductGroupProperties::setBorderColor(const QColor &borderColor)
 void PxProductGroupProperties::setCopyToWebAlbum(bool copyToWebAlbum)
 {
     m_copyToWebAlbum = copyToWebAlbum;
+}
+
+QDebug operator<<(QDebug debug, const PxProductGroupProperties &properties)
+{
+    const QDebugStateSaver saver(debug);
+    return debug.nospace() << "PxProductGroupProperties(" << properties.fotoIndex() << ", paper "
+                           << int(properties.paperType()) << ", border " << properties.borderColor()
+                           << ", web album " << properties.copyToWebAlbum() << ')';
 }

@@ -6,6 +6,8 @@
 #include <QColor>
 #include <QString>
 
+class QDebug;
+
 /** What is set once for all products of a group, for example for all photo prints of an order. */
 class PXPRODUCTPROPERTIES_EXPORT PxProductGroupProperties
 {
@@ -31,3 +33,6 @@ private:
     QColor m_borderColor;
     bool m_copyToWebAlbum = false;
 };
+
+PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug,
+                                             const PxProductGroupProperties &properties);

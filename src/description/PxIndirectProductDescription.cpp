@@ -4,6 +4,7 @@
 
 #include <PxXMLBuilder.h>
 
+#include <QDebug>
 #include <QDomElement>
 #include <QStringList>
 
@@ -116,4 +117,11 @@ void PxIndirectProductDescription::toXml(QDomElement &parent) const
 bool PxIndirectProductDescription::operator==(const PxIndirectProductDescription &other) const
 {
     return m_orientations == other.m_orientations && m_templateTypes == other.m_templateTypes;
+}
+
+QDebug operator<<(QDebug debug, const PxIndirectProductDescription &description)
+{
+    const QDebugStateSaver saver(debug);
+    return debug.nospace() << "PxIndirectProductDescription(" << description.orientation()
+                           << ", targets " << description.templateTypes() << ')';
 }

@@ -7,6 +7,7 @@
 #include <PxTemplateTarget.h>
 
 class PxProductContext;
+class QDebug;
 class QDomElement;
 
 /**
@@ -53,3 +54,8 @@ private:
     PxEmptyMeansAllSet<PxOrientation> m_orientations;
     PxEmptyMeansAllSet<PxTemplateTarget> m_templateTypes;
 };
+
+Q_DECLARE_TYPEINFO(PxIndirectProductDescription, Q_MOVABLE_TYPE);
+
+PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug,
+                                             const PxIndirectProductDescription &description);

@@ -4,6 +4,7 @@
 
 #include <PxXMLParser.h>
 
+#include <QDebug>
 #include <QDomElement>
 
 PxProductTypeDescriptionSpineData::PxProductTypeDescriptionSpineData(const QDomElement &spine)
@@ -14,4 +15,11 @@ PxProductTypeDescriptionSpineData::PxProductTypeDescriptionSpineData(const QDomE
 void PxProductTypeDescriptionSpineData::considerExtraCoverWidth(int extra)
 {
     m_width = qMax(0, pxClampedSum(m_width, extra));
+}
+
+QDebug operator<<(QDebug debug, const PxProductTypeDescriptionSpineData &spine)
+{
+    const QDebugStateSaver saver(debug);
+    return debug.nospace() << "PxProductTypeDescriptionSpineData(width " << spine.width()
+                           << ", font height " << spine.maxFontHeight() << ')';
 }

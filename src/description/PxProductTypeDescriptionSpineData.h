@@ -2,6 +2,9 @@
 
 #include "PxProductPropertiesExport.h"
 
+#include <QtGlobal>
+
+class QDebug;
 class QDomElement;
 
 /** The spine of a book of a certain page count, in the unit of the product files. */
@@ -23,3 +26,8 @@ private:
     int m_width = 0;
     int m_maxFontHeight = 0;
 };
+
+Q_DECLARE_TYPEINFO(PxProductTypeDescriptionSpineData, Q_MOVABLE_TYPE);
+
+PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug,
+                                             const PxProductTypeDescriptionSpineData &spine);

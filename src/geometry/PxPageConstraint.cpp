@@ -2,6 +2,7 @@
 
 #include <PxXMLBuilder.h>
 
+#include <QDebug>
 #include <QDomElement>
 
 #include <algorithm>
@@ -78,4 +79,11 @@ void PxPageConstraint::toXml(QDomElement &parent) const
             parent, QStringLiteral("intendetAlignment"),
             EnumHelper::encodeKeyword(alignment, EnumHelper::globalMapPageAlignmentString,
                                       QString()));
+}
+
+QDebug operator<<(QDebug debug, const PxPageConstraint &constraint)
+{
+    const QDebugStateSaver saver(debug);
+    return debug.nospace() << "PxPageConstraint(pages " << constraint.pageTypes() << ", alignments "
+                           << constraint.intendetAlignments() << ')';
 }

@@ -4,6 +4,7 @@
 
 #include <PxEmptyMeansAllSet.h>
 
+class QDebug;
 class QDomElement;
 
 /**
@@ -44,3 +45,7 @@ private:
     PxEmptyMeansAllSet<PxPageType> m_pageTypes;
     PxEmptyMeansAllSet<PxPageAlignment> m_intendetAlignments;
 };
+
+Q_DECLARE_TYPEINFO(PxPageConstraint, Q_MOVABLE_TYPE);
+
+PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug, const PxPageConstraint &constraint);

@@ -43,4 +43,6 @@ private:
     int m_horizontalClampExtra;
 };
 
+Q_DECLARE_TYPEINFO(PxPageSizeSpec, Q_MOVABLE_TYPE);
+
 PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug, const PxPageSizeSpec &size);

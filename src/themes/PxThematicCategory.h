@@ -54,5 +54,7 @@ private:
     QString m_visibleName;
 };
 
+Q_DECLARE_TYPEINFO(PxThematicCategory, Q_MOVABLE_TYPE);
+
 PXPRODUCTPROPERTIES_EXPORT uint qHash(const PxThematicCategory &category, uint seed = 0);
 PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug, const PxThematicCategory &category);

@@ -1,8 +1,13 @@
 #include "PxCatalogueDirectory.h"
+#include "PxElement.h"
 
 #include <context/PxProductContext.h>
+#include <context/PxProductContextsGroup.h>
+#include <context/PxProductGroupProperties.h>
 #include <description/PxProductPropertiesInitializer.h>
+#include <description/PxProductTypeDescriptionSpineData.h>
 #include <geometry/PxMargins.h>
+#include <geometry/PxPageConstraint.h>
 #include <themes/PxThemeFactory.h>
 
 #include <PxDirectoryConfig.h>
@@ -177,12 +182,36 @@ void PxProductContextTest::unknownProductIsAnsweredFromDefaults()
 
 void PxProductContextTest::printsReadably()
 {
+    const PxProductContext context(1, QString("a"));
     QString text;
-    QDebug(&text) << PxProductContext(1, QString("a")) << PxMargins(1, 2, 3, 4)
+    QDebug(&text) << context << PxMargins(1, 2, 3, 4)
                   << PxPageContext(PxPageType("spine,normal"), PxPageAlignmentRight) << 5;
     QCOMPARE(text, QString("PxProductContext(PxProductType(1, \"BOOK\"), PxTheme(\"a\")) "
                            "PxMargins(top 1, bottom 2, left 3, right 4) "
                            "PxPageContext(spine, normalpage(17), alignment 2) 5 "));
+
+    // Sets are sorted, and an empty one says that it admits all.
+    text.clear();
+    PxProductContextsGroup group({2, 1}, {});
+    group.setIndirectProductDescription(PxIndirectProductDescription(context));
+    QDebug(&text) << PxPageConstraint(PxPageType("normal,spine"), PxPageAlignmentNone) << group
+                  << 5;
+    QCOMPARE(text, QString("PxPageConstraint(pages (spine(1), normalpage(16)), alignments all) "
+                           "PxProductContextsGroup(products (PxProductType(1, \"BOOK\"), "
+                           "PxProductType(2, \"TWIN\")), themes all, "
+                           "PxIndirectProductDescription(landscape(2), targets (4))) 5 "));
+
+    text.clear();
+    PxProductGroupProperties prints;
+    prints.setFotoIndex(QString("index"));
+    QDebug(&text) << PxProductGroup(PxProductGroupBook) << context.pageCountOrganization()
+                  << PxProductTypeDescriptionSpineData(
+                         pxElement("<s width='9' maxfontheight='4'/>"))
+                  << prints << 5;
+    QCOMPARE(text, QString("PxProductGroup(8, \"BOOK\") PxPageCountOrganization(4 to 8 by 2) "
+                           "PxProductTypeDescriptionSpineData(width 9, font height 4) "
+                           "PxProductGroupProperties(\"index\", paper 0, border QColor(Invalid), "
+                           "web album false) 5 "));
 }
 
 QTEST_GUILESS_MAIN(PxProductContextTest)
