@@ -1,11 +1,49 @@
+#include "PxAskEverything.h"
+
 #include <PxProductProperties.h>
 
 #include <QDomDocument>
 #include <QGuiApplication>
 #include <QTest>
+#include <QTextStream>
 
+#include <atomic>
 #include <thread>
 #include <vector>
+
+namespace {
+
+/** Hashes of what all themes and products answer; asks through copies of the context. */
+QVector<uint> askTheCatalogue(const PxProductContext &shared)
+{
+    QVector<uint> answers;
+    const PxThemeList themes = PxThemeFactory::instance()->themeList();
+    for (const PxTheme &theme : themes)
+        answers.append(qHash(pxAskEverything(theme)));
+    const auto *registry = PxProductTypeConfigRegistry::instance();
+    for (int code = 0; code < 1000; ++code) {
+        if (code > 0 && registry->description(code) == registry->description(0))
+            continue;
+        QString answer = pxAskEverything(*registry->description(code));
+        PxProductContext own = shared;
+        own.setProductType(code);
+        const QVector<PxProductContext> copies(10, own);
+        own.setTheme(themes[code % themes.size()]);
+        QDomDocument document;
+        QDomElement root = document.createElement("group");
+        PxProductContextsGroup(own).toXml(root);
+        QTextStream stream(&answer);
+        root.save(stream, 0);
+        QDebug(&answer) << copies << own << own.compatibleProducts() << own.pageCountOrganization()
+                        << own.defaultTemplateForPage(true, PxPageContext(), true)
+                        << own.binding().humanReadableName() << own.paperType().humanReadableName()
+                        << PxProductVariantIdentifiers::instance()->variants(code);
+        answers.append(qHash(answer));
+    }
+    return answers;
+}
+
+} // namespace
 
 /** The way of an application, in one process, on the sample catalogue and its themes. */
 class PxWholeWayTest : public QObject
@@ -14,8 +52,8 @@ class PxWholeWayTest : public QObject
 
 private slots:
     void initTestCase();
+    void manyThreadsAskAtOnce(); // first, while nothing but the registry is created
     void fromProductToOrder();
-    void manyThreadsAskAtOnce();
 };
 
 void PxWholeWayTest::initTestCase()
@@ -67,30 +105,30 @@ void PxWholeWayTest::fromProductToOrder()
 
 void PxWholeWayTest::manyThreadsAskAtOnce()
 {
-    const PxProductContext shared(PxProductType(QString("BOOK_A4_PORTRAIT")));
-    std::vector<QString> answers(16);
+    // In a theme that needs no factory, so that the threads race to create it, and all the tables.
+    const PxProductContext shared{PxProductType(), PxTheme()};
+    // Silent, and without a lock, which would make the threads wait for each other.
+    const QtMessageHandler previous =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    std::vector<QVector<uint>> answers(16);
+    std::atomic<int> missing{int(answers.size())};
     std::vector<std::thread> threads;
-    for (QString &answer : answers) {
-        threads.emplace_back([&answer, &shared] {
-            for (int i = 0; i < 50; ++i) {
-                PxProductContext own = shared;
-                own.setTheme(PxThemeFactory::instance()->findTheme("design"));
-                const PxPageSizeSpec size = PxProductTypeConfigRegistry::instance()->sizeSpec(
-                    own.productType(), PxPageSizeKey(PxPageContext(), 26));
-                const PxPageSizeSpec copy = size;
-                answer = own.shortProductName() + own.themeId() +
-                         own.binding().humanReadableName() +
-                         QString::number(copy.totalSize().width()) +
-                         QString::number(own.compatibleProducts().size()) +
-                         own.defaultTemplateForPage(true, PxPageContext(), true);
-            }
+    for (QVector<uint> &answer : answers) {
+        threads.emplace_back([&answer, &missing, &shared] {
+            --missing;
+            while (missing > 0)
+                std::this_thread::yield();
+            for (int round = 0; round < 2; ++round)
+                answer += askTheCatalogue(shared);
         });
     }
     for (std::thread &thread : threads)
         thread.join();
-    QVERIFY(answers[0].contains("design"));
-    for (const QString &answer : answers)
+    qInstallMessageHandler(previous);
+    QVERIFY(answers[0].size() > 2 * 50);
+    for (const QVector<uint> &answer : answers)
         QCOMPARE(answer, answers[0]);
+    QVERIFY(shared.theme() == PxTheme() && shared.productType() == PxProductType());
 }
 
 QTEST_GUILESS_MAIN(PxWholeWayTest)

@@ -47,7 +47,7 @@ void askAboutTheKind(const PxProductTypeDescription &description, const PxPageCo
 
 } // namespace
 
-void pxAskEverything(const PxProductTypeDescription &description)
+QString pxAskEverything(const PxProductTypeDescription &description)
 {
     QString text; // to print the answers looks into all of them
     QDebug answers(&text);
@@ -83,9 +83,10 @@ void pxAskEverything(const PxProductTypeDescription &description)
         answers << description.pageTypes(pageCount).size();
     for (const int pageCount : {smallest, -1, 0, 26, 30000})
         answers << description.productionNumberingList(pageCount).size();
+    return text;
 }
 
-void pxAskEverything(const PxTheme &theme)
+QString pxAskEverything(const PxTheme &theme)
 {
     QString text;
     QDebug answers(&text);
@@ -99,4 +100,5 @@ void pxAskEverything(const PxTheme &theme)
             << theme.vemoLogo(PxProductType(largest)).second
             << theme.defaultBackgroundCategory().name() << theme.defaultFrameCategory().name()
             << (theme == PxTheme::voidTheme()) << qHash(theme);
+    return text;
 }

@@ -2,10 +2,12 @@
 
 class PxProductTypeDescription;
 class PxTheme;
+class QString;
 
 /**
  * Asks a record everything it can answer, with arguments an application should not, but may pass:
- * for tests that only want to see it survive. Page counts stay below what takes long.
+ * for tests that want to see it survive, or answer the same again. Page counts stay below what
+ * takes long.
  */
-void pxAskEverything(const PxProductTypeDescription &description);
-void pxAskEverything(const PxTheme &theme);
+QString pxAskEverything(const PxProductTypeDescription &description);
+QString pxAskEverything(const PxTheme &theme);
