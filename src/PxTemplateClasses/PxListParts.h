@@ -33,9 +33,10 @@ void pxForEachPart(QStringView text, Function function)
 inline QList<int> pxIntList(const QString &text)
 {
     QList<int> numbers;
-    pxForEachPart(text, [&numbers](QStringView part) {
-        bool isNumber = false;
-        const int number = part.toInt(&isNumber);
+    pxForEachPart(text, [&](QStringView part) {
+        bool isNumber = false; // a view would make a text of each part
+        const int number =
+            text.midRef(int(part.data() - text.data()), int(part.size())).toInt(&isNumber);
         if (isNumber)
             numbers.append(number);
     });

@@ -43,6 +43,10 @@ bool is(char c, CharacterClass characterClass)
     return (classes[static_cast<unsigned char>(c)] & characterClass) != 0;
 }
 
+// What real files stay below; the rest of a larger one, a hostile one above all, is not worth what
+// building its nodes twice would cost.
+constexpr int maximumNodes = 20000;
+
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 /** The text with its references replaced; none when one is not of the five. */
@@ -90,9 +94,7 @@ PxXMLPlainReader::PxXMLPlainReader(std::string_view text)
 
 QDomDocument PxXMLPlainReader::read()
 {
-    // A larger text is left to the full parser alone, or a hostile one would take the time of both.
-    constexpr std::size_t maximumSize = 512 * 1024;
-    bool isPlain = m_text.size() <= maximumSize && readDeclaration();
+    bool isPlain = readDeclaration();
     while (isPlain && m_position < m_text.size())
         isPlain = current() == '<' ? readMarkup() : readText();
     return isPlain && m_hasRoot && m_open.empty() ? m_document : QDomDocument();
@@ -204,7 +206,7 @@ bool PxXMLPlainReader::readAttribute(QDomElement &element)
     if (value.find_first_of("<\n\t") != std::string_view::npos)
         return false;
     const std::optional<QString> decoded = decode(value);
-    if (!decoded || ++m_nodes > PxXMLLoader::maximumNodes)
+    if (!decoded || ++m_nodes > maximumNodes)
         return false;
     element.setAttribute(m_texts.text(name), *decoded);
     return true;
@@ -225,7 +227,7 @@ bool PxXMLPlainReader::readEndTag()
 bool PxXMLPlainReader::add(const QDomNode &node)
 {
     m_parent.appendChild(node);
-    return ++m_nodes <= PxXMLLoader::maximumNodes;
+    return ++m_nodes <= maximumNodes;
 }
 
 bool PxXMLPlainReader::startsWith(std::string_view token) const
