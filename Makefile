@@ -6,10 +6,10 @@ JOBS ?= 2
 FUZZ_SECONDS ?= 600
 FUZZ_SEED ?= 0
 BUILD = build/$(PRESET)
-PACKAGES = ccache cmake g++ ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools
+PACKAGES = ccache cmake g++ libxml2-utils ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools
 ROOT = $(if $(filter 0,$(shell id -u)),,sudo)
 
-.PHONY: help demo check bench fuzz build setup clean
+.PHONY: help demo check bench benchmarks fuzz build setup clean
 
 help:
 	@echo "make demo    set up, build, and show what the library answers about the sample catalogue"
@@ -31,11 +31,13 @@ check: build
 	ctest --preset $(PRESET) -j $(JOBS)
 
 # Both sides of each ratio take turns, so that other work on the machine troubles both alike.
-bench: PACKAGES += libbenchmark-dev
-bench: setup
+bench: benchmarks
+	build/release/bin/PxBenchmarks --benchmark_enable_random_interleaving=true --benchmark_min_time=0.2
+
+benchmarks: PACKAGES += libbenchmark-dev
+benchmarks: setup
 	cmake --preset release -DPX_BUILD_BENCHMARKS=ON
 	cmake --build --preset release -j $(JOBS) --target PxBenchmarks
-	build/release/bin/PxBenchmarks --benchmark_enable_random_interleaving=true --benchmark_min_time=0.2
 
 fuzz: PRESET = fuzz
 fuzz: PACKAGES += clang libclang-rt-14-dev

@@ -2,7 +2,6 @@
 
 #include <context/PxProductContext.h>
 #include <context/PxProductContextsGroup.h>
-#include <themes/PxThemeFactory.h>
 
 #include <PxDirectoryConfig.h>
 

@@ -3,7 +3,6 @@
 #include <PxProductProperties.h>
 
 #include <QDomDocument>
-#include <QGuiApplication>
 #include <QTest>
 #include <QTextStream>
 
@@ -76,13 +75,15 @@ void PxWholeWayTest::fromProductToOrder()
 
     const PxPageTypeList pages = context.pageTypes(26);
     int different = 0;
+    int shaded = 0;
     for (int page = 0; page < pages.size(); ++page) {
         const PxPageContext pageContext(pages[page], context.pageAlignment(page));
         QVERIFY(!context.defaultTemplateForPage(false, pageContext, false).isEmpty());
         different += context.defaultTemplateForPage(false, pageContext, false) !=
                      plain.defaultTemplateForPage(false, pageContext, false);
-        context.findSurrounding(PxSurroundingKey(pageContext, page));
+        shaded += context.findSurrounding(PxSurroundingKey(pageContext, page)).hasBindingShade();
     }
+    QCOMPARE(shaded, 28); // the binding hides a part of each but the cover and the spine
     QVERIFY(different > 20); // nearly every page has a background of the theme
 
     const PxProductTypeList compatible = context.compatibleProducts();

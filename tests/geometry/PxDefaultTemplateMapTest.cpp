@@ -11,7 +11,6 @@ private slots:
     void readsNames();
     void findsByThemeTypeAndAlignment();
     void hashMixesAllParts();
-    void readsHugeListsAtOnce();
 };
 
 void PxDefaultTemplateMapTest::readsNames()
@@ -72,17 +71,6 @@ void PxDefaultTemplateMapTest::hashMixesAllParts()
     const PxDefaultTemplateKey key("sea", PxPageContext(PxPageTypeFullCover, PxPageAlignmentTop),
                                    DefaultTemplateTypeBackground);
     QCOMPARE(qHash(key, 1024), qHash(QString("sea")) ^ 1024 ^ 1 ^ 64 ^ 16);
-}
-
-void PxDefaultTemplateMapTest::readsHugeListsAtOnce()
-{
-    // A million million combinations, of which few differ.
-    const auto list = [](const QString &word) { return (word + ',').repeated(9999) + word; };
-    const QString xml("<p><defaults theme='%1' pageType='%2' alignment='%3' layout='plain'/></p>");
-    const PxDefaultTemplateMap map(pxElement(xml.arg(list("sea"), list("spine"), list("top"))));
-    const PxPageContext page(PxPageTypeSpine, PxPageAlignmentTop);
-    QCOMPARE(map.findTemplate(PxDefaultTemplateKey("sea", page, DefaultTemplateTypeLayout), false),
-             QString("plain"));
 }
 
 QTEST_GUILESS_MAIN(PxDefaultTemplateMapTest)

@@ -1,6 +1,4 @@
-#include "PxCatalogueDirectory.h"
-
-#include <themes/PxThemeFactory.h>
+#include <themes/PxThemeList.h>
 
 #include <QTest>
 

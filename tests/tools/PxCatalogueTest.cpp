@@ -1,6 +1,5 @@
 #include "PxProgramRun.h"
 
-#include <QDir>
 #include <QJsonArray>
 #include <QTemporaryDir>
 #include <QTest>
