@@ -45,32 +45,31 @@ bool PxElementReading::isMisspelt(const QString &attribute) const
 
 bool PxElementReading::isReadable(const QString &attribute) const
 {
-    const PxAttributeRow *row = PxVocabulary::attribute(m_row, attribute);
-    return !row || isReadable(m_element, *row);
+    const PxSourceAttribute *own = m_element.attribute(attribute);
+    const PxAttributeRow *row = own ? PxVocabulary::attribute(m_row, attribute) : nullptr;
+    return !row || isReadable(m_element, *own, *row);
 }
 
-bool PxElementReading::isReadable(const PxSourceElement &element, const PxAttributeRow &attribute)
+bool PxElementReading::isReadable(const PxSourceElement &element,
+                                  const PxSourceAttribute &attribute, const PxAttributeRow &row)
 {
-    const QString name = QLatin1String(attribute.name);
-    const PxSourceAttribute *own = element.attribute(name);
-    if (!own)
-        return true;
+    const QString &name = attribute.name;
     bool isReadable = true;
-    switch (attribute.type) {
+    switch (row.type) {
     case PxValueType::Integer:
     case PxValueType::RectanglePart:
-        // Only what is no number depends on the default, and so below.
-        return PxXMLParser::intAttribute(element.dom, name, 0) ==
-               PxXMLParser::intAttribute(element.dom, name, 1);
+        // What is no number gives the default, whichever that is, and so below.
+        return PxXMLParser::intAttribute(element.dom, name, 0) != 0 ||
+               PxXMLParser::intAttribute(element.dom, name, 1) == 0;
     case PxValueType::Boolean:
-        return PxXMLParser::boolAttribute(element.dom, name, false) ==
-               PxXMLParser::boolAttribute(element.dom, name, true);
+        return PxXMLParser::boolAttribute(element.dom, name, false) ||
+               !PxXMLParser::boolAttribute(element.dom, name, true);
     case PxValueType::OneKeyword:
-        return PxVocabulary::isKeyword(attribute.keywords, own->value);
+        return PxVocabulary::isKeyword(row.keywords, attribute.value);
     case PxValueType::Keyword:
     case PxValueType::KeywordList:
-        pxForEachPart(own->value, [&](QStringView part) {
-            isReadable = isReadable && PxVocabulary::isKeyword(attribute.keywords, part.toString());
+        pxForEachPart(attribute.value, [&](QStringView part) {
+            isReadable = isReadable && PxVocabulary::isKeyword(row.keywords, part.toString());
         });
         return isReadable;
     default:

@@ -28,8 +28,9 @@ public:
     bool isMisspelt(const QString &attribute) const;
     /** The attribute is missing, or can be read. */
     bool isReadable(const QString &attribute) const;
-    /** The same of an attribute whose row is known. */
-    static bool isReadable(const PxSourceElement &element, const PxAttributeRow &attribute);
+    /** The same of an attribute that is there, and its row. */
+    static bool isReadable(const PxSourceElement &element, const PxSourceAttribute &attribute,
+                           const PxAttributeRow &row);
     /** The attribute is there, and a whole number. */
     bool isNumber(const QString &attribute) const
     {

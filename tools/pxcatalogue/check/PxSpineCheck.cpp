@@ -3,6 +3,8 @@
 #include "check/PxElementReading.h"
 #include "check/PxMessageText.h"
 
+#include <PxXMLParser.h>
+
 #include <algorithm>
 #include <iterator>
 
@@ -14,7 +16,7 @@ const QString maxFontHeight = QStringLiteral("maxfontheight");
 
 int widthOf(const PxSourceElement &spine)
 {
-    return PxElementReading(spine).number(width);
+    return PxXMLParser::intAttribute(spine.dom, width, 0);
 }
 
 /** A wrong name or number is told where it stands. */

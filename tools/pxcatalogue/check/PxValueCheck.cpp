@@ -77,7 +77,7 @@ void PxValueCheck::check(const PxSourceElement &element, const PxAttributeRow &r
 void PxValueCheck::checkInteger(const PxSourceElement &element, const PxAttributeRow &row,
                                 const PxSourceAttribute &attribute) const
 {
-    if (PxElementReading::isReadable(element, row))
+    if (PxElementReading::isReadable(element, attribute, row))
         return;
     QString message =
         QStringLiteral("\"%1\" is no whole number").arg(PxMessageText::shortened(attribute.value));
@@ -93,7 +93,7 @@ void PxValueCheck::checkInteger(const PxSourceElement &element, const PxAttribut
 void PxValueCheck::checkBoolean(const PxSourceElement &element, const PxAttributeRow &row,
                                 const PxSourceAttribute &attribute) const
 {
-    if (PxElementReading::isReadable(element, row))
+    if (PxElementReading::isReadable(element, attribute, row))
         return;
     const QString meant =
         PxSpelling::hint(attribute.value, {QStringLiteral("true"), QStringLiteral("false")});
