@@ -22,7 +22,7 @@ void PxCheck::run(PxFindings *findings)
                [&](const PxCheckedFile &file) { catalogue.checkProductTypes(file, findings); });
     checkFiles({m_paths.frames}, PxFileKind::Frames, findings,
                [&](const PxCheckedFile &file) { catalogue.checkFrames(file, findings); });
-    PxDesignCheck design(isEveryThemeRead ? themes.ids() : QSet<QString>());
+    PxDesignCheck design(isEveryThemeRead ? themes.ids() : QStringList());
     for (const QStringList *paths : {&m_paths.products, &m_paths.legacyProducts})
         checkFiles(*paths, PxFileKind::Product, findings, [&](const PxCheckedFile &file) {
             checkProduct(file, paths == &m_paths.legacyProducts, &design, &catalogue, findings);

@@ -25,16 +25,6 @@ QString templatesText(const PxDefaultsEntry::Templates &templates)
 
 } // namespace
 
-PxDefaultsCheck::PxDefaultsCheck(const PxCheckedFile &file, const PxSourceElement &parent,
-                                 const QSet<QString> &themeIds)
-    : m_file(file)
-    , m_parent(parent)
-    , m_themeIds(themeIds)
-    , m_themeNames(themeIds.begin(), themeIds.end())
-{
-    m_themeNames.sort();
-}
-
 void PxDefaultsCheck::run(PxFindings *findings) const
 {
     const auto containers = m_parent.childrenNamed(QStringLiteral("defaults"));
@@ -87,12 +77,13 @@ void PxDefaultsCheck::checkThemes(const PxDefaultsEntry &entry, PxFindings *find
          PxSourceParts::ofAttribute(m_file, entry.element(), QStringLiteral("theme"))) {
         const QString id = part.text.trimmed();
         // Other themes fall back to this one, whether it is there or not.
-        if (id.isEmpty() || id == QLatin1String("normal") || m_themeIds.contains(id))
+        if (id.isEmpty() || id == QLatin1String("normal") ||
+            std::binary_search(m_themeIds.begin(), m_themeIds.end(), id))
             continue;
         if (found.isFull())
             return;
         found.add(tag, part.range, QStringLiteral("there is no theme \"%1\"").arg(id), now,
-                  PxSpelling::hint(id, m_themeNames));
+                  PxSpelling::hint(id, m_themeIds));
     }
 }
 

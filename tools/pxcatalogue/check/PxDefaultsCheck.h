@@ -3,15 +3,18 @@
 #include "check/PxCheckedFile.h"
 #include "check/PxDefaultsEntry.h"
 
-#include <QSet>
-
 /** Checks the default templates of a product file or of a user-defaults file. */
 class PxDefaultsCheck
 {
 public:
-    /** `parent` holds the container. The ids of all themes; none when they are not known. */
+    /** `parent` holds the container. The ids of all themes, sorted; none when they are not known.
+     */
     PxDefaultsCheck(const PxCheckedFile &file, const PxSourceElement &parent,
-                    const QSet<QString> &themeIds);
+                    const QStringList &themeIds)
+        : m_file(file)
+        , m_parent(parent)
+        , m_themeIds(themeIds)
+    {}
 
     void run(PxFindings *findings) const;
 
@@ -24,6 +27,5 @@ private:
 
     const PxCheckedFile &m_file;
     const PxSourceElement &m_parent;
-    QSet<QString> m_themeIds;
-    QStringList m_themeNames; // what may be written, sorted
+    const QStringList &m_themeIds;
 };

@@ -106,14 +106,15 @@ void PxThemeCheck::finish(PxFindings *findings) const
                   meant.isEmpty() ? QString() : QStringLiteral("did you mean \"normal\"?"));
 }
 
-QSet<QString> PxThemeCheck::ids() const
+QStringList PxThemeCheck::ids() const
 {
     if (!isComplete())
         return {};
     // What a product names for it stands in for every other theme, whether it is there or not.
-    QSet<QString> ids{defaultThemeId()};
-    for (auto theme = m_themes.begin(); theme != m_themes.end(); ++theme)
-        ids.insert(theme.key());
+    QStringList ids = m_themes.keys();
+    if (!m_themes.contains(defaultThemeId()))
+        ids.append(defaultThemeId());
+    ids.sort();
     return ids;
 }
 

@@ -14,10 +14,10 @@ public:
     void finish(PxFindings *findings) const;
 
     /**
-     * What product files may name, in lower case. Empty when not every theme of the themes
-     * directory could be checked: then nothing can be said about a name.
+     * What product files may name, in lower case and sorted. Empty when not every theme of the
+     * themes directory could be checked: then nothing can be said about a name.
      */
-    QSet<QString> ids() const;
+    QStringList ids() const;
 
 private:
     void checkStrayNodes(const PxCheckedFile &file, PxFindings *findings) const;
