@@ -77,8 +77,9 @@ void PxCheck::checkProduct(const PxCheckedFile &file, bool isLegacy, PxDesignChe
         return;
     }
     const PxCheckedProduct product(file, isLegacy);
-    PxProductCheck(product).run(findings);
-    PxLayoutCheck(product).run(findings);
+    const PxPageEntries pages(product);
+    PxProductCheck(product, pages).run(findings);
+    PxLayoutCheck(product, pages).run(findings);
     design->checkProduct(product, findings);
     catalogue->addProduct(product);
 }

@@ -8,7 +8,7 @@
 
 void PxLayoutCheck::run(PxFindings *findings) const
 {
-    const PxProductPages pages(m_product);
+    const PxProductPages pages(m_product, m_pages);
     PxRedirectCheck(m_product).run(findings);
     PxSurroundingCheck(m_product, pages).run(findings);
     PxBarcodeCheck(m_product, pages).run(findings);

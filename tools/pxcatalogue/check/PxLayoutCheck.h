@@ -1,17 +1,21 @@
 #pragma once
 
-#include "check/PxCheckedProduct.h"
+#include "check/PxPageEntries.h"
 
 /** Checks what lies on and around the pages: redirects, surroundings, barcodes, production pages.
  */
 class PxLayoutCheck
 {
 public:
-    /** The product must outlive the check. */
-    explicit PxLayoutCheck(const PxCheckedProduct &product) : m_product(product) {}
+    /** Both must outlive the check. */
+    PxLayoutCheck(const PxCheckedProduct &product, const PxPageEntries &pages)
+        : m_product(product)
+        , m_pages(pages)
+    {}
 
     void run(PxFindings *findings) const;
 
 private:
     const PxCheckedProduct &m_product;
+    const PxPageEntries &m_pages;
 };

@@ -2,7 +2,6 @@
 
 #include "check/PxListedProductTypes.h"
 #include "check/PxMarginCheck.h"
-#include "check/PxPageEntries.h"
 #include "check/PxPagesCheck.h"
 #include "check/PxSizeCheck.h"
 #include "check/PxSpineCheck.h"
@@ -30,11 +29,10 @@ void PxProductCheck::run(PxFindings *findings) const
     checkName(findings);
     checkCounts(findings);
     checkAlignmentStyle(findings);
-    const PxPageEntries pages(m_product);
     PxSizeCheck(m_product).run(findings);
-    PxMarginCheck(m_product, pages).run(findings);
-    PxPagesCheck(m_product, pages).run(findings);
-    PxSpineCheck(m_product, pages).run(findings);
+    PxMarginCheck(m_product, m_pages).run(findings);
+    PxPagesCheck(m_product, m_pages).run(findings);
+    PxSpineCheck(m_product, m_pages).run(findings);
 }
 
 void PxProductCheck::checkName(PxFindings *findings) const

@@ -1,14 +1,17 @@
 #pragma once
 
-#include "check/PxCheckedProduct.h"
+#include "check/PxPageEntries.h"
 
 /** Checks the product as a whole: its name, counts, sizes, page counts and spines, and its pages.
  */
 class PxProductCheck
 {
 public:
-    /** The product must outlive the check. */
-    explicit PxProductCheck(const PxCheckedProduct &product) : m_product(product) {}
+    /** Both must outlive the check. */
+    PxProductCheck(const PxCheckedProduct &product, const PxPageEntries &pages)
+        : m_product(product)
+        , m_pages(pages)
+    {}
 
     void run(PxFindings *findings) const;
 
@@ -19,4 +22,5 @@ private:
     void checkAlignmentStyle(PxFindings *findings) const;
 
     const PxCheckedProduct &m_product;
+    const PxPageEntries &m_pages;
 };

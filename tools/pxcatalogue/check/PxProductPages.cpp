@@ -2,7 +2,6 @@
 
 #include "check/PxElementReading.h"
 
-#include <PxListParts.h>
 #include <PxXMLParser.h>
 
 #include <QSet>
@@ -15,14 +14,16 @@ namespace {
 constexpr qint64 maximumPages = 200000;
 constexpr int maximumPageCount = 10000;
 
-bool isSingle(const PxPageType &type)
+bool isSingle(const PxPageEntry &entry)
 {
-    return splitEnumType(type.value()).size() == 1;
+    return splitEnumType(entry.type.value()).size() == 1;
 }
 
 } // namespace
 
-PxProductPages::PxProductPages(const PxCheckedProduct &product) : m_product(product)
+PxProductPages::PxProductPages(const PxCheckedProduct &product, const PxPageEntries &entries)
+    : m_product(product)
+    , m_entries(entries)
 {
     if (!isPlain())
         return;
@@ -32,33 +33,29 @@ PxProductPages::PxProductPages(const PxCheckedProduct &product) : m_product(prod
             count >= 1 && count <= maximumPageCount &&
             qint64(count) * product.description().countAbstractPages() <= maximumPages;
         if (isSane)
-            m_layouts.append({count, product.description().pageTypes(count)});
+            m_layouts.append({count, pagesWith(count)});
         pages += isSane ? m_layouts.constLast().pages.size() : maximumPages;
         if (pages >= maximumPages) {
             m_layouts.clear();
             return;
         }
     }
-    collectPages();
+    if (isKnown())
+        collectPages();
 }
 
 bool PxProductPages::isPlain() const
 {
     const PxSourceElement &element = m_product.element();
-    const PxSourceElement *pages = element.firstChild(QStringLiteral("pages"));
     const PxElementReading reading(element);
-    bool isPlain = pages && m_product.type().isValid();
+    bool isPlain = m_entries.isGiven() && m_product.type().isValid();
     for (const QString &attribute :
          {QStringLiteral("binding"), QStringLiteral("numOfNormalPages"),
           QStringLiteral("horizontalPages"), QStringLiteral("cardStyleAlignment"),
           QStringLiteral("varioSingleCardStyleAlignment"),
           QStringLiteral("collegeBlockStyleAlignment")})
         isPlain = isPlain && reading.isReadable(attribute) && !reading.isMisspelt(attribute);
-    if (isPlain)
-        pxForEachPart(pages->dom.text(), [&isPlain](QStringView part) {
-            isPlain = isPlain && isSingle(PxPageType(part.trimmed().toString()));
-        });
-    return isPlain;
+    return isPlain && std::all_of(m_entries.read().begin(), m_entries.read().end(), isSingle);
 }
 
 QVector<int> PxProductPages::pageCounts() const
@@ -107,18 +104,32 @@ QVector<int> PxProductPages::pageCountsOfBook() const
     return sorted;
 }
 
+/** As the library lists them; asked for each page count, that takes longer than all other checks.
+ */
+QVector<PxPageTypeEnum> PxProductPages::pagesWith(int normalPageCount) const
+{
+    QVector<PxPageTypeEnum> pages;
+    for (const PxPageEntry &entry : m_entries.read()) {
+        if (entry.isRange())
+            pages.insert(pages.size(), normalPageCount, PxPageTypeNormalPage);
+        else
+            pages.append(entry.type.value());
+    }
+    return pages;
+}
+
 void PxProductPages::collectPages()
 {
-    QSet<QPair<int, int>> known;
-    for (const Layout &layout : m_layouts) {
-        m_lastPage = std::max(m_lastPage, layout.pages.size() - 1);
+    m_lastPage = m_layouts.constLast().pages.size() - 1; // page counts ascend
+    QVector<int> known(m_lastPage + 1);                  // the types of each page so far
+    for (const Layout &layout : qAsConst(m_layouts)) {
         for (int number = 0; number < layout.pages.size(); ++number) {
-            const PxPageType type = layout.pages.at(number);
-            if (known.contains({number, type.value()}))
+            const PxPageTypeEnum type = layout.pages.at(number);
+            if ((known.at(number) & type) != 0)
                 continue;
-            known.insert({number, type.value()});
+            known[number] |= type;
             m_pages.append({number, type, m_product.description().pageAlignment(number)});
-            m_pageTypes |= type;
+            m_pageTypes.expandedTo(type);
         }
     }
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "check/PxCheckedProduct.h"
+#include "check/PxPageEntries.h"
 
 #include <QVector>
 
@@ -18,17 +18,18 @@ public:
     struct Layout
     {
         int normalPageCount;
-        PxPageTypeList pages;
+        QVector<PxPageTypeEnum> pages;
     };
 
-    explicit PxProductPages(const PxCheckedProduct &product);
+    /** Both must outlive this. */
+    PxProductPages(const PxCheckedProduct &product, const PxPageEntries &entries);
 
     /** False where the file leaves doubt: then nothing shall be said that rests on the pages. */
     bool isKnown() const { return !m_layouts.isEmpty(); }
     /** By page count, ascending. */
-    QVector<Layout> layouts() const { return m_layouts; }
+    const QVector<Layout> &layouts() const { return m_layouts; }
     /** The pages of all layouts, each once. */
-    QVector<Page> pages() const { return m_pages; }
+    const QVector<Page> &pages() const { return m_pages; }
     /** The types of all pages in one. */
     PxPageType pageTypes() const { return m_pageTypes; }
     /** The largest number that a page has. */
@@ -38,9 +39,11 @@ private:
     bool isPlain() const;
     QVector<int> pageCounts() const;
     QVector<int> pageCountsOfBook() const;
+    QVector<PxPageTypeEnum> pagesWith(int normalPageCount) const;
     void collectPages();
 
     const PxCheckedProduct &m_product;
+    const PxPageEntries &m_entries;
     QVector<Layout> m_layouts;
     QVector<Page> m_pages;
     PxPageType m_pageTypes;
