@@ -4,11 +4,21 @@
 #include "check/PxDesignCheck.h"
 #include "check/PxLayoutCheck.h"
 #include "check/PxProductCheck.h"
+#include "check/PxReadAhead.h"
 #include "check/PxSpelling.h"
 #include "check/PxThemeCheck.h"
 #include "check/PxVocabularyCheck.h"
 
 #include <QFileInfo>
+
+namespace {
+
+QStringList single(const QString &path)
+{
+    return path.isEmpty() ? QStringList() : QStringList(path);
+}
+
+} // namespace
 
 void PxCheck::run(PxFindings *findings)
 {
@@ -18,9 +28,9 @@ void PxCheck::run(PxFindings *findings)
                    [&](const PxCheckedFile &file) { themes.checkFile(file, findings); });
     addKnownThemes(&themes);
     PxCatalogueCheck catalogue;
-    checkFiles({m_paths.productTypes}, PxFileKind::ProductTypes, findings,
+    checkFiles(single(m_paths.productTypes), PxFileKind::ProductTypes, findings,
                [&](const PxCheckedFile &file) { catalogue.checkProductTypes(file, findings); });
-    checkFiles({m_paths.frames}, PxFileKind::Frames, findings,
+    checkFiles(single(m_paths.frames), PxFileKind::Frames, findings,
                [&](const PxCheckedFile &file) { catalogue.checkFrames(file, findings); });
     PxDesignCheck design(isEveryThemeRead ? themes.ids() : QStringList());
     for (const QStringList *paths : {&m_paths.products, &m_paths.legacyProducts})
@@ -43,11 +53,11 @@ bool PxCheck::checkFiles(const QStringList &paths, PxFileKind kind, PxFindings *
                          CheckFile checkFile)
 {
     bool isEveryRead = true;
-    for (const QString &path : paths) {
-        if (path.isEmpty())
-            continue;
+    PxReadAhead files(paths);
+    for (int i = 0; i < paths.size(); ++i) {
         ++m_fileCount;
-        const PxCheckedFile file(path);
+        const std::unique_ptr<const PxCheckedFile> next = files.take();
+        const PxCheckedFile &file = *next;
         file.checkReading(findings);
         file.findAllowances(findings);
         isEveryRead = isEveryRead && file.isRead();
