@@ -1,5 +1,7 @@
-#include <check/PxSourceDocument.h>
+#include <check/PxCheckedFile.h>
+#include <check/PxSourceFault.h>
 
+#include <QTemporaryFile>
 #include <QTest>
 
 /** Where things stand: "»" and "«" in the text are around what is looked for. */
@@ -54,9 +56,13 @@ void PxSourceDocumentTest::findsValues()
     QFETCH(QString, text);
     QFETCH(QString, value);
     const PxSourceRange expected = markedRange(&text);
-    const PxSourceDocument document(text);
-    QVERIFY(document.root());
-    const PxSourceElement *element = document.root()->firstChild("x");
+    QTemporaryFile disk;
+    QVERIFY(disk.open());
+    disk.write(text.toUtf8());
+    disk.close();
+    const PxCheckedFile file(disk.fileName());
+    QVERIFY(file.root());
+    const PxSourceElement *element = file.root()->firstChild("x");
     QVERIFY(element);
     QCOMPARE(element->value("a"), value);
     QCOMPARE(element->rangeOf("a").begin, expected.begin);
@@ -67,7 +73,7 @@ void PxSourceDocumentTest::findsValues()
 
 void PxSourceDocumentTest::findsFaults_data()
 {
-    using Fault = PxSourceDocument::Fault;
+    using Fault = PxSourceFault::Kind;
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("fault");
     const auto row = [](const char *text, Fault fault) {
@@ -88,12 +94,12 @@ void PxSourceDocumentTest::findsFaults()
     QFETCH(QString, text);
     QFETCH(int, fault);
     const PxSourceRange expected = markedRange(&text);
-    const PxSourceDocument document(text);
-    QCOMPARE(int(document.fault()), fault);
-    if (document.fault() == PxSourceDocument::Fault::None)
+    const PxSourceFault found(text);
+    QCOMPARE(int(found.kind()), fault);
+    if (found.kind() == PxSourceFault::Kind::None)
         return;
-    QCOMPARE(document.faultRange().begin, expected.begin);
-    QCOMPARE(document.faultRange().end, expected.end);
+    QCOMPARE(found.range().begin, expected.begin);
+    QCOMPARE(found.range().end, expected.end);
 }
 
 void PxSourceDocumentTest::findsTexts()
@@ -103,6 +109,8 @@ void PxSourceDocumentTest::findsTexts()
     const PxSourceDocument document(text);
     QCOMPARE(document.root()->textRange().begin, expected.begin);
     QCOMPARE(document.root()->textRange().end, expected.end);
+    QCOMPARE(document.root()->nodes.at(2).text, QString("&"));
+    QCOMPARE(document.root()->nodes.at(3).text, QString(" "));
 }
 
 void PxSourceDocumentTest::countsCharacters()

@@ -1,5 +1,7 @@
 #include "check/PxCheckedFile.h"
 
+#include "check/PxSourceFault.h"
+
 #include <PxXMLLoader.h>
 
 #include <QFile>
@@ -117,24 +119,24 @@ void PxCheckedFile::checkReading(PxFindings *findings) const
 
 void PxCheckedFile::addFault(PxFindings *findings, const QString &now) const
 {
-    using Fault = PxSourceDocument::Fault;
-    const PxSourceRange range = m_source->faultRange();
+    using Kind = PxSourceFault::Kind;
+    const PxSourceFault fault(m_source->text());
+    const PxSourceRange range = fault.range();
     const QString name = m_source->text().mid(range.begin, range.end - range.begin);
-    const Fault fault = m_source->fault();
-    if (fault == Fault::None || (fault == Fault::EndMissing && !m_isWhole)) {
+    if (fault.kind() == Kind::None || (fault.kind() == Kind::EndMissing && !m_isWhole)) {
         findings->add("xml-limit-exceeded", m_errorPlace, m_error, now);
-    } else if (fault == Fault::AttributeTwice) {
+    } else if (fault.kind() == Kind::AttributeTwice) {
         add(findings, "xml-attribute-twice", range,
             QStringLiteral("attribute \"%1\" is given twice").arg(name), now,
             QStringLiteral("keep the one that is meant"));
-    } else if (fault == Fault::EntityUndeclared) {
+    } else if (fault.kind() == Kind::EntityUndeclared) {
         add(findings, "xml-entity-undeclared", range,
             QStringLiteral("the entity \"%1\" is not defined").arg(name), now,
             QStringLiteral("write the character itself"));
     } else {
-        const bool isOfEnd = fault == Fault::EndMissing || fault == Fault::EndTagWrong;
-        const PxSourceElement *unclosed = isOfEnd ? m_source->unclosed() : nullptr;
-        add(findings, "xml-not-well-formed", range, m_source->faultMessage(), now,
+        const bool isOfEnd = fault.kind() == Kind::EndMissing || fault.kind() == Kind::EndTagWrong;
+        const PxSourceFault::Element *unclosed = isOfEnd ? fault.unclosed() : nullptr;
+        add(findings, "xml-not-well-formed", range, fault.message(), now,
             unclosed ? QStringLiteral("\"%1\" of line %2 is not closed")
                            .arg(unclosed->name)
                            .arg(m_source->place(unclosed->nameRange).line)

@@ -3,27 +3,17 @@
 #include "check/PxPlace.h"
 #include "check/PxSourceElement.h"
 
-#include <QXmlStreamReader>
-
 #include <deque>
 
 /**
  * The text of an XML file, its elements and where each thing stands.
  *
- * Reading is strict and stops at the first fault; what stands before it is kept.
+ * Looks for markup only: whether the text is well-formed is for others to say. Of a text that is
+ * not, some elements are found.
  */
 class PxSourceDocument
 {
 public:
-    enum class Fault {
-        None,
-        NotWellFormed,
-        EndMissing,
-        EndTagWrong,
-        AttributeTwice,
-        EntityUndeclared,
-    };
-
     explicit PxSourceDocument(const QString &text);
     Q_DISABLE_COPY(PxSourceDocument)
 
@@ -40,30 +30,25 @@ public:
             visit(element);
     }
     /**
-     * Connects the elements with those of the same file as the library reads them. Answers false
-     * when it is not the same file.
+     * Connects the elements with those of the same file as the library reads them, and takes the
+     * values of their attributes from there. Answers false when it is not the same file.
      */
     bool connectTo(const QDomElement &root);
-
-    Fault fault() const { return m_fault; }
-    /** The innermost element whose end tag has not come before the fault; null for none. */
-    const PxSourceElement *unclosed() const { return m_open.isEmpty() ? nullptr : m_open.last(); }
-    /** What is wrong, as the parser says it, and where: the name in question if there is one. */
-    QString faultMessage() const { return m_faultMessage; }
-    PxSourceRange faultRange() const { return m_faultRange; }
 
     /** In characters, as editors count them; without a path. */
     PxPlace place(const PxSourceRange &range) const;
 
 private:
+    void findLines();
     void read();
-    int nextBegin(QXmlStreamReader::TokenType token, int end) const;
-    void readStartTag(QXmlStreamReader &reader, int begin);
-    void readNode(const QXmlStreamReader &reader, int begin, int end);
-    void classifyFault(const QXmlStreamReader &reader, int begin);
-    bool findUndeclaredEntity(int end);
-    bool findWrongEndTag(int begin, int end);
-    void findSecondAttribute(int begin, int end);
+    void readText(int begin, int end);
+    int readMarkup(int begin);
+    int readNode(int begin, const char *opening, const char *closing, bool isText);
+    void addNode(const PxSourceNode &node);
+    int readStartTag(int begin);
+    int readEndTag(int begin);
+    int behindDocumentType(int begin) const;
+    int behind(const char *token, int from) const;
     QPair<int, int> lineAndColumn(int index) const;
 
     QString m_text;
@@ -73,7 +58,4 @@ private:
     const PxSourceElement *m_root = nullptr;
     QVector<PxSourceElement *> m_open; // elements whose end tag has not come yet
     QVector<PxSourceNode> m_prolog;
-    Fault m_fault = Fault::None;
-    QString m_faultMessage;
-    PxSourceRange m_faultRange;
 };

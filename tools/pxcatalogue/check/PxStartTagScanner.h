@@ -12,9 +12,14 @@
 class PxStartTagScanner
 {
 public:
-    /** `offset` is where the tag, beginning with "<", stands in the document. */
+    /**
+     * `offset` is where the tag, beginning with "<", stands in the document. More text may follow
+     * behind it.
+     */
     PxStartTagScanner(QStringView tag, int offset);
 
+    /** Where it has stopped: in a sound tag at its ">" or "/>". */
+    int end() const { return m_offset + m_position; }
     PxSourceRange nameRange() const { return m_nameRange; }
     /** In their order, without values. */
     const QVector<PxSourceAttribute> &attributes() const { return m_attributes; }

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "check/PxSourceRange.h"
+
+#include <QString>
+#include <QVector>
+#include <QXmlStreamReader>
+
+/** What keeps a text from being well-formed, and where: the first fault of a strict reader. */
+class PxSourceFault
+{
+public:
+    enum class Kind {
+        None,
+        NotWellFormed,
+        EndMissing,
+        EndTagWrong,
+        AttributeTwice,
+        EntityUndeclared,
+    };
+    struct Element
+    {
+        QString name;
+        PxSourceRange nameRange;
+    };
+
+    explicit PxSourceFault(const QString &text);
+
+    Kind kind() const { return m_kind; }
+    /** The innermost element whose end tag has not come before the fault; null for none. */
+    const Element *unclosed() const { return m_open.isEmpty() ? nullptr : &m_open.constLast(); }
+    /** What is wrong, as the parser says it, and where: the name in question if there is one. */
+    QString message() const { return m_message; }
+    PxSourceRange range() const { return m_range; }
+
+private:
+    void open(const QString &name, int begin);
+    int nextBegin(QXmlStreamReader::TokenType token, int end) const;
+    void classify(const QXmlStreamReader &reader, int begin);
+    bool findUndeclaredEntity(int end);
+    bool findWrongEndTag(int begin, int end);
+    void findSecondAttribute(int begin, int end);
+
+    const QString m_text;
+    QVector<Element> m_open; // elements whose end tag has not come yet
+    Kind m_kind = Kind::None;
+    QString m_message;
+    PxSourceRange m_range;
+};
