@@ -1,39 +1,13 @@
 #include "PxXMLStrictReader.h"
 
 #include "PxXMLDocumentBuilder.h"
+#include "PxXMLEncoding.h"
 #include "PxXMLMarkupScanner.h"
 
-#include <QRegularExpression>
 #include <QTextCodec>
 #include <QXmlStreamReader>
 
 namespace {
-
-/** The XML declaration at the start of an ASCII-compatible text, without its end; or empty. */
-QByteArray xmlDeclaration(const QByteArray &text)
-{
-    constexpr int maximumLength = 1024;
-    const QByteArray start = text.left(maximumLength);
-    return start.startsWith("<?xml") ? start.left(start.indexOf("?>")) : QByteArray();
-}
-
-/** By byte order mark or declaration, UTF-8 without these; null for an encoding we do not know. */
-QTextCodec *codecOf(const QByteArray &bytes)
-{
-    if (QTextCodec *marked = QTextCodec::codecForUtfText(bytes, nullptr))
-        return marked;
-    // "<" with a zero byte beside it: the reader takes that for UTF-16, so we do, too.
-    if (bytes.startsWith('\0'))
-        return QTextCodec::codecForName("UTF-16BE");
-    if (bytes.size() > 1 && bytes.at(1) == '\0')
-        return QTextCodec::codecForName("UTF-16LE");
-    static const QRegularExpression ourEncoding(
-        QStringLiteral("\\sencoding\\s*=\\s*[\"']([^\"']*)[\"']"));
-    const QRegularExpressionMatch declared =
-        ourEncoding.match(QString::fromLatin1(xmlDeclaration(bytes)));
-    return QTextCodec::codecForName(declared.hasMatch() ? declared.captured(1).toLatin1()
-                                                        : QByteArrayLiteral("UTF-8"));
-}
 
 /** Decodes the first bytes; false when some are no text in this encoding. */
 bool decode(const QTextCodec &codec, const QByteArray &bytes, int size, QString &text)
@@ -87,7 +61,7 @@ bool isDeclared(const QTextCodec *codec, const QString &declared)
 
 std::optional<PxXMLFault> PxXMLStrictReader::read()
 {
-    const QTextCodec *codec = codecOf(m_bytes);
+    const QTextCodec *codec = PxXMLEncoding::codecOf(m_bytes);
     if (!codec)
         return PxXMLFault{QStringLiteral("the declared encoding is unknown"), 1, 1};
     QString text;
@@ -115,7 +89,8 @@ std::optional<PxXMLFault> PxXMLStrictReader::read()
         return PxXMLFault{QStringLiteral("the text is %1, but declares the encoding '%2'")
                               .arg(QString::fromLatin1(codec->name()), declared),
                           1, 1};
-    PxXMLDocumentBuilder builder(reader, xmlDeclaration(m_bytes).contains("standalone"));
+    PxXMLDocumentBuilder builder(reader,
+                                 PxXMLEncoding::declaration(m_bytes).contains("standalone"));
     const std::optional<PxXMLFault> found = builder.build();
     if (!found)
         m_document = builder.document();

@@ -2,6 +2,7 @@
 
 #include "check/PxSourceFault.h"
 
+#include <PxXMLEncoding.h>
 #include <PxXMLLoader.h>
 
 #include <QFile>
@@ -11,26 +12,6 @@
 #include <limits>
 
 namespace {
-
-/**
- * By byte order mark or declaration, UTF-8 without these, as the library finds it; null for an
- * unknown encoding.
- */
-QTextCodec *codecOf(const QByteArray &bytes)
-{
-    if (QTextCodec *marked = QTextCodec::codecForUtfText(bytes, nullptr))
-        return marked;
-    if (bytes.startsWith('\0'))
-        return QTextCodec::codecForName("UTF-16BE");
-    if (bytes.size() > 1 && bytes.at(1) == '\0')
-        return QTextCodec::codecForName("UTF-16LE");
-    static const QRegularExpression ourEncoding(
-        QStringLiteral("^<\\?xml[^>]*\\sencoding\\s*=\\s*[\"']([^\"']*)[\"']"));
-    const QRegularExpressionMatch declared =
-        ourEncoding.match(QString::fromLatin1(bytes.left(1024)));
-    return QTextCodec::codecForName(declared.hasMatch() ? declared.captured(1).toLatin1()
-                                                        : QByteArrayLiteral("UTF-8"));
-}
 
 /** Whether the library objects to the encoding: only it knows which faults it lets pass. */
 bool isOfEncoding(const QString &error)
@@ -73,8 +54,8 @@ void PxCheckedFile::readSource()
     QFile file(m_path);
     // Where the library gives up without a place, there is no text, or too much of it.
     if ((isRead() || m_hasErrorPlace) && file.open(QIODevice::ReadOnly)) {
-        const QByteArray bytes = file.read(PxXMLLoader::maximumFileSize);
-        if (const QTextCodec *codec = codecOf(bytes))
+        const QByteArray bytes = file.read(qMin<qint64>(file.size(), PxXMLLoader::maximumFileSize));
+        if (const QTextCodec *codec = PxXMLEncoding::codecOf(bytes))
             text = codec->toUnicode(bytes);
         if (text.startsWith(QChar::ByteOrderMark))
             text.remove(0, 1);

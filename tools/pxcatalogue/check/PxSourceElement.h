@@ -14,6 +14,7 @@ struct PxSourceAttribute
     PxSourceRange nameRange;
     PxSourceRange valueRange; ///< without the quotes
 };
+Q_DECLARE_TYPEINFO(PxSourceAttribute, Q_MOVABLE_TYPE);
 
 /** A text, a comment or a processing instruction between the tags of an element. */
 struct PxSourceNode

@@ -1,0 +1,28 @@
+#include "PxXMLEncoding.h"
+
+#include <QRegularExpression>
+#include <QTextCodec>
+
+QTextCodec *PxXMLEncoding::codecOf(const QByteArray &bytes)
+{
+    if (QTextCodec *marked = QTextCodec::codecForUtfText(bytes, nullptr))
+        return marked;
+    // "<" with a zero byte beside it: the reader takes that for UTF-16, so we do, too.
+    if (bytes.startsWith('\0'))
+        return QTextCodec::codecForName("UTF-16BE");
+    if (bytes.size() > 1 && bytes.at(1) == '\0')
+        return QTextCodec::codecForName("UTF-16LE");
+    static const QRegularExpression ourEncoding(
+        QStringLiteral("\\sencoding\\s*=\\s*[\"']([^\"']*)[\"']"));
+    const QRegularExpressionMatch declared =
+        ourEncoding.match(QString::fromLatin1(declaration(bytes)));
+    return QTextCodec::codecForName(declared.hasMatch() ? declared.captured(1).toLatin1()
+                                                        : QByteArrayLiteral("UTF-8"));
+}
+
+QByteArray PxXMLEncoding::declaration(const QByteArray &text)
+{
+    constexpr int maximumLength = 1024;
+    const QByteArray start = text.left(maximumLength);
+    return start.startsWith("<?xml") ? start.left(start.indexOf("?>")) : QByteArray();
+}
