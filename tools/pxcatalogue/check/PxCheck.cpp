@@ -56,8 +56,7 @@ bool PxCheck::checkFiles(const QStringList &paths, PxFileKind kind, PxFindings *
     PxReadAhead files(paths);
     for (int i = 0; i < paths.size(); ++i) {
         ++m_fileCount;
-        const std::unique_ptr<const PxCheckedFile> next = files.take();
-        const PxCheckedFile &file = *next;
+        const PxCheckedFile &file = files.next();
         file.checkReading(findings);
         file.findAllowances(findings);
         isEveryRead = isEveryRead && file.isRead();

@@ -18,22 +18,23 @@ void PxReadAhead::read()
             m_free.acquire();
             if (m_isCancelled)
                 return;
-            m_files[std::size_t(i % maximumAhead)] = std::make_unique<PxCheckedFile>(m_paths[i]);
+            slot(i).reset(); // before the next one takes memory
+            slot(i) = std::make_unique<PxCheckedFile>(m_paths[i]);
             m_ready.release();
         }
     } catch (...) {
-        m_ready.release(m_paths.size()); // nobody shall wait for what does not come
+        m_ready.release(); // nobody shall wait for what does not come
         throw;
     }
 }
 
-std::unique_ptr<PxCheckedFile> PxReadAhead::take()
+const PxCheckedFile &PxReadAhead::next()
 {
+    if (m_count > 0)
+        m_free.release();
     m_ready.acquire();
-    std::unique_ptr<PxCheckedFile> file =
-        std::move(m_files[std::size_t(m_takenCount++ % maximumAhead)]);
+    const std::unique_ptr<PxCheckedFile> &file = slot(m_count++);
     if (!file)
         m_reader.get(); // throws what has kept the file from being read
-    m_free.release();
-    return file;
+    return *file;
 }
