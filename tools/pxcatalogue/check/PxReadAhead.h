@@ -2,11 +2,10 @@
 
 #include "check/PxCheckedFile.h"
 
-#include <QSemaphore>
-
 #include <array>
-#include <atomic>
+#include <condition_variable>
 #include <future>
+#include <mutex>
 
 /**
  * Reads files in a thread of its own, a few ahead of the one that is looked at, and destroys them
@@ -37,12 +36,18 @@ private:
     {
         return m_files[std::size_t(index % maximumAhead)];
     }
+    template <typename Change>
+    void change(Change change);
+    template <typename Condition>
+    void wait(Condition isMet);
 
     const QStringList m_paths;
     std::array<std::unique_ptr<PxCheckedFile>, maximumAhead> m_files;
-    int m_count = 0; // of those that have been asked for
-    QSemaphore m_free{maximumAhead};
-    QSemaphore m_ready;
-    std::atomic<bool> m_isCancelled{false};
-    std::future<void> m_reader;
+    int m_askedCount = 0;
+    std::mutex m_mutex; // of the next four
+    std::condition_variable m_changed;
+    int m_readCount = 0;
+    int m_doneCount = 0;
+    bool m_isCancelled = false;
+    std::future<void> m_reader; // the last member: all others outlive the thread
 };
