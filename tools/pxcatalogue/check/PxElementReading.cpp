@@ -25,10 +25,12 @@ PxElementReading::PxElementReading(const PxSourceElement &element)
 
 bool PxElementReading::hasOnlyKnown() const
 {
-    return std::all_of(m_element.attributes.begin(), m_element.attributes.end(),
-                       [this](const PxSourceAttribute &attribute) {
-                           return PxVocabulary::attribute(m_row, attribute.name);
-                       });
+    if (!m_hasOnlyKnown)
+        m_hasOnlyKnown = std::all_of(m_element.attributes.begin(), m_element.attributes.end(),
+                                     [this](const PxSourceAttribute &attribute) {
+                                         return PxVocabulary::attribute(m_row, attribute.name);
+                                     });
+    return *m_hasOnlyKnown;
 }
 
 bool PxElementReading::isMisspelt(const QString &attribute) const

@@ -5,6 +5,8 @@
 
 #include <QStringList>
 
+#include <optional>
+
 /**
  * How the library reads an element, and whether that is just what is written.
  *
@@ -49,4 +51,5 @@ private:
 
     const PxSourceElement &m_element;
     const PxElementRow &m_row;
+    mutable std::optional<bool> m_hasOnlyKnown;
 };

@@ -6,6 +6,21 @@
 #include <algorithm>
 #include <iterator>
 
+namespace {
+
+/** Looks at no more than it must: nearly all names differ in the first letters. */
+bool isNamed(const char *rowName, const QString &name)
+{
+    for (const QChar character : name) {
+        if (*rowName == '\0' || character != QLatin1Char(*rowName))
+            return false;
+        ++rowName;
+    }
+    return *rowName == '\0';
+}
+
+} // namespace
+
 const PxElementRow &PxVocabulary::root(PxFileKind kind)
 {
     switch (kind) {
@@ -36,7 +51,7 @@ const PxElementRow *PxVocabulary::child(const PxElementRow &parent, const QStrin
 {
     const auto *found =
         std::find_if(parent.children.begin(), parent.children.end(), [&](const PxElementRow &row) {
-            return row.occurrence == PxOccurrence::AnyName || name == QLatin1String(row.name);
+            return row.occurrence == PxOccurrence::AnyName || isNamed(row.name, name);
         });
     return found == parent.children.end() ? nullptr : found;
 }
@@ -45,7 +60,7 @@ const PxAttributeRow *PxVocabulary::attribute(const PxElementRow &element, const
 {
     const auto *found =
         std::find_if(element.attributes.begin(), element.attributes.end(),
-                     [&](const PxAttributeRow &row) { return name == QLatin1String(row.name); });
+                     [&](const PxAttributeRow &row) { return isNamed(row.name, name); });
     return found == element.attributes.end() ? nullptr : found;
 }
 
