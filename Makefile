@@ -9,23 +9,29 @@ BUILD = build/$(PRESET)
 PACKAGES = ccache cmake g++ libxml2-utils ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools
 ROOT = $(if $(filter 0,$(shell id -u)),,sudo)
 
-.PHONY: help demo check bench benchmarks fuzz build setup clean
+.PHONY: help demo check bench benchmarks fuzz valgrind build setup clean
 
 help:
-	@echo "make demo    set up, build, and show what the library answers about the sample catalogue"
-	@echo "make check   set up, build, and run every test (PRESET=debug|release|asan|tsan, WERROR=ON)"
-	@echo "make bench   build Release and print what start-up and answers cost, beside what they may cost"
-	@echo "make fuzz    set up, build with clang, and run every fuzzer (FUZZ_SECONDS=600, all together)"
-	@echo "make clean   remove everything that was built"
+	@echo "make demo       set up, build, and show what the library answers about the sample catalogue"
+	@echo "make check      set up, build, and run every test (PRESET=debug|release|asan|tsan, WERROR=ON)"
+	@echo "make valgrind   the demo under valgrind, which must find nothing"
+	@echo "make bench      build Release and print what start-up and answers cost, beside what they may cost"
+	@echo "make fuzz       set up, build with clang, and run every fuzzer (FUZZ_SECONDS=600, all together)"
+	@echo "make clean      remove everything that was built"
 
 demo: build
-	$(BUILD)/bin/pxcatalogue list
+	$(RUN) $(BUILD)/bin/pxcatalogue list
 	@echo
-	$(BUILD)/bin/pxcatalogue show BOOK_A4_PORTRAIT --pages 26
+	$(RUN) $(BUILD)/bin/pxcatalogue show BOOK_A4_PORTRAIT --pages 26
 	@echo
-	$(BUILD)/bin/pxcatalogue themes
+	$(RUN) $(BUILD)/bin/pxcatalogue themes
 	@echo
-	$(BUILD)/bin/pxcatalogue show BOOK_A4_PORTRAIT --pages 26 --theme hochzeit
+	$(RUN) $(BUILD)/bin/pxcatalogue show BOOK_A4_PORTRAIT --pages 26 --theme hochzeit
+
+# What the design keeps until exit is still reachable then, and no leak.
+valgrind: PACKAGES += valgrind
+valgrind: RUN = valgrind --quiet --leak-check=full --error-exitcode=1
+valgrind: demo
 
 check: build
 	ctest --preset $(PRESET) -j $(JOBS)
