@@ -6,6 +6,7 @@
 
 #include <description/PxProductTypeConfigRegistry.h>
 #include <description/PxProductTypeDescriptionReader.h>
+#include <themes/PxThemeFactory.h>
 
 #include <PxDirectoryConfig.h>
 
@@ -23,25 +24,25 @@
 #include <time.h>
 #include <unistd.h>
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-#define PX_SANITIZED
-#endif
-
-/** Loads a catalogue of good products among hostile files in a process of its own. */
+/** Loads a catalogue of good products and themes among hostile files in a process of its own. */
 class PxHostileCatalogueTest : public QObject
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
-    void goodProductsAreThere();
+    void goodProductsAndThemesAreThere();
     void oneWarningForEachUnreadableFile();
     void noFileCostsMuch();
 
 private:
+    void writeProducts();
+    void writeWhatIsNoProduct();
+    void writeThemes();
+
     PxCatalogueDirectory m_directory;
     QStringList m_unreadable;
-    QStringList m_products;
+    QStringList m_good;   // as the report of the child has them
     QStringList m_report; // of the child: "kind rest" a line
 };
 
@@ -50,13 +51,21 @@ namespace {
 #ifdef PX_SANITIZED
 constexpr int slowness = 20;
 #elif defined(NDEBUG)
-constexpr int slowness = 2; // others use the machine, too
+constexpr int slowness = 3; // others use the machine, too
 #else
 constexpr int slowness = 6;
 #endif
 constexpr int maximumMilliseconds = 250 * slowness;
 constexpr rlim_t maximumMemory = 150 << 20;
 constexpr unsigned stackSize = 512 * 1024 * (slowness > 6 ? 4 : 1);
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", qPrintable(path));
+    return file.readAll();
+}
 
 void setLimit(__rlimit_resource resource, rlim_t value)
 {
@@ -87,23 +96,27 @@ double milliseconds()
     return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
 }
 
-void load(const QString &directory)
+/** What reading a file costs goes to the report; its log goes nowhere. */
+template <typename Function>
+auto measured(QTextStream &report, const QString &file, Function read)
 {
-    QTextStream report(stdout);
+    const PxLogRecorder log;
+    report << "reading " << file << Qt::endl;
+    allowMoreMemory(maximumMemory);
+    const double start = milliseconds();
+    auto result = read();
+    report << "cost " << milliseconds() - start << ' ' << file << Qt::endl;
+    allowMoreMemory(RLIM_INFINITY / 2);
+    return result;
+}
+
+void loadProducts(const QString &directory, QTextStream &report)
+{
     PxProductTypeDescriptionReader reader{QDir(directory)};
     const QFileInfoList files = QDir(directory).entryInfoList(
         PxProductTypeDescriptionReader::fileFilter(), QDir::AllEntries | QDir::System);
-    for (const QFileInfo &file : files) {
-        const PxLogRecorder log;
-        report << "reading " << file.fileName() << Qt::endl;
-        allowMoreMemory(maximumMemory);
-        const double start = milliseconds();
-        const std::unique_ptr<PxProductTypeDescription> description(reader.readFile(file).second);
-        report << "cost " << milliseconds() - start << ' ' << file.fileName() << Qt::endl;
-        allowMoreMemory(RLIM_INFINITY / 2);
-        if (description)
-            pxAskEverything(*description);
-    }
+    for (const QFileInfo &file : files)
+        delete measured(report, file.fileName(), [&] { return reader.readFile(file).second; });
     const PxLogRecorder log;
     const PxProductTypeConfigRegistry *registry = PxProductTypeConfigRegistry::instance();
     for (const QString &text : log.texts().filter(QStringLiteral("could not open")))
@@ -113,6 +126,31 @@ void load(const QString &directory)
             report << "product " << PxProductType(code).productName() << '\n';
         pxAskEverything(*registry->description(code));
     }
+}
+
+/** Wild theme files have directories of their own: the factory reads whole directories. */
+void loadThemes(const QString &directory, QTextStream &report)
+{
+    for (const QString &name : QDir(directory).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QDir wild(directory + '/' + name);
+        const PxThemeList themes =
+            measured(report, "theme " + name, [&] { return PxThemeFactory().loadThemeList(wild); });
+        for (const PxTheme &theme : themes.mid(0, 10))
+            pxAskEverything(theme);
+    }
+    const PxLogRecorder log;
+    const QStringList ids = PxThemeFactory::instance()->themeNames();
+    for (const QString &text : log.texts().filter(QStringLiteral("Could not open")))
+        report << "warning " << QFileInfo(text).completeBaseName() << '\n';
+    for (const QString &id : ids)
+        report << "theme " << id << '\n';
+}
+
+void load(const QString &directory)
+{
+    QTextStream report(stdout);
+    loadProducts(directory + QStringLiteral("/products"), report);
+    loadThemes(directory + QStringLiteral("/themes"), report);
     report << "done all\n";
 }
 
@@ -122,8 +160,8 @@ int loadAsChild(const QString &directory)
     setLimit(RLIMIT_CPU, 60 * slowness);
     PxDirectoryConfig::instance()->setResourceDirectories({directory});
     PxDirectoryConfig::instance()->setUserDefaultsPath(directory + QStringLiteral("/user"));
-    const std::unique_ptr<QThread> thread(
-        QThread::create([&directory] { load(directory + QStringLiteral("/products")); }));
+    PxDirectoryConfig::instance()->setThemesDirectory(directory + QStringLiteral("/themes"));
+    const std::unique_ptr<QThread> thread(QThread::create([&directory] { load(directory); }));
     thread->setStackSize(stackSize);
     thread->start();
     thread->wait();
@@ -134,40 +172,53 @@ int loadAsChild(const QString &directory)
 
 void PxHostileCatalogueTest::initTestCase()
 {
+    writeProducts();
+    writeWhatIsNoProduct();
+    writeThemes();
+
+    QProcess child;
+    child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    child.start(QCoreApplication::applicationFilePath(), {"--load", m_directory.filePath("")});
+    QVERIFY(child.waitForFinished(110000));
+    m_report = QString::fromUtf8(child.readAllStandardOutput()).split('\n');
+    QVERIFY2(m_report.contains("done all"),
+             qPrintable("it crashed after " + m_report.value(m_report.size() - 2)));
+}
+
+void PxHostileCatalogueTest::writeProducts()
+{
     QByteArray types;
     const auto writeProduct = [&](const QByteArray &name, const QByteArray &file,
                                   const QByteArray &content) {
-        m_products.append(QString::fromUtf8(name));
-        types += QByteArray::number(m_products.size()) + " book " + name + '\n';
+        m_good.append("product " + QString::fromUtf8(name));
+        types += QByteArray::number(m_good.size()) + " book " + name + '\n';
         m_directory.write("products/" + file + ".xml", content);
     };
     const QDir samples(PX_SAMPLE_DIRECTORY "/products");
     for (const QString &name : samples.entryList({"book*.xml"})) {
-        QFile file(samples.filePath(name));
-        QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArray product = name.toUtf8().chopped(4);
-        writeProduct(product.toUpper(), product, file.readAll());
+        writeProduct(product.toUpper(), product, contentOf(samples.filePath(name)));
     }
     for (const PxHostileFiles::File &file : PxHostileFiles::wild())
         writeProduct(file.name, "wild-" + QByteArray(file.name).replace('/', '+'), file.content);
+    m_directory.writeProductTypes(types);
+    m_directory.write("user/BOOK_MINI.xml", PxHostileFiles::unreadable().constLast().content);
+    m_directory.write("OUTSIDE.xml", "<d><defaults><defaults layout='stolen'/></defaults></d>");
+}
 
-    const QList<PxHostileFiles::File> unreadable = PxHostileFiles::unreadable();
-    // What the fuzzers found: each had crashed something, most are no XML.
+/** What has the name of a product file, but is none. */
+void PxHostileCatalogueTest::writeWhatIsNoProduct()
+{
+    // What the fuzzers found: it has crashed something, most of it is no XML.
     const QDir found(PX_TEST_DATA_DIRECTORY "/hostile");
-    for (const QString &name : found.entryList(QDir::Files)) {
-        QFile file(found.filePath(name));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        m_directory.write("products/found-" + name.toUtf8() + ".xml", file.readAll());
-    }
-    for (const PxHostileFiles::File &file : unreadable) {
+    for (const QString &name : found.entryList(QDir::Files))
+        m_directory.write("products/found-" + name.toUtf8() + ".xml",
+                          contentOf(found.filePath(name)));
+    for (const PxHostileFiles::File &file : PxHostileFiles::unreadable()) {
         m_unreadable.append(QString::fromUtf8(file.name));
         m_directory.write("products/" + file.name + ".xml", file.content);
     }
-    m_directory.writeProductTypes(types);
-    m_directory.write("user/BOOK_MINI.xml", unreadable.constLast().content);
-    m_directory.write("OUTSIDE.xml", "<d><defaults><defaults layout='stolen'/></defaults></d>");
-
-    // What has the name of a product file, but is none. A super-user can read the forbidden one.
+    // A super-user can read the forbidden one.
     const auto path = [this](const char *name) {
         return QFile::encodeName(m_directory.filePath(QStringLiteral("products/") + name));
     };
@@ -184,14 +235,18 @@ void PxHostileCatalogueTest::initTestCase()
                                    {"/dev/zero", "zero-device.xml"},
                                    {".", "link-to-directory.xml"}})
         QCOMPARE(symlink(from, path(to)), 0);
+}
 
-    QProcess child;
-    child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    child.start(QCoreApplication::applicationFilePath(), {"--load", m_directory.filePath("")});
-    QVERIFY(child.waitForFinished(110000));
-    m_report = QString::fromUtf8(child.readAllStandardOutput()).split('\n');
-    QVERIFY2(m_report.contains("done all"),
-             qPrintable("it crashed after " + m_report.value(m_report.size() - 2)));
+void PxHostileCatalogueTest::writeThemes()
+{
+    for (const PxHostileFiles::File &file : PxHostileFiles::wildThemes())
+        m_directory.write("themes/" + file.name + "/theme.xml", file.content);
+    for (const PxHostileFiles::File &file : PxHostileFiles::unreadable().mid(0, 20)) {
+        m_unreadable.append("theme-" + QString::fromUtf8(file.name));
+        m_directory.write("themes/theme-" + file.name + ".XML", file.content);
+    }
+    m_directory.write("themes/good.xml", "<themes><theme id='sea'/><theme id='snow'/></themes>");
+    m_good.append({"theme sea", "theme snow"});
 }
 
 static QStringList restOf(const QStringList &report, const QString &kind)
@@ -215,9 +270,9 @@ static QString difference(QStringList found, const QStringList &expected)
     return "missing: " + missing.join(' ') + ", too many: " + found.join(' ');
 }
 
-void PxHostileCatalogueTest::goodProductsAreThere()
+void PxHostileCatalogueTest::goodProductsAndThemesAreThere()
 {
-    QCOMPARE(difference(restOf(m_report, "product "), m_products),
+    QCOMPARE(difference(m_report.filter(QRegularExpression("^(product|theme) ")), m_good),
              QString("missing: , too many: "));
 }
 
@@ -231,7 +286,7 @@ void PxHostileCatalogueTest::oneWarningForEachUnreadableFile()
 void PxHostileCatalogueTest::noFileCostsMuch()
 {
     const QStringList costs = restOf(m_report, "cost ");
-    QVERIFY(costs.size() > 60);
+    QVERIFY(costs.size() > 100);
     for (const QString &cost : costs)
         QVERIFY2(cost.section(' ', 0, 0).toDouble() <= maximumMilliseconds, qPrintable(cost));
 }

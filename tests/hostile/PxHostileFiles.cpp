@@ -13,11 +13,18 @@ static QByteArray product(const QByteArray &name, const QByteArray &attributes,
            "><usablesize width='2100' height='2970'/>" + children + "</product></d>";
 }
 
-/** As often as a file of 1.5 MB and 55,000 nodes holds: hundreds of times as much as a real one. */
+#ifdef PX_SANITIZED
+constexpr int share = 4; // they take their time
+#else
+constexpr int share = 1;
+#endif
+
+/** As often as the loader lets a file have nodes, or as 2 MB hold it: far beyond a real file. */
 static QByteArray asMany(const QByteArray &text, int nodes)
 {
-    const int bySize = 1500000 / text.size();
-    return text.repeated(nodes > 0 ? qMin(bySize, 55000 / nodes - 20) : bySize);
+    const int bySize = 2000000 / text.size();
+    const int byNodes = nodes > 0 ? PxXMLLoader::maximumNodes / share / nodes - 20 : bySize;
+    return text.repeated(qMin(bySize, byNodes));
 }
 
 static QByteArray encoded(const char *codec, const QByteArray &utf8)
@@ -59,7 +66,7 @@ QList<File> unreadable()
         {"deep", QByteArray("<a>").repeated(257) + QByteArray("</a>").repeated(257)}, {"bottomless", asMany("<a>", 0)}, {"deep-comments", asMany("<!--", 0)},
         {"many-elements", "<d>" + asMany("<a/>", 0) + "</d>"}, {"many-texts", "<d>" + asMany("<a>x</a>", 0) + "</d>"}, {"many-sections", "<d>" + QByteArray("<![CDATA[x]]>").repeated(PxXMLLoader::maximumNodes) + "</d>"},
         {"many-attributes", "<d" + manyAttributes + "/>"}, {"attributes-all-over", "<d>" + asMany("<a b='' c='' d='' e=''/>", 0) + "</d>"}, {"same-attribute", "<d" + asMany(" a=''", 0) + "/>"},
-        {"no-section-end", "<d><![CDATA[" + asMany("]]", 0)}, {"no-instruction-end", "<d><?" + asMany("a?", 0)}, {"no-comment-end", "<d><!--" + asMany("-", 0)},
+        {"attributes-behind-comment", "<!--><d '--><d" + manyAttributes + "/>"}, {"no-section-end", "<d><![CDATA[" + asMany("]]", 0)}, {"no-instruction-end", "<d><?" + asMany("a?", 0)}, {"no-comment-end", "<d><!--" + asMany("-", 0)},
         {"no-name-end", "<" + asMany("d", 0)}, {"too-large", good + QByteArray(PxXMLLoader::maximumFileSize, ' ')},
     };
     // clang-format on
@@ -150,6 +157,30 @@ QList<File> wild()
     for (const auto &row : rows)
         files.append({row.name, product(row.name, row.attributes, row.children)});
     return files;
+}
+
+QList<File> wildThemes()
+{
+    const QByteArray images = "<logo booktype='CUP2' filename='/dev/zero'/>"
+                              "<logo booktype='CUP2' filename='../../../../etc/passwd'/>";
+    const auto theme = [](const QByteArray &attributes, const QByteArray &children) {
+        return "<themes><theme id='wild' " + attributes + '>' + children + "</theme></themes>";
+    };
+    // clang-format off
+    return {
+        {"THEMES", "<themes>" + asMany("<theme/>", 5) + "</themes>"},
+        {"IDS", "<themes>" + asMany("<theme id='&lt;&lt;&lt;'/>", 5) + "</themes>"},
+        {"COMMENTS", "<themes>" + asMany("<!---->", 5) + "</themes>"},
+        {"KEYACCOUNTS", theme("", "<keyaccounts>" + asMany("<k>99999999999999999999</k>", 2) + "</keyaccounts>")},
+        {"PRODUCTS", theme("", "<products>" + asMany("<product>BOOK</product>", 2) + "</products>")},
+        {"LOGOS", theme("", "<logos>" + asMany("<logo filename='n' width='2147483647' x='-2147483648'/>", 4) + "</logos>")},
+        {"IMAGES", theme("thumbnail='/dev/zero'", "<logos>" + images + "</logos>")},
+        {"DESCRIPTION", theme("", "<description>" + asMany("ä", 0) + "</description>")},
+        {"DEEPDESCRIPTION", theme("", "<description>" + QByteArray("<a>").repeated(250) + asMany("ä", 0) + QByteArray("</a>").repeated(250) + "</description>")},
+        {"CATEGORIES", theme("", "<defaultcategories background='" + asMany("ä,", 0) + "'/>")},
+        {"EXPIRY", theme("expiry='" + asMany("9", 0) + "' producttype='" + asMany("book,", 0) + "'", "")},
+    };
+    // clang-format on
 }
 
 } // namespace PxHostileFiles

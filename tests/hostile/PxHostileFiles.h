@@ -3,7 +3,11 @@
 #include <QByteArray>
 #include <QList>
 
-/** Product files that nobody should write, to be loaded all the same. */
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#define PX_SANITIZED
+#endif
+
+/** Product and theme files that nobody should write, to be loaded all the same. */
 namespace PxHostileFiles {
 
 struct File
@@ -17,5 +21,8 @@ QList<File> unreadable();
 
 /** Well-formed files of real products, by their names, that hold what is wild or far too much. */
 QList<File> wild();
+
+/** Well-formed theme files of the same kind. */
+QList<File> wildThemes();
 
 } // namespace PxHostileFiles
