@@ -25,6 +25,8 @@ private slots:
     void answersTheWorstFinding();
     void silencesWhatIsAllowed();
     void hidesWhatIsKnown();
+    void tellsWhatFollowsFromNames_data();
+    void tellsWhatFollowsFromNames();
     void checksSingleFiles();
     void checksWhatItIsToldTo();
     void saysWhatIsWrong_data();
@@ -238,6 +240,60 @@ void PxCheckCommandTest::hidesWhatIsKnown()
         m_sample->write("known.json", broken);
         QCOMPARE(check("--baseline known.json .").status(), 2);
     }
+}
+
+void PxCheckCommandTest::tellsWhatFollowsFromNames_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("good");
+    QTest::addColumn<QString>("bad"); // "»" before the place of the only finding
+    QTest::addColumn<QString>("finding");
+    const auto row = [](const QString &file, const char *good, const char *bad,
+                        const char *finding) {
+        QTest::newRow(qPrintable(QString(bad).remove('\n')))
+            << file << good << QString::fromUtf8(bad) << finding;
+    };
+    const char *book = "products/book_a4_portrait.xml";
+    const char *theme = "themes/JAHRESZEITEN.XML";
+    row(book, "<spine pages=\"26\"", "<spine »page=\"26\"", "error spine-pages-missing");
+    row(book, "<pdf filename=\"extra/imp", "<pdf »filname=\"extra/imp",
+        "error extra-page-incomplete");
+    row(book, "<target_pages>3</target_pages>", "<target_pages>»x;y</target_pages>",
+        "error extra-page-incomplete");
+    row(cup, "<usablesize", "<»usablesise", "error size-missing");
+    row(cup, "<usablesize width", "<usablesize »widht", "error size-missing");
+    row(cup, "product name=", "product »nam=", "error product-name-missing");
+    row(cup, "\"urlaub\" pageType", "\"urlaub\" »pagetype", "error defaults-page-type-missing");
+    const char *spring = "<defaultcategories background=\"Blumenwiese\" clipart=\"Blüten\"/>";
+    row(theme, spring, "<products>»CUP2, CUP1</products>", "error theme-products-all-unknown");
+    row(theme, spring, "<products><»produkt>CUP2</produkt></products>",
+        "error theme-products-all-unknown");
+    row(theme, spring, "<»product>CUP2</product>", "error theme-products-all-unknown");
+    row(theme, "\"fruehling\" producttype", "\"fruehling\" »productype",
+        "error theme-group-missing");
+    row("producttypes.xml", "code=\"907\"", "»cod=\"907\"", "error product-type-row-dropped");
+    row("producttypes.xml", "code=\"907\"", "code=\"»9x7\"", "error integer-malformed");
+    // Nothing follows, or less than is told of the name.
+    row(cup, "<usablesize width", "<usablesize »color=\"\" width", "warning attribute-unknown");
+    row(theme, "<description>Goldener Herbst</description>", "<»descripton>Herbst</descripton>",
+        "warning element-unknown");
+}
+
+/** One mistake is one finding: the one that says what the product or theme lacks for it. */
+void PxCheckCommandTest::tellsWhatFollowsFromNames()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, good);
+    QFETCH(QString, bad);
+    QFETCH(QString, finding);
+    m_sample->replace(file, good, bad);
+    const QString before = m_sample->read(file).section(QChar(u'»'), 0, 0);
+    m_sample->write(file, m_sample->read(file).remove(QChar(u'»')));
+    const QString place = QString("%1:%2:%3 ")
+                              .arg(file)
+                              .arg(before.count('\n') + 1)
+                              .arg(before.size() - before.lastIndexOf('\n'));
+    QCOMPARE(findingsOf(check("--pedantic " + file)), QStringList(place + finding));
 }
 
 void PxCheckCommandTest::checksSingleFiles()

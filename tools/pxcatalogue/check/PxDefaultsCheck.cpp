@@ -92,10 +92,12 @@ void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry, PxFindings *f
     const QString attribute = QStringLiteral("pageType");
     const QString now = QStringLiteral("no page finds these templates");
     if (!entry.element().attribute(attribute)) {
-        if (entry.isPlain())
-            m_file.add(findings, "defaults-page-type-missing", entry.element().nameRange,
-                       QStringLiteral("\"pageType\" is missing"), now,
-                       QStringLiteral("name the types of pages, as pageType=\"normalpage\""));
+        const PxMissingPart missing = entry.missing(attribute);
+        m_file.add(findings, "defaults-page-type-missing", missing.range,
+                   QStringLiteral("\"pageType\" is missing"), now,
+                   missing.hint.isEmpty()
+                       ? QStringLiteral("name the types of pages, as pageType=\"normalpage\"")
+                       : missing.hint);
         return;
     }
     PxFileFindings found(m_file, findings, PxFileFindings::maximumOfList);

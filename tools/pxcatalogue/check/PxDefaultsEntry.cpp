@@ -1,6 +1,5 @@
 #include "check/PxDefaultsEntry.h"
 
-#include "check/PxElementReading.h"
 #include "vocabulary/PxVocabulary.h"
 
 #include <PxListParts.h>
@@ -50,6 +49,11 @@ PxDefaultsEntry::PxDefaultsEntry(const PxSourceElement &element)
         if (pageType != PxPageTypeNone && !m_pageTypes.contains(pageType))
             m_pageTypes.append(pageType);
     });
+}
+
+PxMissingPart PxDefaultsEntry::missing(const QString &attribute) const
+{
+    return PxElementReading(*m_element, entryRow()).missing(attribute);
 }
 
 PxDefaultsEntry::Templates PxDefaultsEntry::templates() const

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "check/PxSourceElement.h"
+#include "check/PxElementReading.h"
 
 #include <values/PxPageType.h>
 
@@ -26,6 +26,7 @@ public:
     QVector<PxPageTypeEnum> pageTypes() const { return m_pageTypes; }
     /** Bits of PxPageAlignment. */
     int alignments() const { return m_alignments; }
+    PxMissingPart missing(const QString &attribute) const;
     /** The library is asked each time: only few entries need it. */
     Templates templates() const;
 

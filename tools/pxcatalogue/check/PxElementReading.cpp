@@ -17,6 +17,11 @@ const PxElementRow &productRow(const PxSourceElement &element)
     return row ? *row : PxVocabulary::root(PxFileKind::Product);
 }
 
+QString didYouMean(const QString &name)
+{
+    return QStringLiteral("did you mean \"%1\"?").arg(name);
+}
+
 } // namespace
 
 PxElementReading::PxElementReading(const PxSourceElement &element)
@@ -33,16 +38,24 @@ bool PxElementReading::hasOnlyKnown() const
     return *m_hasOnlyKnown;
 }
 
-bool PxElementReading::isMisspelt(const QString &attribute) const
+const PxSourceAttribute *PxElementReading::misspelling(const QString &attribute) const
 {
     if (isGiven(attribute) || hasOnlyKnown())
-        return false;
-    const QStringList names = missing();
-    return std::any_of(m_element.attributes.begin(), m_element.attributes.end(),
-                       [&](const PxSourceAttribute &own) {
-                           return !PxVocabulary::attribute(m_row, own.name) &&
-                                  PxSpelling::nearest(own.name, names) == attribute;
-                       });
+        return nullptr;
+    const QStringList names = namesOfMissing();
+    const auto found = std::find_if(m_element.attributes.begin(), m_element.attributes.end(),
+                                    [&](const PxSourceAttribute &own) {
+                                        return !PxVocabulary::attribute(m_row, own.name) &&
+                                               PxSpelling::nearest(own.name, names) == attribute;
+                                    });
+    return found == m_element.attributes.end() ? nullptr : found;
+}
+
+PxMissingPart PxElementReading::missing(const QString &attribute) const
+{
+    const PxSourceAttribute *own = misspelling(attribute);
+    return own ? PxMissingPart{own->nameRange, didYouMean(attribute)}
+               : PxMissingPart{m_element.rangeOf(attribute), QString()};
 }
 
 bool PxElementReading::isReadable(const QString &attribute) const
@@ -86,11 +99,11 @@ int PxElementReading::number(const QString &attribute, int absent) const
 
 QString PxElementReading::meant(const QString &name) const
 {
-    return PxSpelling::nearest(name, missing());
+    return PxSpelling::nearest(name, namesOfMissing());
 }
 
 /** The attributes that the library would read, and that are not given. */
-QStringList PxElementReading::missing() const
+QStringList PxElementReading::namesOfMissing() const
 {
     QStringList names;
     for (const PxAttributeRow &row : m_row.attributes) {
@@ -101,22 +114,55 @@ QStringList PxElementReading::missing() const
     return names;
 }
 
-bool PxElementReading::isChildMisplaced(const QString &name) const
+const PxSourceElement *PxElementReading::misplacedChild(const QString &name) const
 {
     const PxSourceElement *root = &m_element;
     while (root->parent)
         root = root->parent;
-    return isBelow(*root, name);
+    return findBelow(*root, name);
 }
 
 /** Not in others like this element: what stands there belongs to those. */
-bool PxElementReading::isBelow(const PxSourceElement &parent, const QString &name) const
+const PxSourceElement *PxElementReading::findBelow(const PxSourceElement &parent,
+                                                   const QString &name) const
 {
-    return std::any_of(
-        parent.children.begin(), parent.children.end(), [&](const PxSourceElement *child) {
-            const bool isOther =
-                child != &m_element && &parent == m_element.parent && child->name == m_element.name;
-            return !isOther &&
-                   (!PxSpelling::nearest(child->name, {name}).isEmpty() || isBelow(*child, name));
-        });
+    for (const PxSourceElement *child : parent.children) {
+        const bool isLike =
+            child->name == m_element.name || m_row.occurrence == PxOccurrence::AnyName;
+        if (child != &m_element && &parent == m_element.parent && isLike)
+            continue;
+        if (!PxSpelling::nearest(child->name, {name}).isEmpty())
+            return child;
+        if (const PxSourceElement *found = findBelow(*child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+PxMissingPart PxElementReading::missingChild(const QString &name) const
+{
+    const PxSourceElement *meant = misplacedChild(name);
+    if (!meant)
+        return {m_element.nameRange, QString()};
+    const PxElementRow *row = PxVocabulary::child(m_row, name);
+    const bool isEntry = row && PxVocabulary::childNames(*row).contains(meant->name);
+    const bool isElsewhere = meant->name == name;
+    return {meant->nameRange, isEntry ? QStringLiteral("put it into \"%1\"").arg(name)
+                              : isElsewhere
+                                  ? QStringLiteral("put it into \"%1\"").arg(m_element.name)
+                                  : didYouMean(name)};
+}
+
+PxMissingPart PxElementReading::missingEntries() const
+{
+    const QString name = QLatin1String(m_row.children.begin()->name);
+    for (const PxSourceElement *child : m_element.children) {
+        if (!child->name.contains(QLatin1Char(':'))) // else it is somebody else's
+            return {child->nameRange, didYouMean(name)};
+    }
+    const auto text = std::find_if(m_element.nodes.begin(), m_element.nodes.end(),
+                                   [](const PxSourceNode &node) { return node.isText; });
+    if (text == m_element.nodes.end())
+        return {m_element.nameRange, QString()};
+    return {text->range, QStringLiteral("write a \"%1\" element for each").arg(name)};
 }

@@ -7,6 +7,14 @@
 
 #include <optional>
 
+/** Something that is missing in an element, as it is told. */
+struct PxMissingPart
+{
+    /** What was probably written for it; its empty value, or the element, when nothing was. */
+    PxSourceRange range;
+    QString hint; ///< empty when nothing looks like it
+};
+
 /**
  * How the library reads an element, and whether that is just what is written.
  *
@@ -27,7 +35,9 @@ public:
     bool hasOnlyKnown() const;
     bool isGiven(const QString &attribute) const { return m_element.attribute(attribute); }
     /** The attribute is missing, but another one looks like a misspelling of it. */
-    bool isMisspelt(const QString &attribute) const;
+    bool isMisspelt(const QString &attribute) const { return misspelling(attribute); }
+    /** An attribute that is missing or empty, where that is a finding. */
+    PxMissingPart missing(const QString &attribute) const;
     /** The attribute is missing, or can be read. */
     bool isReadable(const QString &attribute) const;
     /** The same of an attribute that is there, and its row. */
@@ -43,11 +53,18 @@ public:
     /** The attribute that may be meant by a name; none that is given already. */
     QString meant(const QString &name) const;
     /** Whether a missing child is misspelt, or stands elsewhere in the file. */
-    bool isChildMisplaced(const QString &name) const;
+    bool isChildMisplaced(const QString &name) const { return misplacedChild(name); }
+    /** A child that is missing, where that is a finding. */
+    PxMissingPart missingChild(const QString &name) const;
+    /** The same of the entries in an element that holds nothing else, which may be there as text.
+     */
+    PxMissingPart missingEntries() const;
 
 private:
-    QStringList missing() const;
-    bool isBelow(const PxSourceElement &parent, const QString &name) const;
+    QStringList namesOfMissing() const;
+    const PxSourceAttribute *misspelling(const QString &attribute) const;
+    const PxSourceElement *misplacedChild(const QString &name) const;
+    const PxSourceElement *findBelow(const PxSourceElement &parent, const QString &name) const;
 
     const PxSourceElement &m_element;
     const PxElementRow &m_row;

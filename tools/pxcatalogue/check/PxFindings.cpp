@@ -4,11 +4,15 @@
 #include "check/PxSpelling.h"
 
 #include <algorithm>
+#include <iterator>
 #include <stdexcept>
 #include <string>
 #include <tuple>
 
 namespace {
+
+constexpr const char *tagsOfNamesOnly[] = {"attribute-unknown", "element-misplaced",
+                                           "element-unknown", "text-not-read"};
 
 bool isBefore(const PxFinding &a, const PxFinding &b)
 {
@@ -17,6 +21,44 @@ bool isBefore(const PxFinding &a, const PxFinding &b)
                                QLatin1String(f.tag->name), f.message, f.now, f.hint);
     };
     return key(a) < key(b);
+}
+
+bool isAtSamePlace(const PxFinding &a, const PxFinding &b)
+{
+    return a.place.path == b.place.path && a.place.line == b.place.line &&
+           a.place.column == b.place.column;
+}
+
+/** Says that something is not read, and not what the product or theme lacks for it. */
+bool isOfNameOnly(const PxFinding &finding)
+{
+    return std::any_of(std::begin(tagsOfNamesOnly), std::end(tagsOfNamesOnly),
+                       [&](const char *tag) { return qstrcmp(tag, finding.tag->name) == 0; });
+}
+
+/**
+ * A name that is not read, and what is missing for it, are one mistake and stand at one place: the
+ * consequence is told, unless it matters less. The findings are sorted.
+ */
+QVector<PxFinding> withoutCauses(const QVector<PxFinding> &findings)
+{
+    QVector<PxFinding> left;
+    for (auto first = findings.begin(); first != findings.end();) {
+        const auto last = std::find_if(first, findings.end(), [&](const PxFinding &finding) {
+            return !isAtSamePlace(*first, finding);
+        });
+        int worst[] = {-1, -1}; // of the consequences, and of the names
+        for (auto finding = first; finding != last; ++finding) {
+            int &severity = worst[isOfNameOnly(*finding)];
+            severity = std::max(severity, int(finding->tag->severity));
+        }
+        const bool areNamesTold = worst[1] > worst[0];
+        std::copy_if(first, last, std::back_inserter(left), [&](const PxFinding &finding) {
+            return worst[1] < 0 || isOfNameOnly(finding) == areNamesTold;
+        });
+        first = last;
+    }
+    return left;
 }
 
 } // namespace
@@ -50,6 +92,7 @@ QVector<PxFinding> PxFindings::sorted() const
 {
     PxFindings left = *this;
     std::sort(left.m_findings.begin(), left.m_findings.end(), isBefore);
+    left.m_findings = withoutCauses(left.m_findings);
     const QVector<PxAllowances::Allowance> unused = m_allowances.apply(&left.m_findings);
     for (const PxAllowances::Allowance &allowance : unused)
         left.addUnused(allowance);

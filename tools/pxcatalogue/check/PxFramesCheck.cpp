@@ -1,6 +1,8 @@
 #include "check/PxFramesCheck.h"
 
+#include "check/PxElementReading.h"
 #include "check/PxMessageText.h"
+#include "vocabulary/PxVocabulary.h"
 
 #include <QHash>
 
@@ -19,16 +21,19 @@ void PxFramesCheck::run(PxFindings *findings) const
 {
     if (!m_file.root())
         return;
+    const PxElementRow &row = *PxVocabulary::find(PxFileKind::Frames, QStringLiteral("frame"));
     QHash<QString, const PxSourceElement *> frames; // by id
     for (const PxSourceElement *frame : m_file.root()->childrenNamed(QStringLiteral("frame"))) {
         const QString id = frame->value(QStringLiteral("id"));
         const QString missing = id.isEmpty() ? QStringLiteral("id") : QStringLiteral("name");
         const PxSourceRange range = frame->rangeOf(QStringLiteral("id"));
         if (frame->value(missing).isEmpty()) {
-            m_file.add(findings, "frame-incomplete", frame->rangeOf(missing),
+            const PxMissingPart part = PxElementReading(*frame, row).missing(missing);
+            m_file.add(findings, "frame-incomplete", part.range,
                        QStringLiteral("the frame has no \"%1\"").arg(missing),
                        id.isEmpty() ? QStringLiteral("it is left out")
-                                    : QStringLiteral("it is shown as \"%1\"").arg(id));
+                                    : QStringLiteral("it is shown as \"%1\"").arg(id),
+                       part.hint);
             continue;
         }
         const PxSourceElement *&known = frames[id];

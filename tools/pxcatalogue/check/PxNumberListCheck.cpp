@@ -73,31 +73,31 @@ void PxNumberListCheck::checkExtraPage(const PxSourceElement &item, PxFindings *
 {
     const auto *pages = item.firstChild(QStringLiteral("target_pages"));
     const auto *pdf = item.firstChild(QStringLiteral("pdf"));
-    if (pages && !checkParts(*pages, findings))
-        return;
-    // Another child may be a misspelt one of those that are missing.
-    if ((!pages || !pdf) && item.children.size() > (pages ? 1 : 0) + (pdf ? 1 : 0))
-        return;
     const PxProductionExtraPageGroup group(item.dom);
-    PxSourceRange place = item.nameRange;
+    const bool hasTarget = !group.targetPages().isEmpty();
+    // A list of which nothing is left has lost more than its parts.
+    if (hasTarget && !checkParts(*pages, findings))
+        return;
+    PxMissingPart missing;
     QString message;
     if (!pages || !pdf) {
-        message = QStringLiteral("no \"%1\"")
-                      .arg(pages ? QLatin1String("pdf") : QLatin1String("target_pages"));
-    } else if (group.targetPages().isEmpty()) {
-        place = pages->textRange();
+        const QString name = pages ? QStringLiteral("pdf") : QStringLiteral("target_pages");
+        missing = PxElementReading(item).missingChild(name);
+        message = QStringLiteral("no \"%1\"").arg(name);
+    } else if (!hasTarget) {
+        missing = {pages->textRange(), QStringLiteral("pages are whole numbers, as in \"0,2\"")};
         message = QStringLiteral("no target page");
-    } else if (group.content().filename().trimmed().isEmpty() &&
-               PxElementReading(*pdf).hasOnlyKnown()) {
-        place = pdf->rangeOf(QStringLiteral("filename"));
+    } else if (group.content().filename().trimmed().isEmpty()) {
+        missing = PxElementReading(*pdf).missing(QStringLiteral("filename"));
         message = QStringLiteral("no file name");
     } else {
         return;
     }
     const int count = group.targetPages().size();
-    m_product.add(findings, "extra-page-incomplete", place, message,
+    m_product.add(findings, "extra-page-incomplete", missing.range, message,
                   QStringLiteral("production gets the file \"%1\" for %2 target %3")
                       .arg(group.content().filename())
                       .arg(count)
-                      .arg(count == 1 ? QLatin1String("page") : QLatin1String("pages")));
+                      .arg(count == 1 ? QLatin1String("page") : QLatin1String("pages")),
+                  missing.hint);
 }

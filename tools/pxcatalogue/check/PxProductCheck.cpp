@@ -1,5 +1,6 @@
 #include "check/PxProductCheck.h"
 
+#include "check/PxElementReading.h"
 #include "check/PxListedProductTypes.h"
 #include "check/PxMarginCheck.h"
 #include "check/PxPagesCheck.h"
@@ -42,9 +43,10 @@ void PxProductCheck::checkName(PxFindings *findings) const
     const QString name = element.value(attribute);
     const QString now = QStringLiteral("the file is skipped without a word");
     PxListedProductTypes &types = PxListedProductTypes::instance();
+    const PxMissingPart missing = PxElementReading(element).missing(attribute);
     if (name.trimmed().isEmpty())
-        m_product.add(findings, "product-name-missing", element.rangeOf(attribute),
-                      QStringLiteral("the product has no name"), now);
+        m_product.add(findings, "product-name-missing", missing.range,
+                      QStringLiteral("the product has no name"), now, missing.hint);
     else if (isUnsafeForFile(name))
         checkNameOfFile(findings);
     // Without any product type there is one cause, and it is not in this file.

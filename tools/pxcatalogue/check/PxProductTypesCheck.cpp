@@ -1,5 +1,6 @@
 #include "check/PxProductTypesCheck.h"
 
+#include "check/PxElementReading.h"
 #include "check/PxMessageText.h"
 #include "check/PxSpelling.h"
 #include "vocabulary/PxVocabulary.h"
@@ -12,6 +13,16 @@
 #include <QRegularExpression>
 
 #include <memory>
+
+namespace {
+
+PxElementReading readingOf(const PxSourceElement &row)
+{
+    return PxElementReading(
+        row, *PxVocabulary::find(PxFileKind::ProductTypes, QStringLiteral("producttype")));
+}
+
+} // namespace
 
 void PxProductTypesCheck::run(PxFindings *findings)
 {
@@ -43,6 +54,8 @@ void PxProductTypesCheck::checkRow(const PxSourceElement &row, const PxProductTy
     const int code = PxXMLParser::intAttribute(row.dom, QStringLiteral("code"), 0);
     const QString name = row.value(QStringLiteral("name")).trimmed();
     const QString key = name.toCaseFolded();
+    if (!readingOf(row).isReadable(QStringLiteral("code")))
+        return; // the row is left out for it, which is told where values are checked
     const auto earlier = [&](const PxSourceElement *other) {
         return PxMessageText::line(m_file, other->nameRange) + QLatin1String(" has");
     };
@@ -75,8 +88,10 @@ void PxProductTypesCheck::drop(const PxSourceElement &row, const char *attribute
                                const QString &message, PxFindings *findings,
                                const QString &hint) const
 {
-    m_file.add(findings, "product-type-row-dropped", row.rangeOf(QLatin1String(attribute)), message,
-               QStringLiteral("the product type is left out"), hint);
+    const PxMissingPart missing = readingOf(row).missing(QLatin1String(attribute));
+    m_file.add(findings, "product-type-row-dropped", missing.range, message,
+               QStringLiteral("the product type is left out"),
+               missing.hint.isEmpty() ? hint : missing.hint);
 }
 
 void PxProductTypesCheck::dropClass(const PxSourceElement &row, PxFindings *findings) const

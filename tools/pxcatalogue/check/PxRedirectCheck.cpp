@@ -27,6 +27,16 @@ QStringList missing(const PxSourceElement &redirect)
     return names;
 }
 
+/** An unknown attribute that looks like none that is missing: nobody knows what it is meant for. */
+bool isUnclear(const PxSourceElement &redirect)
+{
+    const PxElementReading reading(redirect);
+    const QStringList names = missing(redirect);
+    return !reading.hasOnlyKnown() &&
+           std::none_of(names.begin(), names.end(),
+                        [&](const QString &name) { return reading.isMisspelt(name); });
+}
+
 QString missingText(const QStringList &names)
 {
     return PxMessageText::quotedList(names) +
@@ -55,12 +65,13 @@ void PxRedirectCheck::checkRotation(const PxSourceElement &redirect, PxFindings 
     constexpr const char *tag = "rotation-redirect-incomplete";
     const QString now = QStringLiteral("the redirect is left out");
     const PxElementReading reading(redirect);
-    if (!reading.hasOnlyKnown() || !reading.isReadable(QStringLiteral("from")) ||
+    if (isUnclear(redirect) || !reading.isReadable(QStringLiteral("from")) ||
         !reading.isReadable(QStringLiteral("to")))
         return;
     const QStringList names = missing(redirect);
     if (!names.isEmpty()) {
-        m_product.add(findings, tag, redirect.nameRange, missingText(names), now);
+        const PxMissingPart part = reading.missing(names.constFirst());
+        m_product.add(findings, tag, part.range, missingText(names), now, part.hint);
         return;
     }
     for (const QString &name : {QStringLiteral("from"), QStringLiteral("to")}) {
@@ -77,7 +88,7 @@ void PxRedirectCheck::checkContent(const PxSourceElement &redirect, QVector<Rang
                                    PxFindings *findings) const
 {
     const PxElementReading reading(redirect);
-    if (!reading.hasOnlyKnown() || !reading.isReadable(QStringLiteral("to")))
+    if (isUnclear(redirect) || !reading.isReadable(QStringLiteral("to")))
         return;
     const QString from = redirect.value(QStringLiteral("from"));
     const PxSourceRange place = redirect.rangeOf(QStringLiteral("from"));
@@ -110,8 +121,10 @@ void PxRedirectCheck::checkIncomplete(const PxSourceElement &redirect, PxFinding
     const QString hint = QStringLiteral("pages count from 0");
     const QStringList names = missing(redirect);
     const QString from = redirect.value(QStringLiteral("from"));
+    const PxMissingPart part =
+        names.isEmpty() ? PxMissingPart() : PxElementReading(redirect).missing(names.constFirst());
     if (!names.isEmpty())
-        m_product.add(findings, tag, redirect.nameRange, missingText(names), now);
+        m_product.add(findings, tag, part.range, missingText(names), now, part.hint);
     else if (PxElementReading(redirect).number(QStringLiteral("to")) < 0)
         m_product.add(findings, tag, redirect.rangeOf(QStringLiteral("to")),
                       QStringLiteral("\"%1\" is no page").arg(redirect.value(QStringLiteral("to"))),

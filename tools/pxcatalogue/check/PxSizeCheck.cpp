@@ -85,8 +85,10 @@ void PxSizeCheck::checkPresence(PxFindings *findings) const
 {
     const QString now = QStringLiteral("the product is never offered");
     if (!m_usableSize) {
-        m_product.add(findings, "size-missing", m_product.element().nameRange,
-                      QStringLiteral("the product has no \"usablesize\""), now);
+        const PxMissingPart size =
+            PxElementReading(m_product.element()).missingChild(QStringLiteral("usablesize"));
+        m_product.add(findings, "size-missing", size.range,
+                      QStringLiteral("the product has no \"usablesize\""), now, size.hint);
         return;
     }
     QStringList missing;
@@ -94,11 +96,13 @@ void PxSizeCheck::checkPresence(PxFindings *findings) const
         if (!m_usableSize->attribute(side))
             missing.append(side);
     }
-    if (!missing.isEmpty())
-        m_product.add(findings, "size-missing", m_usableSize->nameRange,
-                      QStringLiteral("the size has no %1")
-                          .arg(PxMessageText::quotedList(missing, QStringLiteral(" and no "))),
-                      now);
+    if (missing.isEmpty())
+        return;
+    const PxMissingPart side = PxElementReading(*m_usableSize).missing(missing.constFirst());
+    m_product.add(findings, "size-missing", side.range,
+                  QStringLiteral("the size has no %1")
+                      .arg(PxMessageText::quotedList(missing, QStringLiteral(" and no "))),
+                  now, side.hint);
 }
 
 void PxSizeCheck::checkArea(PxFindings *findings) const

@@ -74,13 +74,15 @@ void PxSpineCheck::readPageCount(const PxSourceElement &spine, PxFindings *findi
         return;
     }
     m_isComplete = false;
-    if (!reading.isReadable(pagesName) || reading.isMisspelt(pagesName))
+    if (!reading.isReadable(pagesName))
         return;
+    const PxMissingPart missing = reading.missing(pagesName);
     m_product.add(
-        findings, "spine-pages-missing", spine.rangeOf(pagesName),
+        findings, "spine-pages-missing", missing.range,
         reading.isGiven(pagesName) ? QStringLiteral("a spine for %1 pages").arg(pageCount)
                                    : QStringLiteral("a spine without a page count"),
-        QStringLiteral("the smallest page count is %1").arg(m_product.description().minPages()));
+        QStringLiteral("the smallest page count is %1").arg(m_product.description().minPages()),
+        missing.hint);
 }
 
 void PxSpineCheck::addTwice(const PxSourceElement &spine, int pageCount, PxFindings *findings) const
@@ -101,15 +103,19 @@ void PxSpineCheck::checkPresence(PxFindings *findings) const
 {
     if (!m_product.type().isBook() || m_rowCount > 0)
         return;
-    m_product.add(findings, "book-without-page-counts",
-                  m_table ? m_table->nameRange : m_product.element().nameRange,
+    const PxMissingPart missing =
+        m_table ? PxElementReading(*m_table).missingEntries()
+                : PxElementReading(m_product.element()).missingChild(QStringLiteral("spines"));
+    m_product.add(findings, "book-without-page-counts", missing.range,
                   m_table ? QStringLiteral("the \"spines\" of this book hold no \"spine\"")
                           : QStringLiteral("a book without \"spines\""),
                   QStringLiteral("its page counts go from %1 to %2")
                       .arg(m_product.description().minPages())
                       .arg(m_product.description().maxPages()),
-                  QStringLiteral("add a \"spine\" for each page count, with the width 0 when "
-                                 "none is printed"));
+                  missing.hint.isEmpty()
+                      ? QStringLiteral("add a \"spine\" for each page count, with the width 0 "
+                                       "when none is printed")
+                      : missing.hint);
 }
 
 void PxSpineCheck::checkLength(PxFindings *findings) const
@@ -249,20 +255,27 @@ void PxSpineCheck::checkSellingPages(PxFindings *findings) const
 void PxSpineCheck::checkSpinePage(PxFindings *findings) const
 {
     const bool isBookWithoutTable = m_product.type().isBook() && m_rowCount == 0;
-    const bool isEveryWidthKnown = m_isComplete && std::all_of(m_spines.begin(), m_spines.end(),
-                                                               [](const PxSourceElement *spine) {
-                                                                   return isWidthKnown(*spine);
-                                                               });
+    // A width under another name is told with what follows from it.
+    const bool isEveryWidthKnown =
+        m_isComplete &&
+        std::all_of(m_spines.begin(), m_spines.end(), [](const PxSourceElement *spine) {
+            return PxElementReading(*spine).isReadable(width);
+        });
+    const PxElementReading product(m_product.element());
+    const PxMissingPart missing = m_spines.isEmpty()
+                                      ? product.missingChild(QStringLiteral("spines"))
+                                      : PxElementReading(*m_spines.first()).missing(width);
     const PxPageEntry *spinePage = m_pages.spine();
-    if (spinePage && !hasWidth() && isEveryWidthKnown && !isBookWithoutTable &&
-        (m_table ||
-         !PxElementReading(m_product.element()).isChildMisplaced(QStringLiteral("spines"))))
-        m_product.add(findings, "spine-page-without-table", spinePage->range,
+    if (spinePage && !hasWidth() && isEveryWidthKnown && !isBookWithoutTable)
+        m_product.add(findings, "spine-page-without-table",
+                      missing.hint.isEmpty() ? spinePage->range : missing.range,
                       QStringLiteral("a spine among the pages, but no width in \"spines\""),
                       QStringLiteral("the spine is %1 wide")
                           .arg(m_product.description().spineWidth(
                               m_spines.isEmpty() ? 0 : m_spines.firstKey())),
-                      QStringLiteral("give its width, or take the spine out"));
+                      missing.hint.isEmpty()
+                          ? QStringLiteral("give its width, or take the spine out")
+                          : missing.hint);
     if (m_pages.isGiven() && m_pages.isSound() && !m_product.description().hasSpine() && hasWidth())
         m_product.add(findings, "spine-without-page", m_table->nameRange,
                       QStringLiteral("spines with a width, but \"pages\" lists no spine"),

@@ -29,6 +29,16 @@ QString expiryHint(const QString &text)
                            : QStringLiteral("did you mean \"%1\"?").arg(meant);
 }
 
+PxElementReading readingOf(const PxSourceElement &element, const char *path)
+{
+    return PxElementReading(element, *PxVocabulary::find(PxFileKind::Theme, QLatin1String(path)));
+}
+
+QString either(const QString &hint, const QString &other)
+{
+    return hint.isEmpty() ? other : hint;
+}
+
 } // namespace
 
 PxThemeElementCheck::PxThemeElementCheck(const PxCheckedFile &file, const PxSourceElement &theme)
@@ -54,11 +64,13 @@ void PxThemeElementCheck::checkId(PxFindings *findings) const
     const PxSourceRange range = m_theme.rangeOf(QStringLiteral("id"));
     if (id.isEmpty()) {
         const bool isThere = m_theme.attribute(QStringLiteral("id"));
-        m_file.add(findings, "theme-id-missing", range,
+        const PxMissingPart missing = readingOf(m_theme, "theme").missing(QStringLiteral("id"));
+        m_file.add(findings, "theme-id-missing", missing.range,
                    isThere ? QStringLiteral("the \"id\" of the theme is empty")
                            : QStringLiteral("the theme has no \"id\""),
                    QStringLiteral("its id is \"%1\"")
-                       .arg(isThere ? QString() : QStringLiteral("unbekannt")));
+                       .arg(isThere ? QString() : QStringLiteral("unbekannt")),
+                   missing.hint);
     } else if (id.contains(QLatin1Char(','))) {
         m_file.add(findings, "theme-id-unlistable", range,
                    QStringLiteral("the id \"%1\" holds a comma").arg(id),
@@ -81,11 +93,13 @@ void PxThemeElementCheck::checkGroup(PxFindings *findings) const
     const QString group = m_theme.value(attribute);
     const QString now = QStringLiteral("the theme is not valid");
     if (group.trimmed().isEmpty()) {
-        m_file.add(findings, "theme-group-missing", m_theme.rangeOf(attribute),
+        const PxMissingPart missing = readingOf(m_theme, "theme").missing(attribute);
+        m_file.add(findings, "theme-group-missing", missing.range,
                    m_theme.attribute(attribute)
                        ? QStringLiteral("the \"producttype\" of the theme is empty")
                        : QStringLiteral("the theme has no \"producttype\""),
-                   now, QStringLiteral("name the product group, as in \"book\""));
+                   now,
+                   either(missing.hint, QStringLiteral("name the product group, as in \"book\"")));
     } else if (!PxProductGroup(group).isValid()) {
         m_file.add(
             findings, "theme-group-unknown", m_theme.rangeOf(attribute),
@@ -101,13 +115,16 @@ void PxThemeElementCheck::checkExpiry(PxFindings *findings) const
     static const QRegularExpression ourDay(QStringLiteral("^\\d{4}-\\d\\d-\\d\\d$"));
     const QString text = m_theme.value(QStringLiteral("expiry"));
     const PxSourceRange range = m_theme.rangeOf(QStringLiteral("expiry"));
+    const PxMissingPart missing = readingOf(m_theme, "theme").missing(QStringLiteral("expiry"));
     const QString now = QStringLiteral("the theme has expired, it is never offered");
     if (text.trimmed().isEmpty())
-        m_file.add(findings, "theme-expiry-missing", range,
-                   m_theme.attribute(QStringLiteral("expiry"))
-                       ? QStringLiteral("the \"expiry\" of the theme is empty")
-                       : QStringLiteral("the theme has no \"expiry\""),
-                   now, QStringLiteral("write year to minute, as in \"205012312359\""));
+        m_file.add(
+            findings, "theme-expiry-missing", missing.range,
+            m_theme.attribute(QStringLiteral("expiry"))
+                ? QStringLiteral("the \"expiry\" of the theme is empty")
+                : QStringLiteral("the theme has no \"expiry\""),
+            now,
+            either(missing.hint, QStringLiteral("write year to minute, as in \"205012312359\"")));
     else if (!m_expiry.isValid())
         m_file.add(findings, "theme-expiry-malformed", range,
                    QStringLiteral("\"%1\" is no date and time").arg(text), now, expiryHint(text));
@@ -130,24 +147,25 @@ void PxThemeElementCheck::checkDescription(PxFindings *findings) const
     const PxSourceElement *description = m_theme.firstChild(QStringLiteral("description"));
     if (description && !description->dom.text().trimmed().isEmpty())
         return;
-    m_file.add(findings, "theme-description-missing",
-               description ? description->nameRange : m_theme.nameRange,
+    const PxMissingPart missing = missingChild(description, QStringLiteral("description"));
+    m_file.add(findings, "theme-description-missing", missing.range,
                description ? QStringLiteral("the \"description\" of the theme is empty")
                            : QStringLiteral("the theme has no \"description\""),
                QStringLiteral("it is shown as \"%1\"")
-                   .arg(description ? QString() : QStringLiteral("unbekannt")));
+                   .arg(description ? QString() : QStringLiteral("unbekannt")),
+               missing.hint);
 }
 
 void PxThemeElementCheck::checkKeyAccounts(PxFindings *findings) const
 {
     const PxSourceElement *accounts = m_theme.firstChild(QStringLiteral("keyaccounts"));
     if (!accounts || !accounts->dom.hasChildNodes()) {
+        const PxMissingPart missing = missingChild(accounts, QStringLiteral("keyaccounts"));
         if (!m_isExpired) // nobody is offered it then anyway
-            m_file.add(findings, "theme-for-nobody",
-                       accounts ? accounts->nameRange : m_theme.nameRange,
+            m_file.add(findings, "theme-for-nobody", missing.range,
                        accounts ? QStringLiteral("\"keyaccounts\" names no key account")
                                 : QStringLiteral("the theme has no \"keyaccounts\""),
-                       QStringLiteral("the theme is offered to nobody"));
+                       QStringLiteral("the theme is offered to nobody"), missing.hint);
         return;
     }
     for (const PxSourceElement *account : accounts->children)
@@ -185,7 +203,10 @@ void PxThemeElementCheck::checkProducts(PxFindings *findings) const
 {
     PxListedProductTypes &types = PxListedProductTypes::instance();
     const PxSourceElement *products = m_theme.firstChild(QStringLiteral("products"));
-    if (!products || types.isEmpty())
+    const bool isAnyThere = products && products->firstChild(QStringLiteral("product"));
+    if (!isAnyThere)
+        checkMissingProducts(products, findings);
+    if (!isAnyThere || types.isEmpty())
         return;
     QVector<const PxSourceElement *> unknown;
     bool isAnyKnown = false;
@@ -212,4 +233,26 @@ void PxThemeElementCheck::checkProducts(PxFindings *findings) const
             findings, "theme-product-unknown", product->textRange(),
             QStringLiteral("\"%1\" is no known product name").arg(product->dom.text().trimmed()),
             QStringLiteral("it is left out"), types.hint(product->dom.text()));
+}
+
+/** Names of products that are not where they are read. */
+void PxThemeElementCheck::checkMissingProducts(const PxSourceElement *products,
+                                               PxFindings *findings) const
+{
+    const PxMissingPart missing =
+        products ? readingOf(*products, "theme/products").missingEntries()
+                 : readingOf(m_theme, "theme").missingChild(QStringLiteral("products"));
+    if (missing.hint.isEmpty())
+        return; // every product is meant
+    m_file.add(findings, "theme-products-all-unknown", missing.range,
+               products ? QStringLiteral("no \"product\" in the \"products\" of the theme")
+                        : QStringLiteral("the theme has no \"products\""),
+               QStringLiteral("the theme is allowed for every product"), missing.hint);
+}
+
+PxMissingPart PxThemeElementCheck::missingChild(const PxSourceElement *child,
+                                                const QString &name) const
+{
+    return child ? PxMissingPart{child->nameRange, QString()}
+                 : readingOf(m_theme, "theme").missingChild(name);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "check/PxCheckedFile.h"
+#include "check/PxElementReading.h"
 
 #include <QDateTime>
 
@@ -21,6 +22,8 @@ private:
     void checkKeyAccounts(PxFindings *findings) const;
     void checkKeyAccount(const PxSourceElement &account, PxFindings *findings) const;
     void checkProducts(PxFindings *findings) const;
+    void checkMissingProducts(const PxSourceElement *products, PxFindings *findings) const;
+    PxMissingPart missingChild(const PxSourceElement *child, const QString &name) const;
 
     const PxCheckedFile &m_file;
     const PxSourceElement &m_theme;

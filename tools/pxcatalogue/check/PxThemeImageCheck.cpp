@@ -1,6 +1,8 @@
 #include "check/PxThemeImageCheck.h"
 
+#include "check/PxElementReading.h"
 #include "check/PxSpelling.h"
+#include "vocabulary/PxVocabulary.h"
 
 #include <PxDirectoryConfig.h>
 
@@ -35,15 +37,19 @@ QStringList baseDirectories(const QString &themeFile)
 void PxThemeImageCheck::checkLogo(const PxSourceElement &logo, PxFindings *findings)
 {
     const PxSourceAttribute *name = logo.attribute(QStringLiteral("filename"));
-    if (!name || name->value.isEmpty())
-        m_file.add(findings, "theme-image-missing", logo.rangeOf(QStringLiteral("filename")),
-                   QStringLiteral("the logo names no image: \"filename\" is %1")
-                       .arg(name ? QLatin1String("empty") : QLatin1String("missing")),
-                   logoNow);
-    else
+    if (name && !name->value.isEmpty()) {
         checkImage(
             {name, PxDirectoryConfig::instance()->resource(name->value.toLower(), false), logoNow},
             findings);
+        return;
+    }
+    const PxElementRow &row =
+        *PxVocabulary::find(PxFileKind::Theme, QStringLiteral("theme/logos/logo"));
+    const PxMissingPart missing = PxElementReading(logo, row).missing(QStringLiteral("filename"));
+    m_file.add(findings, "theme-image-missing", missing.range,
+               QStringLiteral("the logo names no image: \"filename\" is %1")
+                   .arg(name ? QLatin1String("empty") : QLatin1String("missing")),
+               logoNow, missing.hint);
 }
 
 void PxThemeImageCheck::checkThumbnail(const PxSourceElement &theme, PxFindings *findings)

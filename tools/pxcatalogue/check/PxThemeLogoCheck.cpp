@@ -1,13 +1,25 @@
 #include "check/PxThemeLogoCheck.h"
 
+#include "check/PxElementReading.h"
 #include "check/PxListedProductTypes.h"
 #include "check/PxMessageText.h"
 #include "check/PxThemeImageCheck.h"
+#include "vocabulary/PxVocabulary.h"
 
 #include <PxProductType.h>
 #include <PxXMLParser.h>
 
 #include <limits>
+
+namespace {
+
+PxElementReading readingOf(const PxSourceElement &logo)
+{
+    return PxElementReading(
+        logo, *PxVocabulary::find(PxFileKind::Theme, QStringLiteral("theme/logos/logo")));
+}
+
+} // namespace
 
 void PxThemeLogoCheck::run(const PxSourceElement &logos, PxFindings *findings)
 {
@@ -27,11 +39,12 @@ void PxThemeLogoCheck::checkProduct(const PxSourceElement &logo, PxFindings *fin
     const PxProductType type(name.toUpper());
     PxListedProductTypes &types = PxListedProductTypes::instance();
     if (name.trimmed().isEmpty()) {
+        const PxMissingPart missing = readingOf(logo).missing(booktype);
         m_file.add(
-            findings, "theme-logo-product-missing", logo.rangeOf(booktype),
+            findings, "theme-logo-product-missing", missing.range,
             QStringLiteral("the logo names no product: \"booktype\" is %1")
                 .arg(logo.attribute(booktype) ? QLatin1String("empty") : QLatin1String("missing")),
-            now);
+            now, missing.hint);
     } else if (type.isValid()) {
         const PxSourceElement *&known = m_logos[int(type.type())];
         if (known)
@@ -64,13 +77,15 @@ void PxThemeLogoCheck::checkPlace(const PxSourceElement &logo, PxFindings *findi
         else if (length < 1)
             culprit = side;
     }
-    if (missing.isEmpty())
+    if (missing.isEmpty()) {
         m_file.add(findings, "theme-logo-without-place", logo.rangeOf(culprit),
                    QStringLiteral("the place of the logo is empty or too far out"),
                    QStringLiteral("it is %1 x %2 large").arg(rect.width()).arg(rect.height()));
-    else
-        m_file.add(findings, "theme-logo-without-place", logo.nameRange,
-                   QStringLiteral("the logo has no %1")
-                       .arg(PxMessageText::quotedList(missing, QStringLiteral(" and no "))),
-                   QStringLiteral("it has no place"));
+        return;
+    }
+    const PxMissingPart side = readingOf(logo).missing(missing.constFirst());
+    m_file.add(findings, "theme-logo-without-place", side.range,
+               QStringLiteral("the logo has no %1")
+                   .arg(PxMessageText::quotedList(missing, QStringLiteral(" and no "))),
+               QStringLiteral("it has no place"), side.hint);
 }

@@ -110,7 +110,7 @@ static constexpr PxCheckTag rows[] = {
      "<product>»CUPP2</product>",
      "<product>CUP2</product>"},
     {"theme-products-all-unknown", PxSeverity::Error, "no product of a theme is known, so all are allowed",
-     "An unknown name in \"products\" is left out, and when none is left the theme is allowed for every product, just as without the element: the contrary of what was meant.",
+     "An unknown name in \"products\" is left out, and when none is left the theme is allowed for every product, just as without the element: the contrary of what was meant. Names that stand elsewhere than in \"product\" elements are not read at all.",
      "themes/JAHRESZEITEN.XML",
      "<»products>\n      <product>BOOK_A4_PORTRAI</product>\n    </products>\n    <defaultcategories background=\"Blumenwiese\"",
      "<defaultcategories background=\"Blumenwiese\""},
