@@ -85,6 +85,11 @@ void PxSourceDocumentTest::findsFaults_data()
     row("<r>text »&nbsp;« text</r>", Fault::EntityUndeclared);
     row("<r a=»1«/>", Fault::NotWellFormed);
     row("<r><x>»</y>«</x></r>", Fault::EndTagWrong);
+    row("<r><x>a»</r>«", Fault::EndTagWrong);
+    row("<r><x a»<«/x></r>", Fault::NotWellFormed);
+    row("<r><x a=»\"«1>text</x></r>", Fault::NotWellFormed);
+    row("<r><x a='1»<«2'/></r>", Fault::NotWellFormed);
+    row("<!-- -->\n»<?xml« version='1.0'?><r/>", Fault::NotWellFormed);
     row("<r><x>text»«", Fault::EndMissing);
     row("<r/>»x«", Fault::NotWellFormed);
 }

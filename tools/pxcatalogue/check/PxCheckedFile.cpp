@@ -115,13 +115,12 @@ void PxCheckedFile::addFault(PxFindings *findings, const QString &now) const
             QStringLiteral("the entity \"%1\" is not defined").arg(name), now,
             QStringLiteral("write the character itself"));
     } else {
-        const bool isOfEnd = fault.kind() == Kind::EndMissing || fault.kind() == Kind::EndTagWrong;
-        const PxSourceFault::Element *unclosed = isOfEnd ? fault.unclosed() : nullptr;
+        const PxSourceFault::Element *unclosed = fault.unclosed();
         add(findings, "xml-not-well-formed", range, fault.message(), now,
             unclosed ? QStringLiteral("\"%1\" of line %2 is not closed")
                            .arg(unclosed->name)
                            .arg(m_source->place(unclosed->nameRange).line)
-                     : QString());
+                     : fault.hint());
     }
 }
 

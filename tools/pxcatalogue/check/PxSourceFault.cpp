@@ -1,9 +1,11 @@
 #include "check/PxSourceFault.h"
 
+#include "check/PxSpelling.h"
 #include "check/PxStartTagScanner.h"
 
 #include <PxXMLLoader.h>
 
+#include <QRegularExpression>
 #include <QSet>
 #include <QXmlStreamReader>
 
@@ -52,10 +54,13 @@ void PxSourceFault::classify(const QXmlStreamReader &reader, int begin)
     m_message = reader.errorString();
     if (m_message.endsWith(QLatin1Char('.')))
         m_message.chop(1);
-    m_message.replace(0, 1, m_message.left(1).toLower());
+    if (!m_message.startsWith(QLatin1String("XML")))
+        m_message.replace(0, 1, m_message.left(1).toLower());
     m_range = {isEnd ? end : qMax(0, end - 1), end};
-    if (!isEnd && !findUndeclaredEntity(end) && !findWrongEndTag(begin, end))
-        findSecondAttribute(begin, end);
+    m_isUnclosed = isEnd && !m_open.isEmpty();
+    if (!isEnd && !findUndeclaredEntity(end) && !findWrongEndTag(begin, end) &&
+        !findLateDeclaration(begin, end) && !findSecondAttribute(begin, end))
+        findUnfinishedTag(begin, end);
 }
 
 /** The reader stops behind an entity that it does not know. */
@@ -79,33 +84,84 @@ bool PxSourceFault::findUndeclaredEntity(int end)
     return true;
 }
 
+/** The fault is in the tag itself: what looks like one further on may be within another tag. */
 bool PxSourceFault::findWrongEndTag(int begin, int end)
 {
-    const int tag = m_text.indexOf(QLatin1String("</"), begin);
-    if (m_open.isEmpty() || tag < 0 || tag >= end)
+    static const QRegularExpression ourEndTag(QStringLiteral("\\G</([^\\s<>/]{1,256})"));
+    const QRegularExpressionMatch tag = ourEndTag.match(m_text, begin);
+    if (m_open.isEmpty() || !tag.hasMatch() || tag.captured(1) == m_open.constLast().name)
         return false;
-    const QStringView name = QStringView(m_text).mid(tag + 2, end - tag - 2);
-    if (name.startsWith(m_open.constLast().name))
-        return false;
+    const QString expected = m_open.constLast().name;
+    const QString name = tag.captured(1);
     m_kind = Kind::EndTagWrong;
-    m_message = QStringLiteral("expected \"</%1>\" here").arg(m_open.constLast().name);
-    m_range = {tag, end};
+    m_message = QStringLiteral("expected \"</%1>\" here").arg(expected);
+    m_range = {begin, end};
+    m_isUnclosed = std::any_of(m_open.begin(), m_open.end(),
+                               [&](const Element &element) { return element.name == name; });
+    if (m_isUnclosed)
+        return true;
+    const QString meant = PxSpelling::nearest(name, {expected});
+    if (meant.isEmpty())
+        m_message = QStringLiteral("no element \"%1\" is open here").arg(name);
+    m_hint = meant.isEmpty() ? QStringLiteral("take the tag out, or open the element before it")
+                             : QStringLiteral("did you mean \"</%1>\"?").arg(meant);
     return true;
 }
 
-void PxSourceFault::findSecondAttribute(int begin, int end)
+bool PxSourceFault::findLateDeclaration(int begin, int end)
+{
+    const int declaration = m_text.indexOf(QLatin1String("<?xml "), begin);
+    if (begin == 0 && declaration == 0)
+        return false; // in its place
+    if (declaration < 0 || declaration >= end)
+        return false;
+    m_range = {declaration, declaration + int(qstrlen("<?xml"))};
+    m_hint = QStringLiteral("take out what stands before it, blanks and empty lines, too");
+    return true;
+}
+
+bool PxSourceFault::findSecondAttribute(int begin, int end)
 {
     begin = m_text.indexOf(QLatin1Char('<'), begin);
     if (begin < 0 || begin >= end)
-        return;
+        return false;
     QSet<QString> names;
     const PxStartTagScanner tag(QStringView(m_text).mid(begin, end - begin), begin);
     for (const PxSourceAttribute &attribute : tag.attributes()) {
         if (names.contains(attribute.name)) {
             m_kind = Kind::AttributeTwice;
             m_range = attribute.nameRange;
-            return;
+            return true;
         }
         names.insert(attribute.name);
+    }
+    return false;
+}
+
+/** The next tag begins within a start tag: one of its marks is missing. */
+void PxSourceFault::findUnfinishedTag(int begin, int end)
+{
+    static const QRegularExpression ourTag(QStringLiteral("\\G<([^\\s<>/!?\"'=]+)"));
+    const QRegularExpressionMatch tag = ourTag.match(m_text, begin);
+    if (!tag.hasMatch() || m_text.at(end - 1) != QLatin1Char('<') || end - 1 == begin)
+        return;
+    int quote = -1; // that is open
+    for (int i = begin; i < end - 1; ++i) {
+        const QChar next = m_text.at(i);
+        if (quote >= 0 && next == m_text.at(quote))
+            quote = -1;
+        else if (quote < 0 && (next == QLatin1Char('"') || next == QLatin1Char('\'')))
+            quote = i;
+    }
+    if (quote < 0) {
+        m_message =
+            QStringLiteral("the tag of \"%1\" has no \">\" before this").arg(tag.captured(1));
+    } else if (m_text.midRef(quote, end - quote).contains(QLatin1Char('>'))) {
+        m_message = QStringLiteral("the quote that begins here has no end");
+        m_hint = QStringLiteral("end the value with the quote that it begins with");
+        m_range = {quote, quote + 1};
+    } else {
+        m_message = QStringLiteral("\"<\" in the value of an attribute");
+        m_hint = QStringLiteral("write \"&lt;\"");
     }
 }

@@ -27,10 +27,12 @@ public:
     explicit PxSourceFault(const QString &text);
 
     Kind kind() const { return m_kind; }
-    /** The innermost element whose end tag has not come before the fault; null for none. */
-    const Element *unclosed() const { return m_open.isEmpty() ? nullptr : &m_open.constLast(); }
+    /** The element that lacks its end tag, when that is the fault; else null. */
+    const Element *unclosed() const { return m_isUnclosed ? &m_open.constLast() : nullptr; }
     /** What is wrong, as the parser says it, and where: the name in question if there is one. */
     QString message() const { return m_message; }
+    /** What to do, when more can be said than the message says; else empty. */
+    QString hint() const { return m_hint; }
     PxSourceRange range() const { return m_range; }
 
 private:
@@ -39,11 +41,15 @@ private:
     void classify(const QXmlStreamReader &reader, int begin);
     bool findUndeclaredEntity(int end);
     bool findWrongEndTag(int begin, int end);
-    void findSecondAttribute(int begin, int end);
+    bool findLateDeclaration(int begin, int end);
+    bool findSecondAttribute(int begin, int end);
+    void findUnfinishedTag(int begin, int end);
 
     const QString m_text;
     QVector<Element> m_open; // elements whose end tag has not come yet
     Kind m_kind = Kind::None;
+    bool m_isUnclosed = false; // the last of them, when that is the fault
     QString m_message;
+    QString m_hint;
     PxSourceRange m_range;
 };
