@@ -28,6 +28,7 @@ private slots:
     void tellsWhatFollowsFromNames_data();
     void tellsWhatFollowsFromNames();
     void checksSingleFiles();
+    void knowsOtherThemes();
     void checksWhatItIsToldTo();
     void saysWhatIsWrong_data();
     void saysWhatIsWrong();
@@ -315,9 +316,33 @@ void PxCheckCommandTest::checksSingleFiles()
     QCOMPARE(clean.output().constLast(), QString("6 files read: nothing found"));
 
     // An allowance for what is not checked may well be of use.
-    m_sample->replace("products/book_mini.xml", "<productdescription>",
+    const QString mini = "products/book_mini.xml";
+    m_sample->replace(mini, "<productdescription>",
                       "<!-- check: allow file-not-read --><productdescription>");
-    QCOMPARE(findingsOf(check("products/book_mini.xml")), QStringList());
+    QCOMPARE(findingsOf(check(mini)), QStringList());
+    m_sample->replace(mini, "check: allow file-not-read", "check: allow spine-pages-twice");
+    QCOMPARE(findingsOf(check(mini)).size(), 1);
+    m_sample->replace(mini, "BOOK_MINI\"", "BOOK_MINNI\"");
+    QCOMPARE(findingsOf(check(mini)),
+             QStringList("products/book_mini.xml:4:18 error product-name-unknown"));
+}
+
+/** Though only one of them is checked. */
+void PxCheckCommandTest::knowsOtherThemes()
+{
+    const QString seasons = "themes/JAHRESZEITEN.XML";
+    m_sample->replace(seasons, "\"fruehling\"", "\"normal\"");
+    QCOMPARE(findingsOf(check("--only theme-id-twice " + seasons)),
+             QStringList("themes/JAHRESZEITEN.XML:5:14 error theme-id-twice"));
+    m_sample->write("draft.xml", m_sample->read("themes/grundthemen.xml"));
+    QCOMPARE(findingsOf(check("draft.xml")), QStringList());
+
+    m_sample->replace(seasons, "</themes>", QString());
+    const QString cause = "<!-- check: allow defaults-theme-unknown -->";
+    m_sample->replace(cup, "<productdescription>", cause + "<productdescription>");
+    const QJsonObject json = check("--format json .").json();
+    QCOMPARE(json["notChecked"].toArray(), QJsonArray{"defaults-theme-unknown"});
+    QCOMPARE(findingsOf(json).size(), 1);
 }
 
 void PxCheckCommandTest::checksWhatItIsToldTo()

@@ -69,7 +69,7 @@ QVector<PxAllowances::Allowance> PxAllowances::apply(QVector<PxFinding> *finding
         }
         const QSet<int> used(found.begin(), found.end());
         for (int i = 0; i < allowances.size(); ++i) {
-            if (!used.contains(i))
+            if (!used.contains(i) && !allowances.at(i).isOfUse)
                 unused.append(allowances.at(i));
         }
     }

@@ -14,7 +14,8 @@ public:
     {
         QString tag;
         PxPlace comment;
-        PxPlace part; ///< of the file; two parts lie apart, or one inside the other
+        PxPlace part;         ///< of the file; two parts lie apart, or one inside the other
+        bool isOfUse = false; ///< for all that is known, also when it allows nothing now
     };
 
     void add(const Allowance &allowance);

@@ -18,21 +18,45 @@ QStringList single(const QString &path)
     return path.isEmpty() ? QStringList() : QStringList(path);
 }
 
+/** Whether the library reads something from the file: else most checks have nothing to look at. */
+bool isUnderstood(const PxCheckedFile &file, PxFileKind kind)
+{
+    const PxSourceElement *root = file.root();
+    if (!root)
+        return false;
+    const PxSourceElement *product = root->firstChild(QStringLiteral("product"));
+    switch (kind) {
+    case PxFileKind::Product:
+        return product && PxProductType(product->value(QStringLiteral("name"))).isValid();
+    case PxFileKind::Theme:
+        return root->name.toLower() == QLatin1String("themes");
+    case PxFileKind::ProductTypes:
+        return root->name == QLatin1String("producttypes");
+    case PxFileKind::UserDefaults:
+        return file.document().firstChild().isElement();
+    default:
+        return true;
+    }
+}
+
 } // namespace
 
 void PxCheck::run(PxFindings *findings)
 {
     PxThemeCheck themes;
+    addKnownThemes(&themes);
     const bool isEveryThemeRead =
         checkFiles(m_paths.themes, PxFileKind::Theme, findings,
                    [&](const PxCheckedFile &file) { themes.checkFile(file, findings); });
-    addKnownThemes(&themes);
     PxCatalogueCheck catalogue;
     checkFiles(single(m_paths.productTypes), PxFileKind::ProductTypes, findings,
                [&](const PxCheckedFile &file) { catalogue.checkProductTypes(file, findings); });
     checkFiles(single(m_paths.frames), PxFileKind::Frames, findings,
                [&](const PxCheckedFile &file) { catalogue.checkFrames(file, findings); });
-    PxDesignCheck design(isEveryThemeRead ? themes.ids() : QStringList());
+    const QStringList themeIds = isEveryThemeRead ? themes.ids() : QStringList();
+    if (themeIds.isEmpty())
+        findings->setNotChecked(QStringLiteral("defaults-theme-unknown"));
+    PxDesignCheck design(themeIds);
     for (const QStringList *paths : {&m_paths.products, &m_paths.legacyProducts})
         checkFiles(*paths, PxFileKind::Product, findings, [&](const PxCheckedFile &file) {
             checkProduct(file, paths == &m_paths.legacyProducts, &design, &catalogue, findings);
@@ -58,7 +82,7 @@ bool PxCheck::checkFiles(const QStringList &paths, PxFileKind kind, PxFindings *
         ++m_fileCount;
         const PxCheckedFile &file = files.next();
         file.checkReading(findings);
-        file.findAllowances(findings);
+        file.findAllowances(findings, isUnderstood(file, kind));
         isEveryRead = isEveryRead && file.isRead();
         if (!file.isRead())
             continue;
@@ -96,9 +120,8 @@ void PxCheck::checkProduct(const PxCheckedFile &file, bool isLegacy, PxDesignChe
 /** Themes that are not checked themselves. */
 void PxCheck::addKnownThemes(PxThemeCheck *themes) const
 {
-    PxFindings nobodysFindings;
     for (const QString &path : m_paths.knownThemes)
-        themes->checkFile(PxCheckedFile(path), &nobodysFindings);
+        themes->addKnownFile(PxCheckedFile(path));
 }
 
 void PxCheck::checkStrays(PxFindings *findings) const

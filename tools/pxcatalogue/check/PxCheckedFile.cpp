@@ -127,7 +127,7 @@ void PxCheckedFile::addFault(PxFindings *findings, const QString &now) const
 /** Each node with the first of the elements behind it; both stand in their order. */
 void PxCheckedFile::findAllowances(const QVector<PxSourceNode> &nodes,
                                    const QVector<const PxSourceElement *> &elements,
-                                   PxFindings *findings) const
+                                   PxFindings *findings, bool isChecked) const
 {
     static const QRegularExpression ourAllowance(
         QStringLiteral("^\\s*check:\\s*allow(?:\\s+(\\S+)|\\s*$)"));
@@ -144,17 +144,17 @@ void PxCheckedFile::findAllowances(const QVector<PxSourceNode> &nodes,
             part.line = part.column = 1; // with what stands around the document element
             part.endLine = std::numeric_limits<int>::max();
         }
-        findings->allow(allowance.captured(1), place(node.range), part);
+        findings->allow(allowance.captured(1), place(node.range), part, isChecked);
     }
 }
 
-void PxCheckedFile::findAllowances(PxFindings *findings) const
+void PxCheckedFile::findAllowances(PxFindings *findings, bool isChecked) const
 {
     // What cannot be read is not checked, so that every allowance in it would seem to be unused.
     if (!root())
         return;
-    findAllowances(m_source->prolog(), {m_source->root()}, findings);
+    findAllowances(m_source->prolog(), {m_source->root()}, findings, isChecked);
     m_source->forEachElement([&](const PxSourceElement &element) {
-        findAllowances(element.nodes, element.children, findings);
+        findAllowances(element.nodes, element.children, findings, isChecked);
     });
 }

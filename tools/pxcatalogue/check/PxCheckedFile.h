@@ -28,15 +28,15 @@ public:
 
     /** Why the library cannot read the file, and what a stricter reader objects to. */
     void checkReading(PxFindings *findings) const;
-    /** What comments in the file silence. */
-    void findAllowances(PxFindings *findings) const;
+    /** What comments in the file silence. `isChecked` is false where few checks understand it. */
+    void findAllowances(PxFindings *findings, bool isChecked) const;
 
 private:
     void readSource();
     void addFault(PxFindings *findings, const QString &now) const;
     void findAllowances(const QVector<PxSourceNode> &nodes,
-                        const QVector<const PxSourceElement *> &elements,
-                        PxFindings *findings) const;
+                        const QVector<const PxSourceElement *> &elements, PxFindings *findings,
+                        bool isChecked) const;
 
     QString m_path;
     QString m_error; ///< of the library: message, without the place

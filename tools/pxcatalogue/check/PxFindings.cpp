@@ -78,14 +78,21 @@ void PxFindings::add(const char *tag, const PxPlace &place, const QString &messa
     m_findings.append(finding);
 }
 
-void PxFindings::allow(const QString &tag, const PxPlace &comment, const PxPlace &part)
+void PxFindings::allow(const QString &tag, const PxPlace &comment, const PxPlace &part,
+                       bool isChecked)
 {
-    m_allowances.add({tag, comment, part});
+    // One for no tag at all is of no use anywhere.
+    m_allowances.add({tag, comment, part, !isChecked && PxCheckTags::find(tag)});
 }
 
 bool PxFindings::isWanted(const QString &tag) const
 {
     return (m_only.isEmpty() || m_only.contains(tag)) && !m_excluded.contains(tag);
+}
+
+bool PxFindings::isChecked(const PxCheckTag &tag) const
+{
+    return !(m_isPartial && tag.needsCatalogue) && !m_notChecked.contains(QLatin1String(tag.name));
 }
 
 QVector<PxFinding> PxFindings::sorted() const
@@ -118,8 +125,7 @@ void PxFindings::addUnused(const PxAllowances::Allowance &allowance)
         add(unused, allowance.comment,
             QStringLiteral("there is no tag \"%1\" to allow").arg(allowance.tag), QString(),
             hint.isEmpty() ? QStringLiteral("take the comment out") : hint);
-    } else if (!m_excluded.contains(allowance.tag) &&
-               !(m_isPartial && tag->needsCatalogue)) { // else nobody knows
+    } else if (!m_excluded.contains(allowance.tag) && isChecked(*tag)) { // else nobody knows
         add(unused, allowance.comment, QStringLiteral("nothing here is \"%1\"").arg(allowance.tag),
             QString(), QStringLiteral("take the comment out"));
     }
@@ -129,7 +135,7 @@ QStringList PxFindings::tagsNotChecked() const
 {
     QStringList tags;
     for (const PxCheckTag *tag : PxCheckTags::all()) {
-        if (m_isPartial && tag->needsCatalogue && isWanted(QLatin1String(tag->name)))
+        if (!isChecked(*tag) && isWanted(QLatin1String(tag->name)))
             tags.append(QLatin1String(tag->name));
     }
     return tags;

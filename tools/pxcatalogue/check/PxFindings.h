@@ -15,11 +15,13 @@ public:
              const QString &now = QString(), const QString &hint = QString());
     /**
      * Silences a tag in a part of a file, as the comment at `comment` says. When there is nothing
-     * to silence, that is a finding of its own.
+     * to silence, that is a finding of its own, unless the file cannot be checked for all tags.
      */
-    void allow(const QString &tag, const PxPlace &comment, const PxPlace &part);
+    void allow(const QString &tag, const PxPlace &comment, const PxPlace &part, bool isChecked);
     /** Not all files of the catalogue are checked. */
     void setPartial(bool isPartial) { m_isPartial = isPartial; }
+    /** Files that a tag depends on cannot be read. */
+    void setNotChecked(const QString &tag) { m_notChecked.insert(tag); }
 
     void setSeverity(const QString &tag, PxSeverity severity) { m_severities[tag] = severity; }
     /** Only these tags; all when none are named. */
@@ -33,11 +35,12 @@ public:
 
     /** What is left, by path, line, column and tag. */
     QVector<PxFinding> sorted() const;
-    /** Those that only a check of the whole catalogue can find, when this is none. */
+    /** Those that only a check of the whole catalogue can find, when files of it are missing. */
     QStringList tagsNotChecked() const;
 
 private:
     bool isWanted(const QString &tag) const;
+    bool isChecked(const PxCheckTag &tag) const;
     void addUnused(const PxAllowances::Allowance &allowance);
 
     QVector<PxFinding> m_findings;
@@ -45,6 +48,7 @@ private:
     QHash<QString, PxSeverity> m_severities;
     QSet<QString> m_only;
     QSet<QString> m_excluded;
+    QSet<QString> m_notChecked;
     bool m_isPedantic = false;
     bool m_isPartial = false;
 };

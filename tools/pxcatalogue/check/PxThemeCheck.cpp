@@ -22,6 +22,13 @@ QString defaultThemeId()
 
 } // namespace
 
+void PxThemeCheck::addKnownFile(const PxCheckedFile &file)
+{
+    m_knownFiles.insert(file.path());
+    PxFindings nobodysFindings;
+    checkFile(file, &nobodysFindings);
+}
+
 void PxThemeCheck::checkFile(const PxCheckedFile &file, PxFindings *findings)
 {
     const PxSourceElement *root = file.root();
@@ -77,7 +84,7 @@ void PxThemeCheck::checkIdOnce(const PxCheckedFile &file, const PxSourceElement 
     }
     const PxPlace place = file.place(theme.rangeOf(QStringLiteral("id")));
     const auto first = m_themes.constFind(id);
-    if (first == m_themes.constEnd()) {
+    if (first == m_themes.constEnd() || !isReadBeside(*first, file)) {
         m_themes.insert(id, place);
         return;
     }
@@ -89,6 +96,13 @@ void PxThemeCheck::checkIdOnce(const PxCheckedFile &file, const PxSourceElement 
             ? QStringLiteral("looking for one theme finds the first, looking up a list the last")
             : QStringLiteral("looking for one theme finds the one, looking up a list the other, "
                              "as the file system lists the files"));
+}
+
+/** A file elsewhere, say a draft of one that is known, is not read beside that one. */
+bool PxThemeCheck::isReadBeside(const PxPlace &known, const PxCheckedFile &file) const
+{
+    return !m_knownFiles.contains(known.path) ||
+           QFileInfo(known.path).canonicalPath() == QFileInfo(file.path()).canonicalPath();
 }
 
 void PxThemeCheck::finish(PxFindings *findings) const

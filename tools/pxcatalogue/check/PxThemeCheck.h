@@ -9,6 +9,8 @@
 class PxThemeCheck
 {
 public:
+    /** Files that are not checked come first; their themes may meet those of others. */
+    void addKnownFile(const PxCheckedFile &file);
     void checkFile(const PxCheckedFile &file, PxFindings *findings);
     /** When all files have been checked. */
     void finish(PxFindings *findings) const;
@@ -22,9 +24,11 @@ public:
 private:
     void checkStrayNodes(const PxCheckedFile &file, PxFindings *findings) const;
     void checkIdOnce(const PxCheckedFile &file, const PxSourceElement &theme, PxFindings *findings);
+    bool isReadBeside(const PxPlace &known, const PxCheckedFile &file) const;
     bool isComplete() const;
 
     QSet<QString> m_files;            ///< canonical paths of those that the library reads
+    QSet<QString> m_knownFiles;       ///< as they are shown: those that are not checked
     QHash<QString, PxPlace> m_themes; ///< where an id is first, by id
     PxPlace m_firstRoot;
     bool m_hasUnnamed = false;
