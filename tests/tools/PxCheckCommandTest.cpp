@@ -351,12 +351,20 @@ void PxCheckCommandTest::checksWhatItIsToldTo()
     QVERIFY(mkfifo(QFile::encodeName(m_sample->filePath("products/pipe.xml")), 0600) == 0);
     QVERIFY(QFile::rename(m_sample->filePath("themes"), m_sample->filePath("designs")));
     m_sample->write("designs/lost.xml~", QString());
+    QDir().mkpath(m_sample->filePath("designs/old.xml"));
+    QDir().mkpath(m_sample->filePath("products/drafts"));
+    m_sample->write("products/.hidden.xml", QString());
+    m_sample->write("products/.directory", QString());
+    QVERIFY(QFile::link("nowhere.xml", m_sample->filePath("products/link.xml")));
     m_sample->write("designs/preview.png", QString());
     const PxProgramRun run =
         check("--resources " + m_sample->path() + "/ --themes ./designs --only file-not-read");
     QCOMPARE(findingsOf(run),
              (QStringList{"./designs/lost.xml~:1:1 info file-not-read",
+                          "./designs/old.xml:1:1 info file-not-read",
+                          m_sample->path() + "/products/.hidden.xml:1:1 info file-not-read",
                           m_sample->path() + "/products/cup3.xml.b\uFFFD:1:1 info file-not-read",
+                          m_sample->path() + "/products/link.xml:1:1 info file-not-read",
                           m_sample->path() + "/products/pipe.xml:1:1 info file-not-read"}));
     QCOMPARE(check("products/pipe.xml").status(), 2);
 }

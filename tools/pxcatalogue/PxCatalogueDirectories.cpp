@@ -11,17 +11,6 @@
 
 namespace {
 
-QString problemOf(const QString &directory)
-{
-    const QFileInfo info(directory);
-    if (info.isDir() && info.isReadable() && info.isExecutable())
-        return QString();
-    return QStringLiteral("the directory \"%1\" %2")
-        .arg(directory, info.isDir()    ? QLatin1String("cannot be read")
-                        : info.exists() ? QLatin1String("is no directory")
-                                        : QLatin1String("does not exist"));
-}
-
 /** The nearest directory around a file that has product types; empty when there is none. */
 QString resourcesAbove(const QString &path)
 {
@@ -38,6 +27,17 @@ QString resourcesAbove(const QString &path)
 PxCatalogueDirectories::PxCatalogueDirectories(const PxCatalogueCommandLine &commandLine)
     : m_commandLine(commandLine)
 {}
+
+QString PxCatalogueDirectories::problemOf(const QString &directory)
+{
+    const QFileInfo info(directory);
+    if (info.isDir() && info.isReadable() && info.isExecutable())
+        return QString();
+    return QStringLiteral("the directory \"%1\" %2")
+        .arg(directory, info.isDir()    ? QLatin1String("cannot be read")
+                        : info.exists() ? QLatin1String("is no directory")
+                                        : QLatin1String("does not exist"));
+}
 
 QString PxCatalogueDirectories::apply() const
 {

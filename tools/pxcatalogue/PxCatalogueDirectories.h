@@ -13,6 +13,8 @@ public:
     /** Tells them to the platform. Answers what is wrong with them, in one line; empty for nothing.
      */
     QString apply() const;
+    /** What is wrong with a directory, in one line; empty for nothing. */
+    static QString problemOf(const QString &directory);
 
 private:
     bool isCheck() const;

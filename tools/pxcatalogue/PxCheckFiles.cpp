@@ -1,6 +1,7 @@
 #include "PxCheckFiles.h"
 
 #include "PxCatalogueCommandLine.h"
+#include "PxCatalogueDirectories.h"
 #include "check/PxCheckedFile.h"
 
 #include <PxDirectoryConfig.h>
@@ -73,47 +74,53 @@ QString PxCheckFiles::findCatalogue()
         m_paths.frames = shown(resource("frames.xml"));
         m_catalogueNames.insert(m_paths.frames, QStringLiteral("frames.xml"));
     }
-    const struct
-    {
-        QString directory;
-        const char *name;
-        Qt::CaseSensitivity ending; // as the library finds these files
-        QStringList *files;
-    } rows[] = {
-        {resource("products"), "products", Qt::CaseInsensitive, &m_paths.products},
-        {resource("products/legacy"), "products/legacy", Qt::CaseInsensitive,
-         &m_paths.legacyProducts},
-        {themesDirectory(), "themes", Qt::CaseInsensitive, &m_paths.themes},
-        {PxDirectoryConfig::instance()->userDefaultsPath(), "defaults", Qt::CaseSensitive,
-         &m_paths.userDefaults},
-    };
-    for (const auto &row : rows) {
-        const QString problem =
-            findDirectory(row.directory, QLatin1String(row.name), row.ending, row.files);
+    for (const Directory &directory : directories()) {
+        const QString problem = findFiles(directory);
         if (!problem.isEmpty())
             return problem;
     }
     return QString();
 }
 
-/** `name` is what the directory is called in a catalogue. */
-QString PxCheckFiles::findDirectory(const QString &directory, const QString &name,
-                                    Qt::CaseSensitivity ending, QStringList *files)
+QVector<PxCheckFiles::Directory> PxCheckFiles::directories()
 {
-    const QFileInfo info(directory);
-    if (!info.exists())
+    return {
+        {resource("products"), QStringLiteral("products"), Qt::CaseInsensitive, &m_paths.products},
+        {resource("products/legacy"), QStringLiteral("products/legacy"), Qt::CaseInsensitive,
+         &m_paths.legacyProducts},
+        themes(&m_paths.themes),
+        {PxDirectoryConfig::instance()->userDefaultsPath(), QStringLiteral("defaults"),
+         Qt::CaseSensitive, &m_paths.userDefaults}};
+}
+
+PxCheckFiles::Directory PxCheckFiles::themes(QStringList *files)
+{
+    return {PxDirectoryConfig::instance()->lumoThemesDirectory(false).path(),
+            QStringLiteral("themes"), Qt::CaseInsensitive, files};
+}
+
+QString PxCheckFiles::findFiles(const Directory &directory)
+{
+    const QString place = shown(directory.path);
+    if (!QFileInfo::exists(directory.path))
         return QString();
-    if (!info.isDir() || !info.isReadable() || !info.isExecutable())
-        return QStringLiteral("the directory \"%1\" cannot be read").arg(shown(directory));
-    const bool isOfProducts = name.startsWith(QLatin1String("products"));
-    const QStringList entries = QDir(directory).entryList(QDir::Files | QDir::System);
-    for (const QString &entry : entries) {
-        const QString path = join(shown(directory), entry);
-        if (entry.endsWith(QLatin1String(".xml"), ending) && QFileInfo(path).isFile())
-            files->append(path);
-        else if (isOfProducts || looksLikeXml(entry))
+    const QString problem = PxCatalogueDirectories::problemOf(place);
+    if (!problem.isEmpty())
+        return problem;
+    const bool isOfProducts = directory.name.startsWith(QLatin1String("products"));
+    const QFileInfoList entries = QDir(place).entryInfoList(QDir::AllEntries | QDir::System |
+                                                            QDir::Hidden | QDir::NoDotAndDotDot);
+    for (const QFileInfo &entry : entries) {
+        const QString name = entry.fileName();
+        const QString path = join(place, name);
+        const bool hasEnding = name.endsWith(QLatin1String(".xml"), directory.ending);
+        // Other directories and hidden files are no files that got a wrong name.
+        const bool isElsewhere = entry.isDir() || entry.isHidden();
+        if (hasEnding && entry.isFile() && !entry.isHidden())
+            directory.files->append(path);
+        else if (hasEnding || (!isElsewhere && (isOfProducts || looksLikeXml(name))))
             m_paths.strays.append(path);
-        m_catalogueNames.insert(path, join(name, entry));
+        m_catalogueNames.insert(path, join(directory.name, name));
     }
     return QString();
 }
@@ -139,11 +146,10 @@ QString PxCheckFiles::findSingleFiles(const QStringList &paths)
             (!before[1].isEmpty() && before[1] != m_paths.frames))
             return what + QLatin1String("is the second of its kind: check them one by one");
     }
-    QStringList themes;
-    const QString problem =
-        findDirectory(themesDirectory(), QStringLiteral("themes"), Qt::CaseInsensitive, &themes);
+    QStringList all;
+    const QString problem = findFiles(themes(&all));
     m_paths.strays.clear(); // nobody asked for these
-    for (const QString &path : qAsConst(themes)) {
+    for (const QString &path : qAsConst(all)) {
         if (!known.contains(absolute(path)))
             m_paths.knownThemes.append(path);
     }
@@ -157,20 +163,19 @@ void PxCheckFiles::addSingleFile(const QString &path)
     const PxCheckedFile file(path);
     const QString root = file.source().root() ? file.source().root()->name : QString();
     const QFileInfo info(path);
-    const auto liesIn = [&](const QString &directory) {
-        return info.dir().canonicalPath() == QFileInfo(directory).canonicalFilePath();
-    };
+    for (const Directory &directory : directories()) {
+        if (info.dir().canonicalPath() == QFileInfo(directory.path).canonicalFilePath()) {
+            directory.files->append(path);
+            m_catalogueNames.insert(path, join(directory.name, info.fileName()));
+            return;
+        }
+    }
     const struct
     {
         bool isIt;
         const char *directory;
         QStringList *files;
     } rows[] = {
-        {liesIn(resource("products")), "products", &m_paths.products},
-        {liesIn(resource("products/legacy")), "products/legacy", &m_paths.legacyProducts},
-        {liesIn(themesDirectory()), "themes", &m_paths.themes},
-        {liesIn(PxDirectoryConfig::instance()->userDefaultsPath()), "defaults",
-         &m_paths.userDefaults},
         {root.toLower() == QLatin1String("themes"), "themes", &m_paths.themes},
         {root == QLatin1String("userdefaults"), "defaults", &m_paths.userDefaults},
         {root != QLatin1String("producttypes") && root != QLatin1String("frames"), "products",
@@ -203,9 +208,4 @@ QString PxCheckFiles::shown(const QString &absolutePath) const
         name = name.isEmpty() ? last : join(last, name);
     }
     return absolutePath;
-}
-
-QString PxCheckFiles::themesDirectory() const
-{
-    return PxDirectoryConfig::instance()->lumoThemesDirectory(false).path();
 }

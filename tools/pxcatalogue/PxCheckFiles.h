@@ -3,6 +3,7 @@
 #include "check/PxCheckPaths.h"
 
 #include <QHash>
+#include <QVector>
 
 class PxCatalogueCommandLine;
 
@@ -20,13 +21,21 @@ public:
     QHash<QString, QString> catalogueNames() const { return m_catalogueNames; }
 
 private:
+    struct Directory
+    {
+        QString path;
+        QString name;               ///< in a catalogue
+        Qt::CaseSensitivity ending; ///< as the library finds files there
+        QStringList *files;         ///< those that it reads
+    };
+
     QString findCatalogue();
     QString findSingleFiles(const QStringList &paths);
     void addSingleFile(const QString &path);
-    QString findDirectory(const QString &directory, const QString &name, Qt::CaseSensitivity ending,
-                          QStringList *files);
+    QVector<Directory> directories();
+    Directory themes(QStringList *files);
+    QString findFiles(const Directory &directory);
     QString shown(const QString &absolutePath) const;
-    QString themesDirectory() const;
 
     const PxCatalogueCommandLine &m_commandLine;
     QHash<QString, QString> m_shownOf; // directories as they were given, by absolute path

@@ -128,11 +128,20 @@ void PxCheck::checkStrays(PxFindings *findings) const
 {
     for (const QString &path : m_paths.strays) {
         const QFileInfo file(path);
-        findings->add("file-not-read", {path},
-                      file.isFile() ? QStringLiteral("the library does not read this file")
-                                    : QStringLiteral("this is no regular file"),
-                      QStringLiteral("the library passes it over"),
-                      file.isFile() ? QStringLiteral("files that are read end in \".xml\"")
-                                    : QString());
+        QString message = QStringLiteral("the library does not read this file");
+        QString hint = QStringLiteral("files that are read end in \".xml\"");
+        if (file.isSymLink() && !file.exists()) {
+            message = QStringLiteral("this link leads nowhere");
+            hint = QStringLiteral("mend the link, or take it out");
+        } else if (!file.isFile()) {
+            message = file.isDir() ? QStringLiteral("this is a directory")
+                                   : QStringLiteral("this is no regular file");
+            hint = QStringLiteral("move it elsewhere");
+        } else if (file.isHidden()) {
+            message = QStringLiteral("this file is hidden, as its name begins with a dot");
+            hint = QStringLiteral("take the dot out of the name, or move the file elsewhere");
+        }
+        findings->add("file-not-read", {path}, message,
+                      QStringLiteral("the library passes it over"), hint);
     }
 }

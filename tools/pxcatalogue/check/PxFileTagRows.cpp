@@ -10,7 +10,7 @@ static constexpr PxCheckTag rows[] = {
      "»<!-- check: allow spine-pages-twice for old orders -->\n    <pages>normalpage</pages>",
      "<pages>normalpage</pages>"},
     {"file-not-read", PxSeverity::Info, "a file that the library passes over",
-     "Files of products, themes and user defaults end in \".xml\"; other files, links that lead nowhere, pipes and directories are passed over. A product file that was renamed to keep a copy is harmless, one that got its name by mistake is missing.",
+     "Files of products, themes and user defaults end in \".xml\"; other files, hidden ones, links that lead nowhere, pipes and directories are passed over. A product file that was renamed to keep a copy is harmless, one that got its name by mistake is missing.",
      "products/cup2.xml.bak",
      "»<productdescription/>\n",
      "", true},
