@@ -11,13 +11,10 @@ namespace {
 /** Texts of the vocabulary are Markdown, with links into the documentation of the file format. */
 QString plain(const char *markdown)
 {
-    static const QRegularExpression ourReference(QStringLiteral("see \\[[^]]*\\]\\("));
-    static const QRegularExpression ourLink(QStringLiteral("\\[([^]]*)\\]\\([^)]*\\)"));
-    static const QRegularExpression ourMarks(QStringLiteral("`|\\*\\*"));
-    return QString::fromUtf8(markdown)
-        .replace(ourReference, QStringLiteral("see [file-format.md]("))
-        .replace(ourLink, QStringLiteral("\\1"))
-        .remove(ourMarks);
+    static const QRegularExpression ourReference(QStringLiteral("see \\[[^]]*\\]\\([^)]*\\)"));
+    return PxVocabulary::plainText(QString::fromUtf8(markdown)
+                                       .replace(ourReference, QStringLiteral("see file-format.md"))
+                                       .remove(QLatin1Char('`')));
 }
 
 QString sentence(const char *subject, const QString &text)

@@ -117,17 +117,20 @@ void PxFindings::addUnused(const PxAllowances::Allowance &allowance)
 {
     constexpr const char *unused = "allowance-unused";
     const PxCheckTag *tag = PxCheckTags::find(allowance.tag);
+    const QString now = QStringLiteral("the comment silences nothing");
     if (allowance.tag.isEmpty()) {
-        add(unused, allowance.comment, QStringLiteral("the allowance names no tag"), QString(),
+        add(unused, allowance.comment, QStringLiteral("the allowance names no tag"), now,
             QStringLiteral("write the tag that it is for"));
     } else if (!tag) {
-        const QString hint = PxSpelling::hint(allowance.tag, PxCheckTags::names());
+        const QString hint = allowance.tag.contains(QLatin1Char(','))
+                                 ? QStringLiteral("write a comment for each tag")
+                                 : PxSpelling::hint(allowance.tag, PxCheckTags::names());
         add(unused, allowance.comment,
-            QStringLiteral("there is no tag \"%1\" to allow").arg(allowance.tag), QString(),
+            QStringLiteral("there is no tag \"%1\" to allow").arg(allowance.tag), now,
             hint.isEmpty() ? QStringLiteral("take the comment out") : hint);
     } else if (!m_excluded.contains(allowance.tag) && isChecked(*tag)) { // else nobody knows
         add(unused, allowance.comment, QStringLiteral("nothing here is \"%1\"").arg(allowance.tag),
-            QString(), QStringLiteral("take the comment out"));
+            now, QStringLiteral("take the comment out"));
     }
 }
 

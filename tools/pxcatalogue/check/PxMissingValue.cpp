@@ -4,8 +4,6 @@
 
 #include <description/PxProductTypeDescription.h>
 
-#include <QRegularExpression>
-
 #include <algorithm>
 #include <iterator>
 
@@ -42,27 +40,35 @@ constexpr struct
      }},
 };
 
-/** A cell of the documentation as plain text. */
-QString plainText(const char *cell)
+/** What the documentation says about a missing attribute. */
+QString absence(const PxAttributeRow &attribute)
 {
-    static const QRegularExpression ourLink(QStringLiteral("\\[([^\\]]*)\\]\\([^)]*\\)"));
-    return QString::fromUtf8(cell)
-        .replace(ourLink, QStringLiteral("\\1"))
-        .remove(QLatin1Char('*'))
-        .replace(QLatin1Char('`'), QLatin1Char('"'));
+    return PxVocabulary::plainText(QString::fromUtf8(attribute.absent));
 }
 
 QString integerText(const PxAttributeRow &attribute)
 {
-    const QString absent = plainText(attribute.absent);
-    QString consequence = absent.section(QLatin1String(": "), 1);
+    const QString absent = absence(attribute);
+    const QString consequence = absent.section(QLatin1String(": "), 1);
     if (!attribute.defaultText)
         return consequence.isEmpty() ? absent : consequence;
-    if (consequence == QLatin1String("none"))
-        consequence.clear();
-    return QStringLiteral("%1 is used%2")
-        .arg(attribute.defaultText,
-             consequence.isEmpty() ? QString() : QLatin1String(": ") + consequence);
+    const QString used = QStringLiteral("%1 is used").arg(attribute.defaultText);
+    if (consequence.isEmpty())
+        return used;
+    return consequence == QLatin1String("none") ? used + QLatin1String(", which means none")
+                                                : used + QLatin1String(": ") + consequence;
+}
+
+/** Of an attribute whose default is nothing. */
+QString nothingText(const PxAttributeRow &attribute)
+{
+    const QString absent = absence(attribute);
+    if (absent == QLatin1String("empty"))
+        return QStringLiteral("it counts as empty");
+    if (absent == QLatin1String("none"))
+        return QStringLiteral("there is none");
+    const QString consequence = absent.section(QLatin1String(": "), 1);
+    return consequence.isEmpty() ? absent : consequence;
 }
 
 } // namespace
@@ -79,10 +85,10 @@ QString PxMissingValue::text(const PxSourceElement &element, const PxAttributeRo
         return attribute.defaultText ? QStringLiteral("%1 is used").arg(attribute.defaultText)
                                      : QStringLiteral("there is no rectangle");
     case PxValueType::PageRange:
-        return plainText(attribute.absent);
+        return absence(attribute);
     default:
         if (!attribute.defaultText || !*attribute.defaultText)
-            return QString();
+            return nothingText(attribute);
         return QStringLiteral("%1 is used").arg(attribute.defaultText);
     }
 }
@@ -91,7 +97,7 @@ QString PxMissingValue::answer(const PxSourceElement &element, const PxAttribute
 {
     const bool isSize = element.name == QLatin1String("usablesize");
     const PxSourceElement *product = isSize ? element.parent : &element;
-    if (!product || product->name != QLatin1String("product") || product->dom.isNull())
+    if (!product || product->name != QLatin1String("product"))
         return QString();
     const auto *found = std::find_if(std::begin(answers), std::end(answers), [&](const auto &row) {
         return qstrcmp(row.attribute, attribute.name) == 0;

@@ -2,15 +2,45 @@
 
 #include "check/PxElementReading.h"
 #include "check/PxFileFindings.h"
+#include "check/PxMessageText.h"
 #include "check/PxProductPages.h"
 #include "check/PxSourceParts.h"
+#include "vocabulary/PxVocabulary.h"
 
 #include <PxListParts.h>
 #include <geometry/PxProductionExtraPageGroup.h>
 
+#include <QRegularExpression>
 #include <QSet>
 
 #include <algorithm>
+
+namespace {
+
+/** What counts instead of a list without a number. */
+QString absence(const PxSourceElement &list)
+{
+    const QString path = list.name == QLatin1String("target_pages")
+                             ? QStringLiteral("product/extra_production_pages/item/target_pages")
+                             : QLatin1String("product/") + list.name;
+    const PxElementRow &row = *PxVocabulary::find(PxFileKind::Product, path);
+    return PxVocabulary::plainText(QString::fromUtf8(row.absent));
+}
+
+/** For numbers with another separator than the comma. */
+QString separatorHint(const QString &part)
+{
+    static const QRegularExpression ourSeparators(QStringLiteral("[;|/+\\s]+"));
+    const QStringList words = part.split(ourSeparators, Qt::SkipEmptyParts);
+    const bool areNumbers = std::all_of(
+        words.begin(), words.end(), [](const QString &word) { return !pxIntList(word).isEmpty(); });
+    return words.size() > 1 && areNumbers
+               ? QStringLiteral("separate with commas: \"%1\"")
+                     .arg(PxMessageText::shortened(words.join(QLatin1Char(','))))
+               : QString();
+}
+
+} // namespace
 
 void PxNumberListCheck::run(PxFindings *findings) const
 {
@@ -30,6 +60,12 @@ bool PxNumberListCheck::checkParts(const PxSourceElement &list, PxFindings *find
 {
     const QVector<PxSourcePart> parts = PxSourceParts::ofText(m_product.file(), list);
     const int numbers = pxIntList(list.dom.text()).size();
+    const QString now =
+        numbers > 0
+            ? QStringLiteral("it is left out: %1 of %2 parts are read")
+                  .arg(numbers)
+                  .arg(parts.size())
+            : QStringLiteral("the list holds no number then, which means: %1").arg(absence(list));
     PxFileFindings found(m_product.file(), findings, PxFileFindings::maximumOfList);
     for (int i = 0; i < parts.size() && !found.isFull(); ++i) {
         const QString text = parts[i].text.trimmed();
@@ -40,9 +76,7 @@ bool PxNumberListCheck::checkParts(const PxSourceElement &list, PxFindings *find
                   text.isEmpty()
                       ? QStringLiteral("part %1 of \"%2\" is empty").arg(i + 1).arg(list.name)
                       : QStringLiteral("\"%1\" is no whole number").arg(text),
-                  QStringLiteral("it is left out: %1 of %2 parts are read")
-                      .arg(numbers)
-                      .arg(parts.size()));
+                  now, separatorHint(text));
     }
     return found.isEmpty();
 }

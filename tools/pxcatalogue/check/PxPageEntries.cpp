@@ -25,6 +25,12 @@ PxPageEntries::PxPageEntries(const PxCheckedProduct &product)
         m_firstDropped = parts.at(m_read.size()).range;
 }
 
+bool PxPageEntries::hasPage() const
+{
+    return std::any_of(m_read.begin(), m_read.end(),
+                       [](const PxPageEntry &entry) { return !entry.type.isNull(); });
+}
+
 bool PxPageEntries::isSound() const
 {
     return std::none_of(m_read.begin(), m_read.end(),

@@ -25,6 +25,8 @@ public:
 
     /** The product has a page list, be it empty. */
     bool isGiven() const { return m_isGiven; }
+    /** Some entry that is read is a page. */
+    bool hasPage() const;
     /** Every entry that is read is a page. */
     bool isSound() const;
     /** Those that the library reads. */

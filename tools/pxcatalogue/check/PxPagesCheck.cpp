@@ -54,9 +54,14 @@ void PxPagesCheck::checkPresence(PxFindings *findings) const
         PxElementReading(m_product.element()).isChildMisplaced(QStringLiteral("pages")))
         return;
     m_product.add(findings, "pages-missing", m_product.element().nameRange,
-                  QStringLiteral("the product has no \"pages\""),
-                  QStringLiteral("it has %1 page, and no cover")
-                      .arg(m_product.description().pageTypes(1).size()));
+                  QStringLiteral("the product has no \"pages\""), nowWithoutPages());
+}
+
+/** What becomes of a product that lists no page. */
+QString PxPagesCheck::nowWithoutPages() const
+{
+    return QStringLiteral("the product has %1 page, and no cover")
+        .arg(m_product.description().pageTypes(1).size());
 }
 
 bool PxPagesCheck::hasSeveralPages() const
@@ -87,11 +92,14 @@ void PxPagesCheck::checkEntry(const PxPageEntry &entry, PxFindings *findings) co
                       m_pages.read().size() == 1
                           ? QStringLiteral("the list of pages is empty")
                           : QStringLiteral("an empty entry in the list of pages"),
-                      QStringLiteral("it is left out, with a warning each time"));
+                      m_pages.hasPage() ? QStringLiteral("it is left out, with a warning each time")
+                                        : nowWithoutPages());
     } else if (entry.type.isNull()) {
         m_product.add(findings, "pages-entry-unknown", entry.range,
                       QStringLiteral("\"%1\" is no type of page").arg(entry.text),
-                      QStringLiteral("it is left out, and the pages behind it move up"),
+                      m_pages.hasPage()
+                          ? QStringLiteral("it is left out, and the pages behind it move up")
+                          : nowWithoutPages(),
                       hintFor(entry.text));
     } else if (entry.isUnion()) {
         m_product.add(findings, "page-type-union", entry.range,

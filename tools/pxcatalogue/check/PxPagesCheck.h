@@ -17,6 +17,7 @@ public:
 private:
     void checkPresence(PxFindings *findings) const;
     bool hasSeveralPages() const;
+    QString nowWithoutPages() const;
     void checkCount(PxFindings *findings) const;
     void checkEntry(const PxPageEntry &entry, PxFindings *findings) const;
     bool checkCoverPosition(PxFindings *findings) const;

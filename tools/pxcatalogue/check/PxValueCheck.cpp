@@ -10,36 +10,33 @@
 
 namespace {
 
-/** The whole number that somebody meant who wrote another kind of number; empty when none. */
-QString meantNumber(const QString &text)
+bool isLength(const PxAttributeRow &row)
 {
-    static const QRegularExpression ourHex(QStringLiteral("^0[xX][0-9a-fA-F]{1,7}$"));
-    static const QRegularExpression ourMillimetres(QStringLiteral("^(-?[0-9]{1,6})\\s*mm$"));
-    // Three digits behind the point may be thousands.
-    static const QRegularExpression ourFraction(QStringLiteral("^(-?[0-9]{1,6})[.,]([0-9]{1,2})$"));
-    if (ourHex.match(text).hasMatch())
-        return QString::number(text.toInt(nullptr, 16));
-    const QRegularExpressionMatch millimetres = ourMillimetres.match(text);
-    if (millimetres.hasMatch())
-        return QString::number(millimetres.captured(1).toInt() * 10);
-    const QRegularExpressionMatch fraction = ourFraction.match(text);
-    if (fraction.hasMatch())
-        return QString::number(
-            qRound((fraction.captured(1) + QLatin1Char('.') + fraction.captured(2)).toDouble()));
-    return QString();
+    static const QRegularExpression ourLengths(
+        QStringLiteral("^(width|height|maxfontheight|\\w*margin\\w*|coverextra\\w*|\\w*clamp)$"));
+    return row.type == PxValueType::RectanglePart ||
+           ourLengths.match(QLatin1String(row.name)).hasMatch();
 }
 
-QString integerHint(const PxSourceAttribute &attribute)
+/** For somebody who wrote another kind of number. */
+QString integerHint(const PxAttributeRow &row, const PxSourceAttribute &attribute)
 {
+    static const QRegularExpression ourHex(QStringLiteral("^0[xX][0-9a-fA-F]{1,7}$"));
+    static const QRegularExpression ourMillimetres(
+        QStringLiteral("^(-?[0-9]{1,6})(?:[.,]([0-9]))?\\s*(mm)?$"));
     const QString text = attribute.value.trimmed();
     if (text.isEmpty())
         return QStringLiteral("give a number, or leave \"%1\" out").arg(attribute.name);
-    const QString number = meantNumber(text);
-    if (number.isEmpty())
+    if (ourHex.match(text).hasMatch())
+        return QStringLiteral("did you mean \"%1\"?").arg(text.toInt(nullptr, 16));
+    const QRegularExpressionMatch millimetres = ourMillimetres.match(text);
+    if (!isLength(row) || !millimetres.hasMatch())
         return QString();
-    return text.endsWith(QLatin1String("mm"))
-               ? QStringLiteral("lengths are in tenths of a millimetre: \"%1\"").arg(number)
-               : QStringLiteral("did you mean \"%1\"?").arg(number);
+    // Who writes a fraction thinks of millimetres.
+    const QString tenth = millimetres.captured(2);
+    return QStringLiteral("lengths are in tenths of a millimetre: \"%1\" for %2")
+        .arg(millimetres.captured(1) + (tenth.isEmpty() ? QStringLiteral("0") : tenth),
+             millimetres.captured(3).isEmpty() ? text + QLatin1String(" mm") : text);
 }
 
 /** Digits only: what is wrong is that there are too many. */
@@ -87,7 +84,7 @@ void PxValueCheck::checkInteger(const PxSourceElement &element, const PxAttribut
         message = QStringLiteral("%1 is beyond the numbers of 32 bits")
                       .arg(PxMessageText::shortened(attribute.value.trimmed()));
     m_findings.add("integer-malformed", attribute.valueRange, message,
-                   PxMissingValue::text(element, row), integerHint(attribute));
+                   PxMissingValue::text(element, row), integerHint(row, attribute));
 }
 
 void PxValueCheck::checkBoolean(const PxSourceElement &element, const PxAttributeRow &row,

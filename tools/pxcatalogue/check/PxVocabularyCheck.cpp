@@ -129,7 +129,8 @@ void PxVocabularyCheck::addUnknownAttribute(const Place &place, const PxSourceAt
     findings.add("attribute-unknown", attribute.nameRange,
                  QStringLiteral("\"%1\" is not read on \"%2\"")
                      .arg(PxMessageText::shortened(attribute.name), place.element.name),
-                 now.isEmpty() ? now : QStringLiteral("\"%1\" is missing: %2").arg(meant, now),
+                 now.isEmpty() ? QStringLiteral("it is passed over")
+                               : QStringLiteral("\"%1\" is missing: %2").arg(meant, now),
                  hint);
 }
 
@@ -151,7 +152,7 @@ void PxVocabularyCheck::checkText(const Place &place, PxFileFindings &findings) 
     findings.add("text-not-read", text->range,
                  QStringLiteral("the text \"%1\" is not read in \"%2\"")
                      .arg(PxMessageText::shortened(text->text.simplified()), place.element.name),
-                 QString(),
+                 QStringLiteral("it is passed over"),
                  isOfChild
                      ? QStringLiteral("put it into a \"%1\" element").arg(nameOf(*children.begin()))
                      : QString());

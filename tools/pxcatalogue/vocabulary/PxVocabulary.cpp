@@ -3,6 +3,8 @@
 #include "vocabulary/PxKeywordRows.h"
 #include "vocabulary/PxVocabularyFiles.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <iterator>
 
@@ -105,6 +107,14 @@ QString PxVocabulary::typeName(const PxAttributeRow &attribute)
     const auto *found = std::find_if(std::begin(names), std::end(names),
                                      [&](const auto &row) { return row.type == attribute.type; });
     return QLatin1String(found->name);
+}
+
+QString PxVocabulary::plainText(QString cell)
+{
+    static const QRegularExpression ourLink(QStringLiteral("\\[([^\\]]*)\\]\\([^)]*\\)"));
+    return cell.replace(ourLink, QStringLiteral("\\1"))
+        .remove(QStringLiteral("**"))
+        .replace(QLatin1Char('`'), QLatin1Char('"'));
 }
 
 const PxKeywordSetRow &PxVocabulary::keywords(PxKeywordSet set)

@@ -1,0 +1,82 @@
+#include "PxProgramRun.h"
+#include "PxSampleCopy.h"
+
+#include <QTest>
+
+/** What an author reads about one mistake, where the place and the tag do not say enough. */
+class PxCheckTextsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void tellsWhatBecomesOfIt_data();
+    void tellsWhatBecomesOfIt();
+
+private:
+    PxSampleCopy m_sample;
+};
+
+void PxCheckTextsTest::tellsWhatBecomesOfIt_data()
+{
+    QTest::addColumn<QString>("old");
+    QTest::addColumn<QString>("mistake");
+    QTest::addColumn<QString>("text");
+    const QString pages = "<pages>normalpage</pages>";
+    const QString noPage = "now: the product has 1 page, and no cover";
+    QTest::newRow("no page is left")
+        << pages << "<pages>normalpag</pages>" << noPage + " hint: did you mean \"normalpage\"?";
+    QTest::newRow("no page at all") << pages << "<pages/>" << noPage;
+    QTest::newRow("some pages are left") << pages << "<pages>normalpage,x</pages>"
+                                         << "now: it is left out, and the pages behind it move up";
+    const auto withContent = [&](const QString &list) {
+        return pages + "<pageswithcontent>" + list + "</pageswithcontent>";
+    };
+    QTest::newRow("numbers without commas")
+        << pages << withContent("1;2;3")
+        << "now: the list holds no number then, which means: every page "
+           "hint: separate with commas: \"1,2,3\"";
+    QTest::newRow("some numbers are left")
+        << pages << withContent("0,x") << "now: it is left out: 1 of 2 parts are read";
+
+    const QString margin = "safetymargin=\"30\"";
+    QTest::newRow("millimetres")
+        << margin << "safetymargin=\"3,5 mm\""
+        << "hint: lengths are in tenths of a millimetre: \"35\" for 3,5 mm";
+    QTest::newRow("a fraction of a length")
+        << margin << "safetymargin=\"30,5\""
+        << "hint: lengths are in tenths of a millimetre: \"305\" for 30,5 mm";
+    QTest::newRow("a fraction of a count")
+        << margin << margin + " numOfSpirals=\"1,5\""
+        << "is no whole number [integer-malformed] now: 0 is used 59 files";
+    QTest::newRow("a number that means none")
+        << margin << margin + " defaultSellingPages=\"26 Seiten\""
+        << "now: -1 is used, which means none";
+
+    QTest::newRow("an empty default") << "legacy="
+                                      << "legcy="
+                                      << "now: \"legacy\" is missing: there is none";
+    QTest::newRow("of another element") << "<usablesize "
+                                        << "<usablesize safetymargin=\"3\" "
+                                        << "now: it is passed over hint: it is read on";
+    const auto allowing = [&](const QString &comment) { return "<!--" + comment + "-->" + pages; };
+    QTest::newRow("two tags") << pages << allowing("check: allow pages-missing,size-missing")
+                              << "now: the comment silences nothing "
+                                 "hint: write a comment for each tag";
+}
+
+void PxCheckTextsTest::tellsWhatBecomesOfIt()
+{
+    QFETCH(QString, old);
+    QFETCH(QString, mistake);
+    QFETCH(QString, text);
+    const QString cup = "products/cup2.xml";
+    m_sample.replace(cup, old, mistake);
+    const PxProgramRun run(PX_CATALOGUE_PROGRAM, {"check", m_sample.path()},
+                           {{"PX_RESOURCE_DIRS", QString()}, {"PX_THEMES_DIR", QString()}});
+    m_sample.restore(cup);
+    QVERIFY2(run.text().contains(text), qPrintable(run.text()));
+    QCOMPARE(run.output().filter("]").size(), 1);
+}
+
+QTEST_GUILESS_MAIN(PxCheckTextsTest)
+#include "PxCheckTextsTest.moc"
