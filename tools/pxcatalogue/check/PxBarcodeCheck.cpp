@@ -4,6 +4,7 @@
 #include "check/PxImageCheck.h"
 #include "check/PxMessageText.h"
 #include "check/PxProductPages.h"
+#include "check/PxSizeCheck.h"
 
 #include <algorithm>
 
@@ -136,7 +137,8 @@ void PxBarcodeCheck::checkInside(int index, const QVector<Place> &places,
                                  PxFindings *findings) const
 {
     const QRect rect = m_barcodes[index].rect();
-    if (m_product.description().usablePrintSize(PxPageTypeNormalPage, 1).isEmpty())
+    if (m_product.description().usablePrintSize(PxPageTypeNormalPage, 1).isEmpty() ||
+        PxSizeCheck::isInOtherUnit(m_product.description()))
         return;
     for (const Place &place : places) {
         const QSize size =

@@ -1,9 +1,9 @@
 #include "check/PxCatalogueCheck.h"
 
-#include "check/PxFramesCheck.h"
 #include "check/PxListedProductTypes.h"
 #include "check/PxMessageText.h"
 #include "check/PxProductTypesCheck.h"
+#include "check/PxSizeCheck.h"
 
 #include <PxDirectoryConfig.h>
 #include <description/PxProductTypeDescriptionReader.h>
@@ -53,21 +53,19 @@ void PxCatalogueCheck::checkProductTypes(const PxCheckedFile &file, PxFindings *
     m_types = check.places();
 }
 
-void PxCatalogueCheck::checkFrames(const PxCheckedFile &file, PxFindings *findings)
-{
-    PxFramesCheck(file).run(findings);
-}
-
 void PxCatalogueCheck::addProduct(const PxCheckedProduct &product)
 {
     const QString legacy = QStringLiteral("legacy");
     const PxCheckedFile &file = product.file();
     const PxSourceElement &element = product.element();
     const PxSourceElement *size = element.firstChild(QStringLiteral("usablesize"));
+    // Which has been told already.
+    const bool isInOtherUnit = PxSizeCheck::isInOtherUnit(product.description());
     m_products.append(
         {product.type(), product.isLegacy(), file.place(element.rangeOf(QStringLiteral("name"))),
          element.value(legacy), file.place(element.rangeOf(legacy)),
-         product.description().usablePrintSize(PxPageType(PxPageTypeNormalPage), 0),
+         isInOtherUnit ? QSize()
+                       : product.description().usablePrintSize(PxPageType(PxPageTypeNormalPage), 0),
          file.place(size ? size->rangeOf(QStringLiteral("width")) : element.nameRange)});
     if (product.type().isValid())
         m_files.insert(QFileInfo(file.path()).canonicalFilePath());

@@ -10,7 +10,6 @@ class PxCatalogueCheck
 {
 public:
     void checkProductTypes(const PxCheckedFile &file, PxFindings *findings);
-    void checkFrames(const PxCheckedFile &file, PxFindings *findings);
     /** Remembers what the others are held against; neither file nor product is kept. */
     void addProduct(const PxCheckedProduct &product);
     /** When all products have been added. */

@@ -1,7 +1,5 @@
 #include "check/PxCheckTagRows.h"
 
-#include <iterator>
-
 // clang-format off
 static constexpr PxCheckTag rows[] = {
     {"frame-id-not-ascii", PxSeverity::Pedantic, "the id of a frame is not plain ASCII",
@@ -70,7 +68,7 @@ static constexpr PxCheckTag rows[] = {
 };
 // clang-format on
 
-PxCheckTagRows catalogueTagRows()
+PxRows<PxCheckTag> catalogueTagRows()
 {
-    return {rows, int(std::size(rows))};
+    return rows;
 }

@@ -2,6 +2,7 @@
 
 #include "check/PxCatalogueCheck.h"
 #include "check/PxDesignCheck.h"
+#include "check/PxFramesCheck.h"
 #include "check/PxLayoutCheck.h"
 #include "check/PxProductCheck.h"
 #include "check/PxReadAhead.h"
@@ -52,7 +53,7 @@ void PxCheck::run(PxFindings *findings)
     checkFiles(single(m_paths.productTypes), PxFileKind::ProductTypes, findings,
                [&](const PxCheckedFile &file) { catalogue.checkProductTypes(file, findings); });
     checkFiles(single(m_paths.frames), PxFileKind::Frames, findings,
-               [&](const PxCheckedFile &file) { catalogue.checkFrames(file, findings); });
+               [&](const PxCheckedFile &file) { PxFramesCheck(file).run(findings); });
     const QStringList themeIds = isEveryThemeRead ? themes.ids() : QStringList();
     if (themeIds.isEmpty())
         findings->setNotChecked(QStringLiteral("defaults-theme-unknown"));

@@ -1,19 +1,13 @@
 #pragma once
 
 #include "check/PxCheckTag.h"
-
-/** The rows of one subject. */
-struct PxCheckTagRows
-{
-    const PxCheckTag *first;
-    int count;
-};
+#include "vocabulary/PxVocabularyRows.h"
 
 // One table, in parts by subject; each in the file of its name.
-PxCheckTagRows fileTagRows();
-PxCheckTagRows vocabularyTagRows();
-PxCheckTagRows productTagRows();
-PxCheckTagRows layoutTagRows();
-PxCheckTagRows designTagRows();
-PxCheckTagRows catalogueTagRows();
-PxCheckTagRows themeTagRows();
+PxRows<PxCheckTag> fileTagRows();
+PxRows<PxCheckTag> vocabularyTagRows();
+PxRows<PxCheckTag> productTagRows();
+PxRows<PxCheckTag> layoutTagRows();
+PxRows<PxCheckTag> designTagRows();
+PxRows<PxCheckTag> catalogueTagRows();
+PxRows<PxCheckTag> themeTagRows();

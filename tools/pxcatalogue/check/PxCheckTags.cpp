@@ -3,7 +3,6 @@
 #include "check/PxCheckTagRows.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace {
 
@@ -18,11 +17,11 @@ const QVector<const PxCheckTag *> &PxCheckTags::all()
 {
     static const QVector<const PxCheckTag *> ourTags = [] {
         QVector<const PxCheckTag *> tags;
-        for (const PxCheckTagRows &rows :
+        for (const PxRows<PxCheckTag> &rows :
              {fileTagRows(), vocabularyTagRows(), productTagRows(), layoutTagRows(),
               designTagRows(), catalogueTagRows(), themeTagRows()}) {
-            for (int i = 0; i < rows.count; ++i)
-                tags.append(rows.first + i);
+            for (const PxCheckTag &tag : rows)
+                tags.append(&tag);
         }
         std::sort(tags.begin(), tags.end(), [](const PxCheckTag *a, const PxCheckTag *b) {
             return qstrcmp(a->name, b->name) < 0;

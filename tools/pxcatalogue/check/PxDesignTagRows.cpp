@@ -1,7 +1,5 @@
 #include "check/PxCheckTagRows.h"
 
-#include <iterator>
-
 // clang-format off
 static constexpr PxCheckTag rows[] = {
     {"category-blank", PxSeverity::Warning, "a category with a blank at its edge",
@@ -77,7 +75,7 @@ static constexpr PxCheckTag rows[] = {
 };
 // clang-format on
 
-PxCheckTagRows designTagRows()
+PxRows<PxCheckTag> designTagRows()
 {
-    return {rows, int(std::size(rows))};
+    return rows;
 }

@@ -1,7 +1,5 @@
 #include "check/PxCheckTagRows.h"
 
-#include <iterator>
-
 // clang-format off
 static constexpr PxCheckTag rows[] = {
     {"allowance-unused", PxSeverity::Warning, "a comment allows what does not occur",
@@ -45,7 +43,7 @@ static constexpr PxCheckTag rows[] = {
 };
 // clang-format on
 
-PxCheckTagRows fileTagRows()
+PxRows<PxCheckTag> fileTagRows()
 {
-    return {rows, int(std::size(rows))};
+    return rows;
 }

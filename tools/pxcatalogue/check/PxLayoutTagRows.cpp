@@ -1,7 +1,5 @@
 #include "check/PxCheckTagRows.h"
 
-#include <iterator>
-
 // clang-format off
 static constexpr PxCheckTag rows[] = {
     {"barcode-empty", PxSeverity::Warning, "a barcode without a rectangle",
@@ -77,7 +75,7 @@ static constexpr PxCheckTag rows[] = {
 };
 // clang-format on
 
-PxCheckTagRows layoutTagRows()
+PxRows<PxCheckTag> layoutTagRows()
 {
-    return {rows, int(std::size(rows))};
+    return rows;
 }

@@ -1,7 +1,5 @@
 #include "check/PxCheckTagRows.h"
 
-#include <iterator>
-
 // clang-format off
 static constexpr PxCheckTag rows[] = {
     {"alignment-style-shadowed", PxSeverity::Warning, "of several alignment styles only the first is read",
@@ -112,6 +110,11 @@ static constexpr PxCheckTag rows[] = {
      "products/acrylic_direct_90x30.xml",
      "bleedmargin=\"30\" orientation=\"»landscape\">",
      "bleedmargin=\"30\">"},
+    {"size-in-other-unit", PxSeverity::Warning, "a page ten times smaller or larger than its size class",
+     "Lengths are tenths of a millimetre, and nothing converts them: a page in millimetres or hundredths gets the wrong type sizes, layouts and margins. The area that \"space\" names is about a hundred times that of the page, or a hundredth of it. Write the size in tenths of a millimetre.",
+     "products/cb14.xml",
+     "<usablesize width=\"»140\" height=\"200\"",
+     "<usablesize width=\"1400\" height=\"2000\""},
     {"size-missing", PxSeverity::Error, "a product without a size",
      "Without \"usablesize\", or without its width or height, the page has no valid size, and the product is never offered. Give both in tenths of a millimetre.",
      "products/cup2.xml",
@@ -132,6 +135,11 @@ static constexpr PxCheckTag rows[] = {
      "products/book_mini.xml",
      "coverextrahorizontal=\"»0\"",
      "coverextrahorizontal=\"20\""},
+    {"spine-last-step-long", PxSeverity::Info, "a last page count that is further away than the others",
+     "The page counts of a book are those from the smallest to the largest in equal steps, and only the largest may lie between two of them. Here it is further away than one step: the page counts before it have no spine, which is then 0 wide. This may be meant; else add their spines.",
+     "products/book_mini.xml",
+     "<spine pages=\"»50\" width=\"111\" maxfontheight=\"72\"/>",
+     "<spine pages=\"42\" width=\"111\" maxfontheight=\"72\"/>"},
     {"spine-not-second", PxSeverity::Warning, "a spine that is not the second page",
      "In a product with a spine it is page 1 that lies in the middle, and the sides of all others follow from that. A spine at another place in the list of pages counts as a left or right page, and another page as the spine. Begin with back cover, spine, front cover.",
      "products/book_mini.xml",
@@ -153,7 +161,7 @@ static constexpr PxCheckTag rows[] = {
      "<spine pages=\"»18\" width=\"63\" maxfontheight=\"40\"/>",
      "<spine pages=\"22\" width=\"63\" maxfontheight=\"40\"/>"},
     {"spine-steps-irregular", PxSeverity::Warning, "page counts in uneven steps",
-     "The step between the page counts of a book is taken from the third-last and the second-last entry of \"spines\", and it counts from the smallest to the largest. A page count that the table leaves out is offered all the same, with a spine 0 wide; one between two steps is not offered. Only the last step may differ.",
+     "The step between the page counts of a book is taken from the third-last and the second-last entry of \"spines\", and it counts from the smallest to the largest. A page count that the table leaves out is among them, with a spine 0 wide; one between two steps is not. Only the last step may differ.",
      "products/book_mini.xml",
      "<spine pages=\"22\" width=\"63\" maxfontheight=\"40\"/>\n      <spine pages=\"»30\" width=\"82\" maxfontheight=\"53\"/>",
      "<spine pages=\"22\" width=\"63\" maxfontheight=\"40\"/>\n      <spine pages=\"26\" width=\"72\" maxfontheight=\"46\"/>\n      <spine pages=\"30\" width=\"82\" maxfontheight=\"53\"/>"},
@@ -185,7 +193,7 @@ static constexpr PxCheckTag rows[] = {
 };
 // clang-format on
 
-PxCheckTagRows productTagRows()
+PxRows<PxCheckTag> productTagRows()
 {
-    return {rows, int(std::size(rows))};
+    return rows;
 }

@@ -54,11 +54,28 @@ struct SizeClass
     int area; ///< in square centimetres
 };
 
+constexpr double roughness = 1.5; // how far a page may be from the area of its class
+
 constexpr SizeClass sizeClasses[] = {
     {PxSpaceMagnitude150, 150}, {PxSpaceMagnitude200, 200},   {PxSpaceMagnitude280, 280},
     {PxSpaceMagnitude310, 310}, {PxSpaceMagnitude400, 400},   {PxSpaceMagnitude600, 600},
     {PxSpaceMagnitude900, 900}, {PxSpaceMagnitude1200, 1200},
 };
+
+/** The class that a product names; null for every class, or several. */
+const SizeClass *namedClass(const PxProductTypeDescription &product)
+{
+    const auto *named =
+        std::find_if(std::begin(sizeClasses), std::end(sizeClasses), [&](const SizeClass &row) {
+            return product.spaceMagnitude().hasValue(row.value);
+        });
+    return named == std::end(sizeClasses) ? nullptr : named;
+}
+
+double areaOf(const QSize &size)
+{
+    return size.width() / 100.0 * (size.height() / 100.0);
+}
 
 } // namespace
 
@@ -184,18 +201,20 @@ bool PxSizeCheck::checkOrientation(PxFindings *findings) const
 void PxSizeCheck::checkSpace(PxFindings *findings) const
 {
     const PxSpaceMagnitude used = m_product.description().spaceMagnitude();
-    const auto *named =
-        std::find_if(std::begin(sizeClasses), std::end(sizeClasses),
-                     [&](const SizeClass &row) { return used.hasValue(row.value); });
-    if (named == std::end(sizeClasses))
-        return; // every size, or several
-    const double area = m_size.width() / 100.0 * (m_size.height() / 100.0);
+    const SizeClass *named = namedClass(m_product.description());
+    if (!named)
+        return;
+    if (isInOtherUnit(m_product.description())) {
+        addOtherUnit(named->area, findings);
+        return;
+    }
+    const double area = areaOf(m_size);
     const auto *nearest = std::min_element(std::begin(sizeClasses), std::end(sizeClasses),
                                            [&](const SizeClass &a, const SizeClass &b) {
                                                return ratio(a.area, area) < ratio(b.area, area);
                                            });
     // The classes are rough, and some pages lie between two of them.
-    if (ratio(named->area, area) <= 1.5 || ratio(nearest->area, area) > 1.25)
+    if (ratio(named->area, area) <= roughness || ratio(nearest->area, area) > 1.25)
         return;
     const PxSourceElement &place =
         m_usableSize->value(space).isEmpty() ? m_product.element() : *m_usableSize;
@@ -204,4 +223,28 @@ void PxSizeCheck::checkSpace(PxFindings *findings) const
         QStringLiteral("%1, but the page has %2 cm²").arg(used.encodeCSV()).arg(qRound(area)),
         QStringLiteral("templates and type sizes of \"%1\" are used").arg(used.humanReadableName()),
         QStringLiteral("did you mean \"%1\"?").arg(PxSpaceMagnitude(nearest->value).encodeCSV()));
+}
+
+bool PxSizeCheck::isInOtherUnit(const PxProductTypeDescription &product)
+{
+    const SizeClass *named = namedClass(product);
+    const QSize size = product.usablePrintSize(PxPageTypeNormalPage, 0);
+    // Ten times in either direction, within what the classes leave open.
+    return named && !size.isEmpty() && ratio(ratio(named->area, areaOf(size)), 100) <= roughness;
+}
+
+void PxSizeCheck::addOtherUnit(int namedArea, PxFindings *findings) const
+{
+    const bool isSmaller = areaOf(m_size) < namedArea;
+    const QSize meant = isSmaller ? m_size * 10 : m_size / 10;
+    m_product.add(findings, "size-in-other-unit", m_usableSize->rangeOf(width),
+                  QStringLiteral("%1 x %2 is ten times %3 than \"%4\" says")
+                      .arg(m_size.width())
+                      .arg(m_size.height())
+                      .arg(isSmaller ? QLatin1String("smaller") : QLatin1String("larger"))
+                      .arg(m_product.description().spaceMagnitude().encodeCSV()),
+                  QStringLiteral("the size is taken as it is"),
+                  QStringLiteral("lengths are in tenths of a millimetre: %1 x %2?")
+                      .arg(meant.width())
+                      .arg(meant.height()));
 }

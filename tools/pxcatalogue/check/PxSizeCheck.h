@@ -12,6 +12,8 @@ public:
     explicit PxSizeCheck(const PxCheckedProduct &product);
 
     void run(PxFindings *findings) const;
+    /** Whether the page is a hundred times smaller or larger than its size class says. */
+    static bool isInOtherUnit(const PxProductTypeDescription &product);
 
 private:
     void checkPresence(PxFindings *findings) const;
@@ -19,6 +21,7 @@ private:
     void checkShadowing(PxFindings *findings) const;
     bool checkOrientation(PxFindings *findings) const;
     void checkSpace(PxFindings *findings) const;
+    void addOtherUnit(int namedArea, PxFindings *findings) const;
 
     const PxCheckedProduct &m_product;
     const PxSourceElement *m_usableSize; // null when there is none

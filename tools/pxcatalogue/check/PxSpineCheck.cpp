@@ -150,6 +150,7 @@ void PxSpineCheck::checkSteps(PxFindings *findings) const
         return;
     const int usual = usualStep();
     int before = usual;
+    bool isRegular = true;
     // The last step is free.
     for (auto it = std::next(m_spines.begin()); it != std::prev(m_spines.end()); ++it) {
         const int smaller = std::prev(it).key();
@@ -168,8 +169,29 @@ void PxSpineCheck::checkSteps(PxFindings *findings) const
                           step > usual
                               ? QStringLiteral("add a spine for %1 pages").arg(smaller + usual)
                               : QString());
+        isRegular = isRegular && step == usual;
         before = step;
     }
+    if (isRegular)
+        checkLastStep(usual, findings);
+}
+
+/** A last step that is longer than the others leaves out page counts as any other does. */
+void PxSpineCheck::checkLastStep(int usual, PxFindings *findings) const
+{
+    const auto last = std::prev(m_spines.end());
+    const int smaller = std::prev(last).key();
+    if (last.key() - usual <= smaller || !hasWidth())
+        return;
+    m_product.add(findings, "spine-last-step-long", last.value()->rangeOf(pagesName),
+                  QStringLiteral("%1 pages after %2, where other steps are %3")
+                      .arg(last.key())
+                      .arg(smaller)
+                      .arg(usual),
+                  QStringLiteral("the spine for %1 pages is %2 wide")
+                      .arg(smaller + usual)
+                      .arg(m_product.description().spineWidth(smaller + usual)),
+                  QStringLiteral("add a spine for %1 pages").arg(smaller + usual));
 }
 
 bool PxSpineCheck::hasWidth() const

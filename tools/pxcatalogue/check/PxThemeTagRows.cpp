@@ -1,7 +1,5 @@
 #include "check/PxCheckTagRows.h"
 
-#include <iterator>
-
 // clang-format off
 static constexpr PxCheckTag rows[] = {
     {"theme-description-missing", PxSeverity::Info, "a theme without a name for the user",
@@ -127,7 +125,7 @@ static constexpr PxCheckTag rows[] = {
 };
 // clang-format on
 
-PxCheckTagRows themeTagRows()
+PxRows<PxCheckTag> themeTagRows()
 {
-    return {rows, int(std::size(rows))};
+    return rows;
 }

@@ -1,7 +1,5 @@
 #include "check/PxCheckTagRows.h"
 
-#include <iterator>
-
 // clang-format off
 static constexpr PxCheckTag rows[] = {
     {"alignment-unknown", PxSeverity::Warning, "a word that is no alignment counts as left",
@@ -72,7 +70,7 @@ static constexpr PxCheckTag rows[] = {
 };
 // clang-format on
 
-PxCheckTagRows vocabularyTagRows()
+PxRows<PxCheckTag> vocabularyTagRows()
 {
-    return {rows, int(std::size(rows))};
+    return rows;
 }

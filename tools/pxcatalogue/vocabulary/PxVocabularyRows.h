@@ -11,8 +11,8 @@ class PxRows
 public:
     constexpr PxRows() = default;
     template <std::size_t COUNT>
-    constexpr PxRows(const ROW (&rows)[COUNT]) : m_first(rows)
-                                               , m_count(int(COUNT))
+    constexpr PxRows(const ROW (&array)[COUNT]) : m_first(array)
+                                                , m_count(int(COUNT))
     {}
 
     constexpr const ROW *begin() const { return m_first; }
