@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -30,11 +29,13 @@ private slots:
     void checksSingleFiles();
     void knowsOtherThemes();
     void checksWhatItIsToldTo();
+    void findsWhatNoExampleShows();
     void saysWhatIsWrong_data();
     void saysWhatIsWrong();
     void keepsQuiet();
     void explains();
     void optionsAreDocumented();
+    void printsWhatTheDocumentShows();
 
 private:
     PxProgramRun check(const QString &options) const;
@@ -164,6 +165,10 @@ void PxCheckCommandTest::declaresAllRulesInSarif()
     const QJsonValue file =
         there["results"][0]["locations"][0]["physicalLocation"]["artifactLocation"];
     QCOMPARE(file["uri"].toString(), cup);
+
+    m_sample->write("products/pendant.xml", "<p><product name='{0} [a](b) [c]'/></p>");
+    QVERIFY(run(path)["results"].toArray().last()["message"]["text"].toString().startsWith(
+        "there is no product type \"{{0}} \\[a](b) [c]\"\n"));
     QVERIFY(there["originalUriBaseIds"].toObject().contains(file["uriBaseId"].toString()));
 }
 
@@ -369,6 +374,24 @@ void PxCheckCommandTest::checksWhatItIsToldTo()
     QCOMPARE(check("products/pipe.xml").status(), 2);
 }
 
+/** Of which no example in a table could tell. */
+void PxCheckCommandTest::findsWhatNoExampleShows()
+{
+    const QString pages = m_sample->read(cup).replace(
+        "<pages>normalpage</pages>",
+        "<pages>" + QString("normalpage,").repeated(1000) + "normalpage</pages>");
+    m_sample->write(cup, pages);
+    QCOMPARE(findingsOf(check(".")),
+             QStringList("./products/cup2.xml:29:11012 warning pages-too-many"));
+    m_sample->restore(cup);
+
+    QVERIFY(QFile::remove("frames.xml") && mkfifo("frames.xml", 0600) == 0);
+    QCOMPARE(findingsOf(check(".")), QStringList("./frames.xml:1:1 error file-unreadable"));
+    m_sample->write("producttypes.xml", "\n<types/>");
+    QVERIFY(
+        findingsOf(check(".")).contains("./producttypes.xml:2:2 error product-types-root-wrong"));
+}
+
 void PxCheckCommandTest::saysWhatIsWrong_data()
 {
     QTest::addColumn<QString>("options");
@@ -435,6 +458,8 @@ void PxCheckCommandTest::explains()
     QVERIFY(example > 0);
     QCOMPARE(lines.value(example + 1), QString(29, ' ') + '^');
     QCOMPARE(check("--list-tags").output().size(), PxCheckTags::all().size());
+    QCOMPARE(check("--version").output(),
+             PxProgramRun(PX_CATALOGUE_PROGRAM, {"--version"}).output());
 }
 
 void PxCheckCommandTest::optionsAreDocumented()
@@ -450,6 +475,17 @@ void PxCheckCommandTest::optionsAreDocumented()
         QVERIFY2(documentation.contains(QRegularExpression(option + "\\b(?!-)")),
                  qPrintable(option));
     }
+}
+
+void PxCheckCommandTest::printsWhatTheDocumentShows()
+{
+    QFile file(PX_SOURCE_DIRECTORY "/docs/pxcatalogue.md");
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString shown = QString::fromUtf8(file.readAll())
+                              .section("```console\n$ pxcatalogue check catalogue\n", 1)
+                              .section("\n```", 0, 0);
+    m_sample->replace(cup, size, "<usablesize width=\"2000\" width=\"2500\" height=\"950\"/>");
+    QCOMPARE(check(".").output().join('\n'), QString(shown).replace("catalogue/", "./"));
 }
 
 QTEST_GUILESS_MAIN(PxCheckCommandTest)

@@ -93,6 +93,12 @@ QString programDescription()
     return description + QLatin1String(exitStatus);
 }
 
+QString version()
+{
+    return QCoreApplication::applicationName() + QLatin1Char(' ') +
+           QCoreApplication::applicationVersion() + QLatin1Char('\n');
+}
+
 QString namesOf(int commands)
 {
     QStringList names;
@@ -155,8 +161,7 @@ bool PxCatalogueCommandLine::readCommand(const QStringList &arguments)
     else if (parser.isSet(QStringLiteral("help")))
         m_information = parser.helpText();
     else if (parser.isSet(QStringLiteral("version")))
-        m_information = QCoreApplication::applicationName() + QLatin1Char(' ') +
-                        QCoreApplication::applicationVersion() + QLatin1Char('\n');
+        m_information = version();
     else
         setError(QLatin1String("a command is missing: use ") + namesOf(everyCommand));
     return false;
@@ -187,6 +192,8 @@ void PxCatalogueCommandLine::readOptions(const QStringList &arguments)
         setError(m_parser.errorText());
     else if (m_parser.isSet(QStringLiteral("help")))
         m_information = m_parser.helpText();
+    else if (isSet("version"))
+        m_information = version();
     else if (given < expected)
         setError(namesOf(int(m_command)) + QLatin1String(" needs the name of a product"));
     else if (given > expected && m_command != Command::Check)

@@ -1,6 +1,7 @@
 #include "PxCheckExplanation.h"
 
 #include "PxTerminal.h"
+#include "PxTextTable.h"
 #include "check/PxCheckTags.h"
 
 #include <QStringList>
@@ -112,15 +113,13 @@ QString PxCheckExplanation::of(const PxCheckTag &tag)
 
 QString PxCheckExplanation::table()
 {
-    int width = 0;
-    for (const QString &name : PxCheckTags::names())
-        width = qMax(width, name.size());
-    QString text;
+    PxTextTable table;
+    table.addColumn(QString(), PxTextTable::Kind::Key);
+    table.addColumn(QString(), PxTextTable::Kind::Key);
+    table.addColumn(QString(), PxTextTable::Kind::Text);
     for (const PxCheckTag *tag : PxCheckTags::all())
-        text += QString(QLatin1String(tag->name)).leftJustified(width + 2) +
-                severityOf(*tag).leftJustified(10) + QString::fromUtf8(tag->summary) +
-                QLatin1Char('\n');
-    return text;
+        table.addRow({QLatin1String(tag->name), severityOf(*tag), QString::fromUtf8(tag->summary)});
+    return table.lines(PxTerminal::columns()).join(QLatin1Char('\n')) + QLatin1Char('\n');
 }
 
 QString PxCheckExplanation::markdown()

@@ -21,19 +21,20 @@ PxFindingsBaseline::PxFindingsBaseline(const PxCheckReport &report)
 QString PxFindingsBaseline::read(const QString &path)
 {
     const QString what = QStringLiteral("the baseline \"%1\" ").arg(path);
+    const QString remedy = QStringLiteral("; write it again with --write-baseline");
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return what + QLatin1String("cannot be read: ") + file.errorString();
     QJsonParseError error{};
     const QJsonObject json = QJsonDocument::fromJson(file.readAll(), &error).object();
     if (error.error != QJsonParseError::NoError)
-        return what + QLatin1String("is no JSON: ") + error.errorString();
+        return what + QLatin1String("is no JSON: ") + error.errorString() + remedy;
     if (json[QLatin1String("format")].toInt() != formatVersion)
-        return what + QStringLiteral("has another format than %1").arg(formatVersion);
+        return what + QStringLiteral("has another format than %1").arg(formatVersion) + remedy;
     if (!json[QLatin1String("findings")].isArray())
-        return what + QLatin1String("has no \"findings\"");
+        return what + QLatin1String("has no \"findings\"") + remedy;
     const QString problem = readFindings(json[QLatin1String("findings")].toArray());
-    return problem.isEmpty() ? QString() : what + problem;
+    return problem.isEmpty() ? QString() : what + problem + remedy;
 }
 
 QString PxFindingsBaseline::readFindings(const QJsonArray &findings)

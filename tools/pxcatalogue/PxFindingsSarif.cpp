@@ -7,14 +7,20 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QJsonArray>
+#include <QRegularExpression>
 #include <QUrl>
 
 namespace {
 
 constexpr const char *catalogueBase = "CATALOGUE";
 
-QJsonObject textOf(const QString &text)
+/** Braces would be the place of an argument, and brackets before a parenthesis a link. */
+QJsonObject textOf(QString text)
 {
+    static const QRegularExpression ourLink(QStringLiteral("\\[(?=[^\\[\\]]*\\]\\()"));
+    text.replace(QLatin1Char('{'), QLatin1String("{{"))
+        .replace(QLatin1Char('}'), QLatin1String("}}"))
+        .replace(ourLink, QStringLiteral("\\["));
     return {{QStringLiteral("text"), text}};
 }
 

@@ -34,7 +34,7 @@ void PxReport::addFields(const char *key, const char *heading, const QVector<Fie
     for (const Field &field : fields) {
         json.insert(QLatin1String(field.key), field.value);
         const QString text = PxReportValue::text(field.value, field.format);
-        if (text.isEmpty() || field.format == PxReportFormat::JsonOnly)
+        if (text.isEmpty())
             continue;
         table.addRow({QString::fromUtf8(field.label).leftJustified(labelWidth),
                       text + PxReportValue::unit(field.format)});

@@ -9,10 +9,10 @@ namespace {
 /** A message may name another place, which changes as the finding's own does. */
 QString withoutPlaces(QString message, const QHash<QString, QString> &catalogueNames)
 {
-    static const QRegularExpression ourLine(QStringLiteral("\\b(lines?) \\d+"));
+    static const QRegularExpression ourLine(QStringLiteral("\\bline \\d+"));
     static const QRegularExpression ourPath(QStringLiteral("([^\\s\"]+\\.xml)(:\\d+)*"),
                                             QRegularExpression::CaseInsensitiveOption);
-    message.replace(ourLine, QStringLiteral("\\1"));
+    message.replace(ourLine, QStringLiteral("line"));
     int from = 0;
     for (QRegularExpressionMatch path = ourPath.match(message); path.hasMatch();
          path = ourPath.match(message, from)) {
