@@ -1,7 +1,6 @@
 #include "PxCatalogueGenerator.h"
 
 #include <QFile>
-#include <QTextCodec>
 
 namespace {
 

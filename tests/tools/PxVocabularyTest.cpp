@@ -8,6 +8,7 @@
 #include <description/PxProductTypeDescription.h>
 #include <description/PxProductTypeDescriptionReader.h>
 #include <themes/PxThemeFactory.h>
+#include <values/PxHumanReadable.h>
 #include <vocabulary/PxVocabulary.h>
 
 #include <QDir>
@@ -27,6 +28,7 @@ private slots:
     void attributeIsReadAndHasItsDefault();
     void elementCountsAsOften_data();
     void elementCountsAsOften();
+    void framesAreReadOnce();
     void fixtureHoldsNothingElse();
     void keywordsAreThoseOfTheLibrary();
     void productClassesAreThoseOfTheLibrary();
@@ -359,6 +361,22 @@ void PxVocabularyTest::elementCountsAsOften()
     const QString empty = answers(fileKind, file);
     QVERIFY(empty != full);
     QCOMPARE(withBoth == empty, row.occurrence == PxOccurrence::First);
+}
+
+/** Which can't be repeated: one file has to show it all. */
+void PxVocabularyTest::framesAreReadOnce()
+{
+    m_directory.write("frames.xml", "<any><frame id='a' name='A'/><other id='b' name='B'/>"
+                                    "<frame id='c' name=''/><frame id='d' name='D'/></any>");
+    QStringList names;
+    for (const char *id : {"a", "b", "c", "d"})
+        names.append(PxHumanReadable::instance()->frameName(id));
+    QCOMPARE(names, QStringList({"A", "b", "c", "D"}));
+
+    const PxElementRow &root = PxVocabulary::root(PxFileKind::Frames);
+    const PxElementRow &frame = *PxVocabulary::child(root, "frame");
+    QCOMPARE(PxVocabulary::attributeNames(frame), QStringList({"id", "name"}));
+    QVERIFY(root.occurrence == PxOccurrence::AnyName && frame.occurrence == PxOccurrence::Any);
 }
 
 /** The fixture of the library's tests has all that the library reads. */
