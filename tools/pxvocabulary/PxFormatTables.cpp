@@ -167,33 +167,47 @@ QStringList attributeTable(const char *heading, const Column &absence, const Lin
     return table({{heading, &Line::attribute}, type, absence, meaning}, lines);
 }
 
-QStringList attributeTable(Kind kind, const char *path, const Column &absence = absentOrUnreadable)
+void addAttributeTables(QMap<QString, QStringList> *tables)
 {
-    return attributeTable("Attribute", absence, attributeLines(at(kind, path)));
+    constexpr struct
+    {
+        const char *name;
+        const char *heading;
+        Kind kind;
+        const char *path;
+        Column absence;
+    } rows[] = {
+        // clang-format off
+        {"product attributes", "Attribute", Kind::Product, "product", absentOrUnreadable},
+        {"usablesize attributes", "Attribute of `usablesize`", Kind::Product, "product/usablesize", absentOrUnreadable},
+        {"spine attributes", "Attribute of `spine`", Kind::Product, "product/spines/spine", absentOrUnreadable},
+        {"surrounding attributes", "Attribute", Kind::Product, "product/surroundings/surrounding", absent},
+        {"defaults attributes", "Attribute", Kind::Product, "product/defaults/defaults", absent},
+        {"rotationredirect attributes", "Attribute", Kind::Product, "product/rotationredirects/rotationredirect", absentOrUnreadable},
+        {"contentredirect attributes", "Attribute", Kind::Product, "product/contentredirects/contentredirect", absentOrUnreadable},
+        {"barcode attributes", "Attribute", Kind::Product, "product/barcodes/barcode", absentOrUnreadable},
+        {"classification attributes", "Attribute", Kind::Product, "product/classification", absent},
+        {"producttype attributes", "Attribute", Kind::ProductTypes, "producttype", absentOrUnreadable},
+        {"theme attributes", "Attribute", Kind::Theme, "theme", absentOrUnreadable},
+        {"logo attributes", "Attribute", Kind::Theme, "theme/logos/logo", absentOrUnreadable},
+        // clang-format on
+    };
+    for (const auto &row : rows)
+        tables->insert(row.name, attributeTable(row.heading, row.absence,
+                                                attributeLines(at(row.kind, row.path))));
+    tables->insert(
+        "product size attributes",
+        attributeTable("Attribute of `product`", absentOrUnreadable,
+                       attributeLines(at(Kind::Product, "product"), Attributes::OfSections)));
+    tables->insert("frame attributes", table({{"Attribute", &Line::attribute}, type, meaning},
+                                             attributeLines(at(Kind::Frames, "frame"))));
+    tables->insert("defaultcategories attributes",
+                   table({{"Attribute", &Line::attribute}, {"Material", &Line::meaning}},
+                         attributeLines(at(Kind::Theme, "theme/defaultcategories"))));
 }
 
 void addElementTables(QMap<QString, QStringList> *tables)
 {
-    const PxElementRow &product = at(Kind::Product, "product");
-    tables->insert("product attributes", attributeTable(Kind::Product, "product"));
-    tables->insert("product size attributes",
-                   attributeTable("Attribute of `product`", absentOrUnreadable,
-                                  attributeLines(product, Attributes::OfSections)));
-    tables->insert("usablesize attributes",
-                   attributeTable("Attribute of `usablesize`", absentOrUnreadable,
-                                  attributeLines(at(Kind::Product, "product/usablesize"))));
-    tables->insert("spine attributes",
-                   attributeTable("Attribute of `spine`", absentOrUnreadable,
-                                  attributeLines(at(Kind::Product, "product/spines/spine"))));
-    tables->insert("surrounding attributes",
-                   attributeTable(Kind::Product, "product/surroundings/surrounding", absent));
-    tables->insert("defaults attributes",
-                   attributeTable(Kind::Product, "product/defaults/defaults", absent));
-    tables->insert("rotationredirect attributes",
-                   attributeTable(Kind::Product, "product/rotationredirects/rotationredirect"));
-    tables->insert("contentredirect attributes",
-                   attributeTable(Kind::Product, "product/contentredirects/contentredirect"));
-    tables->insert("barcode attributes", attributeTable(Kind::Product, "product/barcodes/barcode"));
     tables->insert("production elements",
                    table({{"Element", &Line::element},
                           {"Contents", &Line::type},
@@ -212,22 +226,12 @@ void addElementTables(QMap<QString, QStringList> *tables)
                           absentOrUnreadable,
                           meaning},
                          childLines(at(Kind::Product, "product/pageNumberConfig"))));
-    tables->insert("classification attributes",
-                   attributeTable(Kind::Product, "product/classification", absent));
-    tables->insert("producttype attributes", attributeTable(Kind::ProductTypes, "producttype"));
-    tables->insert("frame attributes", table({{"Attribute", &Line::attribute}, type, meaning},
-                                             attributeLines(at(Kind::Frames, "frame"))));
-    tables->insert("theme attributes", attributeTable(Kind::Theme, "theme"));
     tables->insert("theme elements", table({{"Element", &Line::element},
                                             {"Attribute", &Line::attribute},
                                             type,
                                             absentOrUnreadable,
                                             meaning},
                                            childLines(at(Kind::Theme, "theme"))));
-    tables->insert("logo attributes", attributeTable(Kind::Theme, "theme/logos/logo"));
-    tables->insert("defaultcategories attributes",
-                   table({{"Attribute", &Line::attribute}, {"Material", &Line::meaning}},
-                         attributeLines(at(Kind::Theme, "theme/defaultcategories"))));
 }
 
 void addKeywordTables(QMap<QString, QStringList> *tables)
@@ -264,6 +268,7 @@ PxFormatTables::PxFormatTables(const QString &document)
     const QString start = QStringLiteral("<!-- table: ");
     const QString end = QStringLiteral("<!-- end of table -->");
     QMap<QString, QStringList> tables;
+    addAttributeTables(&tables);
     addElementTables(&tables);
     addKeywordTables(&tables);
 
