@@ -50,11 +50,12 @@ void PxPagesCheck::run(PxFindings *findings) const
 void PxPagesCheck::checkPresence(PxFindings *findings) const
 {
     // One normal page is just what many a small product has.
-    if (!hasSeveralPages() ||
-        PxElementReading(m_product.element()).isChildMisplaced(QStringLiteral("pages")))
+    if (!hasSeveralPages())
         return;
-    m_product.add(findings, "pages-missing", m_product.element().nameRange,
-                  QStringLiteral("the product has no \"pages\""), nowWithoutPages());
+    const PxMissingPart pages =
+        PxElementReading(m_product.element()).missingChild(QStringLiteral("pages"));
+    m_product.add(findings, "pages-missing", pages.range,
+                  QStringLiteral("the product has no \"pages\""), nowWithoutPages(), pages.hint);
 }
 
 /** What becomes of a product that lists no page. */
