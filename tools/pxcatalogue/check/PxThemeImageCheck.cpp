@@ -1,7 +1,6 @@
 #include "check/PxThemeImageCheck.h"
 
 #include "check/PxElementReading.h"
-#include "check/PxSpelling.h"
 #include "vocabulary/PxVocabulary.h"
 
 #include <PxDirectoryConfig.h>
@@ -135,33 +134,12 @@ QString PxThemeImageCheck::hint(const Image &image)
     const QString written = image.attribute->value;
     const QString lowered = written.toLower();
     const QFileInfo info(image.path);
-    if (info.exists() || m_hintsLeft-- <= 0)
+    if (info.exists())
         return QString();
     // The path as it is written, from the same directory: lower-casing changes what is behind it.
     const QString asWritten =
         image.path.endsWith(lowered) ? image.path.chopped(lowered.size()) + written : QString();
     if (written != lowered && QFileInfo::exists(asWritten))
         return QStringLiteral("rename the file to lower case");
-    const QString name = PxSpelling::nearest(info.fileName(), namesBeside(image.path));
-    if (name.isEmpty())
-        return QString();
-    const QString directory = lowered.left(lowered.lastIndexOf(QLatin1Char('/')) + 1);
-    return QStringLiteral("did you mean \"%1\"?").arg(directory + name);
-}
-
-/** The names in the directory that can be found at all. */
-QStringList PxThemeImageCheck::namesBeside(const QString &path)
-{
-    constexpr int maximumNames = 1000;
-    const QString directory = QFileInfo(path).path();
-    const auto known = m_names.constFind(directory);
-    if (known != m_names.constEnd())
-        return *known;
-    QStringList names;
-    for (const QString &name : QDir(directory).entryList(QDir::Files)) {
-        if (name == name.toLower() && names.size() < maximumNames)
-            names.append(name);
-    }
-    m_names.insert(directory, names);
-    return names;
+    return m_imageNames.hint(lowered, info);
 }

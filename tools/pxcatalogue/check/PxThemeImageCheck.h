@@ -1,6 +1,7 @@
 #pragma once
 
 #include "check/PxCheckedFile.h"
+#include "check/PxImageNames.h"
 
 #include <QHash>
 
@@ -31,11 +32,9 @@ private:
     QString fault(const QString &path);
     void checkImage(const Image &image, PxFindings *findings);
     QString hint(const Image &image);
-    QStringList namesBeside(const QString &path);
 
     const PxCheckedFile &m_file;
     QVector<const PxSourceAttribute *> m_relativeThumbnails;
-    QHash<QString, QString> m_faults;    ///< by path
-    QHash<QString, QStringList> m_names; ///< by directory
-    int m_hintsLeft = 100; // guessing takes time, and so many mistakes are no slips of the pen
+    QHash<QString, QString> m_faults; ///< by path
+    PxImageNames m_imageNames{PxImageNames::Kind::Lower};
 };
