@@ -28,6 +28,12 @@ void PxCheckTextsTest::tellsWhatBecomesOfIt_data()
     QTest::newRow("no page at all") << pages << "<pages/>" << noPage;
     QTest::newRow("some pages are left") << pages << "<pages>normalpage,x</pages>"
                                          << "now: it is left out, and the pages behind it move up";
+    QTest::newRow("another separator") << pages << "<pages>normalpage/emptypage</pages>"
+                                       << "hint: separate pages with commas";
+    QTest::newRow("several where one counts")
+        << "paper=\"unbekanntes Papier\""
+        << "paper=\"indigo;glossy\""
+        << "now: read as indigo hint: keep the one that is meant";
     const auto withContent = [&](const QString &list) {
         return pages + "<pageswithcontent>" + list + "</pageswithcontent>";
     };

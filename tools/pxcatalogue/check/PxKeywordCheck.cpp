@@ -12,17 +12,6 @@
 
 #include <algorithm>
 
-namespace {
-
-/** The words of a list that uses another separator than the comma. */
-QStringList wordsOf(const QString &entry)
-{
-    static const QRegularExpression ourSeparators(QStringLiteral("[;|/+\\s]+"));
-    return entry.split(ourSeparators, Qt::SkipEmptyParts);
-}
-
-} // namespace
-
 PxKeywordCheck::PxKeywordCheck(const PxCheckedFile &file, const PxSourceElement &element,
                                const PxAttributeRow &row, const PxSourceAttribute &attribute)
     : m_element(element)
@@ -73,7 +62,7 @@ void PxKeywordCheck::checkOneKeyword(PxFileFindings &findings) const
         return;
     QStringList words;
     for (const QString &part : word.split(QLatin1Char(',')))
-        words += wordsOf(part);
+        words += PxSpelling::words(part);
     const bool areKeywords =
         std::all_of(words.begin(), words.end(), [this](const QString &w) { return isKnown(w); });
     if (words.size() > 1 && areKeywords)
@@ -110,7 +99,7 @@ void PxKeywordCheck::checkUnknown(const PxSourcePart &entry, const QString &asRe
                                   PxFileFindings &findings) const
 {
     const QString name = QString::fromUtf8(PxVocabulary::keywords(m_row.keywords).name);
-    const QStringList words = wordsOf(entry.text);
+    const QStringList words = PxSpelling::words(entry.text);
     const auto known = std::count_if(words.begin(), words.end(),
                                      [this](const QString &word) { return isKnown(word); });
     // Blanks belong to some keywords, so that they separate only what leaves nothing open.
@@ -122,8 +111,10 @@ void PxKeywordCheck::checkUnknown(const PxSourcePart &entry, const QString &asRe
                      QStringLiteral("\"%1\" is one word, and no %2")
                          .arg(PxMessageText::shortened(entry.text), name),
                      asRead,
-                     QStringLiteral("separate with commas: \"%1\"")
-                         .arg(PxMessageText::shortened(words.join(QLatin1Char(',')))));
+                     m_row.type == PxValueType::Keyword
+                         ? QStringLiteral("keep the one that is meant")
+                         : QStringLiteral("separate with commas: \"%1\"")
+                               .arg(PxMessageText::shortened(words.join(QLatin1Char(',')))));
         return;
     }
     const bool isAlignment = m_row.keywords == PxKeywordSet::Alignment;

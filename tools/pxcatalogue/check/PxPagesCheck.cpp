@@ -4,20 +4,18 @@
 #include "check/PxSpelling.h"
 #include "vocabulary/PxVocabulary.h"
 
-#include <QRegularExpression>
-
 #include <algorithm>
 
 namespace {
 
 QString hintFor(const QString &text)
 {
-    static const QRegularExpression ourOtherSeparator(QStringLiteral("[;|+\\s]+"));
-    const QStringList parts = text.split(ourOtherSeparator, Qt::SkipEmptyParts);
-    const bool isList = std::all_of(parts.begin(), parts.end(),
-                                    [](const QString &part) { return !PxPageType(part).isNull(); });
-    return isList ? QStringLiteral("separate pages with commas")
-                  : PxSpelling::hint(text, PxVocabulary::keywordNames(PxKeywordSet::PageType));
+    const QStringList words = PxSpelling::words(text);
+    const bool areTypes = std::all_of(
+        words.begin(), words.end(), [](const QString &word) { return !PxPageType(word).isNull(); });
+    return words.size() > 1 && areTypes
+               ? QStringLiteral("separate pages with commas")
+               : PxSpelling::hint(text, PxVocabulary::keywordNames(PxKeywordSet::PageType));
 }
 
 bool isCover(const PxPageEntry &entry)

@@ -2,6 +2,8 @@
 
 #include "check/PxEditDistance.h"
 
+#include <QRegularExpression>
+
 #include <cstdlib>
 
 // No name of the vocabulary is longer; comparing longer words would cost time for nothing.
@@ -31,4 +33,10 @@ QString PxSpelling::hint(const QString &word, const QStringList &candidates)
 {
     const QString name = nearest(word, candidates);
     return name.isEmpty() ? QString() : QStringLiteral("did you mean \"%1\"?").arg(name);
+}
+
+QStringList PxSpelling::words(const QString &list)
+{
+    static const QRegularExpression ourSeparators(QStringLiteral("[;|/+\\s]+"));
+    return list.split(ourSeparators, Qt::SkipEmptyParts);
 }
