@@ -27,11 +27,11 @@ private:
     {
         return QStringView(m_source).mid(m_position).startsWith(QLatin1String(mark));
     }
-    /** Where the next mark ends. */
-    int behind(const char *mark) const
+    /** Where what begins with one mark ends with the other. */
+    int behind(const char *opening, const char *mark) const
     {
         const QLatin1String text(mark);
-        const int found = m_source.indexOf(text, m_position);
+        const int found = m_source.indexOf(text, m_position + int(qstrlen(opening)));
         return found < 0 || found + text.size() > m_end ? m_end : found + text.size();
     }
     void open(int begin) { m_parts.append({QString(), {begin, begin}, {begin, begin}}); }
@@ -58,12 +58,14 @@ void ListScanner::readNext()
     else if (isAt("<![CDATA["))
         readCharacterData();
     else
-        m_position = behind(isAt("<!--") ? "-->" : ">");
+        m_position = isAt("<!--") ? behind("<!--", "-->")
+                     : isAt("<?") ? behind("<?", "?>")
+                                  : behind("<", ">");
 }
 
 void ListScanner::readCharacterData()
 {
-    const int end = behind("]]>");
+    const int end = behind("<![CDATA[", "]]>");
     m_position += int(qstrlen("<![CDATA["));
     while (m_position < end - int(qstrlen("]]>")))
         add(m_source.at(m_position), m_position + 1);
@@ -72,7 +74,7 @@ void ListScanner::readCharacterData()
 
 void ListScanner::readReference()
 {
-    const int end = behind(";");
+    const int end = behind("&", ";");
     const QStringView name = QStringView(m_source).mid(m_position + 1, end - m_position - 2);
     uint code = 'x'; // what has a name is neither a comma nor a blank
     if (name.startsWith(QLatin1String("#x")))
