@@ -134,7 +134,7 @@ void PxCheckedFile::findAllowances(const QVector<PxSourceNode> &nodes,
     auto element = elements.begin();
     for (const PxSourceNode &node : nodes) {
         const QRegularExpressionMatch allowance =
-            node.isText ? QRegularExpressionMatch() : ourAllowance.match(node.text);
+            node.isText() ? QRegularExpressionMatch() : ourAllowance.match(node.text);
         if (!allowance.hasMatch())
             continue;
         while (element != elements.end() && (*element)->range.begin < node.range.end)

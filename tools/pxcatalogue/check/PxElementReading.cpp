@@ -161,7 +161,7 @@ PxMissingPart PxElementReading::missingEntries() const
             return {child->nameRange, didYouMean(name)};
     }
     const auto text = std::find_if(m_element.nodes.begin(), m_element.nodes.end(),
-                                   [](const PxSourceNode &node) { return node.isText; });
+                                   [](const PxSourceNode &node) { return node.isText(); });
     if (text == m_element.nodes.end())
         return {m_element.nameRange, QString()};
     return {text->range, QStringLiteral("write a \"%1\" element for each").arg(name)};

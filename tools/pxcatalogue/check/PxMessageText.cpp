@@ -16,6 +16,20 @@ QString PxMessageText::quoted(const QString &name)
     return QLatin1Char('"') + name + QLatin1Char('"');
 }
 
+QString PxMessageText::kind(PxSourceNode::Kind kind)
+{
+    switch (kind) {
+    case PxSourceNode::Kind::CharacterData:
+        return QStringLiteral("a CDATA section");
+    case PxSourceNode::Kind::Comment:
+        return QStringLiteral("a comment");
+    case PxSourceNode::Kind::ProcessingInstruction:
+        return QStringLiteral("a processing instruction");
+    default:
+        return QStringLiteral("text");
+    }
+}
+
 QString PxMessageText::quotedList(const QStringList &names, const QString &last)
 {
     QString list;

@@ -56,7 +56,7 @@ void PxSourceDocument::readText(int begin, int end)
         ++range.begin;
     while (m_text.at(range.end - 1).isSpace())
         --range.end;
-    addNode({true, decoded(text.toString()), range});
+    addNode({PxSourceNode::Kind::Text, decoded(text.toString()), range});
 }
 
 /** As below, answers where it ends: with the text, when its own end is missing. */
@@ -64,22 +64,23 @@ int PxSourceDocument::readMarkup(int begin)
 {
     const QStringView markup = QStringView(m_text).mid(begin);
     if (markup.startsWith(u"<!--"))
-        return readNode(begin, "<!--", "-->", false);
+        return readNode(begin, "<!--", "-->", PxSourceNode::Kind::Comment);
     if (markup.startsWith(u"<![CDATA["))
-        return readNode(begin, "<![CDATA[", "]]>", true);
+        return readNode(begin, "<![CDATA[", "]]>", PxSourceNode::Kind::CharacterData);
     if (markup.startsWith(u"<?"))
-        return readNode(begin, "<?", "?>", false);
+        return readNode(begin, "<?", "?>", PxSourceNode::Kind::ProcessingInstruction);
     if (markup.startsWith(u"<!"))
         return behindDocumentType(begin);
     return markup.startsWith(u"</") ? readEndTag(begin) : readStartTag(begin);
 }
 
-int PxSourceDocument::readNode(int begin, const char *opening, const char *closing, bool isText)
+int PxSourceDocument::readNode(int begin, const char *opening, const char *closing,
+                               PxSourceNode::Kind kind)
 {
     const int contentBegin = begin + int(qstrlen(opening));
     const int end = behind(closing, contentBegin);
     const int contentEnd = qMax(contentBegin, end - int(qstrlen(closing)));
-    addNode({isText, m_text.mid(contentBegin, contentEnd - contentBegin), {begin, end}});
+    addNode({kind, m_text.mid(contentBegin, contentEnd - contentBegin), {begin, end}});
     return end;
 }
 

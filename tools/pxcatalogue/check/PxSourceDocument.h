@@ -43,7 +43,7 @@ private:
     void read();
     void readText(int begin, int end);
     int readMarkup(int begin);
-    int readNode(int begin, const char *opening, const char *closing, bool isText);
+    int readNode(int begin, const char *opening, const char *closing, PxSourceNode::Kind kind);
     void addNode(const PxSourceNode &node);
     int readStartTag(int begin);
     int readEndTag(int begin);

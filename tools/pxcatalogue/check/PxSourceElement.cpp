@@ -43,7 +43,7 @@ PxSourceRange PxSourceElement::textRange() const
     PxSourceRange all = nameRange;
     bool isFirst = true;
     for (const PxSourceNode &node : nodes) {
-        if (!node.isText)
+        if (!node.isText())
             continue;
         if (isFirst)
             all.begin = node.range.begin;

@@ -19,9 +19,15 @@ Q_DECLARE_TYPEINFO(PxSourceAttribute, Q_MOVABLE_TYPE);
 /** A text, a comment or a processing instruction between the tags of an element. */
 struct PxSourceNode
 {
-    bool isText = false;
+    enum class Kind { Text, CharacterData, Comment, ProcessingInstruction };
+
+    Kind kind = Kind::Text;
     QString text;
     PxSourceRange range;
+
+    bool isText() const { return kind == Kind::Text || kind == Kind::CharacterData; }
+    /** A text of nothing but blanks, which the library does not count as a node. */
+    bool isBlank() const { return kind == Kind::Text && text.trimmed().isEmpty(); }
 };
 
 /**

@@ -59,16 +59,11 @@ void PxThemeCheck::checkFile(const PxCheckedFile &file, PxFindings *findings)
 void PxThemeCheck::checkStrayNodes(const PxCheckedFile &file, PxFindings *findings) const
 {
     for (const PxSourceNode &node : file.root()->nodes) {
-        const bool isComment =
-            file.source().text().midRef(node.range.begin).startsWith(QLatin1String("<!--"));
-        if (node.isText && node.text.trimmed().isEmpty())
-            continue; // blanks that XML does not count as such
+        if (node.isBlank())
+            continue;
         file.add(findings, "theme-stray-node", node.range,
                  QStringLiteral("%1 directly in \"%2\"")
-                     .arg(node.isText ? QLatin1String("text")
-                          : isComment ? QLatin1String("a comment")
-                                      : QLatin1String("a processing instruction"),
-                          file.root()->name),
+                     .arg(PxMessageText::kind(node.kind), file.root()->name),
                  QStringLiteral("it becomes a theme \"unbekannt\" that has expired"),
                  QStringLiteral("move it into a theme, or above \"%1\"").arg(file.root()->name));
     }

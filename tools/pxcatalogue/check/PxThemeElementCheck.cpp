@@ -1,6 +1,7 @@
 #include "check/PxThemeElementCheck.h"
 
 #include "check/PxListedProductTypes.h"
+#include "check/PxMessageText.h"
 #include "check/PxSpelling.h"
 #include "vocabulary/PxVocabulary.h"
 
@@ -171,13 +172,14 @@ void PxThemeElementCheck::checkKeyAccounts(PxFindings *findings) const
     for (const PxSourceElement *account : accounts->children)
         checkKeyAccount(*account, findings);
     for (const PxSourceNode &node : accounts->nodes) {
-        if (!node.text.trimmed().isEmpty())
-            m_file.add(findings, "theme-key-account-malformed", node.range,
-                       node.isText ? QStringLiteral("text directly in \"keyaccounts\"")
-                                   : QStringLiteral("a comment directly in \"keyaccounts\""),
-                       QStringLiteral("it counts as key account 0"),
-                       node.isText ? QStringLiteral("write an element for each key account")
-                                   : QStringLiteral("move it out of \"keyaccounts\""));
+        if (node.isBlank())
+            continue;
+        m_file.add(
+            findings, "theme-key-account-malformed", node.range,
+            QStringLiteral("%1 directly in \"keyaccounts\"").arg(PxMessageText::kind(node.kind)),
+            QStringLiteral("it counts as key account 0"),
+            node.isText() ? QStringLiteral("write an element for each key account")
+                          : QStringLiteral("move it out of \"keyaccounts\""));
     }
 }
 

@@ -1,5 +1,6 @@
 #include "check/PxUserDefaultsCheck.h"
 
+#include "check/PxMessageText.h"
 #include "check/PxSpelling.h"
 
 #include <PxProductType.h>
@@ -12,8 +13,9 @@ void PxUserDefaultsCheck::checkName(PxFindings *findings) const
 {
     const QString fileName = QFileInfo(m_file.path()).fileName();
     const QString suffix = QStringLiteral(".xml");
-    const QString name = fileName.chopped(suffix.size());
     const bool isSuffix = fileName.endsWith(suffix);
+    const QString name =
+        fileName.endsWith(suffix, Qt::CaseInsensitive) ? fileName.chopped(suffix.size()) : fileName;
     if (isSuffix && m_productNames.contains(name))
         return;
     QStringList names(m_productNames.begin(), m_productNames.end());
@@ -29,7 +31,8 @@ void PxUserDefaultsCheck::checkName(PxFindings *findings) const
         hint = QStringLiteral("name it \"%1\"").arg(*similar + suffix);
     } else if (!PxProductType(name).isValid()) {
         message = QStringLiteral("\"%1\" is no product").arg(name);
-        hint = PxSpelling::hint(name, names);
+        hint = isSuffix ? PxSpelling::hint(name, names)
+                        : QStringLiteral("files that are read end in \".xml\"");
     } else {
         return; // a product whose file is broken, or not among the files that are checked
     }
@@ -46,11 +49,11 @@ bool PxUserDefaultsCheck::checkStart(PxFindings *findings) const
     const QString text = m_file.source().text();
     const int begin = qMax(0, text.indexOf(QLatin1Char('<')));
     const int end = text.indexOf(QLatin1Char('>'), begin) + 1;
-    const QString what = first.isComment()        ? QStringLiteral("a comment")
+    const QString what = first.isComment()        ? PxMessageText::kind(PxSourceNode::Kind::Comment)
                          : first.isDocumentType() ? QStringLiteral("a document type")
                          : text.midRef(begin).startsWith(QLatin1String("<?xml "))
                              ? QStringLiteral("an XML declaration")
-                             : QStringLiteral("a processing instruction");
+                             : PxMessageText::kind(PxSourceNode::Kind::ProcessingInstruction);
     m_file.add(findings, "user-defaults-unreadable", {begin, qMax(begin, end)},
                what + QStringLiteral(" above the first element"),
                QStringLiteral("nothing is found in this file"),

@@ -144,7 +144,7 @@ void PxVocabularyCheck::checkText(const Place &place, PxFileFindings &findings) 
         return;
     const QVector<PxSourceNode> &nodes = place.element.nodes;
     const auto text = std::find_if(nodes.begin(), nodes.end(),
-                                   [](const PxSourceNode &node) { return node.isText; });
+                                   [](const PxSourceNode &node) { return node.isText(); });
     if (text == nodes.end())
         return;
     const PxRows<PxElementRow> &children = place.row.children;
