@@ -28,6 +28,7 @@ private slots:
     void tellsWhatFollowsFromNames();
     void checksSingleFiles();
     void knowsOtherThemes();
+    void tellsADroppedRowOnce();
     void checksWhatItIsToldTo();
     void findsWhatNoExampleShows();
     void saysWhatIsWrong_data();
@@ -279,6 +280,10 @@ void PxCheckCommandTest::tellsWhatFollowsFromNames_data()
         "error theme-group-missing");
     row("producttypes.xml", "code=\"907\"", "»cod=\"907\"", "error product-type-row-dropped");
     row("producttypes.xml", "code=\"907\"", "code=\"»9x7\"", "error integer-malformed");
+    row(theme, "erwachen</description>\n    <keyaccounts>",
+        "erwachen</description>\n    <keyaccounts>&#32;»<![CDATA[]]>",
+        "warning theme-key-account-malformed");
+    row(cup, "<pages>normalpage", "<pages><!--> a, -->normalpage,»x", "error pages-entry-unknown");
     // Nothing follows, or less than is told of the name.
     row(cup, "<usablesize width", "<usablesize »color=\"\" width", "warning attribute-unknown");
     row(theme, "<description>Goldener Herbst</description>", "<»descripton>Herbst</descripton>",
@@ -348,6 +353,18 @@ void PxCheckCommandTest::knowsOtherThemes()
     const QJsonObject json = check("--format json .").json();
     QCOMPARE(json["notChecked"].toArray(), QJsonArray{"defaults-theme-unknown"});
     QCOMPARE(findingsOf(json).size(), 1);
+}
+
+/** Where the row is checked, too, it is told there and not once more at the product. */
+void PxCheckCommandTest::tellsADroppedRowOnce()
+{
+    m_sample->replace("producttypes.xml", "code=\"907\"", "code=\"4x1\"");
+    QCOMPARE(findingsOf(check(".")),
+             QStringList("./producttypes.xml:68:22 error integer-malformed"));
+    const PxProgramRun alone = check("products/legacy/cup1.xml");
+    QCOMPARE(findingsOf(alone),
+             QStringList("products/legacy/cup1.xml:4:18 error product-name-unknown"));
+    QVERIFY(!alone.text().contains("did you mean"));
 }
 
 void PxCheckCommandTest::checksWhatItIsToldTo()

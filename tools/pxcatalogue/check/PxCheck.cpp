@@ -112,7 +112,9 @@ void PxCheck::checkProduct(const PxCheckedFile &file, bool isLegacy, PxDesignChe
     }
     const PxCheckedProduct product(file, isLegacy);
     const PxPageEntries pages(product);
-    PxProductCheck(product, pages).run(findings);
+    // What is wrong with a row of producttypes.xml is told there.
+    const bool areTypesChecked = !m_paths.productTypes.isEmpty();
+    PxProductCheck(product, pages, areTypesChecked).run(findings);
     PxLayoutCheck(product, pages).run(findings);
     design->checkProduct(product, findings);
     catalogue->addProduct(product);

@@ -50,10 +50,14 @@ void PxProductCheck::checkName(PxFindings *findings) const
     else if (isUnsafeForFile(name))
         checkNameOfFile(findings);
     // Without any product type there is one cause, and it is not in this file.
-    else if (!m_product.type().isValid() && !types.isEmpty())
+    else if (!m_product.type().isValid() && !types.isEmpty() && !types.isListed(name))
         m_product.add(findings, "product-name-unknown", element.rangeOf(attribute),
                       QStringLiteral("there is no product type \"%1\"").arg(name), now,
                       types.hint(name));
+    else if (!m_product.type().isValid() && !types.isEmpty() && !m_areTypesChecked)
+        m_product.add(findings, "product-name-unknown", element.rangeOf(attribute),
+                      QStringLiteral("the row of \"%1\" in producttypes.xml is left out").arg(name),
+                      now, QStringLiteral("check producttypes.xml"));
 }
 
 void PxProductCheck::checkNameOfFile(PxFindings *findings) const

@@ -7,10 +7,12 @@
 class PxProductCheck
 {
 public:
-    /** Both must outlive the check. */
-    PxProductCheck(const PxCheckedProduct &product, const PxPageEntries &pages)
+    /** Both must outlive the check. `areTypesChecked`: producttypes.xml is checked, too. */
+    PxProductCheck(const PxCheckedProduct &product, const PxPageEntries &pages,
+                   bool areTypesChecked)
         : m_product(product)
         , m_pages(pages)
+        , m_areTypesChecked(areTypesChecked)
     {}
 
     void run(PxFindings *findings) const;
@@ -23,4 +25,5 @@ private:
 
     const PxCheckedProduct &m_product;
     const PxPageEntries &m_pages;
+    bool m_areTypesChecked;
 };
