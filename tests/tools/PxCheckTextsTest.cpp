@@ -68,6 +68,28 @@ void PxCheckTextsTest::tellsWhatBecomesOfIt_data()
     QTest::newRow("two tags") << pages << allowing("check: allow pages-missing,size-missing")
                               << "now: the comment silences nothing "
                                  "hint: write a comment for each tag";
+    QTest::newRow("nearly allowed") << pages << allowing("Check alow: pages-missing")
+                                    << "hint: write \"check: allow pages-missing\"";
+
+    // What a parser says in its own words.
+    const QString plain = "write \"&amp;\" for \"&\" itself";
+    QTest::newRow("ampersand in a text") << "color:black"
+                                         << "black & white" << plain;
+    QTest::newRow("ampersand in a value") << "legacy="
+                                          << "paper2=\"A&B\" legacy=" << plain;
+    QTest::newRow("less than") << "color:black"
+                               << "a < b"
+                               << "cup2.xml:23:18: error: a \"<\" that begins no tag";
+    QTest::newRow("no quotes") << margin << "safetymargin=30"
+                               << "hint: put it between quotes";
+    QTest::newRow("other quotes") << margin << "safetymargin=„30“"
+                                  << "a quotation mark that XML does not know";
+    QTest::newRow("no value") << margin << "safetymargin"
+                              << "5:12: error: an attribute without";
+    QTest::newRow("no end quote") << margin << "safetymargin=\"30"
+                                  << "hint: add the blank, or the quote that is missing before";
+    QTest::newRow("dashes in a comment")
+        << pages << allowing(" a -- b ") << "29:12: error: \"--\" within a comment";
 }
 
 void PxCheckTextsTest::tellsWhatBecomesOfIt()
@@ -81,7 +103,7 @@ void PxCheckTextsTest::tellsWhatBecomesOfIt()
                            {{"PX_RESOURCE_DIRS", QString()}, {"PX_THEMES_DIR", QString()}});
     m_sample.restore(cup);
     QVERIFY2(run.text().contains(text), qPrintable(run.text()));
-    QCOMPARE(run.output().filter("]").size(), 1);
+    QCOMPARE(run.output().filter("now: ").size(), 1);
 }
 
 QTEST_GUILESS_MAIN(PxCheckTextsTest)

@@ -1,6 +1,8 @@
 #include "check/PxCheckedFile.h"
 
+#include "check/PxCheckTags.h"
 #include "check/PxSourceFault.h"
+#include "check/PxSpelling.h"
 
 #include <PxXMLEncoding.h>
 #include <PxXMLLoader.h>
@@ -130,13 +132,17 @@ void PxCheckedFile::findAllowances(const QVector<PxSourceNode> &nodes,
                                    PxFindings *findings, bool isChecked) const
 {
     static const QRegularExpression ourAllowance(
-        QStringLiteral("^\\s*check:\\s*allow(?:\\s+(\\S+)|\\s*$)"));
+        QStringLiteral("^\\s*check:\\s*allow(?:\\s+(\\S+)|\\s*$)"),
+        QRegularExpression::CaseInsensitiveOption);
     auto element = elements.begin();
     for (const PxSourceNode &node : nodes) {
         const QRegularExpressionMatch allowance =
             node.isText() ? QRegularExpressionMatch() : ourAllowance.match(node.text);
-        if (!allowance.hasMatch())
+        if (!allowance.hasMatch()) {
+            if (!node.isText())
+                checkNoAllowance(node, findings);
             continue;
+        }
         while (element != elements.end() && (*element)->range.begin < node.range.end)
             ++element;
         PxPlace part = place(element == elements.end() ? node.range : (*element)->range);
@@ -146,6 +152,23 @@ void PxCheckedFile::findAllowances(const QVector<PxSourceNode> &nodes,
         }
         findings->allow(allowance.captured(1), place(node.range), part, isChecked);
     }
+}
+
+/** A comment that names a tag in nearly the words that allow it. */
+void PxCheckedFile::checkNoAllowance(const PxSourceNode &node, PxFindings *findings) const
+{
+    static const QRegularExpression ourWords(
+        QStringLiteral("^\\s*check\\s*:?\\s*([a-z]+)\\s*:?\\s+(\\S+)"),
+        QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch words = ourWords.match(node.text);
+    const QString tag = words.captured(2);
+    if (!words.hasMatch() || !PxCheckTags::find(tag) ||
+        PxSpelling::nearest(words.captured(1), {QStringLiteral("allow")}).isEmpty())
+        return;
+    add(findings, "allowance-unused", node.range,
+        QStringLiteral("the comment names \"%1\", but does not allow it").arg(tag),
+        QStringLiteral("the comment silences nothing"),
+        QStringLiteral("write \"check: allow %1\"").arg(tag));
 }
 
 void PxCheckedFile::findAllowances(PxFindings *findings, bool isChecked) const

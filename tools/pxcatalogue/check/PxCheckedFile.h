@@ -37,6 +37,7 @@ private:
     void findAllowances(const QVector<PxSourceNode> &nodes,
                         const QVector<const PxSourceElement *> &elements, PxFindings *findings,
                         bool isChecked) const;
+    void checkNoAllowance(const PxSourceNode &node, PxFindings *findings) const;
 
     QString m_path;
     QString m_error; ///< of the library: message, without the place

@@ -1,5 +1,6 @@
 #include "check/PxSourceFault.h"
 
+#include "check/PxParserWords.h"
 #include "check/PxSpelling.h"
 #include "check/PxStartTagScanner.h"
 
@@ -61,6 +62,12 @@ void PxSourceFault::classify(const QXmlStreamReader &reader, int begin)
     if (!isEnd && !findUndeclaredEntity(end) && !findWrongEndTag(begin, end) &&
         !findLateDeclaration(begin, end) && !findSecondAttribute(begin, end))
         findUnfinishedTag(begin, end);
+    const PxParserWords words(m_message, m_text.left(end));
+    if (!words.message().isEmpty()) {
+        m_message = words.message();
+        m_hint = words.hint();
+        m_range = words.range();
+    }
 }
 
 /** The reader stops behind an entity that it does not know. */
