@@ -3,6 +3,7 @@
 #include "check/PxDefaultsOverrides.h"
 #include "check/PxFileFindings.h"
 #include "check/PxMessageText.h"
+#include "check/PxPageEntries.h"
 #include "check/PxSourceParts.h"
 #include "check/PxSpelling.h"
 
@@ -104,7 +105,7 @@ void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry, PxFindings *f
     for (const PxSourcePart &part :
          PxSourceParts::ofAttribute(m_file, entry.element(), attribute)) {
         const PxPageType pageType(part.text);
-        const bool isUnion = splitEnumType(pageType.value()).size() > 1;
+        const bool isUnion = PxPageEntry::isUnion(pageType);
         const bool isRange = pageType.isValid() && !pageType.matches(PxPageTypeAll);
         if (!isUnion && !isRange)
             continue;

@@ -19,8 +19,6 @@ bool isAscii(const QString &text)
 
 void PxFramesCheck::run(PxFindings *findings) const
 {
-    if (!m_file.root())
-        return;
     const PxElementRow &row = *PxVocabulary::find(PxFileKind::Frames, QStringLiteral("frame"));
     QHash<QString, const PxSourceElement *> frames; // by id
     for (const PxSourceElement *frame : m_file.root()->childrenNamed(QStringLiteral("frame"))) {

@@ -14,7 +14,11 @@ struct PxPageEntry
     /** Stands for as many pages as the product has. */
     bool isRange() const;
     /** Is several types at once. */
-    bool isUnion() const { return (type.value() & (type.value() - 1)) != 0; }
+    bool isUnion() const { return isUnion(type); }
+    static bool isUnion(const PxPageType &type)
+    {
+        return (type.value() & (type.value() - 1)) != 0;
+    }
 };
 
 /** The page list of a product, entry by entry. */

@@ -16,7 +16,7 @@ constexpr int maximumPageCount = 10000;
 
 bool isSingle(const PxPageEntry &entry)
 {
-    return splitEnumType(entry.type.value()).size() == 1;
+    return !entry.type.isNull() && !entry.isUnion();
 }
 
 } // namespace

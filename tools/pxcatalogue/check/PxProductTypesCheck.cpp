@@ -27,8 +27,6 @@ PxElementReading readingOf(const PxSourceElement &row)
 void PxProductTypesCheck::run(PxFindings *findings)
 {
     const PxSourceElement *root = m_file.root();
-    if (!root)
-        return;
     if (root->name != QLatin1String("producttypes")) {
         m_file.add(
             findings, "product-types-root-wrong", root->nameRange,

@@ -51,8 +51,6 @@ bool isTooLarge(const QString &text)
 void PxValueCheck::check(const PxSourceElement &element, const PxAttributeRow &row,
                          const PxSourceAttribute &attribute) const
 {
-    if (element.dom.isNull())
-        return;
     switch (row.type) {
     case PxValueType::Integer:
     case PxValueType::RectanglePart:

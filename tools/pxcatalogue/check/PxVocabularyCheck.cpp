@@ -1,5 +1,6 @@
 #include "check/PxVocabularyCheck.h"
 
+#include "check/PxDefaultsEntry.h"
 #include "check/PxElementReading.h"
 #include "check/PxMessageText.h"
 #include "check/PxMissingValue.h"
@@ -48,18 +49,14 @@ const PxElementRow *entriesOfSameName(const PxElementRow &row)
 /** A container that was taken for one of its entries: what it says is another check's matter. */
 bool isMeantAsEntry(const PxSourceElement &element, const PxElementRow &row)
 {
-    const PxElementRow *entry = entriesOfSameName(row);
-    return entry && std::any_of(element.attributes.begin(), element.attributes.end(),
-                                [entry](const PxSourceAttribute &attribute) {
-                                    return PxVocabulary::attribute(*entry, attribute.name);
-                                });
+    return entriesOfSameName(row) && PxDefaultsEntry::isEntry(element);
 }
 
 } // namespace
 
 void PxVocabularyCheck::run(PxFindings *findings) const
 {
-    if (!m_file.root() || !isOfKind(*m_file.root()))
+    if (!isOfKind(*m_file.root()))
         return;
     PxFileFindings ofFile(m_file, findings);
     checkElement({*m_file.root(), PxVocabulary::root(m_kind), nullptr}, ofFile);
