@@ -150,14 +150,11 @@ int PxCatalogue::showCompatible() const
     PxReport report;
     report.addFields("query", "Interchangeable", query);
     PxProductTable(PxCatalogueProducts::sorted(others)).addTo(&report);
-    const int status = print(report);
-    if (status != done || !others.isEmpty())
-        return status;
     QString reason =
         QLatin1String("no other product is interchangeable with ") + type.productName();
     if (!themeId.isEmpty())
         reason += QStringLiteral(" and allowed by the theme \"%1\"").arg(themeId);
-    return printNo(reason);
+    return print(report, others.isEmpty(), reason);
 }
 
 int PxCatalogue::showThemes() const
@@ -168,13 +165,12 @@ int PxCatalogue::showThemes() const
         keyAccount < 0 ? factory->themeList() : factory->themeList(keyAccount);
     PxReport report;
     PxThemeTable(themes).addTo(&report);
-    const int status = print(report);
-    if (status != done || !themes.isEmpty())
-        return status;
-    return printNo(factory->themeList().isEmpty()
-                       ? QStringLiteral("no themes in the directory \"%1\"")
-                             .arg(PxDirectoryConfig::instance()->lumoThemesDirectory(false).path())
-                       : QStringLiteral("no theme that key account %1 may order").arg(keyAccount));
+    const QString reason =
+        factory->themeList().isEmpty()
+            ? QStringLiteral("no themes in the directory \"%1\"")
+                  .arg(PxDirectoryConfig::instance()->lumoThemesDirectory(false).path())
+            : QStringLiteral("no theme that key account %1 may order").arg(keyAccount);
+    return print(report, themes.isEmpty(), reason);
 }
 
 int PxCatalogue::showVariants() const
@@ -199,16 +195,20 @@ int PxCatalogue::showVariants() const
                      {"name", "Name"},
                      {"isDefault", "", PxReportFormat::JsonOnly}},
                     rows);
-    const int status = print(report);
-    if (status != done || !rows.isEmpty())
-        return status;
-    return printNo(type.productName() + QLatin1String(" has no variants that have a name"));
+    return print(report, rows.isEmpty(),
+                 type.productName() + QLatin1String(" has no variants that have a name"));
 }
 
 int PxCatalogue::print(const PxReport &report) const
 {
     return write(m_commandLine.isJson() ? report.json()
                                         : report.text(PxTerminal::columns()).toUtf8());
+}
+
+int PxCatalogue::print(const PxReport &report, bool isEmpty, const QString &reason) const
+{
+    const int status = print(report);
+    return status == done && isEmpty ? printNo(reason) : status;
 }
 
 int PxCatalogue::printNo(const QString &reason) const

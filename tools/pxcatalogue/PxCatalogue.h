@@ -25,6 +25,8 @@ private:
     int showVariants() const;
 
     int print(const PxReport &report) const;
+    /** Also why the report is empty, when it is. */
+    int print(const PxReport &report, bool isEmpty, const QString &reason) const;
     int printNo(const QString &reason) const;
     int printUnknownProduct() const;
     int printUnknownTheme() const;

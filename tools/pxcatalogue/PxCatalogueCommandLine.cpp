@@ -5,7 +5,9 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <functional>
+#include <iterator>
 #include <limits>
 #include <numeric>
 
@@ -18,26 +20,39 @@ constexpr int shownCommands =
     themedCommands | int(Command::List) | int(Command::Themes) | int(Command::Variants);
 constexpr int everyCommand = shownCommands | int(Command::Check);
 
+/** What stands behind the name of a command. */
+struct Argument
+{
+    const char *name;
+    const char *meaning;
+    int least;
+    int most;
+};
+
+constexpr Argument productName = {"NAME", "The name of a product, in any case.", 1, 1};
+constexpr Argument filePaths = {"[PATH…]", "A resource directory, or files.", 0,
+                                std::numeric_limits<int>::max()};
+
 // clang-format off
-constexpr struct { Command command; const char *name; const char *product; const char *description; } commandRows[] = {
+constexpr struct CommandRow { Command command; const char *name; const Argument *argument; const char *description; } commandRows[] = {
     {Command::List, "list", nullptr, "A table of the products, by class and name.\n"
         "Pages 26-154/2 means from 26 to 154 in steps of 2."},
-    {Command::Show, "show", "NAME", "Everything that is known about one product.\n"
+    {Command::Show, "show", &productName, "Everything that is known about one product.\n"
         "Page numbers begin at 0 and count covers and spine; 4-28/2 means every second one\n"
         "from 4 to 28. What the product does not have is left out."},
-    {Command::Compatible, "compatible", "NAME", "The other products that are interchangeable with this one.\n"
+    {Command::Compatible, "compatible", &productName, "The other products that are interchangeable with this one.\n"
         "Those are the ones of its class with the same orientation and number of pages, and with a spine\n"
         "if it has one."},
     {Command::Themes, "themes", nullptr, "A table of the design themes, by id.\n"
         "Products is the number of those that a theme allows; JSON names them."},
-    {Command::Check, "check", "[PATH…]", "What authors should know about the files of a catalogue.\n"
+    {Command::Check, "check", &filePaths, "What authors should know about the files of a catalogue.\n"
         "Each place where what a file says and what the library does part ways, with the line and the\n"
         "column, what the library does now, and what was probably meant. PATH is a resource directory,\n"
         "or single files, which are checked each by itself; default: the resource directories. The\n"
         "comment <!-- check: allow TAG reason --> silences a tag for the element behind it.\n"
         "Exit status: 0 nothing found that is as bad as --fail-on says; 1 something is; 2 wrong usage,\n"
         "or what cannot be read or written; 3 a fault of the program."},
-    {Command::Variants, "variants", "NAME", "The variants of one product, as its colours, with their names.\n"
+    {Command::Variants, "variants", &productName, "The variants of one product, as its colours, with their names.\n"
         "Those without a name are not on offer and left out."},
 };
 
@@ -84,8 +99,8 @@ QString programDescription()
 {
     QString description = QLatin1String(introduction);
     for (const auto &row : commandRows) {
-        const QString usage =
-            QLatin1String(row.name) + QLatin1Char(' ') + QString::fromUtf8(row.product);
+        const QString usage = QLatin1String(row.name) + QLatin1Char(' ') +
+                              QString::fromUtf8(row.argument ? row.argument->name : "");
         description += QLatin1String("  ") + usage.leftJustified(17) +
                        QString::fromUtf8(row.description).section(QLatin1Char('\n'), 0, 0) +
                        QLatin1Char('\n');
@@ -97,6 +112,12 @@ QString version()
 {
     return QCoreApplication::applicationName() + QLatin1Char(' ') +
            QCoreApplication::applicationVersion() + QLatin1Char('\n');
+}
+
+const CommandRow &rowOf(Command command)
+{
+    return *std::find_if(std::begin(commandRows), std::end(commandRows),
+                         [command](const CommandRow &row) { return row.command == command; });
 }
 
 QString namesOf(int commands)
@@ -169,52 +190,51 @@ bool PxCatalogueCommandLine::readCommand(const QStringList &arguments)
 
 void PxCatalogueCommandLine::readOptions(const QStringList &arguments)
 {
+    const CommandRow &row = rowOf(m_command);
     addOptions(&m_parser, int(m_command));
-    int expected = 1;
-    for (const auto &row : commandRows) {
-        if (row.command != m_command)
-            continue;
-        m_parser.setApplicationDescription(QString::fromUtf8(row.description));
-        m_parser.addPositionalArgument(QLatin1String(row.name), QStringLiteral("The command."),
-                                       QLatin1String(row.name));
-        if (row.product) {
-            const bool isCheck = m_command == Command::Check;
-            m_parser.addPositionalArgument(
-                QString::fromUtf8(row.product),
-                isCheck ? QStringLiteral("A resource directory, or files.")
-                        : QStringLiteral("The name of a product, in any case."));
-            expected = isCheck ? 1 : 2;
-        }
-    }
+    m_parser.setApplicationDescription(QString::fromUtf8(row.description));
+    m_parser.addPositionalArgument(QLatin1String(row.name), QStringLiteral("The command."),
+                                   QLatin1String(row.name));
+    if (row.argument)
+        m_parser.addPositionalArgument(QString::fromUtf8(row.argument->name),
+                                       QString::fromUtf8(row.argument->meaning));
     const bool isUnderstood = m_parser.parse(arguments);
-    const int given = m_parser.positionalArguments().size();
     if (!isUnderstood)
         setError(m_parser.errorText());
-    else if (m_parser.isSet(QStringLiteral("help")))
+    else if (isSet("help"))
         m_information = m_parser.helpText();
     else if (isSet("version"))
         m_information = version();
-    else if (given < expected)
-        setError(namesOf(int(m_command)) + QLatin1String(" needs the name of a product"));
-    else if (given > expected && m_command != Command::Check)
-        setError(QStringLiteral("\"%1\" is one argument too many")
-                     .arg(m_parser.positionalArguments().value(expected)));
-    else {
-        for (const auto &row : optionRows) {
-            const QString name = QLatin1String(row.name);
-            if (row.value && m_parser.optionNames().contains(name) &&
-                m_parser.value(name).isEmpty())
-                setError(QStringLiteral("--%1 needs a value").arg(name));
-        }
-        m_productClasses = readKeywords(QStringLiteral("class"), productClassKeywords);
-        m_criterion = readKeywords(QStringLiteral("criterion"), ::criterionKeywords);
-        m_pageCount = readNumber(QStringLiteral("pages"), 1, PxOfferedPageCounts::maximumShown);
-        m_keyAccount =
-            readNumber(QStringLiteral("key-account"), 0, std::numeric_limits<int>::max());
-        if (!QStringList{QString(), QStringLiteral("en"), QStringLiteral("de")}.contains(
-                language()))
-            setError(QStringLiteral("--lang needs en or de, not \"%1\"").arg(language()));
+    else if (checkArguments())
+        readValues();
+}
+
+/** Whether there are as many as the command takes. */
+bool PxCatalogueCommandLine::checkArguments()
+{
+    const CommandRow &row = rowOf(m_command);
+    const QStringList given = m_parser.positionalArguments().mid(1);
+    const int most = row.argument ? row.argument->most : 0;
+    if (row.argument && given.size() < row.argument->least)
+        setError(QLatin1String(row.name) + QLatin1String(" needs the name of a product"));
+    else if (given.size() > most)
+        setError(QStringLiteral("\"%1\" is one argument too many").arg(given.value(most)));
+    return m_error.isEmpty();
+}
+
+void PxCatalogueCommandLine::readValues()
+{
+    for (const auto &row : optionRows) {
+        const QString name = QLatin1String(row.name);
+        if (row.value && m_parser.optionNames().contains(name) && m_parser.value(name).isEmpty())
+            setError(QStringLiteral("--%1 needs a value").arg(name));
     }
+    m_productClasses = readKeywords(QStringLiteral("class"), productClassKeywords);
+    m_criterion = readKeywords(QStringLiteral("criterion"), ::criterionKeywords);
+    m_pageCount = readNumber(QStringLiteral("pages"), 1, PxOfferedPageCounts::maximumShown);
+    m_keyAccount = readNumber(QStringLiteral("key-account"), 0, std::numeric_limits<int>::max());
+    if (!QStringList{QString(), QStringLiteral("en"), QStringLiteral("de")}.contains(language()))
+        setError(QStringLiteral("--lang needs en or de, not \"%1\"").arg(language()));
 }
 
 /** Below the minimum when the option is not given. */

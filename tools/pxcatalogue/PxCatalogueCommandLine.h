@@ -54,6 +54,8 @@ public:
 private:
     bool readCommand(const QStringList &arguments);
     void readOptions(const QStringList &arguments);
+    bool checkArguments();
+    void readValues();
     int readNumber(const QString &option, int minimum, int maximum);
     template <typename ENUM>
     ENUM readKeywords(const QString &option, const QHash<QString, ENUM> &keywords);
