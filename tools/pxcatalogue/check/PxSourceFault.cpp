@@ -163,6 +163,7 @@ void PxSourceFault::findUnfinishedTag(int begin, int end)
     if (quote < 0) {
         m_message =
             QStringLiteral("the tag of \"%1\" has no \">\" before this").arg(tag.captured(1));
+        m_hint = QStringLiteral("end the tag before the next one begins");
     } else if (m_text.midRef(quote, end - quote).contains(QLatin1Char('>'))) {
         m_message = QStringLiteral("the quote that begins here has no end");
         m_hint = QStringLiteral("end the value with the quote that it begins with");
