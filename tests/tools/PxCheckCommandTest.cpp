@@ -361,6 +361,9 @@ void PxCheckCommandTest::tellsADroppedRowOnce()
     m_sample->replace("producttypes.xml", "code=\"907\"", "code=\"4x1\"");
     QCOMPARE(findingsOf(check(".")),
              QStringList("./producttypes.xml:68:22 error integer-malformed"));
+    m_sample->restore("producttypes.xml");
+    m_sample->replace("producttypes.xml", "name=\"CUP1\"", "nam=\"CUP1\"");
+    QCOMPARE(findingsOf(check(".")).size(), 1);
     const PxProgramRun alone = check("products/legacy/cup1.xml");
     QCOMPARE(findingsOf(alone),
              QStringList("products/legacy/cup1.xml:4:18 error product-name-unknown"));

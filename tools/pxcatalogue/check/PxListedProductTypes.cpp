@@ -5,8 +5,6 @@
 #include <PxDirectoryConfig.h>
 #include <PxXMLLoader.h>
 
-#include <QDomElement>
-
 #include <algorithm>
 
 PxListedProductTypes &PxListedProductTypes::instance()
@@ -20,12 +18,14 @@ PxListedProductTypes::PxListedProductTypes()
     const QDomElement catalogue = PxXMLLoader::loadDocumentElement(
         PxDirectoryConfig::instance()->resource(QStringLiteral("producttypes.xml"), false));
     const QString tag = QStringLiteral("producttype");
-    for (QDomElement row = catalogue.firstChildElement(tag); !row.isNull();
-         row = row.nextSiblingElement(tag)) {
+    for (QDomElement row = catalogue.firstChildElement(); !row.isNull();
+         row = row.nextSiblingElement()) {
         const QString name = row.attribute(QStringLiteral("name"));
         m_keys.insert(key(name));
+        if (name.isEmpty())
+            addKeysOf(row);
         const PxProductType type(name);
-        if (type.isValid())
+        if (row.tagName() == tag && type.isValid())
             m_types.append(type);
     }
     // A name that stands there twice is the same type both times.
@@ -33,6 +33,14 @@ PxListedProductTypes::PxListedProductTypes()
     m_types.erase(std::unique(m_types.begin(), m_types.end()), m_types.end());
     for (const PxProductType &type : qAsConst(m_types))
         m_names.append(type.productName());
+}
+
+/** The name may stand in any attribute, when that of the name is misspelt. */
+void PxListedProductTypes::addKeysOf(const QDomElement &row)
+{
+    const QDomNamedNodeMap attributes = row.attributes();
+    for (int i = 0; i < attributes.size(); ++i)
+        m_keys.insert(key(attributes.item(i).nodeValue()));
 }
 
 QString PxListedProductTypes::hint(const QString &name)

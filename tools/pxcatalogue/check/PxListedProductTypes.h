@@ -2,6 +2,7 @@
 
 #include <PxProductTypeList.h>
 
+#include <QDomElement>
 #include <QSet>
 #include <QStringList>
 
@@ -18,12 +19,16 @@ public:
     /** Nothing can be said about names then: each would be unknown. */
     bool isEmpty() const { return m_types.isEmpty(); }
     /** Stands there, though the library may leave the row out: that is told at the row. */
-    bool isListed(const QString &name) const { return m_keys.contains(key(name)); }
+    bool isListed(const QString &name) const
+    {
+        return !name.trimmed().isEmpty() && m_keys.contains(key(name));
+    }
     /** Which product was meant, or an empty text. */
     QString hint(const QString &name);
 
 private:
     PxListedProductTypes();
+    void addKeysOf(const QDomElement &row);
     static QString key(const QString &name) { return name.trimmed().toCaseFolded(); }
 
     PxProductTypeList m_types;

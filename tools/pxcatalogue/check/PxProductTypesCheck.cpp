@@ -43,6 +43,20 @@ void PxProductTypesCheck::run(PxFindings *findings)
     const PxProductTypeCatalogue &types = other ? *other : *PxProductTypeCatalogue::instance();
     for (const PxSourceElement *row : root->childrenNamed(QStringLiteral("producttype")))
         checkRow(*row, types, findings);
+    checkMisspelt(*root, findings);
+}
+
+/** What is nearly called a row is meant for one. */
+void PxProductTypesCheck::checkMisspelt(const PxSourceElement &root, PxFindings *findings) const
+{
+    const QString row = QStringLiteral("producttype");
+    for (const PxSourceElement *child : root.children) {
+        if (child->name != row && !PxSpelling::nearest(child->name, {row}).isEmpty())
+            m_file.add(findings, "product-type-row-dropped", child->nameRange,
+                       QStringLiteral("\"%1\" is no \"%2\"").arg(child->name, row),
+                       QStringLiteral("the product type is left out"),
+                       PxSpelling::hint(child->name, {row}));
+    }
 }
 
 void PxProductTypesCheck::checkRow(const PxSourceElement &row, const PxProductTypeCatalogue &types,

@@ -24,6 +24,7 @@ public:
 private:
     void checkRow(const PxSourceElement &row, const PxProductTypeCatalogue &types,
                   PxFindings *findings);
+    void checkMisspelt(const PxSourceElement &root, PxFindings *findings) const;
     void drop(const PxSourceElement &row, const char *attribute, const QString &message,
               PxFindings *findings, const QString &hint = QString()) const;
     void dropClass(const PxSourceElement &row, PxFindings *findings) const;
