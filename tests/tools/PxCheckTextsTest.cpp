@@ -71,6 +71,11 @@ void PxCheckTextsTest::tellsWhatBecomesOfIt_data()
     QTest::newRow("nearly allowed") << pages << allowing("Check alow: pages-missing")
                                     << "hint: write \"check: allow pages-missing\"";
 
+    QTest::newRow("a page count out of step")
+        << "<spine pages=\"26\""
+        << "<spine pages=\"27\""
+        << "the spine for 26 pages is 0 wide hint: did you mean \"26\"?";
+
     // What a parser says in its own words.
     const QString plain = "write \"&amp;\" for \"&\" itself";
     QTest::newRow("ampersand in a text") << "color:black"
@@ -97,11 +102,12 @@ void PxCheckTextsTest::tellsWhatBecomesOfIt()
     QFETCH(QString, old);
     QFETCH(QString, mistake);
     QFETCH(QString, text);
-    const QString cup = "products/cup2.xml";
-    m_sample.replace(cup, old, mistake);
+    const bool isOfBook = old.startsWith("<spine ");
+    const QString file = isOfBook ? "products/book_mini.xml" : "products/cup2.xml";
+    m_sample.replace(file, old, mistake);
     const PxProgramRun run(PX_CATALOGUE_PROGRAM, {"check", m_sample.path()},
                            {{"PX_RESOURCE_DIRS", QString()}, {"PX_THEMES_DIR", QString()}});
-    m_sample.restore(cup);
+    m_sample.restore(file);
     QVERIFY2(run.text().contains(text), qPrintable(run.text()));
     QCOMPARE(run.output().filter("now: ").size(), 1);
 }

@@ -150,30 +150,50 @@ void PxSpineCheck::checkSteps(PxFindings *findings) const
         return;
     const int usual = usualStep();
     int before = usual;
+    int inStep = m_spines.firstKey();
     bool isRegular = true;
     // The last step is free.
     for (auto it = std::next(m_spines.begin()); it != std::prev(m_spines.end()); ++it) {
         const int smaller = std::prev(it).key();
         const int step = it.key() - smaller;
+        const qint64 wanted = qint64(smaller) + usual;
+        // The page count before was the wrong one, and this goes on behind it.
+        const bool isBackInStep = smaller != inStep && it.key() - inStep == 2LL * usual;
         // A table may go on in other steps: that is one place, not many.
-        if (step != usual && step != before)
+        if (step != usual && step != before && !isBackInStep)
             m_product.add(findings, "spine-steps-irregular", it.value()->rangeOf(pagesName),
                           QStringLiteral("%1 pages after %2, where most steps are %3")
                               .arg(it.key())
                               .arg(smaller)
                               .arg(usual),
                           QStringLiteral("the page counts go from %1 to %2 in steps of %3")
-                              .arg(m_product.description().minPages())
-                              .arg(m_product.description().maxPages())
-                              .arg(m_product.description().pageIncrement()),
-                          step > usual
-                              ? QStringLiteral("add a spine for %1 pages").arg(smaller + usual)
-                              : QString());
+                                  .arg(m_product.description().minPages())
+                                  .arg(m_product.description().maxPages())
+                                  .arg(m_product.description().pageIncrement()) +
+                              nowWithoutSpine(smaller, it.key()),
+                          std::next(it).key() == wanted + usual
+                              ? QStringLiteral("did you mean \"%1\"?").arg(wanted)
+                          : step > usual ? QStringLiteral("add a spine for %1 pages").arg(wanted)
+                                         : QString());
         isRegular = isRegular && step == usual;
-        before = step;
+        before = isBackInStep ? usual : step;
+        if (isBackInStep || step == usual)
+            inStep = it.key();
     }
     if (isRegular)
         checkLastStep(usual, findings);
+}
+
+/** What becomes of the first page count that is offered between two of the table. */
+QString PxSpineCheck::nowWithoutSpine(int smaller, int larger) const
+{
+    const PxProductTypeDescription &book = m_product.description();
+    const qint64 between = qint64(smaller) + book.pageIncrement();
+    return between < larger && hasWidth() && (between - book.minPages()) % book.pageIncrement() == 0
+               ? QStringLiteral("; the spine for %1 pages is %2 wide")
+                     .arg(between)
+                     .arg(book.spineWidth(int(between)))
+               : QString();
 }
 
 /** A last step that is longer than the others leaves out page counts as any other does. */

@@ -20,6 +20,7 @@ private:
     void checkPresence(PxFindings *findings) const;
     void checkLength(PxFindings *findings) const;
     void checkSteps(PxFindings *findings) const;
+    QString nowWithoutSpine(int smaller, int larger) const;
     void checkLastStep(int usual, PxFindings *findings) const;
     int usualStep() const;
     void checkWidths(PxFindings *findings) const;
