@@ -5,12 +5,12 @@
 #include "check/PxMessageText.h"
 #include "check/PxProductPages.h"
 #include "check/PxSourceParts.h"
+#include "check/PxSpelling.h"
 #include "vocabulary/PxVocabulary.h"
 
 #include <PxListParts.h>
 #include <geometry/PxProductionExtraPageGroup.h>
 
-#include <QRegularExpression>
 #include <QSet>
 
 #include <algorithm>
@@ -30,8 +30,7 @@ QString absence(const PxSourceElement &list)
 /** For numbers with another separator than the comma. */
 QString separatorHint(const QString &part)
 {
-    static const QRegularExpression ourSeparators(QStringLiteral("[;|/+\\s]+"));
-    const QStringList words = part.split(ourSeparators, Qt::SkipEmptyParts);
+    const QStringList words = PxSpelling::words(part);
     const bool areNumbers = std::all_of(
         words.begin(), words.end(), [](const QString &word) { return !pxIntList(word).isEmpty(); });
     return words.size() > 1 && areNumbers

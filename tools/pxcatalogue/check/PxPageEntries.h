@@ -15,10 +15,7 @@ struct PxPageEntry
     bool isRange() const;
     /** Is several types at once. */
     bool isUnion() const { return isUnion(type); }
-    static bool isUnion(const PxPageType &type)
-    {
-        return (type.value() & (type.value() - 1)) != 0;
-    }
+    static bool isUnion(const PxPageType &type) { return (type.value() & (type.value() - 1)) != 0; }
 };
 
 /** The page list of a product, entry by entry. */
