@@ -30,15 +30,18 @@ public:
     {
         return this->intersects(other);
     }
+    /** The elements in ascending order: that of the set itself changes from run to run. */
+    QList<T> sorted() const
+    {
+        QList<T> values = this->values();
+        std::sort(values.begin(), values.end());
+        return values;
+    }
 };
 
 /** The admitted values in ascending order, or "all". */
 template <typename T>
 QDebug operator<<(QDebug debug, const PxEmptyMeansAllSet<T> &set)
 {
-    if (set.isEmpty())
-        return debug << "all";
-    QList<T> values = set.values();
-    std::sort(values.begin(), values.end());
-    return debug << values;
+    return set.isEmpty() ? debug << "all" : debug << set.sorted();
 }

@@ -8,8 +8,6 @@
 #include <QDebug>
 #include <QDomElement>
 
-#include <algorithm>
-
 PxProductContextsGroup::PxProductContextsGroup(const PxProductContext &context)
     : m_indirectProductDescription(context)
 {
@@ -41,9 +39,7 @@ PxIndirectProductDescription PxProductContextsGroup::indirectProductDescription(
 
 PxProductTypeList PxProductContextsGroup::explicitProductTypes() const
 {
-    PxProductTypeList types = m_productTypes.values();
-    std::sort(types.begin(), types.end());
-    return types;
+    return m_productTypes.sorted();
 }
 
 QStringList PxProductContextsGroup::themeNames() const

@@ -8,8 +8,6 @@
 #include <QDomElement>
 #include <QStringList>
 
-#include <algorithm>
-
 namespace {
 
 template <typename SET, typename ENUM>
@@ -105,10 +103,8 @@ void PxIndirectProductDescription::toXml(QDomElement &parent) const
     const PxOrientation all = orientation();
     if (all.isValid())
         PxXMLBuilder::buildDomElement(parent, QStringLiteral("orientation"), all.encodeCSV());
-    QList<PxTemplateTarget> targets = m_templateTypes.values();
-    std::sort(targets.begin(), targets.end()); // documents shall not follow the order of a hash
     QStringList keywords;
-    for (PxTemplateTarget target : qAsConst(targets))
+    for (PxTemplateTarget target : m_templateTypes.sorted())
         keywords.append(EnumHelper::encodeKeyword(target, EnumHelper::globalMapTemplateTargetString,
                                                   EnumHelper::globalTemplateTargetDefaultKey));
     PxXMLBuilder::buildDomElement(parent, QStringLiteral("type"), keywords.join(QLatin1Char(',')));

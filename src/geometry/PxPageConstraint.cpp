@@ -7,14 +7,6 @@
 
 #include <algorithm>
 
-template <typename SET>
-static auto sorted(const SET &set)
-{
-    auto values = set.values();
-    std::sort(values.begin(), values.end());
-    return values;
-}
-
 PxPageConstraint::PxPageConstraint(const PxPageType &pageType, const PxPageAlignment &alignment)
 {
     setPageTypes(pageType);
@@ -70,11 +62,10 @@ void PxPageConstraint::addIntendetAlignment(const PxPageAlignment &alignment)
 
 void PxPageConstraint::toXml(QDomElement &parent) const
 {
-    // The order of the sets changes from run to run, that of a document should not.
-    for (const PxPageType &pageType : sorted(m_pageTypes))
+    for (const PxPageType &pageType : m_pageTypes.sorted())
         PxXMLBuilder::buildDomElement(parent, QStringLiteral("pagetype"), pageType.encodeCSV());
     // Each element is a single bit, so each child holds one keyword, or none for an unassigned bit.
-    for (PxPageAlignment alignment : sorted(m_intendetAlignments))
+    for (PxPageAlignment alignment : m_intendetAlignments.sorted())
         PxXMLBuilder::buildDomElement(
             parent, QStringLiteral("intendetAlignment"),
             EnumHelper::encodeKeyword(alignment, EnumHelper::globalMapPageAlignmentString,
