@@ -7,7 +7,6 @@
 #include <PxProductCheckerRegistry.h>
 
 #include <QDir>
-#include <QVector>
 
 #include <algorithm>
 
@@ -38,7 +37,11 @@ PxProductTypeConfigRegistry *createRegistry(const QString &resource)
 PxProductTypeConfigRegistry::PxProductTypeConfigRegistry(const QDir &directory)
     : m_descriptions(PxProductTypeDescriptionReader(directory).readDir())
     , m_defaultDescription(new PxProductTypeDescription)
-{}
+{
+    m_products.reserve(m_descriptions.size());
+    for (auto it = m_descriptions.constBegin(); it != m_descriptions.constEnd(); ++it)
+        m_products.append({it.key(), it.value()});
+}
 
 PxProductTypeConfigRegistry::~PxProductTypeConfigRegistry() = default;
 
@@ -78,47 +81,19 @@ int PxProductTypeConfigRegistry::pageIncrement(const PxProductType &type) const
     return description(type)->pageIncrement();
 }
 
-const PxProductTypeDescription *PxProductTypeConfigRegistry::description(
-    const PxProductType &type) const
-{
-    return m_descriptions.value(type, m_defaultDescription);
-}
-
 bool PxProductTypeConfigRegistry::exists(const PxProductType &type) const
 {
     return description(type)->isValid();
 }
-
-// Forwarders: each is the query of the same name, asked of the type's description.
-// clang-format off
-PxProductType PxProductTypeConfigRegistry::legacyProduct(const PxProductType &type) const { return description(type)->legacyProduct(); }
-PxOrientation PxProductTypeConfigRegistry::orientation(const PxProductType &type) const { return description(type)->orientation(); }
-PxBinding PxProductTypeConfigRegistry::binding(const PxProductType &type) const { return description(type)->binding(); }
-PxPaperType PxProductTypeConfigRegistry::paperType(const PxProductType &type) const { return description(type)->paperType(); }
-PxSpaceMagnitude PxProductTypeConfigRegistry::spaceMagnitude(const PxProductType &type) const { return description(type)->spaceMagnitude(); }
-QString PxProductTypeConfigRegistry::variantDescription(const PxProductType &type) const { return description(type)->variantDescription(); }
-QStringList PxProductTypeConfigRegistry::variants(const PxProductType &type) const { return description(type)->variants(); }
-PxThematicCategorySet PxProductTypeConfigRegistry::allowedBackgroundCategories(const PxProductType &type) const { return description(type)->allowedBackgroundCategories(); }
-bool PxProductTypeConfigRegistry::limitBackgroundCategories(const PxProductType &type) const { return description(type)->limitBackgroundCategories(); }
-bool PxProductTypeConfigRegistry::fullBackgroundOnEachPage(const PxProductType &type) const { return description(type)->fullBackgroundOnEachPage(); }
-int PxProductTypeConfigRegistry::explicitNumberOfNormalPages(const PxProductType &type) const { return description(type)->explicitNumberOfNormalPages(); }
-PxPageTypeList PxProductTypeConfigRegistry::pageTypes(const PxProductType &type, int pageCount) const { return description(type)->pageTypes(pageCount); }
-bool PxProductTypeConfigRegistry::horizontalPages(const PxProductType &type) const { return description(type)->horizontalPages(); }
-PxPageAlignment PxProductTypeConfigRegistry::pageAlignment(const PxProductType &type, int page) const { return description(type)->pageAlignment(page); }
-QList<int> PxProductTypeConfigRegistry::productionNumberingList(const PxProductType &type, int pageCount) const { return description(type)->productionNumberingList(pageCount); }
-QSizeF PxProductTypeConfigRegistry::usablePrintSize(const PxProductType &type, const PxPageType &pageType, int pageCount) const { return description(type)->usablePrintSize(pageType, pageCount); }
-PxPageSizeSpec PxProductTypeConfigRegistry::sizeSpec(const PxProductType &type, const PxPageSizeKey &key) const { return description(type)->sizeSpec(key); }
-PxBarcode PxProductTypeConfigRegistry::barcodeOnPage(const PxProductType &type, int page, int pageCount) const { return description(type)->barcodeOnPage(page, pageCount); }
-// clang-format on
 
 PxProductType PxProductTypeConfigRegistry::findProductForLegacy(const PxProductType &legacy) const
 {
     // A product that replaces none names the unknown type, and replaces nothing all the same.
     if (!legacy.isValid())
         return PxProductType(0);
-    for (auto it = m_descriptions.begin(); it != m_descriptions.end(); ++it) {
-        if (it.value()->legacyProduct() == legacy)
-            return it.key();
+    for (const Product &product : m_products) {
+        if (product.description->legacyProduct() == legacy)
+            return product.type;
     }
     return PxProductType(0);
 }
@@ -128,11 +103,11 @@ PxProductTypeList PxProductTypeConfigRegistry::findCompatibleProducts(
 {
     const PxProductTypeDescription *reference = description(type);
     PxProductTypeList compatible;
-    for (auto it = m_descriptions.begin(); it != m_descriptions.end(); ++it) {
-        if (it.key().productClass() == type.productClass() &&
-            it.value()->isCompatible(*reference, criterion) &&
-            PxProductCheckerRegistry::instance()->isValid(it.key(), 0))
-            compatible.append(it.key());
+    for (const Product &product : m_products) {
+        if (product.type.productClass() == type.productClass() &&
+            product.description->isCompatible(*reference, criterion) &&
+            PxProductCheckerRegistry::instance()->isValid(product.type, 0))
+            compatible.append(product.type);
     }
     return compatible;
 }
@@ -141,9 +116,9 @@ PxProductClassificationManager PxProductTypeConfigRegistry::createProductClassif
     const PxProductClass &productClass) const
 {
     QList<PxProductClassification> classifications;
-    for (auto it = m_descriptions.begin(); it != m_descriptions.end(); ++it) {
-        if (it.key().isProductClass(productClass))
-            classifications.append(it.value()->classification());
+    for (const Product &product : m_products) {
+        if (product.type.isProductClass(productClass))
+            classifications.append(product.description->classification());
     }
     return PxProductClassificationManager(classifications);
 }

@@ -8,6 +8,7 @@
 
 #include <QHash>
 #include <QSizeF>
+#include <QVector>
 
 class QDir;
 
@@ -95,6 +96,44 @@ public:
     double backgroundRatio(const PxProductType &type, bool singlePage) const;
 
 private:
+    struct Product
+    {
+        PxProductType type;
+        const PxProductTypeDescription *description;
+    };
+
     QHash<PxProductType, PxProductTypeDescription *> m_descriptions;
     PxProductTypeDescription *m_defaultDescription;
+    // The table in its order, for walks: from node to node each step would wait for memory.
+    QVector<Product> m_products;
 };
+
+// Inline: a product is asked while the user drags a page, and a call into the library would cost
+// half as much again as the look-up.
+inline const PxProductTypeDescription *PxProductTypeConfigRegistry::description(
+    const PxProductType &type) const
+{
+    return m_descriptions.value(type, m_defaultDescription);
+}
+
+// Forwarders: each is the query of the same name, asked of the type's description.
+// clang-format off
+inline PxProductType PxProductTypeConfigRegistry::legacyProduct(const PxProductType &type) const { return description(type)->legacyProduct(); }
+inline PxOrientation PxProductTypeConfigRegistry::orientation(const PxProductType &type) const { return description(type)->orientation(); }
+inline PxBinding PxProductTypeConfigRegistry::binding(const PxProductType &type) const { return description(type)->binding(); }
+inline PxPaperType PxProductTypeConfigRegistry::paperType(const PxProductType &type) const { return description(type)->paperType(); }
+inline PxSpaceMagnitude PxProductTypeConfigRegistry::spaceMagnitude(const PxProductType &type) const { return description(type)->spaceMagnitude(); }
+inline QString PxProductTypeConfigRegistry::variantDescription(const PxProductType &type) const { return description(type)->variantDescription(); }
+inline QStringList PxProductTypeConfigRegistry::variants(const PxProductType &type) const { return description(type)->variants(); }
+inline PxThematicCategorySet PxProductTypeConfigRegistry::allowedBackgroundCategories(const PxProductType &type) const { return description(type)->allowedBackgroundCategories(); }
+inline bool PxProductTypeConfigRegistry::limitBackgroundCategories(const PxProductType &type) const { return description(type)->limitBackgroundCategories(); }
+inline bool PxProductTypeConfigRegistry::fullBackgroundOnEachPage(const PxProductType &type) const { return description(type)->fullBackgroundOnEachPage(); }
+inline int PxProductTypeConfigRegistry::explicitNumberOfNormalPages(const PxProductType &type) const { return description(type)->explicitNumberOfNormalPages(); }
+inline PxPageTypeList PxProductTypeConfigRegistry::pageTypes(const PxProductType &type, int pageCount) const { return description(type)->pageTypes(pageCount); }
+inline bool PxProductTypeConfigRegistry::horizontalPages(const PxProductType &type) const { return description(type)->horizontalPages(); }
+inline PxPageAlignment PxProductTypeConfigRegistry::pageAlignment(const PxProductType &type, int page) const { return description(type)->pageAlignment(page); }
+inline QList<int> PxProductTypeConfigRegistry::productionNumberingList(const PxProductType &type, int pageCount) const { return description(type)->productionNumberingList(pageCount); }
+inline QSizeF PxProductTypeConfigRegistry::usablePrintSize(const PxProductType &type, const PxPageType &pageType, int pageCount) const { return description(type)->usablePrintSize(pageType, pageCount); }
+inline PxPageSizeSpec PxProductTypeConfigRegistry::sizeSpec(const PxProductType &type, const PxPageSizeKey &key) const { return description(type)->sizeSpec(key); }
+inline PxBarcode PxProductTypeConfigRegistry::barcodeOnPage(const PxProductType &type, int page, int pageCount) const { return description(type)->barcodeOnPage(page, pageCount); }
+// clang-format on
