@@ -40,6 +40,10 @@ PxMeasuredCatalogue::PxMeasuredCatalogue(const QString &directory)
     qDeleteAll(descriptions);
     for (const QFileInfo &file : m_files)
         require(!PxXMLLoader::loadDocument(file).isNull(), "a document");
+    QDir themes = m_themes;
+    const PxTheme theme =
+        PxThemeFactory().loadThemeList(themes).findTheme(QStringLiteral("theme-99"));
+    require(theme.isValid() && !theme.isExpired() && !theme.keyAccounts().isEmpty(), "a theme");
 }
 
 void PxMeasuredCatalogue::readWithQt() const
