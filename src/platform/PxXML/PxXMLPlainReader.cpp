@@ -140,7 +140,13 @@ bool PxXMLPlainReader::readText()
     const std::optional<QString> decoded = decode(text);
     if (!decoded)
         return false;
-    return QStringView(*decoded).trimmed().isEmpty() || add(m_document.createTextNode(*decoded));
+    if (QStringView(*decoded).trimmed().isEmpty())
+        return true;
+    if (m_textNode.isNull())
+        m_textNode = m_document.createTextNode(QString());
+    QDomNode node = m_textNode.cloneNode(false);
+    node.setNodeValue(*decoded);
+    return add(node);
 }
 
 bool PxXMLPlainReader::readComment()

@@ -47,6 +47,7 @@ private:
     PxXMLTextPool &m_texts;
     QDomDocument m_document;
     QDomNode m_parent;
+    QDomNode m_textNode; // to be copied: copies share its name, which a new one allocates
     std::vector<std::string_view> m_open; // names of the elements whose end tag has not come yet
     std::vector<std::string_view> m_attributes; // names of those of the tag being read
     bool m_hasRoot = false;
