@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QDomElement>
 #include <QFileInfo>
+#include <QVarLengthArray>
 
 #include <algorithm>
 
@@ -79,6 +80,30 @@ PxDefaultThematicCategories readDefaultCategories(const QDomElement &defaultCate
     return categories;
 }
 
+/** The child elements of an element, which are looked at once however many are asked for. */
+class ChildElements
+{
+public:
+    explicit ChildElements(const QDomElement &parent)
+    {
+        for (QDomElement e = parent.firstChildElement(); !e.isNull(); e = e.nextSiblingElement())
+            m_children.append({e.tagName(), e});
+    }
+
+    /** Null when there is none of this name. */
+    QDomElement first(const QString &name) const
+    {
+        for (const auto &[childName, child] : m_children) {
+            if (childName == name)
+                return child;
+        }
+        return QDomElement();
+    }
+
+private:
+    QVarLengthArray<QPair<QString, QDomElement>, 16> m_children; // more than a theme has
+};
+
 PxTheme readTheme(const QDomElement &theme, PxThemeImages &images)
 {
     const QString id =
@@ -92,26 +117,27 @@ PxTheme readTheme(const QDomElement &theme, PxThemeImages &images)
     const QImage thumbnail = images.image(
         PxXMLParser::attribute(theme, QStringLiteral("thumbnail"), QString(), true).toLower());
 
-    const QDomElement text = theme.firstChildElement(QStringLiteral("description"));
+    const ChildElements children(theme);
+    const QDomElement text = children.first(QStringLiteral("description"));
     const QString description = text.isNull() ? QStringLiteral("unbekannt") : text.text();
     const PxKeyAccountNumberList keyAccounts =
-        readKeyAccounts(theme.firstChildElement(QStringLiteral("keyaccounts")));
+        readKeyAccounts(children.first(QStringLiteral("keyaccounts")));
     const PxEmptyMeansAllSet<PxProductType> products =
-        readProducts(theme.firstChildElement(QStringLiteral("products")));
-    const auto logos = readLogos(theme.firstChildElement(QStringLiteral("logos")), images);
+        readProducts(children.first(QStringLiteral("products")));
+    const auto logos = readLogos(children.first(QStringLiteral("logos")), images);
 
     const QString use = QStringLiteral("use");
-    const bool useSpineText = PxXMLParser::boolAttribute(
-        theme.firstChildElement(QStringLiteral("spinetext")), use, false);
+    const bool useSpineText =
+        PxXMLParser::boolAttribute(children.first(QStringLiteral("spinetext")), use, false);
     const bool useSpineLogo =
-        PxXMLParser::boolAttribute(theme.firstChildElement(QStringLiteral("spinelogo")), use, true);
-    const QDomElement content = theme.firstChildElement(QStringLiteral("content"));
+        PxXMLParser::boolAttribute(children.first(QStringLiteral("spinelogo")), use, true);
+    const QDomElement content = children.first(QStringLiteral("content"));
     const bool canMoveContent =
         PxXMLParser::boolAttribute(content, QStringLiteral("movable"), false);
     const bool canUseNormalBackgrounds =
         PxXMLParser::boolAttribute(content, QStringLiteral("normalBackgrounds"), true);
     const PxDefaultThematicCategories categories =
-        readDefaultCategories(theme.firstChildElement(QStringLiteral("defaultcategories")));
+        readDefaultCategories(children.first(QStringLiteral("defaultcategories")));
 
     return PxTheme(id, productGroup, description, expiry, thumbnail, keyAccounts, logos,
                    useSpineText, canMoveContent, canUseNormalBackgrounds, categories, useSpineLogo,
