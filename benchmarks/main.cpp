@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int repetitions = 9;
+constexpr int repetitions = 25;
 
 void ignoreLog(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
