@@ -2,6 +2,7 @@
 
 #include "check/PxFileFindings.h"
 #include "check/PxSourceParts.h"
+#include "check/PxSpelling.h"
 
 #include <themes/PxThematicCategory.h>
 
@@ -20,8 +21,7 @@ void PxBackgroundCategoryCheck::run(PxFindings *findings) const
             found.add("category-blank", part.whole,
                       QStringLiteral("the category \"%1\" has a blank at its edge").arg(part.text),
                       QStringLiteral("no background is of this category"),
-                      name.isEmpty() ? QString()
-                                     : QStringLiteral("did you mean \"%1\"?").arg(name));
+                      name.isEmpty() ? QString() : PxSpelling::didYouMean(name));
             continue;
         }
         const QString first = known.value(name.toCaseFolded(), name);

@@ -94,11 +94,10 @@ void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry, PxFindings *f
     const QString now = QStringLiteral("no page finds these templates");
     if (!entry.element().attribute(attribute)) {
         const PxMissingPart missing = entry.missing(attribute);
-        m_file.add(findings, "defaults-page-type-missing", missing.range,
-                   QStringLiteral("\"pageType\" is missing"), now,
-                   missing.hint.isEmpty()
-                       ? QStringLiteral("name the types of pages, as pageType=\"normalpage\"")
-                       : missing.hint);
+        m_file.add(
+            findings, "defaults-page-type-missing", missing.range,
+            QStringLiteral("\"pageType\" is missing"), now,
+            missing.hintOr(QStringLiteral("name the types of pages, as pageType=\"normalpage\"")));
         return;
     }
     PxFileFindings found(m_file, findings, PxFileFindings::maximumOfList);
@@ -115,7 +114,7 @@ void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry, PxFindings *f
                                 .arg(part.text.trimmed()),
                   now,
                   isUnion ? QStringLiteral("name each type, as \"fullcover,spine\"")
-                          : QStringLiteral("did you mean \"normalpage\"?"));
+                          : PxSpelling::didYouMean(QStringLiteral("normalpage")));
     }
 }
 

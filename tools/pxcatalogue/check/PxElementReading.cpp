@@ -10,22 +10,17 @@
 
 namespace {
 
-const PxElementRow &productRow(const PxSourceElement &element)
+const PxElementRow &rowOf(const PxSourceElement &element, PxFileKind kind)
 {
     const PxElementRow *row =
-        element.parent ? PxVocabulary::child(productRow(*element.parent), element.name) : nullptr;
-    return row ? *row : PxVocabulary::root(PxFileKind::Product);
-}
-
-QString didYouMean(const QString &name)
-{
-    return QStringLiteral("did you mean \"%1\"?").arg(name);
+        element.parent ? PxVocabulary::child(rowOf(*element.parent, kind), element.name) : nullptr;
+    return row ? *row : PxVocabulary::root(kind);
 }
 
 } // namespace
 
-PxElementReading::PxElementReading(const PxSourceElement &element)
-    : PxElementReading(element, productRow(element))
+PxElementReading::PxElementReading(const PxSourceElement &element, PxFileKind kind)
+    : PxElementReading(element, rowOf(element, kind))
 {}
 
 bool PxElementReading::hasOnlyKnown() const
@@ -54,7 +49,7 @@ const PxSourceAttribute *PxElementReading::misspelling(const QString &attribute)
 PxMissingPart PxElementReading::missing(const QString &attribute) const
 {
     const PxSourceAttribute *own = misspelling(attribute);
-    return own ? PxMissingPart{own->nameRange, didYouMean(attribute)}
+    return own ? PxMissingPart{own->nameRange, PxSpelling::didYouMean(attribute)}
                : PxMissingPart{m_element.rangeOf(attribute), QString()};
 }
 
@@ -150,7 +145,7 @@ PxMissingPart PxElementReading::missingChild(const QString &name) const
     return {meant->nameRange, isEntry ? QStringLiteral("put it into \"%1\"").arg(name)
                               : isElsewhere
                                   ? QStringLiteral("put it into \"%1\"").arg(m_element.name)
-                                  : didYouMean(name)};
+                                  : PxSpelling::didYouMean(name)};
 }
 
 PxMissingPart PxElementReading::missingEntries() const
@@ -158,7 +153,7 @@ PxMissingPart PxElementReading::missingEntries() const
     const QString name = QLatin1String(m_row.children.begin()->name);
     for (const PxSourceElement *child : m_element.children) {
         if (!child->name.contains(QLatin1Char(':'))) // else it is somebody else's
-            return {child->nameRange, didYouMean(name)};
+            return {child->nameRange, PxSpelling::didYouMean(name)};
     }
     const auto text = std::find_if(m_element.nodes.begin(), m_element.nodes.end(),
                                    [](const PxSourceNode &node) { return node.isText(); });

@@ -13,6 +13,8 @@ struct PxMissingPart
     /** What was probably written for it; its empty value, or the element, when nothing was. */
     PxSourceRange range;
     QString hint; ///< empty when nothing looks like it
+
+    QString hintOr(const QString &other) const { return hint.isEmpty() ? other : hint; }
 };
 
 /**
@@ -23,8 +25,9 @@ struct PxMissingPart
 class PxElementReading
 {
 public:
-    /** The element stands where the library reads it in a product file. It must outlive this. */
-    explicit PxElementReading(const PxSourceElement &element);
+    /** The element stands where the library reads it in such a file. It must outlive this. */
+    explicit PxElementReading(const PxSourceElement &element,
+                              PxFileKind kind = PxFileKind::Product);
     /** The row is that of the element, in any file. */
     PxElementReading(const PxSourceElement &element, const PxElementRow &row)
         : m_element(element)

@@ -16,7 +16,7 @@ QString PxImageNames::hint(const QString &name, const QFileInfo &file)
     if (nearest.isEmpty())
         return QString();
     const QString directory = name.left(name.lastIndexOf(QLatin1Char('/')) + 1);
-    return QStringLiteral("did you mean \"%1\"?").arg(directory + nearest);
+    return PxSpelling::didYouMean(directory + nearest);
 }
 
 QStringList PxImageNames::namesIn(const QString &directory)

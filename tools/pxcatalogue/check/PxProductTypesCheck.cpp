@@ -102,8 +102,7 @@ void PxProductTypesCheck::drop(const PxSourceElement &row, const char *attribute
 {
     const PxMissingPart missing = readingOf(row).missing(QLatin1String(attribute));
     m_file.add(findings, "product-type-row-dropped", missing.range, message,
-               QStringLiteral("the product type is left out"),
-               missing.hint.isEmpty() ? hint : missing.hint);
+               QStringLiteral("the product type is left out"), missing.hintOr(hint));
 }
 
 void PxProductTypesCheck::dropClass(const PxSourceElement &row, PxFindings *findings) const

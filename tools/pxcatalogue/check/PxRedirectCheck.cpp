@@ -2,6 +2,7 @@
 
 #include "check/PxElementReading.h"
 #include "check/PxMessageText.h"
+#include "check/PxSpelling.h"
 
 #include <algorithm>
 
@@ -103,7 +104,7 @@ void PxRedirectCheck::checkContent(const PxSourceElement &redirect, QVector<Rang
         m_product.add(findings, "content-redirect-reversed", place,
                       QStringLiteral("the range \"%1\" runs backwards").arg(from),
                       QStringLiteral("nothing is redirected"),
-                      QStringLiteral("did you mean \"%1-%2\"?").arg(last).arg(first));
+                      PxSpelling::didYouMean(QStringLiteral("%1-%2").arg(last).arg(first)));
     } else if (from.count(QLatin1Char('-')) > 1) {
         m_product.add(findings, "content-redirect-odd", place,
                       QStringLiteral("the range \"%1\" has more than two parts").arg(from),

@@ -2,6 +2,7 @@
 
 #include "check/PxElementReading.h"
 #include "check/PxMessageText.h"
+#include "check/PxSpelling.h"
 
 #include <algorithm>
 #include <iterator>
@@ -222,7 +223,7 @@ void PxSizeCheck::checkSpace(PxFindings *findings) const
         findings, "space-contradicts-size", place.rangeOf(space),
         QStringLiteral("%1, but the page has %2 cm²").arg(used.encodeCSV()).arg(qRound(area)),
         QStringLiteral("templates and type sizes of \"%1\" are used").arg(used.humanReadableName()),
-        QStringLiteral("did you mean \"%1\"?").arg(PxSpaceMagnitude(nearest->value).encodeCSV()));
+        PxSpelling::didYouMean(PxSpaceMagnitude(nearest->value).encodeCSV()));
 }
 
 bool PxSizeCheck::isInOtherUnit(const PxProductTypeDescription &product)

@@ -32,7 +32,12 @@ QString PxSpelling::nearest(const QString &word, const QStringList &candidates)
 QString PxSpelling::hint(const QString &word, const QStringList &candidates)
 {
     const QString name = nearest(word, candidates);
-    return name.isEmpty() ? QString() : QStringLiteral("did you mean \"%1\"?").arg(name);
+    return name.isEmpty() ? QString() : didYouMean(name);
+}
+
+QString PxSpelling::didYouMean(const QString &name)
+{
+    return QStringLiteral("did you mean \"%1\"?").arg(name);
 }
 
 QStringList PxSpelling::words(const QString &list)

@@ -10,6 +10,8 @@ public:
     static QString nearest(const QString &word, const QStringList &candidates);
     /** The same as a question to the author; empty when none is near. */
     static QString hint(const QString &word, const QStringList &candidates);
+    /** The question for a name that is known to be near. */
+    static QString didYouMean(const QString &name);
     /** Those of a list that uses another separator than the comma. */
     static QStringList words(const QString &list);
 };

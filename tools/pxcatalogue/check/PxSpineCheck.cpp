@@ -2,6 +2,7 @@
 
 #include "check/PxElementReading.h"
 #include "check/PxMessageText.h"
+#include "check/PxSpelling.h"
 
 #include <PxXMLParser.h>
 
@@ -106,16 +107,15 @@ void PxSpineCheck::checkPresence(PxFindings *findings) const
     const PxMissingPart missing =
         m_table ? PxElementReading(*m_table).missingEntries()
                 : PxElementReading(m_product.element()).missingChild(QStringLiteral("spines"));
-    m_product.add(findings, "book-without-page-counts", missing.range,
-                  m_table ? QStringLiteral("the \"spines\" of this book hold no \"spine\"")
-                          : QStringLiteral("a book without \"spines\""),
-                  QStringLiteral("its page counts go from %1 to %2")
-                      .arg(m_product.description().minPages())
-                      .arg(m_product.description().maxPages()),
-                  missing.hint.isEmpty()
-                      ? QStringLiteral("add a \"spine\" for each page count, with the width 0 "
-                                       "when none is printed")
-                      : missing.hint);
+    m_product.add(
+        findings, "book-without-page-counts", missing.range,
+        m_table ? QStringLiteral("the \"spines\" of this book hold no \"spine\"")
+                : QStringLiteral("a book without \"spines\""),
+        QStringLiteral("its page counts go from %1 to %2")
+            .arg(m_product.description().minPages())
+            .arg(m_product.description().maxPages()),
+        missing.hintOr(QStringLiteral("add a \"spine\" for each page count, with the width 0 "
+                                      "when none is printed")));
 }
 
 void PxSpineCheck::checkLength(PxFindings *findings) const
@@ -172,7 +172,7 @@ void PxSpineCheck::checkSteps(PxFindings *findings) const
                                   .arg(m_product.description().pageIncrement()) +
                               nowWithoutSpine(smaller, it.key()),
                           std::next(it).key() == wanted + usual
-                              ? QStringLiteral("did you mean \"%1\"?").arg(wanted)
+                              ? PxSpelling::didYouMean(QString::number(wanted))
                           : step > usual ? QStringLiteral("add a spine for %1 pages").arg(wanted)
                                          : QString());
         isRegular = isRegular && step == usual;
@@ -315,9 +315,7 @@ void PxSpineCheck::checkSpinePage(PxFindings *findings) const
                       QStringLiteral("the spine is %1 wide")
                           .arg(m_product.description().spineWidth(
                               m_spines.isEmpty() ? 0 : m_spines.firstKey())),
-                      missing.hint.isEmpty()
-                          ? QStringLiteral("give its width, or take the spine out")
-                          : missing.hint);
+                      missing.hintOr(QStringLiteral("give its width, or take the spine out")));
     if (m_pages.isGiven() && m_pages.isSound() && !m_product.description().hasSpine() && hasWidth())
         m_product.add(findings, "spine-without-page", m_table->nameRange,
                       QStringLiteral("spines with a width, but \"pages\" lists no spine"),

@@ -112,7 +112,7 @@ void PxThemeCheck::finish(PxFindings *findings) const
                       ? QStringLiteral("there is no default theme")
                       : QStringLiteral("\"%1\", the first theme, is the default theme")
                             .arg(factory->defaultTheme().id()),
-                  meant.isEmpty() ? QString() : QStringLiteral("did you mean \"normal\"?"));
+                  meant.isEmpty() ? QString() : PxSpelling::didYouMean(defaultThemeId()));
 }
 
 QStringList PxThemeCheck::ids() const

@@ -27,17 +27,7 @@ QString expiryHint(const QString &text)
             meant = day.endOfDay().toString(compactFormat);
     }
     return meant.isEmpty() ? QStringLiteral("write year to minute, as in \"205012312359\"")
-                           : QStringLiteral("did you mean \"%1\"?").arg(meant);
-}
-
-PxElementReading readingOf(const PxSourceElement &element, const char *path)
-{
-    return PxElementReading(element, *PxVocabulary::find(PxFileKind::Theme, QLatin1String(path)));
-}
-
-QString either(const QString &hint, const QString &other)
-{
-    return hint.isEmpty() ? other : hint;
+                           : PxSpelling::didYouMean(meant);
 }
 
 } // namespace
@@ -65,7 +55,8 @@ void PxThemeElementCheck::checkId(PxFindings *findings) const
     const PxSourceRange range = m_theme.rangeOf(QStringLiteral("id"));
     if (id.isEmpty()) {
         const bool isThere = m_theme.attribute(QStringLiteral("id"));
-        const PxMissingPart missing = readingOf(m_theme, "theme").missing(QStringLiteral("id"));
+        const PxMissingPart missing =
+            PxElementReading(m_theme, PxFileKind::Theme).missing(QStringLiteral("id"));
         m_file.add(findings, "theme-id-missing", missing.range,
                    isThere ? QStringLiteral("the \"id\" of the theme is empty")
                            : QStringLiteral("the theme has no \"id\""),
@@ -94,13 +85,13 @@ void PxThemeElementCheck::checkGroup(PxFindings *findings) const
     const QString group = m_theme.value(attribute);
     const QString now = QStringLiteral("the theme is not valid");
     if (group.trimmed().isEmpty()) {
-        const PxMissingPart missing = readingOf(m_theme, "theme").missing(attribute);
+        const PxMissingPart missing =
+            PxElementReading(m_theme, PxFileKind::Theme).missing(attribute);
         m_file.add(findings, "theme-group-missing", missing.range,
                    m_theme.attribute(attribute)
                        ? QStringLiteral("the \"producttype\" of the theme is empty")
                        : QStringLiteral("the theme has no \"producttype\""),
-                   now,
-                   either(missing.hint, QStringLiteral("name the product group, as in \"book\"")));
+                   now, missing.hintOr(QStringLiteral("name the product group, as in \"book\"")));
     } else if (!PxProductGroup(group).isValid()) {
         m_file.add(
             findings, "theme-group-unknown", m_theme.rangeOf(attribute),
@@ -116,16 +107,16 @@ void PxThemeElementCheck::checkExpiry(PxFindings *findings) const
     static const QRegularExpression ourDay(QStringLiteral("^\\d{4}-\\d\\d-\\d\\d$"));
     const QString text = m_theme.value(QStringLiteral("expiry"));
     const PxSourceRange range = m_theme.rangeOf(QStringLiteral("expiry"));
-    const PxMissingPart missing = readingOf(m_theme, "theme").missing(QStringLiteral("expiry"));
+    const PxMissingPart missing =
+        PxElementReading(m_theme, PxFileKind::Theme).missing(QStringLiteral("expiry"));
     const QString now = QStringLiteral("the theme has expired, it is never offered");
     if (text.trimmed().isEmpty())
-        m_file.add(
-            findings, "theme-expiry-missing", missing.range,
-            m_theme.attribute(QStringLiteral("expiry"))
-                ? QStringLiteral("the \"expiry\" of the theme is empty")
-                : QStringLiteral("the theme has no \"expiry\""),
-            now,
-            either(missing.hint, QStringLiteral("write year to minute, as in \"205012312359\"")));
+        m_file.add(findings, "theme-expiry-missing", missing.range,
+                   m_theme.attribute(QStringLiteral("expiry"))
+                       ? QStringLiteral("the \"expiry\" of the theme is empty")
+                       : QStringLiteral("the theme has no \"expiry\""),
+                   now,
+                   missing.hintOr(QStringLiteral("write year to minute, as in \"205012312359\"")));
     else if (!m_expiry.isValid())
         m_file.add(findings, "theme-expiry-malformed", range,
                    QStringLiteral("\"%1\" is no date and time").arg(text), now, expiryHint(text));
@@ -242,8 +233,9 @@ void PxThemeElementCheck::checkMissingProducts(const PxSourceElement *products,
                                                PxFindings *findings) const
 {
     const PxMissingPart missing =
-        products ? readingOf(*products, "theme/products").missingEntries()
-                 : readingOf(m_theme, "theme").missingChild(QStringLiteral("products"));
+        products
+            ? PxElementReading(*products, PxFileKind::Theme).missingEntries()
+            : PxElementReading(m_theme, PxFileKind::Theme).missingChild(QStringLiteral("products"));
     if (missing.hint.isEmpty())
         return; // every product is meant
     m_file.add(findings, "theme-products-all-unknown", missing.range,
@@ -256,5 +248,5 @@ PxMissingPart PxThemeElementCheck::missingChild(const PxSourceElement *child,
                                                 const QString &name) const
 {
     return child ? PxMissingPart{child->nameRange, QString()}
-                 : readingOf(m_theme, "theme").missingChild(name);
+                 : PxElementReading(m_theme, PxFileKind::Theme).missingChild(name);
 }

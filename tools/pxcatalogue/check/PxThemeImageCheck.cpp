@@ -1,7 +1,6 @@
 #include "check/PxThemeImageCheck.h"
 
 #include "check/PxElementReading.h"
-#include "vocabulary/PxVocabulary.h"
 
 #include <PxDirectoryConfig.h>
 
@@ -42,9 +41,8 @@ void PxThemeImageCheck::checkLogo(const PxSourceElement &logo, PxFindings *findi
             findings);
         return;
     }
-    const PxElementRow &row =
-        *PxVocabulary::find(PxFileKind::Theme, QStringLiteral("theme/logos/logo"));
-    const PxMissingPart missing = PxElementReading(logo, row).missing(QStringLiteral("filename"));
+    const PxMissingPart missing =
+        PxElementReading(logo, PxFileKind::Theme).missing(QStringLiteral("filename"));
     m_file.add(findings, "theme-image-missing", missing.range,
                QStringLiteral("the logo names no image: \"filename\" is %1")
                    .arg(name ? QLatin1String("empty") : QLatin1String("missing")),

@@ -4,22 +4,11 @@
 #include "check/PxListedProductTypes.h"
 #include "check/PxMessageText.h"
 #include "check/PxThemeImageCheck.h"
-#include "vocabulary/PxVocabulary.h"
 
 #include <PxProductType.h>
 #include <PxXMLParser.h>
 
 #include <limits>
-
-namespace {
-
-PxElementReading readingOf(const PxSourceElement &logo)
-{
-    return PxElementReading(
-        logo, *PxVocabulary::find(PxFileKind::Theme, QStringLiteral("theme/logos/logo")));
-}
-
-} // namespace
 
 void PxThemeLogoCheck::run(const PxSourceElement &logos, PxFindings *findings)
 {
@@ -39,7 +28,7 @@ void PxThemeLogoCheck::checkProduct(const PxSourceElement &logo, PxFindings *fin
     const PxProductType type(name.toUpper());
     PxListedProductTypes &types = PxListedProductTypes::instance();
     if (name.trimmed().isEmpty()) {
-        const PxMissingPart missing = readingOf(logo).missing(booktype);
+        const PxMissingPart missing = PxElementReading(logo, PxFileKind::Theme).missing(booktype);
         m_file.add(
             findings, "theme-logo-product-missing", missing.range,
             QStringLiteral("the logo names no product: \"booktype\" is %1")
@@ -83,7 +72,8 @@ void PxThemeLogoCheck::checkPlace(const PxSourceElement &logo, PxFindings *findi
                    QStringLiteral("it is %1 x %2 large").arg(rect.width()).arg(rect.height()));
         return;
     }
-    const PxMissingPart side = readingOf(logo).missing(missing.constFirst());
+    const PxMissingPart side =
+        PxElementReading(logo, PxFileKind::Theme).missing(missing.constFirst());
     m_file.add(findings, "theme-logo-without-place", side.range,
                QStringLiteral("the logo has no %1")
                    .arg(PxMessageText::quotedList(missing, QStringLiteral(" and no "))),

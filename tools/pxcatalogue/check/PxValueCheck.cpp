@@ -28,7 +28,7 @@ QString integerHint(const PxAttributeRow &row, const PxSourceAttribute &attribut
     if (text.isEmpty())
         return QStringLiteral("give a number, or leave \"%1\" out").arg(attribute.name);
     if (ourHex.match(text).hasMatch())
-        return QStringLiteral("did you mean \"%1\"?").arg(text.toInt(nullptr, 16));
+        return PxSpelling::didYouMean(QString::number(text.toInt(nullptr, 16)));
     const QRegularExpressionMatch millimetres = ourMillimetres.match(text);
     if (!isLength(row) || !millimetres.hasMatch())
         return QString();

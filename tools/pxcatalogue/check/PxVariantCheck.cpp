@@ -1,6 +1,7 @@
 #include "check/PxVariantCheck.h"
 
 #include "check/PxMessageText.h"
+#include "check/PxSpelling.h"
 
 #include <classification/PxProductVariantIdentifiers.h>
 
@@ -48,7 +49,7 @@ void PxVariantCheck::checkEach(const PxSourceElement &list, PxFindings *findings
                       QStringLiteral("\"%1\" has no display name for %2")
                           .arg(identifier, m_product.type().productName()),
                       QStringLiteral("this variant is hidden"),
-                      isNamed(tidy) ? QStringLiteral("did you mean \"%1\"?").arg(tidy) : QString());
+                      isNamed(tidy) ? PxSpelling::didYouMean(tidy) : QString());
     }
 }
 

@@ -120,7 +120,7 @@ void PxVocabularyCheck::addUnknownAttribute(const Place &place, const PxSourceAt
     } else if (!owners.isEmpty() && meant.compare(attribute.name, Qt::CaseInsensitive) != 0) {
         hint = QStringLiteral("it is read on %1").arg(PxMessageText::quotedList(owners));
     } else if (!meant.isEmpty()) {
-        hint = QStringLiteral("did you mean \"%1\"?").arg(meant);
+        hint = PxSpelling::didYouMean(meant);
         now = PxMissingValue::text(place.element, *PxVocabulary::attribute(place.row, meant));
     }
     findings.add("attribute-unknown", attribute.nameRange,
