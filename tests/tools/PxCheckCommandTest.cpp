@@ -26,6 +26,7 @@ private slots:
     void hidesWhatIsKnown();
     void tellsWhatFollowsFromNames_data();
     void tellsWhatFollowsFromNames();
+    void tellsNamesWhenNothingFollows();
     void checksSingleFiles();
     void knowsOtherThemes();
     void tellsADroppedRowOnce();
@@ -305,6 +306,27 @@ void PxCheckCommandTest::tellsWhatFollowsFromNames()
                               .arg(before.count('\n') + 1)
                               .arg(before.size() - before.lastIndexOf('\n'));
     QCOMPARE(findingsOf(check("--pedantic " + file)), QStringList(place + finding));
+}
+
+/** Nothing that is told, or that matters as much. */
+void PxCheckCommandTest::tellsNamesWhenNothingFollows()
+{
+    const QString consequence = "defaults-page-type-missing";
+    const QStringList name("products/cup2.xml:20:32 warning attribute-unknown");
+    const auto findings = [&](const QString &options = QString()) {
+        return findingsOf(check(options + ' ' + cup));
+    };
+    m_sample->replace(cup, "\"urlaub\" pageType", "\"urlaub\" pagetype");
+    QCOMPARE(findings("--only attribute-unknown"), name);
+    QCOMPARE(findings("--skip " + consequence), name);
+    QCOMPARE(findings("--override " + consequence + "=info"), name);
+
+    // An allowance for one of the two is of use, and leaves the other.
+    m_sample->replace(cup, "<productdescription>",
+                      "<!-- check: allow attribute-unknown --><productdescription>");
+    QCOMPARE(findings(), QStringList("products/cup2.xml:20:32 error " + consequence));
+    m_sample->replace(cup, "allow attribute-unknown", "allow " + consequence);
+    QCOMPARE(findings(), name);
 }
 
 void PxCheckCommandTest::checksSingleFiles()

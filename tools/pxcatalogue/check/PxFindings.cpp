@@ -50,7 +50,7 @@ QVector<PxFinding> withoutCauses(const QVector<PxFinding> &findings)
         int worst[] = {-1, -1}; // of the consequences, and of the names
         for (auto finding = first; finding != last; ++finding) {
             int &severity = worst[isOfNameOnly(*finding)];
-            severity = std::max(severity, int(finding->tag->severity));
+            severity = std::max(severity, int(finding->severity));
         }
         const bool areNamesTold = worst[1] > worst[0];
         std::copy_if(first, last, std::back_inserter(left), [&](const PxFinding &finding) {
@@ -99,7 +99,6 @@ QVector<PxFinding> PxFindings::sorted() const
 {
     PxFindings left = *this;
     std::sort(left.m_findings.begin(), left.m_findings.end(), isBefore);
-    left.m_findings = withoutCauses(left.m_findings);
     const QVector<PxAllowances::Allowance> unused = m_allowances.apply(&left.m_findings);
     for (const PxAllowances::Allowance &allowance : unused)
         left.addUnused(allowance);
@@ -110,7 +109,8 @@ QVector<PxFinding> PxFindings::sorted() const
                             (m_isPedantic || finding.severity != PxSeverity::Pedantic);
                  });
     std::sort(wanted.begin(), wanted.end(), isBefore);
-    return wanted;
+    // Not before: what is not told stands for nothing, and an allowance is of use all the same.
+    return withoutCauses(wanted);
 }
 
 void PxFindings::addUnused(const PxAllowances::Allowance &allowance)
