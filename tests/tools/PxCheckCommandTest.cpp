@@ -375,6 +375,8 @@ void PxCheckCommandTest::knowsOtherThemes()
     const QJsonObject json = check("--format json .").json();
     QCOMPARE(json["notChecked"].toArray(), QJsonArray{"defaults-theme-unknown"});
     QCOMPARE(findingsOf(json).size(), 1);
+    QVERIFY(check(".").output().contains(
+        "not checked without the id of every theme: defaults-theme-unknown"));
 }
 
 /** Where the row is checked, too, it is told there and not once more at the product. */

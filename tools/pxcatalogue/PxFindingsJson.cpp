@@ -33,10 +33,11 @@ QJsonObject PxFindingsJson::json() const
     QJsonArray findings;
     for (const PxFinding &finding : m_report.findings)
         findings.append(jsonOf(finding));
-    return {{QStringLiteral("format"), formatVersion},
-            {QStringLiteral("files"), m_report.fileCount},
-            {QStringLiteral("counts"), counts},
-            {QStringLiteral("known"), m_report.knownCount},
-            {QStringLiteral("notChecked"), QJsonArray::fromStringList(m_report.tagsNotChecked)},
-            {QStringLiteral("findings"), findings}};
+    return {
+        {QStringLiteral("format"), formatVersion},
+        {QStringLiteral("files"), m_report.fileCount},
+        {QStringLiteral("counts"), counts},
+        {QStringLiteral("known"), m_report.knownCount},
+        {QStringLiteral("notChecked"), QJsonArray::fromStringList(m_report.tagsNotChecked.keys())},
+        {QStringLiteral("findings"), findings}};
 }

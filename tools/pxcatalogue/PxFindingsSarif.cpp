@@ -92,12 +92,11 @@ QJsonObject PxFindingsSarif::json() const
         results.append(result(finding, QStringLiteral("%1:%2").arg(hash).arg(++occurrences[hash])));
     }
     QJsonArray notes;
-    for (const QString &tag : m_report.tagsNotChecked)
+    for (auto it = m_report.tagsNotChecked.begin(); it != m_report.tagsNotChecked.end(); ++it)
         notes.append(QJsonObject{
             {QStringLiteral("level"), QStringLiteral("note")},
-            {QStringLiteral("associatedRule"), QJsonObject{{QStringLiteral("id"), tag}}},
-            {QStringLiteral("message"), textOf(QStringLiteral("not checked without the whole "
-                                                              "catalogue"))}});
+            {QStringLiteral("associatedRule"), QJsonObject{{QStringLiteral("id"), it.key()}}},
+            {QStringLiteral("message"), textOf(QLatin1String("not checked ") + it.value())}});
     const QJsonObject catalogue{
         {QStringLiteral("description"),
          textOf(QStringLiteral("the resource directory of the catalogue"))}};

@@ -57,9 +57,12 @@ QString PxFindingsText::finding(const PxFinding &finding) const
 QString PxFindingsText::summary() const
 {
     QString text;
-    if (!m_report.tagsNotChecked.isEmpty())
-        text = QLatin1String("not checked without the whole catalogue: ") +
-               m_report.tagsNotChecked.join(QLatin1String(", ")) + QLatin1Char('\n');
+    QMap<QString, QStringList> notChecked; // by what is not there
+    for (auto it = m_report.tagsNotChecked.begin(); it != m_report.tagsNotChecked.end(); ++it)
+        notChecked[it.value()].append(it.key());
+    for (auto it = notChecked.begin(); it != notChecked.end(); ++it)
+        text += QLatin1String("not checked ") + it.key() + QLatin1String(": ") +
+                it->join(QLatin1String(", ")) + QLatin1Char('\n');
     QStringList counts;
     for (const auto &row : severities) {
         const int count = m_report.count(row.severity);

@@ -56,7 +56,10 @@ void PxCheck::run(PxFindings *findings)
                [&](const PxCheckedFile &file) { PxFramesCheck(file).run(findings); });
     const QStringList themeIds = isEveryThemeRead ? themes.ids() : QStringList();
     if (themeIds.isEmpty())
-        findings->setNotChecked(QStringLiteral("defaults-theme-unknown"));
+        findings->setNotChecked(QStringLiteral("defaults-theme-unknown"),
+                                m_paths.themes.isEmpty() && m_paths.knownThemes.isEmpty()
+                                    ? QStringLiteral("without a theme file")
+                                    : QStringLiteral("without the id of every theme"));
     PxDesignCheck design(themeIds);
     for (const QStringList *paths : {&m_paths.products, &m_paths.legacyProducts})
         checkFiles(*paths, PxFileKind::Product, findings, [&](const PxCheckedFile &file) {

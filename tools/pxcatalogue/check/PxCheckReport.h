@@ -3,14 +3,15 @@
 #include "check/PxFinding.h"
 
 #include <QHash>
-#include <QStringList>
+#include <QMap>
 #include <QVector>
 
 /** What a check has found, as it is told in any format. */
 struct PxCheckReport
 {
     QVector<PxFinding> findings; ///< sorted
-    QStringList tagsNotChecked;  ///< which only a check of the whole catalogue can find
+    /** What was not there for them, by tag; as in "without the whole catalogue". */
+    QMap<QString, QString> tagsNotChecked;
     int fileCount = 0;
     int knownCount = 0; ///< findings that are left out because they are known
     /** What the files are called in the catalogue, by their path: the same wherever it lies. */

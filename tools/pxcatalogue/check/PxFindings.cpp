@@ -90,9 +90,10 @@ bool PxFindings::isWanted(const QString &tag) const
     return (m_only.isEmpty() || m_only.contains(tag)) && !m_excluded.contains(tag);
 }
 
-bool PxFindings::isChecked(const PxCheckTag &tag) const
+QString PxFindings::lack(const PxCheckTag &tag) const
 {
-    return !(m_isPartial && tag.needsCatalogue) && !m_notChecked.contains(QLatin1String(tag.name));
+    return m_isPartial && tag.needsCatalogue ? QStringLiteral("without the whole catalogue")
+                                             : m_notChecked.value(QLatin1String(tag.name));
 }
 
 QVector<PxFinding> PxFindings::sorted() const
@@ -128,18 +129,18 @@ void PxFindings::addUnused(const PxAllowances::Allowance &allowance)
         add(unused, allowance.comment,
             QStringLiteral("there is no tag \"%1\" to allow").arg(allowance.tag), now,
             hint.isEmpty() ? QStringLiteral("take the comment out") : hint);
-    } else if (!m_excluded.contains(allowance.tag) && isChecked(*tag)) { // else nobody knows
+    } else if (!m_excluded.contains(allowance.tag) && lack(*tag).isEmpty()) { // else nobody knows
         add(unused, allowance.comment, QStringLiteral("nothing here is \"%1\"").arg(allowance.tag),
             now, QStringLiteral("take the comment out"));
     }
 }
 
-QStringList PxFindings::tagsNotChecked() const
+QMap<QString, QString> PxFindings::tagsNotChecked() const
 {
-    QStringList tags;
+    QMap<QString, QString> tags;
     for (const PxCheckTag *tag : PxCheckTags::all()) {
-        if (!isChecked(*tag) && isWanted(QLatin1String(tag->name)))
-            tags.append(QLatin1String(tag->name));
+        if (!lack(*tag).isEmpty() && isWanted(QLatin1String(tag->name)))
+            tags.insert(QLatin1String(tag->name), lack(*tag));
     }
     return tags;
 }

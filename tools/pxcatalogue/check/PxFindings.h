@@ -3,6 +3,7 @@
 #include "check/PxAllowances.h"
 
 #include <QHash>
+#include <QMap>
 #include <QSet>
 #include <QVector>
 
@@ -20,8 +21,8 @@ public:
     void allow(const QString &tag, const PxPlace &comment, const PxPlace &part, bool isChecked);
     /** Not all files of the catalogue are checked. */
     void setPartial(bool isPartial) { m_isPartial = isPartial; }
-    /** Files that a tag depends on cannot be read. */
-    void setNotChecked(const QString &tag) { m_notChecked.insert(tag); }
+    /** A tag cannot be checked; `lack` is what is not there for it, as in "without themes". */
+    void setNotChecked(const QString &tag, const QString &lack) { m_notChecked[tag] = lack; }
 
     void setSeverity(const QString &tag, PxSeverity severity) { m_severities[tag] = severity; }
     /** Only these tags; all when none are named. */
@@ -35,12 +36,13 @@ public:
 
     /** What is left, by path, line, column and tag. */
     QVector<PxFinding> sorted() const;
-    /** Those that only a check of the whole catalogue can find, when files of it are missing. */
-    QStringList tagsNotChecked() const;
+    /** By tag, those that could be wanted, and what is not there for them. */
+    QMap<QString, QString> tagsNotChecked() const;
 
 private:
     bool isWanted(const QString &tag) const;
-    bool isChecked(const PxCheckTag &tag) const;
+    /** Empty for a tag that is checked. */
+    QString lack(const PxCheckTag &tag) const;
     void addUnused(const PxAllowances::Allowance &allowance);
 
     QVector<PxFinding> m_findings;
@@ -48,7 +50,7 @@ private:
     QHash<QString, PxSeverity> m_severities;
     QSet<QString> m_only;
     QSet<QString> m_excluded;
-    QSet<QString> m_notChecked;
+    QHash<QString, QString> m_notChecked;
     bool m_isPedantic = false;
     bool m_isPartial = false;
 };
