@@ -364,8 +364,9 @@ void PxCheckCommandTest::knowsOtherThemes()
 {
     const QString seasons = "themes/JAHRESZEITEN.XML";
     m_sample->replace(seasons, "\"fruehling\"", "\"normal\"");
-    QCOMPARE(findingsOf(check("--only theme-id-twice " + seasons)),
-             QStringList("themes/JAHRESZEITEN.XML:5:14 error theme-id-twice"));
+    const PxProgramRun twice = check("--only theme-id-twice " + seasons);
+    QCOMPARE(findingsOf(twice), QStringList("themes/JAHRESZEITEN.XML:5:14 error theme-id-twice"));
+    QVERIFY(twice.text().contains(" is also in themes/grundthemen.xml:6 "));
     m_sample->write("draft.xml", m_sample->read("themes/grundthemen.xml"));
     QCOMPARE(findingsOf(check("draft.xml")), QStringList());
 

@@ -10,6 +10,8 @@
 #include <QFileInfo>
 #include <QSet>
 
+#include <algorithm>
+
 namespace {
 
 QString absolute(const QString &path)
@@ -149,9 +151,14 @@ QString PxCheckFiles::findSingleFiles(const QStringList &paths)
     QStringList all;
     const QString problem = findFiles(themes(&all));
     m_paths.strays.clear(); // nobody asked for these
+    // A message that tells of both shall be the same wherever the catalogue lies.
+    const bool areRelative = std::all_of(paths.begin(), paths.end(), QDir::isRelativePath);
     for (const QString &path : qAsConst(all)) {
-        if (!known.contains(absolute(path)))
-            m_paths.knownThemes.append(path);
+        if (known.contains(absolute(path)))
+            continue;
+        const QString name = areRelative ? QDir::current().relativeFilePath(path) : path;
+        m_catalogueNames.insert(name, m_catalogueNames.value(path));
+        m_paths.knownThemes.append(name);
     }
     return problem;
 }
