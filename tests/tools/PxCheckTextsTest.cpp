@@ -76,6 +76,10 @@ void PxCheckTextsTest::tellsWhatBecomesOfIt_data()
         << "<spine pages=\"27\""
         << "the spine for 26 pages is 0 wide hint: did you mean \"26\"?";
 
+    QTest::newRow("a blank before a path") << "image=\"images/"
+                                           << "image=\" images/"
+                                           << "hint: did you mean \"images/mug-handle.png\"?";
+
     // What a parser says in its own words.
     const QString plain = "write \"&amp;\" for \"&\" itself";
     QTest::newRow("ampersand in a text") << "color:black"

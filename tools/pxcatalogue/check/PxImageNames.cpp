@@ -12,6 +12,10 @@ QString PxImageNames::hint(const QString &name, const QFileInfo &file)
     if (m_hintsLeft <= 0)
         return QString();
     --m_hintsLeft;
+    const QString tidy = name.trimmed();
+    const QString path = file.filePath();
+    if (tidy != name && path.endsWith(name) && QFileInfo(path.chopped(name.size()) + tidy).isFile())
+        return PxSpelling::didYouMean(tidy);
     const QString nearest = PxSpelling::nearest(file.fileName(), namesIn(file.path()));
     if (nearest.isEmpty())
         return QString();

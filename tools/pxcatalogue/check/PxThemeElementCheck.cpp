@@ -30,6 +30,13 @@ QString expiryHint(const QString &text)
                            : PxSpelling::didYouMean(meant);
 }
 
+/** For a name that is no known one. */
+QString productHint(const QString &name)
+{
+    return name.contains(QLatin1Char(',')) ? QStringLiteral("write a \"product\" element for each")
+                                           : PxListedProductTypes::instance().hint(name);
+}
+
 } // namespace
 
 PxThemeElementCheck::PxThemeElementCheck(const PxCheckedFile &file, const PxSourceElement &theme)
@@ -218,14 +225,14 @@ void PxThemeElementCheck::checkProducts(PxFindings *findings) const
                       .arg(unknown.constFirst()->dom.text().trimmed())
                 : QStringLiteral("none of %1 names is a known product name").arg(unknown.size()),
             QStringLiteral("the theme is allowed for every product"),
-            types.hint(unknown.constFirst()->dom.text()));
+            productHint(unknown.constFirst()->dom.text()));
         return;
     }
     for (const PxSourceElement *product : unknown)
         m_file.add(
             findings, "theme-product-unknown", product->textRange(),
             QStringLiteral("\"%1\" is no known product name").arg(product->dom.text().trimmed()),
-            QStringLiteral("it is left out"), types.hint(product->dom.text()));
+            QStringLiteral("it is left out"), productHint(product->dom.text()));
 }
 
 /** Names of products that are not where they are read. */
