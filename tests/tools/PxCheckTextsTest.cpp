@@ -99,6 +99,8 @@ void PxCheckTextsTest::tellsWhatBecomesOfIt_data()
                                   << "hint: add the blank, or the quote that is missing before";
     QTest::newRow("dashes in a comment")
         << pages << allowing(" a -- b ") << "29:12: error: \"--\" within a comment";
+    QTest::newRow("no end of a comment") << pages << pages + "<!-- a"
+                                         << "29:30: error: this comment has no end";
 }
 
 void PxCheckTextsTest::tellsWhatBecomesOfIt()

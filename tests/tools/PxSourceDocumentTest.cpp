@@ -91,6 +91,8 @@ void PxSourceDocumentTest::findsFaults_data()
     row("<r><x a='1»<«2'/></r>", Fault::NotWellFormed);
     row("<!-- -->\n»<?xml« version='1.0'?><r/>", Fault::NotWellFormed);
     row("<r><x>text»«", Fault::EndMissing);
+    row("<r><x>text»<!--« </x></r>", Fault::EndMissing);
+    row("<r><x> »<![CDATA[« </x></r>", Fault::EndMissing);
     row("<r/>»x«", Fault::NotWellFormed);
 }
 

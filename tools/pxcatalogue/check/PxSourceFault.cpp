@@ -59,8 +59,10 @@ void PxSourceFault::classify(const QXmlStreamReader &reader, int begin)
         m_message.replace(0, 1, m_message.left(1).toLower());
     m_range = {isEnd ? end : qMax(0, end - 1), end};
     m_isUnclosed = isEnd && !m_open.isEmpty();
-    if (!isEnd && !findUndeclaredEntity(end) && !findWrongEndTag(begin, end) &&
-        !findLateDeclaration(begin, end) && !findSecondAttribute(begin, end))
+    if (isEnd)
+        findMarkupWithoutEnd(begin);
+    else if (!findUndeclaredEntity(end) && !findWrongEndTag(begin, end) &&
+             !findLateDeclaration(begin, end) && !findSecondAttribute(begin, end))
         findUnfinishedTag(begin, end);
     const PxParserWords words(m_message, m_text.left(end));
     if (!words.message().isEmpty()) {
@@ -171,5 +173,37 @@ void PxSourceFault::findUnfinishedTag(int begin, int end)
     } else {
         m_message = QStringLiteral("\"<\" in the value of an attribute");
         m_hint = QStringLiteral("write \"&lt;\"");
+    }
+}
+
+/** The text ends within a comment, or within other markup, and not behind an element's. */
+void PxSourceFault::findMarkupWithoutEnd(int begin)
+{
+    constexpr struct
+    {
+        const char *begin;
+        const char *name;
+        const char *end;
+    } rows[] = {
+        {"<!--", "comment", "-->"},
+        {"<![CDATA[", "CDATA section", "]]>"},
+        {"<?", "processing instruction", "?>"},
+        {"<", "tag", ">"},
+    };
+    while (begin < m_text.size() && m_text.at(begin).isSpace())
+        ++begin;
+    for (const auto &row : rows) {
+        const QLatin1String mark(row.begin);
+        if (!QStringView(m_text).mid(begin).startsWith(mark))
+            continue;
+        m_isUnclosed = false;
+        m_range = {begin, begin + mark.size()};
+        m_message = QStringLiteral("this %1 has no end").arg(QLatin1String(row.name));
+        // What looks like the end of a tag is within a value.
+        const bool isInValue = mark.size() == 1 && m_text.indexOf(QLatin1Char('>'), begin) >= 0 &&
+                               m_text.at(begin + 1) != QLatin1Char('!');
+        m_hint = isInValue ? QStringLiteral("end the value with the quote that it begins with")
+                           : QStringLiteral("end it with \"%1\"").arg(QLatin1String(row.end));
+        return;
     }
 }

@@ -44,6 +44,7 @@ private:
     bool findLateDeclaration(int begin, int end);
     bool findSecondAttribute(int begin, int end);
     void findUnfinishedTag(int begin, int end);
+    void findMarkupWithoutEnd(int begin);
 
     const QString m_text;
     QVector<Element> m_open; // elements whose end tag has not come yet
