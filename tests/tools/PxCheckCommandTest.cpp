@@ -272,6 +272,8 @@ void PxCheckCommandTest::tellsWhatFollowsFromNames_data()
     row(cup, "<usablesize width", "<usablesize »widht", "error size-missing");
     row(cup, "product name=", "product »nam=", "error product-name-missing");
     row(cup, "\"urlaub\" pageType", "\"urlaub\" »pagetype", "error defaults-page-type-missing");
+    row(cup, "\"urlaub\" pageType=\"normalpage", "\"urlaub\" pageType=\"», ",
+        "error defaults-page-type-missing");
     const char *spring = "<defaultcategories background=\"Blumenwiese\" clipart=\"Blüten\"/>";
     row(theme, spring, "<products>»CUP2, CUP1</products>", "error theme-products-all-unknown");
     row(theme, spring, "<products><»produkt>CUP2</produkt></products>",

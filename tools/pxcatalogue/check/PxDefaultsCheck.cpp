@@ -92,17 +92,21 @@ void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry, PxFindings *f
 {
     const QString attribute = QStringLiteral("pageType");
     const QString now = QStringLiteral("no page finds these templates");
-    if (!entry.element().attribute(attribute)) {
+    const QVector<PxSourcePart> parts =
+        PxSourceParts::ofAttribute(m_file, entry.element(), attribute);
+    if (std::all_of(parts.begin(), parts.end(),
+                    [](const PxSourcePart &part) { return part.text.trimmed().isEmpty(); })) {
         const PxMissingPart missing = entry.missing(attribute);
         m_file.add(
             findings, "defaults-page-type-missing", missing.range,
-            QStringLiteral("\"pageType\" is missing"), now,
+            parts.isEmpty() ? QStringLiteral("\"pageType\" is missing")
+                            : QStringLiteral("\"pageType\" names no type of page"),
+            now,
             missing.hintOr(QStringLiteral("name the types of pages, as pageType=\"normalpage\"")));
         return;
     }
     PxFileFindings found(m_file, findings, PxFileFindings::maximumOfList);
-    for (const PxSourcePart &part :
-         PxSourceParts::ofAttribute(m_file, entry.element(), attribute)) {
+    for (const PxSourcePart &part : parts) {
         const PxPageType pageType(part.text);
         const bool isUnion = PxPageEntry::isUnion(pageType);
         const bool isRange = pageType.isValid() && !pageType.matches(PxPageTypeAll);

@@ -136,7 +136,12 @@ bool PxKeywordCheck::checkGap(PxFileFindings &findings) const
             words.append(entry.text);
     }
     const int without = PxVocabulary::decode(m_row.keywords, words.join(QLatin1Char(',')));
-    if (PxVocabulary::decode(m_row.keywords, m_attribute.value) == without && !words.isEmpty())
+    const int all = PxVocabulary::decode(m_row.keywords, m_attribute.value);
+    // Commas alone that stand for nothing are like a missing value that does.
+    const bool isMissing =
+        words.isEmpty() && all == 0 && m_row.defaultText &&
+        PxVocabulary::decode(m_row.keywords, QString::fromLatin1(m_row.defaultText)) == 0;
+    if (words.isEmpty() ? isMissing : all == without)
         return false;
     // The comma before it, or behind it when it is the first.
     const int comma = gap == m_entries.begin() ? gap->whole.end : gap->whole.begin - 1;
