@@ -278,7 +278,8 @@ void PxCheckCommandTest::tellsWhatFollowsFromNames_data()
     row(theme, spring, "<products>»CUP2, CUP1</products>", "error theme-products-all-unknown");
     row(theme, spring, "<products><»produkt>CUP2</produkt></products>",
         "error theme-products-all-unknown");
-    row(theme, spring, "<»product>CUP2</product>", "error theme-products-all-unknown");
+    row(theme, spring, "<»product>CUP2</product><product>BA7</product>",
+        "error theme-products-all-unknown");
     row(theme, "\"fruehling\" producttype", "\"fruehling\" »productype",
         "error theme-group-missing");
     row("producttypes.xml", "code=\"907\"", "»cod=\"907\"", "error product-type-row-dropped");
@@ -287,10 +288,19 @@ void PxCheckCommandTest::tellsWhatFollowsFromNames_data()
         "erwachen</description>\n    <keyaccounts>&#32;»<![CDATA[]]>",
         "warning theme-key-account-malformed");
     row(cup, "<pages>normalpage", "<pages><!--> a, -->normalpage,»x", "error pages-entry-unknown");
+    // A value that was written as an attribute.
+    row(cup, "<variant>color:black</variant>", "<variant »name=\"color:black\"/>",
+        "warning variant-unnamed");
+    row(cup, "<pages>normalpage</pages>", "<pages »value=\"normalpage\"/>",
+        "error pages-entry-empty");
+    row(theme, spring, "<products><product »name=\"CUP2\"/><product name=\"BA7\"/></products>",
+        "error theme-products-all-unknown");
     // Nothing follows, or less than is told of the name.
     row(cup, "<usablesize width", "<usablesize »color=\"\" width", "warning attribute-unknown");
     row(theme, "<description>Goldener Herbst</description>", "<»descripton>Herbst</descripton>",
         "warning element-unknown");
+    row(cup, "</variants>", "</variants><»variant>a</variant><variant>b</variant>",
+        "warning element-misplaced");
 }
 
 /** One mistake is one finding: the one that says what the product or theme lacks for it. */

@@ -53,6 +53,20 @@ PxMissingPart PxElementReading::missing(const QString &attribute) const
                : PxMissingPart{m_element.rangeOf(attribute), QString()};
 }
 
+PxMissingPart PxElementReading::missingText() const
+{
+    const auto isUnknown = [this](const PxSourceAttribute &attribute) {
+        return !PxVocabulary::attribute(m_row, attribute.name) &&
+               !attribute.name.startsWith(QLatin1String("xml")) &&
+               !attribute.name.contains(QLatin1Char(':'));
+    };
+    const auto found =
+        std::find_if(m_element.attributes.begin(), m_element.attributes.end(), isUnknown);
+    return found != m_element.attributes.end() && m_element.dom.text().trimmed().isEmpty()
+               ? PxMissingPart{found->nameRange, QStringLiteral("write it between the tags")}
+               : PxMissingPart{m_element.textRange(), QString()};
+}
+
 bool PxElementReading::isReadable(const QString &attribute) const
 {
     const PxSourceAttribute *own = m_element.attribute(attribute);

@@ -41,6 +41,8 @@ public:
     bool isMisspelt(const QString &attribute) const { return misspelling(attribute); }
     /** An attribute that is missing or empty, where that is a finding. */
     PxMissingPart missing(const QString &attribute) const;
+    /** The text, where that is a finding; its value may have been written as an attribute. */
+    PxMissingPart missingText() const;
     /** The attribute is missing, or can be read. */
     bool isReadable(const QString &attribute) const;
     /** The same of an attribute that is there, and its row. */

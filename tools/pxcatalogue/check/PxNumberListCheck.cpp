@@ -118,7 +118,9 @@ void PxNumberListCheck::checkExtraPage(const PxSourceElement &item, PxFindings *
         missing = PxElementReading(item).missingChild(name);
         message = QStringLiteral("no \"%1\"").arg(name);
     } else if (!hasTarget) {
-        missing = {pages->textRange(), QStringLiteral("pages are whole numbers, as in \"0,2\"")};
+        missing = PxElementReading(*pages).missingText();
+        if (missing.hint.isEmpty())
+            missing.hint = QStringLiteral("pages are whole numbers, as in \"0,2\"");
         message = QStringLiteral("no target page");
     } else if (group.content().filename().trimmed().isEmpty()) {
         missing = PxElementReading(*pdf).missing(QStringLiteral("filename"));

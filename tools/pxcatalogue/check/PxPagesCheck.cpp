@@ -87,12 +87,16 @@ void PxPagesCheck::checkCount(PxFindings *findings) const
 void PxPagesCheck::checkEntry(const PxPageEntry &entry, PxFindings *findings) const
 {
     if (entry.text.isEmpty()) {
-        m_product.add(findings, "pages-entry-empty", entry.range,
+        const PxMissingPart text =
+            PxElementReading(*m_product.element().firstChild(QStringLiteral("pages")))
+                .missingText();
+        m_product.add(findings, "pages-entry-empty", text.hint.isEmpty() ? entry.range : text.range,
                       m_pages.read().size() == 1
                           ? QStringLiteral("the list of pages is empty")
                           : QStringLiteral("an empty entry in the list of pages"),
                       m_pages.hasPage() ? QStringLiteral("it is left out, with a warning each time")
-                                        : nowWithoutPages());
+                                        : nowWithoutPages(),
+                      text.hint);
     } else if (entry.type.isNull()) {
         m_product.add(findings, "pages-entry-unknown", entry.range,
                       QStringLiteral("\"%1\" is no type of page").arg(entry.text),

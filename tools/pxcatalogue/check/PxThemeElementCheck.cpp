@@ -37,6 +37,13 @@ QString productHint(const QString &name)
                                            : PxListedProductTypes::instance().hint(name);
 }
 
+QString unknownText(const PxSourceElement &product)
+{
+    const QString name = product.dom.text().trimmed();
+    return name.isEmpty() ? QStringLiteral("the name of the product is empty")
+                          : QStringLiteral("\"%1\" is no known product name").arg(name);
+}
+
 } // namespace
 
 PxThemeElementCheck::PxThemeElementCheck(const PxCheckedFile &file, const PxSourceElement &theme)
@@ -146,7 +153,9 @@ void PxThemeElementCheck::checkDescription(PxFindings *findings) const
     const PxSourceElement *description = m_theme.firstChild(QStringLiteral("description"));
     if (description && !description->dom.text().trimmed().isEmpty())
         return;
-    const PxMissingPart missing = missingChild(description, QStringLiteral("description"));
+    const PxMissingPart missing =
+        description ? PxElementReading(*description, PxFileKind::Theme).missingText()
+                    : missingChild(description, QStringLiteral("description"));
     m_file.add(findings, "theme-description-missing", missing.range,
                description ? QStringLiteral("the \"description\" of the theme is empty")
                            : QStringLiteral("the theme has no \"description\""),
@@ -189,14 +198,15 @@ void PxThemeElementCheck::checkKeyAccount(const PxSourceElement &account,
     text.toInt(&isNumber);
     if (isNumber)
         return;
-    m_file.add(findings, "theme-key-account-malformed", account.textRange(),
+    const PxMissingPart missing = PxElementReading(account, PxFileKind::Theme).missingText();
+    m_file.add(findings, "theme-key-account-malformed", missing.range,
                text.trimmed().isEmpty()
                    ? QStringLiteral("the key account is empty")
                    : QStringLiteral("\"%1\" is no number of a key account").arg(text.trimmed()),
                QStringLiteral("it counts as key account 0"),
                text.contains(QLatin1Char(','))
                    ? QStringLiteral("write an element for each key account")
-                   : QString());
+                   : missing.hint);
 }
 
 void PxThemeElementCheck::checkProducts(PxFindings *findings) const
@@ -217,22 +227,27 @@ void PxThemeElementCheck::checkProducts(PxFindings *findings) const
         else
             unknown.append(product);
     }
+    const auto textOf = [](const PxSourceElement &product) {
+        return PxElementReading(product, PxFileKind::Theme).missingText();
+    };
     if (!unknown.isEmpty() && !isAnyKnown) {
+        const PxMissingPart text = textOf(*unknown.constFirst());
         m_file.add(
-            findings, "theme-products-all-unknown", products->nameRange,
+            findings, "theme-products-all-unknown",
+            text.hint.isEmpty() ? products->nameRange : text.range,
             unknown.size() == 1
-                ? QStringLiteral("\"%1\" is no known product name, and no other is there")
-                      .arg(unknown.constFirst()->dom.text().trimmed())
+                ? QStringLiteral("%1, and no other is there")
+                      .arg(unknownText(*unknown.constFirst()))
                 : QStringLiteral("none of %1 names is a known product name").arg(unknown.size()),
             QStringLiteral("the theme is allowed for every product"),
-            productHint(unknown.constFirst()->dom.text()));
+            text.hintOr(productHint(unknown.constFirst()->dom.text())));
         return;
     }
-    for (const PxSourceElement *product : unknown)
-        m_file.add(
-            findings, "theme-product-unknown", product->textRange(),
-            QStringLiteral("\"%1\" is no known product name").arg(product->dom.text().trimmed()),
-            QStringLiteral("it is left out"), productHint(product->dom.text()));
+    for (const PxSourceElement *product : unknown) {
+        const PxMissingPart text = textOf(*product);
+        m_file.add(findings, "theme-product-unknown", text.range, unknownText(*product),
+                   QStringLiteral("it is left out"), text.hintOr(productHint(product->dom.text())));
+    }
 }
 
 /** Names of products that are not where they are read. */

@@ -1,5 +1,6 @@
 #include "check/PxVariantCheck.h"
 
+#include "check/PxElementReading.h"
 #include "check/PxMessageText.h"
 #include "check/PxSpelling.h"
 
@@ -17,14 +18,17 @@ void PxVariantCheck::run(PxFindings *findings) const
     const QStringList all = m_product.description().variants();
     const bool isAnyNamed = std::any_of(
         all.begin(), all.end(), [this](const QString &identifier) { return isNamed(identifier); });
-    if (all.size() > 1 && !isAnyNamed)
-        m_product.add(findings, "variant-unnamed", list->nameRange,
+    if (all.size() > 1 && !isAnyNamed) {
+        const PxMissingPart text = PxElementReading(*list->children.constFirst()).missingText();
+        m_product.add(findings, "variant-unnamed",
+                      text.hint.isEmpty() ? list->nameRange : text.range,
                       QStringLiteral("none of the %1 variants has a display name for %2")
                           .arg(all.size())
                           .arg(m_product.type().productName()),
-                      QStringLiteral("the product has no variants"));
-    else
+                      QStringLiteral("the product has no variants"), text.hint);
+    } else {
         checkEach(*list, findings);
+    }
 }
 
 void PxVariantCheck::checkEach(const PxSourceElement &list, PxFindings *findings) const
@@ -33,7 +37,7 @@ void PxVariantCheck::checkEach(const PxSourceElement &list, PxFindings *findings
     for (const PxSourceElement *variant : list.children) {
         const QString identifier = variant->dom.text();
         const PxSourceElement *first = known.value(identifier);
-        if (first) {
+        if (first && !identifier.trimmed().isEmpty()) {
             m_product.add(
                 findings, "variant-twice", variant->textRange(),
                 QStringLiteral("\"%1\" is also in %2")
@@ -45,11 +49,13 @@ void PxVariantCheck::checkEach(const PxSourceElement &list, PxFindings *findings
         if (isNamed(identifier))
             continue;
         const QString tidy = identifier.trimmed().toLower();
-        m_product.add(findings, "variant-unnamed", variant->textRange(),
-                      QStringLiteral("\"%1\" has no display name for %2")
-                          .arg(identifier, m_product.type().productName()),
+        const PxMissingPart text = PxElementReading(*variant).missingText();
+        m_product.add(findings, "variant-unnamed", text.range,
+                      tidy.isEmpty() ? QStringLiteral("the variant is empty")
+                                     : QStringLiteral("\"%1\" has no display name for %2")
+                                           .arg(identifier, m_product.type().productName()),
                       QStringLiteral("this variant is hidden"),
-                      isNamed(tidy) ? PxSpelling::didYouMean(tidy) : QString());
+                      isNamed(tidy) ? PxSpelling::didYouMean(tidy) : text.hint);
     }
 }
 

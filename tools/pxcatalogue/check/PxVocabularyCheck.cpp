@@ -59,7 +59,7 @@ void PxVocabularyCheck::run(PxFindings *findings) const
     if (!isOfKind(*m_file.root()))
         return;
     PxFileFindings ofFile(m_file, findings);
-    checkElement({*m_file.root(), PxVocabulary::root(m_kind), nullptr}, ofFile);
+    checkElement({*m_file.root(), PxVocabulary::root(m_kind), nullptr, nullptr}, ofFile);
 }
 
 /** Whether anything is read from the file; when nothing is, that is told elsewhere. */
@@ -112,11 +112,20 @@ void PxVocabularyCheck::addUnknownAttribute(const Place &place, const PxSourceAt
         return; // somebody else's, or a note about the file as a whole, as its version
 
     QString now;
+    const QString asText = place.row.text == PxTextKind::None
+                               ? QString()
+                               : PxElementReading(place.element, place.row).missingText().hint;
+    // Its neighbour was written in the same way: the first one tells it.
+    if (!asText.isEmpty() && place.before && place.before->name == place.element.name &&
+        !PxElementReading(*place.before, place.row).missingText().hint.isEmpty())
+        return;
     QString hint;
     const QString meant = PxElementReading(place.element, place.row).meant(attribute.name);
     // The same letters are a better guess than another element, and that one than other letters.
     if (hasPrefix) {
         hint = withoutPrefix(local);
+    } else if (!asText.isEmpty()) {
+        hint = asText;
     } else if (!owners.isEmpty() && meant.compare(attribute.name, Qt::CaseInsensitive) != 0) {
         hint = QStringLiteral("it is read on %1").arg(PxMessageText::quotedList(owners));
     } else if (!meant.isEmpty()) {
@@ -159,12 +168,14 @@ void PxVocabularyCheck::checkChildren(const Place &place, PxFileFindings &findin
 {
     QHash<QString, const PxSourceElement *> first;
     bool isFlat = false;
-    for (const PxSourceElement *child : place.element.children) {
-        if (findings.isFull())
-            return;
+    const PxSourceElement *before = nullptr;
+    for (int i = 0; i < place.element.children.size() && !findings.isFull(); ++i) {
+        const PxSourceElement *child = place.element.children.at(i);
         const PxElementRow *row = PxVocabulary::child(place.row, child->name);
+        const PxSourceElement *neighbour = before;
+        before = child;
         if (!row) {
-            addUnknownElement(place, *child, findings);
+            addUnknownElement(place, i, findings);
             continue;
         }
         isFlat = isFlat || isMeantAsEntry(*child, *row);
@@ -172,7 +183,7 @@ void PxVocabularyCheck::checkChildren(const Place &place, PxFileFindings &findin
             row->occurrence == PxOccurrence::First && first.contains(child->name);
         if (!isRepeated) {
             first.insert(child->name, child);
-            checkElement({*child, *row, &place.row}, findings);
+            checkElement({*child, *row, &place.row, neighbour}, findings);
         } else if (!isFlat || !entriesOfSameName(*row)) {
             addRepeated(place, *child, *first.value(child->name), findings);
         }
@@ -195,9 +206,10 @@ void PxVocabularyCheck::addRepeated(const Place &place, const PxSourceElement &c
                  hint);
 }
 
-void PxVocabularyCheck::addUnknownElement(const Place &place, const PxSourceElement &child,
+void PxVocabularyCheck::addUnknownElement(const Place &place, int index,
                                           PxFileFindings &findings) const
 {
+    const PxSourceElement &child = *place.element.children.at(index);
     const QString local = localName(child.name);
     const bool hasPrefix = local != child.name;
     if (hasPrefix && !PxVocabulary::child(place.row, local))
@@ -209,16 +221,7 @@ void PxVocabularyCheck::addUnknownElement(const Place &place, const PxSourceElem
     const PxVocabularySearch search(PxVocabulary::root(m_kind), place.row, place.parent);
     const PxElementRow *owner = hasPrefix ? nullptr : search.parentOf(child.name);
     if (owner) {
-        const QString into = owner == &PxVocabulary::root(m_kind)
-                                 ? QStringLiteral("the document element")
-                                 : PxMessageText::quoted(nameOf(*owner));
-        findings.add("element-misplaced", child.nameRange,
-                     QStringLiteral("\"%1\" directly below \"%2\" is not read")
-                         .arg(child.name, place.element.name),
-                     now,
-                     (owner == place.parent ? QStringLiteral("move it out, into %1")
-                                            : QStringLiteral("put it into %1"))
-                         .arg(into));
+        addMisplaced(place, index, *owner, now, findings);
         return;
     }
     QString hint = hasPrefix ? withoutPrefix(local)
@@ -229,4 +232,32 @@ void PxVocabularyCheck::addUnknownElement(const Place &place, const PxSourceElem
                  QStringLiteral("\"%1\" is not read in \"%2\"")
                      .arg(PxMessageText::shortened(child.name), place.element.name),
                  now, hint);
+}
+
+/** Once for all that stand there in a row: they lack the same container. */
+void PxVocabularyCheck::addMisplaced(const Place &place, int index, const PxElementRow &owner,
+                                     const QString &now, PxFileFindings &findings) const
+{
+    const QVector<const PxSourceElement *> &siblings = place.element.children;
+    const PxSourceElement &child = *siblings.at(index);
+    if (index > 0 && siblings.at(index - 1)->name == child.name)
+        return;
+    const auto end =
+        std::find_if(siblings.begin() + index, siblings.end(),
+                     [&](const PxSourceElement *sibling) { return sibling->name != child.name; });
+    const int count = int(end - siblings.begin()) - index;
+    const QString into = &owner == &PxVocabulary::root(m_kind)
+                             ? QStringLiteral("the document element")
+                             : PxMessageText::quoted(nameOf(owner));
+    const QString what = count == 1 ? QStringLiteral("it") : QStringLiteral("them");
+    findings.add("element-misplaced", child.nameRange,
+                 count == 1 ? QStringLiteral("\"%1\" directly below \"%2\" is not read")
+                                  .arg(child.name, place.element.name)
+                            : QStringLiteral("%1 \"%2\" directly below \"%3\" are not read")
+                                  .arg(count)
+                                  .arg(child.name, place.element.name),
+                 now,
+                 (&owner == place.parent ? QStringLiteral("move %1 out, into %2")
+                                         : QStringLiteral("put %1 into %2"))
+                     .arg(what, into));
 }

@@ -16,12 +16,13 @@ public:
     void run(PxFindings *findings) const;
 
 private:
-    /** An element, what it may be, and what its parent is. */
+    /** An element, what it may be, what its parent is, and its neighbour before; null for none. */
     struct Place
     {
         const PxSourceElement &element;
         const PxElementRow &row;
         const PxElementRow *parent;
+        const PxSourceElement *before;
     };
 
     bool isOfKind(const PxSourceElement &root) const;
@@ -34,8 +35,10 @@ private:
                              PxFileFindings &findings) const;
     void addRepeated(const Place &place, const PxSourceElement &child, const PxSourceElement &first,
                      PxFileFindings &findings) const;
-    void addUnknownElement(const Place &place, const PxSourceElement &child,
-                           PxFileFindings &findings) const;
+    /** The child with that index, and so below. */
+    void addUnknownElement(const Place &place, int index, PxFileFindings &findings) const;
+    void addMisplaced(const Place &place, int index, const PxElementRow &owner, const QString &now,
+                      PxFileFindings &findings) const;
 
     const PxCheckedFile &m_file;
     PxFileKind m_kind;
