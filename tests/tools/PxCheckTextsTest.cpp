@@ -26,8 +26,14 @@ void PxCheckTextsTest::tellsWhatBecomesOfIt_data()
     QTest::newRow("no page is left")
         << pages << "<pages>normalpag</pages>" << noPage + " hint: did you mean \"normalpage\"?";
     QTest::newRow("no page at all") << pages << "<pages/>" << noPage;
-    QTest::newRow("some pages are left") << pages << "<pages>normalpage,x</pages>"
+    QTest::newRow("some pages are left") << pages << "<pages>x,normalpage</pages>"
                                          << "now: it is left out, and the pages behind it move up";
+    QTest::newRow("the last page") << pages << "<pages>normalpage,x</pages>"
+                                   << "now: it is left out 59 files";
+    QTest::newRow("all normal pages") << "normalpages"
+                                      << "normalpags"
+                                      << "the book has 5 pages, whatever page count is ordered "
+                                         "hint: did you mean \"normalpages\"?";
     QTest::newRow("another separator") << pages << "<pages>normalpage/emptypage</pages>"
                                        << "hint: separate pages with commas";
     QTest::newRow("several where one counts")
@@ -108,7 +114,7 @@ void PxCheckTextsTest::tellsWhatBecomesOfIt()
     QFETCH(QString, old);
     QFETCH(QString, mistake);
     QFETCH(QString, text);
-    const bool isOfBook = old.startsWith("<spine ");
+    const bool isOfBook = old.startsWith("<spine ") || old == "normalpages";
     const QString file = isOfBook ? "products/book_mini.xml" : "products/cup2.xml";
     m_sample.replace(file, old, mistake);
     const PxProgramRun run(PX_CATALOGUE_PROGRAM, {"check", m_sample.path()},

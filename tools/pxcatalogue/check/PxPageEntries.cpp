@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-bool PxPageEntry::isRange() const
+bool PxPageEntry::isRange(const PxPageType &type)
 {
     constexpr int ranges = PxPageTypeNormalPages | PxPageTypeSimplexMonthCalendar |
                            PxPageTypeDuplexMonthCalendar | PxPageTypeSimplexYearCalendar;

@@ -12,7 +12,8 @@ struct PxPageEntry
     PxSourceRange range;
 
     /** Stands for as many pages as the product has. */
-    bool isRange() const;
+    bool isRange() const { return isRange(type); }
+    static bool isRange(const PxPageType &type);
     /** Is several types at once. */
     bool isUnion() const { return isUnion(type); }
     static bool isUnion(const PxPageType &type) { return (type.value() & (type.value() - 1)) != 0; }

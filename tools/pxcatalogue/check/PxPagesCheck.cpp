@@ -1,5 +1,6 @@
 #include "check/PxPagesCheck.h"
 
+#include "check/PxEditDistance.h"
 #include "check/PxElementReading.h"
 #include "check/PxSpelling.h"
 #include "vocabulary/PxVocabulary.h"
@@ -8,14 +9,37 @@
 
 namespace {
 
-QString hintFor(const QString &text)
+/** The type of page that is meant. Where all normal pages are missing, those are as good a guess.
+ */
+QString meant(const QString &text, bool isRangeMissing)
+{
+    QStringList names = PxVocabulary::keywordNames(PxKeywordSet::PageType);
+    const QString nearest = PxSpelling::nearest(text, names);
+    if (nearest.isEmpty() || !isRangeMissing)
+        return nearest;
+    names.erase(std::remove_if(names.begin(), names.end(),
+                               [](const QString &name) {
+                                   const PxPageType type(name);
+                                   return !PxPageEntry::isRange(type) || PxPageEntry::isUnion(type);
+                               }),
+                names.end());
+    const QString range = PxSpelling::nearest(text, names);
+    const auto distanceTo = [&](const QString &name) {
+        return PxEditDistance::between(text.toUpper(), name.toUpper(),
+                                       PxEditDistance::Swap::IsOneChange);
+    };
+    return !range.isEmpty() && distanceTo(range) <= distanceTo(nearest) ? range : nearest;
+}
+
+QString hintFor(const QString &text, bool isRangeMissing)
 {
     const QStringList words = PxSpelling::words(text);
     const bool areTypes = std::all_of(
         words.begin(), words.end(), [](const QString &word) { return !PxPageType(word).isNull(); });
-    return words.size() > 1 && areTypes
-               ? QStringLiteral("separate pages with commas")
-               : PxSpelling::hint(text, PxVocabulary::keywordNames(PxKeywordSet::PageType));
+    if (words.size() > 1 && areTypes)
+        return QStringLiteral("separate pages with commas");
+    const QString name = meant(text, isRangeMissing);
+    return name.isEmpty() ? QString() : QStringLiteral("did you mean \"%1\"?").arg(name);
 }
 
 bool isCover(const PxPageEntry &entry)
@@ -63,6 +87,28 @@ QString PxPagesCheck::nowWithoutPages() const
         .arg(m_product.description().pageTypes(1).size());
 }
 
+/** What becomes of a product when this entry is left out. */
+QString PxPagesCheck::nowWithout(const PxPageEntry &entry) const
+{
+    if (!m_pages.hasPage())
+        return nowWithoutPages();
+    if (isRangeMissing())
+        return QStringLiteral("it is left out, and the book has %1 pages, whatever page count is "
+                              "ordered")
+            .arg(m_product.description().pageTypes(1).size());
+    const bool isLast = std::all_of(&entry + 1, m_pages.read().end(),
+                                    [](const PxPageEntry &next) { return next.type.isNull(); });
+    return isLast ? QStringLiteral("it is left out")
+                  : QStringLiteral("it is left out, and the pages behind it move up");
+}
+
+bool PxPagesCheck::isRangeMissing() const
+{
+    return m_product.type().isBook() &&
+           std::none_of(m_pages.read().begin(), m_pages.read().end(),
+                        [](const PxPageEntry &entry) { return entry.isRange(); });
+}
+
 bool PxPagesCheck::hasSeveralPages() const
 {
     const PxProductTypeDescription &description = m_product.description();
@@ -100,10 +146,7 @@ void PxPagesCheck::checkEntry(const PxPageEntry &entry, PxFindings *findings) co
     } else if (entry.type.isNull()) {
         m_product.add(findings, "pages-entry-unknown", entry.range,
                       QStringLiteral("\"%1\" is no type of page").arg(entry.text),
-                      m_pages.hasPage()
-                          ? QStringLiteral("it is left out, and the pages behind it move up")
-                          : nowWithoutPages(),
-                      hintFor(entry.text));
+                      nowWithout(entry), hintFor(entry.text, isRangeMissing()));
     } else if (entry.isUnion()) {
         m_product.add(findings, "page-type-union", entry.range,
                       QStringLiteral("\"%1\" is several types of page at once").arg(entry.text),
@@ -144,9 +187,7 @@ void PxPagesCheck::checkSpinePosition(PxFindings *findings) const
 
 void PxPagesCheck::checkRange(PxFindings *findings) const
 {
-    const bool hasRange = std::any_of(m_pages.read().begin(), m_pages.read().end(),
-                                      [](const PxPageEntry &entry) { return entry.isRange(); });
-    if (hasRange || !m_product.type().isBook())
+    if (!isRangeMissing())
         return;
     m_product.add(findings, "pages-range-missing", m_pages.read().constFirst().range,
                   QStringLiteral("a book whose list of pages has no \"normalpages\""),

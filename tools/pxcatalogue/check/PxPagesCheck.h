@@ -18,6 +18,9 @@ private:
     void checkPresence(PxFindings *findings) const;
     bool hasSeveralPages() const;
     QString nowWithoutPages() const;
+    QString nowWithout(const PxPageEntry &entry) const;
+    /** A book has no page count then. */
+    bool isRangeMissing() const;
     void checkCount(PxFindings *findings) const;
     void checkEntry(const PxPageEntry &entry, PxFindings *findings) const;
     bool checkCoverPosition(PxFindings *findings) const;
