@@ -442,6 +442,16 @@ void PxCheckCommandTest::findsWhatNoExampleShows()
              QStringList("./products/cup2.xml:29:11012 warning pages-too-many"));
     m_sample->restore(cup);
 
+    const QString pillow = "products/pillow_premium.xml";
+    const QString image = "image=\"images/pillow-seam.png\"";
+    m_sample->replace(pillow, image, QString());
+    QCOMPARE(findingsOf(check(".")),
+             QStringList("./products/pillow_premium.xml:11:8 warning surrounding-empty"));
+    m_sample->restore(pillow);
+    m_sample->replace(pillow, image, "hasbindingshade=\"true\"");
+    QCOMPARE(findingsOf(check(".")), QStringList());
+    m_sample->restore(pillow);
+
     QVERIFY(QFile::remove("frames.xml") && mkfifo("frames.xml", 0600) == 0);
     QCOMPARE(findingsOf(check(".")), QStringList("./frames.xml:1:1 error file-unreadable"));
     m_sample->write("producttypes.xml", "\n<types/>");

@@ -1,6 +1,7 @@
 #include "check/PxBarcodeCheck.h"
 
 #include "check/PxElementReading.h"
+#include "check/PxElementRectangle.h"
 #include "check/PxImageCheck.h"
 #include "check/PxMessageText.h"
 #include "check/PxProductPages.h"
@@ -18,14 +19,6 @@ bool isPageNrPlain(const PxSourceElement &barcode)
     const PxElementReading reading(barcode);
     return reading.hasOnlyKnown() && reading.isReadable(QStringLiteral("pageNr")) &&
            reading.isReadable(QStringLiteral("reverseOrder"));
-}
-
-bool isRectPlain(const PxSourceElement &barcode)
-{
-    const PxElementReading reading(barcode);
-    return reading.isReadable(QStringLiteral("x")) && reading.isReadable(QStringLiteral("y")) &&
-           reading.isReadable(QStringLiteral("width")) &&
-           reading.isReadable(QStringLiteral("height"));
 }
 
 } // namespace
@@ -58,22 +51,12 @@ void PxBarcodeCheck::run(PxFindings *findings) const
 bool PxBarcodeCheck::checkRect(int index, PxFindings *findings) const
 {
     const PxSourceElement &element = *m_elements[index];
-    if (!isPageNrPlain(element) || !isRectPlain(element))
+    const PxElementRectangle rectangle(element);
+    if (!isPageNrPlain(element) || !rectangle.isPlain())
         return false;
     if (m_barcodes[index].isValid())
         return true;
-    PxSourceRange place = element.nameRange;
-    QString message = QStringLiteral("the rectangle leaves what can be counted");
-    for (const QString &name : {QStringLiteral("width"), QStringLiteral("height")}) {
-        const PxSourceAttribute *attribute = element.attribute(name);
-        if (attribute && attribute->value.toLongLong() > 0)
-            continue;
-        place = element.rangeOf(name);
-        message = attribute ? QStringLiteral("the %1 is %2").arg(name, attribute->value)
-                            : QStringLiteral("\"%1\" is missing").arg(name);
-        break;
-    }
-    m_product.add(findings, "barcode-empty", place, message,
+    m_product.add(findings, "barcode-empty", rectangle.placeOfFault(), rectangle.fault(),
                   QStringLiteral("there is no barcode on that page"));
     return false;
 }

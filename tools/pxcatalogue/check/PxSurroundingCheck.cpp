@@ -1,6 +1,7 @@
 #include "check/PxSurroundingCheck.h"
 
 #include "check/PxElementReading.h"
+#include "check/PxElementRectangle.h"
 #include "check/PxImageCheck.h"
 #include "check/PxMessageText.h"
 #include "check/PxProductPages.h"
@@ -53,11 +54,43 @@ void PxSurroundingCheck::run(PxFindings *findings) const
     for (const Surrounding &surrounding : m_surroundings) {
         PxImageCheck::run(m_product, *surrounding.element, surrounding.description.image(),
                           findings);
+        checkImage(surrounding, findings);
         if (surrounding.description.surroundingType() == PxSurroundingTypeFrame)
             checkFrame(surrounding, findings);
     }
     if (m_pages.isKnown())
         checkUse(findings);
+}
+
+/**
+ * Whether image and rectangle go together. Without both a surrounding may be there for its shade
+ * alone, or to keep others from a page; and a frame is as large as its page at least.
+ */
+void PxSurroundingCheck::checkImage(const Surrounding &surrounding, PxFindings *findings) const
+{
+    constexpr const char *tag = "surrounding-empty";
+    const QString now = QStringLiteral("nothing is painted, and later surroundings of its pages "
+                                       "are not used");
+    const PxSourceElement &element = *surrounding.element;
+    const PxSurroundingDescription &description = surrounding.description;
+    const PxElementRectangle rectangle(element);
+    const bool isFrame = description.surroundingType() == PxSurroundingTypeFrame;
+    const bool hasImage = !description.image().isEmpty();
+    if (!surrounding.isPlain || !rectangle.isPlain() ||
+        hasImage == description.imageRect().isValid())
+        return;
+    if (hasImage && (!isFrame || rectangle.isGiven())) {
+        m_product.add(findings, tag, rectangle.placeOfFault(),
+                      QStringLiteral("an image without a rectangle: %1").arg(rectangle.fault()),
+                      now);
+    } else if (!hasImage && !isFrame && !description.hasBindingShade()) {
+        const QString image = QStringLiteral("image");
+        m_product.add(
+            findings, tag, element.rangeOf(image),
+            QStringLiteral("a rectangle without an image: \"image\" is %1")
+                .arg(element.attribute(image) ? QLatin1String("empty") : QLatin1String("missing")),
+            now);
+    }
 }
 
 void PxSurroundingCheck::checkFrame(const Surrounding &frame, PxFindings *findings) const

@@ -29,6 +29,7 @@ private:
         bool isHiddenByDoubtful = false;
     };
 
+    void checkImage(const Surrounding &surrounding, PxFindings *findings) const;
     void checkFrame(const Surrounding &frame, PxFindings *findings) const;
     void checkUse(PxFindings *findings) const;
     QVector<PxSurroundingKey> keys() const;
