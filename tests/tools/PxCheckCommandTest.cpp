@@ -450,6 +450,8 @@ void PxCheckCommandTest::findsWhatNoExampleShows()
     m_sample->restore(pillow);
     m_sample->replace(pillow, image, "hasbindingshade=\"true\"");
     QCOMPARE(findingsOf(check(".")), QStringList());
+    m_sample->write(pillow, "<p><products><product name='PILLOW_PREMIUM'/></products></p>");
+    QVERIFY(check(pillow).text().contains("hint: move \"product\" out of \"products\""));
     m_sample->restore(pillow);
 
     QVERIFY(QFile::remove("frames.xml") && mkfifo("frames.xml", 0600) == 0);

@@ -19,6 +19,22 @@ QStringList single(const QString &path)
     return path.isEmpty() ? QStringList() : QStringList(path);
 }
 
+/** For a document element without a product. */
+QString hintForProductOf(const PxSourceElement &root)
+{
+    const QString name = QStringLiteral("product");
+    QStringList children;
+    for (const PxSourceElement *child : root.children) {
+        if (child->firstChild(name))
+            return QStringLiteral("move \"product\" out of \"%1\", directly below \"%2\"")
+                .arg(child->name, root.name);
+        children.append(child->name);
+    }
+    const QString misspelt = PxSpelling::nearest(name, children);
+    return misspelt.isEmpty() ? QString()
+                              : QStringLiteral("write \"product\" for \"%1\"").arg(misspelt);
+}
+
 /** Whether the library reads something from the file: else most checks have nothing to look at. */
 bool isUnderstood(const PxCheckedFile &file, PxFileKind kind)
 {
@@ -100,17 +116,10 @@ void PxCheck::checkProduct(const PxCheckedFile &file, bool isLegacy, PxDesignChe
                            PxCatalogueCheck *catalogue, PxFindings *findings) const
 {
     const PxSourceElement &root = *file.root();
-    const QString name = QStringLiteral("product");
-    if (!root.firstChild(name)) {
-        QStringList children;
-        for (const PxSourceElement *child : root.children)
-            children.append(child->name);
-        const QString misspelt = PxSpelling::nearest(name, children);
+    if (!root.firstChild(QStringLiteral("product"))) {
         file.add(findings, "product-element-missing", root.nameRange,
                  QStringLiteral("no \"product\" element below \"%1\"").arg(root.name),
-                 QStringLiteral("nothing is read from this file"),
-                 misspelt.isEmpty() ? QString()
-                                    : QStringLiteral("write \"product\" for \"%1\"").arg(misspelt));
+                 QStringLiteral("nothing is read from this file"), hintForProductOf(root));
         return;
     }
     const PxCheckedProduct product(file, isLegacy);
