@@ -201,16 +201,21 @@ void PxSpineCheck::checkLastStep(int usual, PxFindings *findings) const
 {
     const auto last = std::prev(m_spines.end());
     const int smaller = std::prev(last).key();
-    if (last.key() - usual <= smaller || !hasWidth())
+    // Three entries without a width may stand for all that lie between them.
+    if (last.key() - usual <= smaller || (!hasWidth() && m_spines.size() < 4))
         return;
     m_product.add(findings, "spine-last-step-long", last.value()->rangeOf(pagesName),
                   QStringLiteral("%1 pages after %2, where other steps are %3")
                       .arg(last.key())
                       .arg(smaller)
                       .arg(usual),
-                  QStringLiteral("the spine for %1 pages is %2 wide")
-                      .arg(smaller + usual)
-                      .arg(m_product.description().spineWidth(smaller + usual)),
+                  hasWidth() ? QStringLiteral("the spine for %1 pages is %2 wide")
+                                   .arg(smaller + usual)
+                                   .arg(m_product.description().spineWidth(smaller + usual))
+                             : QStringLiteral("the page counts go from %1 to %2 in steps of %3")
+                                   .arg(m_product.description().minPages())
+                                   .arg(m_product.description().maxPages())
+                                   .arg(m_product.description().pageIncrement()),
                   QStringLiteral("add a spine for %1 pages").arg(smaller + usual));
 }
 
