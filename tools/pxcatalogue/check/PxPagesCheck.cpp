@@ -39,7 +39,7 @@ QString hintFor(const QString &text, bool isRangeMissing)
     if (words.size() > 1 && areTypes)
         return QStringLiteral("separate pages with commas");
     const QString name = meant(text, isRangeMissing);
-    return name.isEmpty() ? QString() : QStringLiteral("did you mean \"%1\"?").arg(name);
+    return name.isEmpty() ? QString() : PxSpelling::didYouMean(name);
 }
 
 bool isCover(const PxPageEntry &entry)

@@ -112,8 +112,9 @@ bool PxSourceFault::findWrongEndTag(int begin, int end)
     const QString meant = PxSpelling::nearest(name, {expected});
     if (meant.isEmpty())
         m_message = QStringLiteral("no element \"%1\" is open here").arg(name);
-    m_hint = meant.isEmpty() ? QStringLiteral("take the tag out, or open the element before it")
-                             : QStringLiteral("did you mean \"</%1>\"?").arg(meant);
+    m_hint = meant.isEmpty()
+                 ? QStringLiteral("take the tag out, or open the element before it")
+                 : PxSpelling::didYouMean(QLatin1String("</") + meant + QLatin1Char('>'));
     return true;
 }
 
