@@ -83,7 +83,7 @@ void PxWholeWayTest::fromProductToOrder()
                      plain.defaultTemplateForPage(false, pageContext, false);
         shaded += context.findSurrounding(PxSurroundingKey(pageContext, page)).hasBindingShade();
     }
-    QCOMPARE(shaded, 28); // the binding hides a part of each but the cover and the spine
+    QCOMPARE(shaded, 28);    // the binding hides a part of each but the cover and the spine
     QVERIFY(different > 20); // nearly every page has a background of the theme
 
     const PxProductTypeList compatible = context.compatibleProducts();

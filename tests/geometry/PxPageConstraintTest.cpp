@@ -49,10 +49,10 @@ void PxPageConstraintTest::writesOneChildPerElement()
     QStringList children;
     for (QDomElement e = parent.firstChildElement(); !e.isNull(); e = e.nextSiblingElement())
         children.append(pxXml(e));
-    QCOMPARE(children, QStringList({"<pagetype>spine</pagetype>",
-                                    "<pagetype>emptypage, fullcover</pagetype>",
-                                    "<intendetAlignment>TOP</intendetAlignment>",
-                                    "<intendetAlignment>CENTER</intendetAlignment>"}));
+    QCOMPARE(children,
+             QStringList({"<pagetype>spine</pagetype>", "<pagetype>emptypage, fullcover</pagetype>",
+                          "<intendetAlignment>TOP</intendetAlignment>",
+                          "<intendetAlignment>CENTER</intendetAlignment>"}));
 }
 
 QTEST_GUILESS_MAIN(PxPageConstraintTest)
