@@ -168,9 +168,9 @@ QList<File> wildThemes()
     };
     // clang-format off
     return {
-        {"THEMES", "<themes>" + asMany("<theme/>", 5) + "</themes>"},
-        {"IDS", "<themes>" + asMany("<theme id='&lt;&lt;&lt;'/>", 5) + "</themes>"},
-        {"COMMENTS", "<themes>" + asMany("<!---->", 5) + "</themes>"},
+        {"THEMES", "<themes>" + asMany("<theme/>", 8) + "</themes>"},
+        {"IDS", "<themes>" + asMany("<theme id='&lt;&lt;&lt;'/>", 8) + "</themes>"},
+        {"COMMENTS", "<themes>" + asMany("<!---->", 8) + "</themes>"},
         {"KEYACCOUNTS", theme("", "<keyaccounts>" + asMany("<k>99999999999999999999</k>", 2) + "</keyaccounts>")},
         {"PRODUCTS", theme("", "<products>" + asMany("<product>BOOK</product>", 2) + "</products>")},
         {"LOGOS", theme("", "<logos>" + asMany("<logo filename='n' width='2147483647' x='-2147483648'/>", 4) + "</logos>")},
