@@ -117,7 +117,7 @@ QList<File> wild()
     QByteArray spines;
     for (int i = 0; i < 18000; ++i)
         spines += "<spine pages='" + QByteArray::number(18000 - i) + "' width='9'/>";
-    const QByteArray deep = QByteArray("<a>").repeated(250) + asMany("1,", 0).chopped(2000) +
+    const QByteArray deep = QByteArray("<a>").repeated(250) + QByteArray("1,").repeated(200000) +
                             QByteArray("</a>").repeated(250);
     QList<File> files;
     for (const char *number :
@@ -176,7 +176,7 @@ QList<File> wildThemes()
         {"LOGOS", theme("", "<logos>" + asMany("<logo filename='n' width='2147483647' x='-2147483648'/>", 4) + "</logos>")},
         {"IMAGES", theme("thumbnail='/dev/zero'", "<logos>" + images + "</logos>")},
         {"DESCRIPTION", theme("", "<description>" + asMany("ä", 0) + "</description>")},
-        {"DEEPDESCRIPTION", theme("", "<description>" + QByteArray("<a>").repeated(250) + asMany("ä", 0) + QByteArray("</a>").repeated(250) + "</description>")},
+        {"DEEPDESCRIPTION", theme("", "<description>" + QByteArray("<a>").repeated(250) + QByteArray("ä").repeated(200000) + QByteArray("</a>").repeated(250) + "</description>")},
         {"CATEGORIES", theme("", "<defaultcategories background='" + asMany("ä,", 0) + "'/>")},
         {"EXPIRY", theme("expiry='" + asMany("9", 0) + "' producttype='" + asMany("book,", 0) + "'", "")},
     };
