@@ -57,8 +57,6 @@ public:
 
     /** The attribute that may be meant by a name; none that is given already. */
     QString meant(const QString &name) const;
-    /** Whether a missing child is misspelt, or stands elsewhere in the file. */
-    bool isChildMisplaced(const QString &name) const { return misplacedChild(name); }
     /** A child that is missing, where that is a finding. */
     PxMissingPart missingChild(const QString &name) const;
     /** The same of the entries in an element that holds nothing else, which may be there as text.

@@ -8,8 +8,8 @@
 #include <mutex>
 
 /**
- * Reads files in a thread of its own, a few ahead of the one that is looked at, and destroys them
- * there.
+ * Reads files in a thread of its own, a few ahead of the one that is looked at, and destroys there
+ * those whose place is needed again.
  *
  * Reading takes about as long as checking. Checks themselves run in one thread: some count what
  * they have done so far, and findings shall not depend on who was first.
@@ -23,7 +23,7 @@ public:
 
     /**
      * The next file in the order of the paths; to be asked once for each of them. The one before
-     * is gone then.
+     * may be gone then.
      */
     const PxCheckedFile &next();
 

@@ -46,7 +46,7 @@ int PxSourceFault::nextBegin(QXmlStreamReader::TokenType token, int end) const
     return hasTakenBracket ? end - 1 : end;
 }
 
-/** Which names something can be said about; any other fault is told as the parser tells it. */
+/** Finds what can be said better than the parser says it; any other fault is told in its words. */
 void PxSourceFault::classify(const QXmlStreamReader &reader, int begin)
 {
     const int end = qMin(int(reader.characterOffset()), m_text.size());
@@ -121,9 +121,8 @@ bool PxSourceFault::findWrongEndTag(int begin, int end)
 bool PxSourceFault::findLateDeclaration(int begin, int end)
 {
     const int declaration = m_text.indexOf(QLatin1String("<?xml "), begin);
-    if (begin == 0 && declaration == 0)
-        return false; // in its place
-    if (declaration < 0 || declaration >= end)
+    const bool isInPlace = begin == 0 && declaration == 0;
+    if (isInPlace || declaration < 0 || declaration >= end)
         return false;
     m_range = {declaration, declaration + int(qstrlen("<?xml"))};
     m_hint = QStringLiteral("take out what stands before it, blanks and empty lines, too");
@@ -167,7 +166,7 @@ void PxSourceFault::findUnfinishedTag(int begin, int end)
         m_message =
             QStringLiteral("the tag of \"%1\" has no \">\" before this").arg(tag.captured(1));
         m_hint = QStringLiteral("end the tag before the next one begins");
-    } else if (m_text.midRef(quote, end - quote).contains(QLatin1Char('>'))) {
+    } else if (QStringView(m_text).mid(quote, end - quote).contains(QLatin1Char('>'))) {
         m_message = QStringLiteral("the quote that begins here has no end");
         m_hint = QStringLiteral("end the value with the quote that it begins with");
         m_range = {quote, quote + 1};

@@ -29,7 +29,7 @@ public:
     Kind kind() const { return m_kind; }
     /** The element that lacks its end tag, when that is the fault; else null. */
     const Element *unclosed() const { return m_isUnclosed ? &m_open.constLast() : nullptr; }
-    /** What is wrong, as the parser says it, and where: the name in question if there is one. */
+    /** What is wrong, in the parser's words where we have no better ones; at `range()`. */
     QString message() const { return m_message; }
     /** What to do, when more can be said than the message says; else empty. */
     QString hint() const { return m_hint; }
