@@ -33,10 +33,11 @@ void pxForEachPart(QStringView text, Function function)
 inline QList<int> pxIntList(const QString &text)
 {
     QList<int> numbers;
-    pxForEachPart(text, [&](QStringView part) {
+    const QStringView whole(text);
+    pxForEachPart(whole, [&](QStringView part) {
         bool isNumber = false; // a view would make a text of each part
         const int number =
-            text.midRef(int(part.data() - text.data()), int(part.size())).toInt(&isNumber);
+            text.midRef(int(part.data() - whole.data()), int(part.size())).toInt(&isNumber);
         if (isNumber)
             numbers.append(number);
     });

@@ -6,6 +6,7 @@
 #include <PxXMLLoader.h>
 #include <PxXMLParser.h>
 
+#include <QDebug>
 #include <QDomElement>
 #include <QFileInfo>
 

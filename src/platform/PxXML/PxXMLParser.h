@@ -24,7 +24,7 @@ public:
     static bool boolAttribute(const QDomElement &element, const QString &name, bool defaultValue);
     /**
      * A point in time as `yyyyMMddHHmm` or in the long form of ISO 8601, `yyyy-MM-ddTHH:mm:ss`
-     * with or without a time zone, or the date alone; answered in local time.
+     * with or without seconds and a time zone, or the date alone; answered in local time.
      *
      * An unreadable text counts as the default text; when that is unreadable too, the answer is
      * an invalid time.
