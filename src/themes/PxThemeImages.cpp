@@ -1,5 +1,6 @@
 #include "themes/PxThemeImages.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 #include <QFileInfo>
 #include <QImageReader>
@@ -8,6 +9,12 @@ namespace {
 
 constexpr qint64 maximumPixels = 4096LL * 4096;        // of one image
 constexpr qint64 maximumAllPixels = 4 * maximumPixels; // 512 MB, when one takes eight bytes
+
+bool isReadableFile(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.isFile() && file.isReadable();
+}
 
 } // namespace
 
@@ -19,18 +26,36 @@ QImage PxThemeImages::image(const QString &path)
     return *m_imageOfPath.insert(path, read(path));
 }
 
+QString PxThemeImages::fileOf(const QString &path)
+{
+    if (path.isEmpty() || isReadableFile(path))
+        return path;
+    if (m_searchesLeft == 0)
+        return QString();
+    const QList<QByteArray> formats = QImageReader::supportedImageFormats();
+    for (const QByteArray &format : formats) {
+        const QString file = path + QLatin1Char('.') + QString::fromLatin1(format);
+        if (isReadableFile(file))
+            return file;
+    }
+    --m_searchesLeft;
+    return QString();
+}
+
 QImage PxThemeImages::read(const QString &path)
 {
-    if (path.isEmpty() || !QFileInfo(path).isFile())
+    // Image formats are plugins of Qt, which go with the application object.
+    const QString file = QCoreApplication::closingDown() ? QString() : fileOf(path);
+    if (file.isEmpty())
         return QImage();
-    QImageReader reader(path);
+    QImageReader reader(file);
     reader.setDecideFormatFromContent(true);
     if (!reader.canRead())
         return QImage();
     const QSize size = reader.size(); // invalid when the format does not tell it beforehand
     const qint64 pixels = qint64(size.width()) * size.height();
     if (!size.isValid() || pixels > maximumPixels || m_pixels + pixels > maximumAllPixels) {
-        qWarning() << "PxThemeImages::read image is too large, left out:" << path << size;
+        qWarning() << "PxThemeImages::read image is too large, left out:" << file << size;
         return QImage();
     }
     m_pixels += pixels;

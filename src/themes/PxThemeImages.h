@@ -13,12 +13,19 @@
 class PxThemeImages
 {
 public:
-    /** Null for a file that is missing, no regular file, no image, or too large (a warning). */
+    /**
+     * The image of this path, or, as QImage finds it, of the path with the suffix of a format.
+     *
+     * Null for a file that is missing, no regular file, no image, or too large (a warning); and
+     * when the application object was destroyed.
+     */
     QImage image(const QString &path);
 
 private:
+    QString fileOf(const QString &path);
     QImage read(const QString &path);
 
     QHash<QString, QImage> m_imageOfPath;
-    qint64 m_pixels = 0; ///< decoded so far
+    qint64 m_pixels = 0;       ///< decoded so far
+    int m_searchesLeft = 2000; ///< in vain, for a suffix: each asks for a dozen files
 };

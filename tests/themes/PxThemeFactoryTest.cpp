@@ -18,6 +18,7 @@ private slots:
     void strayNodesAreThemesButBlanksAreNot();
     void damagedAndForeignFilesAreLeftOut();
     void bothEndingsAreReadAndTheIndexTakesTheLast();
+    void findsImagesWithoutASuffix();
     void imagesAreReadOnceAndWithinBounds();
     void defaultThemeFallsBackToTheFirst();
     void instanceChoosesTheDefaultTheme();
@@ -129,6 +130,31 @@ void PxThemeFactoryTest::bothEndingsAreReadAndTheIndexTakesTheLast()
                                      "<t id='a'><description>2</description></t></themes>");
     QCOMPARE(factory.loadThemeList(directory).findTheme("a").description(), QString("1"));
     QCOMPARE(factory.findThemes(QString("x,a,,a, a")).descriptionList(), QStringList({"2", "2"}));
+}
+
+void PxThemeFactoryTest::findsImagesWithoutASuffix()
+{
+    m_directory.write("bare/themed", "");
+    QImage(7, 8, QImage::Format_RGB32).save(m_directory.filePath("bare/themed"), "PNG");
+    m_directory.write("bare/both.png/x", ""); // a folder, which is passed over
+    QImage(9, 1, QImage::Format_RGB32).save(m_directory.filePath("bare/both.jpg"));
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(m_directory.filePath(QString()))); // where thumbnails are looked up
+    const auto sizes = [this](const QByteArray &name) {
+        const QByteArray path = "'bare/" + name + "'";
+        const PxTheme theme = load("bare/a.xml", "<themes><t thumbnail=" + path +
+                                                     "><logos><l booktype='BOOK' filename=" + path +
+                                                     "/></logos></t></themes>")
+                                  .value(0);
+        const QSize logo = theme.vemoLogo(7).first.size();
+        return theme.thumbnail().size() == logo ? logo : QSize(-1, -1);
+    };
+    QCOMPARE(sizes("themed"), QSize(7, 8)); // its format follows from the contents
+    QCOMPARE(sizes("both"), QSize(9, 1));
+    QCOMPARE(sizes("both.png"), QSize(0, 0));
+    QCOMPARE(sizes("../logo"), QSize(5, 6));
+    QCOMPARE(sizes("logo"), QSize(0, 0));
+    QVERIFY(QDir::setCurrent(before));
 }
 
 void PxThemeFactoryTest::imagesAreReadOnceAndWithinBounds()

@@ -454,6 +454,11 @@ void PxCheckCommandTest::findsWhatNoExampleShows()
     QVERIFY(check(pillow).text().contains("hint: move \"product\" out of \"products\""));
     m_sample->restore(pillow);
 
+    const QString themes = "themes/grundthemen.xml";
+    m_sample->write(themes,
+                    m_sample->read(themes).replace("images/logo-schule.png", "images/logo-schule"));
+    QCOMPARE(findingsOf(check(".")), QStringList()); // found by the suffix of an image format
+
     QVERIFY(QFile::remove("frames.xml") && mkfifo("frames.xml", 0600) == 0);
     QCOMPARE(findingsOf(check(".")), QStringList("./frames.xml:1:1 error file-unreadable"));
     m_sample->write("producttypes.xml", "\n<types/>");

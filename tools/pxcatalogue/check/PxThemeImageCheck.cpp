@@ -19,6 +19,20 @@ bool isCompiledIn(const QString &path)
     return path.startsWith(QLatin1String(":/")) || path.startsWith(QLatin1String("qrc:"));
 }
 
+/** The path, or the file that QImage finds instead: the path with the suffix of an image format. */
+QString fileOf(const QString &path)
+{
+    if (QFileInfo::exists(path))
+        return path;
+    const QList<QByteArray> formats = QImageReader::supportedImageFormats();
+    for (const QByteArray &format : formats) {
+        const QString file = path + QLatin1Char('.') + QString::fromLatin1(format);
+        if (QFileInfo::exists(file))
+            return file;
+    }
+    return path;
+}
+
 /** The directories that an application may run in, as far as can be guessed. */
 QStringList baseDirectories(const QString &themeFile)
 {
@@ -96,13 +110,13 @@ QString PxThemeImageCheck::fault(const QString &path)
     if (known != m_faults.constEnd())
         return *known;
     QString fault;
-    const QFileInfo info(path);
+    const QFileInfo info(fileOf(path));
     if (!info.exists()) {
         fault = QStringLiteral("there is no file \"%1\"");
     } else if (!info.isFile()) {
         fault = QStringLiteral("\"%1\" is no regular file");
     } else {
-        QImageReader reader(path);
+        QImageReader reader(info.filePath());
         reader.setDecideFormatFromContent(true);
         if (!reader.canRead())
             fault = QStringLiteral("\"%1\" is no image");
