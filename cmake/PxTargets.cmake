@@ -63,6 +63,14 @@ function(px_add_program target)
     install(TARGETS ${target} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 endfunction()
 
+# The environment of tests: no screen, a locale that every machine has, what the sanitizers are to overlook.
+function(px_set_test_environment)
+    set_tests_properties(${ARGN} PROPERTIES TIMEOUT 120 ENVIRONMENT
+        "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;LANGUAGE=;\
+LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0;\
+TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp")
+endfunction()
+
 # One test program of the same name as its source; what it links beside the library follows the name.
 function(px_add_test name)
     add_executable(${name} ${name}.cpp)
@@ -70,10 +78,7 @@ function(px_add_test name)
     set_target_properties(${name} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
     target_link_libraries(${name} PRIVATE PxTestSupport ${ARGN})
     add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES TIMEOUT 120 ENVIRONMENT
-        "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;LANGUAGE=;\
-LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0;\
-TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp")
+    px_set_test_environment(${name})
 endfunction()
 
 # One fuzzer of the same name as its source, part of the target fuzzers; the preset "fuzz" instruments all the rest.

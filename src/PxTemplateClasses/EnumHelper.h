@@ -2,8 +2,8 @@
 
 /**
  * The enumerations that the library shares with the rest of the application, each with its keyword
- * map. The maps are keyed by upper-cased keywords, filled during static initialisation and only
- * read afterwards.
+ * map. The maps are keyed by upper-cased keywords, filled during static initialisation, only read
+ * afterwards and never destroyed: static destructors may still ask for them.
  */
 #include "PxAssemblyWay.h"
 #include "PxImageFXs.h"

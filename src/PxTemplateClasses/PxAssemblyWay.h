@@ -20,9 +20,9 @@ inline QHash<QString, PxAssemblyWay> initGlobalAssemblyWayStringMap()
     return keywordMap(keywords);
 }
 
-inline const QHash<QString, PxAssemblyWay> globalMapAssemblyWayString =
-    initGlobalAssemblyWayStringMap();
-inline const QString globalAssemblyWayDefaultKey = QStringLiteral("factory");
+inline const QHash<QString, PxAssemblyWay> &globalMapAssemblyWayString =
+    *new QHash<QString, PxAssemblyWay>(initGlobalAssemblyWayStringMap());
+inline const QString &globalAssemblyWayDefaultKey = *new QString(QStringLiteral("factory"));
 inline constexpr PxAssemblyWay globalAssemblyWayDefaultValue = PxAssemblyWayFactory;
 
 } // namespace EnumHelper

@@ -8,11 +8,12 @@
  *
  * From several threads it is created once, under `mutex`, and published when it is complete: the
  * pointer alone tells a reader that all is there, locked or not. The object lives until the process
- * ends. Pointer and mutex are function-local statics of the caller. `create` runs under the lock
- * and must not ask for the same instance.
+ * ends. Pointer and mutex are function-local statics of the caller, neither of which is destroyed:
+ * that is why the mutex is no QMutex. `create` runs under the lock and must not ask for the same
+ * instance.
  */
 template <typename T, typename Create>
-T *pxCreateOnce(QAtomicPointer<T> &instance, QMutex &mutex, Create create)
+T *pxCreateOnce(QAtomicPointer<T> &instance, QBasicMutex &mutex, Create create)
 {
     T *object = instance.loadAcquire();
     if (object)

@@ -92,7 +92,7 @@ template <typename ENUM>
 PxEnumToStringTable<ENUM> *PxEnumWrapper<ENUM>::enumToStringTable() const
 {
     static QAtomicPointer<PxEnumToStringTable<ENUM>> ourTable;
-    static QMutex ourMutex;
+    static QBasicMutex ourMutex;
     return pxCreateOnce(ourTable, ourMutex, [this] {
         auto *table = new PxEnumToStringTable<ENUM>;
         fillTable(table);

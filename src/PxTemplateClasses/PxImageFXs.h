@@ -11,15 +11,15 @@ enum PxImageFXs : int {
 
 namespace EnumHelper {
 
-inline const QHash<QString, PxImageFXs> globalMapImageFXsString = [] {
+inline const QHash<QString, PxImageFXs> &globalMapImageFXsString = *[] {
     constexpr PxKeyword<PxImageFXs> keywords[] = {
         {"grayscale", PxImageFXsGrayscale},
         {"none", PxImageFXsNone},
         {"preserve_alpha_channel", PxImageFXsPreserveAlphaChannel},
     };
-    return keywordMap(keywords);
+    return new QHash<QString, PxImageFXs>(keywordMap(keywords));
 }();
-inline const QString globalImageFXsDefaultKey = QStringLiteral("none");
+inline const QString &globalImageFXsDefaultKey = *new QString(QStringLiteral("none"));
 inline constexpr PxImageFXs globalImageFXsDefaultValue = PxImageFXsNone;
 
 } // namespace EnumHelper

@@ -36,9 +36,9 @@ inline QHash<QString, PxPageAlignment> initGlobalPageAlignmentStringMap()
     return keywordMap(keywords);
 }
 
-inline const QHash<QString, PxPageAlignment> globalMapPageAlignmentString =
-    initGlobalPageAlignmentStringMap();
-inline const QString globalPageAlignmentDefaultKey = QStringLiteral("unknown");
+inline const QHash<QString, PxPageAlignment> &globalMapPageAlignmentString =
+    *new QHash<QString, PxPageAlignment>(initGlobalPageAlignmentStringMap());
+inline const QString &globalPageAlignmentDefaultKey = *new QString(QStringLiteral("unknown"));
 /** An unknown alignment is a real side on purpose: a page always lies somewhere. */
 inline constexpr PxPageAlignment globalPageAlignmentDefaultValue = PxPageAlignmentLeft;
 

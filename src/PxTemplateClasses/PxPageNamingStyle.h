@@ -38,9 +38,9 @@ inline QHash<QString, PxPageNamingStyle> initGlobalPageNamingStyleStringMap()
     return keywordMap(keywords);
 }
 
-inline const QHash<QString, PxPageNamingStyle> globalMapPageNamingStyleString =
-    initGlobalPageNamingStyleStringMap();
-inline const QString globalPageNamingStyleDefaultKey = QStringLiteral("UNKNOWN");
+inline const QHash<QString, PxPageNamingStyle> &globalMapPageNamingStyleString =
+    *new QHash<QString, PxPageNamingStyle>(initGlobalPageNamingStyleStringMap());
+inline const QString &globalPageNamingStyleDefaultKey = *new QString(QStringLiteral("UNKNOWN"));
 inline constexpr PxPageNamingStyle globalPageNamingStyleDefaultValue = PxPageNamingStyleUnknown;
 
 } // namespace EnumHelper

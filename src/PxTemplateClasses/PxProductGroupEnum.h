@@ -39,9 +39,9 @@ inline QHash<QString, PxProductGroupEnum> initGlobalProductGroupEnumStringMap()
     return keywordMap(keywords);
 }
 
-inline const QHash<QString, PxProductGroupEnum> globalMapProductGroupEnumString =
-    initGlobalProductGroupEnumStringMap();
-inline const QString globalProductGroupEnumDefaultKey = QStringLiteral("unknown");
+inline const QHash<QString, PxProductGroupEnum> &globalMapProductGroupEnumString =
+    *new QHash<QString, PxProductGroupEnum>(initGlobalProductGroupEnumStringMap());
+inline const QString &globalProductGroupEnumDefaultKey = *new QString(QStringLiteral("unknown"));
 inline constexpr PxProductGroupEnum globalProductGroupEnumDefaultValue = PxProductGroupUnknown;
 
 } // namespace EnumHelper

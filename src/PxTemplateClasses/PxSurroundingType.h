@@ -34,9 +34,9 @@ inline QHash<QString, PxSurroundingType> initGlobalSurroundingTypeStringMap()
     return keywordMap(keywords);
 }
 
-inline const QHash<QString, PxSurroundingType> globalMapSurroundingTypeString =
-    initGlobalSurroundingTypeStringMap();
-inline const QString globalSurroundingTypeDefaultKey = QStringLiteral("unknown");
+inline const QHash<QString, PxSurroundingType> &globalMapSurroundingTypeString =
+    *new QHash<QString, PxSurroundingType>(initGlobalSurroundingTypeStringMap());
+inline const QString &globalSurroundingTypeDefaultKey = *new QString(QStringLiteral("unknown"));
 inline constexpr PxSurroundingType globalSurroundingTypeDefaultValue = PxSurroundingTypeNone;
 
 } // namespace EnumHelper

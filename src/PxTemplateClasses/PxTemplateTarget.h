@@ -23,9 +23,9 @@ inline QHash<QString, PxTemplateTarget> initGlobalTemplateTargetStringMap()
     return keywordMap(keywords);
 }
 
-inline const QHash<QString, PxTemplateTarget> globalMapTemplateTargetString =
-    initGlobalTemplateTargetStringMap();
-inline const QString globalTemplateTargetDefaultKey = QStringLiteral("unknown");
+inline const QHash<QString, PxTemplateTarget> &globalMapTemplateTargetString =
+    *new QHash<QString, PxTemplateTarget>(initGlobalTemplateTargetStringMap());
+inline const QString &globalTemplateTargetDefaultKey = *new QString(QStringLiteral("unknown"));
 inline constexpr PxTemplateTarget globalTemplateTargetDefaultValue = PxTemplateTargetUnknown;
 
 } // namespace EnumHelper

@@ -66,7 +66,7 @@ QString fullKey(const PxProductType &type, const QString &variantId)
 PxProductVariantIdentifiers *PxProductVariantIdentifiers::instance()
 {
     static QAtomicPointer<PxProductVariantIdentifiers> ourInstance;
-    static QMutex ourMutex;
+    static QBasicMutex ourMutex;
     return pxCreateOnce(ourInstance, ourMutex, [] { return new PxProductVariantIdentifiers; });
 }
 

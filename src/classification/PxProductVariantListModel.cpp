@@ -26,7 +26,8 @@ QMap<QString, QColor> createColors()
 
 } // namespace
 
-const QMap<QString, QColor> PxProductVariantListModel::ourColors = createColors();
+const QMap<QString, QColor> &PxProductVariantListModel::ourColors =
+    *new QMap<QString, QColor>(createColors());
 
 PxProductVariantListModel::PxProductVariantListModel(const PxProductType &type, QObject *parent)
     : QAbstractListModel(parent)

@@ -53,7 +53,7 @@ public:
     void setProduct(const PxProductType &type);
 
 private:
-    static const QMap<QString, QColor> ourColors; // by name in lower case
+    static const QMap<QString, QColor> &ourColors; // by name in lower case
 
     QStringList m_names;
     QStringList m_identifiers;

@@ -5,7 +5,7 @@
 PxProductGroupPropertyManager *PxProductGroupPropertyManager::instance()
 {
     static QAtomicPointer<PxProductGroupPropertyManager> ourInstance;
-    static QMutex ourMutex;
+    static QBasicMutex ourMutex;
     return pxCreateOnce(ourInstance, ourMutex, [] { return new PxProductGroupPropertyManager; });
 }
 

@@ -9,7 +9,7 @@ PxLegacyProductTypeConfig::~PxLegacyProductTypeConfig() = default;
 PxLegacyProductTypeConfig *PxLegacyProductTypeConfig::instance()
 {
     static QAtomicPointer<PxLegacyProductTypeConfig> ourInstance;
-    static QMutex ourMutex;
+    static QBasicMutex ourMutex;
     return pxCreateOnce(ourInstance, ourMutex, [] { return new PxLegacyProductTypeConfig; });
 }
 

@@ -48,7 +48,7 @@ PxProductTypeConfigRegistry::~PxProductTypeConfigRegistry() = default;
 PxProductTypeConfigRegistry *PxProductTypeConfigRegistry::instance()
 {
     static QAtomicPointer<PxProductTypeConfigRegistry> ourInstance;
-    static QMutex ourMutex;
+    static QBasicMutex ourMutex;
     return pxCreateOnce(ourInstance, ourMutex,
                         [] { return createRegistry(QStringLiteral("products")); });
 }
@@ -56,7 +56,7 @@ PxProductTypeConfigRegistry *PxProductTypeConfigRegistry::instance()
 PxProductTypeConfigRegistry *PxProductTypeConfigRegistry::legacyInstance()
 {
     static QAtomicPointer<PxProductTypeConfigRegistry> ourInstance;
-    static QMutex ourMutex;
+    static QBasicMutex ourMutex;
     return pxCreateOnce(ourInstance, ourMutex,
                         [] { return createRegistry(QStringLiteral("products/legacy")); });
 }

@@ -99,11 +99,12 @@ void PxProductTypeDescription::updateDefaultUserTemplatesMap(const QDomElement &
 
 void PxProductTypeDescription::readCounts(const QDomElement &product)
 {
-    static const struct
+    struct Row
     {
         QString attribute;
         int PxProductTypeDescription::*member;
-    } counts[] = {
+    };
+    static const auto &ourCounts = *new QVector<Row>{
         {QStringLiteral("safetymargin"), &PxProductTypeDescription::m_safetyMargin},
         {QStringLiteral("defaultSellingPages"), &PxProductTypeDescription::m_defaultSellingPages},
         {QStringLiteral("numOfProducts"), &PxProductTypeDescription::m_explicitNumberOfProducts},
@@ -115,57 +116,60 @@ void PxProductTypeDescription::readCounts(const QDomElement &product)
         {QStringLiteral("editorStartDoublePage"),
          &PxProductTypeDescription::m_editorStartDoublePage},
     };
-    for (const auto &row : counts)
+    for (const Row &row : ourCounts)
         this->*row.member = PxXMLParser::intAttribute(product, row.attribute, this->*row.member);
     m_safetyMargins = PxMargins(m_safetyMargin, m_safetyMargin, m_safetyMargin, m_safetyMargin);
 }
 
 void PxProductTypeDescription::readJigTypes(const QDomElement &product)
 {
-    static const struct
+    struct Row
     {
         QString attribute;
         PxJigTypeEnum jigType;
-    } jigTypes[] = {
+    };
+    static const auto &ourJigTypes = *new QVector<Row>{
         {QStringLiteral("hasContentCategoryComboBox"), PxJigTypeContent},
         {QStringLiteral("showLayoutTab"), PxJigTypeLayout},
         {QStringLiteral("canHaveFading"), PxJigTypePassepartout},
         {QStringLiteral("canHaveClipart"), PxJigTypeClipart},
         {QStringLiteral("canHaveBackground"), PxJigTypeBackground},
     };
-    for (const auto &row : jigTypes)
+    for (const Row &row : ourJigTypes)
         setJigTypeFlag(row.jigType, PxXMLParser::boolAttribute(product, row.attribute, true));
 }
 
 void PxProductTypeDescription::readFlags(const QDomElement &product)
 {
-    static const struct
+    struct Row
     {
         QString attribute;
         bool PxProductTypeDescription::*member;
-    } flags[] = {
+    };
+    static const auto &ourFlags = *new QVector<Row>{
         {QStringLiteral("hasAssistant"), &PxProductTypeDescription::m_hasAssistant},
         {QStringLiteral("horizontalPages"), &PxProductTypeDescription::m_horizontalPages},
         {QStringLiteral("hasHook"), &PxProductTypeDescription::m_hasHook},
         {QStringLiteral("hasHole"), &PxProductTypeDescription::m_hasHole},
         {QStringLiteral("hasLogoOnSpine"), &PxProductTypeDescription::m_mustPaintVemoLogoOnSpine},
     };
-    for (const auto &row : flags)
+    for (const Row &row : ourFlags)
         this->*row.member = PxXMLParser::boolAttribute(product, row.attribute, this->*row.member);
 }
 
 void PxProductTypeDescription::readCardAlignment(const QDomElement &product)
 {
-    static const struct
+    struct Row
     {
         QString attribute;
         CardAlignment alignment;
-    } alignments[] = {
+    };
+    static const auto &ourAlignments = *new QVector<Row>{
         {QStringLiteral("cardStyleAlignment"), CardAlignment::CardStyle},
         {QStringLiteral("varioSingleCardStyleAlignment"), CardAlignment::VarioSingleCardStyle},
         {QStringLiteral("collegeBlockStyleAlignment"), CardAlignment::CollegeBlockStyle},
     };
-    for (const auto &row : alignments) {
+    for (const Row &row : ourAlignments) {
         if (PxXMLParser::boolAttribute(product, row.attribute, false)) {
             m_cardAlignment = row.alignment;
             return;

@@ -5,6 +5,7 @@
 #include <PxListParts.h>
 
 #include <QDomElement>
+#include <QMutex>
 
 #include <algorithm>
 #include <array>
@@ -33,7 +34,9 @@ QString templateName(const QString &text)
         return name;
     if (name.size() > maximumSharedLength)
         return PxDefaultTemplateMap::removeUmlauts(name);
-    static thread_local std::array<QPair<QString, QString>, 256> ourRecentNames;
+    static QBasicMutex ourMutex; // of the names; neither is ever destroyed
+    static auto &ourRecentNames = *new std::array<QPair<QString, QString>, 256>;
+    const QMutexLocker lock(&ourMutex);
     auto &[original, replaced] = ourRecentNames[qHash(name) % ourRecentNames.size()];
     if (original != name) {
         original = name;

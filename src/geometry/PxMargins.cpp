@@ -4,8 +4,8 @@
 
 PxMargins::PxMargins()
 {
-    static const QExplicitlySharedDataPointer<const PxMarginsImpl> ourNullMargins(
-        new PxMarginsImpl);
+    static const auto &ourNullMargins =
+        *new QExplicitlySharedDataPointer<const PxMarginsImpl>(new PxMarginsImpl);
     d = ourNullMargins;
 }
 

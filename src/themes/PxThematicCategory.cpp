@@ -4,13 +4,16 @@
 #include <QHash>
 #include <QObject>
 
-const PxThematicCategory PxThematicCategory::ourRecycleBin(QStringLiteral("Papierkorb"), QString());
-const PxThematicCategory PxThematicCategory::ourMultiColor(QStringLiteral("Multicolor"), QString());
-const PxThematicCategory PxThematicCategory::ourFavourites(QStringLiteral("Favoriten"), QString());
-const PxThematicCategory PxThematicCategory::ourPasspartouts(QStringLiteral("InterneMasken"),
-                                                             QObject::tr("Masken"));
-const PxThematicCategory PxThematicCategory::ourFrames(QStringLiteral("InterneRahmen"),
-                                                       QObject::tr("Rahmen"));
+const PxThematicCategory &PxThematicCategory::ourRecycleBin =
+    *new PxThematicCategory(QStringLiteral("Papierkorb"), QString());
+const PxThematicCategory &PxThematicCategory::ourMultiColor =
+    *new PxThematicCategory(QStringLiteral("Multicolor"), QString());
+const PxThematicCategory &PxThematicCategory::ourFavourites =
+    *new PxThematicCategory(QStringLiteral("Favoriten"), QString());
+const PxThematicCategory &PxThematicCategory::ourPasspartouts =
+    *new PxThematicCategory(QStringLiteral("InterneMasken"), QObject::tr("Masken"));
+const PxThematicCategory &PxThematicCategory::ourFrames =
+    *new PxThematicCategory(QStringLiteral("InterneRahmen"), QObject::tr("Rahmen"));
 
 PxThematicCategory::PxThematicCategory(const QString &name, const QString &visibleName)
     : m_name(name)

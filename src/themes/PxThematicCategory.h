@@ -44,11 +44,11 @@ public:
     bool operator<(const PxThematicCategory &other) const { return m_name < other.m_name; }
 
 private:
-    static const PxThematicCategory ourRecycleBin;
-    static const PxThematicCategory ourMultiColor;
-    static const PxThematicCategory ourFavourites;
-    static const PxThematicCategory ourPasspartouts;
-    static const PxThematicCategory ourFrames;
+    static const PxThematicCategory &ourRecycleBin;
+    static const PxThematicCategory &ourMultiColor;
+    static const PxThematicCategory &ourFavourites;
+    static const PxThematicCategory &ourPasspartouts;
+    static const PxThematicCategory &ourFrames;
 
     QString m_name;
     QString m_visibleName;

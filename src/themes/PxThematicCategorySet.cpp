@@ -26,14 +26,14 @@ PxThematicCategorySet PxThematicCategorySet::createRecycleBinCategory()
 
 PxThematicCategorySet PxThematicCategorySet::specialCategories()
 {
-    static const PxThematicCategorySet ourSpecialCategories = [] {
-        PxThematicCategorySet categories;
-        categories.insert(PxThematicCategory::categoryAll());
-        categories.insert(PxThematicCategory::recycleBin());
-        categories.insert(PxThematicCategory::multiColor());
-        categories.insert(PxThematicCategory::favourites());
-        categories.insert(PxThematicCategory::passpartouts());
-        categories.insert(PxThematicCategory::frames());
+    static const PxThematicCategorySet &ourSpecialCategories = *[] {
+        auto *categories = new PxThematicCategorySet;
+        categories->insert(PxThematicCategory::categoryAll());
+        categories->insert(PxThematicCategory::recycleBin());
+        categories->insert(PxThematicCategory::multiColor());
+        categories->insert(PxThematicCategory::favourites());
+        categories->insert(PxThematicCategory::passpartouts());
+        categories->insert(PxThematicCategory::frames());
         return categories;
     }();
     return ourSpecialCategories;

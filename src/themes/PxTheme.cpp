@@ -3,7 +3,7 @@
 #include <QDebug>
 #include <QHash>
 
-const PxTheme PxTheme::ourVoidTheme;
+const PxTheme &PxTheme::ourVoidTheme = *new PxTheme;
 
 PxTheme::PxTheme() : d(new PxThemeConfig) {}
 

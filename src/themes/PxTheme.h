@@ -80,7 +80,7 @@ public:
     bool operator!=(const PxTheme &other) const { return !(*this == other); }
 
 private:
-    static const PxTheme ourVoidTheme;
+    static const PxTheme &ourVoidTheme;
 
     QExplicitlySharedDataPointer<const PxThemeConfig> d;
 };

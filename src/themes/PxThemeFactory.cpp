@@ -58,11 +58,12 @@ QMap<PxProductTypeEnum, QPair<QImage, QRect>> readLogos(const QDomElement &logos
 
 PxDefaultThematicCategories readDefaultCategories(const QDomElement &defaultCategories)
 {
-    static const struct
+    struct Row
     {
         QString attribute;
         PxJigTypeEnum jigType;
-    } rows[] = {
+    };
+    static const auto &ourRows = *new QVector<Row>{
         {QStringLiteral("background"), PxJigTypeBackground},
         {QStringLiteral("clipart"), PxJigTypeClipart},
         {QStringLiteral("fading"), PxJigTypePassepartout},
@@ -71,8 +72,8 @@ PxDefaultThematicCategories readDefaultCategories(const QDomElement &defaultCate
         {QStringLiteral("layout"), PxJigTypeLayout},
     };
     PxDefaultThematicCategories categories;
-    categories.reserve(int(std::size(rows)));
-    for (const auto &row : rows)
+    categories.reserve(ourRows.size());
+    for (const Row &row : ourRows)
         categories.insert(row.jigType,
                           PxThematicCategory(PxXMLParser::attribute(defaultCategories,
                                                                     row.attribute, QString(), true),
@@ -149,7 +150,7 @@ PxTheme readTheme(const QDomElement &theme, PxThemeImages &images)
 PxThemeFactory *PxThemeFactory::instance()
 {
     static QAtomicPointer<PxThemeFactory> ourInstance;
-    static QMutex ourMutex;
+    static QBasicMutex ourMutex;
     return pxCreateOnce(ourInstance, ourMutex, [] {
         auto *factory = new PxThemeFactory;
         factory->init();

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <iterator>
 
-const QStringList PxThemeList::ourReverseOrderedThemeNames = {
+const QStringList &PxThemeList::ourReverseOrderedThemeNames = *new QStringList{
     QStringLiteral("normal"), QStringLiteral("design"), QStringLiteral("albfreetheme")};
 
 namespace {

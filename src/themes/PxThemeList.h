@@ -40,5 +40,5 @@ public:
     void normalize();
 
 private:
-    static const QStringList ourReverseOrderedThemeNames;
+    static const QStringList &ourReverseOrderedThemeNames;
 };

@@ -11,7 +11,7 @@
 PxHumanReadable *PxHumanReadable::instance()
 {
     static QAtomicPointer<PxHumanReadable> ourInstance;
-    static QMutex ourMutex;
+    static QBasicMutex ourMutex;
     return pxCreateOnce(ourInstance, ourMutex, [] { return new PxHumanReadable; });
 }
 

@@ -2,6 +2,7 @@
 
 #include <PxCreateOnce.h>
 
+#include <QCoreApplication>
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
@@ -29,12 +30,23 @@ QString installedResources()
     return absolute(directory.absoluteFilePath(QStringLiteral(PX_RESOURCES_FROM_LIBRARY)));
 }
 
+/**
+ * Qt keeps the name of the application, which is part of a path, in an object that it creates on
+ * first use and destroys in reverse order: created when this library is loaded, it outlives the
+ * static objects of the program, whose destructors may still read files.
+ */
+void keepApplicationName()
+{
+    QCoreApplication::applicationName();
+}
+Q_CONSTRUCTOR_FUNCTION(keepApplicationName)
+
 } // namespace
 
 PxDirectoryConfig *PxDirectoryConfig::instance()
 {
     static QAtomicPointer<PxDirectoryConfig> ourInstance;
-    static QMutex ourMutex;
+    static QBasicMutex ourMutex;
     return pxCreateOnce(ourInstance, ourMutex, [] { return new PxDirectoryConfig; });
 }
 

@@ -7,7 +7,7 @@
 PxPageOrganizationManager *PxPageOrganizationManager::instance()
 {
     static QAtomicPointer<PxPageOrganizationManager> ourInstance;
-    static QMutex ourMutex;
+    static QBasicMutex ourMutex;
     return pxCreateOnce(ourInstance, ourMutex, [] { return new PxPageOrganizationManager; });
 }
 

@@ -9,7 +9,7 @@
 PxProductCheckerRegistry *PxProductCheckerRegistry::instance()
 {
     static QAtomicPointer<PxProductCheckerRegistry> ourInstance;
-    static QMutex ourMutex;
+    static QBasicMutex ourMutex;
     return pxCreateOnce(ourInstance, ourMutex, [] { return new PxProductCheckerRegistry; });
 }
 

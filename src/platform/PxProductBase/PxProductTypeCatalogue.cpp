@@ -19,7 +19,8 @@ constexpr PxKeyword<PxProductClass> classKeywords[] = {
 
 PxProductClass readClass(const QDomElement &row)
 {
-    static const QHash<QString, PxProductClass> ourKeywords = EnumHelper::keywordMap(classKeywords);
+    static const auto &ourKeywords =
+        *new QHash<QString, PxProductClass>(EnumHelper::keywordMap(classKeywords));
     return EnumHelper::decodeKeyword(row.attribute(QStringLiteral("class")), ourKeywords,
                                      PxProductClassUnknown);
 }
@@ -34,7 +35,7 @@ QString nameKey(const QString &name)
 const PxProductTypeCatalogue *PxProductTypeCatalogue::instance()
 {
     static QAtomicPointer<PxProductTypeCatalogue> ourInstance;
-    static QMutex ourMutex;
+    static QBasicMutex ourMutex;
     return pxCreateOnce(ourInstance, ourMutex, [] {
         const QString name = QStringLiteral("producttypes.xml");
         return new PxProductTypeCatalogue(

@@ -1,7 +1,45 @@
 #include "PxXMLEncoding.h"
 
-#include <QRegularExpression>
 #include <QTextCodec>
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+/**
+ * Qt destroys its codecs in reverse order of their first use: used when this library is loaded,
+ * they outlive the static objects of the program, whose destructors may still read files.
+ */
+void keepCodecs()
+{
+    QTextCodec::codecForName("UTF-8");
+}
+Q_CONSTRUCTOR_FUNCTION(keepCodecs)
+
+bool isQuote(char c)
+{
+    return c == '"' || c == '\'';
+}
+
+/** Not by a regular expression: Qt cannot match any more while the process ends. */
+std::optional<QByteArray> declaredEncoding(const QByteArray &declaration)
+{
+    const QByteArray name = QByteArrayLiteral("encoding");
+    for (int at = declaration.indexOf(name); at > 0; at = declaration.indexOf(name, at + 1)) {
+        const bool isWord = declaration.mid(at - 1, 1).trimmed().isEmpty();
+        const QByteArray equals = declaration.mid(at + name.size()).trimmed();
+        const QByteArray value = equals.mid(1).trimmed();
+        if (!isWord || !equals.startsWith('=') || value.isEmpty() || !isQuote(value.front()))
+            continue;
+        const auto end = std::find_if(value.begin() + 1, value.end(), isQuote);
+        if (end != value.end())
+            return value.mid(1, int(end - value.begin()) - 1);
+    }
+    return std::nullopt;
+}
+
+} // namespace
 
 QTextCodec *PxXMLEncoding::codecOf(const QByteArray &bytes)
 {
@@ -12,12 +50,8 @@ QTextCodec *PxXMLEncoding::codecOf(const QByteArray &bytes)
         return QTextCodec::codecForName("UTF-16BE");
     if (bytes.size() > 1 && bytes.at(1) == '\0')
         return QTextCodec::codecForName("UTF-16LE");
-    static const QRegularExpression ourEncoding(
-        QStringLiteral("\\sencoding\\s*=\\s*[\"']([^\"']*)[\"']"));
-    const QRegularExpressionMatch declared =
-        ourEncoding.match(QString::fromLatin1(declaration(bytes)));
-    return QTextCodec::codecForName(declared.hasMatch() ? declared.captured(1).toLatin1()
-                                                        : QByteArrayLiteral("UTF-8"));
+    return QTextCodec::codecForName(
+        declaredEncoding(declaration(bytes)).value_or(QByteArrayLiteral("UTF-8")));
 }
 
 QByteArray PxXMLEncoding::declaration(const QByteArray &text)

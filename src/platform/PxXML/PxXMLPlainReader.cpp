@@ -1,7 +1,6 @@
 #include "PxXMLPlainReader.h"
 
 #include "PxXMLLoader.h"
-#include "PxXMLTextPool.h"
 
 #include <algorithm>
 #include <array>
@@ -87,7 +86,6 @@ std::optional<QString> resolved(QStringView text)
 
 PxXMLPlainReader::PxXMLPlainReader(std::string_view text)
     : m_text(text)
-    , m_texts(PxXMLTextPool::ofThread())
     , m_document(QDomDocumentType())
     , m_parent(m_document)
 {}
@@ -171,7 +169,7 @@ bool PxXMLPlainReader::readStartTag()
     if (name.empty() || (m_open.empty() && m_hasRoot) ||
         int(m_open.size()) >= PxXMLLoader::maximumDepth)
         return false;
-    QDomElement element = m_document.createElement(m_texts.text(name));
+    QDomElement element = m_document.createElement(m_texts->text(name));
     m_attributes.clear();
     bool hasBlank = skipBlanks();
     while (hasBlank && is(current(), NameStart)) {
@@ -214,7 +212,7 @@ bool PxXMLPlainReader::readAttribute(QDomElement &element)
     const std::optional<QString> decoded = decode(value);
     if (!decoded || ++m_nodes > maximumNodes)
         return false;
-    element.setAttribute(m_texts.text(name), *decoded);
+    element.setAttribute(m_texts->text(name), *decoded);
     return true;
 }
 
@@ -291,7 +289,7 @@ std::optional<QString> PxXMLPlainReader::decode(std::string_view utf8)
     // A byte order mark at the start would get lost, though here it is a character like others.
     if (!isAscii && utf8.substr(0, byteOrderMark.size()) == byteOrderMark)
         return std::nullopt;
-    QString text = m_texts.text(utf8);
+    QString text = m_texts->text(utf8);
     // What is no UTF-8 becomes the replacement character, and no character has the last two codes.
     if (!isAscii && (text.contains(QChar::ReplacementCharacter) || text.contains(QChar(0xFFFE)) ||
                      text.contains(QChar(0xFFFF))))

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "PxXMLTextPool.h"
+
 #include <QDomDocument>
 
 #include <optional>
 #include <string_view>
 #include <vector>
 
-class PxXMLTextPool;
 
 /**
  * Reads the XML that nearly all files are made of, in a third of the time of a full parser.
@@ -44,7 +45,7 @@ private:
 
     std::string_view m_text;
     std::size_t m_position = 0;
-    PxXMLTextPool &m_texts;
+    const PxXMLTextPool::Loan m_texts = PxXMLTextPool::lend();
     QDomDocument m_document;
     QDomNode m_parent;
     QDomNode m_textNode; // to be copied: copies share its name, which a new one allocates

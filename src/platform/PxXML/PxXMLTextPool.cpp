@@ -1,11 +1,32 @@
 #include "PxXMLTextPool.h"
 
 #include <QHashFunctions>
+#include <QMutex>
+#include <QVector>
 
-PxXMLTextPool &PxXMLTextPool::ofThread()
+namespace {
+
+QBasicMutex poolMutex;
+
+/** Under the mutex. */
+QVector<PxXMLTextPool *> &idlePools()
 {
-    static thread_local PxXMLTextPool ourPool;
-    return ourPool;
+    static auto &ourPools = *new QVector<PxXMLTextPool *>;
+    return ourPools;
+}
+
+} // namespace
+
+PxXMLTextPool::Loan PxXMLTextPool::lend()
+{
+    const QMutexLocker lock(&poolMutex);
+    return Loan(idlePools().isEmpty() ? new PxXMLTextPool : idlePools().takeLast());
+}
+
+void PxXMLTextPool::GiveBack::operator()(PxXMLTextPool *pool) const
+{
+    const QMutexLocker lock(&poolMutex);
+    idlePools().append(pool);
 }
 
 QString PxXMLTextPool::text(std::string_view utf8)

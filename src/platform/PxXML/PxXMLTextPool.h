@@ -4,18 +4,31 @@
 #include <QString>
 
 #include <array>
+#include <memory>
 #include <string_view>
 
 /**
  * Makes texts of UTF-8, of recurring ones the same: names and values recur all over a catalogue.
  *
- * One a thread, so that it outlives a file. A slot holds the last short text of its hash value, so
- * a file made of collisions costs no more than one without recurring texts.
+ * A slot holds the last short text of its hash value, so a file made of collisions costs no more
+ * than one without recurring texts.
  */
 class PxXMLTextPool
 {
 public:
-    static PxXMLTextPool &ofThread();
+    struct GiveBack
+    {
+        void operator()(PxXMLTextPool *pool) const;
+    };
+    using Loan = std::unique_ptr<PxXMLTextPool, GiveBack>;
+
+    /**
+     * A pool that nobody else uses until it is given back: the one given back last, with its texts.
+     *
+     * Pools outlive files and threads, and are never destroyed: the last static destructor of a
+     * process may load a file. There are as many as files were ever loaded at the same time.
+     */
+    static Loan lend();
 
     /** The text; not null when it is empty: an empty attribute is no missing one. */
     QString text(std::string_view utf8);

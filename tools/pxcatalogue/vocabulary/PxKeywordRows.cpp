@@ -192,23 +192,33 @@ int decodeAs(const QString &text)
     return WRAPPER(text).value();
 }
 
-template <const auto &map>
+// The shared map of an enumeration.
+// clang-format off
+const auto &mapOf(PxPageNamingStyle) { return EnumHelper::globalMapPageNamingStyleString; }
+const auto &mapOf(PxAssemblyWay) { return EnumHelper::globalMapAssemblyWayString; }
+const auto &mapOf(PxImageFXs) { return EnumHelper::globalMapImageFXsString; }
+const auto &mapOf(PxSurroundingType) { return EnumHelper::globalMapSurroundingTypeString; }
+const auto &mapOf(PxPageAlignment) { return EnumHelper::globalMapPageAlignmentString; }
+const auto &mapOf(PxProductGroupEnum) { return EnumHelper::globalMapProductGroupEnumString; }
+// clang-format on
+
+template <typename ENUM>
 bool isKeywordIn(const QString &word)
 {
-    const auto none = static_cast<std::decay_t<decltype(*map.begin())>>(noKeyword);
-    return EnumHelper::decodeKeyword(word, map, none) != none;
+    const auto none = static_cast<ENUM>(noKeyword);
+    return EnumHelper::decodeKeyword(word, mapOf(none), none) != none;
 }
 
-template <const auto &map, auto fallback>
+template <auto fallback>
 int decodeWord(const QString &text)
 {
-    return EnumHelper::decodeKeyword(text, map, fallback);
+    return EnumHelper::decodeKeyword(text, mapOf(fallback), fallback);
 }
 
-template <const auto &map, auto fallback>
+template <auto fallback>
 int decodeList(const QString &text)
 {
-    return EnumHelper::decodeKeywordList(text, map, fallback);
+    return EnumHelper::decodeKeywordList(text, mapOf(fallback), fallback);
 }
 
 bool isMaterial(const QString &word)
@@ -248,28 +258,28 @@ PxRows<PxKeywordSetRow> keywordSetRows()
          isKeywordOf<PxPageType>, decodeAs<PxPageType>},
         {PxKeywordSet::PageNamingStyle, "page naming style", pageNamingStyles,
          globalPageNamingStyleDefaultValue, "no naming style",
-         isKeywordIn<globalMapPageNamingStyleString>,
-         decodeList<globalMapPageNamingStyleString, globalPageNamingStyleDefaultValue>},
+         isKeywordIn<PxPageNamingStyle>,
+         decodeList<globalPageNamingStyleDefaultValue>},
         {PxKeywordSet::AssemblyWay, "way of assembly", assemblyWays,
          globalAssemblyWayDefaultValue, "factory",
-         isKeywordIn<globalMapAssemblyWayString>,
-         decodeList<globalMapAssemblyWayString, globalAssemblyWayDefaultValue>},
+         isKeywordIn<PxAssemblyWay>,
+         decodeList<globalAssemblyWayDefaultValue>},
         {PxKeywordSet::ImageEffect, "image effect", imageEffects,
          globalImageFXsDefaultValue, "none",
-         isKeywordIn<globalMapImageFXsString>,
-         decodeList<globalMapImageFXsString, globalImageFXsDefaultValue>},
+         isKeywordIn<PxImageFXs>,
+         decodeList<globalImageFXsDefaultValue>},
         {PxKeywordSet::SurroundingType, "surrounding type", surroundingTypes,
          globalSurroundingTypeDefaultValue, "no surrounding",
-         isKeywordIn<globalMapSurroundingTypeString>,
-         decodeWord<globalMapSurroundingTypeString, globalSurroundingTypeDefaultValue>},
+         isKeywordIn<PxSurroundingType>,
+         decodeWord<globalSurroundingTypeDefaultValue>},
         {PxKeywordSet::Alignment, "alignment", alignments,
          globalPageAlignmentDefaultValue, "left",
-         isKeywordIn<globalMapPageAlignmentString>,
-         decodeList<globalMapPageAlignmentString, globalPageAlignmentDefaultValue>},
+         isKeywordIn<PxPageAlignment>,
+         decodeList<globalPageAlignmentDefaultValue>},
         {PxKeywordSet::ProductGroup, "product group", productGroups,
          globalProductGroupEnumDefaultValue, "no product group",
-         isKeywordIn<globalMapProductGroupEnumString>,
-         decodeWord<globalMapProductGroupEnumString, globalProductGroupEnumDefaultValue>},
+         isKeywordIn<PxProductGroupEnum>,
+         decodeWord<globalProductGroupEnumDefaultValue>},
         {PxKeywordSet::Orientation, "orientation", orientations, 0, "no orientation",
          isKeywordOf<PxOrientation>, decodeAs<PxOrientation>},
         {PxKeywordSet::Material, "material", materials, 0, "no material",
