@@ -179,15 +179,15 @@ void PxProductTypeDescription::readCardAlignment(const QDomElement &product)
 
 void PxProductTypeDescription::readUserDefaults(const QString &productName)
 {
-    // A product file may hold any name; it shall not lead out of the directory.
-    const QDir directory(PxDirectoryConfig::instance()->userDefaultsPath());
-    // Opened is what was tested: through links, the name as it stands could lead elsewhere.
-    const QString name = QDir::cleanPath(productName + QLatin1String(".xml"));
-    if (name.startsWith(QLatin1String("../")))
+    // A product file may hold any name; resolved, it must still lie in the directory. Opened is the
+    // resolved path: through links, the name as it stands could lead elsewhere.
+    const QString directory =
+        QDir::cleanPath(PxDirectoryConfig::instance()->userDefaultsPath()) + QLatin1Char('/');
+    const QString path = QDir::cleanPath(directory + productName + QLatin1String(".xml"));
+    if (!path.startsWith(directory))
         return;
     // A missing or damaged file is nothing to report: few users have defaults of their own.
-    const QDomDocument document =
-        PxXMLLoader::loadDocument(QFileInfo(directory.path() + QLatin1Char('/') + name));
+    const QDomDocument document = PxXMLLoader::loadDocument(QFileInfo(path));
     updateDefaultUserTemplatesMap(
         document.firstChild().firstChildElement(QStringLiteral("defaults")));
 }

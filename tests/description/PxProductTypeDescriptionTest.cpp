@@ -246,13 +246,19 @@ void PxProductTypeDescriptionTest::userDefaultsComeFirst()
     m_directory.write("user/DAMAGED.xml", defaults.left(60));
     m_directory.write("OUTSIDE.xml", defaults);
     const PxLogRecorder log;
-    for (const QString name : {"READ", "DECLARATION", "DAMAGED", "MISSING", "../OUTSIDE"}) {
+    m_directory.write("user/sub/BELOW.xml", defaults);
+    m_directory.write("user-other/OUTSIDE.xml", defaults);
+    const QStringList read{"READ", "sub/BELOW", "sub/../READ", "../user/READ", "/READ"};
+    for (const QString &name :
+         read + QStringList{"DECLARATION", "DAMAGED", "MISSING", "../OUTSIDE", "/../OUTSIDE",
+                            "sub/../../OUTSIDE", "//../OUTSIDE", "/./../OUTSIDE",
+                            "../user-other/OUTSIDE"}) {
         const PxProductTypeDescription d =
             describe("name='" + name + "'", "<defaults><defaults pageType='normalpage' "
                                             "alignment='left' background='file'/></defaults>");
         const PxDefaultTemplateKey key("normal", {}, DefaultTemplateTypeBackground);
         QCOMPARE(name + d.findDefaultTemplate(key, true, true),
-                 name + (name == "READ" ? "mine" : "file"));
+                 name + (read.contains(name) ? "mine" : "file"));
         QCOMPARE(d.findDefaultTemplate(key, true, false), QString("file"));
     }
     QCOMPARE(log.texts(), QStringList());
