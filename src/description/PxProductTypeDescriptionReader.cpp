@@ -1,7 +1,6 @@
 #include "description/PxProductTypeDescriptionReader.h"
 
 #include "description/PxProductTypeDescription.h"
-#include "values/PxLogReason.h"
 
 #include <PxXMLLoader.h>
 #include <PxXMLParser.h>
@@ -65,12 +64,14 @@ QPair<PxProductType, PxProductTypeDescription *> PxProductTypeDescriptionReader:
     QString error;
     const QDomElement root = PxXMLLoader::loadDocumentElement(file, &error);
     if (root.isNull()) {
-        QMessageLogger("PxProductTypeDescriptionReader", 78,
-                       "QPair<PxProductType, PxProductTypeDescription*> "
-                       "PxProductTypeDescriptionReader::readFile(const QFileInfo&)")
-                .warning()
+        constexpr const char *source = "PxProductTypeDescriptionReader";
+        constexpr const char *function =
+            "QPair<PxProductType, PxProductTypeDescription*> "
+            "PxProductTypeDescriptionReader::readFile(const QFileInfo&)";
+        QMessageLogger(source, 78, function).warning()
             << "PxProductTypeDescriptionReader::readFile could not open" << file.absoluteFilePath();
-        pxLogReason(error);
+        QMessageLogger(source, 79, function).debug().noquote()
+            << "PxProductTypeDescriptionReader::readFile the reason:" << error;
         return qMakePair(PxProductType(), static_cast<PxProductTypeDescription *>(nullptr));
     }
     const QDomElement product = root.firstChildElement(QStringLiteral("product"));

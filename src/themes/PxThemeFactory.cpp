@@ -2,7 +2,6 @@
 
 #include "themes/PxThemeImages.h"
 #include "values/PxJigType.h"
-#include "values/PxLogReason.h"
 
 #include <PxCreateOnce.h>
 #include <PxDirectoryConfig.h>
@@ -233,7 +232,7 @@ PxThemeList PxThemeFactory::loadThemeList(QDir &directory)
             qWarning().noquote()
                 << QStringLiteral("PxThemeFactory::loadThemeList Could not open config file: %2/%1")
                        .arg(file.absoluteFilePath(), QDir::currentPath());
-            pxLogReason(error);
+            qDebug().noquote() << "PxThemeFactory::loadThemeList the reason:" << error;
             continue;
         }
         if (root.tagName().toLower() != QLatin1String("themes"))

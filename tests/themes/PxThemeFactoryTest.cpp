@@ -112,7 +112,10 @@ void PxThemeFactoryTest::damagedAndForeignFilesAreLeftOut()
              "PxThemeFactory::loadThemeList Could not open config file: " + QDir::currentPath() +
                  '/' + m_directory.filePath("broken/a.xml"));
     QCOMPARE(log.entries().constLast().level, QtDebugMsg);
-    QVERIFY(log.texts().constLast().startsWith(m_directory.filePath("broken/a.xml:1:")));
+    QVERIFY(log.texts().constLast().startsWith("PxThemeFactory::loadThemeList the reason: " +
+                                               m_directory.filePath("broken/a.xml:1:")));
+    QVERIFY(log.entries().constLast().function.contains("loadThemeList"));
+    QVERIFY(log.entries().constLast().line > 0 && !log.entries().constLast().file.isEmpty());
 }
 
 void PxThemeFactoryTest::bothEndingsAreReadAndTheIndexTakesTheLast()

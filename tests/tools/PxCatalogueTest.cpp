@@ -223,7 +223,9 @@ void PxCatalogueTest::survivesBrokenProductFiles()
     QCOMPARE(list.errors().size(), 2);
     QVERIFY(list.errors()[0].startsWith("pxcatalogue: warning: ") &&
             list.errors()[0].endsWith("could not open \"" + file + '"'));
-    QVERIFY(list.errors()[1].startsWith("pxcatalogue: warning: the reason: " + file + ":1:"));
+    QVERIFY(list.errors()[1].startsWith(
+        "pxcatalogue: warning: PxProductTypeDescriptionReader::readFile the reason: " + file +
+        ":1:"));
 
     const PxProgramRun block = run("show CB6", products);
     QCOMPARE(block.status(), 0);

@@ -60,7 +60,9 @@ void PxCatalogueThemesTest::listsTheThemes()
     broken.close();
     const QStringList errors = run("themes --themes " + directory.path()).errors();
     QVERIFY(errors.size() == 2 && errors[0].contains("Could not open config file"));
-    QVERIFY(errors[1].startsWith("pxcatalogue: warning: the reason: " + broken.fileName() + ":1:"));
+    QVERIFY(errors[1].startsWith(
+        "pxcatalogue: warning: PxThemeFactory::loadThemeList the reason: " + broken.fileName() +
+        ":1:"));
 }
 
 void PxCatalogueThemesTest::showsAProductInATheme()

@@ -10,10 +10,17 @@ namespace {
 
 auto ourShown = PxCatalogueLog::Shown::Warnings;
 
-/** The library says at debug level only why it refused a file. */
-bool isReasonOfRefusal(const QMessageLogContext &context)
+/**
+ * Whether a debug message explains a warning: it follows the warning and is of the same source. The
+ * library tells so why it refused a file.
+ */
+bool isReason(QtMsgType level, const QMessageLogContext &context)
 {
-    return qstrcmp(context.function, "pxLogReason") == 0;
+    static thread_local const char *ourSourceOfWarning = nullptr;
+    const bool isReason =
+        level == QtDebugMsg && ourSourceOfWarning && qstrcmp(context.file, ourSourceOfWarning) == 0;
+    ourSourceOfWarning = level == QtWarningMsg ? context.file : nullptr;
+    return isReason;
 }
 
 void print(QtMsgType level, const QMessageLogContext &context, const QString &text)
@@ -24,10 +31,8 @@ void print(QtMsgType level, const QMessageLogContext &context, const QString &te
     }
     if (ourShown == PxCatalogueLog::Shown::Nothing)
         return;
-    if (level != QtDebugMsg)
+    if (isReason(level, context) || level != QtDebugMsg)
         PxTerminal::printError(QLatin1String("warning: ") + text);
-    else if (isReasonOfRefusal(context))
-        PxTerminal::printError(QLatin1String("warning: the reason: ") + text);
     else if (ourShown == PxCatalogueLog::Shown::Everything)
         PxTerminal::printError(QLatin1String("debug: ") + text);
 }

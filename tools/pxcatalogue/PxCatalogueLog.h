@@ -6,8 +6,7 @@ class PxCatalogueLog
 public:
     enum class Shown {
         Nothing,
-        /** Also one debug message: why a product file could not be read, which authors must know.
-         */
+        /** Also the debug message that explains a warning: why a file could not be read. */
         Warnings,
         Everything,
     };
