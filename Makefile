@@ -6,7 +6,7 @@ JOBS ?= 2
 FUZZ_SECONDS ?= 600
 FUZZ_SEED ?= 0
 BUILD = build/$(PRESET)
-PACKAGES = ccache cmake g++ libxml2-utils ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools
+PACKAGES = ccache cmake g++ libxml2-utils ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools tzdata
 ROOT = $(if $(filter 0,$(shell id -u)),,sudo)
 
 .PHONY: help demo check bench benchmarks fuzz valgrind build setup clean

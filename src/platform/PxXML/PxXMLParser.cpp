@@ -1,5 +1,7 @@
 #include "PxXMLParser.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <limits>
 #include <optional>
@@ -14,6 +16,57 @@ std::optional<int> toInt(const QString &text)
     return isNumber ? std::optional<int>(number) : std::nullopt;
 }
 
+/**
+ * Qt destroys what it matches regular expressions with in reverse order of its first use: used when
+ * this library is loaded, it outlives the static objects of the program, whose destructors may
+ * still read files.
+ */
+void keepRegularExpressions()
+{
+    QRegularExpression(QStringLiteral("a")).match(QString());
+}
+Q_CONSTRUCTOR_FUNCTION(keepRegularExpressions)
+
+/** Of a date and a time that exist at least in the calendar; else an invalid time. */
+QDateTime toLocalTime(const QDate &date, const QTime &time)
+{
+    if (!date.isValid() || !time.isValid())
+        return QDateTime();
+    const QDateTime local(date, time);
+    if (local.isValid() && local.date() == date && local.time() == time)
+        return local;
+    // The clocks skip it: what they would show then if they went on as on the day before.
+    const QDateTime utc(date, time, Qt::UTC);
+    return utc.addSecs(-utc.addDays(-1).toLocalTime().offsetFromUtc()).toLocalTime();
+}
+
+QDateTime fromCompactForm(const QString &text)
+{
+    const auto number = [&text](int begin, int length) {
+        return text.midRef(begin, length).toInt();
+    };
+    return toLocalTime(QDate(number(0, 4), number(4, 2), number(6, 2)),
+                       QTime(number(8, 2), number(10, 2)));
+}
+
+QDateTime fromExtendedForm(const QString &text)
+{
+    // Qt reads the numbers, but it reads many other texts, too.
+    static const auto &ourForm = *new QRegularExpression(
+        QStringLiteral("\\A\\d{4}-\\d\\d-\\d\\d"
+                       "(T\\d\\d:\\d\\d(:\\d\\d([.,]\\d+)?)?(Z|[+-]\\d\\d(:\\d\\d)?)?)?\\z"));
+    const QRegularExpressionMatch form = ourForm.match(text);
+    if (!form.hasMatch())
+        return QDateTime();
+    constexpr int time = 1;
+    constexpr int zone = 4;
+    if (form.capturedLength(zone) > 0)
+        return QDateTime::fromString(text, Qt::ISODateWithMs).toLocalTime();
+    const QString whole = form.capturedLength(time) > 0 ? text : text + QLatin1String("T00:00");
+    const QDateTime utc = QDateTime::fromString(whole + QLatin1Char('Z'), Qt::ISODateWithMs);
+    return toLocalTime(utc.date(), utc.time());
+}
+
 QDateTime toLocalTime(const QString &text)
 {
     const QString trimmed = text.trimmed();
@@ -21,14 +74,7 @@ QDateTime toLocalTime(const QString &text)
         trimmed.size() == 12 && std::all_of(trimmed.begin(), trimmed.end(), [](QChar c) {
             return c >= QLatin1Char('0') && c <= QLatin1Char('9');
         });
-    if (!isCompact)
-        return QDateTime::fromString(trimmed, Qt::ISODate).toLocalTime();
-    const auto number = [&trimmed](int begin, int length) {
-        return trimmed.midRef(begin, length).toInt();
-    };
-    const QDate date(number(0, 4), number(4, 2), number(6, 2));
-    const QTime time(number(8, 2), number(10, 2));
-    return time.isValid() ? QDateTime(date, time) : QDateTime(); // else it would be midnight
+    return isCompact ? fromCompactForm(trimmed) : fromExtendedForm(trimmed);
 }
 
 /** Whether QRect can compute with them: it stores the last edge inside and measures from the first.

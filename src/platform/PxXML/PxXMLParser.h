@@ -23,8 +23,13 @@ public:
     /** `true`, `1`, `yes`, `on` or `false`, `0`, `no`, `off`, in any case and trimmed. */
     static bool boolAttribute(const QDomElement &element, const QString &name, bool defaultValue);
     /**
-     * A point in time as `yyyyMMddHHmm` or in the long form of ISO 8601, `yyyy-MM-ddTHH:mm:ss`
-     * with or without seconds and a time zone, or the date alone; answered in local time.
+     * A point in time, answered in local time: `yyyyMMddHHmm`, or the extended form of ISO 8601, a
+     * date alone (`2030-03-31`, its first moment) or with a time (`2030-03-31T02:30`), which may
+     * have seconds, a fraction of them and a time zone (`Z`, `+02:00`, `+02`). Nothing else may
+     * stand before or behind it but white space.
+     *
+     * Without a time zone it is local time. A time that the clocks skip is as many minutes after
+     * the skip begins: no time zone makes a file unreadable.
      *
      * An unreadable text counts as the default text; when that is unreadable too, the answer is
      * an invalid time.
