@@ -93,6 +93,8 @@ int PxProductContext::pageIncrement() const { return pageOrganization()->pageInc
 PxPageCountOrganization PxProductContext::pageCountOrganization() const { return pageOrganization()->pageCountOrganzation(d->productType); }
 
 // Forwarders to the description: page counts and pages.
+QList<int> PxProductContext::offeredPageCounts() const { return d->description->offeredPageCounts(); }
+bool PxProductContext::isPageCountOffered(int pageCount) const { return d->description->isPageCountOffered(pageCount); }
 bool PxProductContext::isSimplex() const { return d->description->isSimplex(); }
 int PxProductContext::defaultSellingPages() const { return d->description->defaultSellingPages(); }
 int PxProductContext::productCount() const { return d->description->explicitNumberOfProducts(); }

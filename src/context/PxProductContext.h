@@ -82,6 +82,9 @@ public:
     int maxPages() const;
     int pageIncrement() const;
     PxPageCountOrganization pageCountOrganization() const;
+    /** The page counts that customers may order, in ascending order. */
+    QList<int> offeredPageCounts() const;
+    bool isPageCountOffered(int pageCount) const;
     bool isOnePage() const;
     bool isSimplex() const;
     /** Printed on both sides, and more than a single page. */

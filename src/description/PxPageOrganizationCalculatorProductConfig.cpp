@@ -47,16 +47,7 @@ PxPageCountOrganization PxPageOrganizationCalculatorProductConfig::availableNumO
 PxPageCountOrganization PxPageOrganizationCalculatorProductConfig::availableNumOfPagesForCalendar(
     const PxProductType &type) const
 {
-    switch (registry()->binding(type).value()) {
-    case PxBindingCalendarSimplex:
-        return fixedPageCount(12);
-    case PxBindingCalendarDuplex:
-        return fixedPageCount(24);
-    case PxBindingCalendarAnnualDuplex:
-        return fixedPageCount(2);
-    default:
-        return fixedPageCount(1);
-    }
+    return fixedPageCount(unsigned(registry()->binding(type).calendarPageCount()));
 }
 
 PxPageCountOrganization PxPageOrganizationCalculatorProductConfig::availableNumOfPagesForGift(

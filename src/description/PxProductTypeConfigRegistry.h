@@ -61,6 +61,8 @@ public:
     PxThematicCategorySet allowedBackgroundCategories(const PxProductType &type) const;
     bool limitBackgroundCategories(const PxProductType &type) const;
     bool fullBackgroundOnEachPage(const PxProductType &type) const;
+    QList<int> offeredPageCounts(const PxProductType &type) const;
+    bool isPageCountOffered(const PxProductType &type, int pageCount) const;
     int explicitNumberOfNormalPages(const PxProductType &type) const;
     PxPageTypeList pageTypes(const PxProductType &type, int pageCount) const;
     bool horizontalPages(const PxProductType &type) const;
@@ -128,6 +130,8 @@ inline QStringList PxProductTypeConfigRegistry::variants(const PxProductType &ty
 inline PxThematicCategorySet PxProductTypeConfigRegistry::allowedBackgroundCategories(const PxProductType &type) const { return description(type)->allowedBackgroundCategories(); }
 inline bool PxProductTypeConfigRegistry::limitBackgroundCategories(const PxProductType &type) const { return description(type)->limitBackgroundCategories(); }
 inline bool PxProductTypeConfigRegistry::fullBackgroundOnEachPage(const PxProductType &type) const { return description(type)->fullBackgroundOnEachPage(); }
+inline QList<int> PxProductTypeConfigRegistry::offeredPageCounts(const PxProductType &type) const { return description(type)->offeredPageCounts(); }
+inline bool PxProductTypeConfigRegistry::isPageCountOffered(const PxProductType &type, int pageCount) const { return description(type)->isPageCountOffered(pageCount); }
 inline int PxProductTypeConfigRegistry::explicitNumberOfNormalPages(const PxProductType &type) const { return description(type)->explicitNumberOfNormalPages(); }
 inline PxPageTypeList PxProductTypeConfigRegistry::pageTypes(const PxProductType &type, int pageCount) const { return description(type)->pageTypes(pageCount); }
 inline bool PxProductTypeConfigRegistry::horizontalPages(const PxProductType &type) const { return description(type)->horizontalPages(); }

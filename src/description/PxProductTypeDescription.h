@@ -42,6 +42,9 @@ class QDomElement;
 class PXPRODUCTPROPERTIES_EXPORT PxProductTypeDescription
 {
 public:
+    /** No larger page count is offered, so that a few spines do not make a list of billions. */
+    static constexpr int maximumOfferedPages = 100000;
+
     /** The description of no product: invalid. */
     PxProductTypeDescription();
     /** Reads the "product" element of a product file, and the user-defaults file of the product. */
@@ -104,6 +107,19 @@ public:
     int maxPages() const;
     /** By how many pages the product grows at a time; the smallest int below three page counts. */
     int pageIncrement() const { return m_pageIncrement; }
+    /**
+     * The page counts that customers may order, in ascending order; none for an invalid
+     * description.
+     *
+     * A book has those from the smallest to the largest of its spine table, in steps of the
+     * increment, and always the largest; with fewer than three entries it has only these. If the
+     * page list has a spine, page counts without an entry of their own are left out. A calendar has
+     * as many pages as its binding says, a gift, card or decoration its number of normal pages, and
+     * any other product 1. Nothing below 1 or above `maximumOfferedPages` is offered.
+     */
+    QList<int> offeredPageCounts() const;
+    /** One of offeredPageCounts(). */
+    bool isPageCountOffered(int pageCount) const;
     /** The page count that is offered first; -1 for none. */
     int defaultSellingPages() const { return m_defaultSellingPages; }
     /** How many normal pages a gift, card or decoration has, 1 by default. */
@@ -211,8 +227,11 @@ private:
     void adjustSpineWidth();
     void initPageNumbering(const QDomElement &pageNumberConfig);
     void initBackgroundCategories(const QDomElement &product);
+    const Spine *findSpine(int pageCount) const;
     PxProductTypeDescriptionSpineData spine(int pageCount) const;
     int findPageIncrement() const;
+    bool isPageCountOfBook(int pageCount) const;
+    int fixedPageCount() const;
     int decodeFoldMargin(const QDomElement &product) const;
 
     PxOrientation m_orientation;

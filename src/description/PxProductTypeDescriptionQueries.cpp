@@ -74,6 +74,54 @@ int PxProductTypeDescription::findPageIncrement() const
                         m_spines.at(count - 3).pageCount);
 }
 
+QList<int> PxProductTypeDescription::offeredPageCounts() const
+{
+    const bool isBook = m_classification.productType().productClass() == PxProductClassBook;
+    const int first = qMax(isBook ? minPages() : fixedPageCount(), 1);
+    const int last = qMin(isBook ? maxPages() : fixedPageCount(), maximumOfferedPages);
+    QList<int> pageCounts;
+    for (int pageCount = first; pageCount <= last; ++pageCount) {
+        if (isPageCountOffered(pageCount))
+            pageCounts.append(pageCount);
+    }
+    return pageCounts;
+}
+
+bool PxProductTypeDescription::isPageCountOffered(int pageCount) const
+{
+    if (!isValid() || pageCount < 1 || pageCount > maximumOfferedPages)
+        return false;
+    return m_classification.productType().productClass() == PxProductClassBook
+               ? isPageCountOfBook(pageCount)
+               : pageCount == fixedPageCount();
+}
+
+bool PxProductTypeDescription::isPageCountOfBook(int pageCount) const
+{
+    if (pageCount < minPages() || pageCount > maxPages())
+        return false;
+    const bool isStep =
+        m_pageIncrement > 0 && (qint64(pageCount) - minPages()) % m_pageIncrement == 0;
+    if (!isStep && pageCount != minPages() && pageCount != maxPages())
+        return false;
+    return !m_hasSpine || findSpine(pageCount);
+}
+
+/** Of a product that is no book. */
+int PxProductTypeDescription::fixedPageCount() const
+{
+    switch (m_classification.productType().productClass()) {
+    case PxProductClassCalendar:
+        return m_binding.calendarPageCount();
+    case PxProductClassGift:
+    case PxProductClassCard:
+    case PxProductClassDecoration:
+        return m_explicitNumberOfNormalPages;
+    default:
+        return 1;
+    }
+}
+
 bool PxProductTypeDescription::hasCover() const
 {
     return hasPages() && m_pageTypes.constFirst().matches(PxPageTypeCover);
@@ -231,15 +279,20 @@ int PxProductTypeDescription::spineMaxFontHeight(int pageCount) const
     return spine(pageCount).maxFontHeight();
 }
 
-/** Of width 0 for a page count without one. */
-PxProductTypeDescriptionSpineData PxProductTypeDescription::spine(int pageCount) const
+/** Null for a page count without one. */
+const PxProductTypeDescription::Spine *PxProductTypeDescription::findSpine(int pageCount) const
 {
     const auto found =
         std::lower_bound(m_spines.begin(), m_spines.end(), pageCount,
                          [](const Spine &s, int count) { return s.pageCount < count; });
-    return found == m_spines.end() || found->pageCount != pageCount
-               ? PxProductTypeDescriptionSpineData()
-               : found->data;
+    return found == m_spines.end() || found->pageCount != pageCount ? nullptr : found;
+}
+
+/** Of width 0 for a page count without one. */
+PxProductTypeDescriptionSpineData PxProductTypeDescription::spine(int pageCount) const
+{
+    const Spine *found = findSpine(pageCount);
+    return found ? found->data : PxProductTypeDescriptionSpineData();
 }
 
 PxSurroundingDescription PxProductTypeDescription::findSurrounding(

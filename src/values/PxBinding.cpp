@@ -83,6 +83,20 @@ PxBinding PxBinding::createFromHumanReadable(const QString &name)
     return bindingNames()->findByValue(translated);
 }
 
+int PxBinding::calendarPageCount() const
+{
+    switch (value()) {
+    case PxBindingCalendarSimplex:
+        return 12;
+    case PxBindingCalendarDuplex:
+        return 24;
+    case PxBindingCalendarAnnualDuplex:
+        return 2;
+    default:
+        return 1;
+    }
+}
+
 QString PxBinding::humanReadableName() const
 {
     return bindingNames()->findByKey(value());

@@ -51,6 +51,8 @@ public:
     /** Hardcover, softcover or booklet. */
     bool isFullCover() const { return matches(PxBindingAllFullCover); }
     bool isClampCover() const { return matches(PxBindingClamp); }
+    /** How many pages a calendar of this binding has: 12, 24 or 2; 1 for any other binding. */
+    int calendarPageCount() const;
 
     /** The translated display name; "unbekannter Bindungstyp" for a value without one. */
     QString humanReadableName() const;

@@ -30,6 +30,7 @@ private slots:
     void iconsShowASpread_data();
     void iconsShowASpread();
     void storyBoardsNeedSeveralProducts();
+    void pageCountsAreThoseOnOffer();
     void templatesFollowTheme();
     void contentNeedsATheme();
     void unknownProductIsAnsweredFromDefaults();
@@ -148,6 +149,16 @@ void PxProductContextTest::storyBoardsNeedSeveralProducts()
     QCOMPARE(PxProductContext(8).pagesPerProduct(), 2147483647);
     QVERIFY(!PxProductContext(7).useTwoStoryBoards());
     QVERIFY(!PxProductContext(1).hasSpiral());
+}
+
+void PxProductContextTest::pageCountsAreThoseOnOffer()
+{
+    QCOMPARE(PxProductContext(1).offeredPageCounts(), QList<int>({4, 6, 8}));
+    QVERIFY(PxProductContext(1).isPageCountOffered(6));
+    QVERIFY(!PxProductContext(1).isPageCountOffered(5));
+    QCOMPARE(PxProductContext(4).offeredPageCounts(), QList<int>{24});
+    QCOMPARE(PxProductContext(7).offeredPageCounts(), QList<int>{2});
+    QVERIFY(PxProductContext(13).offeredPageCounts().isEmpty()); // has no file
 }
 
 void PxProductContextTest::templatesFollowTheme()

@@ -34,6 +34,7 @@ QVector<uint> askTheCatalogue(const PxProductContext &shared)
         QTextStream stream(&answer);
         root.save(stream, 0);
         QDebug(&answer) << copies << own << own.compatibleProducts() << own.pageCountOrganization()
+                        << own.offeredPageCounts() << own.isPageCountOffered(26)
                         << own.defaultTemplateForPage(true, PxPageContext(), true)
                         << own.binding().humanReadableName() << own.paperType().humanReadableName()
                         << PxProductVariantIdentifiers::instance()->variants(code);

@@ -27,6 +27,9 @@ private slots:
     void extremeNumbersAreClamped();
     void millionsOfCombinationsAnswerAtOnce();
     void pageCountsComeFromTheSpines();
+    void offeredPageCountsFollowTheProduct_data();
+    void offeredPageCountsFollowTheProduct();
+    void hostilePageCountsAreBounded();
     void pageRangesExpandToThePageCount();
     void printSizeDependsOnTheKindOfPage();
     void wrongQuestionsAreReported();
@@ -54,7 +57,7 @@ QString spines(const Ints &pageCounts)
 {
     QString elements;
     for (int pages : pageCounts)
-        elements += QString("<spine pages='%1' width='%2'/>").arg(pages).arg(pages * 10);
+        elements += QString("<spine pages='%1' width='%2'/>").arg(pages).arg(qint64(pages) * 10);
     return "<spines>" + elements + "</spines>";
 }
 
@@ -319,6 +322,57 @@ void PxProductTypeDescriptionTest::pageCountsComeFromTheSpines()
     QCOMPARE(counts({40, 24, 30, 28, 26}), Ints({24, 40, 2})); // the last step is no increment
     QCOMPARE(counts({24, 26}), Ints({24, 26, -max - 1}));
     QCOMPARE(counts({}), Ints({max, -max - 1, -max - 1}));
+}
+
+void PxProductTypeDescriptionTest::offeredPageCountsFollowTheProduct_data()
+{
+    QTest::addColumn<QString>("attributes");
+    QTest::addColumn<QString>("children");
+    QTest::addColumn<Ints>("pageCounts");
+    const QString book = "name='PROBEBOOK'";
+    const QString spine = ourSize + pages("fullcover,spine,normalpages");
+    // clang-format off
+    QTest::newRow("spine for each step") << book << spine + spines({26, 28, 30}) << Ints{26, 28, 30};
+    QTest::newRow("step without a spine") << book << spine + spines({20, 26, 28, 29, 30}) << Ints{20, 26, 28, 29, 30};
+    QTest::newRow("spine beside the steps") << book << spine + spines({20, 23, 24, 26, 30}) << Ints{20, 24, 26, 30};
+    QTest::newRow("steps without printed spine") << book << ourSize + spines({20, 26, 28, 31}) << Ints{20, 22, 24, 26, 28, 30, 31};
+    QTest::newRow("two page counts") << book << spine + spines({26, 30}) << Ints{26, 30};
+    QTest::newRow("one page count") << book << spine + spines({26}) << Ints{26};
+    QTest::newRow("counts below 1") << book << ourSize + spines({-3, -1, 1, 3, 5}) << Ints{1, 3, 5};
+    QTest::newRow("book without spine table") << book << spine << Ints{};
+    QTest::newRow("book without a size") << book << spines({26, 28, 30}) << Ints{};
+    QTest::newRow("calendar") << "name='CAL' binding='CALENDAR_DUPLEX' numOfNormalPages='7'" << ourSize + spines({26}) << Ints{24};
+    QTest::newRow("calendar without binding") << "name='CAL' numOfNormalPages='7'" << ourSize << Ints{1};
+    for (const char *name : {"CUP", "CARD", "CANVAS"})
+        QTest::newRow(name) << QString("name='%1' numOfNormalPages='7'").arg(name) << ourSize << Ints{7};
+    QTest::newRow("gift without pages") << "name='CUP' numOfNormalPages='0'" << ourSize << Ints{};
+    QTest::newRow("print") << "name='PRINT' numOfNormalPages='7'" << ourSize << Ints{1};
+    // clang-format on
+}
+
+void PxProductTypeDescriptionTest::offeredPageCountsFollowTheProduct()
+{
+    QFETCH(QString, attributes);
+    QFETCH(QString, children);
+    QFETCH(Ints, pageCounts);
+    const PxProductTypeDescription d = describe(attributes, children);
+    QCOMPARE(d.offeredPageCounts(), pageCounts);
+    for (int pageCount = -5; pageCount < 50; ++pageCount)
+        QCOMPARE(d.isPageCountOffered(pageCount), pageCounts.contains(pageCount));
+}
+
+void PxProductTypeDescriptionTest::hostilePageCountsAreBounded()
+{
+    const int most = PxProductTypeDescription::maximumOfferedPages;
+    const int max = 2147483647;
+    const PxProductTypeDescription book =
+        describe("name='PROBEBOOK'", ourSize + spines({-max - 1, -max, max}));
+    QCOMPARE(book.offeredPageCounts().size(), most);
+    QVERIFY(book.isPageCountOffered(1) && book.isPageCountOffered(most));
+    QVERIFY(!book.isPageCountOffered(0) && !book.isPageCountOffered(most + 1));
+    QVERIFY(!book.isPageCountOffered(max) && !book.isPageCountOffered(-max - 1));
+    QCOMPARE(describe("name='CUP' numOfNormalPages='2147483647'", ourSize).offeredPageCounts(),
+             Ints());
 }
 
 void PxProductTypeDescriptionTest::pageRangesExpandToThePageCount()

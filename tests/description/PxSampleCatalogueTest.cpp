@@ -102,8 +102,14 @@ void PxSampleCatalogueTest::everyProductIsOfferedAndEveryLegacyProductReplaced()
     const auto *registry = PxProductTypeConfigRegistry::instance();
     const QStringList products = productsOf(PX_SAMPLE_DIRECTORY "/products");
     QVERIFY(products.size() >= 36);
-    for (const QString &name : products)
-        QVERIFY2(registry->exists(PxProductType(name)), qPrintable(name));
+    for (const QString &name : products) {
+        const PxProductContext product{PxProductType(name)};
+        QVERIFY2(registry->exists(product.productType()), qPrintable(name));
+        const QList<int> pageCounts = product.offeredPageCounts();
+        QCOMPARE(pageCounts.value(0), product.minPages());
+        QCOMPARE(pageCounts.constLast(), product.maxPages());
+        QCOMPARE(registry->offeredPageCounts(product.productType()), pageCounts);
+    }
 
     const QStringList legacyProducts = productsOf(PX_SAMPLE_DIRECTORY "/products/legacy");
     QVERIFY(legacyProducts.size() >= 6);
@@ -122,6 +128,11 @@ void PxSampleCatalogueTest::registryAnswersForAPhotoBook()
     QCOMPARE(registry->minPages(book), 26);
     QCOMPARE(registry->maxPages(book), 154);
     QCOMPARE(registry->pageIncrement(book), 2);
+    QCOMPARE(registry->offeredPageCounts(book).size(), 65);
+    for (int pageCount : {26, 27})
+        QCOMPARE(PxProductContext(book).isPageCountOffered(pageCount),
+                 registry->isPageCountOffered(book, pageCount));
+    QVERIFY(registry->isPageCountOffered(book, 28) && !registry->isPageCountOffered(book, 27));
     const PxPageTypeList pageTypes = registry->pageTypes(book, 26);
     QCOMPARE(pageTypes.first().value(), PxPageTypeFullCover);
     QCOMPARE(pageTypes.count(PxPageType(PxPageTypeNormalPage)), 26);

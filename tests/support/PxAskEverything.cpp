@@ -60,17 +60,18 @@ QString pxAskEverything(const PxProductTypeDescription &description)
                                         PxProductComparationAllButBinding)
             << description.allowedBackgroundCategories().toDataStringList().size()
             << description.minPages() << description.maxPages() << description.pageIncrement()
-            << description.defaultSellingPages() << description.explicitNumberOfNormalPages()
-            << description.hasCover() << description.pageNamingStyle()
-            << description.editorStartDoublePage() << description.coverSize()
-            << description.bleedMarginNormal() << description.bleedMarginCover()
-            << description.safetyMargins() << description.safetyMargins().totalMarginWH()
-            << description.foldMargin() << description.normalPageHorizontalClamp()
-            << description.pageNumberHorizontalIndent() << description.pageNumberFontSize()
-            << description.extraProductionContents().size();
+            << description.offeredPageCounts().size() << description.defaultSellingPages()
+            << description.explicitNumberOfNormalPages() << description.hasCover()
+            << description.pageNamingStyle() << description.editorStartDoublePage()
+            << description.coverSize() << description.bleedMarginNormal()
+            << description.bleedMarginCover() << description.safetyMargins()
+            << description.safetyMargins().totalMarginWH() << description.foldMargin()
+            << description.normalPageHorizontalClamp() << description.pageNumberHorizontalIndent()
+            << description.pageNumberFontSize() << description.extraProductionContents().size();
 
     for (const int pageCount : {smallest, -1, 0, 26, largest, description.minPages()}) {
-        answers << description.spineWidth(pageCount) << description.spineMaxFontHeight(pageCount);
+        answers << description.spineWidth(pageCount) << description.spineMaxFontHeight(pageCount)
+                << description.isPageCountOffered(pageCount);
         for (const PxPageTypeEnum pageType : pageTypes) {
             for (const PxPageAlignment alignment : alignments)
                 askAboutTheKind(description, PxPageContext(pageType, alignment), pageCount,
