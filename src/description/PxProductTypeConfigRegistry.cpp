@@ -86,6 +86,20 @@ bool PxProductTypeConfigRegistry::exists(const PxProductType &type) const
     return description(type)->isValid();
 }
 
+PxProductTypeList PxProductTypeConfigRegistry::products() const
+{
+    PxProductTypeList types;
+    for (const Product &product : m_products) {
+        if (product.description->isValid())
+            types.append(product.type);
+    }
+    std::sort(types.begin(), types.end(), [](const PxProductType &a, const PxProductType &b) {
+        return a.productClass() != b.productClass() ? a.productClass() < b.productClass()
+                                                    : a.productName() < b.productName();
+    });
+    return types;
+}
+
 PxProductType PxProductTypeConfigRegistry::findProductForLegacy(const PxProductType &legacy) const
 {
     // A product that replaces none names the unknown type, and replaces nothing all the same.

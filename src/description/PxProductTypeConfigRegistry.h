@@ -74,6 +74,8 @@ public:
     PxBarcode barcodeOnPage(const PxProductType &type, int page, int pageCount) const;
 
     // Across products
+    /** The products on offer: those for which exists() is true, by product class, then by name. */
+    PxProductTypeList products() const;
     /** The current product that replaces a legacy one; type 0 when none does. */
     PxProductType findProductForLegacy(const PxProductType &legacy) const;
     /** The products on offer that are interchangeable with the type, itself included. */

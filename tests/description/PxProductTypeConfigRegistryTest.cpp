@@ -21,6 +21,7 @@ private slots:
     void filesWithoutKnownProductAreSkippedSilently();
     void ofTwoFilesOfOneProductOneIsKept();
     void unknownTypeIsAnsweredFromDefaults();
+    void listsTheProductsOnOffer();
     void findsSuccessorsOfLegacyProducts();
     void findsOfferedProductsOfTheSameClass();
     void pageFilesAreSortedByTheirNumbers();
@@ -120,6 +121,12 @@ void PxProductTypeConfigRegistryTest::unknownTypeIsAnsweredFromDefaults()
     QVERIFY(m_registry->description(5) != m_registry->description(99));
     QCOMPARE(m_registry->minPages(99), 2147483647);
     QCOMPARE(m_registry->type(), 4);
+}
+
+void PxProductTypeConfigRegistryTest::listsTheProductsOnOffer()
+{
+    // Without INVALID; by class and name, not by code.
+    QCOMPARE(m_registry->products(), PxProductTypeList({1, 7, 4, 6}));
 }
 
 void PxProductTypeConfigRegistryTest::findsSuccessorsOfLegacyProducts()

@@ -102,6 +102,7 @@ void PxSampleCatalogueTest::everyProductIsOfferedAndEveryLegacyProductReplaced()
     const auto *registry = PxProductTypeConfigRegistry::instance();
     const QStringList products = productsOf(PX_SAMPLE_DIRECTORY "/products");
     QVERIFY(products.size() >= 36);
+    QCOMPARE(registry->products().size(), products.size());
     for (const QString &name : products) {
         const PxProductContext product{PxProductType(name)};
         QVERIFY2(registry->exists(product.productType()), qPrintable(name));
@@ -113,6 +114,8 @@ void PxSampleCatalogueTest::everyProductIsOfferedAndEveryLegacyProductReplaced()
 
     const QStringList legacyProducts = productsOf(PX_SAMPLE_DIRECTORY "/products/legacy");
     QVERIFY(legacyProducts.size() >= 6);
+    QCOMPARE(PxProductTypeConfigRegistry::legacyInstance()->products().size(),
+             legacyProducts.size());
     for (const QString &name : legacyProducts) {
         const PxProductType legacy(name);
         QVERIFY(PxLegacyProductTypeConfig::instance()->description(legacy)->isValid());
