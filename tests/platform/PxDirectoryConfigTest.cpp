@@ -13,6 +13,7 @@ private slots:
     void takesTheDirectoriesOfTheEnvironment();
     void reportsWhatIsMissing();
     void answersOneNameWithAPathOfItsOwn();
+    void findsThemesInTheResourceDirectories();
     void fallsBackToTheInstalledResources();
 
 private:
@@ -64,6 +65,21 @@ void PxDirectoryConfigTest::answersOneNameWithAPathOfItsOwn()
     QCOMPARE(config->resource("products/legacy", false), m_root.filePath("second/products/legacy"));
     config->setResource("products", QString());
     QCOMPARE(config->resource("products", false), before);
+}
+
+void PxDirectoryConfigTest::findsThemesInTheResourceDirectories()
+{
+    PxDirectoryConfig *config = PxDirectoryConfig::instance();
+    const auto themes = [config] { return config->lumoThemesDirectory(false).path(); };
+    config->setThemesDirectory(QString()); // not the variable, but the default
+    QCOMPARE(themes(), QDir::current().filePath("first/themes")); // where it would be
+    QVERIFY(QDir(m_root.path()).mkpath("second/themes"));
+    QCOMPARE(themes(), m_root.filePath("second/themes"));
+    QVERIFY(QDir(m_root.path()).mkpath("third/themes"));
+    config->setResourceDirectories({"third", "second"});
+    QCOMPARE(themes(), QDir::current().filePath("third/themes"));
+    config->setThemesDirectory("elsewhere");
+    QCOMPARE(themes(), QDir::current().filePath("elsewhere"));
 }
 
 void PxDirectoryConfigTest::fallsBackToTheInstalledResources()

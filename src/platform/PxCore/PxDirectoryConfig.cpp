@@ -87,9 +87,10 @@ QString PxDirectoryConfig::userDefaultsPath() const
 
 QDir PxDirectoryConfig::lumoThemesDirectory(bool reportMissing) const
 {
-    const QDir themes(m_themesDirectory);
+    const QDir themes(m_themesDirectory.isEmpty() ? resource(QStringLiteral("themes"), false)
+                                                  : m_themesDirectory);
     if (reportMissing && !themes.exists())
-        qWarning() << "PxDirectoryConfig::lumoThemesDirectory is missing:" << m_themesDirectory;
+        qWarning() << "PxDirectoryConfig::lumoThemesDirectory is missing:" << themes.path();
     return themes;
 }
 
@@ -119,7 +120,5 @@ void PxDirectoryConfig::setUserDefaultsPath(const QString &path)
 
 void PxDirectoryConfig::setThemesDirectory(const QString &path)
 {
-    m_themesDirectory = path.isEmpty()
-                            ? QDir(installedResources()).absoluteFilePath(QStringLiteral("themes"))
-                            : absolute(path);
+    m_themesDirectory = absolute(path);
 }

@@ -10,9 +10,10 @@
 /**
  * Where the files of the process are: resources, themes and user defaults.
  *
- * Without a setter call the directories come from the environment, read once when the instance is
- * created: `PX_RESOURCE_DIRS` (a list with QDir::listSeparator()), `PX_THEMES_DIR` and
- * `PX_USER_DEFAULTS_DIR`. What is missing or empty there too has a default, named at the query.
+ * One rule for applications and tools, for each of the three by itself: what its setter was given,
+ * else its environment variable, read once when the instance is created: `PX_RESOURCE_DIRS` (a list
+ * with QDir::listSeparator()), `PX_THEMES_DIR` or `PX_USER_DEFAULTS_DIR`; else, if that is missing
+ * or empty, the default named at the query.
  *
  * Every answer is an absolute path and never empty. Queries may come from any thread; the setters
  * are for the start of an application or a test: on one thread, before the first query.
@@ -30,11 +31,14 @@ public:
      * logged as a warning. An absolute name is answered as it is.
      */
     QString resource(const QString &name, bool reportMissing) const;
-    /** The directory of the user-defaults files; `defaults` in the application's data directory. */
+    /**
+     * The directory of the user-defaults files; by default `defaults` in the application's data
+     * directory, which follows the name of the application.
+     */
     QString userDefaultsPath() const;
     /**
-     * The directory of the theme files; `themes` in the resources installed with the library. With
-     * `reportMissing` it is a warning when there is none.
+     * The directory of the theme files; resource("themes") by default, also of resource directories
+     * that are set later. With `reportMissing` it is a warning when there is none.
      */
     QDir lumoThemesDirectory(bool reportMissing) const;
 
@@ -58,6 +62,7 @@ private:
 
     QStringList m_resourceDirectories;
     QHash<QString, QString> m_resources;
-    QString m_userDefaultsPath; // empty: the default, which follows the application's name
+    // Empty for the default.
+    QString m_userDefaultsPath;
     QString m_themesDirectory;
 };
