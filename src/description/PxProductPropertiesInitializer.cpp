@@ -2,9 +2,35 @@
 
 #include "description/PxPageOrganizationCalculatorProductConfig.h"
 #include "description/PxProductTypeConfigRegistry.h"
+#include "description/PxProductTypeDescriptionReader.h"
 
+#include <PxDirectoryConfig.h>
 #include <PxPageOrganizationManager.h>
 #include <PxProductCheckerRegistry.h>
+
+#include <QDebug>
+#include <QFileInfo>
+
+namespace {
+
+/** One line: an application without products would otherwise go on in silence. */
+void warnOfMissingProducts()
+{
+    const auto *config = PxDirectoryConfig::instance();
+    const QString products = config->resource(QStringLiteral("products"), true);
+    if (!QFileInfo::exists(products)) // as resource() has reported
+        return;
+    const QStringList filter = PxProductTypeDescriptionReader::fileFilter();
+    if (QDir(products).entryList(filter, QDir::Files).isEmpty())
+        qWarning() << "PxProductPropertiesInitializer::setupModule found no product file in"
+                   << products;
+    else
+        qWarning() << "PxProductPropertiesInitializer::setupModule found no product on offer in"
+                   << products << "with the product types of"
+                   << config->resource(QStringLiteral("producttypes.xml"), false);
+}
+
+} // namespace
 
 PxProductPropertiesInitializer::~PxProductPropertiesInitializer() = default;
 
@@ -12,8 +38,11 @@ bool PxProductPropertiesInitializer::setupModule()
 {
     PxPageOrganizationManager::instance()->addCalculator(
         new PxPageOrganizationCalculatorProductConfig);
-    return PxProductCheckerRegistry::instance()->registerChecker(
-        PxProductTypeConfigRegistry::instance());
+    auto *registry = PxProductTypeConfigRegistry::instance();
+    const bool isFirst = PxProductCheckerRegistry::instance()->registerChecker(registry);
+    if (isFirst && registry->products().isEmpty())
+        warnOfMissingProducts();
+    return isFirst;
 }
 
 void PxProductPropertiesInitializer::teardownModule() {}

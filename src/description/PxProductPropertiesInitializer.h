@@ -12,7 +12,8 @@ public:
      * Reads the product files and makes the library answer the platform's questions about products.
      *
      * The application calls it once, at its start and before any query, with the directories set
-     * and the translators installed. False when the registry was already registered.
+     * and the translators installed. False when the registry was already registered. Without a
+     * product on offer, one warning names the directories that were searched.
      */
     static bool setupModule();
     /** Nothing: the products live as long as the process. */
