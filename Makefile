@@ -20,13 +20,13 @@ help:
 	@echo "make clean      remove everything that was built"
 
 demo: build
-	$(RUN) $(BUILD)/bin/pxcatalogue list
+	$(RUN) $(BUILD)/bin/pxcatalogue list --resources data/sample
 	@echo
-	$(RUN) $(BUILD)/bin/pxcatalogue show BOOK_A4_PORTRAIT --pages 26
+	$(RUN) $(BUILD)/bin/pxcatalogue show BOOK_A4_PORTRAIT --pages 26 --resources data/sample
 	@echo
-	$(RUN) $(BUILD)/bin/pxcatalogue themes
+	$(RUN) $(BUILD)/bin/pxcatalogue themes --resources data/sample
 	@echo
-	$(RUN) $(BUILD)/bin/pxcatalogue show BOOK_A4_PORTRAIT --pages 26 --theme hochzeit
+	$(RUN) $(BUILD)/bin/pxcatalogue show BOOK_A4_PORTRAIT --pages 26 --theme hochzeit --resources data/sample
 
 # What the design keeps until exit is still reachable then, and no leak.
 valgrind: PACKAGES += valgrind

@@ -13,13 +13,13 @@ PxProgramRun::PxProgramRun(const QString &program, const QStringList &arguments,
                            const QMap<QString, QString> &environment)
 {
     QMap<QString, QString> variables = {{"PX_RESOURCE_DIRS", PX_SAMPLE_DIRECTORY},
-                                        {"PX_THEMES_DIR", PX_SAMPLE_DIRECTORY "/themes"},
+                                        {"PX_USER_DEFAULTS_DIR", PX_SAMPLE_DIRECTORY "/defaults"},
                                         {"LC_ALL", "de_DE.UTF-8"},
                                         {"COLUMNS", "150"}};
     for (auto it = environment.begin(); it != environment.end(); ++it)
         variables[it.key()] = it.value();
     QProcessEnvironment all = QProcessEnvironment::systemEnvironment();
-    all.remove("PX_USER_DEFAULTS_DIR");
+    all.remove("PX_THEMES_DIR");
     for (auto it = variables.cbegin(); it != variables.cend(); ++it)
         all.insert(it.key(), it.value());
 

@@ -17,7 +17,8 @@ private slots:
     void fitsTheTerminal();
     void saysWhatIsWrong();
     void survivesBrokenProductFiles();
-    void showsTemplatesOfTheGivenUser();
+    void namingACatalogueMeansItsThemesAndDefaults();
+    void warnsOnceWithoutProducts();
     void keepsTheLogOffTheOutput();
     void printsWhatTheReadmeShows();
 };
@@ -241,15 +242,42 @@ void PxCatalogueTest::survivesBrokenProductFiles()
     QCOMPARE(pages["nearestPageCounts"], QJsonValue(QJsonArray()));
 }
 
-void PxCatalogueTest::showsTemplatesOfTheGivenUser()
+void PxCatalogueTest::namingACatalogueMeansItsThemesAndDefaults()
 {
     const QTemporaryDir empty;
-    const auto layout = [](const QStringList &more) {
-        const QJsonValue templates = run("show BOOK_A4_PORTRAIT --json", more).json()["templates"];
-        return templates[4]["layout"].toString();
+    const auto layout = [&empty](const QStringList &more, bool isInVariable) {
+        const QString other = isInVariable ? empty.path() : QString();
+        const PxProgramRun shown(
+            PX_CATALOGUE_PROGRAM,
+            QStringList{"show", "BOOK_A4_PORTRAIT", "--json", "--theme", "normal"} + more,
+            {{"XDG_DATA_HOME", empty.path()},
+             {"PX_THEMES_DIR", other},
+             {"PX_USER_DEFAULTS_DIR", other}});
+        return shown.json()["templates"][4]["layout"].toString();
     };
-    QCOMPARE(layout({}), QString("1 Bild mit Rand"));
-    QCOMPARE(layout({"--user-defaults", empty.path()}), QString("2 Bilder uebereinander"));
+    const QStringList resources{"--resources", PX_SAMPLE_DIRECTORY};
+    const QString ofUser = "1 Bild mit Rand";
+    const QString ofProduct = "2 Bilder uebereinander";
+    QCOMPARE(layout(resources, true), ofUser);
+    QCOMPARE(layout(resources + QStringList{"--user-defaults", empty.path()}, true), ofProduct);
+    QCOMPARE(layout(resources + QStringList{"--themes", empty.path()}, true), QString());
+    // Otherwise it is as in applications: themes beside the products, defaults in the user's data.
+    QCOMPARE(layout({}, false), ofProduct);
+    QCOMPARE(layout({}, true), QString());
+    QVERIFY(QDir(empty.path()).mkpath("pxcatalogue"));
+    QVERIFY(QFile::link(PX_SAMPLE_DIRECTORY "/defaults", empty.filePath("pxcatalogue/defaults")));
+    QCOMPARE(layout({}, false), ofUser);
+}
+
+void PxCatalogueTest::warnsOnceWithoutProducts()
+{
+    const QTemporaryDir empty;
+    const PxProgramRun list = run("list", {"--products", empty.path()});
+    QCOMPARE(list.errors(),
+             QStringList{"pxcatalogue: warning: PxProductPropertiesInitializer::setupModule found "
+                         "no product file in \"" +
+                         empty.path() + '"'});
+    QCOMPARE(list.status(), 0);
 }
 
 void PxCatalogueTest::keepsTheLogOffTheOutput()
@@ -270,6 +298,7 @@ void PxCatalogueTest::printsWhatTheReadmeShows()
     const QString readme = textOf(PX_SOURCE_DIRECTORY "/README.md");
     const QStringList blocks = readme.split("```console\n$ pxcatalogue").mid(1);
     QVERIFY(blocks.size() >= 2);
+    QVERIFY(QDir::setCurrent(PX_SOURCE_DIRECTORY));
     for (const QString &block : blocks) {
         const QString shown = block.section("\n```", 0, 0).replace("\n\n", "\n");
         const QString output = run(shown.section('\n', 0, 0), {}, 100).output().join('\n');

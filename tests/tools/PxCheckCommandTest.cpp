@@ -106,7 +106,7 @@ PxProgramRun PxCheckCommandTest::check(const QString &options) const
 {
     return PxProgramRun(PX_CATALOGUE_PROGRAM,
                         QStringList("check") + options.split(' ', Qt::SkipEmptyParts),
-                        {{"PX_RESOURCE_DIRS", QString()}, {"PX_THEMES_DIR", QString()}});
+                        {{"PX_RESOURCE_DIRS", QString()}});
 }
 
 /** An error, a warning and an info. */

@@ -27,7 +27,7 @@ private:
 QStringList PxCheckTagsTest::findings(const QString &path) const
 {
     const PxProgramRun run(PX_CATALOGUE_PROGRAM, {"check", "--pedantic", path},
-                           {{"PX_RESOURCE_DIRS", QString()}, {"PX_THEMES_DIR", QString()}});
+                           {{"PX_RESOURCE_DIRS", QString()}});
     const QString directory = m_sample.path() + '/';
     QStringList found;
     for (QString line : run.output()) {

@@ -118,7 +118,7 @@ void PxCheckTextsTest::tellsWhatBecomesOfIt()
     const QString file = isOfBook ? "products/book_mini.xml" : "products/cup2.xml";
     m_sample.replace(file, old, mistake);
     const PxProgramRun run(PX_CATALOGUE_PROGRAM, {"check", m_sample.path()},
-                           {{"PX_RESOURCE_DIRS", QString()}, {"PX_THEMES_DIR", QString()}});
+                           {{"PX_RESOURCE_DIRS", QString()}});
     m_sample.restore(file);
     QVERIFY2(run.text().contains(text), qPrintable(run.text()));
     QCOMPARE(run.output().filter("now: ").size(), 1);

@@ -44,12 +44,6 @@ QString PxCatalogueDirectories::apply() const
     const QString problem = useGivenOnes();
     if (!problem.isEmpty())
         return problem;
-    auto *config = PxDirectoryConfig::instance();
-    if (m_commandLine.value("user-defaults").isEmpty() &&
-        qEnvironmentVariableIsEmpty("PX_USER_DEFAULTS_DIR"))
-        config->setUserDefaultsPath(config->resource(QStringLiteral("defaults"), false));
-    if (m_commandLine.value("themes").isEmpty() && qEnvironmentVariableIsEmpty("PX_THEMES_DIR"))
-        config->setThemesDirectory(config->resource(QStringLiteral("themes"), false));
     return findCatalogue();
 }
 
@@ -115,8 +109,11 @@ QString PxCatalogueDirectories::useGivenOnes() const
         if (!directory.isEmpty() && !problemOf(directory).isEmpty())
             return problemOf(directory);
     }
-    if (!resources.isEmpty())
+    if (!resources.isEmpty()) { // a catalogue is named: with all that is in it
         config->setResourceDirectories(resources);
+        config->setUserDefaultsPath(config->resource(QStringLiteral("defaults"), false));
+        config->setThemesDirectory(config->resource(QStringLiteral("themes"), false));
+    }
     if (!userDefaults.isEmpty())
         config->setUserDefaultsPath(userDefaults);
     if (!themes.isEmpty())
