@@ -16,6 +16,7 @@ private slots:
     void findsCompatibleProducts();
     void fitsTheTerminal();
     void saysWhatIsWrong();
+    void needsItsProductTypes();
     void survivesBrokenProductFiles();
     void namingACatalogueMeansItsThemesAndDefaults();
     void warnsOnceWithoutProducts();
@@ -200,6 +201,31 @@ void PxCatalogueTest::saysWhatIsWrong()
     check("list --legacy /no/such", 2, "the directory \"/no/such\" does not exist");
     check("list --user-defaults /dev/null", 2, "the directory \"/dev/null\" is no directory");
     // clang-format on
+}
+
+void PxCatalogueTest::needsItsProductTypes()
+{
+    const QTemporaryDir directory;
+    QVERIFY(QDir(directory.path()).mkdir("products"));
+    const QString path = directory.filePath("producttypes.xml");
+    const auto check = [&](const char *content, const QString &error) {
+        if (content) {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) >= 0);
+        }
+        for (const QString command : {"list", "show CUP2", "themes"}) {
+            const PxProgramRun wrong = run(command, {"--resources", directory.path()});
+            QCOMPARE(wrong.errors().size(), 1);
+            QVERIFY2(wrong.errors()[0].startsWith("pxcatalogue: " + error),
+                     qPrintable(wrong.errors()[0]));
+            QVERIFY(wrong.status() == 2 && wrong.output().isEmpty());
+        }
+    };
+    const QString types =
+        "the file \"" + path + "\", without which no product is known, cannot be read: ";
+    check(nullptr, types + "name the resource directory with --resources");
+    check("<products/>", types + "the document element is not producttypes");
+    check("<producttypes>", types + path + ":1:");
 }
 
 void PxCatalogueTest::survivesBrokenProductFiles()

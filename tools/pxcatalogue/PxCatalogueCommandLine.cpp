@@ -93,7 +93,8 @@ constexpr const char *introduction =
 constexpr const char *exitStatus =
     "\nExit status: 0 done; 1 the answer is \"no\": there is no such product or\n"
     "theme, no other product that is interchangeable, no theme to order, or no variant;\n"
-    "2 wrong usage, or a directory that cannot be read. \"check --help\" tells that of check.";
+    "2 wrong usage, or a directory or a producttypes.xml that cannot be read.\n"
+    "\"check --help\" tells that of check.";
 
 QString programDescription()
 {

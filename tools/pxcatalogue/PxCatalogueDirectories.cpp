@@ -3,6 +3,7 @@
 #include "PxCatalogueCommandLine.h"
 
 #include <PxDirectoryConfig.h>
+#include <PxXMLLoader.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -136,9 +137,18 @@ QString PxCatalogueDirectories::findCatalogue() const
             return problem + hint;
     }
     const QString types = config->resource(QStringLiteral("producttypes.xml"), false);
+    const QString problem =
+        QStringLiteral("the file \"%1\", without which no product is known, cannot be read")
+            .arg(types);
     if (!QFileInfo(types).isReadable())
-        return QStringLiteral("the file \"%1\", without which no product is known, cannot be read")
-                   .arg(types) +
-               hint;
+        return problem + hint;
+    if (isCheck()) // which reports what is wrong in the file, with the place
+        return QString();
+    QString error;
+    const QDomElement root = PxXMLLoader::loadDocumentElement(QFileInfo(types), &error);
+    if (root.isNull())
+        return problem + QLatin1String(": ") + error;
+    if (root.tagName() != QLatin1String("producttypes"))
+        return problem + QLatin1String(": the document element is not producttypes");
     return QString();
 }
