@@ -158,6 +158,9 @@ void PxCatalogueTest::findsCompatibleProducts()
     find("", 0, {"_GLOSSY", "_PHOTO", "_SOFT", "BOOK_XXL_PORTRAIT"});
     find(" --criterion paper", 0, {"_SOFT"});
     find(" --criterion binding,paper", 1, {});
+    const QString help = run("compatible --help").text();
+    QVERIFY(help.contains("as many entries (a range of pages is one)") &&
+            !help.contains("and number of pages"));
 }
 
 void PxCatalogueTest::fitsTheTerminal()

@@ -41,8 +41,9 @@ constexpr struct CommandRow { Command command; const char *name; const Argument 
         "Page numbers begin at 0 and count covers and spine; 4-28/2 means every second one\n"
         "from 4 to 28. What the product does not have is left out."},
     {Command::Compatible, "compatible", &productName, "The other products that are interchangeable with this one.\n"
-        "Those are the ones of its class with the same orientation and number of pages, and with a spine\n"
-        "if it has one."},
+        "Those of its class with the same orientation and a page list of as many entries (a range of\n"
+        "pages is one), both lists with a spine or both without. Page counts are not compared.\n"
+        "--criterion names what must agree beside these."},
     {Command::Themes, "themes", nullptr, "A table of the design themes, by id.\n"
         "Products is the number of those that a theme allows; JSON names them."},
     {Command::Check, "check", &filePaths, "What authors should know about the files of a catalogue.\n"

@@ -36,7 +36,7 @@ public:
     int pageCount() const { return m_pageCount; }
     /** None when none is given, which means all. */
     PxProductClass productClasses() const { return m_productClasses; }
-    /** What must agree beside orientation, spine and number of pages. */
+    /** What must agree beside orientation, spine and the number of entries in the page list. */
     PxProductComparationCriterion criterion() const { return m_criterion; }
     QJsonArray criterionKeywords() const;
     /** Ids of themes are in lower case. Empty when none is given. */
