@@ -10,6 +10,7 @@ class PxCatalogueTest : public QObject
 
 private slots:
     void listsTheProductsByClassAndName();
+    void listsTheProductsOfEarlierCatalogues();
     void showsSizesInMillimetres();
     void showsSizesAsTheyAreInJson();
     void showsAsManyPagesAsAsked();
@@ -18,6 +19,7 @@ private slots:
     void saysWhatIsWrong();
     void needsItsProductTypes();
     void survivesBrokenProductFiles();
+    void hasNoIncrementBelowThreePageCounts();
     void namingACatalogueMeansItsThemesAndDefaults();
     void warnsOnceWithoutProducts();
     void keepsTheLogOffTheOutput();
@@ -88,6 +90,21 @@ void PxCatalogueTest::listsTheProductsByClassAndName()
     QCOMPARE(namesOf(run("list --class print --json")), QStringList{"PRINT_10X15"});
     QCOMPARE(namesOf(run("--json --class PRINT list")), QStringList{"PRINT_10X15"});
     QCOMPARE(namesOf(run("list --class print,calendar --json")).size(), 6);
+}
+
+void PxCatalogueTest::listsTheProductsOfEarlierCatalogues()
+{
+    const PxProgramRun list = run("list --earlier --class book,calendar --json");
+    QCOMPARE(list.status(), 0);
+    QCOMPARE(namesOf(list).join(','),
+             QString("BOOK_CLASSIC_A4,BOOK_CLASSIC_A4_LANDSCAPE,BOOK_CLASSIC_SQUARE,"
+                     "CALENDAR_CLASSIC_WALL"));
+    const QJsonValue book = list.json()["products"][0];
+    QCOMPARE(book["isOffered"], QJsonValue(false)); // as "show" says
+    QCOMPARE(book["pageCounts"]["increment"].toInt(), 4);
+    QCOMPARE(list.json()["products"][3]["pageCounts"]["maximum"].toInt(), 12);
+    const PxProgramRun none = run("list --earlier --json --legacy " PX_SAMPLE_DIRECTORY "/images");
+    QVERIFY(none.status() == 0 && namesOf(none).isEmpty());
 }
 
 void PxCatalogueTest::showsSizesInMillimetres()
@@ -235,8 +252,8 @@ void PxCatalogueTest::survivesBrokenProductFiles()
 {
     const QTemporaryDir directory;
     writeProducts(directory,
-                  {"name='CUP2'><usablesize width='1' height='1'/>", "name='PDT1' binding='GIFT'/>",
-                   "name='CB6' numOfNormalPages='2000000000'><pages>normalpages</pages>"
+                  {"name='CUP2'><usablesize width='1' height='1'/>", "name='BOOK_XL_SQUARE'/>",
+                   "name='CB6' numOfNormalPages='50000'><pages>normalpages</pages>"
                    "<usablesize width='2147483647' height='5'/>"
                    "<defaults><defaults pageType='normalpage' "
                    "layout='a&#10;b&#x9b;1m'/></defaults></product>",
@@ -247,8 +264,8 @@ void PxCatalogueTest::survivesBrokenProductFiles()
     const QStringList rows = simplified(list.output());
     QCOMPARE(rows.size(), 4);
     QCOMPARE(rows[1], QString("BOOK_MINI book 1×2 GIFT Digitaldruck portrait yes"));
-    QVERIFY(rows[2].startsWith("CB6 "));
-    QCOMPARE(rows[3], QString("PDT1 gift GIFT Digitaldruck 1 no"));
+    QCOMPARE(rows[2], QString("BOOK_XL_SQUARE book GIFT Digitaldruck no"));
+    QVERIFY(rows[3].startsWith("CB6 "));
     const QString file = directory.filePath("product1.xml");
     QCOMPARE(list.errors().size(), 2);
     QVERIFY(list.errors()[0].startsWith("pxcatalogue: warning: ") &&
@@ -260,7 +277,7 @@ void PxCatalogueTest::survivesBrokenProductFiles()
     const PxProgramRun block = run("show CB6", products);
     QCOMPARE(block.status(), 0);
     QVERIFY(block.errors().contains(
-        "pxcatalogue: warning: 2000000000 pages are too many to show: 9999 are shown"));
+        "pxcatalogue: warning: 50000 pages are too many to show: 9999 are shown"));
     QVERIFY(block.output().join('\n').contains("a\uFFFDb\uFFFD1m"));
     QVERIFY(block.output().join('\n').contains("214748364.7×0.5 mm"));
 
@@ -269,6 +286,22 @@ void PxCatalogueTest::survivesBrokenProductFiles()
     QCOMPARE(pages["pageCount"].toInt(), 1);
     QCOMPARE(pages["isPageCountOffered"], QJsonValue(false));
     QCOMPARE(pages["nearestPageCounts"], QJsonValue(QJsonArray()));
+}
+
+void PxCatalogueTest::hasNoIncrementBelowThreePageCounts()
+{
+    const QTemporaryDir directory;
+    writeProducts(directory, {"name='BOOK_MINI'><usablesize width='10' height='20'/><spines>"
+                              "<spine pages='26'/><spine pages='30'/></spines></product>",
+                              "name='CUP2'><usablesize width='10' height='20'/></product>"});
+    const QStringList products{"--products", directory.path()};
+    const QJsonObject book = run("show BOOK_MINI --json", products).json();
+    const QJsonObject counts{{"minimum", 26}, {"maximum", 30}, {"increment", QJsonValue()}};
+    QCOMPARE(book["pages"]["pageCounts"].toObject(), counts);
+    const PxProgramRun list = run("list", products);
+    QVERIFY2(list.text().contains("Digitaldruck 26, 30 portrait"), qPrintable(list.text()));
+    const QJsonValue cup = run("list --json", products).json()["products"][1]["pageCounts"];
+    QVERIFY(cup["minimum"].toInt() == 1 && cup["increment"].isNull());
 }
 
 void PxCatalogueTest::namingACatalogueMeansItsThemesAndDefaults()

@@ -102,14 +102,17 @@ int PxCatalogue::run() const
 
 int PxCatalogue::list() const
 {
+    const auto *registry = m_commandLine.isSet("earlier")
+                               ? PxProductTypeConfigRegistry::legacyInstance()
+                               : PxProductTypeConfigRegistry::instance();
     const PxProductClass classes = m_commandLine.productClasses();
     PxProductTypeList products;
-    for (const PxProductType &type : PxCatalogueProducts::current()) {
+    for (const PxProductType &type : PxCatalogueProducts::of(registry)) {
         if (classes == PxProductClassUnknown || type.isProductClass(classes))
             products.append(type);
     }
     PxReport report;
-    PxProductTable(products).addTo(&report);
+    PxProductTable(registry, products).addTo(&report);
     return print(report);
 }
 
@@ -136,8 +139,8 @@ int PxCatalogue::showCompatible() const
     if (!isThemeKnown())
         return printUnknownTheme();
 
-    PxProductTypeList others = PxProductTypeConfigRegistry::instance()->findCompatibleProducts(
-        type, m_commandLine.criterion());
+    const auto *registry = PxProductTypeConfigRegistry::instance();
+    PxProductTypeList others = registry->findCompatibleProducts(type, m_commandLine.criterion());
     others.removeAll(type);
     QVector<PxReport::Field> query{{"product", "With", type.productName()},
                                    {"criterion", "Agreeing in", m_commandLine.criterionKeywords()}};
@@ -149,7 +152,7 @@ int PxCatalogue::showCompatible() const
     }
     PxReport report;
     report.addFields("query", "Interchangeable", query);
-    PxProductTable(PxCatalogueProducts::sorted(others)).addTo(&report);
+    PxProductTable(registry, PxCatalogueProducts::sorted(others)).addTo(&report);
     QString reason =
         QLatin1String("no other product is interchangeable with ") + type.productName();
     if (!themeId.isEmpty())

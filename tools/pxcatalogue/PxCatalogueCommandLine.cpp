@@ -1,7 +1,7 @@
 #include "PxCatalogueCommandLine.h"
 
 #include "PxCatalogueKeywords.h"
-#include "PxOfferedPageCounts.h"
+#include "PxProductReport.h"
 
 #include <QCoreApplication>
 
@@ -36,7 +36,7 @@ constexpr Argument filePaths = {"[PATH…]", "A resource directory, or files.", 
 // clang-format off
 constexpr struct CommandRow { Command command; const char *name; const Argument *argument; const char *description; } commandRows[] = {
     {Command::List, "list", nullptr, "A table of the products, by class and name.\n"
-        "Pages 26-154/2 means from 26 to 154 in steps of 2."},
+        "Pages 26-154/2 means from 26 to 154 in steps of 2; 26, 30 means these two."},
     {Command::Show, "show", &productName, "Everything that is known about one product.\n"
         "Page numbers begin at 0 and count covers and spine; 4-28/2 means every second one\n"
         "from 4 to 28. What the product does not have is left out."},
@@ -59,6 +59,7 @@ constexpr struct CommandRow { Command command; const char *name; const Argument 
 
 constexpr struct { int commands; const char *name; const char *value; const char *description; } optionRows[] = {
     {int(Command::List), "class", "KEYWORD", "Only these products: book, calendar, gift, card, deko or print; several with commas."},
+    {int(Command::List), "earlier", nullptr, "The products of earlier catalogues, those of --legacy, instead of the current ones."},
     {int(Command::Show), "pages", "N", "As a product of so many pages, 1 to 9999. Default: as many as it is sold with."},
     {int(Command::Compatible), "criterion", "KEYWORDS", "What must agree, too: binding, paper, space and increment, with commas. Default: none."},
     {themedCommands, "theme", "ID", "As designed in this theme. Default: default templates of the theme normal, products whatever their themes."},
@@ -233,7 +234,7 @@ void PxCatalogueCommandLine::readValues()
     }
     m_productClasses = readKeywords(QStringLiteral("class"), productClassKeywords);
     m_criterion = readKeywords(QStringLiteral("criterion"), ::criterionKeywords);
-    m_pageCount = readNumber(QStringLiteral("pages"), 1, PxOfferedPageCounts::maximumShown);
+    m_pageCount = readNumber(QStringLiteral("pages"), 1, PxProductReport::maximumPageCount);
     m_keyAccount = readNumber(QStringLiteral("key-account"), 0, std::numeric_limits<int>::max());
     if (!QStringList{QString(), QStringLiteral("en"), QStringLiteral("de")}.contains(language()))
         setError(QStringLiteral("--lang needs en or de, not \"%1\"").arg(language()));

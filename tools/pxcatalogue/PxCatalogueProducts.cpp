@@ -18,11 +18,11 @@ bool hasFile(const PxProductTypeConfigRegistry *registry, const PxProductType &t
 
 } // namespace
 
-PxProductTypeList PxCatalogueProducts::current()
+PxProductTypeList PxCatalogueProducts::of(const PxProductTypeConfigRegistry *registry)
 {
-    PxProductTypeList types;
+    PxProductTypeList types = registry->products();
     for (const PxProductType &type : PxListedProductTypes::instance().types()) {
-        if (isCurrent(type))
+        if (hasFile(registry, type) && !registry->exists(type))
             types.append(type);
     }
     return sorted(types);
@@ -31,10 +31,12 @@ PxProductTypeList PxCatalogueProducts::current()
 QStringList PxCatalogueProducts::names()
 {
     QStringList names;
-    for (const PxProductType &type : PxListedProductTypes::instance().types()) {
-        if (isCurrent(type) || isLegacy(type))
+    for (const auto *registry :
+         {PxProductTypeConfigRegistry::instance(), PxProductTypeConfigRegistry::legacyInstance()}) {
+        for (const PxProductType &type : of(registry))
             names.append(type.productName());
     }
+    names.removeDuplicates();
     return names;
 }
 
@@ -46,6 +48,12 @@ bool PxCatalogueProducts::isCurrent(const PxProductType &type)
 bool PxCatalogueProducts::isLegacy(const PxProductType &type)
 {
     return hasFile(PxProductTypeConfigRegistry::legacyInstance(), type);
+}
+
+bool PxCatalogueProducts::isOffered(const PxProductTypeConfigRegistry *registry,
+                                    const PxProductType &type)
+{
+    return registry == PxProductTypeConfigRegistry::instance() && registry->exists(type);
 }
 
 QString PxCatalogueProducts::className(const PxProductType &type)

@@ -4,6 +4,9 @@
 
 #include <PxProductProperties.h>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 using Format = PxReportFormat;
@@ -41,6 +44,38 @@ QJsonArray backgroundCategoriesOf(const PxProductTypeDescription *product)
     return QJsonArray::fromStringList(categories);
 }
 
+/**
+ * `wanted`, or when that is 0 the page count with which the product is sold; lowered, with a
+ * warning, when it is too large.
+ */
+int shownPageCount(const PxProductTypeDescription &product, const QList<int> &offered, int wanted)
+{
+    // Every entry of the page list may stand for that many pages: a million is enough for anyone.
+    const int entries = qMax(1, product.countAbstractPages());
+    const int limit = qBound(1, 1000000 / entries, PxProductReport::maximumPageCount);
+    const int soldWith = product.defaultSellingPages();
+    const int standard = soldWith > 0 ? soldWith : offered.value(0, 1);
+    const int pageCount = wanted > 0 ? wanted : standard;
+    if (pageCount <= limit)
+        return pageCount;
+    qWarning("%d pages are too many to show: %d are shown", pageCount, limit);
+    return limit;
+}
+
+/** The next smaller one and the next larger one, as far as there are any; none if it is offered. */
+QList<int> nearestPageCounts(const QList<int> &offered, int pageCount)
+{
+    const auto larger = std::lower_bound(offered.begin(), offered.end(), pageCount);
+    QList<int> nearest;
+    if (larger != offered.end() && *larger == pageCount)
+        return nearest;
+    if (larger != offered.begin())
+        nearest.append(*std::prev(larger));
+    if (larger != offered.end())
+        nearest.append(*larger);
+    return nearest;
+}
+
 } // namespace
 
 PxProductReport::PxProductReport(const PxProductTypeConfigRegistry *registry,
@@ -48,8 +83,8 @@ PxProductReport::PxProductReport(const PxProductTypeConfigRegistry *registry,
     : m_registry(registry)
     , m_type(type)
     , m_product(registry->description(type))
-    , m_offered(registry, type)
-    , m_pageCount(m_offered.shown(pageCount))
+    , m_offeredPageCounts(m_product->offeredPageCounts())
+    , m_pageCount(shownPageCount(*m_product, m_offeredPageCounts, pageCount))
     , m_themeId(themeId)
 {
     for (const PxPageType &pageType : m_product->pageTypes(m_pageCount)) {
@@ -84,7 +119,7 @@ void PxProductReport::addProduct()
         {"shortName", "Short name", m_type.shortProductName()},
         {"code", "Code", int(m_type.type())},
         {"class", "Class", PxCatalogueProducts::className(m_type)},
-        {"isOffered", "Offered", m_registry->isValid(m_type) && !isLegacy},
+        {"isOffered", "Offered", PxCatalogueProducts::isOffered(m_registry, m_type)},
         {"isLegacy", "Of earlier catalogue", isLegacy},
         {"binding", "Binding", PxReportValue::name(m_product->binding()), Format::Name},
         {"paper", "Paper", PxReportValue::name(m_product->paperType()), Format::Name},
@@ -102,8 +137,7 @@ void PxProductReport::addProduct()
 void PxProductReport::addPages()
 {
     const int sellingPages = m_product->defaultSellingPages();
-    const bool isOffered = m_offered.contains(m_pageCount);
-    const QList<int> nearest = isOffered ? QList<int>() : m_offered.nearest(m_pageCount);
+    const QList<int> nearest = nearestPageCounts(m_offeredPageCounts, m_pageCount);
     QList<int> withContent;
     for (int page = 0; page < m_pages.size(); ++page) {
         if (m_product->contentAllowedOnPage(page))
@@ -111,11 +145,11 @@ void PxProductReport::addPages()
     }
     // clang-format off
     m_report.addFields("pages", "Pages", {
-        {"pageCounts", "Page counts", m_offered.toJson(), Format::PageCounts},
+        {"pageCounts", "Page counts", PxReportValue::pageCounts(m_offeredPageCounts, m_product->pageIncrement()), Format::PageCounts},
         {"defaultSellingPages", "Sold with", sellingPages == -1 ? QJsonValue() : sellingPages},
         {"explicitNumberOfNormalPages", "Normal pages", m_product->explicitNumberOfNormalPages()},
         {"pageCount", "Shown with", m_pageCount},
-        {"isPageCountOffered", "Offered with these", isOffered},
+        {"isPageCountOffered", "Offered with these", m_product->isPageCountOffered(m_pageCount)},
         {"nearestPageCounts", "Nearest offered", PxReportValue::numbers(nearest)},
         {"printedPages", "With covers and spine", m_pages.size()},
         {"listEntries", "Entries of page list", m_product->countAbstractPages()},

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "PxOfferedPageCounts.h"
 #include "PxReport.h"
 
 #include <PxProductType.h>
@@ -14,6 +13,9 @@ class PxProductTypeDescription;
 class PxProductReport
 {
 public:
+    /** The largest page count that is shown: pages are shown one by one. */
+    static constexpr int maximumPageCount = 9999;
+
     /**
      * A product of this registry, the current one or the legacy one.
      *
@@ -48,7 +50,7 @@ private:
     const PxProductTypeConfigRegistry *m_registry;
     PxProductType m_type;
     const PxProductTypeDescription *m_product; // the registry's
-    PxOfferedPageCounts m_offered;
+    QList<int> m_offeredPageCounts;
     int m_pageCount;
     QString m_themeId;            // empty for none
     QList<PxPageContext> m_pages; // all pages in their order, covers included

@@ -1,7 +1,6 @@
 #include "PxProductTable.h"
 
 #include "PxCatalogueProducts.h"
-#include "PxOfferedPageCounts.h"
 #include "PxReport.h"
 
 #include <PxProductProperties.h>
@@ -10,31 +9,34 @@ namespace {
 
 using Format = PxReportFormat;
 
-QJsonArray row(const PxProductType &type)
+QJsonArray row(const PxProductTypeConfigRegistry *registry, const PxProductType &type)
 {
-    const auto *registry = PxProductTypeConfigRegistry::instance();
     const PxProductTypeDescription *product = registry->description(type);
     return {type.productName(),
             PxCatalogueProducts::className(type),
             PxReportValue::size(product->usablePrintSize(PxPageTypeNormalPage, -1)),
             PxReportValue::name(product->binding()),
             PxReportValue::name(product->paperType()),
-            PxOfferedPageCounts(registry, type).toJson(),
+            PxReportValue::pageCounts(product->offeredPageCounts(), product->pageIncrement()),
             keywordOf(product->orientation()),
-            product->isValid(),
+            PxCatalogueProducts::isOffered(registry, type),
             int(type.type()),
             type.shortProductName()};
 }
 
 } // namespace
 
-PxProductTable::PxProductTable(const PxProductTypeList &products) : m_products(products) {}
+PxProductTable::PxProductTable(const PxProductTypeConfigRegistry *registry,
+                               const PxProductTypeList &products)
+    : m_registry(registry)
+    , m_products(products)
+{}
 
 void PxProductTable::addTo(PxReport *report) const
 {
     QVector<QJsonArray> rows;
     for (const PxProductType &type : m_products)
-        rows.append(row(type));
+        rows.append(row(m_registry, type));
     // clang-format off
     report->addTable("products", "", {
         {"name", "Name", Format::Key},

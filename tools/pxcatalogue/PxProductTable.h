@@ -2,16 +2,18 @@
 
 #include <PxProductTypeList.h>
 
+class PxProductTypeConfigRegistry;
 class PxReport;
 
 /** Products below each other, with what tells them apart. */
 class PxProductTable
 {
 public:
-    explicit PxProductTable(const PxProductTypeList &products);
+    PxProductTable(const PxProductTypeConfigRegistry *registry, const PxProductTypeList &products);
 
     void addTo(PxReport *report) const;
 
 private:
+    const PxProductTypeConfigRegistry *m_registry; // which describes them
     PxProductTypeList m_products;
 };

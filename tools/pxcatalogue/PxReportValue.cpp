@@ -35,11 +35,11 @@ QString pageCountsText(const QJsonValue &counts)
 {
     const int minimum = counts[u"minimum"].toInt();
     const int maximum = counts[u"maximum"].toInt();
-    const int increment = counts[u"increment"].toInt();
     if (minimum == maximum)
         return QString::number(minimum);
-    const QString range = QStringLiteral("%1-%2").arg(minimum).arg(maximum);
-    return increment > 0 ? range + QStringLiteral("/%1").arg(increment) : range;
+    if (counts[u"increment"].isNull())
+        return QStringLiteral("%1, %2").arg(minimum).arg(maximum);
+    return QStringLiteral("%1-%2/%3").arg(minimum).arg(maximum).arg(counts[u"increment"].toInt());
 }
 
 /** The index behind a run of neighbours, or of every second number, that begins at `first`. */
@@ -128,6 +128,16 @@ QJsonValue PxReportValue::name(const QString &keyword, const QString &displayNam
     if (keyword.isEmpty())
         return QJsonValue();
     return QJsonObject{{QStringLiteral("keyword"), keyword}, {QStringLiteral("name"), displayName}};
+}
+
+QJsonValue PxReportValue::pageCounts(const QList<int> &offered, int increment)
+{
+    if (offered.isEmpty())
+        return QJsonValue();
+    const bool hasSteps = offered.size() >= 3;
+    return QJsonObject{{QStringLiteral("minimum"), offered.constFirst()},
+                       {QStringLiteral("maximum"), offered.constLast()},
+                       {QStringLiteral("increment"), hasSteps ? increment : QJsonValue()}};
 }
 
 QJsonValue PxReportValue::numbers(const QList<int> &numbers)

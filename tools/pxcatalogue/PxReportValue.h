@@ -49,6 +49,8 @@ public:
         return attribute.isNull() ? QJsonValue()
                                   : name(keywordOf(attribute), isUnknown ? QString() : displayName);
     }
+    /** Null when none is offered. The increment is null below three page counts. */
+    static QJsonValue pageCounts(const QList<int> &offered, int increment);
     static QJsonValue numbers(const QList<int> &numbers);
 
     /** Without unit; empty for a value that says nothing: null, an empty text or list. */
