@@ -145,21 +145,25 @@ void PxCatalogueTest::showsSizesAsTheyAreInJson()
 
 void PxCatalogueTest::showsAsManyPagesAsAsked()
 {
-    const auto show = [](int count, bool isOffered, const QJsonArray &nearest, int spine) {
+    const auto show = [](int count, const QJsonArray &nearest, int spine, const QString &warning) {
         const PxProgramRun book =
             run(QString("show BOOK_A4_PORTRAIT --json --pages %1").arg(count));
         const QJsonValue pages = book.json()["pages"];
         QCOMPARE(pages["pageCount"].toInt(), count);
         QCOMPARE(pages["printedPages"].toInt(), count + 5);
-        QCOMPARE(pages["isPageCountOffered"], QJsonValue(isOffered));
+        QCOMPARE(pages["isPageCountOffered"], QJsonValue(warning.isEmpty()));
         QCOMPARE(pages["nearestPageCounts"].toArray(), nearest);
         QCOMPARE(book.json()["spine"]["width"].toInt(), spine);
+        QCOMPARE(book.status(), 0);
+        QCOMPARE(book.errors().join('\n').remove(
+                     "pxcatalogue: warning: BOOK_A4_PORTRAIT is not offered with "),
+                 warning);
     };
-    show(26, true, {}, 94);
-    show(154, true, {}, 203);
-    show(27, false, {26, 28}, 0);
-    show(1, false, {26}, 0);
-    show(9999, false, {154}, 0);
+    show(26, {}, 94, "");
+    show(154, {}, 203, "");
+    show(27, {26, 28}, 0, "27 pages, the nearest are 26 and 28");
+    show(1, {26}, 0, "1 page, the nearest is 26");
+    show(9999, {154}, 0, "9999 pages, the nearest is 154");
 }
 
 void PxCatalogueTest::findsCompatibleProducts()

@@ -76,6 +76,19 @@ QList<int> nearestPageCounts(const QList<int> &offered, int pageCount)
     return nearest;
 }
 
+void warnOfPageCount(const PxProductType &type, int pageCount, const QList<int> &nearest)
+{
+    QString text = QStringLiteral("%1 is not offered with %2 %3")
+                       .arg(type.productName())
+                       .arg(pageCount)
+                       .arg(pageCount == 1 ? QLatin1String("page") : QLatin1String("pages"));
+    if (nearest.size() == 1)
+        text += QStringLiteral(", the nearest is %1").arg(nearest[0]);
+    else if (!nearest.isEmpty())
+        text += QStringLiteral(", the nearest are %1 and %2").arg(nearest[0]).arg(nearest[1]);
+    qWarning("%s", qUtf8Printable(text));
+}
+
 } // namespace
 
 PxProductReport::PxProductReport(const PxProductTypeConfigRegistry *registry,
@@ -87,6 +100,8 @@ PxProductReport::PxProductReport(const PxProductTypeConfigRegistry *registry,
     , m_pageCount(shownPageCount(*m_product, m_offeredPageCounts, pageCount))
     , m_themeId(themeId)
 {
+    if (pageCount > 0 && !m_product->isPageCountOffered(m_pageCount))
+        warnOfPageCount(type, m_pageCount, nearestPageCounts(m_offeredPageCounts, m_pageCount));
     for (const PxPageType &pageType : m_product->pageTypes(m_pageCount)) {
         const PxPageContext page(pageType, m_product->pageAlignment(m_pages.size()));
         m_pages.append(page);

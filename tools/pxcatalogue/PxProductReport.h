@@ -19,8 +19,9 @@ public:
     /**
      * A product of this registry, the current one or the legacy one.
      *
-     * With `pageCount` 0 the product has as many pages as it is sold with. With a theme, which is
-     * for current products only, it is designed in that.
+     * With `pageCount` 0 the product has as many pages as it is sold with; any other number with
+     * which it is not offered causes a warning. With a theme, which is for current products only,
+     * it is designed in that.
      */
     PxProductReport(const PxProductTypeConfigRegistry *registry, const PxProductType &type,
                     int pageCount, const QString &themeId);
