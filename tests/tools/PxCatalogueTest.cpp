@@ -19,7 +19,7 @@ private slots:
     void saysWhatIsWrong();
     void needsItsProductTypes();
     void survivesBrokenProductFiles();
-    void hasNoIncrementBelowThreePageCounts();
+    void hasNoIncrementOfTwoPageCounts();
     void namingACatalogueMeansItsThemesAndDefaults();
     void warnsOnceWithoutProducts();
     void keepsTheLogOffTheOutput();
@@ -292,7 +292,7 @@ void PxCatalogueTest::survivesBrokenProductFiles()
     QCOMPARE(pages["nearestPageCounts"], QJsonValue(QJsonArray()));
 }
 
-void PxCatalogueTest::hasNoIncrementBelowThreePageCounts()
+void PxCatalogueTest::hasNoIncrementOfTwoPageCounts()
 {
     const QTemporaryDir directory;
     writeProducts(directory, {"name='BOOK_MINI'><usablesize width='10' height='20'/><spines>"
@@ -305,7 +305,7 @@ void PxCatalogueTest::hasNoIncrementBelowThreePageCounts()
     const PxProgramRun list = run("list", products);
     QVERIFY2(list.text().contains("Digitaldruck 26, 30 portrait"), qPrintable(list.text()));
     const QJsonValue cup = run("list --json", products).json()["products"][1]["pageCounts"];
-    QVERIFY(cup["minimum"].toInt() == 1 && cup["increment"].isNull());
+    QVERIFY(cup["minimum"].toInt() == 1 && cup["increment"] == 0);
 }
 
 void PxCatalogueTest::namingACatalogueMeansItsThemesAndDefaults()

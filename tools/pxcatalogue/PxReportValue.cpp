@@ -134,10 +134,12 @@ QJsonValue PxReportValue::pageCounts(const QList<int> &offered, int increment)
 {
     if (offered.isEmpty())
         return QJsonValue();
-    const bool hasSteps = offered.size() >= 3;
+    const QJsonValue step = offered.size() == 1   ? QJsonValue(0)
+                            : offered.size() == 2 ? QJsonValue()
+                                                  : QJsonValue(increment);
     return QJsonObject{{QStringLiteral("minimum"), offered.constFirst()},
                        {QStringLiteral("maximum"), offered.constLast()},
-                       {QStringLiteral("increment"), hasSteps ? increment : QJsonValue()}};
+                       {QStringLiteral("increment"), step}};
 }
 
 QJsonValue PxReportValue::numbers(const QList<int> &numbers)

@@ -49,7 +49,7 @@ public:
         return attribute.isNull() ? QJsonValue()
                                   : name(keywordOf(attribute), isUnknown ? QString() : displayName);
     }
-    /** Null when none is offered. The increment is null below three page counts. */
+    /** Null when none is offered. The increment is 0 with one page count, and null with two. */
     static QJsonValue pageCounts(const QList<int> &offered, int increment);
     static QJsonValue numbers(const QList<int> &numbers);
 
