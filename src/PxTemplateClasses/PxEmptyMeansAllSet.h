@@ -5,6 +5,8 @@
 #include <QSet>
 
 #include <algorithm>
+#include <type_traits>
+#include <utility>
 
 /** A set of admitted values, in which the empty set admits every value. */
 template <typename T>
@@ -12,6 +14,8 @@ class PxEmptyMeansAllSet : public QSet<T>
 {
 public:
     using QSet<T>::QSet;
+    /** As the operators of QSet answer. */
+    PxEmptyMeansAllSet(const QSet<T> &set) : QSet<T>(set) {}
 
     bool sharesKey(const T &key) const { return this->isEmpty() || this->contains(key); }
     /** Those of the keys that the set admits, in their order. */
@@ -39,9 +43,20 @@ public:
     }
 };
 
-/** The admitted values in ascending order, or "all". */
+template <typename T, typename = void>
+inline constexpr bool pxHasOrder = false;
+template <typename T>
+inline constexpr bool pxHasOrder<T, std::void_t<decltype(std::declval<T>() < std::declval<T>())>> =
+    true;
+
+/** The admitted values, in ascending order if they have one, or "all". */
 template <typename T>
 QDebug operator<<(QDebug debug, const PxEmptyMeansAllSet<T> &set)
 {
-    return set.isEmpty() ? debug << "all" : debug << set.sorted();
+    if (set.isEmpty())
+        return debug << "all";
+    if constexpr (pxHasOrder<T>)
+        return debug << set.sorted();
+    else
+        return debug << set.values();
 }

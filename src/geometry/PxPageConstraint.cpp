@@ -23,9 +23,11 @@ PxPageConstraint::~PxPageConstraint() = default;
 
 bool PxPageConstraint::isPageType(const PxPageType &pageType) const
 {
+    // A negative value has no single bits.
     return m_pageTypes.isEmpty() ||
-           std::any_of(m_pageTypes.cbegin(), m_pageTypes.cend(),
-                       [&](const PxPageType &own) { return own.matches(pageType.value()); });
+           (pageType.value() > 0 &&
+            std::any_of(m_pageTypes.cbegin(), m_pageTypes.cend(),
+                        [&](const PxPageType &own) { return own.matches(pageType.value()); }));
 }
 
 bool PxPageConstraint::matches(const PxPageConstraint &other) const

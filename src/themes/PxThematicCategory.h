@@ -15,7 +15,6 @@ class QDebug;
 class PXPRODUCTPROPERTIES_EXPORT PxThematicCategory
 {
 public:
-    PxThematicCategory() = default;
     PxThematicCategory(const QString &name, const QString &visibleName);
 
     /** The special categories, which are treated apart from the ordinary ones. */

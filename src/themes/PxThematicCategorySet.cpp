@@ -80,7 +80,7 @@ PxThematicCategorySet PxThematicCategorySet::plusFavourites() const
 PxThematicCategory PxThematicCategorySet::preferredCategory() const
 {
     if (isEmpty())
-        return PxThematicCategory();
+        return PxThematicCategory(QString(), QString());
     if (contains(PxThematicCategory::multiColor()))
         return PxThematicCategory::multiColor();
     const PxThematicCategorySet special = specialCategories();

@@ -32,7 +32,7 @@ PxThemeConfig::~PxThemeConfig() = default;
 
 PxThematicCategory PxThemeConfig::defaultCategory(const PxJigType &jigType) const
 {
-    return m_defaultCategories.value(jigType);
+    return m_defaultCategories.value(jigType, PxThematicCategory(QString(), QString()));
 }
 
 bool PxThemeConfig::operator==(const PxThemeConfig &other) const

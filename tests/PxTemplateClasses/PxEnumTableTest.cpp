@@ -52,6 +52,7 @@ private slots:
     void splitsAndChangesBits();
     void looksUpTexts();
     void emptySetMeansAll();
+    void setsAreShown();
     void mapsDecodeKeywords();
     void mapsLeadEveryValueBack();
 };
@@ -145,6 +146,32 @@ void PxEnumTableTest::emptySetMeansAll()
     QVERIFY(all.sharesKeysWith(all) && all.sharesKeysWith(some) && some.sharesKeysWith(all));
     QVERIFY(!all.sharesRealKeysWith(all) && !some.sharesRealKeysWith(all));
     QVERIFY(!some.sharesKeysWith({3}) && some.sharesKeysWith({2, 3}));
+    const PxEmptyMeansAllSet<int> united = some | QSet<int>{3};
+    QCOMPARE(united.sorted(), QList<int>({1, 2, 3}));
+    PxEmptyMeansAllSet<int> common = united;
+    common = united & QSet<int>{3, 4};
+    QVERIFY(common.sharesKey(3) && !common.sharesKey(1));
+}
+
+/** Equal to others of its number, and nothing more. */
+struct Unordered
+{
+    int number;
+    friend bool operator==(Unordered a, Unordered b) { return a.number == b.number; }
+    friend uint qHash(Unordered u, uint seed) { return ::qHash(u.number, seed); }
+    friend QDebug operator<<(QDebug debug, Unordered u) { return debug << u.number; }
+};
+
+void PxEnumTableTest::setsAreShown()
+{
+    const auto shown = [](const auto &set) {
+        QString text;
+        QDebug(&text) << set;
+        return text.trimmed();
+    };
+    QCOMPARE(shown(PxEmptyMeansAllSet<int>()), QString("all"));
+    QCOMPARE(shown(PxEmptyMeansAllSet<int>{11, 2, 1}), QString("(1, 2, 11)"));
+    QCOMPARE(shown(PxEmptyMeansAllSet<Unordered>{{7}}), QString("(7)"));
 }
 
 void PxEnumTableTest::mapsDecodeKeywords()

@@ -21,11 +21,17 @@ void PxPageConstraintTest::setsSplitAndAddsDoNot()
     constraint.setPageTypes(PxPageTypeNone);
     constraint.setIntendetAlignment(PxPageAlignmentTop);
     QCOMPARE(constraint.intendetAlignments().size(), 1);
+    const auto negative = static_cast<PxPageTypeEnum>(-1);
     QVERIFY(constraint.isPageType(PxPageType())); // none set means all
+    QVERIFY(constraint.isPageType(negative));
     constraint.addPageType(PxPageTypeCover);
     QCOMPARE(constraint.pageTypes().size(), 1);
     QVERIFY(constraint.isPageType(PxPageTypeSpine) && constraint.isPageType(PxPageTypeAll));
     QVERIFY(!constraint.isPageType(PxPageTypeEmptyPage));
+    // What has no bits shares none, though it has the spine's.
+    QVERIFY(!constraint.isPageType(negative));
+    QVERIFY(!constraint.isPageType(static_cast<PxPageTypeEnum>(0x80000001)));
+    QVERIFY(!constraint.isPageType(PxPageTypeNone));
 }
 
 void PxPageConstraintTest::matchesWhatItSharesOrLeavesOpen()

@@ -4,6 +4,10 @@
 #include <QDebug>
 #include <QTest>
 
+#include <type_traits>
+
+static_assert(!std::is_default_constructible_v<PxThematicCategory>, "a category has a name");
+
 class PxThematicCategoriesTest : public QObject
 {
     Q_OBJECT
