@@ -39,16 +39,30 @@ int PxProductTypeVariationListModel::columnCount(const QModelIndex &parent) cons
 
 QVariant PxProductTypeVariationListModel::data(const QModelIndex &index, int role) const
 {
-    if (!index.isValid() || index.row() >= m_products.size() || role != Qt::DisplayRole)
+    if (!index.isValid() || index.row() >= m_products.size())
         return QVariant();
-    switch (m_criterion) {
-    case PxProductComparationAllButPaperType:
-        return paperName(m_products[index.row()]);
-    case PxProductComparationAllButBinding:
-        return bindingName(m_products[index.row()]);
+    const PxProductType &product = m_products[index.row()];
+    switch (role) {
+    case Qt::DisplayRole:
+        return displayName(product);
+    case ProductTypeRole:
+        return QVariant::fromValue(product);
+    case ProductNameRole:
+        return product.productName();
+    case ProductCodeRole:
+        return int(product.type());
     default:
         return QVariant();
     }
+}
+
+QHash<int, QByteArray> PxProductTypeVariationListModel::roleNames() const
+{
+    QHash<int, QByteArray> names = QAbstractListModel::roleNames();
+    names.insert(ProductTypeRole, QByteArrayLiteral("productType"));
+    names.insert(ProductNameRole, QByteArrayLiteral("productName"));
+    names.insert(ProductCodeRole, QByteArrayLiteral("productCode"));
+    return names;
 }
 
 PxProductType PxProductTypeVariationListModel::productAt(int row) const
@@ -93,6 +107,18 @@ void PxProductTypeVariationListModel::updateContent()
     beginResetModel();
     m_products = products;
     endResetModel();
+}
+
+QVariant PxProductTypeVariationListModel::displayName(const PxProductType &product) const
+{
+    switch (m_criterion) {
+    case PxProductComparationAllButPaperType:
+        return paperName(product);
+    case PxProductComparationAllButBinding:
+        return bindingName(product);
+    default:
+        return QVariant();
+    }
 }
 
 bool lessThanQString(const QString &a, const QString &b)

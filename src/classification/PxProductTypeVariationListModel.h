@@ -18,6 +18,15 @@ class PXPRODUCTPROPERTIES_EXPORT PxProductTypeVariationListModel : public QAbstr
     Q_OBJECT
 
 public:
+    enum Role {
+        /** The PxProductType of the row; in QML "productType". */
+        ProductTypeRole = Qt::UserRole,
+        /** Its name, a QString; in QML "productName". */
+        ProductNameRole,
+        /** Its code, an int; in QML "productCode". */
+        ProductCodeRole,
+    };
+
     PxProductTypeVariationListModel(const PxProductContext &context,
                                     PxProductComparationCriterion criterion,
                                     QObject *parent = nullptr);
@@ -26,6 +35,7 @@ public:
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QHash<int, QByteArray> roleNames() const override;
 
     // About the products
     /** The unknown type 0 for a row that is none. */
@@ -44,6 +54,8 @@ public:
     void updateContent();
 
 private:
+    QVariant displayName(const PxProductType &product) const;
+
     PxProductContext m_productContext;
     PxProductComparationCriterion m_criterion;
     PxProductTypeList m_products;

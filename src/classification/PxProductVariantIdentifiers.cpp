@@ -4,6 +4,9 @@
 
 #include <PxCreateOnce.h>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 constexpr struct
@@ -83,6 +86,16 @@ QString PxProductVariantIdentifiers::variantName(const PxProductType &type,
                                                  const QString &variantId) const
 {
     return m_nameOfKey.value(fullKey(type, variantId));
+}
+
+QString PxProductVariantIdentifiers::untranslatedName(const PxProductType &type,
+                                                      const QString &variantId) const
+{
+    const QString key = fullKey(type, variantId);
+    const auto found = std::find_if(std::begin(names), std::end(names), [&key](const auto &row) {
+        return key == QLatin1String(row.key);
+    });
+    return found == std::end(names) ? QString() : QString::fromUtf8(found->name.text);
 }
 
 QMap<QString, QString> PxProductVariantIdentifiers::variants(const PxProductType &type) const

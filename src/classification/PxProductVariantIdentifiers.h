@@ -27,6 +27,8 @@ public:
 
     /** Whether or not the product file lists the identifier; empty for one without a name. */
     QString variantName(const PxProductType &type, const QString &variantId) const;
+    /** The same in German, whatever the translator: colours are known by their German names. */
+    QString untranslatedName(const PxProductType &type, const QString &variantId) const;
     /** The identifiers of the product file that have a name, with their names. */
     QMap<QString, QString> variants(const PxProductType &type) const;
     bool hasVariants(const PxProductType &type) const;

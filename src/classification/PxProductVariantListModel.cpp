@@ -24,6 +24,15 @@ QMap<QString, QColor> createColors()
     return colors;
 }
 
+QPixmap swatchOf(const QColor &color)
+{
+    if (!color.isValid())
+        return QPixmap();
+    QPixmap swatch(100, 100);
+    swatch.fill(color);
+    return swatch;
+}
+
 } // namespace
 
 const QMap<QString, QColor> &PxProductVariantListModel::ourColors =
@@ -37,12 +46,7 @@ PxProductVariantListModel::PxProductVariantListModel(const PxProductType &type, 
 
 QPixmap PxProductVariantListModel::colorDescriptionToPixmap(const QString &description)
 {
-    const auto color = ourColors.constFind(description.toLower());
-    if (color == ourColors.constEnd())
-        return QPixmap();
-    QPixmap swatch(100, 100);
-    swatch.fill(*color);
-    return swatch;
+    return swatchOf(colorOf(description));
 }
 
 int PxProductVariantListModel::rowCount(const QModelIndex &parent) const
@@ -69,9 +73,21 @@ QVariant PxProductVariantListModel::data(const QModelIndex &index, int role) con
         return m_names[index.row()];
     case Qt::DecorationRole:
         return m_icons[index.row()];
+    case IdentifierRole:
+        return m_identifiers[index.row()];
+    case ColorRole:
+        return m_colors[index.row()];
     default:
         return QVariant();
     }
+}
+
+QHash<int, QByteArray> PxProductVariantListModel::roleNames() const
+{
+    QHash<int, QByteArray> names = QAbstractListModel::roleNames();
+    names.insert(IdentifierRole, QByteArrayLiteral("identifier"));
+    names.insert(ColorRole, QByteArrayLiteral("color"));
+    return names;
 }
 
 int PxProductVariantListModel::indexOf(const QString &identifier) const
@@ -86,15 +102,27 @@ QString PxProductVariantListModel::identifier(const QString &name) const
 
 void PxProductVariantListModel::setProduct(const PxProductType &type)
 {
-    const QMap<QString, QString> variants = PxProductVariantIdentifiers::instance()->variants(type);
+    const auto *identifiers = PxProductVariantIdentifiers::instance();
+    const QMap<QString, QString> variants = identifiers->variants(type);
     beginResetModel();
     m_product = type;
     m_identifiers = variants.keys(); // sorted by the map, case-sensitively
     m_names = variants.values();
+    m_colors.clear();
     m_icons.clear();
-    for (const QString &name : qAsConst(m_names)) {
-        m_sizeNeeded = qMax(m_sizeNeeded, name.size());
-        m_icons.append(QIcon(colorDescriptionToPixmap(name)));
+    for (auto it = variants.begin(); it != variants.end(); ++it) {
+        m_sizeNeeded = qMax(m_sizeNeeded, it->size());
+        const QColor shown = colorOf(*it);
+        const QColor color =
+            shown.isValid() ? shown : colorOf(identifiers->untranslatedName(type, it.key()));
+        m_colors.append(color);
+        m_icons.append(QIcon(swatchOf(color)));
     }
     endResetModel();
+}
+
+/** Invalid for a text that is not the German name of a colour. */
+QColor PxProductVariantListModel::colorOf(const QString &name)
+{
+    return ourColors.value(name.toLower());
 }

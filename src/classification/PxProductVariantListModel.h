@@ -14,7 +14,7 @@
 
 /**
  * The variants of one product type for a list view: a name a row, and a swatch where that is the
- * German name of a colour.
+ * name of a colour, as it is shown or before it was translated.
  *
  * Rows are in the order of their identifiers, so that the default variant comes first. Swatches are
  * pixmaps: model and swatches need a QGuiApplication and its thread.
@@ -24,6 +24,13 @@ class PXPRODUCTPROPERTIES_EXPORT PxProductVariantListModel : public QAbstractLis
     Q_OBJECT
 
 public:
+    enum Role {
+        /** The identifier of the variant, a QString; in QML "identifier". */
+        IdentifierRole = Qt::UserRole,
+        /** Its colour, a QColor; invalid for a variant that is no colour; in QML "color". */
+        ColorRole,
+    };
+
     explicit PxProductVariantListModel(const PxProductType &type, QObject *parent = nullptr);
 
     /**
@@ -37,8 +44,12 @@ public:
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
     QModelIndex parent(const QModelIndex &child) const override;
     using QObject::parent;
-    /** Names for Qt::DisplayRole, swatches for Qt::DecorationRole: a null icon for no colour. */
+    /**
+     * Names for Qt::DisplayRole, swatches for Qt::DecorationRole (a null icon for no colour), and
+     * what the roles above say.
+     */
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QHash<int, QByteArray> roleNames() const override;
 
     // About the variants
     PxProductType product() const { return m_product; }
@@ -46,6 +57,8 @@ public:
     int indexOf(const QString &identifier) const;
     /** The identifier of the first row with this name; empty when there is none. */
     QString identifier(const QString &name) const;
+    /** Empty for a row that is none. */
+    QString identifier(int row) const { return m_identifiers.value(row); }
     /** The length of the longest name that was ever listed: a view that is wide enough stays so. */
     int sizeNeeded() const { return m_sizeNeeded; }
 
@@ -53,10 +66,13 @@ public:
     void setProduct(const PxProductType &type);
 
 private:
+    static QColor colorOf(const QString &name);
+
     static const QMap<QString, QColor> &ourColors; // by name in lower case
 
     QStringList m_names;
     QStringList m_identifiers;
+    QList<QColor> m_colors;
     QList<QIcon> m_icons;
     PxProductType m_product;
     int m_sizeNeeded = 0;

@@ -11,7 +11,7 @@
 #include <QTest>
 #include <QTranslator>
 
-/** Knows one name, by its comment too, and one label. */
+/** Knows two names, by their comments too, and one label. */
 class Translator : public QTranslator
 {
 public:
@@ -22,6 +22,8 @@ public:
         const QByteArray key = QByteArrayList{context, text, comment}.join('|');
         if (key == "PxProductVariantIdentifiers|Äffchen|Art des Tierchenanhängers")
             return "Monkey";
+        if (key == "PxProductVariantIdentifiers|Schwarz|Farbe für Messenger-Bag")
+            return "Black";
         return key == "PxProductVariantIdentifiers|Art|" ? "Kind" : QString();
     }
 };
@@ -35,6 +37,8 @@ private slots:
     void namesVariantsOfTheirOwnProduct();
     void translatesNamesAndLabels();
     void listsVariants();
+    void translatedNamesKeepTheirColours();
+    void rolesTellWhatARowStandsFor();
     void paintsSwatches();
     void listsCompatibleProducts();
     void listsWhatTheThemeAllows();
@@ -123,7 +127,36 @@ void PxVariantModelsTest::listsVariants()
     const QPixmap red = model.index(3).data(Qt::DecorationRole).value<QIcon>().pixmap(1);
     QCOMPARE(red.toImage().pixelColor(0, 0), QColor(203, 0, 0));
     QVERIFY(!model.index(3).data(Qt::EditRole).isValid());
-    QCOMPARE(textsOf(PxProductVariantListModel(type("BA7"))), QStringList("Schwarz"));
+}
+
+void PxVariantModelsTest::translatedNamesKeepTheirColours()
+{
+    const PxProductVariantListModel model(type("BA7"));
+    QCOMPARE(textsOf(model), QStringList("Black"));
+    const QPixmap black = model.index(0).data(Qt::DecorationRole).value<QIcon>().pixmap(1);
+    QCOMPARE(black.toImage().pixelColor(0, 0), QColor(0, 0, 0));
+    QVERIFY(PxProductVariantListModel::colorDescriptionToPixmap("Black").isNull());
+}
+
+void PxVariantModelsTest::rolesTellWhatARowStandsFor()
+{
+    PxProductVariantListModel variants(type("CUP2"));
+    const auto role = [](const QAbstractItemModel &model, const char *name) {
+        return model.index(1, 0).data(model.roleNames().key(name));
+    };
+    QCOMPARE(role(variants, "display"), QVariant("Blau"));
+    QCOMPARE(role(variants, "identifier"), QVariant("color:blue"));
+    QCOMPARE(role(variants, "color").value<QColor>(), QColor(40, 21, 119));
+    QCOMPARE(variants.identifier(1), QString("color:blue"));
+    QCOMPARE(variants.identifier(-1) + variants.identifier(5), QString());
+    variants.setProduct(type("CB14"));
+    QVERIFY(!role(variants, "color").value<QColor>().isValid());
+
+    const PxProductTypeVariationListModel papers(book({}), PxProductComparationAllButPaperType);
+    const PxProductType glossy = type("BOOK_A4_PORTRAIT_GLOSSY");
+    QCOMPARE(role(papers, "productType").value<PxProductType>(), glossy);
+    QCOMPARE(role(papers, "productName"), QVariant("BOOK_A4_PORTRAIT_GLOSSY"));
+    QCOMPARE(role(papers, "productCode"), QVariant(102));
 }
 
 void PxVariantModelsTest::paintsSwatches()
