@@ -32,7 +32,9 @@ class QDebug;
  *
  * One pointer wide; copies share the record, and a setter changes only the context it is called on.
  * Copying and destroying are safe from any thread. A product type without a product file is
- * answered from the defaults of an empty one. Lengths are in the unit of the product files.
+ * answered from the defaults of an empty one. So is a product of an earlier catalogue, which
+ * PxProductTypeConfigRegistry::legacyInstance() knows and answers by product type; isValid() is
+ * true for it nevertheless. Lengths are in the unit of the product files.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxProductContext
 {
@@ -78,6 +80,11 @@ public:
     bool isVerySimilarTo(const PxProductContext &other) const;
 
     // Page counts and pages
+    /**
+     * The page counts to offer, from the smallest to the largest in steps of the increment. What
+     * is no book has one page count, twice, and the increment 0. A book without spines has none:
+     * its smallest is above its largest. With fewer than three its increment is -2147483648.
+     */
     int minPages() const;
     int maxPages() const;
     int pageIncrement() const;

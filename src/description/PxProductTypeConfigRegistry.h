@@ -41,6 +41,11 @@ public:
     bool isValid(const PxProductType &type) const override;
     /** The kind by which the checker registry asks for this checker. */
     int type() const override { return 4; }
+    /**
+     * What the spine table says. A product without spines, as every calendar, gift or card, has
+     * 2147483647, -2147483648 and -2147483648, in this order: for the page counts to offer ask a
+     * PxProductContext, or offeredPageCounts().
+     */
     int minPages(const PxProductType &type) const override;
     int maxPages(const PxProductType &type) const override;
     int pageIncrement(const PxProductType &type) const override;

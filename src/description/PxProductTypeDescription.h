@@ -101,11 +101,19 @@ public:
                                 bool useUserDefaults) const;
 
     // Pages
-    /** The smallest page count that has a spine; the largest int when none has. */
+    /**
+     * The smallest page count of the spine table; the largest int, 2147483647, without spines.
+     *
+     * This and the next two tell of the table alone, which calendars, gifts and cards do not have:
+     * for the page counts to offer ask a PxProductContext, or offeredPageCounts().
+     */
     int minPages() const;
-    /** The largest page count that has a spine; the smallest int when none has. */
+    /** The largest page count of the table; the smallest int, -2147483648, without spines. */
     int maxPages() const;
-    /** By how many pages the product grows at a time; the smallest int below three page counts. */
+    /**
+     * By how many pages the product grows at a time; the smallest int, -2147483648, with fewer than
+     * three spines.
+     */
     int pageIncrement() const { return m_pageIncrement; }
     /**
      * The page counts that customers may order, in ascending order; none for an invalid

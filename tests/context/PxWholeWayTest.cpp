@@ -54,6 +54,7 @@ private slots:
     void initTestCase();
     void manyThreadsAskAtOnce(); // first, while nothing but the registry is created
     void fromProductToOrder();
+    void productsOfEarlierCataloguesAreElsewhere();
 };
 
 void PxWholeWayTest::initTestCase()
@@ -63,6 +64,19 @@ void PxWholeWayTest::initTestCase()
     config->setThemesDirectory(PX_SAMPLE_DIRECTORY "/themes");
     config->setUserDefaultsPath(PX_SAMPLE_DIRECTORY "/defaults");
     QVERIFY(PxProductPropertiesInitializer::setupModule());
+}
+
+void PxWholeWayTest::productsOfEarlierCataloguesAreElsewhere()
+{
+    const PxProductType earlier(QString("BOOK_CLASSIC_A4"));
+    const PxProductContext context(earlier);
+    QVERIFY(context.isValid() && context.binding().isNull() &&
+            context.offeredPageCounts().isEmpty());
+    QVERIFY(context.minPages() > context.maxPages());
+    const auto *registry = PxProductTypeConfigRegistry::legacyInstance();
+    QVERIFY(registry->products().contains(earlier));
+    QCOMPARE(registry->binding(earlier).value(), PxBindingHardcover);
+    QCOMPARE(registry->offeredPageCounts(earlier).constLast(), 98);
 }
 
 void PxWholeWayTest::fromProductToOrder()
