@@ -91,6 +91,7 @@
 #include <PxSurroundingType.h>
 #include <PxTemplateTarget.h>
 #include <PxXMLBuilder.h>
+#include <PxXMLFault.h>
 #include <PxXMLLoader.h>
 #include <PxXMLParser.h>
 #include <splitEnumType.h>

@@ -1,7 +1,5 @@
 #include "PxHostileFiles.h"
 
-#include <PxXMLLoader.h>
-
 #include <QTextCodec>
 
 namespace PxHostileFiles {
@@ -19,11 +17,14 @@ constexpr int share = 4; // they take their time
 constexpr int share = 1;
 #endif
 
+constexpr int readableNodes = 200000; // of one file, in the editions of the platform
+constexpr int readableSize = 8 * 1024 * 1024;
+
 /** As often as the loader lets a file have nodes, or as 2 MB hold it: far beyond a real file. */
 static QByteArray asMany(const QByteArray &text, int nodes)
 {
     const int bySize = 2000000 / text.size();
-    const int byNodes = nodes > 0 ? PxXMLLoader::maximumNodes / share / nodes - 20 : bySize;
+    const int byNodes = nodes > 0 ? readableNodes / share / nodes - 20 : bySize;
     return text.repeated(qMin(bySize, byNodes));
 }
 
@@ -64,10 +65,10 @@ QList<File> unreadable()
         {"external-entity", "<!DOCTYPE d [<!ENTITY a SYSTEM 'file:///etc/passwd'>]><d>&a;</d>"}, {"external-subset", "<!DOCTYPE d SYSTEM 'file:///dev/zero'><d>&a;</d>"},
         {"parameter-entity", "<!DOCTYPE d [<!ENTITY % a SYSTEM 'http://localhost/'>%a;]><d/>"}, {"attribute-defaults", "<!DOCTYPE d [<!ATTLIST d a CDATA 'x'>]><d/>"},
         {"deep", QByteArray("<a>").repeated(257) + QByteArray("</a>").repeated(257)}, {"bottomless", asMany("<a>", 0)}, {"deep-comments", asMany("<!--", 0)},
-        {"many-elements", "<d>" + asMany("<a/>", 0) + "</d>"}, {"many-texts", "<d>" + asMany("<a>x</a>", 0) + "</d>"}, {"many-sections", "<d>" + QByteArray("<![CDATA[x]]>").repeated(PxXMLLoader::maximumNodes) + "</d>"},
+        {"many-elements", "<d>" + asMany("<a/>", 0) + "</d>"}, {"many-texts", "<d>" + asMany("<a>x</a>", 0) + "</d>"}, {"many-sections", "<d>" + QByteArray("<![CDATA[x]]>").repeated(readableNodes) + "</d>"},
         {"many-attributes", "<d" + manyAttributes + "/>"}, {"attributes-all-over", "<d>" + asMany("<a b='' c='' d='' e=''/>", 0) + "</d>"}, {"same-attribute", "<d" + asMany(" a=''", 0) + "/>"},
         {"attributes-behind-comment", "<!--><d '--><d" + manyAttributes + "/>"}, {"no-section-end", "<d><![CDATA[" + asMany("]]", 0)}, {"no-instruction-end", "<d><?" + asMany("a?", 0)}, {"no-comment-end", "<d><!--" + asMany("-", 0)},
-        {"no-name-end", "<" + asMany("d", 0)}, {"too-large", good + QByteArray(PxXMLLoader::maximumFileSize, ' ')},
+        {"no-name-end", "<" + asMany("d", 0)}, {"too-large", good + QByteArray(readableSize, ' ')},
     };
     // clang-format on
 }

@@ -3,6 +3,7 @@
 #include <PxXMLLoader.h>
 
 #include <QDirIterator>
+#include <QPoint>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextCodec>
@@ -21,6 +22,7 @@ private slots:
     void refusesMalformedTextAndKeepsTheLimits_data();
     void refusesMalformedTextAndKeepsTheLimits();
     void opensRegularFilesOnly();
+    void handsOutTheFault();
     void elementOutlivesItsDocument();
     void needsLittleStack();
 
@@ -217,6 +219,49 @@ void PxXMLLoaderTest::opensRegularFilesOnly()
     QVERIFY(!remembered.exists()); // and keeps that in mind, while the file comes into being
     write("<a/>");
     QVERIFY(!PxXMLLoader::loadDocumentElement(remembered).isNull());
+}
+
+void PxXMLLoaderTest::handsOutTheFault()
+{
+    using Kind = PxXMLFault::Kind;
+    const QByteArray latin = "<?xml version='1.0' encoding='latin1'?>\n";
+    const struct
+    {
+        QByteArray xml;
+        Kind kind;
+        int line;
+        int column;
+        const char *encoding;
+    } rows[] = {
+        {"<a/>", Kind::None, 0, 0, "UTF-8"},
+        {latin + "<a b='\xE4'/>", Kind::None, 0, 0, "ISO-8859-1"},
+        {QByteArray("\xFF\xFE<\0a\0/\0>\0", 10), Kind::None, 0, 0, "UTF-16LE"},
+        {latin + "<a>\xE4</b>", Kind::NotWellFormed, 2, 8, "ISO-8859-1"},
+        {"<a b='&c;'/>", Kind::NotWellFormed, 1, 7, "UTF-8"},
+        {"<a>\n\xE4</a>", Kind::Encoding, 2, 1, "UTF-8"},
+        {"\xEF\xBB\xBF" + latin + "<a/>", Kind::Encoding, 1, 1, "UTF-8"},
+        {"<?xml version='1.0' encoding='klingon'?><a/>", Kind::Encoding, 1, 1, ""},
+        {"<!DOCTYPE a []><a/>", Kind::Limit, 1, 13, "UTF-8"},
+        {"<!DOCTYPE a SYSTEM 'x'><a>&b;</a>", Kind::Limit, 1, 29, "UTF-8"},
+        {tagWithAttributes(257), Kind::Limit, 1, 2843, "UTF-8"},
+        {nested(257), Kind::Limit, 1, 771, "UTF-8"},
+        {withNodes(200001), Kind::Limit, 1, 800017, "UTF-8"},
+        {QByteArray(8388609, ' '), Kind::Limit, 0, 0, ""},
+    };
+    for (const auto &row : rows) {
+        PxXMLFault fault{Kind::Unreadable, "an earlier one", 7, 7, "klingon"};
+        const QFileInfo file = write(row.xml);
+        QCOMPARE(PxXMLLoader::loadDocument(file, fault).isNull(), row.kind != Kind::None);
+        QVERIFY2(fault.kind == row.kind, row.xml.left(80));
+        QCOMPARE(QPoint(int(fault.line), int(fault.column)), QPoint(row.line, row.column));
+        QCOMPARE(fault.encoding, QString(row.encoding));
+        QString error;
+        PxXMLLoader::loadDocument(file, &error);
+        QVERIFY(error.endsWith(fault.message) && error.isEmpty() == fault.message.isEmpty());
+    }
+    PxXMLFault fault;
+    QVERIFY(PxXMLLoader::loadDocumentElement(path("pipe"), fault).isNull());
+    QVERIFY(fault.kind == Kind::Unreadable && fault.line == 0 && fault.encoding.isEmpty());
 }
 
 void PxXMLLoaderTest::elementOutlivesItsDocument()

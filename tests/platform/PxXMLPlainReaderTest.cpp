@@ -36,9 +36,9 @@ QString difference(const QByteArray &xml)
     if (document.isNull())
         return QString();
     PxXMLStrictReader strict(xml);
-    const std::optional<PxXMLFault> fault = strict.read();
-    if (fault)
-        return "refused: " + fault->message;
+    const PxXMLFault fault = strict.read();
+    if (fault.kind != PxXMLFault::Kind::None)
+        return "refused: " + fault.message;
     if (pxTree(document) != pxTree(strict.document()))
         return pxTree(document) + " is not " + pxTree(strict.document());
     return document.toString() == strict.document().toString() ? "" : "written otherwise";

@@ -1,6 +1,6 @@
 #include "PxXMLDocumentBuilder.h"
 
-#include "PxXMLLoader.h"
+#include "PxXMLLimits.h"
 
 #include <QDomImplementation>
 #include <QXmlStreamReader>
@@ -49,11 +49,12 @@ std::optional<PxXMLFault> PxXMLDocumentBuilder::addToken()
         addDocumentType();
         return std::nullopt;
     case QXmlStreamReader::EntityReference:
-        return fault(QStringLiteral("the entity %1 is declared outside the file, which is not "
+        return fault(PxXMLFault::Kind::Limit,
+                     QStringLiteral("the entity %1 is declared outside the file, which is not "
                                     "allowed")
                          .arg(m_reader.name()));
     case QXmlStreamReader::Invalid:
-        return fault(m_reader.errorString());
+        return fault(PxXMLFault::Kind::NotWellFormed, m_reader.errorString());
     case QXmlStreamReader::NoToken:
     case QXmlStreamReader::StartDocument:
     case QXmlStreamReader::EndDocument:
@@ -65,10 +66,11 @@ std::optional<PxXMLFault> PxXMLDocumentBuilder::addToken()
 std::optional<PxXMLFault> PxXMLDocumentBuilder::addElement()
 {
     // Building takes time in proportion to the depth of each node, destroying takes stack.
-    if (++m_depth > PxXMLLoader::maximumDepth)
-        return fault(QStringLiteral("the element is nested %1 deep, no more than %2 are allowed")
+    if (++m_depth > PxXMLLimits::depth)
+        return fault(PxXMLFault::Kind::Limit,
+                     QStringLiteral("the element is nested %1 deep, no more than %2 are allowed")
                          .arg(m_depth)
-                         .arg(PxXMLLoader::maximumDepth));
+                         .arg(PxXMLLimits::depth));
     QDomElement element = m_document.createElement(shared(m_reader.qualifiedName()));
     const QXmlStreamAttributes attributes = m_reader.attributes();
     for (const QXmlStreamAttribute &attribute : attributes) {
@@ -91,11 +93,12 @@ std::optional<PxXMLFault> PxXMLDocumentBuilder::add(const QDomNode &node)
 
 std::optional<PxXMLFault> PxXMLDocumentBuilder::count()
 {
-    if (++m_nodes <= PxXMLLoader::maximumNodes)
+    if (++m_nodes <= PxXMLLimits::nodes)
         return std::nullopt;
-    return fault(QStringLiteral("this is node %1 of the file, no more than %2 are allowed")
+    return fault(PxXMLFault::Kind::Limit,
+                 QStringLiteral("this is node %1 of the file, no more than %2 are allowed")
                      .arg(m_nodes)
-                     .arg(PxXMLLoader::maximumNodes));
+                     .arg(PxXMLLimits::nodes));
 }
 
 void PxXMLDocumentBuilder::addDeclaration(bool hasStandalone)
@@ -121,9 +124,9 @@ void PxXMLDocumentBuilder::addDocumentType()
     m_parent = document;
 }
 
-PxXMLFault PxXMLDocumentBuilder::fault(const QString &message) const
+PxXMLFault PxXMLDocumentBuilder::fault(PxXMLFault::Kind kind, const QString &message) const
 {
-    return {message, m_reader.lineNumber(), qMax<qint64>(m_reader.columnNumber(), 1)};
+    return {kind, message, m_reader.lineNumber(), qMax<qint64>(m_reader.columnNumber(), 1)};
 }
 
 QString PxXMLDocumentBuilder::shared(QStringView text)

@@ -32,7 +32,7 @@ private:
     std::optional<PxXMLFault> count();
     void addDeclaration(bool hasStandalone);
     void addDocumentType();
-    PxXMLFault fault(const QString &message) const;
+    PxXMLFault fault(PxXMLFault::Kind kind, const QString &message) const;
     QString shared(QStringView text);
 
     QXmlStreamReader &m_reader;

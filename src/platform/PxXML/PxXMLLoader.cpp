@@ -1,5 +1,6 @@
 #include "PxXMLLoader.h"
 
+#include "PxXMLLimits.h"
 #include "PxXMLPlainReader.h"
 #include "PxXMLStrictReader.h"
 
@@ -8,30 +9,34 @@
 
 namespace {
 
-using Fault = std::optional<PxXMLFault>;
+PxXMLFault unreadable(const QString &message)
+{
+    return {PxXMLFault::Kind::Unreadable, message};
+}
 
 /** Reads the whole file, if it is one that ends. */
-Fault readBytes(const QString &path, QByteArray &bytes)
+PxXMLFault readBytes(const QString &path, QByteArray &bytes)
 {
     if (path.isEmpty())
-        return PxXMLFault{QStringLiteral("no file name is given")};
+        return unreadable(QStringLiteral("no file name is given"));
     const QFileInfo info(path); // a new one: the caller's may remember what was there before
     if (!info.exists())
-        return PxXMLFault{QStringLiteral("there is no such file")};
+        return unreadable(QStringLiteral("there is no such file"));
     // A pipe or a device could keep us waiting, or reading, for ever.
     if (!info.isFile())
-        return PxXMLFault{QStringLiteral("this is no regular file")};
+        return unreadable(QStringLiteral("this is no regular file"));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return PxXMLFault{QStringLiteral("the file cannot be opened: ") + file.errorString()};
-    bytes = file.read(qMin<qint64>(file.size(), PxXMLLoader::maximumFileSize) + 1);
+        return unreadable(QStringLiteral("the file cannot be opened: ") + file.errorString());
+    bytes = file.read(qMin<qint64>(file.size(), PxXMLLimits::fileSize) + 1);
     if (file.error() != QFile::NoError)
-        return PxXMLFault{QStringLiteral("the file cannot be read: ") + file.errorString()};
-    if (bytes.size() > PxXMLLoader::maximumFileSize)
-        return PxXMLFault{QStringLiteral("the file has %1 bytes, no more than %2 are allowed")
-                              .arg(qMax<qint64>(file.size(), bytes.size()))
-                              .arg(PxXMLLoader::maximumFileSize)};
-    return std::nullopt;
+        return unreadable(QStringLiteral("the file cannot be read: ") + file.errorString());
+    if (bytes.size() > PxXMLLimits::fileSize)
+        return {PxXMLFault::Kind::Limit,
+                QStringLiteral("the file has %1 bytes, no more than %2 are allowed")
+                    .arg(qMax<qint64>(file.size(), bytes.size()))
+                    .arg(PxXMLLimits::fileSize)};
+    return {};
 }
 
 std::string_view withoutByteOrderMark(const QByteArray &utf8)
@@ -40,41 +45,46 @@ std::string_view withoutByteOrderMark(const QByteArray &utf8)
     return utf8.startsWith("\xEF\xBB\xBF") ? text.substr(3) : text;
 }
 
-Fault load(const QString &path, QDomDocument &document)
+QString errorOf(const QFileInfo &file, const PxXMLFault &fault)
 {
-    QByteArray bytes;
-    if (const Fault fault = readBytes(path, bytes))
-        return fault;
-
-    const std::string_view utf8 = withoutByteOrderMark(bytes);
-    document = PxXMLPlainReader(utf8).read();
-    if (!document.isNull())
-        return std::nullopt;
-
-    PxXMLStrictReader reader(bytes);
-    const Fault fault = reader.read();
-    if (!fault)
-        document = reader.document();
-    return fault;
+    if (fault.kind == PxXMLFault::Kind::None)
+        return QString();
+    return QStringLiteral("%1:%2:%3: %4")
+        .arg(file.filePath(), QString::number(fault.line), QString::number(fault.column),
+             fault.message);
 }
 
 } // namespace
 
+QDomDocument PxXMLLoader::loadDocument(const QFileInfo &file, PxXMLFault &fault)
+{
+    QByteArray bytes;
+    fault = readBytes(file.filePath(), bytes);
+    if (fault.kind != PxXMLFault::Kind::None)
+        return QDomDocument();
+
+    const QDomDocument document = PxXMLPlainReader(withoutByteOrderMark(bytes)).read();
+    if (!document.isNull()) {
+        fault.encoding = QStringLiteral("UTF-8");
+        return document;
+    }
+    PxXMLStrictReader reader(bytes);
+    fault = reader.read();
+    return reader.document();
+}
+
 QDomDocument PxXMLLoader::loadDocument(const QFileInfo &file, QString *error)
 {
-    QDomDocument document;
-    const Fault fault = load(file.filePath(), document);
+    PxXMLFault fault;
+    const QDomDocument document = loadDocument(file, fault);
     if (error)
-        *error = fault ? QStringLiteral("%1:%2:%3: %4")
-                             .arg(file.filePath(), QString::number(fault->line),
-                                  QString::number(fault->column), fault->message)
-                       : QString();
+        *error = errorOf(file, fault);
     return document;
 }
 
-QDomElement PxXMLLoader::loadDocumentElement(const QFileInfo &file, QString *error)
+QDomElement PxXMLLoader::loadDocumentElement(const QFileInfo &file, PxXMLFault &fault)
 {
-    const QDomDocument document = loadDocument(file, error);
+    const QDomDocument document = loadDocument(file, fault);
     const QDomElement element = document.documentElement();
     if (element.isNull())
         return element;
@@ -85,5 +95,14 @@ QDomElement PxXMLLoader::loadDocumentElement(const QFileInfo &file, QString *err
         QDomImplementation().createDocumentType(QStringLiteral("none"), QString(), QString());
     parent.appendChild(element);
     parent.removeChild(element);
+    return element;
+}
+
+QDomElement PxXMLLoader::loadDocumentElement(const QFileInfo &file, QString *error)
+{
+    PxXMLFault fault;
+    const QDomElement element = loadDocumentElement(file, fault);
+    if (error)
+        *error = errorOf(file, fault);
     return element;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "PxXMLExport.h"
+#include "PxXMLFault.h"
 
 #include <QDomDocument>
 #include <QFileInfo>
@@ -8,10 +9,10 @@
 /**
  * The gate through which XML files of unknown origin come in.
  *
- * Both functions answer a null node when the file cannot be opened, is no well-formed XML or breaks
- * a limit, never a part of a tree, and put `file:line:column: message` into `error`: one line, with
- * line and column counted from 1, and 0:0 when the fault has no place in the text. Success clears
- * `error`. Nothing is logged.
+ * All functions answer a null node when the file cannot be opened, is no well-formed XML or breaks
+ * a limit, never a part of a tree. They put the reason into `fault`, or, as one line
+ * `file:line:column: message`, into `error`, with line and column counted from 1, and 0:0 when the
+ * fault has no place in the text. Success clears `error`. Nothing is logged.
  *
  * The tree is the one of QDomDocument::setContent() without namespace processing, only that nodes
  * do not know their line and column, and that line ends, and white space in attribute values, are
@@ -21,21 +22,12 @@
 class PXXML_EXPORT PxXMLLoader
 {
 public:
-    // What no honest file comes near; larger ones would cost more time, memory or stack than we
-    // are ready to give an unknown file.
-    /** Bytes of a file. */
-    static constexpr int maximumFileSize = 8 * 1024 * 1024;
-    /** Elements inside each other, the document element included. */
-    static constexpr int maximumDepth = 256;
-    /** Attributes of one tag. */
-    static constexpr int maximumAttributes = 256;
-    /** Elements, attributes, texts, CDATA sections, comments, processing instructions of a file. */
-    static constexpr int maximumNodes = 200000;
-
     static QDomDocument loadDocument(const QFileInfo &file, QString *error = nullptr);
+    static QDomDocument loadDocument(const QFileInfo &file, PxXMLFault &fault);
     /**
      * The document element alone, without comments and the like around it: it has no document, and
      * is used without one.
      */
     static QDomElement loadDocumentElement(const QFileInfo &file, QString *error = nullptr);
+    static QDomElement loadDocumentElement(const QFileInfo &file, PxXMLFault &fault);
 };

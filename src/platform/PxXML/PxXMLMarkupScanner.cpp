@@ -1,6 +1,6 @@
 #include "PxXMLMarkupScanner.h"
 
-#include "PxXMLLoader.h"
+#include "PxXMLLimits.h"
 
 #include <algorithm>
 
@@ -39,10 +39,11 @@ std::optional<PxXMLFault> PxXMLMarkupScanner::scanTag()
             return std::nullopt;
         case '"':
         case '\'':
-            if (++attributes > PxXMLLoader::maximumAttributes)
-                return fault(QStringLiteral("the tag has attribute %1, no more than %2 are allowed")
+            if (++attributes > PxXMLLimits::attributes)
+                return fault(PxXMLFault::Kind::Limit,
+                             QStringLiteral("the tag has attribute %1, no more than %2 are allowed")
                                  .arg(attributes)
-                                 .arg(PxXMLLoader::maximumAttributes));
+                                 .arg(PxXMLLimits::attributes));
             if (const std::optional<PxXMLFault> found = scanAttributeValue())
                 return found;
         }
@@ -58,7 +59,8 @@ std::optional<PxXMLFault> PxXMLMarkupScanner::scanAttributeValue()
         if (m_text[m_position] == '<')
             stop();
         else if (m_text[m_position] == '&' && !isOwnReference())
-            return fault(QStringLiteral("no entities are allowed in an attribute but those of XML "
+            return fault(PxXMLFault::Kind::NotWellFormed,
+                         QStringLiteral("no entities are allowed in an attribute but those of XML "
                                         "itself; a plain '&' is written &amp;"));
     }
     return std::nullopt;
@@ -74,7 +76,8 @@ std::optional<PxXMLFault> PxXMLMarkupScanner::scanDocumentType()
         else if (c == '"' || c == '\'')
             quote = c;
         else if (c == '[')
-            return fault(QStringLiteral("the document type declaration has an internal subset, "
+            return fault(PxXMLFault::Kind::Limit,
+                         QStringLiteral("the document type declaration has an internal subset, "
                                         "none is allowed"));
         else if (c == '>')
             break;
@@ -101,12 +104,12 @@ void PxXMLMarkupScanner::skip(std::string_view begin, std::string_view end)
     m_position = found == std::string_view::npos ? m_text.size() : found + end.size();
 }
 
-PxXMLFault PxXMLMarkupScanner::fault(const QString &message) const
+PxXMLFault PxXMLMarkupScanner::fault(PxXMLFault::Kind kind, const QString &message) const
 {
     const std::string_view before = m_text.substr(0, m_position);
     const std::size_t lineStart = before.rfind('\n') + 1; // npos + 1 is 0: the first line
     // The reader counts columns in UTF-16 units, and so do we.
     const QString line =
         QString::fromUtf8(before.data() + lineStart, int(before.size() - lineStart));
-    return {message, std::count(before.begin(), before.end(), '\n') + 1, line.size() + 1};
+    return {kind, message, std::count(before.begin(), before.end(), '\n') + 1, line.size() + 1};
 }

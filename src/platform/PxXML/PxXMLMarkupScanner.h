@@ -29,7 +29,7 @@ private:
     std::optional<PxXMLFault> scanDocumentType();
     bool isOwnReference() const;
     void stop() { m_position = m_text.size(); }
-    PxXMLFault fault(const QString &message) const;
+    PxXMLFault fault(PxXMLFault::Kind kind, const QString &message) const;
 
     std::string_view m_text;
     std::size_t m_position = 0;

@@ -1,6 +1,6 @@
 #include "PxXMLPlainReader.h"
 
-#include "PxXMLLoader.h"
+#include "PxXMLLimits.h"
 
 #include <algorithm>
 #include <array>
@@ -166,8 +166,7 @@ bool PxXMLPlainReader::readStartTag()
 {
     ++m_position;
     const std::string_view name = readName();
-    if (name.empty() || (m_open.empty() && m_hasRoot) ||
-        int(m_open.size()) >= PxXMLLoader::maximumDepth)
+    if (name.empty() || (m_open.empty() && m_hasRoot) || int(m_open.size()) >= PxXMLLimits::depth)
         return false;
     QDomElement element = m_document.createElement(m_texts->text(name));
     m_attributes.clear();

@@ -42,35 +42,44 @@ PxXMLFault undecodable(const QTextCodec &codec, const QByteArray &bytes)
             bad = middle;
         }
     }
-    return {QStringLiteral("the text is no valid ") + QString::fromLatin1(codec.name()),
+    return {PxXMLFault::Kind::Encoding,
+            QStringLiteral("the text is no valid ") + QString::fromLatin1(codec.name()),
             text.count(QLatin1Char('\n')) + 1, text.size() - text.lastIndexOf(QLatin1Char('\n'))};
 }
 
 /** Whether the text is in the encoding that it declares, if it declares one. */
-bool isDeclared(const QTextCodec *codec, const QString &declared)
+bool isDeclared(const QTextCodec &codec, const QString &declared)
 {
     if (declared.isEmpty())
-        return codec->name().startsWith("UTF-");
+        return codec.name().startsWith("UTF-");
     const QByteArray name = declared.toLatin1();
     // "UTF-16" leaves the byte order to the mark.
-    return QTextCodec::codecForName(name) == codec ||
-           (name.toUpper() == "UTF-16" && codec->name().startsWith("UTF-16"));
+    return QTextCodec::codecForName(name) == &codec ||
+           (name.toUpper() == "UTF-16" && codec.name().startsWith("UTF-16"));
 }
 
 } // namespace
 
-std::optional<PxXMLFault> PxXMLStrictReader::read()
+PxXMLFault PxXMLStrictReader::read()
 {
     const QTextCodec *codec = PxXMLEncoding::codecOf(m_bytes);
     if (!codec)
-        return PxXMLFault{QStringLiteral("the declared encoding is unknown"), 1, 1};
+        return {PxXMLFault::Kind::Encoding, QStringLiteral("the declared encoding is unknown"), 1,
+                1};
+    PxXMLFault fault = readText(*codec);
+    fault.encoding = QString::fromLatin1(codec->name());
+    return fault;
+}
+
+PxXMLFault PxXMLStrictReader::readText(const QTextCodec &codec)
+{
     QString text;
-    if (!decode(*codec, m_bytes, m_bytes.size(), text))
-        return undecodable(*codec, m_bytes);
+    if (!decode(codec, m_bytes, m_bytes.size(), text))
+        return undecodable(codec, m_bytes);
 
     // The reader gets UTF-8 as it is, which is quickest. Of any other encoding it gets the decoded
     // text: then it reads just the characters that were scanned, whatever the file declares.
-    const bool isUtf8 = codec == QTextCodec::codecForName("UTF-8");
+    const bool isUtf8 = &codec == QTextCodec::codecForName("UTF-8");
     if (text.startsWith(QChar::ByteOrderMark))
         text.remove(0, 1);
     if (!isUtf8)
@@ -79,20 +88,21 @@ std::optional<PxXMLFault> PxXMLStrictReader::read()
         m_bytes.remove(0, 3);
     if (const std::optional<PxXMLFault> found =
             PxXMLMarkupScanner({m_bytes.constData(), std::size_t(m_bytes.size())}).scan())
-        return found;
+        return *found;
 
     QXmlStreamReader reader = isUtf8 ? QXmlStreamReader(m_bytes) : QXmlStreamReader(text);
     reader.setNamespaceProcessing(false);
     reader.readNext();
     const QString declared = reader.documentEncoding().toString();
     if (!reader.hasError() && !isDeclared(codec, declared))
-        return PxXMLFault{QStringLiteral("the text is %1, but declares the encoding '%2'")
-                              .arg(QString::fromLatin1(codec->name()), declared),
-                          1, 1};
+        return {PxXMLFault::Kind::Encoding,
+                QStringLiteral("the text is %1, but declares the encoding '%2'")
+                    .arg(QString::fromLatin1(codec.name()), declared),
+                1, 1};
     PxXMLDocumentBuilder builder(reader,
                                  PxXMLEncoding::declaration(m_bytes).contains("standalone"));
-    const std::optional<PxXMLFault> found = builder.build();
-    if (!found)
-        m_document = builder.document();
-    return found;
+    if (const std::optional<PxXMLFault> found = builder.build())
+        return *found;
+    m_document = builder.document();
+    return {};
 }

@@ -5,7 +5,7 @@
 #include <QByteArray>
 #include <QDomDocument>
 
-#include <optional>
+class QTextCodec;
 
 /**
  * Reads XML of any kind and encoding with a full parser, within the limits of the loader.
@@ -17,11 +17,14 @@ class PxXMLStrictReader
 public:
     explicit PxXMLStrictReader(const QByteArray &bytes) : m_bytes(bytes) {}
 
-    std::optional<PxXMLFault> read();
-    /** Null unless read() was successful. */
+    /** Names the encoding also of what it reads. */
+    PxXMLFault read();
+    /** Null unless read() found no fault. */
     QDomDocument document() const { return m_document; }
 
 private:
+    PxXMLFault readText(const QTextCodec &codec);
+
     QByteArray m_bytes;
     QDomDocument m_document;
 };

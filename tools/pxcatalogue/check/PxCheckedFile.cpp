@@ -4,7 +4,6 @@
 #include "check/PxSourceFault.h"
 #include "check/PxSpelling.h"
 
-#include <PxXMLEncoding.h>
 #include <PxXMLLoader.h>
 
 #include <QFile>
@@ -15,39 +14,26 @@
 
 namespace {
 
-/** Whether the library objects to the encoding: only it knows which faults it lets pass. */
-bool isOfEncoding(const QString &error)
-{
-    return error.startsWith(QLatin1String("the declared encoding ")) ||
-           error.startsWith(QLatin1String("the text is "));
-}
-
 /** The text up to a place and some more, so that a fault at that place can be seen. */
-QString textUpTo(const QString &text, int line, int column)
+QString textUpTo(const QString &text, qint64 line, qint64 column)
 {
     constexpr int more = 1024;
     int lineBegin = 0;
     for (; line > 1 && lineBegin >= 0; --line)
         lineBegin = text.indexOf(QLatin1Char('\n'), lineBegin) + 1;
-    return text.left(int(qMin<qint64>(qint64(lineBegin) + column + more, text.size())));
+    return text.left(int(qMin<qint64>(lineBegin + column + more, text.size())));
 }
 
 } // namespace
 
 PxCheckedFile::PxCheckedFile(const QString &path) : m_path(path)
 {
-    QString error;
-    m_document = PxXMLLoader::loadDocument(QFileInfo(path), &error);
-    static const QRegularExpression ourPlace(QStringLiteral("^:(\\d+):(\\d+): (.*)$"));
-    const QRegularExpressionMatch place = ourPlace.match(error.mid(path.size()));
-    m_error = place.captured(3);
-    m_errorPlace.path = path;
-    m_errorPlace.line = m_errorPlace.endLine = qMax(1, place.captured(1).toInt());
-    m_errorPlace.column = m_errorPlace.endColumn = qMax(1, place.captured(2).toInt());
-    m_hasErrorPlace = place.captured(1).toInt() > 0;
+    m_document = PxXMLLoader::loadDocument(QFileInfo(path), m_fault);
     readSource();
-    if (isRead() && !m_source->connectTo(m_document.documentElement()))
-        m_error = QStringLiteral("the file changes while it is read");
+    if (isRead() && !m_source->connectTo(m_document.documentElement())) {
+        m_fault.kind = PxXMLFault::Kind::Unreadable;
+        m_fault.message = QStringLiteral("the file changes while it is read");
+    }
 }
 
 void PxCheckedFile::readSource()
@@ -55,19 +41,25 @@ void PxCheckedFile::readSource()
     QString text;
     QFile file(m_path);
     // Where the library gives up without a place, there is no text, or too much of it.
-    if ((isRead() || m_hasErrorPlace) && file.open(QIODevice::ReadOnly)) {
-        const QByteArray bytes = file.read(qMin<qint64>(file.size(), PxXMLLoader::maximumFileSize));
-        if (const QTextCodec *codec = PxXMLEncoding::codecOf(bytes))
-            text = codec->toUnicode(bytes);
+    if ((isRead() || hasFaultPlace()) && file.open(QIODevice::ReadOnly)) {
+        if (const QTextCodec *codec = QTextCodec::codecForName(m_fault.encoding.toLatin1()))
+            text = codec->toUnicode(file.read(file.size()));
         if (text.startsWith(QChar::ByteOrderMark))
             text.remove(0, 1);
         // Behind a limit, reading on could take very long.
         const int size = text.size();
         if (!isRead())
-            text = textUpTo(text, m_errorPlace.line, m_errorPlace.column);
+            text = textUpTo(text, m_fault.line, m_fault.column);
         m_isWhole = text.size() == size;
     }
     m_source = std::make_unique<PxSourceDocument>(text);
+}
+
+PxPlace PxCheckedFile::faultPlace() const
+{
+    const int line = qMax(1, int(m_fault.line));
+    const int column = qMax(1, int(m_fault.column));
+    return {m_path, line, column, line, column};
 }
 
 PxPlace PxCheckedFile::place(const PxSourceRange &range) const
@@ -88,16 +80,15 @@ void PxCheckedFile::checkReading(PxFindings *findings) const
     if (isRead())
         return;
     const QString now = QStringLiteral("the file is not read at all");
-    if (isOfEncoding(m_error)) {
-        findings->add("xml-encoding-damaged", m_errorPlace, m_error, now,
+    if (m_fault.kind == PxXMLFault::Kind::Encoding)
+        findings->add("xml-encoding-damaged", faultPlace(), m_fault.message, now,
                       QStringLiteral("save the file as UTF-8, or declare its encoding"));
-    } else if (m_hasErrorPlace) {
+    else if (hasFaultPlace())
         addFault(findings, now);
-    } else {
-        const bool isTooLarge = QFileInfo(m_path).size() > PxXMLLoader::maximumFileSize;
-        findings->add(isTooLarge ? "xml-limit-exceeded" : "file-unreadable", m_errorPlace, m_error,
-                      now);
-    }
+    else
+        findings->add(m_fault.kind == PxXMLFault::Kind::Limit ? "xml-limit-exceeded"
+                                                              : "file-unreadable",
+                      faultPlace(), m_fault.message, now);
 }
 
 void PxCheckedFile::addFault(PxFindings *findings, const QString &now) const
@@ -107,7 +98,7 @@ void PxCheckedFile::addFault(PxFindings *findings, const QString &now) const
     const PxSourceRange range = fault.range();
     const QString name = m_source->text().mid(range.begin, range.end - range.begin);
     if (fault.kind() == Kind::None || (fault.kind() == Kind::EndMissing && !m_isWhole)) {
-        findings->add("xml-limit-exceeded", m_errorPlace, m_error, now);
+        findings->add("xml-limit-exceeded", faultPlace(), m_fault.message, now);
     } else if (fault.kind() == Kind::AttributeTwice) {
         add(findings, "xml-attribute-twice", range,
             QStringLiteral("attribute \"%1\" is given twice").arg(name), now,

@@ -3,6 +3,8 @@
 #include "check/PxFindings.h"
 #include "check/PxSourceDocument.h"
 
+#include <PxXMLFault.h>
+
 #include <memory>
 
 /** A file under check: what the library reads of it, and where each thing stands. */
@@ -16,7 +18,7 @@ public:
     /** Null when the library cannot read the file, or there is no document element. */
     const PxSourceElement *root() const { return isRead() ? m_source->root() : nullptr; }
     /** Whether the library can read it. */
-    bool isRead() const { return m_error.isEmpty(); }
+    bool isRead() const { return m_fault.kind == PxXMLFault::Kind::None; }
     const PxSourceDocument &source() const { return *m_source; }
     /** The document as the library reads it. */
     QDomDocument document() const { return m_document; }
@@ -33,6 +35,10 @@ public:
 
 private:
     void readSource();
+    /** Whether the fault stands somewhere in the text. */
+    bool hasFaultPlace() const { return m_fault.line > 0; }
+    /** Where the fault stands, or the start of the file. */
+    PxPlace faultPlace() const;
     void addFault(PxFindings *findings, const QString &now) const;
     void findAllowances(const QVector<PxSourceNode> &nodes,
                         const QVector<const PxSourceElement *> &elements, PxFindings *findings,
@@ -40,9 +46,7 @@ private:
     void checkNoAllowance(const PxSourceNode &node, PxFindings *findings) const;
 
     QString m_path;
-    QString m_error; ///< of the library: message, without the place
-    PxPlace m_errorPlace;
-    bool m_hasErrorPlace = false; ///< the fault stands somewhere in the text
+    PxXMLFault m_fault; ///< of the library
     QDomDocument m_document;
     bool m_isWhole = false; ///< the source is the whole text
     std::unique_ptr<PxSourceDocument> m_source;

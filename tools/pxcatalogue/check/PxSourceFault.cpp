@@ -4,8 +4,6 @@
 #include "check/PxSpelling.h"
 #include "check/PxStartTagScanner.h"
 
-#include <PxXMLLoader.h>
-
 #include <QRegularExpression>
 #include <QSet>
 #include <QXmlStreamReader>
@@ -17,7 +15,7 @@ PxSourceFault::PxSourceFault(const QString &text) : m_text(text)
     QXmlStreamReader reader(m_text);
     reader.setNamespaceProcessing(false);
     int begin = 0;
-    while (!reader.atEnd() && m_open.size() <= PxXMLLoader::maximumDepth) {
+    while (!reader.atEnd()) {
         const QXmlStreamReader::TokenType token = reader.readNext();
         if (token == QXmlStreamReader::StartElement)
             open(reader.qualifiedName().toString(), begin);
