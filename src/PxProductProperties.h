@@ -84,8 +84,6 @@
 #include <PxProductGroup.h>
 #include <PxProductGroupEnum.h>
 #include <PxProductType.h>
-#include <PxProductTypeCatalogue.h>
-#include <PxProductTypeEntry.h>
 #include <PxProductTypeEnum.h>
 #include <PxProductTypeList.h>
 #include <PxSurroundingType.h>

@@ -38,7 +38,6 @@ static QVariantList ask()
     auto *registry = PxProductTypeConfigRegistry::instance();
     const std::initializer_list<const void *> instances = {
         PxDirectoryConfig::instance(),
-        PxProductTypeCatalogue::instance(),
         PxProductCheckerRegistry::instance(),
         PxPageOrganizationManager::instance(),
         PxLegacyProductTypeConfig::instance(),

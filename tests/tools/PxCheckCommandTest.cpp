@@ -284,6 +284,9 @@ void PxCheckCommandTest::tellsWhatFollowsFromNames_data()
         "error theme-group-missing");
     row("producttypes.xml", "code=\"907\"", "»cod=\"907\"", "error product-type-row-dropped");
     row("producttypes.xml", "code=\"907\"", "code=\"»9x7\"", "error integer-malformed");
+    row("producttypes.xml", "<producttype code=\"907\"",
+        "<producttype code=\"907\" name=\"CUP1\" class=\"»gifts\"/><producttype code=\"907\"",
+        "error product-type-row-dropped");
     row(theme, "erwachen</description>\n    <keyaccounts>",
         "erwachen</description>\n    <keyaccounts>&#32;»<![CDATA[]]>",
         "warning theme-key-account-malformed");

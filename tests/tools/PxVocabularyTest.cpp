@@ -1,10 +1,10 @@
 #include "PxCatalogueDirectory.h"
 #include "PxLogRecorder.h"
+#include "PxProgramRun.h"
 
 #include <EnumHelper.h>
 #include <PxOrientation.h>
-#include <PxProductTypeCatalogue.h>
-#include <PxProductTypeEntry.h>
+#include <PxProductType.h>
 #include <description/PxProductTypeDescription.h>
 #include <description/PxProductTypeDescriptionReader.h>
 #include <themes/PxThemeFactory.h>
@@ -179,15 +179,6 @@ QString answersOf(const PxThemeList &themes)
     return text;
 }
 
-QString answersOf(const PxProductTypeCatalogue &catalogue)
-{
-    const PxProductTypeEntry *entry = catalogue.find(9);
-    return entry ? QString("%1 %2 %3")
-                       .arg(entry->name, entry->shortName)
-                       .arg(int(entry->productClass))
-                 : QString();
-}
-
 /** Keywords that the library knows and the set does not. */
 template <typename WRAPPER>
 QStringList missingKeywords(PxKeywordSet set, const WRAPPER &wrapper)
@@ -217,7 +208,12 @@ QStringList missingKeywordsOf(PxKeywordSet set, const MAP &map)
 
 void PxVocabularyTest::initTestCase()
 {
-    m_directory.writeProductTypes("1 book PROBEBOOK\n2 book OLDBOOK\n4 gift CUP");
+    QByteArray types = "1 book PROBEBOOK\n2 book OLDBOOK\n4 gift CUP\n";
+    for (const PxKeywordTableRow &row : PxVocabulary::keywords(PxKeywordSet::ProductClass).keywords)
+        types +=
+            QByteArray::number(100 + row.value) + ' ' + row.keyword + " OF_" + row.keyword + '\n';
+    m_directory.writeProductTypes(types);
+    m_directory.write("types/products/can.xml", "<a><product name='CAN'/></a>");
     m_directory.write("logo.png", "");
     QImage(5, 6, QImage::Format_RGB32).save(m_directory.filePath("logo.png"));
     QDir::setCurrent(m_directory.filePath(QString())); // where previews are looked for
@@ -276,8 +272,10 @@ QString PxVocabularyTest::answers(PxFileKind kind, const QDomDocument &document)
         QDir directory(m_directory.filePath("themes"));
         return answersOf(PxThemeFactory().loadThemeList(directory));
     }
-    m_directory.write("types.xml", text);
-    return answersOf(PxProductTypeCatalogue(QFileInfo(m_directory.filePath("types.xml"))));
+    // A process reads its product types once.
+    m_directory.write("types/producttypes.xml", text);
+    const QStringList list{"list", "--json", "--resources", m_directory.filePath("types")};
+    return PxProgramRun(PX_CATALOGUE_PROGRAM, list).text();
 }
 
 void PxVocabularyTest::attributeIsReadAndHasItsDefault_data()
@@ -428,15 +426,8 @@ void PxVocabularyTest::keywordsAreThoseOfTheLibrary()
 
 void PxVocabularyTest::productClassesAreThoseOfTheLibrary()
 {
-    for (const PxKeywordTableRow &row :
-         PxVocabulary::keywords(PxKeywordSet::ProductClass).keywords) {
-        m_directory.write("types.xml",
-                          QByteArray("<producttypes><producttype code='9' name='A' class='") +
-                              row.keyword + "'/></producttypes>");
-        const PxProductTypeCatalogue types(QFileInfo(m_directory.filePath("types.xml")));
-        QVERIFY2(types.find(9), row.keyword);
-        QCOMPARE(int(types.find(9)->productClass), row.value);
-    }
+    for (const PxKeywordTableRow &row : PxVocabulary::keywords(PxKeywordSet::ProductClass).keywords)
+        QCOMPARE(int(PxProductType(100 + row.value).productClass()), row.value);
 }
 
 QTEST_GUILESS_MAIN(PxVocabularyTest)

@@ -5,14 +5,9 @@
 #include "check/PxSpelling.h"
 #include "vocabulary/PxVocabulary.h"
 
-#include <PxDirectoryConfig.h>
-#include <PxProductTypeCatalogue.h>
 #include <PxXMLParser.h>
 
-#include <QFileInfo>
 #include <QRegularExpression>
-
-#include <memory>
 
 namespace {
 
@@ -34,15 +29,8 @@ void PxProductTypesCheck::run(PxFindings *findings)
             QStringLiteral("no product is known"));
         return;
     }
-    // The library has read its own file before, and has told its log about it.
-    const QFileInfo own(
-        PxDirectoryConfig::instance()->resource(QStringLiteral("producttypes.xml"), false));
-    std::unique_ptr<PxProductTypeCatalogue> other;
-    if (own != QFileInfo(m_file.path()))
-        other = std::make_unique<PxProductTypeCatalogue>(QFileInfo(m_file.path()));
-    const PxProductTypeCatalogue &types = other ? *other : *PxProductTypeCatalogue::instance();
     for (const PxSourceElement *row : root->childrenNamed(QStringLiteral("producttype")))
-        checkRow(*row, types, findings);
+        checkRow(*row, findings);
     checkMisspelt(*root, findings);
 }
 
@@ -59,8 +47,7 @@ void PxProductTypesCheck::checkMisspelt(const PxSourceElement &root, PxFindings 
     }
 }
 
-void PxProductTypesCheck::checkRow(const PxSourceElement &row, const PxProductTypeCatalogue &types,
-                                   PxFindings *findings)
+void PxProductTypesCheck::checkRow(const PxSourceElement &row, PxFindings *findings)
 {
     const QString codeText = row.value(QStringLiteral("code"));
     const int code = PxXMLParser::intAttribute(row.dom, QStringLiteral("code"), 0);
@@ -86,13 +73,14 @@ void PxProductTypesCheck::checkRow(const PxSourceElement &row, const PxProductTy
         drop(row, "name",
              QStringLiteral("%1 the name \"%2\", too").arg(earlier(m_rowOfName.value(key)), name),
              findings);
-    } else if (!types.find(code) || types.find(code) != types.find(name)) {
-        dropClass(row, findings); // nothing else keeps the library from taking it
+    } else if (PxVocabulary::decode(PxKeywordSet::ProductClass,
+                                    row.value(QStringLiteral("class"))) == PxProductClassUnknown) {
+        dropClass(row, findings);
     } else {
         m_rowOfCode.insert(code, &row);
         m_rowOfName.insert(key, &row);
         m_places.insert(PxProductType(code), m_file.place(row.rangeOf(QStringLiteral("name"))));
-        checkStyle(row, *types.find(code), findings);
+        checkStyle(row, name, findings);
     }
 }
 
@@ -118,14 +106,14 @@ void PxProductTypesCheck::dropClass(const PxSourceElement &row, PxFindings *find
              : PxSpelling::hint(text, classes));
 }
 
-void PxProductTypesCheck::checkStyle(const PxSourceElement &row, const PxProductTypeEntry &entry,
+void PxProductTypesCheck::checkStyle(const PxSourceElement &row, const QString &name,
                                      PxFindings *findings) const
 {
     static const QRegularExpression ourStyle(QStringLiteral("^[A-Z0-9_]+$"));
-    if (!ourStyle.match(entry.name).hasMatch())
+    if (!ourStyle.match(name).hasMatch())
         m_file.add(findings, "product-type-name-unsafe", row.rangeOf(QStringLiteral("name")),
                    QStringLiteral("\"%1\" is not all upper-case ASCII letters, digits and \"_\"")
-                       .arg(entry.name),
+                       .arg(name),
                    QStringLiteral("the product is found by the name in any case"));
     if (row.value(QStringLiteral("shortname")).isEmpty())
         m_file.add(findings, "product-type-shortname-missing",
@@ -133,5 +121,5 @@ void PxProductTypesCheck::checkStyle(const PxSourceElement &row, const PxProduct
                    row.attribute(QStringLiteral("shortname"))
                        ? QStringLiteral("the \"shortname\" of the product type is empty")
                        : QStringLiteral("the product type has no \"shortname\""),
-                   QStringLiteral("\"%1\" is shown").arg(entry.shortName));
+                   QStringLiteral("\"%1\" is shown").arg(name));
 }

@@ -7,9 +7,6 @@
 #include <QHash>
 #include <QMap>
 
-class PxProductTypeCatalogue;
-struct PxProductTypeEntry;
-
 /** Checks the rows of producttypes.xml. */
 class PxProductTypesCheck
 {
@@ -22,14 +19,12 @@ public:
     QMap<PxProductType, PxPlace> places() const { return m_places; }
 
 private:
-    void checkRow(const PxSourceElement &row, const PxProductTypeCatalogue &types,
-                  PxFindings *findings);
+    void checkRow(const PxSourceElement &row, PxFindings *findings);
     void checkMisspelt(const PxSourceElement &root, PxFindings *findings) const;
     void drop(const PxSourceElement &row, const char *attribute, const QString &message,
               PxFindings *findings, const QString &hint = QString()) const;
     void dropClass(const PxSourceElement &row, PxFindings *findings) const;
-    void checkStyle(const PxSourceElement &row, const PxProductTypeEntry &entry,
-                    PxFindings *findings) const;
+    void checkStyle(const PxSourceElement &row, const QString &name, PxFindings *findings) const;
 
     const PxCheckedFile &m_file;
     QHash<int, const PxSourceElement *> m_rowOfCode; // of the rows that the library takes

@@ -226,12 +226,13 @@ bool isMaterial(const QString &word)
     return !PxProductMaterial(word).visibleDescription().isEmpty();
 }
 
-// The library keeps the names of the classes to itself.
+// The library keeps the names of the classes to itself; it compares them in upper case.
 int decodeProductClass(const QString &text)
 {
+    const QString keyword = text.trimmed().toUpper();
     const auto *found = std::find_if(
         std::begin(productClasses), std::end(productClasses), [&](const PxKeywordTableRow &row) {
-            return text.trimmed().compare(QLatin1String(row.keyword), Qt::CaseInsensitive) == 0;
+            return keyword == QString::fromLatin1(row.keyword).toUpper();
         });
     return found == std::end(productClasses) ? 0 : found->value;
 }
