@@ -9,11 +9,12 @@ BUILD = build/$(PRESET)
 PACKAGES = ccache cmake g++ libxml2-utils ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools tzdata
 ROOT = $(if $(filter 0,$(shell id -u)),,sudo)
 
-.PHONY: help demo check bench benchmarks fuzz valgrind build setup clean
+.PHONY: help demo check platform bench benchmarks fuzz valgrind build setup clean
 
 help:
 	@echo "make demo       set up, build, and show what the library answers about the sample catalogue"
 	@echo "make check      set up, build, and run every test (PRESET=debug|release|asan|tsan, WERROR=ON)"
+	@echo "make platform   the same tests against the editions of the platform as a package of their own"
 	@echo "make valgrind   the demo under valgrind, which must find nothing"
 	@echo "make bench      build Release and print what start-up and answers cost, beside what they may cost"
 	@echo "make fuzz       set up, build with clang, and run every fuzzer (FUZZ_SECONDS=600, all together)"
@@ -35,6 +36,15 @@ valgrind: demo
 
 check: build
 	ctest --preset $(PRESET) -j $(JOBS)
+
+# What is built here sees of the editions only what they install.
+platform: setup
+	cmake -S src/platform -B build/PxPlatform -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O0 \
+	    -DPX_WARNINGS_AS_ERRORS=$(WERROR)
+	cmake --build build/PxPlatform -j $(JOBS)
+	rm -rf build/PxPlatform/installed
+	cmake --install build/PxPlatform --prefix build/PxPlatform/installed
+	$(MAKE) check PRESET=platform
 
 # Both sides of each ratio take turns, so that other work on the machine troubles both alike.
 bench: benchmarks

@@ -1,15 +1,15 @@
-# The package that find_package(PxProductProperties) finds: every path in it is relative to itself.
+# The package of the project, that find_package() finds: every path in it is relative to itself.
 
 include(CMakePackageConfigHelpers)
 
-set(package ${CMAKE_INSTALL_LIBDIR}/cmake/PxProductProperties)
+set(package ${CMAKE_INSTALL_LIBDIR}/cmake/${PROJECT_NAME})
 configure_package_config_file(
-    ${CMAKE_CURRENT_LIST_DIR}/PxProductPropertiesConfig.cmake.in ${PROJECT_BINARY_DIR}/PxProductPropertiesConfig.cmake
+    ${CMAKE_CURRENT_LIST_DIR}/${PROJECT_NAME}Config.cmake.in ${PROJECT_BINARY_DIR}/${PROJECT_NAME}Config.cmake
     INSTALL_DESTINATION ${package})
-write_basic_package_version_file(${PROJECT_BINARY_DIR}/PxProductPropertiesConfigVersion.cmake
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/${PROJECT_NAME}ConfigVersion.cmake
     COMPATIBILITY SameMajorVersion)
-install(EXPORT PxProductPropertiesTargets NAMESPACE Px:: DESTINATION ${package})
+install(EXPORT ${PROJECT_NAME}Targets NAMESPACE Px:: DESTINATION ${package})
 install(FILES
-    ${PROJECT_BINARY_DIR}/PxProductPropertiesConfig.cmake
-    ${PROJECT_BINARY_DIR}/PxProductPropertiesConfigVersion.cmake
+    ${PROJECT_BINARY_DIR}/${PROJECT_NAME}Config.cmake
+    ${PROJECT_BINARY_DIR}/${PROJECT_NAME}ConfigVersion.cmake
     DESTINATION ${package})

@@ -30,9 +30,9 @@ endfunction()
 function(px_install_library target name)
     add_library(Px::${name} ALIAS ${target})
     set_target_properties(${target} PROPERTIES EXPORT_NAME ${name} VERIFY_INTERFACE_HEADER_SETS ON)
-    install(TARGETS ${target} EXPORT PxProductPropertiesTargets
+    install(TARGETS ${target} EXPORT ${PROJECT_NAME}Targets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/PxProductProperties)
+        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${PROJECT_NAME})
 endfunction()
 
 # A shared library that other targets know as Px::<name>; its public headers are found below <base>.
@@ -48,7 +48,7 @@ function(px_add_library target name base)
         BASE_DIRS ${base} ${CMAKE_CURRENT_BINARY_DIR}/export
         FILES ${CMAKE_CURRENT_BINARY_DIR}/export/${target}Export.h)
     set_target_properties(${target} PROPERTIES
-        VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} INSTALL_RPATH $ORIGIN)
+        VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} INSTALL_RPATH "$ORIGIN;${PX_PLATFORM_RPATH}")
     px_install_library(${target} ${name})
 endfunction()
 
@@ -59,7 +59,7 @@ function(px_add_program target)
     add_executable(${target} ${ARGN})
     px_set_defaults(${target})
     target_link_libraries(${target} PRIVATE Px::ProductProperties)
-    set_target_properties(${target} PROPERTIES INSTALL_RPATH $ORIGIN/${libraries})
+    set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries};${PX_PLATFORM_RPATH}")
     install(TARGETS ${target} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 endfunction()
 

@@ -9,11 +9,16 @@ file(REMOVE_RECURSE ${SCRATCH})
 run(${CMAKE_COMMAND} --install ${BUILD_DIRECTORY} --prefix ${SCRATCH}/installed)
 file(RENAME ${SCRATCH}/installed ${SCRATCH}/moved)
 run(${CMAKE_COMMAND} -S ${EXAMPLE} -B ${SCRATCH}/build -G Ninja
-    -DCMAKE_PREFIX_PATH=${SCRATCH}/moved -DCMAKE_CXX_COMPILER=${CXX_COMPILER} -DCMAKE_CXX_FLAGS=${CXX_FLAGS})
+    -DCMAKE_PREFIX_PATH=${SCRATCH}/moved -DPxPlatform_DIR=${PLATFORM} -DCMAKE_CXX_COMPILER=${CXX_COMPILER} -DCMAKE_CXX_FLAGS=${CXX_FLAGS})
 run(${CMAKE_COMMAND} --build ${SCRATCH}/build)
 
-# Without a word from the environment: the catalogue is found beside the library.
-run(${CMAKE_COMMAND} -E env --unset=PX_RESOURCE_DIRS --unset=PX_USER_DEFAULTS_DIR ${SCRATCH}/build/spine)
+# Without a word from the environment the catalogue is found beside the library; a platform of its own is elsewhere.
+set(environment --unset=PX_RESOURCE_DIRS --unset=PX_USER_DEFAULTS_DIR)
+if(PLATFORM)
+    list(APPEND environment PX_RESOURCE_DIRS=${SCRATCH}/moved/share/PxProductProperties)
+endif()
+run(${CMAKE_COMMAND} -E env ${environment} ${SCRATCH}/moved/bin/pxcatalogue list)
+run(${CMAKE_COMMAND} -E env ${environment} ${SCRATCH}/build/spine)
 if(NOT output MATCHES "^Spine: [0-9.]+ x [0-9.]+ mm\n$")
     message(FATAL_ERROR "The example answered: ${output}")
 endif()
