@@ -83,12 +83,12 @@ void PxCheckedFile::checkReading(PxFindings *findings) const
     if (m_fault.kind == PxXMLFault::Kind::Encoding)
         findings->add("xml-encoding-damaged", faultPlace(), m_fault.message, now,
                       QStringLiteral("save the file as UTF-8, or declare its encoding"));
-    else if (hasFaultPlace())
+    else if (m_fault.kind == PxXMLFault::Kind::Limit)
+        findings->add("xml-limit-exceeded", faultPlace(), m_fault.message, now);
+    else if (m_fault.kind == PxXMLFault::Kind::NotWellFormed)
         addFault(findings, now);
     else
-        findings->add(m_fault.kind == PxXMLFault::Kind::Limit ? "xml-limit-exceeded"
-                                                              : "file-unreadable",
-                      faultPlace(), m_fault.message, now);
+        findings->add("file-unreadable", faultPlace(), m_fault.message, now);
 }
 
 void PxCheckedFile::addFault(PxFindings *findings, const QString &now) const
@@ -98,7 +98,7 @@ void PxCheckedFile::addFault(PxFindings *findings, const QString &now) const
     const PxSourceRange range = fault.range();
     const QString name = m_source->text().mid(range.begin, range.end - range.begin);
     if (fault.kind() == Kind::None || (fault.kind() == Kind::EndMissing && !m_isWhole)) {
-        findings->add("xml-limit-exceeded", faultPlace(), m_fault.message, now);
+        findings->add("xml-not-well-formed", faultPlace(), m_fault.message, now);
     } else if (fault.kind() == Kind::AttributeTwice) {
         add(findings, "xml-attribute-twice", range,
             QStringLiteral("attribute \"%1\" is given twice").arg(name), now,
