@@ -5,11 +5,11 @@
 #include <PxListParts.h>
 
 #include <QDomElement>
-#include <QMutex>
 
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <mutex>
 
 namespace {
 
@@ -34,9 +34,9 @@ QString templateName(const QString &text)
         return name;
     if (name.size() > maximumSharedLength)
         return PxDefaultTemplateMap::removeUmlauts(name);
-    static QBasicMutex ourMutex; // of the names; neither is ever destroyed
+    static std::mutex ourMutex; // of the names; neither is ever destroyed
     static auto &ourRecentNames = *new std::array<QPair<QString, QString>, 256>;
-    const QMutexLocker lock(&ourMutex);
+    const std::lock_guard lock(ourMutex);
     auto &[original, replaced] = ourRecentNames[qHash(name) % ourRecentNames.size()];
     if (original != name) {
         original = name;

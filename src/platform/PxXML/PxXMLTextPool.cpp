@@ -1,12 +1,13 @@
 #include "PxXMLTextPool.h"
 
 #include <QHashFunctions>
-#include <QMutex>
 #include <QVector>
+
+#include <mutex>
 
 namespace {
 
-QBasicMutex poolMutex;
+std::mutex poolMutex;
 
 /** Under the mutex. */
 QVector<PxXMLTextPool *> &idlePools()
@@ -19,13 +20,13 @@ QVector<PxXMLTextPool *> &idlePools()
 
 PxXMLTextPool::Loan PxXMLTextPool::lend()
 {
-    const QMutexLocker lock(&poolMutex);
+    const std::lock_guard lock(poolMutex);
     return Loan(idlePools().isEmpty() ? new PxXMLTextPool : idlePools().takeLast());
 }
 
 void PxXMLTextPool::GiveBack::operator()(PxXMLTextPool *pool) const
 {
-    const QMutexLocker lock(&poolMutex);
+    const std::lock_guard lock(poolMutex);
     idlePools().append(pool);
 }
 
