@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr QLatin1String logoNow("the logo has no image");
-constexpr QLatin1String thumbnailNow("the theme has no preview");
+const QLatin1String logoNow("the logo has no image");
+const QLatin1String thumbnailNow("the theme has no preview");
 
 /** What an application has compiled in cannot be seen from here. */
 bool isCompiledIn(const QString &path)
