@@ -83,7 +83,7 @@ QString plainText(const QJsonValue &value)
         return QString::number(value.toDouble());
     case QJsonValue::Array: {
         QStringList parts;
-        for (const QJsonValue &part : value.toArray())
+        for (const auto &part : value.toArray())
             parts.append(plainText(part));
         return parts.join(QLatin1String(", "));
     }
