@@ -9,7 +9,7 @@ BUILD = build/$(PRESET)
 PACKAGES = ccache cmake g++ libxml2-utils ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools tzdata
 ROOT = $(if $(filter 0,$(shell id -u)),,sudo)
 
-.PHONY: help demo check platform bench benchmarks fuzz valgrind build setup clean
+.PHONY: help demo check platform bench benchmarks fuzz valgrind clang tidy build setup clean
 
 help:
 	@echo "make demo       set up, build, and show what the library answers about the sample catalogue"
@@ -18,6 +18,8 @@ help:
 	@echo "make valgrind   the demo under valgrind, which must find nothing"
 	@echo "make bench      build Release and print what start-up and answers cost, beside what they may cost"
 	@echo "make fuzz       set up, build with clang, and run every fuzzer (FUZZ_SECONDS=600, all together)"
+	@echo "make clang      set up, and build all with clang, as C++17 and as C++20 (WERROR=ON)"
+	@echo "make tidy       set up, and run clang-tidy over src and tools, which must find nothing"
 	@echo "make clean      remove everything that was built"
 
 demo: build
@@ -59,6 +61,16 @@ fuzz: PRESET = fuzz
 fuzz: PACKAGES += clang libclang-rt-14-dev
 fuzz: build
 	fuzz/run $(FUZZ_SECONDS) $(FUZZ_SEED)
+
+clang tidy: PACKAGES += clang clang-tidy libbenchmark-dev libclang-rt-14-dev
+clang: setup
+	$(MAKE) build PRESET=clang
+	$(MAKE) build PRESET=clang20
+
+# The headers that it needs are all generated when CMake configures. It cannot be cached.
+tidy: setup
+	cmake --preset clang
+	find src tools -name '*.cpp' | xargs -P $(JOBS) -n 1 clang-tidy -quiet -p build/clang
 
 build: setup
 	cmake --preset $(PRESET) -DPX_WARNINGS_AS_ERRORS=$(WERROR)
