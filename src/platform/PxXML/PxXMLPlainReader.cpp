@@ -19,14 +19,14 @@ enum CharacterClass : unsigned char {
 constexpr std::array<unsigned char, 256> characterClasses()
 {
     std::array<unsigned char, 256> classes{};
-    for (int c = 0x20; c < 0x100; ++c)
-        classes[std::size_t(c)] = Plain;
-    for (int c = 'a'; c <= 'z'; ++c) {
-        classes[std::size_t(c)] |= NameStart | NamePart;
-        classes[std::size_t(c - 'a' + 'A')] |= NameStart | NamePart;
+    for (std::size_t c = 0x20; c < 0x100; ++c)
+        classes[c] = Plain;
+    for (std::size_t c = 'a'; c <= 'z'; ++c) {
+        classes[c] |= NameStart | NamePart;
+        classes[c - 'a' + 'A'] |= NameStart | NamePart;
     }
-    for (int c = '0'; c <= '9'; ++c)
-        classes[std::size_t(c)] |= NamePart;
+    for (std::size_t c = '0'; c <= '9'; ++c)
+        classes[c] |= NamePart;
     classes['_'] |= NameStart | NamePart;
     classes['-'] |= NamePart;
     classes['.'] |= NamePart;

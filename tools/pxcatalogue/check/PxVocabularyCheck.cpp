@@ -56,10 +56,11 @@ bool isMeantAsEntry(const PxSourceElement &element, const PxElementRow &row)
 
 void PxVocabularyCheck::run(PxFindings *findings) const
 {
-    if (!isOfKind(*m_file.root()))
+    const PxSourceElement *root = m_file.root();
+    if (!root || !isOfKind(*root))
         return;
     PxFileFindings ofFile(m_file, findings);
-    checkElement({*m_file.root(), PxVocabulary::root(m_kind), nullptr, nullptr}, ofFile);
+    checkElement({*root, PxVocabulary::root(m_kind), nullptr, nullptr}, ofFile);
 }
 
 /** Whether anything is read from the file; when nothing is, that is told elsewhere. */
