@@ -56,7 +56,8 @@ void PxPageSizeTest::logsEveryHundredthCopy()
     QCOMPARE(entry.level, QtDebugMsg);
     QCOMPARE(entry.file, QString("PxPageSizeSpec"));
     QCOMPARE(entry.line, 45);
-    QCOMPARE(entry.function, QString("PxPageSizeSpec::PxPageSizeSpec(const PxPageSizeSpec&)"));
+    // Compilers differ in the blank before "&)".
+    QVERIFY(entry.function.startsWith("PxPageSizeSpec::PxPageSizeSpec(const PxPageSizeSpec"));
     QCOMPARE(entry.category, QString("default"));
 }
 
