@@ -8,10 +8,24 @@
 #include <PxPageOrganizationManager.h>
 #include <PxProductCheckerRegistry.h>
 
+#include <QDate>
 #include <QDebug>
+#include <QDir>
 #include <QFileInfo>
 
 namespace {
+
+/**
+ * Qt destroys its calendars, and what it matches file names with, in reverse order of their first
+ * use: used when this library is loaded, they outlive the static objects of the program, whose
+ * destructors may still ask anything.
+ */
+void keepWhatQtDestroys()
+{
+    QDir::match(QStringLiteral("*.xml"), QString());
+    QDate(2000, 1, 1).toString(QStringLiteral("yyyy"));
+}
+Q_CONSTRUCTOR_FUNCTION(keepWhatQtDestroys)
 
 /** One line: an application without products would otherwise go on in silence. */
 void warnOfMissingProducts()

@@ -11,21 +11,6 @@
 
 #include <utility>
 
-namespace {
-
-/**
- * Qt destroys what it matches file names with in reverse order of its first use: used when this
- * library is loaded, it outlives the static objects of the program, whose destructors may still
- * read directories, of products or of themes.
- */
-void keepPatterns()
-{
-    QDir::match(QStringLiteral("*.xml"), QString());
-}
-Q_CONSTRUCTOR_FUNCTION(keepPatterns)
-
-} // namespace
-
 PxProductTypeDescriptionReader::PxProductTypeDescriptionReader(const QDir &directory)
     : m_directory(directory)
 {}

@@ -77,6 +77,7 @@ const struct { const char *name; QString (*ask)(); const char *answer; } questio
     {"recycle bin", [] { return PxThematicCategory::recycleBin().name(); }, "Papierkorb"},
     {"void theme", [] { return PxTheme::voidTheme().id(); }, "unbekannt"},
     {"context", [] { return PxProductContext(book(), "hochzeit").theme().description().section(' ', 0, 0); }, "Hochzeit"},
+    {"date", [] { return PxThemeFactory::instance()->findTheme("hochzeit").expiryDayToOrderTxt(); }, "2050-12-31"},
     {"page count", pageCount, "26"},
     {"theme list", [] { PxThemeList themes("hochzeit,normal"); themes.normalize(); return themes.asCommaSeparatedIDList(); }, "normal,hochzeit"},
     {"variant", [] { return PxProductVariantIdentifiers::instance()->defaultVariant(PxProductType("CUP2")); }, "color:black"},

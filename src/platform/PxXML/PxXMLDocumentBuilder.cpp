@@ -1,6 +1,6 @@
 #include "PxXMLDocumentBuilder.h"
 
-#include "PxXMLLimits.h"
+#include "PxXMLLoader.h"
 
 #include <QDomImplementation>
 #include <QXmlStreamReader>
@@ -66,11 +66,11 @@ std::optional<PxXMLFault> PxXMLDocumentBuilder::addToken()
 std::optional<PxXMLFault> PxXMLDocumentBuilder::addElement()
 {
     // Building takes time in proportion to the depth of each node, destroying takes stack.
-    if (++m_depth > PxXMLLimits::depth)
+    if (++m_depth > PxXMLLoader::maximumDepth)
         return fault(PxXMLFault::Kind::Limit,
                      QStringLiteral("the element is nested %1 deep, no more than %2 are allowed")
                          .arg(m_depth)
-                         .arg(PxXMLLimits::depth));
+                         .arg(PxXMLLoader::maximumDepth));
     QDomElement element = m_document.createElement(shared(m_reader.qualifiedName()));
     const QXmlStreamAttributes attributes = m_reader.attributes();
     for (const QXmlStreamAttribute &attribute : attributes) {
@@ -93,12 +93,12 @@ std::optional<PxXMLFault> PxXMLDocumentBuilder::add(const QDomNode &node)
 
 std::optional<PxXMLFault> PxXMLDocumentBuilder::count()
 {
-    if (++m_nodes <= PxXMLLimits::nodes)
+    if (++m_nodes <= PxXMLLoader::maximumNodes)
         return std::nullopt;
     return fault(PxXMLFault::Kind::Limit,
                  QStringLiteral("this is node %1 of the file, no more than %2 are allowed")
                      .arg(m_nodes)
-                     .arg(PxXMLLimits::nodes));
+                     .arg(PxXMLLoader::maximumNodes));
 }
 
 void PxXMLDocumentBuilder::addDeclaration(bool hasStandalone)

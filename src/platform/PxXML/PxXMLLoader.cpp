@@ -1,6 +1,5 @@
 #include "PxXMLLoader.h"
 
-#include "PxXMLLimits.h"
 #include "PxXMLPlainReader.h"
 #include "PxXMLStrictReader.h"
 
@@ -28,14 +27,14 @@ PxXMLFault readBytes(const QString &path, QByteArray &bytes)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return unreadable(QStringLiteral("the file cannot be opened: ") + file.errorString());
-    bytes = file.read(qMin<qint64>(file.size(), PxXMLLimits::fileSize) + 1);
+    bytes = file.read(qMin<qint64>(file.size(), PxXMLLoader::maximumFileSize) + 1);
     if (file.error() != QFile::NoError)
         return unreadable(QStringLiteral("the file cannot be read: ") + file.errorString());
-    if (bytes.size() > PxXMLLimits::fileSize)
+    if (bytes.size() > PxXMLLoader::maximumFileSize)
         return {PxXMLFault::Kind::Limit,
                 QStringLiteral("the file has %1 bytes, no more than %2 are allowed")
                     .arg(qMax<qint64>(file.size(), bytes.size()))
-                    .arg(PxXMLLimits::fileSize)};
+                    .arg(PxXMLLoader::maximumFileSize)};
     return {};
 }
 

@@ -22,6 +22,18 @@
 class PXXML_EXPORT PxXMLLoader
 {
 public:
+    // What no honest file comes near; larger ones would cost more time, memory or stack than we
+    // are ready to give an unknown file. Another platform may have other limits: what reads files
+    // through it asks the fault for its kind.
+    /** Bytes of a file. */
+    static constexpr int maximumFileSize = 8 * 1024 * 1024;
+    /** Elements inside each other, the document element included. */
+    static constexpr int maximumDepth = 256;
+    /** Attributes of one tag. */
+    static constexpr int maximumAttributes = 256;
+    /** Elements, attributes, texts, CDATA sections, comments, processing instructions of a file. */
+    static constexpr int maximumNodes = 200000;
+
     static QDomDocument loadDocument(const QFileInfo &file, QString *error = nullptr);
     static QDomDocument loadDocument(const QFileInfo &file, PxXMLFault &fault);
     /**

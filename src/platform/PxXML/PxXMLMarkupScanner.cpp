@@ -1,6 +1,6 @@
 #include "PxXMLMarkupScanner.h"
 
-#include "PxXMLLimits.h"
+#include "PxXMLLoader.h"
 
 #include <algorithm>
 
@@ -39,11 +39,11 @@ std::optional<PxXMLFault> PxXMLMarkupScanner::scanTag()
             return std::nullopt;
         case '"':
         case '\'':
-            if (++attributes > PxXMLLimits::attributes)
+            if (++attributes > PxXMLLoader::maximumAttributes)
                 return fault(PxXMLFault::Kind::Limit,
                              QStringLiteral("the tag has attribute %1, no more than %2 are allowed")
                                  .arg(attributes)
-                                 .arg(PxXMLLimits::attributes));
+                                 .arg(PxXMLLoader::maximumAttributes));
             if (const std::optional<PxXMLFault> found = scanAttributeValue())
                 return found;
         }

@@ -1,6 +1,6 @@
 #include "PxXMLPlainReader.h"
 
-#include "PxXMLLimits.h"
+#include "PxXMLLoader.h"
 
 #include <algorithm>
 #include <array>
@@ -166,7 +166,8 @@ bool PxXMLPlainReader::readStartTag()
 {
     ++m_position;
     const std::string_view name = readName();
-    if (name.empty() || (m_open.empty() && m_hasRoot) || int(m_open.size()) >= PxXMLLimits::depth)
+    if (name.empty() || (m_open.empty() && m_hasRoot) ||
+        int(m_open.size()) >= PxXMLLoader::maximumDepth)
         return false;
     QDomElement element = m_document.createElement(m_texts->text(name));
     m_attributes.clear();

@@ -8,7 +8,6 @@
 #include <string_view>
 #include <vector>
 
-
 /**
  * Reads the XML that nearly all files are made of, in a third of the time of a full parser.
  *
