@@ -122,6 +122,10 @@ void PxXMLParserTest::readsTimesOfAZone_data()
     row("203003310230", "2030-03-31 01:30", "2030-03-31 05:30", "2030-03-31 02:30");
     row("2030-03-31T02:00", "2030-03-31 01:00", "2030-03-31 05:00", "2030-03-31 02:00");
     row("2030-03-31T03:00", "2030-03-31 01:00", "2030-03-31 06:00", "2030-03-31 03:00");
+    row("2030-03-31T10:00", "2030-03-31 08:00", "2030-03-31 13:00", "2030-03-31 10:00");
+    // Shown twice in Berlin, before three o'clock and after.
+    row("203010270230", "2030-10-27 00:30", "2030-10-27 05:30", "2030-10-27 02:30");
+    row("2030-10-27T03:00", "2030-10-27 02:00", "2030-10-27 06:00", "2030-10-27 03:00");
     // Skipped in Sao Paulo, from midnight to one o'clock.
     row("2018-11-04", "2018-11-03 23:00", "2018-11-04 03:00", "2018-11-04 00:00");
     row("201811040045", "2018-11-03 23:45", "2018-11-04 03:45", "2018-11-04 00:45");
@@ -137,9 +141,12 @@ void PxXMLParserTest::readsTimesOfAZone()
         QByteArrayList{"Europe/Berlin", "America/Sao_Paulo", "UTC"}.indexOf(qgetenv("TZ"));
     if (zone < 0)
         QSKIP("runs with TZ set to one of three zones");
-    const QDateTime time = PxXMLParser::dateTimeAttribute(elementWith(text), "a", QString());
-    QCOMPARE(time.timeSpec(), Qt::LocalTime);
-    QCOMPARE(time.toUTC().toString("yyyy-MM-dd HH:mm"), inUtc[zone]);
+    for (const char *before : {"2030-01-01", "2030-07-01"}) { // which is not remembered
+        PxXMLParser::dateTimeAttribute(elementWith(before), "a", QString());
+        const QDateTime time = PxXMLParser::dateTimeAttribute(elementWith(text), "a", QString());
+        QCOMPARE(time.timeSpec(), Qt::LocalTime);
+        QCOMPARE(time.toUTC().toString("yyyy-MM-dd HH:mm"), inUtc[zone]);
+    }
 }
 
 void PxXMLParserTest::readsRectanglesAndSizes()
