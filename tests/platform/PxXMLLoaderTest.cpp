@@ -238,6 +238,7 @@ void PxXMLLoaderTest::handsOutTheFault()
         {QByteArray("\xFF\xFE<\0a\0/\0>\0", 10), Kind::None, 0, 0, "UTF-16LE"},
         {latin + "<a>\xE4</b>", Kind::NotWellFormed, 2, 8, "ISO-8859-1"},
         {"<a b='&c;'/>", Kind::NotWellFormed, 1, 7, "UTF-8"},
+        {"<!DOCTYPE a PUBLIC \"x\n{y}\" \"s\"><a/>", Kind::NotWellFormed, 2, 4, "UTF-8"},
         {"<a>\n\xE4</a>", Kind::Encoding, 2, 1, "UTF-8"},
         {"\xEF\xBB\xBF" + latin + "<a/>", Kind::Encoding, 1, 1, "UTF-8"},
         {"<?xml version='1.0' encoding='klingon'?><a/>", Kind::Encoding, 1, 1, ""},
@@ -255,6 +256,7 @@ void PxXMLLoaderTest::handsOutTheFault()
         QVERIFY2(fault.kind == row.kind, row.xml.left(80));
         QCOMPARE(QPoint(int(fault.line), int(fault.column)), QPoint(row.line, row.column));
         QCOMPARE(fault.encoding, QString(row.encoding));
+        QVERIFY(!fault.message.contains('\n')); // also where it quotes the file
         QString error;
         PxXMLLoader::loadDocument(file, &error);
         QVERIFY(error.endsWith(fault.message) && error.isEmpty() == fault.message.isEmpty());

@@ -44,6 +44,16 @@ std::string_view withoutByteOrderMark(const QByteArray &utf8)
     return utf8.startsWith("\xEF\xBB\xBF") ? text.substr(3) : text;
 }
 
+/** A parser's message may quote the file. */
+QString oneLine(QString message)
+{
+    for (QChar &c : message) {
+        if (c.category() == QChar::Other_Control && !c.isSpace())
+            c = QChar::ReplacementCharacter;
+    }
+    return message.simplified();
+}
+
 QString errorOf(const QFileInfo &file, const PxXMLFault &fault)
 {
     if (fault.kind == PxXMLFault::Kind::None)
@@ -69,6 +79,8 @@ QDomDocument PxXMLLoader::loadDocument(const QFileInfo &file, PxXMLFault &fault)
     }
     PxXMLStrictReader reader(bytes);
     fault = reader.read();
+    if (fault.kind != PxXMLFault::Kind::None)
+        fault.message = oneLine(fault.message);
     return reader.document();
 }
 
