@@ -5,10 +5,26 @@
 #include <QFileInfo>
 #include <QImageReader>
 
+#include <atomic>
+#include <cstdlib>
+
 namespace {
 
 constexpr qint64 maximumPixels = 4096LL * 4096;        // of one image
 constexpr qint64 maximumAllPixels = 4 * maximumPixels; // 512 MB, when one takes eight bytes
+
+std::atomic_bool isEnding{false};
+
+/**
+ * Image formats are plugins, which Qt lets go of when the process ends. What is registered for that
+ * after main() has begun runs before the destructors of the program's static objects.
+ */
+void noticeTheEnd()
+{
+    static const int ourRegistration = std::atexit([] { isEnding = true; });
+    Q_UNUSED(ourRegistration)
+}
+Q_COREAPP_STARTUP_FUNCTION(noticeTheEnd)
 
 bool isReadableFile(const QString &path)
 {
@@ -38,14 +54,17 @@ QString PxThemeImages::fileOf(const QString &path)
         if (isReadableFile(file))
             return file;
     }
-    --m_searchesLeft;
+    if (--m_searchesLeft == 0)
+        qWarning() << "PxThemeImages::fileOf too many images are missing: none is looked for by "
+                      "another suffix behind"
+                   << path;
     return QString();
 }
 
 QImage PxThemeImages::read(const QString &path)
 {
-    // Image formats are plugins of Qt, which go with the application object.
-    const QString file = QCoreApplication::closingDown() ? QString() : fileOf(path);
+    noticeTheEnd();
+    const QString file = isEnding ? QString() : fileOf(path);
     if (file.isEmpty())
         return QImage();
     QImageReader reader(file);

@@ -17,7 +17,7 @@ public:
      * The image of this path, or, as QImage finds it, of the path with the suffix of a format.
      *
      * Null for a file that is missing, no regular file, no image, or too large (a warning); and
-     * when the application object was destroyed.
+     * when main() is over.
      */
     QImage image(const QString &path);
 

@@ -1,11 +1,13 @@
-// Asks the library in the destructor of a static object, after main() and after the application
-// object: with "again" for the second time, else for the first. Fails with a line for each answer
-// that is wrong.
+// Asks the library in the destructor of a static object, after main() and, but for "heap", after
+// the application object: with "again" for the second time, else for the first. Fails with a line
+// for each answer that is wrong.
 #include <PxProductProperties.h>
 #include <PxXMLLoader.h>
 
 #include <QCoreApplication>
+#include <QDate>
 #include <QFile>
+#include <QImage>
 #include <QTemporaryDir>
 
 #include <cstdio>
@@ -78,6 +80,7 @@ const struct { const char *name; QString (*ask)(); const char *answer; } questio
     {"void theme", [] { return PxTheme::voidTheme().id(); }, "unbekannt"},
     {"context", [] { return PxProductContext(book(), "hochzeit").theme().description().section(' ', 0, 0); }, "Hochzeit"},
     {"date", [] { return PxThemeFactory::instance()->findTheme("hochzeit").expiryDayToOrderTxt(); }, "2050-12-31"},
+    {"date in words", [] { return QString::number(PxProductGroupProperties().fotoIndex().endsWith(' ')); }, "0"},
     {"page count", pageCount, "26"},
     {"theme list", [] { PxThemeList themes("hochzeit,normal"); themes.normalize(); return themes.asCommaSeparatedIDList(); }, "normal,hochzeit"},
     {"variant", [] { return PxProductVariantIdentifiers::instance()->defaultVariant(PxProductType("CUP2")); }, "color:black"},
@@ -112,10 +115,15 @@ const struct LastWords
 
 int main(int argc, char *argv[])
 {
-    const QCoreApplication application(argc, argv);
+    const auto *application = new QCoreApplication(argc, argv);
     QCoreApplication::setApplicationName("PxEndOfProcess");
     PxDirectoryConfig::instance()->setResourceDirectories({PX_SAMPLE_DIRECTORY});
     PxDirectoryConfig::instance()->setThemesDirectory(PX_SAMPLE_DIRECTORY "/themes");
-    return QCoreApplication::arguments().contains("again") && askAll() > 0 ? EXIT_FAILURE
-                                                                           : EXIT_SUCCESS;
+    const QStringList arguments = QCoreApplication::arguments();
+    QImage(PX_SAMPLE_DIRECTORY "/images/barcode.png"); // as the application itself may do
+    QDate::currentDate().toString("yyyy");
+    const int wrong = arguments.contains("again") ? askAll() : 0;
+    if (!arguments.contains("heap"))
+        delete application;
+    return wrong > 0 ? EXIT_FAILURE : EXIT_SUCCESS;
 }
