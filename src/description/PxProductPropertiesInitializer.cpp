@@ -35,13 +35,15 @@ void warnOfMissingProducts()
     if (!QFileInfo::exists(products)) // as resource() has reported
         return;
     const QStringList filter = PxProductTypeDescriptionReader::fileFilter();
-    if (QDir(products).entryList(filter, QDir::Files).isEmpty())
+    if (QDir(products).entryList(filter, QDir::Files).isEmpty()) {
         qWarning() << "PxProductPropertiesInitializer::setupModule found no product file in"
                    << products;
-    else
+        return;
+    }
+    const QString types = config->resource(QStringLiteral("producttypes.xml"), true);
+    if (QFileInfo::exists(types))
         qWarning() << "PxProductPropertiesInitializer::setupModule found no product on offer in"
-                   << products << "with the product types of"
-                   << config->resource(QStringLiteral("producttypes.xml"), false);
+                   << products << "with the product types of" << types;
 }
 
 } // namespace

@@ -26,7 +26,8 @@ void PxProductPropertiesInitializerTest::warnsOnceWithoutProducts_data()
     QTest::newRow("products") << QStringList{types, "products/a.xml"} << "";
     QTest::newRow("no directory") << QStringList{types} << "PxDirectoryConfig::resource \"products\" is missing, searched in (\"DIR/first\", \"DIR/second\")";
     QTest::newRow("no product file") << QStringList{types, "products/a.txt"} << start + "found no product file in \"DIR/second/products\"";
-    QTest::newRow("no product types") << QStringList{"products/a.xml"} << start + "found no product on offer in \"DIR/second/products\" with the product types of \"DIR/first/producttypes.xml\"";
+    QTest::newRow("no product types") << QStringList{"products/a.xml"} << "PxDirectoryConfig::resource \"producttypes.xml\" is missing, searched in (\"DIR/first\", \"DIR/second\")";
+    QTest::newRow("no known product") << QStringList{types, "products/b.xml"} << start + "found no product on offer in \"DIR/second/products\" with the product types of \"DIR/second/producttypes.xml\"";
     // clang-format on
 }
 
@@ -42,8 +43,10 @@ void PxProductPropertiesInitializerTest::warnsOnceWithoutProducts()
         QFile file(second.filePath(name));
         QVERIFY(file.open(QIODevice::WriteOnly));
         QVERIFY(file.write(name.startsWith("products/")
-                               ? "<d><product name='CUP'><usablesize width='1' height='1'/>"
-                                 "</product></d>"
+                               ? name.endsWith("b.xml")
+                                     ? "<d><product name='MUG'/></d>"
+                                     : "<d><product name='CUP'><usablesize width='1' height='1'/>"
+                                       "</product></d>"
                                : "<producttypes><producttype code='1' name='CUP' class='gift'/>"
                                  "</producttypes>") > 0);
     }

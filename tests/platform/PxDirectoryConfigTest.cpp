@@ -74,6 +74,7 @@ void PxDirectoryConfigTest::findsThemesInTheResourceDirectories()
     config->setThemesDirectory(QString()); // not the variable, but the default
     QCOMPARE(themes(), QDir::current().filePath("first/themes")); // where it would be
     QVERIFY(QDir(m_root.path()).mkpath("second/themes"));
+    QVERIFY(QFile("first/themes").open(QIODevice::WriteOnly)); // which is no folder
     QCOMPARE(themes(), m_root.filePath("second/themes"));
     QVERIFY(QDir(m_root.path()).mkpath("third/themes"));
     config->setResourceDirectories({"third", "second"});

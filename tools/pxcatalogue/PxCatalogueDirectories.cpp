@@ -113,7 +113,7 @@ QString PxCatalogueDirectories::useGivenOnes() const
     if (!resources.isEmpty()) { // a catalogue is named: with all that is in it
         config->setResourceDirectories(resources);
         config->setUserDefaultsPath(config->resource(QStringLiteral("defaults"), false));
-        config->setThemesDirectory(config->resource(QStringLiteral("themes"), false));
+        config->setThemesDirectory(QString());
     }
     if (!userDefaults.isEmpty())
         config->setUserDefaultsPath(userDefaults);

@@ -8,6 +8,8 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <algorithm>
+
 #include <dlfcn.h>
 
 namespace {
@@ -87,11 +89,22 @@ QString PxDirectoryConfig::userDefaultsPath() const
 
 QDir PxDirectoryConfig::lumoThemesDirectory(bool reportMissing) const
 {
-    const QDir themes(m_themesDirectory.isEmpty() ? resource(QStringLiteral("themes"), false)
-                                                  : m_themesDirectory);
+    const QDir themes(m_themesDirectory.isEmpty() ? defaultThemesDirectory() : m_themesDirectory);
     if (reportMissing && !themes.exists())
         qWarning() << "PxDirectoryConfig::lumoThemesDirectory is missing:" << themes.path();
     return themes;
+}
+
+/** Unlike a resource it is a directory: a file of this name is passed over. */
+QString PxDirectoryConfig::defaultThemesDirectory() const
+{
+    const auto themesOf = [](const QString &directory) {
+        return QDir(directory).absoluteFilePath(QStringLiteral("themes"));
+    };
+    const auto found =
+        std::find_if(m_resourceDirectories.begin(), m_resourceDirectories.end(),
+                     [&](const QString &directory) { return QDir(themesOf(directory)).exists(); });
+    return themesOf(found == m_resourceDirectories.end() ? m_resourceDirectories.first() : *found);
 }
 
 void PxDirectoryConfig::setResourceDirectories(const QStringList &directories)

@@ -37,8 +37,9 @@ public:
      */
     QString userDefaultsPath() const;
     /**
-     * The directory of the theme files; resource("themes") by default, also of resource directories
-     * that are set later. With `reportMissing` it is a warning when there is none.
+     * The directory of the theme files; by default the folder `themes` of the first resource
+     * directory that has one, also of those that are set later, or where it would be in the first.
+     * With `reportMissing` it is a warning when there is none.
      */
     QDir lumoThemesDirectory(bool reportMissing) const;
 
@@ -59,6 +60,8 @@ private:
     PxDirectoryConfig();
     ~PxDirectoryConfig() = default;
     Q_DISABLE_COPY(PxDirectoryConfig)
+
+    QString defaultThemesDirectory() const;
 
     QStringList m_resourceDirectories;
     QHash<QString, QString> m_resources;
