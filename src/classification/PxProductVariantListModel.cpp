@@ -24,6 +24,12 @@ QMap<QString, QColor> createColors()
     return colors;
 }
 
+/** Nothing for no colour: an invalid colour is black to a view that takes its name. */
+QVariant colorValue(const QColor &color)
+{
+    return color.isValid() ? QVariant(color) : QVariant();
+}
+
 QPixmap swatchOf(const QColor &color)
 {
     if (!color.isValid())
@@ -76,7 +82,7 @@ QVariant PxProductVariantListModel::data(const QModelIndex &index, int role) con
     case IdentifierRole:
         return m_identifiers[index.row()];
     case ColorRole:
-        return m_colors[index.row()];
+        return colorValue(m_colors[index.row()]);
     default:
         return QVariant();
     }

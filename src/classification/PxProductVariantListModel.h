@@ -27,7 +27,7 @@ public:
     enum Role {
         /** The identifier of the variant, a QString; in QML "identifier". */
         IdentifierRole = Qt::UserRole,
-        /** Its colour, a QColor; invalid for a variant that is no colour; in QML "color". */
+        /** Its colour, a QColor; no value for a variant that is no colour; in QML "color". */
         ColorRole,
     };
 

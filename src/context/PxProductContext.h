@@ -81,9 +81,12 @@ public:
 
     // Page counts and pages
     /**
-     * The page counts to offer, from the smallest to the largest in steps of the increment. What
-     * is no book has one page count, twice, and the increment 0. A book without spines has none:
-     * its smallest is above its largest. With fewer than three its increment is -2147483648.
+     * The page counts to offer as the platform's page organization knows them: the smallest, the
+     * largest and the increment, with the last step of a book perhaps irregular.
+     *
+     * What is no book has one page count, twice, and the increment 0. A book without spines has
+     * none: its smallest is above its largest. With fewer than three its increment is -2147483648.
+     * offeredPageCounts() needs no such cases.
      */
     int minPages() const;
     int maxPages() const;

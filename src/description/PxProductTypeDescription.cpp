@@ -181,8 +181,9 @@ void PxProductTypeDescription::readUserDefaults(const QString &productName)
 {
     // A product file may hold any name; resolved, it must still lie in the directory. Opened is the
     // resolved path: through links, the name as it stands could lead elsewhere.
-    const QString directory =
-        QDir::cleanPath(PxDirectoryConfig::instance()->userDefaultsPath()) + QLatin1Char('/');
+    QString directory = QDir::cleanPath(PxDirectoryConfig::instance()->userDefaultsPath());
+    if (!directory.endsWith(QLatin1Char('/')))
+        directory += QLatin1Char('/');
     const QString path = QDir::cleanPath(directory + productName + QLatin1String(".xml"));
     if (!path.startsWith(directory))
         return;

@@ -111,6 +111,8 @@ int PxCatalogue::list() const
         if (classes == PxProductClassUnknown || type.isProductClass(classes))
             products.append(type);
     }
+    if (products.isEmpty() && registry != PxProductTypeConfigRegistry::instance())
+        PxTerminal::printError(QStringLiteral("no product of an earlier catalogue"));
     PxReport report;
     PxProductTable(registry, products).addTo(&report);
     return print(report);

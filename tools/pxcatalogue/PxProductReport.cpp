@@ -78,10 +78,8 @@ QList<int> nearestPageCounts(const QList<int> &offered, int pageCount)
 
 void warnOfPageCount(const PxProductType &type, int pageCount, const QList<int> &nearest)
 {
-    QString text = QStringLiteral("%1 is not offered with %2 %3")
-                       .arg(type.productName())
-                       .arg(pageCount)
-                       .arg(pageCount == 1 ? QLatin1String("page") : QLatin1String("pages"));
+    QString text = type.productName() + QStringLiteral(" is not offered with %1 ").arg(pageCount) +
+                   (pageCount == 1 ? QLatin1String("page") : QLatin1String("pages"));
     if (nearest.size() == 1)
         text += QStringLiteral(", the nearest is %1").arg(nearest[0]);
     else if (!nearest.isEmpty())

@@ -19,15 +19,21 @@ bool isCompiledIn(const QString &path)
     return path.startsWith(QLatin1String(":/")) || path.startsWith(QLatin1String("qrc:"));
 }
 
-/** The path, or the file that QImage finds instead: the path with the suffix of an image format. */
+bool isReadableFile(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.isFile() && file.isReadable();
+}
+
+/** The path, or the file that the library finds instead: with the suffix of an image format. */
 QString fileOf(const QString &path)
 {
-    if (QFileInfo::exists(path))
+    if (isReadableFile(path))
         return path;
     const QList<QByteArray> formats = QImageReader::supportedImageFormats();
     for (const QByteArray &format : formats) {
         const QString file = path + QLatin1Char('.') + QString::fromLatin1(format);
-        if (QFileInfo::exists(file))
+        if (isReadableFile(file))
             return file;
     }
     return path;
