@@ -42,8 +42,11 @@ class QDomElement;
 class PXPRODUCTPROPERTIES_EXPORT PxProductTypeDescription
 {
 public:
-    /** No larger page count is offered, so that a few spines do not make a list of billions. */
-    static constexpr int maximumOfferedPages = 100000;
+    /**
+     * No list of pages or page counts has more entries, and no larger page count is offered: far
+     * more than a product has, and far less than the memory of a process.
+     */
+    static constexpr int maximumListedPages = 100000;
 
     /** The description of no product: invalid. */
     PxProductTypeDescription();
@@ -123,7 +126,7 @@ public:
      * increment, and always the largest; with fewer than three entries it has only these. If the
      * page list has a spine, page counts without an entry of their own are left out. A calendar has
      * as many pages as its binding says, a gift, card or decoration its number of normal pages, and
-     * any other product 1. Nothing below 1 or above `maximumOfferedPages` is offered.
+     * any other product 1. Nothing below 1 or above `maximumListedPages` is offered.
      */
     QList<int> offeredPageCounts() const;
     /** One of offeredPageCounts(). */
@@ -140,7 +143,8 @@ public:
     bool isSimplex() const { return m_binding.isSimplex(); }
     /**
      * The pages of the product, in order and at least one; each range in the file's list stands for
-     * `pageCount` normal pages. An illegal entry is left out with a warning.
+     * `pageCount` normal pages. An illegal entry is left out with a warning, and so is, with one
+     * warning, what is behind the first `maximumListedPages`.
      */
     PxPageTypeList pageTypes(int pageCount) const;
     PxPageNamingStyle pageNamingStyle() const { return m_pageNamingStyle; }
@@ -154,7 +158,8 @@ public:
     int editorStartDoublePage() const { return m_editorStartDoublePage; }
     /**
      * The numbers that production gives the pages: those of the file, cut off or counted on from
-     * the last (from 1 without any) to exactly `pageCount`; none for 0 or less.
+     * the last (from 1 without any) to exactly `pageCount`; none for 0 or less. No more than
+     * `maximumListedPages`, with a warning for a larger page count.
      */
     QList<int> productionNumberingList(int pageCount) const;
     /** Always so when the file does not list the pages. */
@@ -235,6 +240,7 @@ private:
     void adjustSpineWidth();
     void initPageNumbering(const QDomElement &pageNumberConfig);
     void initBackgroundCategories(const QDomElement &product);
+    void warnOfTooManyPages(const char *method, int pageCount) const;
     const Spine *findSpine(int pageCount) const;
     PxProductTypeDescriptionSpineData spine(int pageCount) const;
     int findPageIncrement() const;

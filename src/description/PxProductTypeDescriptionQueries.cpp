@@ -78,7 +78,7 @@ QList<int> PxProductTypeDescription::offeredPageCounts() const
 {
     const bool isBook = m_classification.productType().productClass() == PxProductClassBook;
     const int first = qMax(isBook ? minPages() : fixedPageCount(), 1);
-    const int last = qMin(isBook ? maxPages() : fixedPageCount(), maximumOfferedPages);
+    const int last = qMin(isBook ? maxPages() : fixedPageCount(), maximumListedPages);
     QList<int> pageCounts;
     for (int pageCount = first; pageCount <= last; ++pageCount) {
         if (isPageCountOffered(pageCount))
@@ -89,7 +89,7 @@ QList<int> PxProductTypeDescription::offeredPageCounts() const
 
 bool PxProductTypeDescription::isPageCountOffered(int pageCount) const
 {
-    if (!isValid() || pageCount < 1 || pageCount > maximumOfferedPages)
+    if (!isValid() || pageCount < 1 || pageCount > maximumListedPages)
         return false;
     return m_classification.productType().productClass() == PxProductClassBook
                ? isPageCountOfBook(pageCount)
@@ -131,8 +131,10 @@ PxPageTypeList PxProductTypeDescription::pageTypes(int pageCount) const
 {
     constexpr int maximumReserved = 1000; // as good as any product
     const PxPageType normalPage(PxPageTypeNormalPage);
+    bool isCut = false;
     PxPageTypeList pageTypes;
     for (const PxPageType &pageType : m_pageTypes) {
+        const int room = maximumListedPages - pageTypes.size();
         switch (pageType.value()) {
         case PxPageTypeNone:
             QMessageLogger("PxProductTypeDescription", 459,
@@ -145,16 +147,28 @@ PxPageTypeList PxProductTypeDescription::pageTypes(int pageCount) const
         case PxPageTypeSimplexMonthCalendar:
             pageTypes.reserve(pageTypes.size() + qBound(0, pageCount, maximumReserved) +
                               m_pageTypes.size());
-            for (int page = 0; page < pageCount; ++page)
+            for (int page = 0; page < qMin(pageCount, room); ++page)
                 pageTypes.append(normalPage);
+            isCut = isCut || pageCount > room;
             break;
         default:
-            pageTypes.append(pageType);
+            if (room > 0)
+                pageTypes.append(pageType);
+            isCut = isCut || room == 0;
         }
     }
+    if (isCut)
+        warnOfTooManyPages("pageTypes", pageCount);
     if (pageTypes.isEmpty())
         pageTypes.append(PxPageTypeNormalPage);
     return pageTypes;
+}
+
+void PxProductTypeDescription::warnOfTooManyPages(const char *method, int pageCount) const
+{
+    qWarning().nospace() << "PxProductTypeDescription::" << method << " too many pages of "
+                         << m_classification.productType().productName() << " with the page count "
+                         << pageCount << ": the list ends after " << maximumListedPages;
 }
 
 PxPageAlignment PxProductTypeDescription::pageAlignment(int page) const
@@ -182,10 +196,13 @@ PxPageAlignment PxProductTypeDescription::pageAlignment(int page) const
 
 QList<int> PxProductTypeDescription::productionNumberingList(int pageCount) const
 {
-    QList<int> numbers = m_productionNumberingPages.mid(0, qMax(0, pageCount));
-    if (pageCount > 0 && numbers.isEmpty())
+    const int count = qBound(0, pageCount, maximumListedPages);
+    if (count < pageCount)
+        warnOfTooManyPages("productionNumberingList", pageCount);
+    QList<int> numbers = m_productionNumberingPages.mid(0, count);
+    if (count > 0 && numbers.isEmpty())
         numbers.append(1);
-    while (numbers.size() < pageCount)
+    while (numbers.size() < count)
         numbers.append(pxClampedSum(numbers.constLast(), 1));
     return numbers;
 }

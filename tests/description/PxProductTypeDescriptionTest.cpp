@@ -30,6 +30,7 @@ private slots:
     void offeredPageCountsFollowTheProduct_data();
     void offeredPageCountsFollowTheProduct();
     void hostilePageCountsAreBounded();
+    void listsOfPagesAreBounded();
     void pageRangesExpandToThePageCount();
     void printSizeDependsOnTheKindOfPage();
     void wrongQuestionsAreReported();
@@ -363,7 +364,7 @@ void PxProductTypeDescriptionTest::offeredPageCountsFollowTheProduct()
 
 void PxProductTypeDescriptionTest::hostilePageCountsAreBounded()
 {
-    const int most = PxProductTypeDescription::maximumOfferedPages;
+    const int most = PxProductTypeDescription::maximumListedPages;
     const int max = 2147483647;
     const PxProductTypeDescription book =
         describe("name='PROBEBOOK'", ourSize + spines({-max - 1, -max, max}));
@@ -373,6 +374,27 @@ void PxProductTypeDescriptionTest::hostilePageCountsAreBounded()
     QVERIFY(!book.isPageCountOffered(max) && !book.isPageCountOffered(-max - 1));
     QCOMPARE(describe("name='CUP' numOfNormalPages='2147483647'", ourSize).offeredPageCounts(),
              Ints());
+}
+
+void PxProductTypeDescriptionTest::listsOfPagesAreBounded()
+{
+    const int most = PxProductTypeDescription::maximumListedPages;
+    const int max = 2147483647;
+    const PxProductTypeDescription book = describe(
+        "name='PROBEBOOK'", pages("fullcover," + QString("normalpages,").repeated(998) + "spine") +
+                                "<productionnumbering>7,8</productionnumbering>");
+    const QString warning = "PxProductTypeDescription::%1 too many pages of \"PROBEBOOK\" with the "
+                            "page count %2: the list ends after 100000";
+    const PxLogRecorder log;
+    QCOMPARE(book.pageTypes(100).size(), 1 + 99800 + 1);
+    QCOMPARE(book.productionNumberingList(most).size(), most);
+    QCOMPARE(log.texts(), QStringList());
+    QCOMPARE(book.pageTypes(101).size(), most);
+    QCOMPARE(book.pageTypes(max).constLast().value(), PxPageTypeNormalPage);
+    QCOMPARE(book.productionNumberingList(max).constLast(), 8 + most - 2);
+    QCOMPARE(log.texts(),
+             QStringList({warning.arg("pageTypes").arg(101), warning.arg("pageTypes").arg(max),
+                          warning.arg("productionNumberingList").arg(max)}));
 }
 
 void PxProductTypeDescriptionTest::pageRangesExpandToThePageCount()

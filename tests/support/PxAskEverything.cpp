@@ -69,7 +69,7 @@ QString pxAskEverything(const PxProductTypeDescription &description)
             << description.normalPageHorizontalClamp() << description.pageNumberHorizontalIndent()
             << description.pageNumberFontSize() << description.extraProductionContents().size();
 
-    for (const int pageCount : {smallest, -1, 0, 26, largest, description.minPages()}) {
+    for (const int pageCount : {smallest, -1, 0, 1, 26, largest, description.minPages()}) {
         answers << description.spineWidth(pageCount) << description.spineMaxFontHeight(pageCount)
                 << description.isPageCountOffered(pageCount);
         for (const PxPageTypeEnum pageType : pageTypes) {
@@ -80,10 +80,9 @@ QString pxAskEverything(const PxProductTypeDescription &description)
         for (const int page : {smallest, -1, 0, 1, 26, largest})
             askAboutThePage(description, page, pageCount, answers);
     }
-    for (const int pageCount : {smallest, -1, 0, 26, 300})
-        answers << description.pageTypes(pageCount).size();
-    for (const int pageCount : {smallest, -1, 0, 26, 30000})
-        answers << description.productionNumberingList(pageCount).size();
+    for (const int pageCount : {smallest, -1, 0, 1, 26, largest})
+        answers << description.pageTypes(pageCount).size()
+                << description.productionNumberingList(pageCount).size();
     return text;
 }
 

@@ -6,8 +6,7 @@ class QString;
 
 /**
  * Asks a record everything it can answer, with arguments an application should not, but may pass:
- * for tests that want to see it survive, or answer the same again. Page counts stay below what
- * takes long.
+ * for tests that want to see it survive, or answer the same again: any int may be asked.
  */
 QString pxAskEverything(const PxProductTypeDescription &description);
 QString pxAskEverything(const PxTheme &theme);
