@@ -27,28 +27,17 @@ void keepRegularExpressions()
 }
 Q_CONSTRUCTOR_FUNCTION(keepRegularExpressions)
 
-/** The moment at which the clocks would show the time if they ran as they do at another time. */
-QDateTime asClocksRun(const QDateTime &time, const QDateTime &otherTime)
-{
-    return time.addSecs(-otherTime.toLocalTime().offsetFromUtc()).toLocalTime();
-}
-
 /** Of a date and a time that exist at least in the calendar; else an invalid time. */
 QDateTime toLocalTime(const QDate &date, const QTime &time)
 {
     if (!date.isValid() || !time.isValid())
         return QDateTime();
-    const auto isShownAt = [&](const QDateTime &local) {
-        return local.date() == date && local.time() == time;
-    };
-    // As on the day before, also where the clocks repeat the time, and where they skip it: then it
-    // is as many minutes after the skip begins. Else they have changed since the day before.
-    const QDateTime utc(date, time, Qt::UTC);
-    const QDateTime local = asClocksRun(utc, utc.addDays(-1));
-    if (isShownAt(local))
+    const QDateTime local(date, time); // each question about the clocks takes microseconds
+    if (local.isValid() && local.date() == date && local.time() == time)
         return local;
-    const QDateTime changed = asClocksRun(utc, utc.addDays(1));
-    return isShownAt(changed) ? changed : local;
+    // The clocks skip it: what they would show then if they went on as on the day before.
+    const QDateTime utc(date, time, Qt::UTC);
+    return utc.addSecs(-utc.addDays(-1).toLocalTime().offsetFromUtc()).toLocalTime();
 }
 
 QDateTime fromCompactForm(const QString &text)

@@ -29,8 +29,8 @@ public:
      * stand before or behind it but white space.
      *
      * Without a time zone it is local time. A time that the clocks skip is as many minutes after
-     * the skip begins: no time zone makes a file unreadable. Of one that they repeat the first is
-     * meant. After 2037 Qt knows no other changes of the clocks than those of 2037.
+     * the skip begins: no time zone makes a file unreadable. Of one that they repeat either may
+     * be meant. After 2037 Qt knows no other changes of the clocks than those of 2037.
      *
      * An unreadable text counts as the default text; when that is unreadable too, the answer is
      * an invalid time.
