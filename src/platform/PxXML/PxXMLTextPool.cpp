@@ -3,6 +3,7 @@
 #include <QHashFunctions>
 #include <QVector>
 
+#include <algorithm>
 #include <mutex>
 
 namespace {
@@ -21,13 +22,21 @@ QVector<PxXMLTextPool *> &idlePools()
 PxXMLTextPool::Loan PxXMLTextPool::lend()
 {
     const std::lock_guard lock(poolMutex);
-    return Loan(idlePools().isEmpty() ? new PxXMLTextPool : idlePools().takeLast());
+    QVector<PxXMLTextPool *> &idle = idlePools();
+    const auto own = std::find_if(idle.begin(), idle.end(), [](const PxXMLTextPool *pool) {
+        return pool->m_thread == std::this_thread::get_id();
+    });
+    return Loan(own == idle.end() ? new PxXMLTextPool : idle.takeAt(int(own - idle.begin())));
 }
 
 void PxXMLTextPool::GiveBack::operator()(PxXMLTextPool *pool) const
 {
+    constexpr int maximumIdle = 16;
     const std::lock_guard lock(poolMutex);
-    idlePools().append(pool);
+    if (idlePools().size() < maximumIdle)
+        idlePools().append(pool);
+    else
+        delete pool;
 }
 
 QString PxXMLTextPool::text(std::string_view utf8)

@@ -6,6 +6,7 @@
 #include <array>
 #include <memory>
 #include <string_view>
+#include <thread>
 
 /**
  * Makes texts of UTF-8, of recurring ones the same: names and values recur all over a catalogue.
@@ -23,10 +24,11 @@ public:
     using Loan = std::unique_ptr<PxXMLTextPool, GiveBack>;
 
     /**
-     * A pool that nobody else uses until it is given back: the one given back last, with its texts.
+     * A pool that nobody else uses until it is given back: the one that this thread gave back, with
+     * its texts, or a new one. Threads share no texts: each would wait for the other's counters.
      *
-     * Pools outlive files and threads, and are never destroyed: the last static destructor of a
-     * process may load a file. There are as many as files were ever loaded at the same time.
+     * Pools outlive files, and idle ones are never destroyed: the last static destructor of a
+     * process may load a file. A few are kept, whatever became of their threads.
      */
     static Loan lend();
 
@@ -41,4 +43,5 @@ private:
     };
 
     std::array<Slot, 2048> m_slots;
+    const std::thread::id m_thread = std::this_thread::get_id();
 };
