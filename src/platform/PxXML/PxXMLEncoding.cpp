@@ -1,43 +1,21 @@
 #include "PxXMLEncoding.h"
 
+#include <QRegularExpression>
 #include <QTextCodec>
-
-#include <algorithm>
-#include <optional>
 
 namespace {
 
 /**
- * Qt destroys its codecs in reverse order of their first use: used when this library is loaded,
- * they outlive the static objects of the program, whose destructors may still read files.
+ * Qt destroys its codecs, and what it matches regular expressions with, in reverse order of their
+ * first use: used when this library is loaded, they outlive the static objects of the program,
+ * whose destructors may still read files.
  */
-void keepCodecs()
+void keepWhatQtDestroys()
 {
     QTextCodec::codecForName("UTF-8");
+    QRegularExpression(QStringLiteral("a")).match(QString());
 }
-Q_CONSTRUCTOR_FUNCTION(keepCodecs)
-
-bool isQuote(char c)
-{
-    return c == '"' || c == '\'';
-}
-
-/** Not by a regular expression: Qt cannot match any more while the process ends. */
-std::optional<QByteArray> declaredEncoding(const QByteArray &declaration)
-{
-    const QByteArray name = QByteArrayLiteral("encoding");
-    for (int at = declaration.indexOf(name); at > 0; at = declaration.indexOf(name, at + 1)) {
-        const bool isWord = declaration.mid(at - 1, 1).trimmed().isEmpty();
-        const QByteArray equals = declaration.mid(at + name.size()).trimmed();
-        const QByteArray value = equals.mid(1).trimmed();
-        if (!isWord || !equals.startsWith('=') || value.isEmpty() || !isQuote(value.front()))
-            continue;
-        const auto end = std::find_if(value.begin() + 1, value.end(), isQuote);
-        if (end != value.end())
-            return value.mid(1, int(end - value.begin()) - 1);
-    }
-    return std::nullopt;
-}
+Q_CONSTRUCTOR_FUNCTION(keepWhatQtDestroys)
 
 } // namespace
 
@@ -50,8 +28,12 @@ QTextCodec *PxXMLEncoding::codecOf(const QByteArray &bytes)
         return QTextCodec::codecForName("UTF-16BE");
     if (bytes.size() > 1 && bytes.at(1) == '\0')
         return QTextCodec::codecForName("UTF-16LE");
-    return QTextCodec::codecForName(
-        declaredEncoding(declaration(bytes)).value_or(QByteArrayLiteral("UTF-8")));
+    static const auto &ourEncoding =
+        *new QRegularExpression(QStringLiteral("\\sencoding\\s*=\\s*[\"']([^\"']*)[\"']"));
+    const QRegularExpressionMatch declared =
+        ourEncoding.match(QString::fromLatin1(declaration(bytes)));
+    return QTextCodec::codecForName(declared.hasMatch() ? declared.captured(1).toLatin1()
+                                                        : QByteArrayLiteral("UTF-8"));
 }
 
 QByteArray PxXMLEncoding::declaration(const QByteArray &text)

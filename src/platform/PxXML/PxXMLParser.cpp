@@ -16,17 +16,6 @@ std::optional<int> toInt(const QString &text)
     return isNumber ? std::optional<int>(number) : std::nullopt;
 }
 
-/**
- * Qt destroys what it matches regular expressions with in reverse order of its first use: used when
- * this library is loaded, it outlives the static objects of the program, whose destructors may
- * still read files.
- */
-void keepRegularExpressions()
-{
-    QRegularExpression(QStringLiteral("a")).match(QString());
-}
-Q_CONSTRUCTOR_FUNCTION(keepRegularExpressions)
-
 /** Of a date and a time that exist at least in the calendar; else an invalid time. */
 QDateTime toLocalTime(const QDate &date, const QTime &time)
 {
