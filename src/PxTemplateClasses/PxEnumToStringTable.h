@@ -53,23 +53,49 @@ public:
      * The union of a comma-separated list of keywords.
      *
      * A part that is no keyword, an empty one too, adds the default value and is logged at debug
-     * level; an empty text gives the default value without a word.
+     * level, as far as maximumMessages goes; an empty text gives the default value without a word.
      */
     ENUM decodeCSV(const QString &keywords) const
     {
         const char *const function = Q_FUNC_INFO; // of this function, not of the lambda
         int flags = 0;
+        int count = 0;
         pxForEachPart(keywords, [&](QStringView part) {
             const QString keyword = part.toString();
             ENUM value = decode(keyword, undecodable);
             if (value == undecodable) {
                 value = m_defaultValue;
-                if (!keywords.isEmpty())
+                if (!keywords.isEmpty() && ++count <= maximumMessages)
                     reportUndecodable(keyword, function);
             }
             flags |= value;
         });
+        reportMoreUndecodable(count);
         return static_cast<ENUM>(flags);
+    }
+
+    /** Of the parts of one text that are no keyword so many are logged; a text may have millions.
+     */
+    static constexpr int maximumMessages = 100;
+
+    /**
+     * The value of one part of a list whose parts are wanted one by one; as decodeCSV() has it, and
+     * logged unless it is empty. `count` counts those of the list that are no keyword.
+     */
+    ENUM decodePart(const QString &part, int &count) const
+    {
+        const ENUM value = decode(part, undecodable);
+        if (value != undecodable)
+            return value;
+        return part.isEmpty() || ++count > maximumMessages ? m_defaultValue : decodeCSV(part);
+    }
+    /** To be called after the last part: how many were not logged. */
+    static void reportMoreUndecodable(int count)
+    {
+        if (count > maximumMessages)
+            QMessageLogger("../PxTemplateClasses/PxEnumToStringTable", 161, Q_FUNC_INFO).debug()
+                << "undecodable: (using default in " << typeid(ENUM).name() << ")"
+                << count - maximumMessages << "more";
     }
 
     /** The keyword of exactly this value; a union without a keyword of its own has none. */

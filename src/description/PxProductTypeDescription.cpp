@@ -200,25 +200,32 @@ void PxProductTypeDescription::readVariants(const QDomElement &variants)
         m_variants.append(e.text());
 }
 
+/** A list no longer than it may be. */
+QString PxProductTypeDescription::firstEntries(const QString &list, const char *method,
+                                               const char *attribute, const QDomElement &product)
+{
+    int entries = 1;
+    int end = -1;
+    for (int i = list.indexOf(QLatin1Char(',')); i >= 0;
+         i = list.indexOf(QLatin1Char(','), i + 1)) {
+        if (entries++ == maximumListEntries)
+            end = i;
+    }
+    if (end >= 0)
+        qWarning().nospace() << "PxProductTypeDescription::" << method << ' ' << entries
+                             << " entries in \"" << attribute << "\" of "
+                             << product.attribute(QStringLiteral("name"))
+                             << " - used are the first " << maximumListEntries;
+    return list.left(end);
+}
+
 void PxProductTypeDescription::readPages(const QDomElement &product)
 {
     const QDomElement pages = product.firstChildElement(QStringLiteral("pages"));
     if (pages.isNull())
         return;
-    QString text = pages.text();
-    int entries = 1;
-    for (int i = text.indexOf(QLatin1Char(',')); i >= 0;
-         i = text.indexOf(QLatin1Char(','), i + 1)) {
-        // Each entry may stand for as many pages as the product has.
-        if (entries++ == maximumAbstractPages) {
-            qWarning() << "PxProductTypeDescription::readPages"
-                       << entries + text.midRef(i + 1).count(QLatin1Char(','))
-                       << "entries in \"pages\" of" << product.attribute(QStringLiteral("name"))
-                       << "- used are the first" << maximumAbstractPages;
-            text.truncate(i);
-        }
-    }
-    m_pageTypes = PxPageTypeList(text);
+    // Each entry may stand for as many pages as the product has.
+    m_pageTypes = PxPageTypeList(firstEntries(pages.text(), "readPages", "pages", product));
     m_abstractPageCount = m_pageTypes.size();
 }
 
@@ -299,10 +306,12 @@ void PxProductTypeDescription::initBackgroundCategories(const QDomElement &produ
     m_fullBackgroundOnEachPage =
         PxXMLParser::boolAttribute(product, QStringLiteral("fullBackgroundOnEachPage"),
                                    type.isCalendar() || type.isGift() || type.isCard());
+    const QString categories =
+        product.attribute(QStringLiteral("coverBackgroundCategories"),
+                          type.isDeko() ? QStringLiteral("Einfarbig") : QString());
+    // A set of as many names that share one hash would take minutes.
     m_allowedBackgroundCategories = PxThematicCategorySet(
-        product
-            .attribute(QStringLiteral("coverBackgroundCategories"),
-                       type.isDeko() ? QStringLiteral("Einfarbig") : QString())
+        firstEntries(categories, "initBackgroundCategories", "coverBackgroundCategories", product)
             .split(QLatin1Char(','), Qt::SkipEmptyParts));
 }
 

@@ -225,9 +225,11 @@ private:
         PxProductTypeDescriptionSpineData data;
     };
 
-    // Far more than a product has; real ones state ranges.
-    static constexpr int maximumAbstractPages = 1000;
+    // Of "pages" and of the background categories: far more than a product has.
+    static constexpr int maximumListEntries = 1000;
 
+    static QString firstEntries(const QString &list, const char *method, const char *attribute,
+                                const QDomElement &product);
     void readCounts(const QDomElement &product);
     void readJigTypes(const QDomElement &product);
     void readFlags(const QDomElement &product);

@@ -65,10 +65,11 @@ QString PxDefaultTemplateMap::findTemplate(const PxDefaultTemplateKey &key, bool
 void PxDefaultTemplateMap::applyDefaultsNode(const QDomElement &parent)
 {
     const QString tag = QStringLiteral("defaults");
+    int undecodable = 0; // of the kinds of page of all elements
     for (QDomElement e = parent.firstChildElement(tag); !e.isNull();
          e = e.nextSiblingElement(tag)) {
         const int index = m_defaults.size();
-        m_defaults.append(readDefaults(e));
+        m_defaults.append(readDefaults(e, undecodable));
         const QString themes = e.attribute(QStringLiteral("theme"), QStringLiteral("normal"));
         pxForEachPart(themes, [&](QStringView theme) {
             if (theme.isEmpty())
@@ -78,6 +79,7 @@ void PxDefaultTemplateMap::applyDefaultsNode(const QDomElement &parent)
                 ofTheme.append(index);
         });
     }
+    PxPageType().enumToStringTable()->reportMoreUndecodable(undecodable);
     m_defaults.squeeze();
 }
 
@@ -110,10 +112,12 @@ bool PxDefaultTemplateMap::Defaults::isFor(const PxPageContext &page) const
 }
 
 /** One part at a time: however long the list, there are few kinds of page. */
-void PxDefaultTemplateMap::readPageTypes(const QString &keywords, Defaults &defaults)
+void PxDefaultTemplateMap::readPageTypes(const QString &keywords, Defaults &defaults,
+                                         int &undecodable)
 {
-    pxForEachPart(keywords, [&defaults](QStringView part) {
-        const PxPageTypeEnum pageType = PxPageType(part.trimmed().toString()).value();
+    const auto *table = PxPageType().enumToStringTable();
+    pxForEachPart(keywords, [&](QStringView part) {
+        const PxPageTypeEnum pageType = table->decodePart(part.trimmed().toString(), undecodable);
         if (isSingleBit(pageType))
             defaults.pageTypes |= pageType;
         else if (!defaults.otherPageTypes.contains(pageType))
@@ -121,10 +125,11 @@ void PxDefaultTemplateMap::readPageTypes(const QString &keywords, Defaults &defa
     });
 }
 
-PxDefaultTemplateMap::Defaults PxDefaultTemplateMap::readDefaults(const QDomElement &element)
+PxDefaultTemplateMap::Defaults PxDefaultTemplateMap::readDefaults(const QDomElement &element,
+                                                                  int &undecodable)
 {
     Defaults defaults;
-    readPageTypes(element.attribute(QStringLiteral("pageType")), defaults);
+    readPageTypes(element.attribute(QStringLiteral("pageType")), defaults, undecodable);
     defaults.alignments = pxPageAlignments(element);
 
     // The short form: a background, or background and layout. Of more names the first still counts.

@@ -2,7 +2,7 @@
 
 #include "geometry/PxDefaultTemplateKey.h"
 
-#include <QHash>
+#include <QMap>
 #include <QVector>
 
 class QDomElement;
@@ -42,11 +42,11 @@ private:
         bool isFor(const PxPageContext &page) const;
     };
 
-    static void readPageTypes(const QString &keywords, Defaults &defaults);
-    static Defaults readDefaults(const QDomElement &element);
+    static void readPageTypes(const QString &keywords, Defaults &defaults, int &undecodable);
+    static Defaults readDefaults(const QDomElement &element, int &undecodable);
     QString findOwnTemplate(const PxDefaultTemplateKey &key) const;
 
     // The elements as they stand, not their combinations: lists may cross into millions of pages.
     QVector<Defaults> m_defaults;
-    QHash<QString, QVector<int>> m_defaultsOfTheme;
+    QMap<QString, QVector<int>> m_defaultsOfTheme; // sorted: names of a file may share one hash
 };

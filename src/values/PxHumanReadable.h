@@ -5,7 +5,7 @@
 
 #include <PxLookUpTable.h>
 
-#include <QHash>
+#include <QMap>
 #include <QObject>
 
 /**
@@ -25,7 +25,8 @@ class PXPRODUCTPROPERTIES_EXPORT PxHumanReadable : public QObject
 public:
     /**
      * Created on first use, from any thread; never destroyed. As a QObject it belongs to the thread
-     * that asks first: let that be the one of the user interface.
+     * that asks first: let that be the one of the user interface. Not to be asked for by a message
+     * handler while it loads, as PxProductTypeConfigRegistry::instance() says.
      */
     static PxHumanReadable *instance();
 
@@ -41,5 +42,5 @@ private:
     void initFotoPaperTypeNames();
 
     PxLookUpTable<PxFotoPaperType, QString> m_fotoPaperTypeNames;
-    QHash<QString, QString> m_templateNames;
+    QMap<QString, QString> m_templateNames; // sorted: names of a file may share one hash
 };

@@ -9,8 +9,12 @@ PxPageTypeList::PxPageTypeList(const QList<PxPageTypeEnum> &pageTypes)
 
 PxPageTypeList::PxPageTypeList(const QString &keywords)
 {
-    pxForEachPart(keywords,
-                  [this](QStringView part) { append(PxPageType(part.trimmed().toString())); });
+    const auto *table = PxPageType().enumToStringTable();
+    int undecodable = 0;
+    pxForEachPart(keywords, [&](QStringView part) {
+        append(table->decodePart(part.trimmed().toString(), undecodable));
+    });
+    table->reportMoreUndecodable(undecodable);
 }
 
 PxPageTypeList::PxPageTypeList(const PxPageTypeList &other) = default;

@@ -94,6 +94,9 @@ void PxEnumTableTest::decodesLists()
     QCOMPARE(decode(" "), qMakePair(128, 1));
     QCOMPARE(decode("pink,green,brown"), qMakePair(130, 2));
 
+    QCOMPARE(decode(qPrintable(QString("red") + QString(100, ','))), qMakePair(129, 100));
+    QCOMPARE(decode(qPrintable(QString("red") + QString(9999, ','))), qMakePair(129, 101));
+
     const PxLogRecorder log;
     QCOMPARE(int(PxBinding("LEATHER,foo").value()), 4096 + 8);
     QCOMPARE(log.texts(), QStringList("undecodable: (using default in  13PxBindingEnum ) \"foo\""));

@@ -1,5 +1,7 @@
 #include "PxHostileFiles.h"
 
+#include <PxCollidingNames.h>
+
 #include <QTextCodec>
 
 namespace PxHostileFiles {
@@ -31,6 +33,14 @@ static QByteArray asMany(const QByteArray &text, int nodes)
 static QByteArray encoded(const char *codec, const QByteArray &utf8)
 {
     return QTextCodec::codecForName(codec)->fromUnicode(QString::fromUtf8(utf8));
+}
+
+QByteArrayList collidingNames(int count)
+{
+    QByteArrayList names;
+    for (const QString &name : pxCollidingNames(count / share))
+        names.append(name.toLatin1());
+    return names;
 }
 
 QList<File> unreadable()
@@ -115,6 +125,7 @@ QList<File> wild()
     QByteArray categories;
     for (int i = 0; i < 100000; ++i)
         categories += "C" + QByteArray::number(i) + ",";
+    const QByteArray colliding = collidingNames(180000).join(',');
     QByteArray spines;
     for (int i = 0; i < 18000; ++i)
         spines += "<spine pages='" + QByteArray::number(18000 - i) + "' width='9'/>";
@@ -130,13 +141,15 @@ QList<File> wild()
     // clang-format off
     const struct { const char *name; QByteArray attributes; QByteArray children; } rows[] = {
         {"KEYWORDS", "space='" + asMany("600cm2,", 0) + "'", ""},
-        {"WRONGKEYWORDS", "space='" + QByteArray("A4,").repeated(30000) + "'", ""}, // a message for each
+        {"WRONGKEYWORDS", "space='" + asMany("A4,", 0) + "' binding='" + QByteArray(5000000 / share, ',') + "'", ""},
         {"PAGES", "", "<pages>" + asMany("normalpages,", 0) + "</pages>"},
         {"NUMBERING", "", "<productionnumbering>" + asMany("7,", 0) + "</productionnumbering>"},
         {"CONTENT", "", "<pageswithcontent>" + asMany("7,", 0) + "</pageswithcontent>"},
         {"TARGETS", "", "<extra_production_pages><item><target_pages>" + asMany("7,", 0) + "</target_pages></item></extra_production_pages>"},
         {"ITEMS", "", "<extra_production_pages>" + asMany("<item><target_pages>7</target_pages><pdf/></item>", 4) + "</extra_production_pages>"},
         {"CATEGORIES", "coverBackgroundCategories='" + categories + "'", ""},
+        {"COLLIDINGCATEGORIES", "coverBackgroundCategories='" + colliding + "'", ""},
+        {"COLLIDINGTHEMES", "", "<defaults><defaults theme='" + colliding + "'/></defaults>"},
         {"REDIRECTS", "", "<contentredirects>" + asMany("<contentredirect from='0-2147483647' to='2147483647'/>", 3) + "</contentredirects>"},
         {"BROKENREDIRECTS", "", "<contentredirects>" + asMany("<contentredirect from='-' to='1'/>", 3) + "</contentredirects>"},
         {"ROTATIONS", "", "<rotationredirects>" + asMany("<rotationredirect from='1' to='1'/>", 3) + "</rotationredirects>"},
@@ -144,6 +157,7 @@ QList<File> wild()
         {"SURROUNDINGS", "", "<surroundings>" + asMany("<surrounding pageType='none'/>", 2) + "</surroundings>"},
         {"SURROUNDINGLISTS", "", asMany("<surroundings/>", 1)},
         {"SPINES", "", "<spines>" + spines + "</spines>"},
+        {"WRONGPAGETYPES", "", "<defaults>" + asMany("<defaults pageType='x,x,x,x,x,x,x,x'/>", 2) + "</defaults>"},
         {"DEFAULTS", "", "<defaults>" + asMany("<defaults background='\xC3\xA4'/>", 2) + "</defaults>"},
         {"THEMES", "", "<defaults><defaults theme='" + categories + "' templates='" + QByteArray("ä,").repeated(100000) + "'/></defaults>"},
         {"SAMETHEME", "", "<defaults><defaults pageType='" + asMany("normalpage,", 0) + "'/></defaults>"},
@@ -167,11 +181,17 @@ QList<File> wildThemes()
     const auto theme = [](const QByteArray &attributes, const QByteArray &children) {
         return "<themes><theme id='wild' " + attributes + '>' + children + "</theme></themes>";
     };
+    QByteArray sameId; // and all else but one category
+    for (int i = 0; i < 20000 / share; ++i)
+        sameId +=
+            "<theme id='a'><defaultcategories frame='" + QByteArray::number(i) + "'/></theme>";
     // clang-format off
     return {
-        {"THEMES", "<themes>" + asMany("<theme/>", 8) + "</themes>"},
-        {"IDS", "<themes>" + asMany("<theme id='&lt;&lt;&lt;'/>", 8) + "</themes>"},
-        {"COMMENTS", "<themes>" + asMany("<!---->", 8) + "</themes>"},
+        {"THEMES", "<themes>" + asMany("<theme/>", 1) + "</themes>"},
+        {"IDS", "<themes>" + asMany("<theme id='&lt;&lt;&lt;'/>", 2) + "</themes>"},
+        {"SAMEID", "<themes>" + sameId + "</themes>"},
+        {"COLLIDINGIDS", "<themes><theme id='" + collidingNames(40000).join("'/><theme id='") + "'/></themes>"},
+        {"COMMENTS", "<themes>" + asMany("<!---->", 1) + "</themes>"},
         {"KEYACCOUNTS", theme("", "<keyaccounts>" + asMany("<k>99999999999999999999</k>", 2) + "</keyaccounts>")},
         {"PRODUCTS", theme("", "<products>" + asMany("<product>BOOK</product>", 2) + "</products>")},
         {"LOGOS", theme("", "<logos>" + asMany("<logo filename='n' width='2147483647' x='-2147483648'/>", 4) + "</logos>")},

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayList>
 #include <QList>
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
@@ -15,6 +16,9 @@ struct File
     QByteArray name; // without ".xml"
     QByteArray content;
 };
+
+/** Different names that share one hash; fewer under the sanitizers. */
+QByteArrayList collidingNames(int count);
 
 /** Files that no loader may accept. */
 QList<File> unreadable();

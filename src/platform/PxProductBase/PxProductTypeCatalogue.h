@@ -5,6 +5,7 @@
 
 #include <QFileInfo>
 #include <QHash>
+#include <QMap>
 
 #include <deque>
 
@@ -38,5 +39,6 @@ private:
 
     std::deque<PxProductTypeEntry> m_entries; // never moves an entry
     QHash<int, const PxProductTypeEntry *> m_byCode;
-    QHash<QString, const PxProductTypeEntry *> m_byName; // as written, and case-folded
+    // As written, and case-folded. Sorted: names of a file may share one hash.
+    QMap<QString, const PxProductTypeEntry *> m_byName;
 };
