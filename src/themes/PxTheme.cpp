@@ -79,7 +79,7 @@ bool PxTheme::operator==(const PxTheme &other) const
 
 uint qHash(const PxTheme &theme, uint seed)
 {
-    return qHash(theme.id(), seed);
+    return qHash(theme.id(), seed) ^ qHash(theme.expiryDate(), seed);
 }
 
 QDebug operator<<(QDebug debug, const PxTheme &theme)

@@ -78,6 +78,11 @@ public:
     /** Compares all but the allowed product types. */
     bool operator==(const PxTheme &other) const;
     bool operator!=(const PxTheme &other) const { return !(*this == other); }
+    /**
+     * The key of a sorted table in which many themes are looked for: themes that are equal have the
+     * same, and themes that only differ in pictures. The text means nothing else.
+     */
+    QString sortingKey() const { return d->sortingKey(); }
 
 private:
     static const PxTheme &ourVoidTheme;
@@ -88,6 +93,6 @@ private:
 Q_DECLARE_TYPEINFO(PxTheme, Q_MOVABLE_TYPE);
 Q_DECLARE_METATYPE(PxTheme)
 
-/** By id: themes that compare equal share it. */
+/** By id and expiry date, which equal themes share. */
 PXPRODUCTPROPERTIES_EXPORT uint qHash(const PxTheme &theme, uint seed = 0);
 PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug, const PxTheme &theme);

@@ -1,5 +1,7 @@
 #include "themes/PxThemeConfig.h"
 
+#include <algorithm>
+
 PxThemeConfig::PxThemeConfig()
     : m_id(QStringLiteral("unbekannt"))
     , m_description(QStringLiteral("unbekannt"))
@@ -44,4 +46,24 @@ bool PxThemeConfig::operator==(const PxThemeConfig &other) const
            m_useSpineLogo == other.m_useSpineLogo && m_canMoveContent == other.m_canMoveContent &&
            m_canUseNormalBackgrounds == other.m_canUseNormalBackgrounds &&
            m_defaultCategories == other.m_defaultCategories;
+}
+
+QString PxThemeConfig::sortingKey() const
+{
+    QStringList parts{m_id, m_description};
+    const auto append = [&parts](qint64 number) { parts.append(QString::number(number)); };
+    append(m_expiryDate.toMSecsSinceEpoch());
+    append(m_productGroup.value());
+    for (bool flag : {m_useSpineText, m_useSpineLogo, m_canMoveContent, m_canUseNormalBackgrounds})
+        append(flag);
+    std::for_each(m_keyAccounts.begin(), m_keyAccounts.end(), append);
+    for (auto logo = m_logos.begin(); logo != m_logos.end(); ++logo) {
+        const QRect &place = logo->second;
+        for (int number : {int(logo.key()), place.x(), place.y(), place.width(), place.height()})
+            append(number);
+    }
+    for (PxJigTypeEnum jigType : {PxJigTypeBackground, PxJigTypeClipart, PxJigTypeContent,
+                                  PxJigTypeLayout, PxJigTypePassepartout, PxJigTypeFrame})
+        parts.append(defaultCategory(jigType).name().toCaseFolded()); // compared in any case
+    return parts.join(QLatin1Char(','));
 }

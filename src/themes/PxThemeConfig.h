@@ -55,6 +55,7 @@ public:
 
     /** Compares all but the allowed product types. */
     bool operator==(const PxThemeConfig &other) const;
+    QString sortingKey() const;
 
 private:
     QString m_id;

@@ -104,6 +104,17 @@ private:
     QVarLengthArray<QPair<QString, QDomElement>, 16> m_children; // more than a theme has
 };
 
+/** Without an expiry date a theme has always been expired: it is offered to nobody. */
+QDateTime readExpiry(const QDomElement &theme)
+{
+    const QString name = QStringLiteral("expiry");
+    const auto read = [&name](const QDomElement &element) {
+        return PxXMLParser::dateTimeAttribute(element, name, QStringLiteral("197612302359"));
+    };
+    static const auto &ourDefault = *new QDateTime(read(QDomElement())); // it takes its time
+    return theme.hasAttribute(name) ? read(theme) : ourDefault;
+}
+
 PxTheme readTheme(const QDomElement &theme, PxThemeImages &images)
 {
     const QString id =
@@ -111,9 +122,7 @@ PxTheme readTheme(const QDomElement &theme, PxThemeImages &images)
             .toLower();
     const PxProductGroup productGroup(
         PxXMLParser::attribute(theme, QStringLiteral("producttype"), QString(), true));
-    // Without an expiry date a theme has always been expired: it is offered to nobody.
-    const QDateTime expiry = PxXMLParser::dateTimeAttribute(theme, QStringLiteral("expiry"),
-                                                            QStringLiteral("197612302359"));
+    const QDateTime expiry = readExpiry(theme);
     const QImage thumbnail = images.image(
         PxXMLParser::attribute(theme, QStringLiteral("thumbnail"), QString(), true).toLower());
 

@@ -19,6 +19,10 @@ public:
     PxThemeFactory() = default;
     Q_DISABLE_COPY(PxThemeFactory)
 
+    /**
+     * The themes of the themes directory. Created on first use, from any thread; not to be asked for
+     * by a message handler while it loads, as PxProductTypeConfigRegistry::instance() says.
+     */
     static PxThemeFactory *instance();
 
     /** All themes, in the order in which they were read. */

@@ -2,7 +2,7 @@
 
 #include "themes/PxThemeFactory.h"
 
-#include <QSet>
+#include <QMap>
 
 #include <algorithm>
 #include <iterator>
@@ -90,11 +90,16 @@ QStringList PxThemeList::descriptionList() const
 
 void PxThemeList::appendUnique(const PxThemeList &other)
 {
-    QSet<PxTheme> known(begin(), end());
+    // Sorted, and by nearly all that makes themes differ: ids of a file may all be one or share one
+    // hash.
+    QMap<QString, QList<PxTheme>> known;
+    for (const PxTheme &theme : qAsConst(*this))
+        known[theme.sortingKey()].append(theme);
     for (const PxTheme &theme : other) {
-        if (known.contains(theme))
+        QList<PxTheme> &alike = known[theme.sortingKey()];
+        if (alike.contains(theme))
             continue;
-        known.insert(theme);
+        alike.append(theme);
         append(theme);
     }
 }

@@ -99,6 +99,9 @@ void PxThemeTest::listFindsFiltersAndOrders()
     list.appendUnique(PxThemeList({createTheme("b", past), createTheme("albfreetheme")}));
     list.normalize();
     QCOMPARE(list.asCommaSeparatedIDList(), QString("albfreetheme,design,normal,a,b,a"));
+    const PxThemeList same = list;
+    list.appendUnique(same);
+    QCOMPARE(list.size(), same.size());
     QCOMPARE(list.descriptionList().constLast(), QString("text of a"));
     PxThemeList invalid({createTheme("a"), PxTheme("normal", {}, {}, {}, {}, {}, {}, false, false,
                                                    false, {}, false, {})});
