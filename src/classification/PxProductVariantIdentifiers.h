@@ -21,7 +21,8 @@ class PXPRODUCTPROPERTIES_EXPORT PxProductVariantIdentifiers : public QObject
 public:
     /**
      * Created on first use, from any thread; never destroyed. As a QObject it belongs to the thread
-     * that asks first: let that be the one of the user interface.
+     * that asks first: let that be the one of the user interface. Not to be asked for by a message
+     * handler while it loads, as PxProductTypeConfigRegistry::instance() says.
      */
     static PxProductVariantIdentifiers *instance();
 

@@ -30,8 +30,13 @@ public:
     /** Frees no description: those handed out stay usable until the process ends. */
     ~PxProductTypeConfigRegistry() override;
 
-    /** The current products, of the resource directory "products". Created on first use, from any
-     * thread. */
+    /**
+     * The current products, of the resource directory "products". Created on first use, from any
+     * thread.
+     *
+     * A message handler must not ask for it while it loads: it would wait for itself for ever. A
+     * debug build of the library ends the program with a message instead.
+     */
     static PxProductTypeConfigRegistry *instance();
     /** The same for the products of earlier catalogues, of "products/legacy". */
     static PxProductTypeConfigRegistry *legacyInstance();

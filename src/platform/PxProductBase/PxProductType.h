@@ -15,7 +15,8 @@ struct PxProductTypeEntry;
 /**
  * One kind of product that can be ordered: the key of every question about products.
  *
- * A small value: its texts are in the catalogue, copies share them.
+ * A small value: its texts are in the catalogue, copies share them. The catalogue is read when the
+ * first type is made, from any thread; a message handler must not make one while that logs.
  */
 class PXPRODUCTBASE_EXPORT PxProductType
 {
