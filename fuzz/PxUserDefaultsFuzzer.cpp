@@ -1,16 +1,24 @@
 #include "PxFuzzedDirectory.h"
 
-#include <PxAskEverything.h>
-
 #include <description/PxProductTypeDescription.h>
 
 #include <QDomDocument>
 
+// Of the product only the templates depend on the file.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     PxFuzzedDirectory::withFile("CUP2.xml").write(data, size);
     QDomDocument product;
     product.setContent(QByteArrayLiteral("<product name='CUP2'/>"));
-    pxAskEverything(PxProductTypeDescription(product.documentElement()));
+    const PxProductTypeDescription description(product.documentElement());
+    for (const char *theme : {"normal", "hochzeit", ""}) {
+        for (const PxPageTypeEnum pageType :
+             {PxPageTypeNone, PxPageTypeNormalPage, PxPageTypeAll}) {
+            const PxPageContext page(pageType, PxPageAlignmentLeft);
+            for (const DefaultTemplateType type :
+                 {DefaultTemplateTypeLayout, DefaultTemplateTypeBackground})
+                description.findDefaultTemplate({QLatin1String(theme), page, type}, true, true);
+        }
+    }
     return 0;
 }

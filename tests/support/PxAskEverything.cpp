@@ -47,7 +47,7 @@ void askAboutTheKind(const PxProductTypeDescription &description, const PxPageCo
 
 } // namespace
 
-QString pxAskEverything(const PxProductTypeDescription &description)
+QString pxAskEverything(const PxProductTypeDescription &description, int longestList)
 {
     QString text; // to print the answers looks into all of them
     QDebug answers(&text);
@@ -80,7 +80,7 @@ QString pxAskEverything(const PxProductTypeDescription &description)
         for (const int page : {smallest, -1, 0, 1, 26, largest})
             askAboutThePage(description, page, pageCount, answers);
     }
-    for (const int pageCount : {smallest, -1, 0, 1, 26, largest})
+    for (const int pageCount : {smallest, -1, 0, 1, 26, longestList})
         answers << description.pageTypes(pageCount).size()
                 << description.productionNumberingList(pageCount).size();
     return text;
