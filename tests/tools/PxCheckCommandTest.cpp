@@ -124,7 +124,7 @@ void PxCheckCommandTest::tellsTheSameInEveryFormat()
     addFindings();
     const PxProgramRun text = check(".");
     const QStringList expected{"./products/cup2.xml:30:5 warning allowance-unused",
-                               "./products/cup3.xml.b\uFFFD:1:1 info file-not-read",
+                               "./products/cup3.xml.b\\u009B:1:1 info file-not-read",
                                "./products/pendant.xml:4:10 error xml-attribute-twice"};
     QCOMPARE(findingsOf(text), expected);
     QVERIFY(text.output().contains("    now: the file is not read at all"));
@@ -133,7 +133,7 @@ void PxCheckCommandTest::tellsTheSameInEveryFormat()
     QCOMPARE(text.errors(), QStringList());
 
     const PxProgramRun json = check("--format json .");
-    QCOMPARE(findingsOf(json.json()).replaceInStrings("\u009B", "\uFFFD"), expected);
+    QCOMPARE(findingsOf(json.json()).replaceInStrings("\u009B", "\\u009B"), expected);
     QVERIFY(!json.text().contains(QChar(0x9B)));
     QCOMPARE(json.json()["counts"]["warning"].toInt(), 1);
     QCOMPARE(json.json()["files"].toInt(), text.output().constLast().section(' ', 0, 0).toInt());
@@ -142,7 +142,7 @@ void PxCheckCommandTest::tellsTheSameInEveryFormat()
     QCOMPARE(twice["hint"].toString(), QString("keep the one that is meant"));
 
     const PxProgramRun sarif = check("--format sarif .");
-    QCOMPARE(findingsOfSarif(sarif.json()).replaceInStrings("%C2%9B", "\uFFFD"), expected);
+    QCOMPARE(findingsOfSarif(sarif.json()).replaceInStrings("%C2%9B", "\\u009B"), expected);
     QCOMPARE(QVector<int>({text.status(), json.status(), sarif.status()}), QVector<int>(3, 1));
 }
 
@@ -428,7 +428,7 @@ void PxCheckCommandTest::checksWhatItIsToldTo()
              (QStringList{"./designs/lost.xml~:1:1 info file-not-read",
                           "./designs/old.xml:1:1 info file-not-read",
                           m_sample->path() + "/products/.hidden.xml:1:1 info file-not-read",
-                          m_sample->path() + "/products/cup3.xml.b\uFFFD:1:1 info file-not-read",
+                          m_sample->path() + "/products/cup3.xml.b\\u009B:1:1 info file-not-read",
                           m_sample->path() + "/products/link.xml:1:1 info file-not-read",
                           m_sample->path() + "/products/pipe.xml:1:1 info file-not-read"}));
     QCOMPARE(check("products/pipe.xml").status(), 2);

@@ -8,8 +8,9 @@
 #include "PxProductReport.h"
 #include "PxProductTable.h"
 #include "PxReport.h"
-#include "PxTerminal.h"
 #include "PxThemeTable.h"
+#include "writing/PxOutputText.h"
+#include "writing/PxTerminal.h"
 
 #include <PxProductProperties.h>
 
@@ -22,11 +23,6 @@ namespace {
 constexpr int done = 0;
 constexpr int answerIsNo = 1;
 constexpr int cannotRun = 2;
-
-int write(const QByteArray &output)
-{
-    return PxTerminal::write(output) ? done : cannotRun;
-}
 
 PxCatalogueLog::Shown shownLog(const PxCatalogueCommandLine &commandLine)
 {
@@ -72,7 +68,7 @@ int PxCatalogue::run() const
         return cannotRun;
     }
     if (!m_commandLine.information().isEmpty())
-        return write(m_commandLine.information().toUtf8());
+        return PxTerminal::write(PxOutputText(m_commandLine.information())) ? done : cannotRun;
 
     PxCatalogueLog::install(shownLog(m_commandLine));
     if (m_commandLine.command() == PxCatalogueCommandLine::Command::Check) {
@@ -206,8 +202,10 @@ int PxCatalogue::showVariants() const
 
 int PxCatalogue::print(const PxReport &report) const
 {
-    return write(m_commandLine.isJson() ? report.json()
-                                        : report.text(PxTerminal::columns()).toUtf8());
+    const bool isWritten = m_commandLine.isJson()
+                               ? PxTerminal::write(report.json())
+                               : PxTerminal::write(report.text(PxTerminal::columns()));
+    return isWritten ? done : cannotRun;
 }
 
 int PxCatalogue::print(const PxReport &report, bool isEmpty, const QString &reason) const

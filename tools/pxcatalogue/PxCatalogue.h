@@ -12,7 +12,8 @@ public:
     explicit PxCatalogue(const QStringList &arguments);
 
     /**
-     * 0 when done, 1 when the answer is "no", 2 for wrong usage or an unreadable directory; for
+     * 0 when done, 1 when the answer is "no", 2 for wrong usage, an unreadable directory or
+     * output that cannot be written; for
      * "check" see PxCheckCommand.
      */
     int run() const;

@@ -95,7 +95,8 @@ constexpr const char *introduction =
 constexpr const char *exitStatus =
     "\nExit status: 0 done; 1 the answer is \"no\": there is no such product or\n"
     "theme, no other product that is interchangeable, no theme to order, or no variant;\n"
-    "2 wrong usage, or a directory or a producttypes.xml that cannot be read.\n"
+    "2 wrong usage, a directory or a producttypes.xml that cannot be read, or output that\n"
+    "cannot be written.\n"
     "\"check --help\" tells that of check.";
 
 QString programDescription()
@@ -249,10 +250,8 @@ int PxCatalogueCommandLine::readNumber(const QString &option, int minimum, int m
     const int number = m_parser.value(option).toInt(&isNumber);
     if (!isNumber || number < minimum || number > maximum)
         setError(QStringLiteral("--%1 needs a number from %2 to %3, not \"%4\"")
-                     .arg(option)
-                     .arg(minimum)
-                     .arg(maximum)
-                     .arg(m_parser.value(option)));
+                     .arg(option, QString::number(minimum), QString::number(maximum),
+                          m_parser.value(option)));
     return number;
 }
 

@@ -1,6 +1,6 @@
 #include "PxCatalogueLog.h"
 
-#include "PxTerminal.h"
+#include "writing/PxTerminal.h"
 
 #include <QString>
 

@@ -8,8 +8,9 @@
 #include "PxFindingsJson.h"
 #include "PxFindingsSarif.h"
 #include "PxFindingsText.h"
-#include "PxTerminal.h"
 #include "check/PxCheck.h"
+#include "writing/PxOutputText.h"
+#include "writing/PxTerminal.h"
 
 #include <exception>
 
@@ -55,7 +56,7 @@ int PxCheckCommand::explain() const
         text = PxCheckExplanation::of(*m_options.explainedTag());
     else if (m_options.format() == PxCheckOptions::Format::Markdown)
         text = PxCheckExplanation::markdown();
-    return PxTerminal::write(text.toUtf8()) ? nothingFound : cannotRun;
+    return PxTerminal::write(PxOutputText(text)) ? nothingFound : cannotRun;
 }
 
 int PxCheckCommand::runChecks()
@@ -95,18 +96,17 @@ QString PxCheckCommand::check()
 
 int PxCheckCommand::print() const
 {
-    QByteArray output;
-    if (m_options.format() == PxCheckOptions::Format::Json) {
-        output = PxTerminal::printable(PxFindingsJson(m_report).json());
-    } else if (m_options.format() == PxCheckOptions::Format::Sarif) {
-        output = PxTerminal::printable(PxFindingsSarif(m_report).json());
-    } else {
-        const PxFindingsText text(m_report, PxTerminal::hasColours());
-        output = text.findings().toUtf8();
-        if (!m_options.isQuiet())
-            output += text.summary().toUtf8();
-    }
-    if (!PxTerminal::write(output))
+    if (!write())
         return cannotRun;
     return m_report.hasAtLeast(m_options.failOn()) ? somethingFound : nothingFound;
+}
+
+bool PxCheckCommand::write() const
+{
+    if (m_options.format() == PxCheckOptions::Format::Json)
+        return PxTerminal::write(PxFindingsJson(m_report).json());
+    if (m_options.format() == PxCheckOptions::Format::Sarif)
+        return PxTerminal::write(PxFindingsSarif(m_report).json());
+    return PxTerminal::write(
+        PxFindingsText(m_report, PxTerminal::hasColours()).text(m_options.isQuiet()));
 }

@@ -23,6 +23,7 @@ private:
     QString check();
     int explain() const;
     int print() const;
+    bool write() const;
 
     const PxCatalogueCommandLine &m_commandLine;
     const PxCheckOptions m_options;

@@ -1,8 +1,8 @@
 #include "PxCheckExplanation.h"
 
-#include "PxTerminal.h"
 #include "PxTextTable.h"
 #include "check/PxCheckTags.h"
+#include "writing/PxTerminal.h"
 
 #include <QStringList>
 

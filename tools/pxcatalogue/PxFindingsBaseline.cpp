@@ -1,9 +1,11 @@
 #include "PxFindingsBaseline.h"
 
+#include "writing/PxOutputFile.h"
+#include "writing/PxVisibleText.h"
+
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 namespace {
 
@@ -63,12 +65,11 @@ QString PxFindingsBaseline::write(const QString &path) const
                                     {QStringLiteral("count"), *it}});
     const QJsonObject json{{QStringLiteral("format"), formatVersion},
                            {QStringLiteral("findings"), findings}};
-    QSaveFile file(path); // a known catalogue shall not lose its baseline when the disk is full
-    if (file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(json).toJson()) > 0 &&
-        file.commit())
-        return QString();
-    return QStringLiteral("the baseline \"%1\" cannot be written: %2")
-        .arg(path, file.errorString());
+    const QString problem =
+        PxOutputFile::write(path, PxVisibleText::json(QJsonDocument(json).toJson()).toUtf8());
+    return problem.isEmpty()
+               ? QString()
+               : QStringLiteral("the baseline \"%1\" cannot be written: %2").arg(path, problem);
 }
 
 void PxFindingsBaseline::hide(PxCheckReport *report) const

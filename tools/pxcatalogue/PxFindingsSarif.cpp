@@ -89,7 +89,8 @@ QJsonObject PxFindingsSarif::json() const
             PxFindingIdentity(finding, m_report.catalogueNames).text().toUtf8();
         const QString hash = QString::fromLatin1(
             QCryptographicHash::hash(identity, QCryptographicHash::Sha256).toHex().left(32));
-        results.append(result(finding, QStringLiteral("%1:%2").arg(hash).arg(++occurrences[hash])));
+        results.append(result(
+            finding, QStringLiteral("%1:%2").arg(hash, QString::number(++occurrences[hash]))));
     }
     QJsonArray notes;
     for (auto it = m_report.tagsNotChecked.begin(); it != m_report.tagsNotChecked.end(); ++it)

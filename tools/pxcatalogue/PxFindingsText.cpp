@@ -1,6 +1,5 @@
 #include "PxFindingsText.h"
 
-#include "PxTerminal.h"
 #include "check/PxCheckTags.h"
 
 namespace {
@@ -17,52 +16,53 @@ constexpr struct
     {PxSeverity::Info, "\x1b[1;36m", "info", "infos"},
     {PxSeverity::Pedantic, "\x1b[1;34m", "pedantic", "pedantic"},
 };
-constexpr const char *noColour = "\x1b[0m";
 
 QString counted(int count, const char *one, const char *many)
 {
-    return QStringLiteral("%1 %2").arg(count).arg(QLatin1String(count == 1 ? one : many));
+    return QStringLiteral("%1 %2").arg(QString::number(count),
+                                       QLatin1String(count == 1 ? one : many));
 }
 
 } // namespace
 
-QString PxFindingsText::findings() const
+PxOutputText PxFindingsText::text(bool isQuiet) const
 {
-    QString text;
-    for (const PxFinding &each : m_report.findings)
-        text += finding(each);
+    PxOutputText text;
+    for (const PxFinding &finding : m_report.findings)
+        addFinding(&text, finding);
+    if (!isQuiet)
+        addSummary(&text);
     return text;
 }
 
-QString PxFindingsText::finding(const PxFinding &finding) const
+void PxFindingsText::addFinding(PxOutputText *text, const PxFinding &finding) const
 {
-    QString severity = QLatin1String(PxCheckTags::severityName(finding.severity));
+    const char *colour = nullptr;
     for (const auto &row : severities) {
         if (m_isColoured && row.severity == finding.severity)
-            severity = QLatin1String(row.colour) + severity + QLatin1String(noColour);
+            colour = row.colour;
     }
-    // One by one: what a file says may look like the place of the next argument.
-    QString text = PxTerminal::printable(finding.place.path) +
-                   QStringLiteral(":%1:%2: ").arg(finding.place.line).arg(finding.place.column) +
-                   severity + QLatin1String(": ") + PxTerminal::printable(finding.message) +
-                   QLatin1String(" [") + QLatin1String(finding.tag->name) + QLatin1String("]\n");
+    const QString place = QStringLiteral("%1:%2:%3: ")
+                              .arg(finding.place.path, QString::number(finding.place.line),
+                                   QString::number(finding.place.column));
+    text->addLine(
+        {{place},
+         {QLatin1String(PxCheckTags::severityName(finding.severity)), colour},
+         {QStringLiteral(": %1 [%2]").arg(finding.message, QLatin1String(finding.tag->name))}});
     if (!finding.now.isEmpty())
-        text += QLatin1String("    now: ") + PxTerminal::printable(finding.now) + QLatin1Char('\n');
+        text->addLine(QLatin1String("    now: ") + finding.now);
     if (!finding.hint.isEmpty())
-        text +=
-            QLatin1String("    hint: ") + PxTerminal::printable(finding.hint) + QLatin1Char('\n');
-    return text;
+        text->addLine(QLatin1String("    hint: ") + finding.hint);
 }
 
-QString PxFindingsText::summary() const
+void PxFindingsText::addSummary(PxOutputText *text) const
 {
-    QString text;
     QMap<QString, QStringList> notChecked; // by what is not there
     for (auto it = m_report.tagsNotChecked.begin(); it != m_report.tagsNotChecked.end(); ++it)
         notChecked[it.value()].append(it.key());
     for (auto it = notChecked.begin(); it != notChecked.end(); ++it)
-        text += QLatin1String("not checked ") + it.key() + QLatin1String(": ") +
-                it->join(QLatin1String(", ")) + QLatin1Char('\n');
+        text->addLine(
+            QStringLiteral("not checked %1: %2").arg(it.key(), it->join(QLatin1String(", "))));
     QStringList counts;
     for (const auto &row : severities) {
         const int count = m_report.count(row.severity);
@@ -73,6 +73,7 @@ QString PxFindingsText::summary() const
         counts.append(QStringLiteral("nothing found"));
     if (m_report.knownCount > 0)
         counts.append(QStringLiteral("%1 known").arg(m_report.knownCount));
-    return text + counted(m_report.fileCount, "file", "files") + QLatin1String(" read: ") +
-           counts.join(QLatin1String(", ")) + QLatin1Char('\n');
+    text->addLine(
+        QStringLiteral("%1 read: %2")
+            .arg(counted(m_report.fileCount, "file", "files"), counts.join(QLatin1String(", "))));
 }

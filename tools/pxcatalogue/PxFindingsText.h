@@ -1,6 +1,7 @@
 #pragma once
 
 #include "check/PxCheckReport.h"
+#include "writing/PxOutputText.h"
 
 /** Findings for people: a line for each, with what the library does and a hint below it. */
 class PxFindingsText
@@ -11,12 +12,15 @@ public:
         , m_isColoured(isColoured)
     {}
 
-    QString findings() const;
-    /** What was not checked, and the numbers, which are the last line. */
-    QString summary() const;
+    /**
+     * Below the findings what was not checked, and the numbers, which are the last line; when it is
+     * quiet only the findings.
+     */
+    PxOutputText text(bool isQuiet) const;
 
 private:
-    QString finding(const PxFinding &finding) const;
+    void addFinding(PxOutputText *text, const PxFinding &finding) const;
+    void addSummary(PxOutputText *text) const;
 
     const PxCheckReport &m_report;
     bool m_isColoured;

@@ -1,8 +1,6 @@
 #include "PxReport.h"
 
-#include "PxTerminal.h"
-
-#include <QJsonDocument>
+#include "writing/PxTerminal.h"
 
 namespace {
 
@@ -68,28 +66,29 @@ void PxReport::addTable(const char *key, const char *heading, const QVector<Colu
     m_sections.append({QString::fromUtf8(heading), table});
 }
 
-QByteArray PxReport::json() const
+QJsonObject PxReport::json() const
 {
     QJsonObject json = m_json;
     json.insert(QStringLiteral("format"), formatVersion);
     json.insert(QStringLiteral("lengthUnit"), QStringLiteral("tenths of a millimetre"));
-    return QJsonDocument(json).toJson();
+    return json;
 }
 
-QString PxReport::text(int width) const
+PxOutputText PxReport::text(int width) const
 {
-    QStringList lines;
+    PxOutputText text;
+    bool isFirst = true;
     for (const Section &section : m_sections) {
         if (section.table.isEmpty())
             continue;
         const QString indent = section.heading.isEmpty() ? QString() : QStringLiteral("  ");
-        if (!lines.isEmpty())
-            lines.append(QString());
+        if (!isFirst)
+            text.addLine(QString());
+        isFirst = false;
         if (!section.heading.isEmpty())
-            lines.append(PxTerminal::shortened(section.heading, width));
+            text.addLine(PxTerminal::shortened(section.heading, width));
         for (const QString &line : section.table.lines(width - indent.size()))
-            lines.append(PxTerminal::shortened(indent + line, width));
+            text.addLine(PxTerminal::shortened(indent + line, width));
     }
-    lines.append(QString());
-    return lines.join(QLatin1Char('\n'));
+    return text;
 }

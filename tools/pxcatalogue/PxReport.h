@@ -2,6 +2,7 @@
 
 #include "PxReportValue.h"
 #include "PxTextTable.h"
+#include "writing/PxOutputText.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -35,8 +36,8 @@ public:
     void addTable(const char *key, const char *heading, const QVector<Column> &columns,
                   const QVector<QJsonArray> &rows);
 
-    QByteArray json() const;
-    QString text(int width) const;
+    QJsonObject json() const;
+    PxOutputText text(int width) const;
 
 private:
     struct Section

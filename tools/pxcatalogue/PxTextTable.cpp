@@ -1,6 +1,7 @@
 #include "PxTextTable.h"
 
-#include "PxTerminal.h"
+#include "writing/PxTerminal.h"
+#include "writing/PxVisibleText.h"
 
 #include <algorithm>
 #include <numeric>
@@ -9,6 +10,9 @@ namespace {
 
 constexpr int gap = 2;
 constexpr int legible = 3; // what a shortened text has at least
+
+/** No text is longer, whatever its column: it would be repeated as blanks in each other row. */
+constexpr int maximumWidth = 200;
 
 } // namespace
 
@@ -22,7 +26,8 @@ void PxTextTable::addRow(const QStringList &texts)
 {
     QStringList row;
     for (const QString &text : texts)
-        row.append(PxTerminal::printable(text));
+        row.append(PxTerminal::shortened(
+            PxVisibleText::line(PxTerminal::shortened(text, maximumWidth)), maximumWidth));
     m_rows.append(row);
 }
 

@@ -6,13 +6,13 @@
 /**
  * Lines of aligned columns that fit a width: texts are shortened, never wrapped.
  *
- * Where that is not enough, the lines lose their ends.
+ * Where that is not enough, the lines lose their ends. A text without end is shortened in any case.
  */
 class PxTextTable
 {
 public:
     enum class Kind {
-        Key,    // never shortened: it is copied from the table, or too short to lose anything
+        Key,    // not shortened to fit: it is copied from the table, or too short to lose anything
         Text,   // shortened as far as it must be
         Number, // aligned to the right, never shortened: it would be another number
     };

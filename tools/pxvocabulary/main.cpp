@@ -2,24 +2,42 @@
 #include "PxFormatTables.h"
 #include "PxSchemaWriter.h"
 
+#include "writing/PxOutputText.h"
+#include "writing/PxTerminal.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
 #include <QFile>
-#include <QTextStream>
 
 namespace {
 
-constexpr int exitWrongInput = 2;
+constexpr int done = 0;
+constexpr int cannotRun = 2;
 
 constexpr char usage[] =
-    "pxvocabulary xsd product|theme   prints the XML schema of product or theme files\n"
-    "pxvocabulary tables FILE         prints FILE with its tables as the vocabulary has them\n";
+    "use \"xsd product\" or \"xsd theme\" for the XML schema of such files, or \"tables FILE\" for "
+    "FILE with its tables as the vocabulary has them";
 
 int fail(const QString &message)
 {
-    QTextStream(stderr) << message << '\n';
-    return exitWrongInput;
+    PxTerminal::printError(message);
+    return cannotRun;
 }
 
-int printTables(const QString &path, QFile *output)
+int print(const QByteArray &text)
+{
+    return PxTerminal::write(PxOutputText(QString::fromUtf8(text))) ? done : cannotRun;
+}
+
+int printSchema(PxFileKind kind)
+{
+    QBuffer schema;
+    schema.open(QIODevice::WriteOnly);
+    PxSchemaWriter(&schema).write(kind);
+    return print(schema.data());
+}
+
+int printTables(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -27,27 +45,22 @@ int printTables(const QString &path, QFile *output)
     const PxFormatTables tables(QString::fromUtf8(file.readAll()));
     if (!tables.problems().isEmpty())
         return fail(path + QStringLiteral(": ") + tables.problems().join(QStringLiteral(", ")));
-    output->write(tables.document().toUtf8());
-    return 0;
+    return print(tables.document().toUtf8());
 }
 
 } // namespace
 
 int main(int argc, char *argv[])
 {
+    QCoreApplication::setApplicationName(QStringLiteral("pxvocabulary"));
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments.append(QFile::decodeName(argv[i]));
-    QFile output;
-    if (!output.open(stdout, QIODevice::WriteOnly))
-        return fail(output.errorString());
     if (arguments == QStringList{QStringLiteral("xsd"), QStringLiteral("product")})
-        PxSchemaWriter(&output).write(PxFileKind::Product);
-    else if (arguments == QStringList{QStringLiteral("xsd"), QStringLiteral("theme")})
-        PxSchemaWriter(&output).write(PxFileKind::Theme);
-    else if (arguments.size() == 2 && arguments.first() == QLatin1String("tables"))
-        return printTables(arguments.last(), &output);
-    else
-        return fail(QString::fromUtf8(usage));
-    return 0;
+        return printSchema(PxFileKind::Product);
+    if (arguments == QStringList{QStringLiteral("xsd"), QStringLiteral("theme")})
+        return printSchema(PxFileKind::Theme);
+    if (arguments.size() == 2 && arguments.first() == QLatin1String("tables"))
+        return printTables(arguments.last());
+    return fail(QString::fromUtf8(usage));
 }

@@ -111,8 +111,8 @@ void PxCheckedFile::addFault(PxFindings *findings, const QString &now) const
         const PxSourceFault::Element *unclosed = fault.unclosed();
         add(findings, "xml-not-well-formed", range, fault.message(), now,
             unclosed ? QStringLiteral("\"%1\" of line %2 is not closed")
-                           .arg(unclosed->name)
-                           .arg(m_source->place(unclosed->nameRange).line)
+                           .arg(unclosed->name,
+                                QString::number(m_source->place(unclosed->nameRange).line))
                      : fault.hint());
     }
 }

@@ -7,8 +7,9 @@ QString PxMessageText::line(const PxCheckedFile &file, const PxSourceRange &rang
 
 QString PxMessageText::place(const PxPlace &other, const QString &path)
 {
-    return other.path == path ? QStringLiteral("line %1").arg(other.line)
-                              : QStringLiteral("%1:%2").arg(other.path).arg(other.line);
+    return other.path == path
+               ? QStringLiteral("line %1").arg(other.line)
+               : QStringLiteral("%1:%2").arg(other.path, QString::number(other.line));
 }
 
 QString PxMessageText::quoted(const QString &name)
@@ -44,5 +45,8 @@ QString PxMessageText::quotedList(const QStringList &names, const QString &last)
 QString PxMessageText::shortened(const QString &value)
 {
     constexpr int maximum = 60;
-    return value.size() <= maximum ? value : value.left(maximum) + QStringLiteral("…");
+    if (value.size() <= maximum)
+        return value;
+    const bool isInPair = value[maximum - 1].isHighSurrogate();
+    return value.left(isInPair ? maximum - 1 : maximum) + QStringLiteral("…");
 }

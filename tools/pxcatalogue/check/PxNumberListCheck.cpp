@@ -131,8 +131,7 @@ void PxNumberListCheck::checkExtraPage(const PxSourceElement &item, PxFindings *
     const int count = group.targetPages().size();
     m_product.add(findings, "extra-page-incomplete", missing.range, message,
                   QStringLiteral("production gets the file \"%1\" for %2 target %3")
-                      .arg(group.content().filename())
-                      .arg(count)
-                      .arg(count == 1 ? QLatin1String("page") : QLatin1String("pages")),
+                      .arg(group.content().filename(), QString::number(count),
+                           count == 1 ? QLatin1String("page") : QLatin1String("pages")),
                   missing.hint);
 }

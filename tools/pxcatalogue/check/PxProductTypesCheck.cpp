@@ -67,7 +67,8 @@ void PxProductTypesCheck::checkRow(const PxSourceElement &row, PxFindings *findi
         drop(row, "name", QStringLiteral("the product type has no \"name\""), findings);
     } else if (m_rowOfCode.contains(code)) {
         drop(row, "code",
-             QStringLiteral("%1 the code %2, too").arg(earlier(m_rowOfCode.value(code))).arg(code),
+             QStringLiteral("%1 the code %2, too")
+                 .arg(earlier(m_rowOfCode.value(code)), QString::number(code)),
              findings);
     } else if (m_rowOfName.contains(key)) {
         drop(row, "name",

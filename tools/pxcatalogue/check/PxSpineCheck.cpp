@@ -91,10 +91,9 @@ void PxSpineCheck::addTwice(const PxSourceElement &spine, int pageCount, PxFindi
     const PxSourceElement &earlier = *m_spines.value(pageCount);
     m_product.add(findings, "spine-pages-twice", spine.rangeOf(pagesName),
                   QStringLiteral("a second spine for %1 pages, %2 wide; the one in %3 is %4")
-                      .arg(pageCount)
-                      .arg(widthOf(spine))
-                      .arg(PxMessageText::line(m_product.file(), earlier.rangeOf(pagesName)))
-                      .arg(widthOf(earlier)),
+                      .arg(QString::number(pageCount), QString::number(widthOf(spine)),
+                           PxMessageText::line(m_product.file(), earlier.rangeOf(pagesName)),
+                           QString::number(widthOf(earlier))),
                   QStringLiteral("the later one is used, as a spine of %1")
                       .arg(m_product.description().spineWidth(pageCount)),
                   QStringLiteral("keep the one that is meant"));

@@ -200,8 +200,7 @@ void PxSurroundingCheck::reportUnfit(const Surrounding &surrounding, PxFindings 
     QString message = QStringLiteral("the product has no page of type \"%1\"").arg(value);
     if (isPinned)
         message = QStringLiteral("the product has no page %1: its pages are 0 to %2")
-                      .arg(value)
-                      .arg(m_pages.lastPage());
+                      .arg(value, QString::number(m_pages.lastPage()));
     else if (hasType)
         message = surrounding.element->attribute(attribute)
                       ? QStringLiteral("no page of these types lies at \"%1\"").arg(value)

@@ -1,20 +1,31 @@
-#include "PxTerminal.h"
+#include "writing/PxTerminal.h"
 
-#include <QFile>
+#include "writing/PxOutputFile.h"
+#include "writing/PxOutputText.h"
+#include "writing/PxVisibleText.h"
+
+#include <QCoreApplication>
 #include <QJsonDocument>
-
+#include <QJsonObject>
 #include <QStringList>
 
-#include <cstdio>
+#include <cerrno>
 
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-/** Neither a line break nor an escape sequence nor a change of direction may get through. */
-static bool isHarmless(QChar character)
+namespace {
+
+bool writeOutput(const QByteArray &output)
 {
-    return character.isPrint() || character.isSurrogate();
+    const int error = PxOutputFile::write(STDOUT_FILENO, output);
+    if (error != 0 && error != EPIPE)
+        PxTerminal::printError(QLatin1String("cannot write the output: ") +
+                               PxOutputFile::errorText(error));
+    return error == 0;
 }
+
+} // namespace
 
 int PxTerminal::columns()
 {
@@ -35,28 +46,6 @@ bool PxTerminal::hasColours()
            qgetenv("TERM") != "dumb";
 }
 
-QString PxTerminal::printable(const QString &text)
-{
-    QString printable = text;
-    for (QChar &character : printable) {
-        if (!isHarmless(character))
-            character = QChar::ReplacementCharacter;
-    }
-    return printable;
-}
-
-QByteArray PxTerminal::printable(const QJsonObject &json)
-{
-    QString printable;
-    for (const QChar character : QString::fromUtf8(QJsonDocument(json).toJson())) {
-        if (isHarmless(character) || character == QLatin1Char('\n'))
-            printable += character;
-        else
-            printable += QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QLatin1Char('0'));
-    }
-    return printable.toUtf8();
-}
-
 QString PxTerminal::shortened(const QString &text, int width)
 {
     if (text.size() <= width)
@@ -65,16 +54,6 @@ QString PxTerminal::shortened(const QString &text, int width)
     if (!start.isEmpty() && start.at(start.size() - 1).isHighSurrogate())
         start.chop(1);
     return start + QChar(0x2026);
-}
-
-bool PxTerminal::write(const QByteArray &output)
-{
-    QFile file;
-    if (file.open(stdout, QIODevice::WriteOnly) && file.write(output) == output.size() &&
-        file.flush())
-        return true;
-    printError(QStringLiteral("cannot write the output: ") + file.errorString());
-    return false;
 }
 
 QString PxTerminal::wrapped(const QString &text, int width)
@@ -92,8 +71,19 @@ QString PxTerminal::wrapped(const QString &text, int width)
     return lines;
 }
 
+bool PxTerminal::write(const PxOutputText &text)
+{
+    return writeOutput(text.toUtf8());
+}
+
+bool PxTerminal::write(const QJsonObject &json)
+{
+    return writeOutput(PxVisibleText::json(QJsonDocument(json).toJson()).toUtf8());
+}
+
 void PxTerminal::printError(const QString &message)
 {
-    const QByteArray line = "pxcatalogue: " + printable(message).toUtf8() + '\n';
-    fwrite(line.constData(), 1, size_t(line.size()), stderr);
+    PxOutputText line;
+    line.addLine(QCoreApplication::applicationName() + QLatin1String(": ") + message);
+    PxOutputFile::write(STDERR_FILENO, line.toUtf8()); // nobody is left to tell if that fails
 }

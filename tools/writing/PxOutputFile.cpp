@@ -1,0 +1,86 @@
+#include "writing/PxOutputFile.h"
+
+#include <QFile>
+#include <QSaveFile>
+
+#include <cerrno>
+#include <cstring>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+/** What happened, and what helps. */
+QString problem(int error)
+{
+    if (error == 0)
+        return QString();
+    const bool isFull = error == ENOSPC || error == EDQUOT || error == EFBIG;
+    return PxOutputFile::errorText(error) +
+           (isFull ? QLatin1String("; make room, or name another file")
+                   : QLatin1String("; name another file"));
+}
+
+QString replace(const QString &path, const QByteArray &contents)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return file.errorString() + QLatin1String("; name another file");
+    // Past the buffer of QSaveFile, which is written last and not checked, as its fsync() is not.
+    int error = PxOutputFile::write(file.handle(), contents);
+    if (error == 0 && fsync(file.handle()) != 0 && errno != EINVAL) // not every system has it
+        error = errno;
+    if (error != 0)
+        return problem(error);
+    return file.commit() ? QString() : file.errorString() + QLatin1String("; name another file");
+}
+
+QString writeInPlace(const QByteArray &name, const QByteArray &contents)
+{
+    const int descriptor = open(name.constData(), O_WRONLY | O_NOCTTY | O_CLOEXEC);
+    if (descriptor == -1)
+        return problem(errno);
+    const int error = PxOutputFile::write(descriptor, contents);
+    const int closingError = close(descriptor) == 0 ? 0 : errno;
+    return problem(error != 0 ? error : closingError);
+}
+
+} // namespace
+
+QString PxOutputFile::write(const QString &path, const QByteArray &contents)
+{
+    const QByteArray name = QFile::encodeName(path);
+    struct stat file = {};
+    if (stat(name.constData(), &file) != 0)
+        return replace(path, contents); // which says what is wrong, unless there is none
+    for (const int descriptor : {STDOUT_FILENO, STDERR_FILENO}) {
+        struct stat open = {};
+        if (fstat(descriptor, &open) == 0 && open.st_dev == file.st_dev &&
+            open.st_ino == file.st_ino)
+            return problem(write(descriptor, contents));
+    }
+    if (S_ISREG(file.st_mode))
+        return replace(path, contents);
+    if (S_ISFIFO(file.st_mode) || S_ISCHR(file.st_mode))
+        return writeInPlace(name, contents);
+    return QStringLiteral("it is no regular file; name another file");
+}
+
+int PxOutputFile::write(int descriptor, const QByteArray &contents)
+{
+    for (int written = 0; written < contents.size();) {
+        const auto count = ::write(descriptor, contents.constData() + written,
+                                   std::size_t(contents.size() - written));
+        if (count == -1 && errno != EINTR)
+            return errno;
+        written += count == -1 ? 0 : int(count);
+    }
+    return 0;
+}
+
+QString PxOutputFile::errorText(int error)
+{
+    return QString::fromLocal8Bit(std::strerror(error));
+}

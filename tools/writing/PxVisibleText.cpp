@@ -1,0 +1,108 @@
+#include "writing/PxVisibleText.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+/** Characters without a picture that are neither controls nor formats by their category. */
+constexpr struct
+{
+    uint first;
+    uint last;
+} invisible[] = {
+    {0x034F, 0x034F},   // joins graphemes
+    {0x115F, 0x1160},   // fillers of Hangul
+    {0x17B4, 0x17B5},   // vowels of Khmer that are not written
+    {0x180B, 0x180F},   // choose variants
+    {0x3164, 0x3164},   // filler
+    {0xFE00, 0xFE0F},   // choose variants
+    {0xFFA0, 0xFFA0},   // filler
+    {0xE0000, 0xE0FFF}, // tags, and what chooses variants
+};
+
+bool isVisible(uint character)
+{
+    if (character < 0x7F)
+        return character >= 0x20;
+    const bool isListed =
+        std::any_of(std::begin(invisible), std::end(invisible), [character](const auto &range) {
+            return range.first <= character && character <= range.last;
+        });
+    if (isListed)
+        return false;
+    switch (QChar::category(character)) {
+    case QChar::Other_Control:
+    case QChar::Other_Format:
+    case QChar::Other_Surrogate:
+    case QChar::Other_PrivateUse:
+    case QChar::Other_NotAssigned:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return false;
+    default:
+        return true;
+    }
+}
+
+QString escape(uint unit, int digits)
+{
+    return QString::number(unit, 16).toUpper().rightJustified(digits, QLatin1Char('0'));
+}
+
+QString escapedInText(uint character)
+{
+    return character > 0xFFFF ? QLatin1String("\\U") + escape(character, 8)
+                              : QLatin1String("\\u") + escape(character, 4);
+}
+
+QString escapedInJson(uint character)
+{
+    if (character <= 0xFFFF)
+        return QLatin1String("\\u") + escape(character, 4);
+    return QLatin1String("\\u") + escape(QChar::highSurrogate(character), 4) +
+           QLatin1String("\\u") + escape(QChar::lowSurrogate(character), 4);
+}
+
+/** With `hasLines` line breaks stay. */
+QString escaped(const QString &text, bool hasLines, QString (*escapeOf)(uint))
+{
+    QString visible;
+    int copied = 0; // what is before it is in `visible`
+    for (int i = 0; i < text.size();) {
+        const QChar unit = text[i];
+        const bool isPair =
+            unit.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
+        const bool isHalf = unit.isSurrogate() && !isPair;
+        const uint character =
+            isPair ? QChar::surrogateToUcs4(unit, text[i + 1]) : uint(unit.unicode());
+        const int next = i + (isPair ? 2 : 1);
+        if (!isVisible(character) && !(hasLines && unit == QLatin1Char('\n'))) {
+            visible += text.midRef(copied, i - copied);
+            visible += isHalf ? QString(QChar::ReplacementCharacter) : escapeOf(character);
+            copied = next;
+        }
+        i = next;
+    }
+    return copied == 0 ? text : visible + text.midRef(copied);
+}
+
+} // namespace
+
+QString PxVisibleText::line(const QString &text)
+{
+    return escaped(text, false, escapedInText);
+}
+
+QString PxVisibleText::json(const QByteArray &json)
+{
+    // Half a pair is the one thing that QJsonDocument escapes by itself beside controls.
+    static const QRegularExpression ourHalf(
+        QStringLiteral("(?<!\\\\)((?:\\\\\\\\)*)\\\\ud[89a-f][0-9a-f]{2}"));
+    QString text = QString::fromUtf8(json);
+    if (json.contains("\\ud"))
+        text.replace(ourHalf, QStringLiteral("\\1") + QChar(QChar::ReplacementCharacter));
+    return escaped(text, true, escapedInJson);
+}
