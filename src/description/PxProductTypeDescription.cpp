@@ -58,16 +58,23 @@ PxProductTypeDescription::PxProductTypeDescription(const QDomElement &product)
     readCardAlignment(product);
 
     m_surroundings = PxSurroundingDescriptionList(product);
+    indexSurroundings();
     m_rotationRedirects =
         PxPageRotationRedirectList(product.firstChildElement(QStringLiteral("rotationredirects")));
+    for (const PxPageRotationRedirect &redirect : qAsConst(m_rotationRedirects))
+        m_rotationsBySource[redirect.sourcePageNr()].append(redirect);
     m_contentDropRedirects =
         PxContentDropRedirectList(product.firstChildElement(QStringLiteral("contentredirects")));
     m_defaultTemplates.applyDefaultsNode(product.firstChildElement(QStringLiteral("defaults")));
     readUserDefaults(product.attribute(QStringLiteral("name")));
     m_barcodes = PxBarcodeList(product.firstChildElement(QStringLiteral("barcodes")));
+    indexBarcodes();
     readVariants(product.firstChildElement(QStringLiteral("variants")));
     m_productionNumberingPages = decodeIntList(product, QStringLiteral("productionnumbering"));
     m_pagesWithContent = decodeIntList(product, QStringLiteral("pageswithcontent"));
+    std::sort(m_pagesWithContent.begin(), m_pagesWithContent.end());
+    m_pagesWithContent.erase(std::unique(m_pagesWithContent.begin(), m_pagesWithContent.end()),
+                             m_pagesWithContent.end());
     m_pageNamingStyle = decodeKeywords(product, QStringLiteral("pageNamingStyle"),
                                        EnumHelper::globalMapPageNamingStyleString,
                                        EnumHelper::globalPageNamingStyleDefaultValue);
@@ -313,6 +320,42 @@ void PxProductTypeDescription::initBackgroundCategories(const QDomElement &produ
     m_allowedBackgroundCategories = PxThematicCategorySet(
         firstEntries(categories, "initBackgroundCategories", "coverBackgroundCategories", product)
             .split(QLatin1Char(','), Qt::SkipEmptyParts));
+}
+
+// Applications ask for each page of a product: what a page finds takes no longer with more entries.
+
+void PxProductTypeDescription::indexSurroundings()
+{
+    int alignmentsOfType[32] = {}; // of those before, by the bit of the page type
+    for (int index = 0; index < m_surroundings.size(); ++index) {
+        const PxSurroundingDescription &surrounding = m_surroundings.at(index);
+        if (surrounding.pageNr() != -1) {
+            if (!m_pinnedSurroundings.contains(surrounding.pageNr()))
+                m_pinnedSurroundings.insert(surrounding.pageNr(), index);
+            continue;
+        }
+        // The very first one is found for no particular page, whatever its type.
+        bool isFirst = m_generalSurroundings.isEmpty();
+        const unsigned types = unsigned(surrounding.pageTypes().value());
+        for (int type = 0; type < 32; ++type) {
+            if ((types >> type & 1U) == 0)
+                continue;
+            isFirst = isFirst || (surrounding.alignments() & ~alignmentsOfType[type]) != 0;
+            alignmentsOfType[type] |= surrounding.alignments();
+        }
+        if (isFirst)
+            m_generalSurroundings.append(index);
+    }
+}
+
+void PxProductTypeDescription::indexBarcodes()
+{
+    for (int index = 0; index < m_barcodes.size(); ++index) {
+        const PxBarcode &barcode = m_barcodes.at(index);
+        QMap<int, int> &indexes = barcode.reverseOrder() ? m_barcodeFromBack : m_barcodeFromFront;
+        if (!indexes.contains(barcode.pageNr()))
+            indexes.insert(barcode.pageNr(), index);
+    }
 }
 
 int PxProductTypeDescription::decodeFoldMargin(const QDomElement &product) const

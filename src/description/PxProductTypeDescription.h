@@ -23,6 +23,7 @@
 #include <PxImageFXs.h>
 #include <PxPageNamingStyle.h>
 
+#include <QMap>
 #include <QSize>
 #include <QStringList>
 #include <QVector>
@@ -248,6 +249,8 @@ private:
     int findPageIncrement() const;
     bool isPageCountOfBook(int pageCount) const;
     int fixedPageCount() const;
+    void indexSurroundings();
+    void indexBarcodes();
     int decodeFoldMargin(const QDomElement &product) const;
 
     PxOrientation m_orientation;
@@ -287,13 +290,18 @@ private:
     QStringList m_variants;
     QString m_variantDescription;
     PxSurroundingDescriptionList m_surroundings;
+    QVector<int> m_generalSurroundings;  // indexes, of those that some page may find first
+    QMap<int, int> m_pinnedSurroundings; // index of the first, by page
     PxPageRotationRedirectList m_rotationRedirects;
+    QMap<int, PxPageRotationRedirectList> m_rotationsBySource;
     PxContentDropRedirectList m_contentDropRedirects;
     PxDefaultTemplateMap m_defaultTemplates;
     PxDefaultTemplateMap m_userDefaultTemplates;
     PxBarcodeList m_barcodes;
+    QMap<int, int> m_barcodeFromFront; // index of the first, by page number
+    QMap<int, int> m_barcodeFromBack;
     QList<int> m_productionNumberingPages;
-    QList<int> m_pagesWithContent;
+    QList<int> m_pagesWithContent; // sorted, each once
     PxThematicCategorySet m_allowedBackgroundCategories;
     bool m_fullBackgroundOnEachPage = false;
     PxProductionExtraPageGroupList m_extraProductionPages;

@@ -209,7 +209,8 @@ QList<int> PxProductTypeDescription::productionNumberingList(int pageCount) cons
 
 bool PxProductTypeDescription::contentAllowedOnPage(int page) const
 {
-    return m_pagesWithContent.isEmpty() || m_pagesWithContent.contains(page);
+    return m_pagesWithContent.isEmpty() ||
+           std::binary_search(m_pagesWithContent.begin(), m_pagesWithContent.end(), page);
 }
 
 int PxProductTypeDescription::contentDropRedirect(int page) const
@@ -219,7 +220,7 @@ int PxProductTypeDescription::contentDropRedirect(int page) const
 
 PxPageRotationRedirectList PxProductTypeDescription::rotationRedirectForSourcePage(int page) const
 {
-    return m_rotationRedirects.filterBySourcePage(page);
+    return m_rotationsBySource.value(page);
 }
 
 PxPageRotationRedirectList PxProductTypeDescription::rotationRedirectForTargetPage(int page) const
@@ -315,12 +316,26 @@ PxProductTypeDescriptionSpineData PxProductTypeDescription::spine(int pageCount)
 PxSurroundingDescription PxProductTypeDescription::findSurrounding(
     const PxSurroundingKey &key) const
 {
-    return m_surroundings.findDescription(key);
+    int found = m_surroundings.size();
+    for (const int index : m_generalSurroundings) {
+        if (m_surroundings.at(index).isSuitable(key)) {
+            found = index;
+            break;
+        }
+    }
+    if (key.pageIndex() != -1)
+        found = qMin(found, m_pinnedSurroundings.value(key.pageIndex(), found));
+    return m_surroundings.value(found);
 }
 
 PxBarcode PxProductTypeDescription::barcodeOnPage(int page, int pageCount) const
 {
-    return m_barcodes.barcodeOnPage(page, pageCount);
+    const int none = m_barcodes.size();
+    const qint64 fromBack = qint64(pageCount) - page;
+    const int inFront = m_barcodeFromFront.value(page, none);
+    const int atBack =
+        fromBack == int(fromBack) ? m_barcodeFromBack.value(int(fromBack), none) : none;
+    return m_barcodes.value(qMin(inFront, atBack));
 }
 
 PxProductionExtraPageGroupList PxProductTypeDescription::extraProductionContents() const

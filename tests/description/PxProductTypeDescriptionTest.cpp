@@ -7,6 +7,7 @@
 #include <PxXMLLoader.h>
 
 #include <QElapsedTimer>
+#include <QRandomGenerator>
 #include <QTest>
 
 using Ints = QList<int>;
@@ -29,6 +30,7 @@ private slots:
     void pageCountsComeFromTheSpines();
     void offeredPageCountsFollowTheProduct_data();
     void offeredPageCountsFollowTheProduct();
+    void findsTheFirstOfManyEntries();
     void hostilePageCountsAreBounded();
     void listsOfPagesAreBounded();
     void pageRangesExpandToThePageCount();
@@ -360,6 +362,59 @@ void PxProductTypeDescriptionTest::offeredPageCountsFollowTheProduct()
     QCOMPARE(d.offeredPageCounts(), pageCounts);
     for (int pageCount = -5; pageCount < 50; ++pageCount)
         QCOMPARE(d.isPageCountOffered(pageCount), pageCounts.contains(pageCount));
+}
+
+/** What is found by an index is what a walk through the list finds. */
+void PxProductTypeDescriptionTest::findsTheFirstOfManyEntries()
+{
+    const PxLogRecorder log; // a type that is none is part of it
+    constexpr const char *types[] = {"spine", "fullcover", "leather,spine", "normal", "fog", "all"};
+    constexpr const char *sides[] = {"left", "right,top", "all", "middle", "fullpage"};
+    QRandomGenerator random(5); // the same numbers each time
+    const auto number = [&random](int end) { return random.bounded(-2, end); };
+    for (int turn = 0; turn < 200; ++turn) {
+        QString surroundings = "<surroundings>";
+        QString barcodes = "<barcodes>";
+        QString redirects = "<rotationredirects>";
+        for (int entry = 0; entry < turn % 12; ++entry) {
+            surroundings +=
+                QString("<surrounding image='%1' pageNr='%2' pageType='%3' alignment='%4'/>")
+                    .arg(entry)
+                    .arg(qMax(-1, number(4) * random.bounded(2)) - random.bounded(2))
+                    .arg(types[random.bounded(6)], sides[random.bounded(5)]);
+            barcodes += QString("<barcode image='%1' pageNr='%2' reverseOrder='%3'/>")
+                            .arg(entry)
+                            .arg(number(5))
+                            .arg(random.bounded(2));
+            redirects += QString("<rotationredirect from='%1' to='%2'/>").arg(number(5)).arg(entry);
+        }
+        const QString content = surroundings + "</surroundings>" + barcodes + "</barcodes>" +
+                                redirects + "</rotationredirects>";
+        const QDomElement product = pxElement("<product>" + content + "</product>");
+        const PxProductTypeDescription d(product);
+        const PxSurroundingDescriptionList allSurroundings(product);
+        const PxBarcodeList allBarcodes(product.firstChildElement("barcodes"));
+        const PxPageRotationRedirectList allRedirects(
+            product.firstChildElement("rotationredirects"));
+        for (int page = -3; page < 6; ++page) {
+            const PxPageContext context(
+                PxPageTypeEnum(1 << random.bounded(12) | 1 << random.bounded(12)),
+                PxPageAlignment(random.bounded(128)));
+            const PxSurroundingKey key(context, page);
+            QVERIFY(d.findSurrounding(key) == allSurroundings.findDescription(key));
+            QCOMPARE(d.barcodeOnPage(page, 4).imageName(),
+                     allBarcodes.barcodeOnPage(page, 4).imageName());
+            QCOMPARE(d.rotationRedirectForSourcePage(page), allRedirects.filterBySourcePage(page));
+        }
+    }
+    QCOMPARE(describe("name='PROBEBOOK'", "<barcodes><barcode pageNr='5'/></barcodes>")
+                 .barcodeOnPage(-2147483647, 2147483647)
+                 .imageName(),
+             QString());
+    const PxProductTypeDescription d =
+        describe("", "<pageswithcontent>7,-1,3,7</pageswithcontent>");
+    for (int page = -3; page < 9; ++page)
+        QCOMPARE(d.contentAllowedOnPage(page), page == -1 || page == 3 || page == 7);
 }
 
 void PxProductTypeDescriptionTest::hostilePageCountsAreBounded()

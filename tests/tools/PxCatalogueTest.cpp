@@ -4,6 +4,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/resource.h>
+
 class PxCatalogueTest : public QObject
 {
     Q_OBJECT
@@ -20,6 +22,8 @@ private slots:
     void needsItsProductTypes();
     void survivesBrokenProductFiles();
     void hasNoIncrementOfTwoPageCounts();
+    void showsTheLargestNumbers();
+    void showsManyEntriesInLittleTime();
     void namingACatalogueMeansItsThemesAndDefaults();
     void warnsOnceWithoutProducts();
     void keepsTheLogOffTheOutput();
@@ -56,6 +60,19 @@ void writeProducts(const QTemporaryDir &directory, const QVector<QByteArray> &pr
         QVERIFY(file.open(QIODevice::WriteOnly) &&
                 file.write("<p><product " + products[i] + "</p>"));
     }
+}
+
+/** How long the programs computed that were run, whatever else the machine did. */
+template <typename Function>
+double secondsOf(Function runPrograms)
+{
+    rusage before = {};
+    rusage after = {};
+    getrusage(RUSAGE_CHILDREN, &before);
+    runPrograms();
+    getrusage(RUSAGE_CHILDREN, &after);
+    return double(after.ru_utime.tv_sec - before.ru_utime.tv_sec) +
+           double(after.ru_utime.tv_usec - before.ru_utime.tv_usec) / 1e6;
 }
 
 QString textOf(const char *path)
@@ -306,6 +323,41 @@ void PxCatalogueTest::hasNoIncrementOfTwoPageCounts()
     QVERIFY2(list.text().contains("Digitaldruck 26, 30 portrait"), qPrintable(list.text()));
     const QJsonValue cup = run("list --json", products).json()["products"][1]["pageCounts"];
     QVERIFY(cup["minimum"].toInt() == 1 && cup["increment"] == 0);
+}
+
+void PxCatalogueTest::showsTheLargestNumbers()
+{
+    const QTemporaryDir directory;
+    writeProducts(directory, {"name='BOOK_MINI'><usablesize width='2147483647' height='5'/>"
+                              "<extra_production_pages><item><target_pages>2147483647,"
+                              "-2147483648,-2147483647,-3,-2,-1,4,6,8</target_pages></item>"
+                              "</extra_production_pages></product>"});
+    const QStringList products{"--products", directory.path()};
+    const QString text = run("show BOOK_MINI", products).text();
+    QVERIFY2(text.contains("Background 429496729.4×0.5 mm"), qPrintable(text));
+    QVERIFY(text.contains("2147483647, -2147483648, -2147483647, -3, -2, -1, 4-8/2"));
+    const QJsonValue size =
+        run("show BOOK_MINI --json", products).json()["design"]["backgroundSize"];
+    QCOMPARE(size["width"].toDouble(), 4294967294.0);
+}
+
+void PxCatalogueTest::showsManyEntriesInLittleTime()
+{
+    const QTemporaryDir directory;
+    writeProducts(directory,
+                  {"name='BOOK_MINI'><usablesize width='5' height='5'/><pages>normalpages</pages>"
+                   "<pageswithcontent>" +
+                   QByteArray("7,").repeated(1000000) + "</pageswithcontent><surroundings>" +
+                   QByteArray("<surrounding pageType='spine'/>").repeated(30000) +
+                   "</surroundings><barcodes>" +
+                   QByteArray("<barcode pageNr='12345'/>").repeated(30000) +
+                   "</barcodes></product>"});
+    const QStringList products{"--products", directory.path()};
+    const double reading = secondsOf([&] { QCOMPARE(run("list", products).status(), 0); });
+    const double showing =
+        secondsOf([&] { QCOMPARE(run("show BOOK_MINI --pages 9999", products).status(), 0); });
+    QVERIFY2(showing < 6 * reading,
+             qPrintable(QString("%1 s, read in %2 s").arg(showing).arg(reading)));
 }
 
 void PxCatalogueTest::namingACatalogueMeansItsThemesAndDefaults()

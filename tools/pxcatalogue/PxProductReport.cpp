@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <tuple>
 
 namespace {
 
@@ -62,6 +63,17 @@ int shownPageCount(const PxProductTypeDescription &product, const QList<int> &of
     return limit;
 }
 
+/** All that makes a surrounding equal to another one, in an order that is strict. */
+auto orderOf(const PxSurroundingDescription &surrounding)
+{
+    const QRect rect = surrounding.imageRect();
+    return std::make_tuple(int(surrounding.surroundingType()), int(surrounding.pageTypes().value()),
+                           int(surrounding.alignments()), surrounding.pageNr(),
+                           surrounding.paintOnTop(), surrounding.hasBindingShade(),
+                           surrounding.image(), rect.left(), rect.top(), rect.right(),
+                           rect.bottom());
+}
+
 /** The next smaller one and the next larger one, as far as there are any; none if it is offered. */
 QList<int> nearestPageCounts(const QList<int> &offered, int pageCount)
 {
@@ -83,7 +95,8 @@ void warnOfPageCount(const PxProductType &type, int pageCount, const QList<int> 
     if (nearest.size() == 1)
         text += QStringLiteral(", the nearest is %1").arg(nearest[0]);
     else if (!nearest.isEmpty())
-        text += QStringLiteral(", the nearest are %1 and %2").arg(nearest[0]).arg(nearest[1]);
+        text += QStringLiteral(", the nearest are %1 and %2")
+                    .arg(QString::number(nearest[0]), QString::number(nearest[1]));
     qWarning("%s", qUtf8Printable(text));
 }
 
@@ -102,9 +115,12 @@ PxProductReport::PxProductReport(const PxProductTypeConfigRegistry *registry,
         warnOfPageCount(type, m_pageCount, nearestPageCounts(m_offeredPageCounts, m_pageCount));
     for (const PxPageType &pageType : m_product->pageTypes(m_pageCount)) {
         const PxPageContext page(pageType, m_product->pageAlignment(m_pages.size()));
-        m_pages.append(page);
-        if (!m_kinds.contains(page))
+        if (!m_kinds.contains(page)) {
             m_kinds.append(page);
+            m_pagesOfKind.append(QList<int>());
+        }
+        m_pagesOfKind[m_kinds.indexOf(page)].append(m_pages.size());
+        m_pages.append(page);
     }
     addProduct();
     addPages();
@@ -199,12 +215,13 @@ void PxProductReport::addSizes()
 void PxProductReport::addPageKinds()
 {
     QVector<QJsonArray> rows;
-    for (const PxPageContext &kind : qAsConst(m_kinds)) {
+    for (int i = 0; i < m_kinds.size(); ++i) {
+        const PxPageContext &kind = m_kinds[i];
         const PxPageSizeSpec size = m_product->sizeSpec(PxPageSizeKey(kind, m_pageCount));
-        rows.append({keywordOf(kind.pageType()), sideOf(kind), pagesOfKind(kind),
-                     PxReportValue::size(size.usableSize()),
-                     PxReportValue::margins(size.bleedMargins()),
-                     PxReportValue::size(size.totalSize()), size.horizontalClampExtra()});
+        rows.append(
+            {keywordOf(kind.pageType()), sideOf(kind), PxReportValue::numbers(m_pagesOfKind[i]),
+             PxReportValue::size(size.usableSize()), PxReportValue::margins(size.bleedMargins()),
+             PxReportValue::size(size.totalSize()), size.horizontalClampExtra()});
     }
     // clang-format off
     m_report.addTable("pageKinds", "Size of each kind of page (bleed: top/bottom/left/right)", {
@@ -233,19 +250,18 @@ void PxProductReport::addSpine()
 
 void PxProductReport::addSurroundings()
 {
-    QList<QPair<PxSurroundingDescription, QList<int>>> found;
+    QVector<QPair<PxSurroundingDescription, QList<int>>> found;
+    QMap<decltype(orderOf(PxSurroundingDescription())), int> indexes; // in `found`
     for (int page = 0; page < m_pages.size(); ++page) {
         const PxSurroundingDescription surrounding =
             m_product->findSurrounding(PxSurroundingKey(m_pages[page], page));
-        const auto same = std::find_if(found.begin(), found.end(), [&](const auto &entry) {
-            return entry.first == surrounding;
-        });
         if (!surrounding.isValid())
             continue;
-        if (same == found.end())
-            found.append({surrounding, {page}});
-        else
-            same->second.append(page);
+        const auto same =
+            indexes.insert(orderOf(surrounding), indexes.value(orderOf(surrounding), found.size()));
+        if (*same == found.size())
+            found.append({surrounding, {}});
+        found[*same].second.append(page);
     }
     QVector<QJsonArray> rows;
     for (const auto &[surrounding, pages] : qAsConst(found))
@@ -288,10 +304,13 @@ void PxProductReport::addBarcodes()
 void PxProductReport::addTemplates()
 {
     QVector<QJsonArray> rows;
-    for (const PxPageContext &kind : qAsConst(m_kinds))
-        rows.append({keywordOf(kind.pageType()), sideOf(kind), pagesOfKind(kind),
+    for (int i = 0; i < m_kinds.size(); ++i) {
+        const PxPageContext &kind = m_kinds[i];
+        rows.append({keywordOf(kind.pageType()), sideOf(kind),
+                     PxReportValue::numbers(m_pagesOfKind[i]),
                      defaultTemplate(kind, DefaultTemplateTypeLayout),
                      defaultTemplate(kind, DefaultTemplateTypeBackground)});
+    }
     const QString heading = QStringLiteral("Default templates (theme %1, with the user's own)")
                                 .arg(m_themeId.isEmpty() ? QStringLiteral("normal") : m_themeId);
     // clang-format off
@@ -366,7 +385,7 @@ void PxProductReport::addDesign()
         {"canHaveBorder", "Borders and shadows", m_product->canHaveBorder()},
         {"backgroundCategories", "Cover backgrounds", backgroundCategoriesOf(m_product)},
         {"fullBackgroundOnEachPage", "One background a page", m_product->fullBackgroundOnEachPage()},
-        {"backgroundSize", "Background", PxReportValue::size(background.toSize()), Format::Size},
+        {"backgroundSize", "Background", PxReportValue::size(background), Format::Size},
         {"backgroundRatio", "Width by height", m_registry->backgroundRatio(m_type, false)},
         {"imagesPerPage", "Images on a page", m_product->spaceMagnitude().maxReasonableImagesPerPage()},
         {"pointSize", "Type size", m_registry->suitablePointSize(m_type), Format::Points},
@@ -473,16 +492,6 @@ void PxProductReport::addRedirects()
         {"angleInvert", "Angle by", Format::Key},
     }, rotations);
     // clang-format on
-}
-
-QJsonValue PxProductReport::pagesOfKind(const PxPageContext &kind) const
-{
-    QList<int> pages;
-    for (int page = 0; page < m_pages.size(); ++page) {
-        if (m_pages[page] == kind)
-            pages.append(page);
-    }
-    return PxReportValue::numbers(pages);
 }
 
 QString PxProductReport::defaultTemplate(const PxPageContext &kind, DefaultTemplateType type) const

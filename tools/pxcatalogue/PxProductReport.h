@@ -45,7 +45,6 @@ private:
     void addProduction();
     void addRedirects();
 
-    QJsonValue pagesOfKind(const PxPageContext &kind) const;
     QString defaultTemplate(const PxPageContext &kind, DefaultTemplateType type) const;
 
     const PxProductTypeConfigRegistry *m_registry;
@@ -53,8 +52,9 @@ private:
     const PxProductTypeDescription *m_product; // the registry's
     QList<int> m_offeredPageCounts;
     int m_pageCount;
-    QString m_themeId;            // empty for none
-    QList<PxPageContext> m_pages; // all pages in their order, covers included
-    QList<PxPageContext> m_kinds; // each of them once
+    QString m_themeId;                 // empty for none
+    QList<PxPageContext> m_pages;      // all pages in their order, covers included
+    QList<PxPageContext> m_kinds;      // each of them once
+    QVector<QList<int>> m_pagesOfKind; // the same index
     PxReport m_report;
 };

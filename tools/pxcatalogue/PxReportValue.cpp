@@ -13,8 +13,8 @@ namespace {
 
 QString lengthText(const QJsonValue &tenths)
 {
-    const int value = tenths.toInt();
-    return QString::number(value / 10.0, 'f', value % 10 == 0 ? 0 : 1);
+    const auto value = qint64(tenths.toDouble()); // an int holds all but the largest sums
+    return QString::number(double(value) / 10.0, 'f', value % 10 == 0 ? 0 : 1);
 }
 
 QString sizeText(const QJsonValue &size)
@@ -42,14 +42,20 @@ QString pageCountsText(const QJsonValue &counts)
     return QStringLiteral("%1-%2/%3").arg(minimum).arg(maximum).arg(counts[u"increment"].toInt());
 }
 
-/** The index behind a run of neighbours, or of every second number, that begins at `first`. */
+/**
+ * The index behind a run of neighbours, or of every second number, that begins at `first`. Numbers
+ * below 0 are in none: "-3--1" would be hard to read.
+ */
 int endOfRun(const QJsonArray &numbers, int first)
 {
     int end = first + 1;
-    const auto stepTo = [&numbers](int i) { return numbers[i].toInt() - numbers[i - 1].toInt(); };
-    if (end == numbers.size() || (stepTo(end) != 1 && stepTo(end) != 2))
+    const auto stepTo = [&numbers](int i) {
+        return qint64(numbers[i].toInt()) - numbers[i - 1].toInt();
+    };
+    if (end == numbers.size() || numbers[first].toInt() < 0 ||
+        (stepTo(end) != 1 && stepTo(end) != 2))
         return end;
-    const int step = stepTo(end);
+    const qint64 step = stepTo(end);
     while (end < numbers.size() && stepTo(end) == step)
         ++end;
     return end;
@@ -67,8 +73,9 @@ QString pageNumbersText(const QJsonArray &numbers)
             ++first;
             continue;
         }
-        const QString run = QStringLiteral("%1-%2").arg(number).arg(last);
-        parts.append(numbers[first + 1].toInt() == number + 1 ? run : run + QLatin1String("/2"));
+        const QString run =
+            QStringLiteral("%1-%2").arg(QString::number(number), QString::number(last));
+        parts.append(last - number == end - first - 1 ? run : run + QLatin1String("/2"));
         first = end;
     }
     return parts.join(QLatin1String(", "));
@@ -102,11 +109,12 @@ QJsonObject object(std::initializer_list<QPair<const char *, int>> members)
 
 } // namespace
 
-QJsonValue PxReportValue::size(const QSize &size)
+QJsonValue PxReportValue::size(const QSizeF &size)
 {
     if (!size.isValid())
         return QJsonValue();
-    return object({{"width", size.width()}, {"height", size.height()}});
+    return QJsonObject{{QStringLiteral("width"), qRound64(size.width())},
+                       {QStringLiteral("height"), qRound64(size.height())}};
 }
 
 QJsonValue PxReportValue::rect(const QRect &rect)

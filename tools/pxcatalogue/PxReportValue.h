@@ -3,10 +3,10 @@
 #include "PxCatalogueKeywords.h"
 
 #include <QJsonValue>
+#include <QSize>
 
 class PxMargins;
 class QRect;
-class QSize;
 
 /** How a value of a report is written for people. JSON has all of them as they are. */
 enum class PxReportFormat {
@@ -31,7 +31,9 @@ class PxReportValue
 {
 public:
     /** Null for a size that nobody has set. */
-    static QJsonValue size(const QSize &size);
+    static QJsonValue size(const QSize &size) { return PxReportValue::size(QSizeF(size)); }
+    /** Rounded; two lengths may be more than an int holds. */
+    static QJsonValue size(const QSizeF &size);
     static QJsonValue rect(const QRect &rect);
     static QJsonValue margins(const PxMargins &margins);
     /** Null without a keyword. */
