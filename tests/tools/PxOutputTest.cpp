@@ -291,7 +291,7 @@ void PxOutputTest::showsNamesAsTheyAre()
         return shown.text() + ' ' + shown.errors().join(' ');
     };
     const QString found = run({"check"});
-    for (const char *text : {"themes/%1 %2 %3.xml:1", "\"%1%2%3\"", "\"%1%2\"",
+    for (const char *text : {"/themes/%1 %2 %3.xml:1 [theme-id-twice]", "\"%1%2%3\"", "\"%1%2\"",
                              "products/%1%2%3%4.xml:1:5: ", "products/%2%1.xml:1:"})
         QVERIFY2(found.contains(text), qPrintable(found));
     QVERIFY(run({"list"}).contains("products/%2%1.xml:1:"));
