@@ -24,6 +24,7 @@ private slots:
     void answersTheWorstFinding();
     void silencesWhatIsAllowed();
     void hidesWhatIsKnown();
+    void readsOnlyFilesAsBaselines();
     void tellsWhatFollowsFromNames_data();
     void tellsWhatFollowsFromNames();
     void tellsNamesWhenNothingFollows();
@@ -247,6 +248,34 @@ void PxCheckCommandTest::hidesWhatIsKnown()
           "{\"format\": 1, \"findings\": [{\"path\": \"\", \"tag\": \"\", \"message\": \"\"}]}"}) {
         m_sample->write("known.json", broken);
         QCOMPARE(check("--baseline known.json .").status(), 2);
+    }
+}
+
+/** A baseline comes from anywhere, as the files of a catalogue do. */
+void PxCheckCommandTest::readsOnlyFilesAsBaselines()
+{
+    const auto problemOf = [this](const QString &name) {
+        const PxProgramRun run = check("--baseline " + name + " .");
+        const QString prefix = "pxcatalogue: the baseline \"" + name + "\" ";
+        const QString error = run.errors().join('\n');
+        return run.status() == 2 && error.startsWith(prefix) ? error.mid(prefix.size())
+                                                             : "none: " + error;
+    };
+    QVERIFY(mkfifo("pipe.json", 0600) == 0 && QFile::link("pipe.json", "link.json"));
+    for (const QString name : {"pipe.json", "link.json", "products"})
+        QCOMPARE(problemOf(name), QString("cannot be read: it is no regular file"));
+    m_sample->write("large.json", QString());
+    QVERIFY(QFile::resize("large.json", qint64(1) << 40));
+    QCOMPARE(problemOf("large.json"),
+             QString("cannot be read: it has 1099511627776 bytes, no more than 8388608 are read"));
+    m_sample->write("deep.json", QString(5000000, '['));
+    QVERIFY(problemOf("deep.json").startsWith("is no JSON: "));
+    for (const QString count : {"1e300", "-1", "0.5", "\"1\"", "null"}) {
+        m_sample->write("count.json", "{\"format\":1,\"findings\":[{\"path\":\"\\ud800\",\"tag\":"
+                                      "\"\",\"message\":\"\",\"count\":" +
+                                          count + "}]}");
+        QVERIFY2(problemOf("count.json").startsWith("has a finding without \"count\""),
+                 qPrintable(count));
     }
 }
 

@@ -7,10 +7,43 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
 namespace {
 
 constexpr int formatVersion = 1;
 constexpr const char *keys[] = {"path", "tag", "message"};
+
+QString tooLarge(qint64 size)
+{
+    return QStringLiteral("it has %1 bytes, no more than %2 are read")
+        .arg(QString::number(size), QString::number(PxFindingsBaseline::maximumSize));
+}
+
+/** Answers what is wrong, in words that follow the name of the file; empty for nothing. */
+QString load(const QString &path, QByteArray *contents)
+{
+    const QString problem = QStringLiteral("cannot be read: ");
+    // Without waiting for a pipe, and what is asked is the file that was opened.
+    const int descriptor =
+        open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (descriptor == -1)
+        return problem + PxOutputFile::errorText(errno);
+    struct stat info = {};
+    const bool isRegular = fstat(descriptor, &info) == 0 && S_ISREG(info.st_mode);
+    QFile file;
+    if (!file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle) || !isRegular)
+        return problem + QLatin1String("it is no regular file");
+    *contents = file.read(PxFindingsBaseline::maximumSize + 1);
+    if (file.error() != QFileDevice::NoError)
+        return problem + file.errorString();
+    if (contents->size() > PxFindingsBaseline::maximumSize)
+        return problem + tooLarge(qMax<qint64>(info.st_size, contents->size()));
+    return QString();
+}
 
 } // namespace
 
@@ -22,21 +55,27 @@ PxFindingsBaseline::PxFindingsBaseline(const PxCheckReport &report)
 
 QString PxFindingsBaseline::read(const QString &path)
 {
-    const QString what = QStringLiteral("the baseline \"%1\" ").arg(path);
+    QByteArray json;
+    QString problem = load(path, &json);
+    if (problem.isEmpty())
+        problem = readJson(json);
+    return problem.isEmpty() ? QString()
+                             : QStringLiteral("the baseline \"%1\" %2").arg(path, problem);
+}
+
+QString PxFindingsBaseline::readJson(const QByteArray &text)
+{
     const QString remedy = QStringLiteral("; write it again with --write-baseline");
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return what + QLatin1String("cannot be read: ") + file.errorString();
     QJsonParseError error{};
-    const QJsonObject json = QJsonDocument::fromJson(file.readAll(), &error).object();
+    const QJsonObject json = QJsonDocument::fromJson(text, &error).object();
     if (error.error != QJsonParseError::NoError)
-        return what + QLatin1String("is no JSON: ") + error.errorString() + remedy;
+        return QLatin1String("is no JSON: ") + error.errorString() + remedy;
     if (json[QLatin1String("format")].toInt() != formatVersion)
-        return what + QStringLiteral("has another format than %1").arg(formatVersion) + remedy;
+        return QStringLiteral("has another format than %1").arg(formatVersion) + remedy;
     if (!json[QLatin1String("findings")].isArray())
-        return what + QLatin1String("has no \"findings\"") + remedy;
+        return QLatin1String("has no \"findings\"") + remedy;
     const QString problem = readFindings(json[QLatin1String("findings")].toArray());
-    return problem.isEmpty() ? QString() : what + problem + remedy;
+    return problem.isEmpty() ? QString() : problem + remedy;
 }
 
 QString PxFindingsBaseline::readFindings(const QJsonArray &findings)
@@ -55,7 +94,7 @@ QString PxFindingsBaseline::readFindings(const QJsonArray &findings)
     return QString();
 }
 
-QString PxFindingsBaseline::write(const QString &path) const
+QByteArray PxFindingsBaseline::toJson() const
 {
     QJsonArray findings;
     for (auto it = m_counts.begin(); it != m_counts.end(); ++it)
@@ -65,8 +104,16 @@ QString PxFindingsBaseline::write(const QString &path) const
                                     {QStringLiteral("count"), *it}});
     const QJsonObject json{{QStringLiteral("format"), formatVersion},
                            {QStringLiteral("findings"), findings}};
+    return PxVisibleText::json(QJsonDocument(json).toJson()).toUtf8();
+}
+
+QString PxFindingsBaseline::write(const QString &path) const
+{
+    const QByteArray json = toJson();
     const QString problem =
-        PxOutputFile::write(path, PxVisibleText::json(QJsonDocument(json).toJson()).toUtf8());
+        json.size() > maximumSize
+            ? tooLarge(json.size()) + QLatin1String("; leave out tags with --skip")
+            : PxOutputFile::write(path, json);
     return problem.isEmpty()
                ? QString()
                : QStringLiteral("the baseline \"%1\" cannot be written: %2").arg(path, problem);
