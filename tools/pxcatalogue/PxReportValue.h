@@ -11,7 +11,7 @@ class QRect;
 /** How a value of a report is written for people. JSON has all of them as they are. */
 enum class PxReportFormat {
     Plain,  // texts, numbers, flags and lists of them
-    Key,    // the same in a column that is never shortened
+    Key,    // the same in a column that is not shortened to fit
     Name,   // a keyword of the files with its display name, when the library has one
     Length, // tenths of a millimetre, like all of the next three
     Size,

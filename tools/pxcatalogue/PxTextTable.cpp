@@ -12,7 +12,7 @@ constexpr int gap = 2;
 constexpr int legible = 3; // what a shortened text has at least
 
 /** No text is longer, whatever its column: it would be repeated as blanks in each other row. */
-constexpr int maximumWidth = 200;
+constexpr int maximumWidth = 1000;
 
 } // namespace
 

@@ -1,0 +1,19 @@
+#include <PxFindingsBaseline.h>
+
+#include <cstddef>
+#include <cstdint>
+
+/** What a baseline says is the same when it is written and read again, or it is refused. */
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const auto written = [](const QByteArray &text) {
+        PxFindingsBaseline baseline;
+        return baseline.readJson(text).isEmpty() ? baseline.toJson() : QByteArray();
+    };
+    const QByteArray text(reinterpret_cast<const char *>(data), int(size));
+    // Half a surrogate pair is written as another character, so that the first time may differ.
+    const QByteArray first = written(text);
+    if (!first.isEmpty() && (written(first).isEmpty() || written(written(first)) != written(first)))
+        qFatal("read otherwise: %s", first.constData());
+    return 0;
+}
