@@ -11,7 +11,7 @@ class PxFindingsBaseline
 {
 public:
     /** In bytes, about 30 000 findings: reading more would take seconds. */
-    static constexpr qint64 maximumSize = 8 * 1024 * 1024;
+    static constexpr qint64 maximumSize = qint64(8) * 1024 * 1024;
 
     PxFindingsBaseline() = default;
     /** Of all findings of the report. */
