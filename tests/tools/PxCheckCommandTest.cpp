@@ -25,6 +25,8 @@ private slots:
     void silencesWhatIsAllowed();
     void hidesWhatIsKnown();
     void readsOnlyFilesAsBaselines();
+    void tellsAHundredOfAKind();
+    void hidesWhatIsKnownOfMany();
     void tellsWhatFollowsFromNames_data();
     void tellsWhatFollowsFromNames();
     void tellsNamesWhenNothingFollows();
@@ -277,6 +279,70 @@ void PxCheckCommandTest::readsOnlyFilesAsBaselines()
         QVERIFY2(problemOf("count.json").startsWith("has a finding without \"count\""),
                  qPrintable(count));
     }
+}
+
+/** The rest is one finding, which counts as all of them. */
+void PxCheckCommandTest::tellsAHundredOfAKind()
+{
+    const QString element = "<" + QString("x").repeated(2000) + "/>";
+    m_sample->replace(cup, size,
+                      size + "\n<!-- check: allow element-unknown --><barcodes>" +
+                          QString("<y/>").repeated(120) + "</barcodes>\n" +
+                          QString("<t/>\n").repeated(129) + element);
+    const PxProgramRun text = check(". --fail-on warning");
+    QCOMPARE(findingsOf(text).size(), 101);
+    QCOMPARE(findingsOf(text)[100], QString("./products/cup2.xml:132:2 warning element-unknown"));
+    QVERIFY(text.output()[text.output().size() - 2].endsWith(
+        "warning: and 30 more in this file [element-unknown]"));
+    QVERIFY(text.output().constLast().endsWith(" files read: 130 warnings"));
+    QCOMPARE(text.status(), 1);
+    const QJsonObject json = check("--format json .").json();
+    QCOMPARE(json["counts"]["warning"].toInt(), 130);
+    QCOMPARE(json["findings"][99]["count"].toInt(), 1);
+    QCOMPARE(json["findings"][100]["count"].toInt(), 30);
+    const QJsonObject sarif = check("--format sarif .").json();
+    QCOMPARE(sarif["runs"][0]["results"][100]["occurrenceCount"].toInt(), 30);
+    QCOMPARE(check("--override element-unknown=info --format json .").json()["counts"]["info"],
+             QJsonValue(130));
+
+    // What follows from a name is told for it, also where neither is told one by one.
+    m_sample->write("themes/many.xml", "<themes>" +
+                                           QString("<theme ID='a' producttype='book' "
+                                                   "expiry='205012312359'/>")
+                                               .repeated(130) +
+                                           "</themes>");
+    const QJsonObject counts = check("--format json --only theme-id-missing,attribute-unknown .")
+                                   .json()["counts"]
+                                   .toObject();
+    QCOMPARE(counts["error"].toInt(), 130);
+    QCOMPARE(counts["warning"].toInt(), 0);
+}
+
+/** A repair moves others up, so that they are told one by one. */
+void PxCheckCommandTest::hidesWhatIsKnownOfMany()
+{
+    QStringList elements;
+    for (int i = 0; i < 150; ++i)
+        elements.append(QString("<t%1/>").arg(i));
+    const auto found = [&](const QString &options) {
+        m_sample->restore(cup);
+        m_sample->replace(cup, size, size + elements.join('\n'));
+        return check(options + " --format json .").json();
+    };
+    QCOMPARE(found("--write-baseline known.json")["known"].toInt(), 150);
+    elements.removeFirst();
+    QCOMPARE(found("--baseline known.json")["findings"].toArray().size(), 0);
+    elements.append("<u/>");
+    QCOMPARE(found("--baseline known.json")["findings"].toArray().size(), 0);
+    elements.prepend("<v/>");
+    const QJsonObject one = found("--baseline known.json");
+    QCOMPARE(one["findings"].toArray().size(), 1);
+    QVERIFY(one["findings"][0]["message"].toString().startsWith("\"v\""));
+    elements.append({"<w/>", "<w/>"});
+    const QJsonObject three = found("--baseline known.json");
+    QCOMPARE(three["counts"]["warning"].toInt(), 3);
+    QCOMPARE(three["known"].toInt(), 150);
+    QCOMPARE(three["findings"][1]["message"].toString(), QString("and 2 more in this file"));
 }
 
 void PxCheckCommandTest::tellsWhatFollowsFromNames_data()

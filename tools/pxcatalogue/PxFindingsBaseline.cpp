@@ -50,7 +50,7 @@ QString load(const QString &path, QByteArray *contents)
 PxFindingsBaseline::PxFindingsBaseline(const PxCheckReport &report)
 {
     for (const PxFinding &finding : report.findings)
-        ++m_counts[PxFindingIdentity(finding, report.catalogueNames)];
+        m_counts[PxFindingIdentity(finding, report.catalogueNames)] += finding.count();
 }
 
 QString PxFindingsBaseline::read(const QString &path)
@@ -119,17 +119,54 @@ QString PxFindingsBaseline::write(const QString &path) const
                : QStringLiteral("the baseline \"%1\" cannot be written: %2").arg(path, problem);
 }
 
+/**
+ * Which of many findings are told one by one changes with each repair. So, where the baseline has
+ * such a rest, the number counts: first what is not told one by one uses up what is left of its tag
+ * and file, then the others do.
+ */
 void PxFindingsBaseline::hide(PxCheckReport *report) const
 {
+    if (m_counts.isEmpty())
+        return;
     QMap<PxFindingIdentity, int> left = m_counts;
+    const auto take = [](int *known, int count) {
+        const int taken = qMin(*known, count);
+        *known -= taken;
+        return count - taken;
+    };
+    const auto takeAny = [&](const PxFinding &finding, int count) {
+        const PxFindingIdentity own(finding, report->catalogueNames);
+        const auto rest = left.find({own.path(), own.tag(), PxFindingIdentity::restMessage()});
+        if (rest == left.end())
+            return count;
+        count = take(&*rest, count);
+        for (auto it = left.lowerBound({own.path(), own.tag(), QString()});
+             count > 0 && it != left.end() && it.key().path() == own.path() &&
+             it.key().tag() == own.tag();
+             ++it)
+            count = take(&*it, count);
+        return count;
+    };
     QVector<PxFinding> unknown;
     for (const PxFinding &finding : qAsConst(report->findings)) {
         const auto known = left.find(PxFindingIdentity(finding, report->catalogueNames));
-        if (known == left.end() || *known == 0)
+        if (finding.restCount > 0 || known == left.end() || take(&*known, 1) > 0)
             unknown.append(finding);
         else
-            --*known;
+            ++report->knownCount;
     }
-    report->knownCount += report->findings.size() - unknown.size();
+    for (const bool isRest : {true, false}) {
+        QVector<PxFinding> all;
+        all.swap(unknown);
+        for (PxFinding &finding : all) {
+            const bool isOther = (finding.restCount > 0) != isRest;
+            const int count = isOther ? finding.count() : takeAny(finding, finding.count());
+            report->knownCount += finding.count() - count;
+            if (isRest && !isOther)
+                finding.setRest(count);
+            if (count > 0)
+                unknown.append(finding);
+        }
+    }
     report->findings = unknown;
 }

@@ -20,7 +20,8 @@ QJsonObject jsonOf(const PxFinding &finding)
         {QStringLiteral("tag"), QLatin1String(finding.tag->name)},
         {QStringLiteral("message"), finding.message},
         {QStringLiteral("now"), finding.now},
-        {QStringLiteral("hint"), finding.hint}};
+        {QStringLiteral("hint"), finding.hint},
+        {QStringLiteral("count"), finding.count()}};
 }
 
 } // namespace

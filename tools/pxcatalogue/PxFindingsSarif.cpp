@@ -128,6 +128,7 @@ QJsonObject PxFindingsSarif::result(const PxFinding &finding, const QString &fin
     return {{QStringLiteral("ruleId"), QLatin1String(finding.tag->name)},
             {QStringLiteral("ruleIndex"), PxCheckTags::all().indexOf(finding.tag)},
             {QStringLiteral("level"), levelOf(finding.severity)},
+            {QStringLiteral("occurrenceCount"), finding.count()},
             {QStringLiteral("message"), textOf(texts.join(QLatin1Char('\n')))},
             {QStringLiteral("locations"),
              QJsonArray{QJsonObject{{QStringLiteral("physicalLocation"), location}}}},

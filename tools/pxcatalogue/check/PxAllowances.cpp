@@ -1,13 +1,9 @@
 #include "check/PxAllowances.h"
 
-#include <QSet>
-
 #include <algorithm>
 #include <tuple>
 
 namespace {
-
-using Allowance = PxAllowances::Allowance;
 
 auto beginOf(const PxPlace &place)
 {
@@ -19,65 +15,61 @@ auto endOf(const PxPlace &place)
     return std::make_tuple(place.endLine, place.endColumn);
 }
 
-/** For each finding which of the allowances counts, or -1. Both have one path and one tag. */
-QVector<int> allowancesOf(const QVector<const PxFinding *> &findings,
-                          const QVector<Allowance> &allowances)
-{
-    QVector<int> found;
-    QVector<int> open; // those that begin before the finding, the innermost last
-    int next = 0;
-    for (const PxFinding *finding : findings) {
-        const auto place = beginOf(finding->place);
-        for (; next < allowances.size() && beginOf(allowances.at(next).part) <= place; ++next)
-            open.append(next);
-        while (!open.isEmpty() && endOf(allowances.at(open.last()).part) <= place)
-            open.removeLast();
-        found.append(open.isEmpty() ? -1 : open.last());
-    }
-    return found;
-}
-
-QPair<QString, QString> keyOf(const PxFinding &finding)
-{
-    return {finding.place.path, QLatin1String(finding.tag->name)};
-}
-
 } // namespace
 
 void PxAllowances::add(const Allowance &allowance)
 {
-    m_allowances[{allowance.part.path, allowance.tag}].append(allowance);
+    OfTag &ofTag = m_allowances[{allowance.part.path, allowance.tag}];
+    ofTag.nested.append({allowance});
+    ofTag.isSorted = false;
 }
 
-QVector<PxAllowances::Allowance> PxAllowances::apply(QVector<PxFinding> *findings) const
+bool PxAllowances::allows(const QString &tag, const PxPlace &place)
 {
-    QHash<QPair<QString, QString>, QVector<const PxFinding *>> findingsOf;
-    for (const PxFinding &finding : qAsConst(*findings))
-        findingsOf[keyOf(finding)].append(&finding);
-    QSet<const PxFinding *> allowed;
-    QVector<Allowance> unused;
-    for (auto it = m_allowances.begin(); it != m_allowances.end(); ++it) {
-        QVector<Allowance> allowances = *it;
-        std::stable_sort(allowances.begin(), allowances.end(), [](const auto &a, const auto &b) {
-            return beginOf(a.part) < beginOf(b.part);
+    const auto found = m_allowances.find({place.path, tag});
+    if (found == m_allowances.end())
+        return false;
+    if (!found->isSorted)
+        sort(&*found);
+    QVector<Nested> &nested = found->nested;
+    const auto next =
+        std::upper_bound(nested.begin(), nested.end(), place, [](const auto &p, const Nested &n) {
+            return beginOf(p) < beginOf(n.allowance.part);
         });
-        const QVector<const PxFinding *> candidates = findingsOf.value(it.key());
-        const QVector<int> found = allowancesOf(candidates, allowances);
-        for (int i = 0; i < found.size(); ++i) {
-            if (found.at(i) >= 0)
-                allowed.insert(candidates.at(i));
-        }
-        const QSet<int> used(found.begin(), found.end());
-        for (int i = 0; i < allowances.size(); ++i) {
-            if (!used.contains(i) && !allowances.at(i).isOfUse)
-                unused.append(allowances.at(i));
+    int index = int(next - nested.begin()) - 1;
+    while (index >= 0 && endOf(nested[index].allowance.part) <= beginOf(place))
+        index = nested[index].outer;
+    if (index < 0)
+        return false;
+    nested[index].allowance.isOfUse = true;
+    return true;
+}
+
+void PxAllowances::sort(OfTag *allowances)
+{
+    QVector<Nested> &nested = allowances->nested;
+    std::stable_sort(nested.begin(), nested.end(), [](const Nested &a, const Nested &b) {
+        return beginOf(a.allowance.part) < beginOf(b.allowance.part);
+    });
+    int outer = -1;
+    for (int i = 0; i < nested.size(); ++i) {
+        while (outer >= 0 &&
+               endOf(nested[outer].allowance.part) <= beginOf(nested[i].allowance.part))
+            outer = nested[outer].outer;
+        nested[i].outer = outer;
+        outer = i;
+    }
+    allowances->isSorted = true;
+}
+
+QVector<PxAllowances::Allowance> PxAllowances::unused() const
+{
+    QVector<Allowance> unused;
+    for (const OfTag &ofTag : m_allowances) {
+        for (const Nested &nested : ofTag.nested) {
+            if (!nested.allowance.isOfUse)
+                unused.append(nested.allowance);
         }
     }
-    QVector<PxFinding> left;
-    for (const PxFinding &finding : qAsConst(*findings)) {
-        if (!allowed.contains(&finding))
-            left.append(finding);
-    }
-    *findings = left;
     return unused;
 }

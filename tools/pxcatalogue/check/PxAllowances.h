@@ -2,7 +2,7 @@
 
 #include "check/PxFinding.h"
 
-#include <QHash>
+#include <QMap>
 #include <QPair>
 #include <QVector>
 
@@ -20,11 +20,27 @@ public:
 
     void add(const Allowance &allowance);
     /**
-     * Takes out the findings that are allowed; they are sorted by place. Where parts lie inside
-     * each other the innermost counts. Answers the allowances that allow nothing.
+     * Whether what is found at the place is allowed; the allowance is used then. Where parts lie
+     * inside each other the innermost counts. All allowances of the file have been added.
      */
-    QVector<Allowance> apply(QVector<PxFinding> *findings) const;
+    bool allows(const QString &tag, const PxPlace &place);
+    /** Those that have allowed nothing. */
+    QVector<Allowance> unused() const;
 
 private:
-    QHash<QPair<QString, QString>, QVector<Allowance>> m_allowances; // by path and tag
+    struct Nested
+    {
+        Allowance allowance;
+        int outer = -1; ///< the one around it; -1 for none
+    };
+    struct OfTag
+    {
+        QVector<Nested> nested; // by begin of their parts, when they are sorted
+        bool isSorted = false;
+    };
+
+    static void sort(OfTag *allowances);
+
+    // By path and tag. No hash: files may hold thousands of tags that are none.
+    QMap<QPair<QString, QString>, OfTag> m_allowances;
 };

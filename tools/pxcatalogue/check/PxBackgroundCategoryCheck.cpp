@@ -11,11 +11,11 @@
 void PxBackgroundCategoryCheck::run(PxFindings *findings) const
 {
     QHash<QString, QString> known; // as first written, by the name without its case
-    PxFileFindings found(m_product.file(), findings, PxFileFindings::maximumOfList);
+    PxFileFindings found(m_product.file(), findings);
     for (const PxSourcePart &part : PxSourceParts::ofAttribute(
              m_product.file(), m_product.element(), QStringLiteral("coverBackgroundCategories"))) {
         const QString name = part.text.trimmed();
-        if (part.text.isEmpty() || found.isFull())
+        if (part.text.isEmpty())
             continue;
         if (name != part.text) {
             found.add("category-blank", part.whole,

@@ -21,7 +21,7 @@ struct PxCheckReport
     {
         int found = 0;
         for (const PxFinding &finding : findings)
-            found += finding.severity == severity ? 1 : 0;
+            found += finding.severity == severity ? finding.count() : 0;
         return found;
     }
     bool hasAtLeast(PxSeverity severity) const

@@ -14,6 +14,8 @@
 
 namespace {
 
+constexpr int maximumAllowance = 500; // letters of a comment: then it has named its tag
+
 /** The text up to a place and some more, so that a fault at that place can be seen. */
 QString textUpTo(const QString &text, qint64 line, qint64 column)
 {
@@ -117,21 +119,41 @@ void PxCheckedFile::addFault(PxFindings *findings, const QString &now) const
     }
 }
 
-/** Each node with the first of the elements behind it; both stand in their order. */
-void PxCheckedFile::findAllowances(const QVector<PxSourceNode> &nodes,
-                                   const QVector<const PxSourceElement *> &elements,
-                                   PxFindings *findings, bool isChecked) const
+void PxCheckedFile::findAllowances(PxFindings *findings, bool isChecked) const
+{
+    // What cannot be read is not checked, so that every allowance in it would seem to be unused.
+    if (!root())
+        return;
+    // What looks like an allowance is a finding, which a later comment may allow.
+    QVector<PxSourceNode> others =
+        findAllowances(m_source->prolog(), {m_source->root()}, findings, isChecked);
+    m_source->forEachElement([&](const PxSourceElement &element) {
+        others += findAllowances(element.nodes, element.children, findings, isChecked);
+    });
+    for (const PxSourceNode &node : qAsConst(others))
+        checkNoAllowance(node, findings);
+}
+
+/**
+ * Each node with the first of the elements behind it; both stand in their order. Answers the
+ * comments and instructions that are no allowance.
+ */
+QVector<PxSourceNode> PxCheckedFile::findAllowances(
+    const QVector<PxSourceNode> &nodes, const QVector<const PxSourceElement *> &elements,
+    PxFindings *findings, bool isChecked) const
 {
     static const QRegularExpression ourAllowance(
         QStringLiteral("^\\s*check:\\s*allow(?:\\s+(\\S+)|\\s*$)"),
         QRegularExpression::CaseInsensitiveOption);
+    QVector<PxSourceNode> others;
     auto element = elements.begin();
     for (const PxSourceNode &node : nodes) {
+        if (node.isText())
+            continue;
         const QRegularExpressionMatch allowance =
-            node.isText() ? QRegularExpressionMatch() : ourAllowance.match(node.text);
+            ourAllowance.match(node.text.left(maximumAllowance));
         if (!allowance.hasMatch()) {
-            if (!node.isText())
-                checkNoAllowance(node, findings);
+            others.append(node);
             continue;
         }
         while (element != elements.end() && (*element)->range.begin < node.range.end)
@@ -143,6 +165,7 @@ void PxCheckedFile::findAllowances(const QVector<PxSourceNode> &nodes,
         }
         findings->allow(allowance.captured(1), place(node.range), part, isChecked);
     }
+    return others;
 }
 
 /** A comment that names a tag in nearly the words that allow it. */
@@ -151,7 +174,7 @@ void PxCheckedFile::checkNoAllowance(const PxSourceNode &node, PxFindings *findi
     static const QRegularExpression ourWords(
         QStringLiteral("^\\s*check\\s*:?\\s*([a-z]+)\\s*:?\\s+(\\S+)"),
         QRegularExpression::CaseInsensitiveOption);
-    const QRegularExpressionMatch words = ourWords.match(node.text);
+    const QRegularExpressionMatch words = ourWords.match(node.text.left(maximumAllowance));
     const QString tag = words.captured(2);
     if (!words.hasMatch() || !PxCheckTags::find(tag) ||
         PxSpelling::nearest(words.captured(1), {QStringLiteral("allow")}).isEmpty())
@@ -160,15 +183,4 @@ void PxCheckedFile::checkNoAllowance(const PxSourceNode &node, PxFindings *findi
         QStringLiteral("the comment names \"%1\", but does not allow it").arg(tag),
         QStringLiteral("the comment silences nothing"),
         QStringLiteral("write \"check: allow %1\"").arg(tag));
-}
-
-void PxCheckedFile::findAllowances(PxFindings *findings, bool isChecked) const
-{
-    // What cannot be read is not checked, so that every allowance in it would seem to be unused.
-    if (!root())
-        return;
-    findAllowances(m_source->prolog(), {m_source->root()}, findings, isChecked);
-    m_source->forEachElement([&](const PxSourceElement &element) {
-        findAllowances(element.nodes, element.children, findings, isChecked);
-    });
 }

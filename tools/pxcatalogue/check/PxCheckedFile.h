@@ -28,6 +28,12 @@ public:
              const QString &message, const QString &now = QString(),
              const QString &hint = QString()) const;
 
+    /** Whether the texts of one more finding are looked at. */
+    bool isTold(PxFindings *findings, const char *tag, const PxSourceRange &range) const
+    {
+        return findings->isTold(tag, place(range));
+    }
+
     /** Why the library cannot read the file, and what a stricter reader objects to. */
     void checkReading(PxFindings *findings) const;
     /** What comments in the file silence. `isChecked` is false where few checks understand it. */
@@ -40,9 +46,9 @@ private:
     /** Where the fault stands, or the start of the file. */
     PxPlace faultPlace() const;
     void addFault(PxFindings *findings, const QString &now) const;
-    void findAllowances(const QVector<PxSourceNode> &nodes,
-                        const QVector<const PxSourceElement *> &elements, PxFindings *findings,
-                        bool isChecked) const;
+    QVector<PxSourceNode> findAllowances(const QVector<PxSourceNode> &nodes,
+                                         const QVector<const PxSourceElement *> &elements,
+                                         PxFindings *findings, bool isChecked) const;
     void checkNoAllowance(const PxSourceNode &node, PxFindings *findings) const;
 
     QString m_path;

@@ -73,7 +73,7 @@ void PxDefaultsCheck::checkThemes(const PxDefaultsEntry &entry, PxFindings *find
     }
     if (m_themeIds.isEmpty())
         return;
-    PxFileFindings found(m_file, findings, PxFileFindings::maximumOfList);
+    PxFileFindings found(m_file, findings);
     for (const PxSourcePart &part :
          PxSourceParts::ofAttribute(m_file, entry.element(), QStringLiteral("theme"))) {
         const QString id = part.text.trimmed();
@@ -81,8 +81,6 @@ void PxDefaultsCheck::checkThemes(const PxDefaultsEntry &entry, PxFindings *find
         if (id.isEmpty() || id == QLatin1String("normal") ||
             std::binary_search(m_themeIds.begin(), m_themeIds.end(), id))
             continue;
-        if (found.isFull())
-            return;
         found.add(tag, part.range, QStringLiteral("there is no theme \"%1\"").arg(id), now,
                   PxSpelling::hint(id, m_themeIds));
     }
@@ -105,7 +103,7 @@ void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry, PxFindings *f
             missing.hintOr(QStringLiteral("name the types of pages, as pageType=\"normalpage\"")));
         return;
     }
-    PxFileFindings found(m_file, findings, PxFileFindings::maximumOfList);
+    PxFileFindings found(m_file, findings);
     for (const PxSourcePart &part : parts) {
         const PxPageType pageType(part.text);
         const bool isUnion = PxPageEntry::isUnion(pageType);

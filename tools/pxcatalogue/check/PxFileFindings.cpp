@@ -3,8 +3,6 @@
 void PxFileFindings::add(const char *tag, const PxSourceRange &range, const QString &message,
                          const QString &now, const QString &hint)
 {
-    if (isFull())
-        return;
-    ++m_count;
+    m_isEmpty = false;
     m_file.add(m_findings, tag, range, message, now, hint);
 }

@@ -10,17 +10,20 @@ namespace {
 QString withoutPlaces(QString message, const QHash<QString, QString> &catalogueNames)
 {
     static const QRegularExpression ourLine(QStringLiteral("\\bline \\d+"));
-    static const QRegularExpression ourPath(QStringLiteral("([^\\s\"]+\\.xml)(:\\d+)*"),
-                                            QRegularExpression::CaseInsensitiveOption);
+    // A word is searched from its beginning only: from each of its letters takes far longer.
+    static const QRegularExpression ourPath(
+        QStringLiteral("(?<![^\\s\"])([^\\s\"]+\\.xml)(:\\d+)*"),
+        QRegularExpression::CaseInsensitiveOption);
     message.replace(ourLine, QStringLiteral("line"));
-    int from = 0;
-    for (QRegularExpressionMatch path = ourPath.match(message); path.hasMatch();
-         path = ourPath.match(message, from)) {
-        const QString name = catalogueNames.value(path.captured(1), path.captured(1));
-        message.replace(path.capturedStart(), path.capturedLength(), name);
-        from = path.capturedStart() + name.size();
+    QString without;
+    int end = 0; // of what is copied
+    for (auto paths = ourPath.globalMatch(message); paths.hasNext();) {
+        const QRegularExpressionMatch path = paths.next();
+        without += message.midRef(end, path.capturedStart() - end);
+        without += catalogueNames.value(path.captured(1), path.captured(1));
+        end = path.capturedEnd();
     }
-    return message;
+    return without + message.midRef(end);
 }
 
 } // namespace
@@ -29,8 +32,14 @@ PxFindingIdentity::PxFindingIdentity(const PxFinding &finding,
                                      const QHash<QString, QString> &catalogueNames)
     : m_path(catalogueNames.value(finding.place.path, finding.place.path))
     , m_tag(QLatin1String(finding.tag->name))
-    , m_message(withoutPlaces(finding.message, catalogueNames))
+    , m_message(finding.restCount > 0 ? restMessage()
+                                      : withoutPlaces(finding.message, catalogueNames))
 {}
+
+QString PxFindingIdentity::restMessage()
+{
+    return QStringLiteral("and more in this file");
+}
 
 bool PxFindingIdentity::operator<(const PxFindingIdentity &other) const
 {

@@ -20,6 +20,9 @@ public:
         , m_message(message)
     {}
 
+    /** The message of those that are not told one by one, however many they are. */
+    static QString restMessage();
+
     QString path() const { return m_path; }
     QString tag() const { return m_tag; }
     QString message() const { return m_message; }

@@ -11,12 +11,23 @@
 class PxFindings
 {
 public:
+    /** Of one tag in one file so many are told; how many more there are is the last one. */
+    static constexpr int maximumOfTag = 100;
+    /** A longer message is cut off: a file may hold a single name of eight million letters. */
+    static constexpr int maximumLength = 1000;
+
     /** The tag is one of PxCheckTags; else that is a fault of ours, and thrown. */
     void add(const char *tag, const PxPlace &place, const QString &message,
              const QString &now = QString(), const QString &hint = QString());
     /**
-     * Silences a tag in a part of a file, as the comment at `comment` says. When there is nothing
-     * to silence, that is a finding of its own, unless the file cannot be checked for all tags.
+     * Whether one more is told at the place. If not, it is allowed or only counted, and its texts
+     * need not be looked for.
+     */
+    bool isTold(const char *tag, const PxPlace &place);
+    /**
+     * Silences a tag in a part of a file, as the comment at `comment` says, for what is added after
+     * it. When there is nothing to silence, that is a finding of its own, unless the file cannot be
+     * checked for all tags.
      */
     void allow(const QString &tag, const PxPlace &comment, const PxPlace &part, bool isChecked);
     /** Not all files of the catalogue are checked. */
@@ -40,12 +51,36 @@ public:
     QMap<QString, QString> tagsNotChecked() const;
 
 private:
+    struct Spot
+    {
+        int line = 1;
+        int column = 1;
+
+        bool operator<(const Spot &other) const
+        {
+            return line < other.line || (line == other.line && column < other.column);
+        }
+    };
+    /** The findings of one tag in one file. */
+    struct OfTag
+    {
+        PxSeverity severity = PxSeverity::Error;
+        QVector<PxFinding> told;
+        QVector<Spot> rest;
+    };
+    using Key = QPair<QString, const PxCheckTag *>; // path and tag
+
+    bool hasRoom(const PxCheckTag *tag, const QString &path) const;
+    void append(const PxCheckTag *tag, const PxPlace &place, const QString &message,
+                const QString &now, const QString &hint);
     bool isWanted(const QString &tag) const;
     /** Empty for a tag that is checked. */
     QString lack(const PxCheckTag &tag) const;
     void addUnused(const PxAllowances::Allowance &allowance);
+    void removeUnwanted();
+    void removeCauses(const QString &path);
 
-    QVector<PxFinding> m_findings;
+    QHash<Key, OfTag> m_findings;
     PxAllowances m_allowances;
     QHash<QString, PxSeverity> m_severities;
     QSet<QString> m_only;

@@ -81,8 +81,6 @@ void PxKeywordCheck::checkList(PxFileFindings &findings) const
     bool areKnown = true;
     QString asRead;
     for (const PxSourcePart &entry : m_entries) {
-        if (findings.isFull())
-            return;
         if (entry.text.isEmpty() || isKnown(entry.text))
             continue;
         if (areKnown)

@@ -65,8 +65,8 @@ bool PxNumberListCheck::checkParts(const PxSourceElement &list, PxFindings *find
                   .arg(numbers)
                   .arg(parts.size())
             : QStringLiteral("the list holds no number then, which means: %1").arg(absence(list));
-    PxFileFindings found(m_product.file(), findings, PxFileFindings::maximumOfList);
-    for (int i = 0; i < parts.size() && !found.isFull(); ++i) {
+    PxFileFindings found(m_product.file(), findings);
+    for (int i = 0; i < parts.size(); ++i) {
         const QString text = parts[i].text.trimmed();
         // Nothing is lost with an empty part at the end, and an empty text is the default.
         if (!pxIntList(parts[i].text).isEmpty() || (text.isEmpty() && i == parts.size() - 1))

@@ -91,8 +91,6 @@ void PxVocabularyCheck::checkAttributes(const Place &place, PxFileFindings &find
     const PxValueCheck values(findings);
     const PxElementRow *entry = entriesOfSameName(place.row);
     for (const PxSourceAttribute &attribute : place.element.attributes) {
-        if (findings.isFull())
-            return;
         const PxAttributeRow *row = PxVocabulary::attribute(place.row, attribute.name);
         if (row)
             values.check(place.element, *row, attribute);
@@ -170,7 +168,7 @@ void PxVocabularyCheck::checkChildren(const Place &place, PxFileFindings &findin
     QHash<QString, const PxSourceElement *> first;
     bool isFlat = false;
     const PxSourceElement *before = nullptr;
-    for (int i = 0; i < place.element.children.size() && !findings.isFull(); ++i) {
+    for (int i = 0; i < place.element.children.size(); ++i) {
         const PxSourceElement *child = place.element.children.at(i);
         const PxElementRow *row = PxVocabulary::child(place.row, child->name);
         const PxSourceElement *neighbour = before;
