@@ -2,6 +2,8 @@
 
 #include "PxTextTable.h"
 #include "check/PxCheckTags.h"
+#include "check/PxFindings.h"
+#include "check/PxSourceParts.h"
 #include "writing/PxTerminal.h"
 
 #include <QStringList>
@@ -24,6 +26,17 @@ constexpr const char *markdownStart =
     "| warning | data is dropped or changed in silence |\n"
     "| info | surprising but legal |\n"
     "| pedantic | a matter of style; only found with `--pedantic` |\n"
+    "\n"
+    "Some files have thousands of findings, most of them by accident. So these are bounded:\n"
+    "\n"
+    "| Limit | Value |\n"
+    "|---|---|\n"
+    "| findings of one tag that are told of a file; the last one says how many more there are | "
+    "%1 |\n"
+    "| letters of a message | %2 |\n"
+    "| entries of a list that are checked | %3 |\n"
+    "\n"
+    "Hints are guesses, which take time: of many thousands of names not every one gets a hint.\n"
     "\n";
 
 QString severityOf(const PxCheckTag &tag)
@@ -124,7 +137,10 @@ QString PxCheckExplanation::table()
 
 QString PxCheckExplanation::markdown()
 {
-    QString text = QString::fromUtf8(markdownStart) +
+    QString text = QString::fromUtf8(markdownStart)
+                       .arg(PxFindings::maximumOfTag)
+                       .arg(PxFindings::maximumLength)
+                       .arg(PxSourceParts::maximum) +
                    QLatin1String("| Tag | Severity | Finding |\n|---|---|---|\n");
     for (const PxCheckTag *tag : PxCheckTags::all())
         text += QStringLiteral("| [%1](#%1) | %2 | %3 |\n")

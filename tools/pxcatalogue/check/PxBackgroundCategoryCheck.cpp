@@ -6,14 +6,15 @@
 
 #include <themes/PxThematicCategory.h>
 
-#include <QHash>
+#include <QMap>
 
 void PxBackgroundCategoryCheck::run(PxFindings *findings) const
 {
-    QHash<QString, QString> known; // as first written, by the name without its case
+    QMap<QString, QString> known; // as first written, by the name without its case
     PxFileFindings found(m_product.file(), findings);
-    for (const PxSourcePart &part : PxSourceParts::ofAttribute(
-             m_product.file(), m_product.element(), QStringLiteral("coverBackgroundCategories"))) {
+    const PxSourceList list = PxSourceParts::ofAttribute(
+        m_product.file(), m_product.element(), QStringLiteral("coverBackgroundCategories"));
+    for (const PxSourcePart &part : list.parts) {
         const QString name = part.text.trimmed();
         if (part.text.isEmpty())
             continue;

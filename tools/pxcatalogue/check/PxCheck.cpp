@@ -76,7 +76,7 @@ void PxCheck::run(PxFindings *findings)
                                 m_paths.themes.isEmpty() && m_paths.knownThemes.isEmpty()
                                     ? QStringLiteral("without a theme file")
                                     : QStringLiteral("without the id of every theme"));
-    PxDesignCheck design(themeIds);
+    PxDesignCheck design{PxKnownNames(themeIds)};
     for (const QStringList *paths : {&m_paths.products, &m_paths.legacyProducts})
         checkFiles(*paths, PxFileKind::Product, findings, [&](const PxCheckedFile &file) {
             checkProduct(file, paths == &m_paths.legacyProducts, &design, &catalogue, findings);

@@ -74,15 +74,15 @@ void PxDefaultsCheck::checkThemes(const PxDefaultsEntry &entry, PxFindings *find
     if (m_themeIds.isEmpty())
         return;
     PxFileFindings found(m_file, findings);
-    for (const PxSourcePart &part :
-         PxSourceParts::ofAttribute(m_file, entry.element(), QStringLiteral("theme"))) {
+    const PxSourceList list =
+        PxSourceParts::ofAttribute(m_file, entry.element(), QStringLiteral("theme"));
+    for (const PxSourcePart &part : list.parts) {
         const QString id = part.text.trimmed();
         // Other themes fall back to this one, whether it is there or not.
-        if (id.isEmpty() || id == QLatin1String("normal") ||
-            std::binary_search(m_themeIds.begin(), m_themeIds.end(), id))
+        if (id.isEmpty() || id == QLatin1String("normal") || m_themeIds.contains(id))
             continue;
         found.add(tag, part.range, QStringLiteral("there is no theme \"%1\"").arg(id), now,
-                  PxSpelling::hint(id, m_themeIds));
+                  found.isTold(tag, part.range) ? m_themeIds.hint(id) : QString());
     }
 }
 
@@ -91,7 +91,7 @@ void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry, PxFindings *f
     const QString attribute = QStringLiteral("pageType");
     const QString now = QStringLiteral("no page finds these templates");
     const QVector<PxSourcePart> parts =
-        PxSourceParts::ofAttribute(m_file, entry.element(), attribute);
+        PxSourceParts::ofAttribute(m_file, entry.element(), attribute).parts;
     if (std::all_of(parts.begin(), parts.end(),
                     [](const PxSourcePart &part) { return part.text.trimmed().isEmpty(); })) {
         const PxMissingPart missing = entry.missing(attribute);
@@ -124,7 +124,7 @@ void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry, PxFindings *f
 void PxDefaultsCheck::checkTemplates(const PxDefaultsEntry &entry, PxFindings *findings) const
 {
     QVector<PxSourcePart> names =
-        PxSourceParts::ofAttribute(m_file, entry.element(), QStringLiteral("templates"));
+        PxSourceParts::ofAttribute(m_file, entry.element(), QStringLiteral("templates")).parts;
     names.erase(std::remove_if(names.begin(), names.end(),
                                [](const PxSourcePart &name) { return name.text.isEmpty(); }),
                 names.end());

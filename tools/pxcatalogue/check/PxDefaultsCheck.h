@@ -2,15 +2,15 @@
 
 #include "check/PxCheckedFile.h"
 #include "check/PxDefaultsEntry.h"
+#include "check/PxKnownNames.h"
 
 /** Checks the default templates of a product file or of a user-defaults file. */
 class PxDefaultsCheck
 {
 public:
-    /** `parent` holds the container. The ids of all themes, sorted; none when they are not known.
-     */
+    /** `parent` holds the container. The ids of all themes; none when they are not known. */
     PxDefaultsCheck(const PxCheckedFile &file, const PxSourceElement &parent,
-                    const QStringList &themeIds)
+                    PxKnownNames &themeIds)
         : m_file(file)
         , m_parent(parent)
         , m_themeIds(themeIds)
@@ -27,5 +27,5 @@ private:
 
     const PxCheckedFile &m_file;
     const PxSourceElement &m_parent;
-    const QStringList &m_themeIds;
+    PxKnownNames &m_themeIds;
 };

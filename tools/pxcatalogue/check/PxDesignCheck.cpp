@@ -15,7 +15,7 @@ void PxDesignCheck::checkProduct(const PxCheckedProduct &product, PxFindings *fi
     PxClassificationCheck(product).run(findings);
 }
 
-void PxDesignCheck::checkUserDefaults(const PxCheckedFile &file, PxFindings *findings) const
+void PxDesignCheck::checkUserDefaults(const PxCheckedFile &file, PxFindings *findings)
 {
     const PxUserDefaultsCheck check(file, m_productNames);
     check.checkName(findings);

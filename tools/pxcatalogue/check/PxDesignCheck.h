@@ -1,6 +1,7 @@
 #pragma once
 
 #include "check/PxCheckedProduct.h"
+#include "check/PxKnownNames.h"
 
 #include <QSet>
 
@@ -11,14 +12,14 @@
 class PxDesignCheck
 {
 public:
-    /** The ids of all themes, sorted; empty when they are not known. */
-    explicit PxDesignCheck(const QStringList &themeIds) : m_themeIds(themeIds) {}
+    /** The ids of all themes; empty when they are not known. */
+    explicit PxDesignCheck(const PxKnownNames &themeIds) : m_themeIds(themeIds) {}
 
     void checkProduct(const PxCheckedProduct &product, PxFindings *findings);
     /** A file of the user-defaults directory, when the products have been checked. */
-    void checkUserDefaults(const PxCheckedFile &file, PxFindings *findings) const;
+    void checkUserDefaults(const PxCheckedFile &file, PxFindings *findings);
 
 private:
-    QStringList m_themeIds;
+    PxKnownNames m_themeIds;
     QSet<QString> m_productNames; // of the products checked so far
 };

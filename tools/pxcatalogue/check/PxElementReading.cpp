@@ -17,6 +17,20 @@ const PxElementRow &rowOf(const PxSourceElement &element, PxFileKind kind)
     return row ? *row : PxVocabulary::root(kind);
 }
 
+// Elements of one search: what was meant for a child stands near by, and files may have 200 000.
+constexpr int maximumSearched = 10000;
+
+/** Whether any is read between the tags. */
+bool hasText(const PxSourceElement &element)
+{
+    return std::any_of(element.nodes.begin(), element.nodes.end(),
+                       [](const PxSourceNode &node) {
+                           return node.isText() && !QStringView(node.text).trimmed().isEmpty();
+                       }) ||
+           std::any_of(element.children.begin(), element.children.end(),
+                       [](const PxSourceElement *child) { return hasText(*child); });
+}
+
 } // namespace
 
 PxElementReading::PxElementReading(const PxSourceElement &element, PxFileKind kind)
@@ -37,11 +51,11 @@ const PxSourceAttribute *PxElementReading::misspelling(const QString &attribute)
 {
     if (isGiven(attribute) || hasOnlyKnown())
         return nullptr;
-    const QStringList names = namesOfMissing();
     const auto found = std::find_if(m_element.attributes.begin(), m_element.attributes.end(),
                                     [&](const PxSourceAttribute &own) {
                                         return !PxVocabulary::attribute(m_row, own.name) &&
-                                               PxSpelling::nearest(own.name, names) == attribute;
+                                               PxSpelling::isNear(own.name, attribute) &&
+                                               meant(own.name) == attribute;
                                     });
     return found == m_element.attributes.end() ? nullptr : found;
 }
@@ -62,7 +76,7 @@ PxMissingPart PxElementReading::missingText() const
     };
     const auto found =
         std::find_if(m_element.attributes.begin(), m_element.attributes.end(), isUnknown);
-    return found != m_element.attributes.end() && m_element.dom.text().trimmed().isEmpty()
+    return found != m_element.attributes.end() && !hasText(m_element)
                ? PxMissingPart{found->nameRange, QStringLiteral("write it between the tags")}
                : PxMissingPart{m_element.textRange(), QString()};
 }
@@ -123,38 +137,43 @@ QStringList PxElementReading::namesOfMissing() const
     return names;
 }
 
-const PxSourceElement *PxElementReading::misplacedChild(const QString &name) const
+const PxSourceElement *PxElementReading::misplacedChild(const QString &name, Search search) const
 {
+    int left = maximumSearched;
+    const PxSourceElement *own = findBelow(m_element, name, &left);
+    // The others of any name are all like this one.
+    if (own || search == Search::Inside || m_row.occurrence == PxOccurrence::AnyName)
+        return own;
     const PxSourceElement *root = &m_element;
     while (root->parent)
         root = root->parent;
-    return findBelow(*root, name);
+    return findBelow(*root, name, &left);
 }
 
 /** Not in others like this element: what stands there belongs to those. */
 const PxSourceElement *PxElementReading::findBelow(const PxSourceElement &parent,
-                                                   const QString &name) const
+                                                   const QString &name, int *left) const
 {
     for (const PxSourceElement *child : parent.children) {
-        const bool isLike =
-            child->name == m_element.name || m_row.occurrence == PxOccurrence::AnyName;
-        if (child != &m_element && &parent == m_element.parent && isLike)
-            continue;
-        if (!PxSpelling::nearest(child->name, {name}).isEmpty())
+        if (--*left < 0)
+            return nullptr;
+        if (&parent == m_element.parent && child->name == m_element.name)
+            continue; // this one has been searched
+        if (PxSpelling::isNear(child->name, name))
             return child;
-        if (const PxSourceElement *found = findBelow(*child, name))
+        if (const PxSourceElement *found = findBelow(*child, name, left))
             return found;
     }
     return nullptr;
 }
 
-PxMissingPart PxElementReading::missingChild(const QString &name) const
+PxMissingPart PxElementReading::missingChild(const QString &name, Search search) const
 {
-    const PxSourceElement *meant = misplacedChild(name);
+    const PxSourceElement *meant = misplacedChild(name, search);
     if (!meant)
         return {m_element.nameRange, QString()};
     const PxElementRow *row = PxVocabulary::child(m_row, name);
-    const bool isEntry = row && PxVocabulary::childNames(*row).contains(meant->name);
+    const bool isEntry = row && PxVocabulary::isChildName(*row, meant->name);
     const bool isElsewhere = meant->name == name;
     return {meant->nameRange, isEntry ? QStringLiteral("put it into \"%1\"").arg(name)
                               : isElsewhere

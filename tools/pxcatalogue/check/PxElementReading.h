@@ -57,8 +57,10 @@ public:
 
     /** The attribute that may be meant by a name; none that is given already. */
     QString meant(const QString &name) const;
+    /** Where to look for what was meant for a child. */
+    enum class Search { Everywhere, Inside };
     /** A child that is missing, where that is a finding. */
-    PxMissingPart missingChild(const QString &name) const;
+    PxMissingPart missingChild(const QString &name, Search search = Search::Everywhere) const;
     /** The same of the entries in an element that holds nothing else, which may be there as text.
      */
     PxMissingPart missingEntries() const;
@@ -66,8 +68,9 @@ public:
 private:
     QStringList namesOfMissing() const;
     const PxSourceAttribute *misspelling(const QString &attribute) const;
-    const PxSourceElement *misplacedChild(const QString &name) const;
-    const PxSourceElement *findBelow(const PxSourceElement &parent, const QString &name) const;
+    const PxSourceElement *misplacedChild(const QString &name, Search search) const;
+    const PxSourceElement *findBelow(const PxSourceElement &parent, const QString &name,
+                                     int *left) const;
 
     const PxSourceElement &m_element;
     const PxElementRow &m_row;

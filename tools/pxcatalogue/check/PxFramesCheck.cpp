@@ -4,7 +4,7 @@
 #include "check/PxMessageText.h"
 #include "vocabulary/PxVocabulary.h"
 
-#include <QHash>
+#include <QMap>
 
 #include <algorithm>
 
@@ -20,7 +20,7 @@ bool isAscii(const QString &text)
 void PxFramesCheck::run(PxFindings *findings) const
 {
     const PxElementRow &row = *PxVocabulary::find(PxFileKind::Frames, QStringLiteral("frame"));
-    QHash<QString, const PxSourceElement *> frames; // by id
+    QMap<QString, const PxSourceElement *> frames; // by id
     for (const PxSourceElement *frame : m_file.root()->childrenNamed(QStringLiteral("frame"))) {
         const QString id = frame->value(QStringLiteral("id"));
         const QString missing = id.isEmpty() ? QStringLiteral("id") : QStringLiteral("name");

@@ -17,9 +17,9 @@ PxKeywordCheck::PxKeywordCheck(const PxCheckedFile &file, const PxSourceElement 
     : m_element(element)
     , m_row(row)
     , m_attribute(attribute)
-    , m_entries(PxSourceParts::ofAttribute(file, element, attribute.name))
+    , m_list(PxSourceParts::ofAttribute(file, element, attribute.name))
 {
-    for (PxSourcePart &entry : m_entries)
+    for (PxSourcePart &entry : m_list.parts)
         entry.text = entry.text.trimmed();
 }
 
@@ -60,9 +60,8 @@ void PxKeywordCheck::checkOneKeyword(PxFileFindings &findings) const
     const QString word = m_attribute.value.trimmed();
     if (isKnown(word))
         return;
-    QStringList words;
-    for (const QString &part : word.split(QLatin1Char(',')))
-        words += PxSpelling::words(part);
+    const QStringList words =
+        PxSpelling::words(QString(word).replace(QLatin1Char(','), QLatin1Char(' ')));
     const bool areKeywords =
         std::all_of(words.begin(), words.end(), [this](const QString &w) { return isKnown(w); });
     if (words.size() > 1 && areKeywords)
@@ -71,7 +70,7 @@ void PxKeywordCheck::checkOneKeyword(PxFileFindings &findings) const
                      now(), QStringLiteral("keep the one that is meant"));
     else
         checkUnknown({word,
-                      {m_entries.constFirst().range.begin, m_entries.constLast().range.end},
+                      {m_list.parts.constFirst().range.begin, m_list.parts.constLast().range.end},
                       m_attribute.valueRange},
                      now(), findings);
 }
@@ -80,7 +79,7 @@ void PxKeywordCheck::checkList(PxFileFindings &findings) const
 {
     bool areKnown = true;
     QString asRead;
-    for (const PxSourcePart &entry : m_entries) {
+    for (const PxSourcePart &entry : m_list.parts) {
         if (entry.text.isEmpty() || isKnown(entry.text))
             continue;
         if (areKnown)
@@ -89,7 +88,7 @@ void PxKeywordCheck::checkList(PxFileFindings &findings) const
         checkUnknown(entry, asRead, findings);
     }
     // An author who mends a word looks at the whole list anyway.
-    if (areKnown && !checkGap(findings) && !checkSeveral(findings))
+    if (areKnown && m_list.isWhole() && !checkGap(findings) && !checkSeveral(findings))
         checkRepeated(findings);
 }
 
@@ -115,21 +114,25 @@ void PxKeywordCheck::checkUnknown(const PxSourcePart &entry, const QString &asRe
                                .arg(PxMessageText::shortened(words.join(QLatin1Char(',')))));
         return;
     }
-    const bool isAlignment = m_row.keywords == PxKeywordSet::Alignment;
-    findings.add(isAlignment ? "alignment-unknown" : "keyword-unknown", entry.range,
+    const char *tag =
+        m_row.keywords == PxKeywordSet::Alignment ? "alignment-unknown" : "keyword-unknown";
+    findings.add(tag, entry.range,
                  QStringLiteral("\"%1\" is no %2").arg(PxMessageText::shortened(entry.text), name),
-                 asRead, PxSpelling::hint(entry.text, PxVocabulary::keywordNames(m_row.keywords)));
+                 asRead,
+                 findings.isTold(tag, entry.range)
+                     ? PxSpelling::hint(entry.text, PxVocabulary::keywordNames(m_row.keywords))
+                     : QString());
 }
 
 /** An entry without a word adds the default, which matters where the default is something. */
 bool PxKeywordCheck::checkGap(PxFileFindings &findings) const
 {
-    const auto gap = std::find_if(m_entries.begin(), m_entries.end(),
+    const auto gap = std::find_if(m_list.parts.begin(), m_list.parts.end(),
                                   [](const PxSourcePart &entry) { return entry.text.isEmpty(); });
-    if (gap == m_entries.end())
+    if (gap == m_list.parts.end())
         return false;
     QStringList words;
-    for (const PxSourcePart &entry : m_entries) {
+    for (const PxSourcePart &entry : m_list.parts) {
         if (!entry.text.isEmpty())
             words.append(entry.text);
     }
@@ -142,7 +145,7 @@ bool PxKeywordCheck::checkGap(PxFileFindings &findings) const
     if (words.isEmpty() ? isMissing : all == without)
         return false;
     // The comma before it, or behind it when it is the first.
-    const int comma = gap == m_entries.begin() ? gap->whole.end : gap->whole.begin - 1;
+    const int comma = gap == m_list.parts.begin() ? gap->whole.end : gap->whole.begin - 1;
     findings.add("keyword-list-gap", {comma, comma + 1},
                  QStringLiteral("an entry of \"%1\" is empty").arg(m_attribute.name),
                  QStringLiteral("it adds %1")
@@ -156,7 +159,7 @@ bool PxKeywordCheck::checkSeveral(PxFileFindings &findings) const
     if (m_row.type != PxValueType::Keyword)
         return false;
     QSet<int> values;
-    for (const PxSourcePart &entry : m_entries) {
+    for (const PxSourcePart &entry : m_list.parts) {
         if (!entry.text.isEmpty())
             values.insert(PxVocabulary::decode(m_row.keywords, entry.text));
     }
@@ -174,7 +177,7 @@ bool PxKeywordCheck::checkSeveral(PxFileFindings &findings) const
 void PxKeywordCheck::checkRepeated(PxFileFindings &findings) const
 {
     QSet<QString> words;
-    for (const PxSourcePart &entry : m_entries) {
+    for (const PxSourcePart &entry : m_list.parts) {
         const QString word = entry.text.toLower();
         if (words.contains(word) && !word.isEmpty()) {
             findings.add("keyword-repeated", entry.range,

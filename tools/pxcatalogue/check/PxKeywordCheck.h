@@ -32,5 +32,5 @@ private:
     const PxSourceElement &m_element;
     const PxAttributeRow &m_row;
     const PxSourceAttribute &m_attribute;
-    QVector<PxSourcePart> m_entries; // texts without blanks
+    PxSourceList m_list; // texts without blanks
 };

@@ -1,7 +1,5 @@
 #include "check/PxListedProductTypes.h"
 
-#include "check/PxSpelling.h"
-
 #include <PxDirectoryConfig.h>
 #include <PxXMLLoader.h>
 
@@ -31,8 +29,10 @@ PxListedProductTypes::PxListedProductTypes()
     // A name that stands there twice is the same type both times.
     std::sort(m_types.begin(), m_types.end());
     m_types.erase(std::unique(m_types.begin(), m_types.end()), m_types.end());
+    QStringList names;
     for (const PxProductType &type : qAsConst(m_types))
-        m_names.append(type.productName());
+        names.append(type.productName());
+    m_names = PxKnownNames(names);
 }
 
 /** The name may stand in any attribute, when that of the name is misspelt. */
@@ -41,10 +41,4 @@ void PxListedProductTypes::addKeysOf(const QDomElement &row)
     const QDomNamedNodeMap attributes = row.attributes();
     for (int i = 0; i < attributes.size(); ++i)
         m_keys.insert(key(attributes.item(i).nodeValue()));
-}
-
-QString PxListedProductTypes::hint(const QString &name)
-{
-    m_comparisonsLeft -= qMin(m_comparisonsLeft, m_names.size());
-    return m_comparisonsLeft > 0 ? PxSpelling::hint(name, m_names) : QString();
 }

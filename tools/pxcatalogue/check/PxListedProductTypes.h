@@ -1,10 +1,12 @@
 #pragma once
 
+#include "check/PxKnownNames.h"
+
 #include <PxProductTypeList.h>
 
 #include <QDomElement>
-#include <QSet>
-#include <QStringList>
+
+#include <set>
 
 /** The product types of producttypes.xml: the library finds them by name, but does not list them.
  */
@@ -21,10 +23,10 @@ public:
     /** Stands there, though the library may leave the row out: that is told at the row. */
     bool isListed(const QString &name) const
     {
-        return !name.trimmed().isEmpty() && m_keys.contains(key(name));
+        return !name.trimmed().isEmpty() && m_keys.count(key(name)) > 0;
     }
     /** Which product was meant, or an empty text. */
-    QString hint(const QString &name);
+    QString hint(const QString &name) { return m_names.hint(name); }
 
 private:
     PxListedProductTypes();
@@ -32,8 +34,6 @@ private:
     static QString key(const QString &name) { return name.trimmed().toCaseFolded(); }
 
     PxProductTypeList m_types;
-    QStringList m_names; // of the types
-    QSet<QString> m_keys;
-    // Names to compare: guessing takes time, and so many mistakes are no slips of the pen.
-    int m_comparisonsLeft = 1000000;
+    PxKnownNames m_names;     // of the types
+    std::set<QString> m_keys; // no hash: names can be made to collide
 };

@@ -11,6 +11,8 @@ namespace {
 
 using Description = PxProductTypeDescription;
 
+constexpr const char *foldMargin = "foldmargin"; // which depends on surroundings, too
+
 /** The attributes whose default depends on others, and who knows what became of it. */
 constexpr struct
 {
@@ -25,7 +27,7 @@ constexpr struct
      [](const Description &d) { return QString::number(d.bleedMarginCover().horizontal()); }},
     {"bleedmargincoververtical",
      [](const Description &d) { return QString::number(d.bleedMarginCover().vertical()); }},
-    {"foldmargin", [](const Description &d) { return QString::number(d.foldMargin()); }},
+    {foldMargin, [](const Description &d) { return QString::number(d.foldMargin()); }},
     {"fullBackgroundOnEachPage",
      [](const Description &d) {
          return d.fullBackgroundOnEachPage() ? QStringLiteral("true") : QStringLiteral("false");
@@ -39,6 +41,25 @@ constexpr struct
          return PxVocabulary::encode(PxKeywordSet::SizeClass, d.spaceMagnitude().value());
      }},
 };
+
+/**
+ * The product with no more than the answers depend on: its attributes and its size. A file may hold
+ * long lists, and reading them for each of the answers takes long.
+ */
+QDomElement withoutLists(const QDomElement &product, const char *asked)
+{
+    constexpr int maximumLength = 1000; // letters of a value
+    const QString size = QStringLiteral("usablesize");
+    QDomElement copy = product.cloneNode(false).toElement();
+    const QDomNamedNodeMap attributes = product.attributes();
+    for (int i = 0; i < attributes.size(); ++i) {
+        const QDomAttr attribute = attributes.item(i).toAttr();
+        if (attribute.name() != QLatin1String(asked) && attribute.value().size() > maximumLength)
+            copy.removeAttribute(attribute.name());
+    }
+    copy.appendChild(product.firstChildElement(size).cloneNode(false));
+    return copy;
+}
 
 /** What the documentation says about a missing attribute. */
 QString absence(const PxAttributeRow &attribute)
@@ -102,5 +123,9 @@ QString PxMissingValue::answer(const PxSourceElement &element, const PxAttribute
     const auto *found = std::find_if(std::begin(answers), std::end(answers), [&](const auto &row) {
         return qstrcmp(row.attribute, attribute.name) == 0;
     });
-    return found == std::end(answers) ? QString() : found->answer(Description(product->dom));
+    if (found == std::end(answers))
+        return QString();
+    return found->answer(Description(found->attribute == foldMargin
+                                         ? product->dom
+                                         : withoutLists(product->dom, found->attribute)));
 }

@@ -57,25 +57,28 @@ void PxNumberListCheck::run(PxFindings *findings) const
 
 bool PxNumberListCheck::checkParts(const PxSourceElement &list, PxFindings *findings) const
 {
-    const QVector<PxSourcePart> parts = PxSourceParts::ofText(m_product.file(), list);
+    const PxSourceList source = PxSourceParts::ofText(m_product.file(), list);
+    const QVector<PxSourcePart> &parts = source.parts;
     const int numbers = pxIntList(list.dom.text()).size();
     const QString now =
         numbers > 0
             ? QStringLiteral("it is left out: %1 of %2 parts are read")
                   .arg(numbers)
-                  .arg(parts.size())
+                  .arg(source.count)
             : QStringLiteral("the list holds no number then, which means: %1").arg(absence(list));
     PxFileFindings found(m_product.file(), findings);
     for (int i = 0; i < parts.size(); ++i) {
         const QString text = parts[i].text.trimmed();
         // Nothing is lost with an empty part at the end, and an empty text is the default.
-        if (!pxIntList(parts[i].text).isEmpty() || (text.isEmpty() && i == parts.size() - 1))
+        if (!pxIntList(parts[i].text).isEmpty() || (text.isEmpty() && i == source.count - 1))
             continue;
         found.add("number-list-part-dropped", parts[i].range,
                   text.isEmpty()
                       ? QStringLiteral("part %1 of \"%2\" is empty").arg(i + 1).arg(list.name)
                       : QStringLiteral("\"%1\" is no whole number").arg(text),
-                  now, separatorHint(text));
+                  now,
+                  found.isTold("number-list-part-dropped", parts[i].range) ? separatorHint(text)
+                                                                           : QString());
     }
     return found.isEmpty();
 }
@@ -83,9 +86,10 @@ bool PxNumberListCheck::checkParts(const PxSourceElement &list, PxFindings *find
 /** The numbers that go on from the last one may meet those that the list has given already. */
 void PxNumberListCheck::checkNumbering(const PxSourceElement &list, PxFindings *findings) const
 {
-    const QVector<PxSourcePart> parts = PxSourceParts::ofText(m_product.file(), list);
+    const PxSourceList source = PxSourceParts::ofText(m_product.file(), list);
+    const QVector<PxSourcePart> &parts = source.parts;
     const QList<int> given = pxIntList(list.dom.text());
-    if (!m_pages.isKnown() || given.isEmpty() || parts.size() != given.size())
+    if (!m_pages.isKnown() || given.isEmpty() || !source.isWhole() || parts.size() != given.size())
         return;
     const QList<int> all = m_product.description().productionNumberingList(m_pages.lastPage() + 1);
     const QList<int> continued = all.mid(given.size());
@@ -111,11 +115,14 @@ void PxNumberListCheck::checkExtraPage(const PxSourceElement &item, PxFindings *
     // A list of which nothing is left has lost more than its parts.
     if (hasTarget && !checkParts(*pages, findings))
         return;
+    constexpr const char *tag = "extra-page-incomplete";
     PxMissingPart missing;
     QString message;
     if (!pages || !pdf) {
         const QString name = pages ? QStringLiteral("pdf") : QStringLiteral("target_pages");
-        missing = PxElementReading(item).missingChild(name);
+        const bool isTold = m_product.file().isTold(findings, tag, item.nameRange);
+        missing = PxElementReading(item).missingChild(
+            name, isTold ? PxElementReading::Search::Everywhere : PxElementReading::Search::Inside);
         message = QStringLiteral("no \"%1\"").arg(name);
     } else if (!hasTarget) {
         missing = PxElementReading(*pages).missingText();
@@ -129,7 +136,7 @@ void PxNumberListCheck::checkExtraPage(const PxSourceElement &item, PxFindings *
         return;
     }
     const int count = group.targetPages().size();
-    m_product.add(findings, "extra-page-incomplete", missing.range, message,
+    m_product.add(findings, tag, missing.range, message,
                   QStringLiteral("production gets the file \"%1\" for %2 target %3")
                       .arg(group.content().filename(), QString::number(count),
                            count == 1 ? QLatin1String("page") : QLatin1String("pages")),

@@ -17,12 +17,12 @@ PxPageEntries::PxPageEntries(const PxCheckedProduct &product)
     m_isGiven = pages != nullptr;
     if (!pages)
         return;
-    const QVector<PxSourcePart> parts = PxSourceParts::ofText(product.file(), *pages);
-    for (const PxSourcePart &part : parts.mid(0, product.description().countAbstractPages()))
+    const PxSourceList list = PxSourceParts::ofText(product.file(), *pages);
+    for (const PxSourcePart &part : list.parts.mid(0, product.description().countAbstractPages()))
         m_read.append({part.text.trimmed(), PxPageType(part.text), part.range});
-    m_droppedCount = parts.size() - m_read.size();
+    m_droppedCount = list.count - m_read.size();
     if (m_droppedCount > 0)
-        m_firstDropped = parts.at(m_read.size()).range;
+        m_firstDropped = list.parts.at(m_read.size()).range;
 }
 
 bool PxPageEntries::hasPage() const

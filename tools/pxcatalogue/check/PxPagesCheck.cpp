@@ -132,11 +132,14 @@ void PxPagesCheck::checkCount(PxFindings *findings) const
 
 void PxPagesCheck::checkEntry(const PxPageEntry &entry, PxFindings *findings) const
 {
-    if (entry.text.isEmpty()) {
+    const char *tag = entry.text.isEmpty() ? "pages-entry-empty" : "pages-entry-unknown";
+    if (entry.type.isNull() && !m_product.file().isTold(findings, tag, entry.range)) {
+        m_product.add(findings, tag, entry.range, QString());
+    } else if (entry.text.isEmpty()) {
         const PxMissingPart text =
             PxElementReading(*m_product.element().firstChild(QStringLiteral("pages")))
                 .missingText();
-        m_product.add(findings, "pages-entry-empty", text.hint.isEmpty() ? entry.range : text.range,
+        m_product.add(findings, tag, text.hint.isEmpty() ? entry.range : text.range,
                       m_pages.read().size() == 1
                           ? QStringLiteral("the list of pages is empty")
                           : QStringLiteral("an empty entry in the list of pages"),
@@ -144,7 +147,7 @@ void PxPagesCheck::checkEntry(const PxPageEntry &entry, PxFindings *findings) co
                                         : nowWithoutPages(),
                       text.hint);
     } else if (entry.type.isNull()) {
-        m_product.add(findings, "pages-entry-unknown", entry.range,
+        m_product.add(findings, tag, entry.range,
                       QStringLiteral("\"%1\" is no type of page").arg(entry.text),
                       nowWithout(entry), hintFor(entry.text, isRangeMissing()));
     } else if (entry.isUnion()) {

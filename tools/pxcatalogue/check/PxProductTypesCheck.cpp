@@ -39,11 +39,10 @@ void PxProductTypesCheck::checkMisspelt(const PxSourceElement &root, PxFindings 
 {
     const QString row = QStringLiteral("producttype");
     for (const PxSourceElement *child : root.children) {
-        if (child->name != row && !PxSpelling::nearest(child->name, {row}).isEmpty())
+        if (child->name != row && PxSpelling::isNear(child->name, row))
             m_file.add(findings, "product-type-row-dropped", child->nameRange,
                        QStringLiteral("\"%1\" is no \"%2\"").arg(child->name, row),
-                       QStringLiteral("the product type is left out"),
-                       PxSpelling::hint(child->name, {row}));
+                       QStringLiteral("the product type is left out"), PxSpelling::didYouMean(row));
     }
 }
 

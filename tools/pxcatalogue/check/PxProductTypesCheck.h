@@ -4,7 +4,6 @@
 
 #include <PxProductType.h>
 
-#include <QHash>
 #include <QMap>
 
 /** Checks the rows of producttypes.xml. */
@@ -27,7 +26,7 @@ private:
     void checkStyle(const PxSourceElement &row, const QString &name, PxFindings *findings) const;
 
     const PxCheckedFile &m_file;
-    QHash<int, const PxSourceElement *> m_rowOfCode; // of the rows that the library takes
-    QHash<QString, const PxSourceElement *> m_rowOfName;
+    QMap<int, const PxSourceElement *> m_rowOfCode; // of the rows that the library takes
+    QMap<QString, const PxSourceElement *> m_rowOfName;
     QMap<PxProductType, PxPlace> m_places;
 };

@@ -16,11 +16,12 @@ public:
         open(m_position);
         while (m_position < m_end)
             readNext();
-        m_parts.last().whole.end = m_end;
+        if (isKept())
+            m_list.parts.last().whole.end = m_end;
     }
 
     /** Without their texts. */
-    QVector<PxSourcePart> parts() const { return m_parts; }
+    PxSourceList list() const { return m_list; }
 
 private:
     bool isAt(const char *mark) const
@@ -34,7 +35,13 @@ private:
         const int found = m_source.indexOf(text, m_position + int(qstrlen(opening)));
         return found < 0 || found + text.size() > m_end ? m_end : found + text.size();
     }
-    void open(int begin) { m_parts.append({QString(), {begin, begin}, {begin, begin}}); }
+    void open(int begin)
+    {
+        if (m_list.count++ < PxSourceParts::maximum)
+            m_list.parts.append({QString(), {begin, begin}, {begin, begin}});
+    }
+    /** Whether the last part is there. */
+    bool isKept() const { return m_list.isWhole(); }
 
     void readNext();
     void readCharacterData();
@@ -45,7 +52,7 @@ private:
     int m_position;
     int m_end;
     bool m_isBlank = true; // the last part, so far
-    QVector<PxSourcePart> m_parts;
+    PxSourceList m_list;
 };
 
 void ListScanner::readNext()
@@ -87,12 +94,13 @@ void ListScanner::readReference()
 /** `end` is behind what stands for the character. */
 void ListScanner::add(QChar character, int end)
 {
-    PxSourcePart &part = m_parts.last();
+    PxSourcePart &part = m_list.parts.last();
     if (character == QLatin1Char(',')) {
-        part.whole.end = m_position;
+        if (isKept())
+            part.whole.end = m_position;
         m_isBlank = true;
         open(end);
-    } else if (!character.isSpace()) {
+    } else if (!character.isSpace() && isKept()) {
         if (m_isBlank)
             part.range.begin = m_position;
         m_isBlank = false;
@@ -102,25 +110,27 @@ void ListScanner::add(QChar character, int end)
 }
 
 /** `value` is what the library reads of the source text in `range`. */
-QVector<PxSourcePart> split(const PxCheckedFile &file, const PxSourceRange &range,
-                            const QString &value)
+PxSourceList split(const PxCheckedFile &file, const PxSourceRange &range, const QString &value)
 {
-    QStringList texts;
-    pxForEachPart(value, [&texts](QStringView text) { texts.append(text.toString()); });
     const QString source = file.source().text();
-    QVector<PxSourcePart> parts = ListScanner(source, range).parts();
-    if (parts.size() != texts.size())
-        parts = QVector<PxSourcePart>(texts.size(), {QString(), range, range});
-    for (int i = 0; i < parts.size(); ++i)
-        parts[i].text = texts[i];
-    return parts;
+    PxSourceList list = ListScanner(source, range).list();
+    const int count = value.count(QLatin1Char(',')) + 1;
+    if (list.count != count) {
+        const PxSourcePart whole{QString(), range, range};
+        list = {QVector<PxSourcePart>(qMin(count, PxSourceParts::maximum), whole), count};
+    }
+    auto part = list.parts.begin();
+    pxForEachPart(value, [&](QStringView text) {
+        if (part != list.parts.end())
+            (part++)->text = text.toString();
+    });
+    return list;
 }
 
 } // namespace
 
-QVector<PxSourcePart> PxSourceParts::ofAttribute(const PxCheckedFile &file,
-                                                 const PxSourceElement &element,
-                                                 const QString &name)
+PxSourceList PxSourceParts::ofAttribute(const PxCheckedFile &file, const PxSourceElement &element,
+                                        const QString &name)
 {
     const PxSourceAttribute *attribute = element.attribute(name);
     if (!attribute)
@@ -128,8 +138,7 @@ QVector<PxSourcePart> PxSourceParts::ofAttribute(const PxCheckedFile &file,
     return split(file, attribute->valueRange, attribute->value);
 }
 
-QVector<PxSourcePart> PxSourceParts::ofText(const PxCheckedFile &file,
-                                            const PxSourceElement &element)
+PxSourceList PxSourceParts::ofText(const PxCheckedFile &file, const PxSourceElement &element)
 {
     return split(file, element.textRange(), element.dom.text());
 }

@@ -10,6 +10,15 @@ struct PxSourcePart
     PxSourceRange whole; ///< with them
 };
 
+/** The parts of a list; of a very long one the first. */
+struct PxSourceList
+{
+    QVector<PxSourcePart> parts;
+    int count = 0; ///< of all its parts
+
+    bool isWhole() const { return count == parts.size(); }
+};
+
 /**
  * The parts of the lists in files.
  *
@@ -19,9 +28,12 @@ struct PxSourcePart
 class PxSourceParts
 {
 public:
+    /** Lists of files that somebody wrote have hundreds; those of a hostile one have millions. */
+    static constexpr int maximum = 100000;
+
     /** Of the value of an attribute; none when there is no such attribute. */
-    static QVector<PxSourcePart> ofAttribute(const PxCheckedFile &file,
-                                             const PxSourceElement &element, const QString &name);
+    static PxSourceList ofAttribute(const PxCheckedFile &file, const PxSourceElement &element,
+                                    const QString &name);
     /** Of the text in an element. */
-    static QVector<PxSourcePart> ofText(const PxCheckedFile &file, const PxSourceElement &element);
+    static PxSourceList ofText(const PxCheckedFile &file, const PxSourceElement &element);
 };

@@ -6,9 +6,6 @@
 
 #include <cstdlib>
 
-// No name of the vocabulary is longer; comparing longer words would cost time for nothing.
-static constexpr int maximumLength = 64;
-
 QString PxSpelling::nearest(const QString &word, const QStringList &candidates)
 {
     const QString wanted = word.trimmed().toUpper();
@@ -35,6 +32,11 @@ QString PxSpelling::hint(const QString &word, const QStringList &candidates)
     return name.isEmpty() ? QString() : didYouMean(name);
 }
 
+bool PxSpelling::isNear(const QString &word, const QString &name)
+{
+    return !nearest(word, {name}).isEmpty();
+}
+
 QString PxSpelling::didYouMean(const QString &name)
 {
     return QStringLiteral("did you mean \"%1\"?").arg(name);
@@ -43,5 +45,7 @@ QString PxSpelling::didYouMean(const QString &name)
 QStringList PxSpelling::words(const QString &list)
 {
     static const QRegularExpression ourSeparators(QStringLiteral("[;|/+\\s]+"));
+    if (list.size() > maximumList)
+        return {list};
     return list.split(ourSeparators, Qt::SkipEmptyParts);
 }

@@ -2,7 +2,7 @@
 
 #include "check/PxCheckedFile.h"
 
-#include <QHash>
+#include <QMap>
 #include <QSet>
 
 /** Checks theme files, each and all together. */
@@ -27,9 +27,9 @@ private:
     bool isReadBeside(const PxPlace &known, const PxCheckedFile &file) const;
     bool isComplete() const;
 
-    QSet<QString> m_files;            ///< canonical paths of those that the library reads
-    QSet<QString> m_knownFiles;       ///< as they are shown: those that are not checked
-    QHash<QString, PxPlace> m_themes; ///< where an id is first, by id
+    QSet<QString> m_files;           ///< canonical paths of those that the library reads
+    QSet<QString> m_knownFiles;      ///< as they are shown: those that are not checked
+    QMap<QString, PxPlace> m_themes; ///< where an id is first, by id
     PxPlace m_firstRoot;
     bool m_hasUnnamed = false;
 };

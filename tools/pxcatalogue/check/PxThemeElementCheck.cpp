@@ -107,12 +107,14 @@ void PxThemeElementCheck::checkGroup(PxFindings *findings) const
                        : QStringLiteral("the theme has no \"producttype\""),
                    now, missing.hintOr(QStringLiteral("name the product group, as in \"book\"")));
     } else if (!PxProductGroup(group).isValid()) {
-        m_file.add(
-            findings, "theme-group-unknown", m_theme.rangeOf(attribute),
-            QStringLiteral("\"%1\" is no product group").arg(group), now,
-            group.contains(QLatin1Char(','))
-                ? QStringLiteral("name one product group only")
-                : PxSpelling::hint(group, PxVocabulary::keywordNames(PxKeywordSet::ProductGroup)));
+        constexpr const char *tag = "theme-group-unknown";
+        QString hint;
+        if (group.contains(QLatin1Char(',')))
+            hint = QStringLiteral("name one product group only");
+        else if (m_file.isTold(findings, tag, m_theme.rangeOf(attribute)))
+            hint = PxSpelling::hint(group, PxVocabulary::keywordNames(PxKeywordSet::ProductGroup));
+        m_file.add(findings, tag, m_theme.rangeOf(attribute),
+                   QStringLiteral("\"%1\" is no product group").arg(group), now, hint);
     }
 }
 
@@ -133,7 +135,9 @@ void PxThemeElementCheck::checkExpiry(PxFindings *findings) const
                    missing.hintOr(QStringLiteral("write year to minute, as in \"205012312359\"")));
     else if (!m_expiry.isValid())
         m_file.add(findings, "theme-expiry-malformed", range,
-                   QStringLiteral("\"%1\" is no date and time").arg(text), now, expiryHint(text));
+                   QStringLiteral("\"%1\" is no date and time").arg(text), now,
+                   m_file.isTold(findings, "theme-expiry-malformed", range) ? expiryHint(text)
+                                                                            : QString());
     else if (m_isExpired)
         m_file.add(findings, "theme-expiry-past", range,
                    QStringLiteral("the theme expired on %1")
@@ -231,22 +235,27 @@ void PxThemeElementCheck::checkProducts(PxFindings *findings) const
         return PxElementReading(product, PxFileKind::Theme).missingText();
     };
     if (!unknown.isEmpty() && !isAnyKnown) {
+        constexpr const char *tag = "theme-products-all-unknown";
         const PxMissingPart text = textOf(*unknown.constFirst());
         m_file.add(
-            findings, "theme-products-all-unknown",
-            text.hint.isEmpty() ? products->nameRange : text.range,
+            findings, tag, text.hint.isEmpty() ? products->nameRange : text.range,
             unknown.size() == 1
                 ? QStringLiteral("%1, and no other is there")
                       .arg(unknownText(*unknown.constFirst()))
                 : QStringLiteral("none of %1 names is a known product name").arg(unknown.size()),
             QStringLiteral("the theme is allowed for every product"),
-            text.hintOr(productHint(unknown.constFirst()->dom.text())));
+            m_file.isTold(findings, tag, text.range)
+                ? text.hintOr(productHint(unknown.constFirst()->dom.text()))
+                : QString());
         return;
     }
     for (const PxSourceElement *product : unknown) {
+        constexpr const char *tag = "theme-product-unknown";
         const PxMissingPart text = textOf(*product);
-        m_file.add(findings, "theme-product-unknown", text.range, unknownText(*product),
-                   QStringLiteral("it is left out"), text.hintOr(productHint(product->dom.text())));
+        m_file.add(
+            findings, tag, text.range, unknownText(*product), QStringLiteral("it is left out"),
+            m_file.isTold(findings, tag, text.range) ? text.hintOr(productHint(product->dom.text()))
+                                                     : QString());
     }
 }
 

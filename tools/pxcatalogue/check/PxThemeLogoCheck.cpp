@@ -45,7 +45,9 @@ void PxThemeLogoCheck::checkProduct(const PxSourceElement &logo, PxFindings *fin
     } else if (!types.isEmpty() && !types.isListed(name)) {
         m_file.add(findings, "theme-logo-product-unknown", logo.rangeOf(booktype),
                    QStringLiteral("\"%1\" is no known product name").arg(name), now,
-                   types.hint(name));
+                   m_file.isTold(findings, "theme-logo-product-unknown", logo.rangeOf(booktype))
+                       ? types.hint(name)
+                       : QString());
     }
 }
 

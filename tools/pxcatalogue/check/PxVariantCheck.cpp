@@ -6,7 +6,7 @@
 
 #include <classification/PxProductVariantIdentifiers.h>
 
-#include <QHash>
+#include <QMap>
 
 #include <algorithm>
 
@@ -33,7 +33,7 @@ void PxVariantCheck::run(PxFindings *findings) const
 
 void PxVariantCheck::checkEach(const PxSourceElement &list, PxFindings *findings) const
 {
-    QHash<QString, const PxSourceElement *> known;
+    QMap<QString, const PxSourceElement *> known;
     for (const PxSourceElement *variant : list.children) {
         const QString identifier = variant->dom.text();
         const PxSourceElement *first = known.value(identifier);

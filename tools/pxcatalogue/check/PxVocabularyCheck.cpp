@@ -14,6 +14,8 @@
 
 namespace {
 
+constexpr int maximumText = 1000; // letters of a text that is only quoted
+
 QString nameOf(const PxElementRow &row)
 {
     return QLatin1String(row.name);
@@ -103,14 +105,14 @@ void PxVocabularyCheck::checkAttributes(const Place &place, PxFileFindings &find
 void PxVocabularyCheck::addUnknownAttribute(const Place &place, const PxSourceAttribute &attribute,
                                             PxFileFindings &findings) const
 {
+    constexpr const char *tag = "attribute-unknown";
     const QString local = localName(attribute.name);
     const bool hasPrefix = local != attribute.name;
     const PxVocabularySearch search(PxVocabulary::root(m_kind), place.row, place.parent);
-    const QStringList owners = search.ownersOf(attribute.name);
-    if (hasPrefix ? !PxVocabulary::attribute(place.row, local) : !place.parent && owners.isEmpty())
+    if (hasPrefix ? !PxVocabulary::attribute(place.row, local)
+                  : !place.parent && search.ownersOf(attribute.name).isEmpty())
         return; // somebody else's, or a note about the file as a whole, as its version
 
-    QString now;
     const QString asText = place.row.text == PxTextKind::None
                                ? QString()
                                : PxElementReading(place.element, place.row).missingText().hint;
@@ -118,7 +120,13 @@ void PxVocabularyCheck::addUnknownAttribute(const Place &place, const PxSourceAt
     if (!asText.isEmpty() && place.before && place.before->name == place.element.name &&
         !PxElementReading(*place.before, place.row).missingText().hint.isEmpty())
         return;
+    if (!findings.isTold(tag, attribute.nameRange)) {
+        findings.add(tag, attribute.nameRange, QString());
+        return;
+    }
+    QString now;
     QString hint;
+    const QStringList owners = search.ownersOf(attribute.name);
     const QString meant = PxElementReading(place.element, place.row).meant(attribute.name);
     // The same letters are a better guess than another element, and that one than other letters.
     if (hasPrefix) {
@@ -131,9 +139,10 @@ void PxVocabularyCheck::addUnknownAttribute(const Place &place, const PxSourceAt
         hint = PxSpelling::didYouMean(meant);
         now = PxMissingValue::text(place.element, *PxVocabulary::attribute(place.row, meant));
     }
-    findings.add("attribute-unknown", attribute.nameRange,
+    findings.add(tag, attribute.nameRange,
                  QStringLiteral("\"%1\" is not read on \"%2\"")
-                     .arg(PxMessageText::shortened(attribute.name), place.element.name),
+                     .arg(PxMessageText::shortened(attribute.name),
+                          PxMessageText::shortened(place.element.name)),
                  now.isEmpty() ? QStringLiteral("it is passed over")
                                : QStringLiteral("\"%1\" is missing: %2").arg(meant, now),
                  hint);
@@ -156,7 +165,8 @@ void PxVocabularyCheck::checkText(const Place &place, PxFileFindings &findings) 
     const bool isOfChild = children.size() == 1 && children.begin()->text != PxTextKind::None;
     findings.add("text-not-read", text->range,
                  QStringLiteral("the text \"%1\" is not read in \"%2\"")
-                     .arg(PxMessageText::shortened(text->text.simplified()), place.element.name),
+                     .arg(PxMessageText::shortened(text->text.left(maximumText).simplified()),
+                          PxMessageText::shortened(place.element.name)),
                  QStringLiteral("it is passed over"),
                  isOfChild
                      ? QStringLiteral("put it into a \"%1\" element").arg(nameOf(*children.begin()))
@@ -223,13 +233,19 @@ void PxVocabularyCheck::addUnknownElement(const Place &place, int index,
         addMisplaced(place, index, *owner, now, findings);
         return;
     }
+    constexpr const char *tag = "element-unknown";
+    if (!findings.isTold(tag, child.nameRange)) {
+        findings.add(tag, child.nameRange, QString());
+        return;
+    }
     QString hint = hasPrefix ? withoutPrefix(local)
                              : PxSpelling::hint(local, PxVocabulary::childNames(place.row));
     if (hint.isEmpty())
         hint = PxSpelling::hint(local, search.elementNames());
-    findings.add("element-unknown", child.nameRange,
+    findings.add(tag, child.nameRange,
                  QStringLiteral("\"%1\" is not read in \"%2\"")
-                     .arg(PxMessageText::shortened(child.name), place.element.name),
+                     .arg(PxMessageText::shortened(child.name),
+                          PxMessageText::shortened(place.element.name)),
                  now, hint);
 }
 

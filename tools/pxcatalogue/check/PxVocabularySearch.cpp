@@ -17,7 +17,7 @@ void forEachRow(const PxElementRow &row, Visit visit)
 const PxElementRow *PxVocabularySearch::parentOf(const QString &element) const
 {
     const auto isParent = [&element](const PxElementRow &row) {
-        return PxVocabulary::childNames(row).contains(element);
+        return PxVocabulary::isChildName(row, element);
     };
     for (const PxElementRow &child : m_from.children) {
         if (isParent(child))

@@ -58,6 +58,12 @@ const PxElementRow *PxVocabulary::child(const PxElementRow &parent, const QStrin
     return found == parent.children.end() ? nullptr : found;
 }
 
+bool PxVocabulary::isChildName(const PxElementRow &parent, const QString &name)
+{
+    return std::any_of(parent.children.begin(), parent.children.end(),
+                       [&](const PxElementRow &row) { return isNamed(row.name, name); });
+}
+
 const PxAttributeRow *PxVocabulary::attribute(const PxElementRow &element, const QString &name)
 {
     const auto *found =

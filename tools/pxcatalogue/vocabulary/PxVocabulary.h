@@ -20,6 +20,8 @@ public:
     static const PxElementRow *find(PxFileKind kind, const QString &path);
     /** Null for an element that is not read there. */
     static const PxElementRow *child(const PxElementRow &parent, const QString &name);
+    /** Whether it is a usual name of such an element. */
+    static bool isChildName(const PxElementRow &parent, const QString &name);
     /** Null for an attribute that is not read. */
     static const PxAttributeRow *attribute(const PxElementRow &element, const QString &name);
     /** The usual names. */
