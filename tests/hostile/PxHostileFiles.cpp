@@ -13,7 +13,9 @@ static QByteArray product(const QByteArray &name, const QByteArray &attributes,
            "><usablesize width='2100' height='2970'/>" + children + "</product></d>";
 }
 
-#ifdef PX_SANITIZED
+#ifdef PX_HOSTILE_SHARE
+constexpr int share = PX_HOSTILE_SHARE;
+#elif defined(PX_SANITIZED)
 constexpr int share = 4; // they take their time
 #else
 constexpr int share = 1;
@@ -25,7 +27,11 @@ constexpr int readableSize = 8 * 1024 * 1024;
 /** As often as the loader lets a file have nodes, or as 2 MB hold it: far beyond a real file. */
 static QByteArray asMany(const QByteArray &text, int nodes)
 {
+#ifdef PX_HOSTILE_SHARE
+    const int bySize = 2000000 / share / text.size();
+#else
     const int bySize = 2000000 / text.size();
+#endif
     const int byNodes = nodes > 0 ? readableNodes / share / nodes - 20 : bySize;
     return text.repeated(qMin(bySize, byNodes));
 }

@@ -1,5 +1,6 @@
 #include "check/PxDefaultsEntry.h"
 
+#include "check/PxSourceParts.h"
 #include "vocabulary/PxVocabulary.h"
 
 #include <PxListParts.h>
@@ -40,7 +41,7 @@ PxDefaultsEntry::PxDefaultsEntry(const PxSourceElement &element)
                                         listOf(element, QStringLiteral("alignment"))))
 {
     pxForEachPart(listOf(element, QStringLiteral("theme")), [this](QStringView theme) {
-        if (!theme.trimmed().isEmpty())
+        if (!theme.trimmed().isEmpty() && m_themes.size() < PxSourceParts::maximum)
             m_themes.append(theme.trimmed().toString());
     });
     m_themes.removeDuplicates();

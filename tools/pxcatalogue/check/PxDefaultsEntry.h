@@ -20,7 +20,7 @@ public:
     const PxSourceElement &element() const { return *m_element; }
     /** All its words can be read, so that it is for the pages that it names. */
     bool isPlain() const { return m_isPlain; }
-    /** Each once. */
+    /** Each once; of a very long list the first. */
     QStringList themes() const { return m_themes; }
     /** Each once, without those that are none. */
     QVector<PxPageTypeEnum> pageTypes() const { return m_pageTypes; }

@@ -27,6 +27,21 @@ QString absence(const PxSourceElement &list)
     return PxVocabulary::plainText(QString::fromUtf8(row.absent));
 }
 
+bool isNumber(QStringView text)
+{
+    bool isOne = false;
+    static_cast<void>(text.toInt(&isOne));
+    return isOne;
+}
+
+/** Without a list of them, which may take much memory. */
+int countNumbers(const QString &list)
+{
+    int count = 0;
+    pxForEachPart(list, [&count](QStringView part) { count += isNumber(part) ? 1 : 0; });
+    return count;
+}
+
 /** For numbers with another separator than the comma. */
 QString separatorHint(const QString &part)
 {
@@ -59,7 +74,7 @@ bool PxNumberListCheck::checkParts(const PxSourceElement &list, PxFindings *find
 {
     const PxSourceList source = PxSourceParts::ofText(m_product.file(), list);
     const QVector<PxSourcePart> &parts = source.parts;
-    const int numbers = pxIntList(list.dom.text()).size();
+    const int numbers = countNumbers(list.dom.text());
     const QString now =
         numbers > 0
             ? QStringLiteral("it is left out: %1 of %2 parts are read")
@@ -88,8 +103,10 @@ void PxNumberListCheck::checkNumbering(const PxSourceElement &list, PxFindings *
 {
     const PxSourceList source = PxSourceParts::ofText(m_product.file(), list);
     const QVector<PxSourcePart> &parts = source.parts;
+    if (!m_pages.isKnown() || !source.isWhole())
+        return;
     const QList<int> given = pxIntList(list.dom.text());
-    if (!m_pages.isKnown() || given.isEmpty() || !source.isWhole() || parts.size() != given.size())
+    if (given.isEmpty() || parts.size() != given.size())
         return;
     const QList<int> all = m_product.description().productionNumberingList(m_pages.lastPage() + 1);
     const QList<int> continued = all.mid(given.size());
