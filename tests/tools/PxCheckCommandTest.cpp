@@ -31,6 +31,7 @@ private slots:
     void tellsWhatFollowsFromNames();
     void tellsNamesWhenNothingFollows();
     void checksSingleFiles();
+    void countsCharacters();
     void knowsOtherThemes();
     void tellsADroppedRowOnce();
     void checksWhatItIsToldTo();
@@ -470,6 +471,16 @@ void PxCheckCommandTest::checksSingleFiles()
 }
 
 /** Though only one of them is checked. */
+/** Where the loader gives up, too, which counts otherwise. */
+void PxCheckCommandTest::countsCharacters()
+{
+    for (const char *text : {"ü", "\U0001F600"}) {
+        m_sample->write(cup, "<d>" + QString::fromUtf8(text) + QString("<a>").repeated(300));
+        QCOMPARE(findingsOf(check(cup)),
+                 QStringList("products/cup2.xml:1:772 error xml-limit-exceeded"));
+    }
+}
+
 void PxCheckCommandTest::knowsOtherThemes()
 {
     const QString seasons = "themes/JAHRESZEITEN.XML";

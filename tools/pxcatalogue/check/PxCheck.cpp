@@ -96,6 +96,8 @@ template <typename CheckFile>
 bool PxCheck::checkFiles(const QStringList &paths, PxFileKind kind, PxFindings *findings,
                          CheckFile checkFile)
 {
+    if (paths.isEmpty())
+        return true; // without a thread that has nothing to read
     bool isEveryRead = true;
     PxReadAhead files(paths);
     for (int i = 0; i < paths.size(); ++i) {

@@ -61,7 +61,11 @@ PxPlace PxCheckedFile::faultPlace() const
 {
     const int line = qMax(1, int(m_fault.line));
     const int column = qMax(1, int(m_fault.column));
-    return {m_path, line, column, line, column};
+    PxPlace place{QString(), line, column, line, column};
+    if (!m_source->text().isEmpty())
+        place = m_source->place(line, column);
+    place.path = m_path;
+    return place;
 }
 
 PxPlace PxCheckedFile::place(const PxSourceRange &range) const

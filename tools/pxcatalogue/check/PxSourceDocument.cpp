@@ -170,6 +170,13 @@ PxPlace PxSourceDocument::place(const PxSourceRange &range) const
     return {QString(), line, column, endLine, endColumn};
 }
 
+PxPlace PxSourceDocument::place(int line, int column) const
+{
+    const int begin = line > m_lineStarts.size() ? m_text.size() : m_lineStarts.at(line - 1);
+    const int index = int(qMin<qint64>(qint64(begin) + column - 1, m_text.size()));
+    return place({index, index});
+}
+
 QPair<int, int> PxSourceDocument::lineAndColumn(int index) const
 {
     const auto next = std::upper_bound(m_lineStarts.begin(), m_lineStarts.end(), index);

@@ -37,6 +37,8 @@ public:
 
     /** In characters, as editors count them; without a path. */
     PxPlace place(const PxSourceRange &range) const;
+    /** Of one character, or the end of the text; line and column, in UTF-16 units, count from 1. */
+    PxPlace place(int line, int column) const;
 
 private:
     void findLines();

@@ -9,6 +9,7 @@
 #include <QXmlStreamReader>
 
 #include <algorithm>
+#include <set>
 
 PxSourceFault::PxSourceFault(const QString &text) : m_text(text)
 {
@@ -132,15 +133,14 @@ bool PxSourceFault::findSecondAttribute(int begin, int end)
     begin = m_text.indexOf(QLatin1Char('<'), begin);
     if (begin < 0 || begin >= end)
         return false;
-    QSet<QString> names;
+    std::set<QString> names; // no hash: names can be made to collide
     const PxStartTagScanner tag(QStringView(m_text).mid(begin, end - begin), begin);
     for (const PxSourceAttribute &attribute : tag.attributes()) {
-        if (names.contains(attribute.name)) {
+        if (!names.insert(attribute.name).second) {
             m_kind = Kind::AttributeTwice;
             m_range = attribute.nameRange;
             return true;
         }
-        names.insert(attribute.name);
     }
     return false;
 }
