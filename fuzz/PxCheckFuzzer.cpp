@@ -1,0 +1,105 @@
+#include "PxFuzzedDirectory.h"
+
+#include "PxFindingsBaseline.h"
+#include "PxFindingsJson.h"
+#include "check/PxCheck.h"
+#include "check/PxCheckedFile.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+/** The file alone, as what its document element says. */
+PxCheckPaths pathsOf(const PxCheckedFile &file)
+{
+    PxCheckPaths paths;
+    const QString root = file.source().root() ? file.source().root()->name.toLower() : QString();
+    if (root == QLatin1String("themes"))
+        paths.themes.append(file.path());
+    else if (root == QLatin1String("producttypes"))
+        paths.productTypes = file.path();
+    else if (root == QLatin1String("frames"))
+        paths.frames = file.path();
+    else if (root == QLatin1String("userdefaults"))
+        paths.userDefaults.append(file.path());
+    else
+        paths.products.append(file.path());
+    return paths;
+}
+
+/** The message handler says nothing. */
+template <typename... Arguments>
+[[noreturn]] void fail(const char *format, Arguments... arguments)
+{
+    std::fprintf(stderr, format, arguments...);
+    std::abort();
+}
+
+bool isInside(const PxPlace &place, const QStringList &lines)
+{
+    const auto isIn = [&lines](int line, int column) {
+        return line >= 1 && line <= lines.size() && column >= 1 &&
+               column <= lines.at(line - 1).toUcs4().size() + 1;
+    };
+    return isIn(place.line, place.column) && isIn(place.endLine, place.endColumn) &&
+           (place.line < place.endLine ||
+            (place.line == place.endLine && place.column <= place.endColumn));
+}
+
+void checkPlaces(const PxCheckReport &report, const PxCheckedFile &file)
+{
+    const QStringList lines = file.source().text().split(QLatin1Char('\n'));
+    for (const PxFinding &finding : report.findings) {
+        // Of what cannot be read at all there is no text.
+        if (finding.place.path == file.path() && !file.source().text().isEmpty() &&
+            !isInside(finding.place, lines))
+            fail("%s at %d:%d to %d:%d is outside of the file\n", finding.tag->name,
+                 finding.place.line, finding.place.column, finding.place.endLine,
+                 finding.place.endColumn);
+    }
+}
+
+void checkJson(const PxCheckReport &report)
+{
+    QJsonParseError error{};
+    const QByteArray text = QJsonDocument(PxFindingsJson(report).json()).toJson();
+    const QJsonObject json = QJsonDocument::fromJson(text, &error).object();
+    if (error.error != QJsonParseError::NoError ||
+        json[QLatin1String("findings")].toArray().size() != report.findings.size())
+        fail("the JSON is broken: %s\n", qPrintable(error.errorString()));
+}
+
+void checkBaseline(PxCheckReport report)
+{
+    int count = 0;
+    for (const PxFinding &finding : qAsConst(report.findings))
+        count += finding.count();
+    PxFindingsBaseline(report).hide(&report);
+    if (!report.findings.isEmpty() || report.knownCount != count)
+        fail("the baseline hides %d of %d findings\n", report.knownCount, count);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const QString path =
+        PxFuzzedDirectory::withFile("checked.xml").write(data, size).absoluteFilePath();
+    const PxCheckedFile file(path);
+    PxFindings findings;
+    findings.setPedantic(true);
+    PxCheck check(pathsOf(file));
+    check.run(&findings);
+    PxCheckReport report;
+    report.findings = findings.sorted();
+    report.fileCount = check.fileCount();
+    checkPlaces(report, file);
+    checkJson(report);
+    checkBaseline(report);
+    return 0;
+}
