@@ -1,5 +1,7 @@
 #include "themes/PxThemeImages.h"
 
+#include "themes/PxPictureData.h"
+
 #include <QCoreApplication>
 #include <QDebug>
 #include <QFileInfo>
@@ -8,10 +10,11 @@
 #include <atomic>
 #include <cstdlib>
 
-namespace {
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
-constexpr qint64 maximumPixels = 4096LL * 4096;        // of one image
-constexpr qint64 maximumAllPixels = 4 * maximumPixels; // 512 MB, when one takes eight bytes
+namespace {
 
 std::atomic_bool isEnding{false};
 
@@ -32,14 +35,44 @@ bool isReadableFile(const QString &path)
     return file.isFile() && file.isReadable();
 }
 
+/** Opens a regular file, never waiting for one; answers what identifies it, empty for none. */
+QString open(QFile *file)
+{
+    const QString name = file->fileName();
+    if (name.startsWith(QLatin1Char(':'))) // compiled in
+        return file->open(QIODevice::ReadOnly) ? name : QString();
+    const int handle = ::open(QFile::encodeName(name), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (handle < 0)
+        return QString();
+    struct stat status = {};
+    // What was a file when it was found may be a pipe by now.
+    if (fstat(handle, &status) != 0 || !S_ISREG(status.st_mode) ||
+        !file->open(handle, QIODevice::ReadOnly | QIODevice::Unbuffered,
+                    QFileDevice::AutoCloseHandle)) {
+        close(handle);
+        return QString();
+    }
+    return QStringLiteral("%1 %2").arg(status.st_dev).arg(status.st_ino);
+}
+
+/** As QImageReader does it for a file: "logo@2x.png" has twice as many pixels as it is shown with.
+ */
+void setPixelRatio(QImage *image, const QString &fileName)
+{
+    const QString suffix = QFileInfo(fileName).baseName().right(3);
+    const int ratio = suffix.size() == 3 ? suffix.at(1).digitValue() : 0;
+    if (ratio >= 2 && suffix.startsWith(QLatin1Char('@')) && suffix.endsWith(QLatin1Char('x')))
+        image->setDevicePixelRatio(ratio);
+}
+
 } // namespace
 
-QImage PxThemeImages::image(const QString &path)
+const PxThemeImages::Result &PxThemeImages::find(const QString &path)
 {
-    const auto known = m_imageOfPath.constFind(path);
-    if (known != m_imageOfPath.constEnd())
+    const auto known = m_ofPath.constFind(path);
+    if (known != m_ofPath.constEnd())
         return *known;
-    return *m_imageOfPath.insert(path, read(path));
+    return *m_ofPath.insert(path, read(path));
 }
 
 QString PxThemeImages::fileOf(const QString &path)
@@ -61,22 +94,64 @@ QString PxThemeImages::fileOf(const QString &path)
     return QString();
 }
 
-QImage PxThemeImages::read(const QString &path)
+PxThemeImages::Result PxThemeImages::read(const QString &path)
 {
     noticeTheEnd();
-    const QString file = isEnding ? QString() : fileOf(path);
-    if (file.isEmpty())
-        return QImage();
-    QImageReader reader(file);
-    reader.setDecideFormatFromContent(true);
-    if (!reader.canRead())
-        return QImage();
-    const QSize size = reader.size(); // invalid when the format does not tell it beforehand
-    const qint64 pixels = qint64(size.width()) * size.height();
-    if (!size.isValid() || pixels > maximumPixels || m_pixels + pixels > maximumAllPixels) {
-        qWarning() << "PxThemeImages::read image is too large, left out:" << file << size;
-        return QImage();
+    if (isEnding || path.isEmpty())
+        return {};
+    Result result;
+    const QString name = fileOf(path);
+    if (name.isEmpty()) {
+        const QFileInfo info(path);
+        result.isThere = info.exists();
+        result.fault = !result.isThere ? QStringLiteral("is not there")
+                       : info.isFile() ? QStringLiteral("cannot be read")
+                                       : QStringLiteral("is no regular file");
+        // A logo that names no image leads to the resource directory.
+        if (result.isThere && !info.isDir())
+            qWarning() << "PxThemeImages::read" << path << qUtf8Printable(result.fault);
+        return result;
     }
-    m_pixels += pixels;
-    return reader.read();
+    QFile file(name);
+    const QString id = open(&file);
+    const auto known = m_ofFile.constFind(id);
+    if (known != m_ofFile.constEnd())
+        return *known;
+    if (id.isEmpty())
+        result.fault = QStringLiteral("is no regular file");
+    else if (file.size() > maximumFileSize)
+        result.fault = QStringLiteral("is too large: %1 bytes, no more than %2 are allowed")
+                           .arg(file.size())
+                           .arg(maximumFileSize);
+    else
+        result = decode(file.read(maximumFileSize));
+    result.isThere = true;
+    setPixelRatio(&result.image, name);
+    if (!result.fault.isEmpty())
+        qWarning() << "PxThemeImages::read" << name << qUtf8Printable(result.fault);
+    if (!id.isEmpty())
+        m_ofFile.insert(id, result);
+    return result;
+}
+
+PxThemeImages::Result PxThemeImages::decode(const QByteArray &bytes)
+{
+    const PxPictureData data(bytes);
+    Result result;
+    result.fault = data.fault();
+    result.isCutOff = data.isCutOff();
+    if (!result.fault.isEmpty())
+        return result;
+    if (m_pixels + data.pixels() > maximumAllPixels) {
+        result.fault = QStringLiteral("is too much: all images together have more than %1 pixels")
+                           .arg(maximumAllPixels);
+        return result;
+    }
+    result.image = data.decoded();
+    if (result.isCutOff)
+        result.fault = QStringLiteral("is cut off");
+    else if (result.image.isNull())
+        result.fault = QStringLiteral("is damaged");
+    m_pixels += qint64(result.image.width()) * result.image.height();
+    return result;
 }

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QByteArray>
+
+class QSize;
+
+/** Pictures that no honest program writes. */
+namespace PxPictures {
+
+/** A chunk of a PNG. */
+QByteArray chunk(const QByteArray &type, const QByteArray &data);
+/** A PNG of 8 bits grey, with chunks before its pixels, which are those of its size by default. */
+QByteArray png(const QSize &size, const QByteArray &chunks = {}, const QByteArray &pixels = {});
+/** The interlaced PNG of 16 bits for each of four colours, which takes longest. */
+QByteArray slowPng(const QSize &size);
+/** Pixels that take 159 times as much without end as these bytes. */
+QByteArray endlessPixels(int size);
+
+/** A progressive JPEG that is blank. */
+QByteArray jpeg(const QSize &size);
+/** The same, with its last scan, which is the slowest, as often again. */
+QByteArray jpegWithScans(const QSize &size, int scans);
+/** Puts segments behind the start of a JPEG. */
+QByteArray withSegments(const QByteArray &jpeg, const QByteArray &segments);
+
+/** A GIF with a screen and a frame; its codes stand for so many colours. */
+QByteArray gif(const QSize &screen, const QSize &frame, qint64 colors);
+
+/** A BMP with this header and compression, and any pixels. */
+QByteArray bmp(const QSize &size, int bits, int compression, const QByteArray &pixels);
+
+/** An ICO with a picture that is said to be small. */
+QByteArray ico(const QByteArray &picture);
+
+} // namespace PxPictures
