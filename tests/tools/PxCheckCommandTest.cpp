@@ -568,6 +568,21 @@ void PxCheckCommandTest::findsWhatNoExampleShows()
                     m_sample->read(themes).replace("images/logo-schule.png", "images/logo-schule"));
     QCOMPARE(findingsOf(check(".")), QStringList()); // found by the suffix of an image format
 
+    m_sample->restore(themes);
+    const QString logo = m_sample->filePath("images/logo-schule.png");
+    QVERIFY(QFile::resize(logo, QFileInfo(logo).size() - 20));
+    m_sample->write("images/logo-urlaub.png", "no picture");
+    const PxProgramRun images = check(".");
+    QCOMPARE(findingsOf(images),
+             (QStringList{"./themes/grundthemen.xml:85:52 warning theme-image-missing",
+                          "./themes/grundthemen.xml:87:48 warning theme-image-missing",
+                          "./themes/grundthemen.xml:154:38 warning theme-image-cut-off",
+                          "./themes/grundthemen.xml:155:41 warning theme-image-cut-off"}));
+    QVERIFY(images.text().contains("\"images/logo-schule.png\" is cut off"));
+    QVERIFY(images.text().contains("\"images/logo-urlaub.png\" is no PNG, JPEG, GIF or BMP"));
+    m_sample->restore("images/logo-schule.png");
+    m_sample->restore("images/logo-urlaub.png");
+
     QVERIFY(QFile::remove("frames.xml") && mkfifo("frames.xml", 0600) == 0);
     QCOMPARE(findingsOf(check(".")), QStringList("./frames.xml:1:1 error file-unreadable"));
     m_sample->write("producttypes.xml", "\n<types/>");

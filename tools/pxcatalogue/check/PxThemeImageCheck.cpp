@@ -6,37 +6,18 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QImageReader>
+#include <QSet>
 
 namespace {
 
 const QLatin1String logoNow("the logo has no image");
 const QLatin1String thumbnailNow("the theme has no preview");
+const QLatin1String partNow("the part that is there is shown");
 
 /** What an application has compiled in cannot be seen from here. */
 bool isCompiledIn(const QString &path)
 {
     return path.startsWith(QLatin1String(":/")) || path.startsWith(QLatin1String("qrc:"));
-}
-
-bool isReadableFile(const QString &path)
-{
-    const QFileInfo file(path);
-    return file.isFile() && file.isReadable();
-}
-
-/** The path, or the file that the library finds instead: with the suffix of an image format. */
-QString fileOf(const QString &path)
-{
-    if (isReadableFile(path))
-        return path;
-    const QList<QByteArray> formats = QImageReader::supportedImageFormats();
-    for (const QByteArray &format : formats) {
-        const QString file = path + QLatin1Char('.') + QString::fromLatin1(format);
-        if (isReadableFile(file))
-            return file;
-    }
-    return path;
 }
 
 /** The directories that an application may run in, as far as can be guessed. */
@@ -93,10 +74,11 @@ void PxThemeImageCheck::finish(PxFindings *findings)
         const QDir directory(base);
         int count = 0;
         for (const PxSourceAttribute *name : m_relativeThumbnails) {
-            if (fault(directory.filePath(name->value.toLower())).isEmpty()) {
+            const auto &result = m_images.find(directory.filePath(name->value.toLower()));
+            if (result.fault.isEmpty())
                 found.insert(name);
+            if (result.isThere)
                 ++count;
-            }
         }
         if (count > bestCount) {
             best = base;
@@ -109,42 +91,25 @@ void PxThemeImageCheck::finish(PxFindings *findings)
     }
 }
 
-/** Why the library shows nothing; empty for an image. */
-QString PxThemeImageCheck::fault(const QString &path)
-{
-    const auto known = m_faults.constFind(path);
-    if (known != m_faults.constEnd())
-        return *known;
-    QString fault;
-    const QFileInfo info(fileOf(path));
-    if (!info.exists()) {
-        fault = QStringLiteral("there is no file \"%1\"");
-    } else if (!info.isFile()) {
-        fault = QStringLiteral("\"%1\" is no regular file");
-    } else {
-        QImageReader reader(info.filePath());
-        reader.setDecideFormatFromContent(true);
-        if (!reader.canRead())
-            fault = QStringLiteral("\"%1\" is no image");
-    }
-    m_faults.insert(path, fault);
-    return fault;
-}
-
 void PxThemeImageCheck::checkImage(const Image &image, PxFindings *findings)
 {
-    const QString fault = isCompiledIn(image.path) ? QString() : this->fault(image.path);
-    if (fault.isEmpty())
+    if (isCompiledIn(image.path))
+        return;
+    const PxThemeImages::Result result = m_images.find(image.path);
+    if (result.fault.isEmpty())
         return;
     const QString written = image.attribute->value;
     const QString lowered = written.toLower();
-    const bool isLowered = written != lowered && !QFileInfo::exists(image.path);
-    m_file.add(findings, isLowered ? "theme-image-path-lowered" : "theme-image-missing",
+    const bool isLowered = written != lowered && !result.isThere;
+    m_file.add(findings,
+               isLowered         ? "theme-image-path-lowered"
+               : result.isCutOff ? "theme-image-cut-off"
+                                 : "theme-image-missing",
                image.attribute->valueRange,
                isLowered ? QStringLiteral("\"%1\" is looked up as \"%2\", which is not there")
                                .arg(written, lowered)
-                         : fault.arg(lowered),
-               image.now, hint(image));
+                         : QStringLiteral("\"%1\" %2").arg(lowered, result.fault),
+               result.image.isNull() ? image.now : partNow, hint(image));
 }
 
 QString PxThemeImageCheck::hint(const Image &image)

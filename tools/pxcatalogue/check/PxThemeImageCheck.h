@@ -3,7 +3,7 @@
 #include "check/PxCheckedFile.h"
 #include "check/PxImageNames.h"
 
-#include <QHash>
+#include <themes/PxThemeImages.h>
 
 /** Checks whether the images that a theme file names are there, where the library looks for them.
  */
@@ -29,12 +29,11 @@ private:
         QLatin1String now;
     };
 
-    QString fault(const QString &path);
     void checkImage(const Image &image, PxFindings *findings);
     QString hint(const Image &image);
 
     const PxCheckedFile &m_file;
     QVector<const PxSourceAttribute *> m_relativeThumbnails;
-    QHash<QString, QString> m_faults; ///< by path
+    PxThemeImages m_images;
     PxImageNames m_imageNames{PxImageNames::Kind::Lower};
 };
