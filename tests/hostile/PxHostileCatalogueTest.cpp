@@ -268,6 +268,12 @@ void PxHostileCatalogueTest::writeThemes()
         m_unreadable.append("theme-" + QString::fromUtf8(file.name));
         m_directory.write("themes/theme-" + file.name + ".XML", file.content);
     }
+    for (const PxHostileFiles::File &file : PxHostileFiles::pictures()) {
+        m_directory.write("pictures/" + file.name, file.content);
+        m_directory.write("themes/" + file.name + "/theme.xml",
+                          "<themes><theme><logos><logo filename='pictures/" + file.name +
+                              "'/></logos></theme></themes>");
+    }
     m_directory.write("themes/good.xml", "<themes><theme id='sea'/><theme id='snow'/></themes>");
     m_good.append({"theme sea", "theme snow"});
 }

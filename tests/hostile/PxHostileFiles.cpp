@@ -1,7 +1,9 @@
 #include "PxHostileFiles.h"
 
 #include <PxCollidingNames.h>
+#include <PxPictures.h>
 
+#include <QSize>
 #include <QTextCodec>
 
 namespace PxHostileFiles {
@@ -206,6 +208,38 @@ QList<File> wildThemes()
         {"DEEPDESCRIPTION", theme("", "<description>" + QByteArray("<a>").repeated(250) + QByteArray("ä").repeated(200000) + QByteArray("</a>").repeated(250) + "</description>")},
         {"CATEGORIES", theme("", "<defaultcategories background='" + asMany("ä,", 0) + "'/>")},
         {"EXPIRY", theme("expiry='" + asMany("9", 0) + "' producttype='" + asMany("book,", 0) + "'", "")},
+    };
+    // clang-format on
+}
+
+QList<File> pictures()
+{
+    using namespace PxPictures;
+    const QSize small(8, 8);
+    const QSize large(2048, 2048);
+    const QSize larger(4096, 4096);
+    constexpr int bytes = readableSize / share - 2000;
+    const QByteArray packed = qCompress(QByteArray(7900000, 'a'), 9).mid(4);
+    const auto chunks = [](const QByteArray &one) { return one.repeated(bytes / one.size()); };
+    const QByteArray iccSegment = QByteArray("\xFF\xE2\0\x10ICC_PROFILE\0\1\1", 18);
+    // clang-format off
+    return {
+        {"slow.png", slowPng(large)}, {"slower.png", slowPng(larger / (share > 1 ? 2 : 1))}, {"endless.png", png(small, {}, endlessPixels(bytes))},
+        {"claims.png", png({65535, 65535}, {}, "x")}, {"wide.png", png({4194304, 1})}, {"high.png", png({1, 4194304})},
+        {"texts.png", png(small, chunks(chunk("zTXt", QByteArray("k\0\0", 3) + packed)))},
+        {"unicode-texts.png", png(small, chunks(chunk("iTXt", QByteArray("k\0\1\0\0\0", 6) + packed)))},
+        {"profile.png", png(small, chunk("iCCP", QByteArray("k\0\0", 3) + packed))},
+        {"warnings.png", png(small, chunks(chunk("gAMA", QByteArray("\0\0\xB1\x8F", 4))))}, {"empty-chunks.png", png(small, chunks(chunk("IDAT", "")))},
+        {"scans.jpg", jpegWithScans(larger, 6500)}, {"small-scans.jpg", jpegWithScans(small, 500000)}, {"most-scans.jpg", jpegWithScans(large, 22)},
+        {"claims.jpg", QByteArray(jpeg(small)).replace(QByteArray("\x08\0\x08\0\x08", 5), "\x08\xFF\xF0\xFF\xF0")},
+        {"comments.jpg", withSegments(jpeg(small), chunks(QByteArray("\xFF\xFE\0\2", 4)))}, {"profiles.jpg", withSegments(jpeg(small), chunks(iccSegment))},
+        {"garbage.jpg", withSegments(jpeg(small), chunks("x"))}, {"marks.jpg", withSegments(jpeg(small), chunks("\xFF"))},
+        {"endless.gif", gif(small, small, 2000000000)}, {"full.gif", gif(large, large, 4194304)}, {"twice.gif", gif(small, small, 37000000)},
+        {"screen.gif", gif({65535, 65535}, small, 64)}, {"frame.gif", gif(small, {65535, 65535}, 64)},
+        {"cut.bmp", bmp(larger, 32, 0, "x")}, {"high.bmp", bmp({1, -16777216}, 1, 0, "x")}, {"beyond.bmp", bmp({2147483647, -2147483647 - 1}, 1, 0, "x")},
+        {"runs.bmp", bmp(large, 8, 1, chunks("\xFF\1"))}, {"ones.bmp", bmp(large, 4, 2, chunks("\1\1"))}, {"steps.bmp", bmp(large, 8, 1, chunks(QByteArray("\0\2\0\0", 4)))},
+        {"ends.bmp", bmp({1, 4194304}, 8, 1, chunks(QByteArray("\0\0", 2)))}, {"odd.bmp", bmp({-1, 1}, 1, 3, chunks("x"))}, {"bits.bmp", bmp({1000, 1000}, 65535, 9, chunks("x"))},
+        {"icon.png", ico(png({20000, 20000}, {}, endlessPixels(bytes / 4)))},
     };
     // clang-format on
 }

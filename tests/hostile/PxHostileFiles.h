@@ -13,7 +13,7 @@ namespace PxHostileFiles {
 
 struct File
 {
-    QByteArray name; // without ".xml"
+    QByteArray name; // without ".xml", unless it is a picture
     QByteArray content;
 };
 
@@ -28,5 +28,8 @@ QList<File> wild();
 
 /** Well-formed theme files of the same kind. */
 QList<File> wildThemes();
+
+/** Pictures that take time or memory, or lie about their size, by the names of their files. */
+QList<File> pictures();
 
 } // namespace PxHostileFiles
