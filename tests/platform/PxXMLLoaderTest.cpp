@@ -9,6 +9,10 @@
 #include <QTextCodec>
 #include <QThread>
 
+#include <atomic>
+#include <cstdio>
+#include <fcntl.h>
+#include <memory>
 #include <sys/stat.h>
 
 class PxXMLLoaderTest : public QObject
@@ -22,6 +26,7 @@ private slots:
     void refusesMalformedTextAndKeepsTheLimits_data();
     void refusesMalformedTextAndKeepsTheLimits();
     void opensRegularFilesOnly();
+    void waitsForNoPipe();
     void handsOutTheFault();
     void elementOutlivesItsDocument();
     void needsLittleStack();
@@ -111,6 +116,12 @@ void PxXMLLoaderTest::buildsTheTreeOfSetContent()
         QCOMPARE(error, QString());
         QCOMPARE(pxTree(document), pxTree(expected));
     }
+    // As no tree of setContent() has it.
+    const QDomDocument better =
+        PxXMLLoader::loadDocument(write("<!DOCTYPE x:a><a b='1\n2'>&#x1F600;\r\n</a>"));
+    QCOMPARE(better.documentElement().text(), QString::fromUtf8("\xF0\x9F\x98\x80\n"));
+    QCOMPARE(better.documentElement().attribute("b"), QString("1 2"));
+    QCOMPARE(better.doctype().name(), QString("a"));
 }
 
 void PxXMLLoaderTest::decodes()
@@ -161,6 +172,10 @@ void PxXMLLoaderTest::refusesMalformedTextAndKeepsTheLimits_data()
         {"attribute twice", "<a b='1' b='2'/>", "1:16: Attribute 'b' redefined."},
         {"quote missing", "<a b=\"1>\n" + QByteArray("<c d=\"\"/>").repeated(999), "2:1: Unexpected '<'."},
         {"zero byte", QByteArray("<a>\0</a>", 8), "1:4: Unexpected ''."},
+        {"zero in the name of an attribute", QByteArray("<a>\n<b c\0=''/></a>", 18), "2:10: the name of an attribute has a control character"},
+        {"control character there", "<a b\xC2\x85='' c=''/>", ": the name of an attribute has a control character"},
+        {"control character in a document type", "<!DOCTYPE a\x1F\n SYSTEM 'x'><a/>", ": the name of the document type has a control character"},
+        {"no character in a document type", "<!DOCTYPE a\xEF\xBF\xBF><a/>", ": the name of the document type has a control character"},
         {"broken UTF-8", "<a>\n\xF0\x9F\x98\x80\xC3(</a>", "2:3: the text is no valid UTF-8"},
         {"cut UTF-8", "<a/>\n\xC3", "2:1: the text is no valid UTF-8"},
         {"broken GB18030", "<?xml version='1.0' encoding='gb18030'?>\n<a>\xFF</a>", "2:4: the text is no valid GB18030"},
@@ -219,6 +234,29 @@ void PxXMLLoaderTest::opensRegularFilesOnly()
     QVERIFY(!remembered.exists()); // and keeps that in mind, while the file comes into being
     write("<a/>");
     QVERIFY(!PxXMLLoader::loadDocumentElement(remembered).isNull());
+}
+
+/** That has come into the place of a file since it was found; one that waits never ends. */
+void PxXMLLoaderTest::waitsForNoPipe()
+{
+    write("<a/>");
+    const QByteArray file = QFile::encodeName(path("file.xml"));
+    const QByteArray pipe = QFile::encodeName(path("pipe"));
+    std::atomic_bool isDone{false};
+    const std::unique_ptr<QThread> swapping(QThread::create([&] {
+        while (!isDone)
+            renameat2(AT_FDCWD, file, AT_FDCWD, pipe, RENAME_EXCHANGE);
+    }));
+    swapping->start();
+    int read = 0;
+    for (int i = 0; i < 20000; ++i)
+        read += PxXMLLoader::loadDocument(QFileInfo(path("file.xml"))).isNull() ? 0 : 1;
+    isDone = true;
+    swapping->wait();
+    QVERIFY(read > 0 && read < 20000);
+    QFile::remove(path("file.xml"));
+    QFile::remove(path("pipe"));
+    QCOMPARE(mkfifo(pipe, 0600), 0);
 }
 
 void PxXMLLoaderTest::handsOutTheFault()

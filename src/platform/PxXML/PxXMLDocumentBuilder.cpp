@@ -5,6 +5,20 @@
 #include <QDomImplementation>
 #include <QXmlStreamReader>
 
+#include <algorithm>
+
+namespace {
+
+/** Qt's reader looks at the first character only, in names of attributes and of document types. */
+bool hasControlCharacter(QStringView name)
+{
+    return std::any_of(name.begin(), name.end(), [](QChar c) {
+        return c.category() == QChar::Other_Control || c >= QChar(0xFFFE);
+    });
+}
+
+} // namespace
+
 PxXMLDocumentBuilder::PxXMLDocumentBuilder(QXmlStreamReader &reader, bool hasStandalone)
     : m_reader(reader)
     , m_document(QDomDocumentType())
@@ -46,8 +60,7 @@ std::optional<PxXMLFault> PxXMLDocumentBuilder::addToken()
             m_document.createProcessingInstruction(shared(m_reader.processingInstructionTarget()),
                                                    shared(m_reader.processingInstructionData())));
     case QXmlStreamReader::DTD:
-        addDocumentType();
-        return std::nullopt;
+        return addDocumentType();
     case QXmlStreamReader::EntityReference:
         return fault(PxXMLFault::Kind::Limit,
                      QStringLiteral("the entity %1 is declared outside the file, which is not "
@@ -76,6 +89,9 @@ std::optional<PxXMLFault> PxXMLDocumentBuilder::addElement()
     for (const QXmlStreamAttribute &attribute : attributes) {
         if (const std::optional<PxXMLFault> tooMany = count())
             return tooMany;
+        if (hasControlCharacter(attribute.qualifiedName()))
+            return fault(PxXMLFault::Kind::NotWellFormed,
+                         QStringLiteral("the name of an attribute has a control character"));
         element.setAttribute(shared(attribute.qualifiedName()), shared(attribute.value()));
     }
     const std::optional<PxXMLFault> found = add(element);
@@ -112,8 +128,11 @@ void PxXMLDocumentBuilder::addDeclaration(bool hasStandalone)
     m_document.appendChild(m_document.createProcessingInstruction(QStringLiteral("xml"), data));
 }
 
-void PxXMLDocumentBuilder::addDocumentType()
+std::optional<PxXMLFault> PxXMLDocumentBuilder::addDocumentType()
 {
+    if (hasControlCharacter(m_reader.dtdName()))
+        return fault(PxXMLFault::Kind::NotWellFormed,
+                     QStringLiteral("the name of the document type has a control character"));
     // A document gets its type when it is created only, so what we have so far moves over.
     QDomDocument document(QDomImplementation().createDocumentType(
         m_reader.dtdName().toString(), m_reader.dtdPublicId().toString(),
@@ -122,6 +141,7 @@ void PxXMLDocumentBuilder::addDocumentType()
         document.appendChild(m_document.firstChild());
     m_document = document;
     m_parent = document;
+    return std::nullopt;
 }
 
 PxXMLFault PxXMLDocumentBuilder::fault(PxXMLFault::Kind kind, const QString &message) const

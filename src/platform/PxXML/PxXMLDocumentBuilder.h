@@ -31,7 +31,7 @@ private:
     /** One node more. */
     std::optional<PxXMLFault> count();
     void addDeclaration(bool hasStandalone);
-    void addDocumentType();
+    std::optional<PxXMLFault> addDocumentType();
     PxXMLFault fault(PxXMLFault::Kind kind, const QString &message) const;
     QString shared(QStringView text);
 

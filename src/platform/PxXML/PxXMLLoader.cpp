@@ -6,11 +6,40 @@
 #include <QDomImplementation>
 #include <QFile>
 
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace {
 
 PxXMLFault unreadable(const QString &message)
 {
     return {PxXMLFault::Kind::Unreadable, message};
+}
+
+QString noRegularFile()
+{
+    return QStringLiteral("this is no regular file");
+}
+
+/** Opens a regular file: a pipe that has come into its place is neither waited for nor read. */
+PxXMLFault open(QFile &file)
+{
+    const QString cannotOpen = QStringLiteral("the file cannot be opened: ");
+    constexpr QIODevice::OpenMode mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
+    if (file.fileName().startsWith(QLatin1Char(':'))) // compiled in
+        return file.open(mode) ? PxXMLFault() : unreadable(cannotOpen + file.errorString());
+    const int handle =
+        ::open(QFile::encodeName(file.fileName()), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (handle < 0)
+        return unreadable(cannotOpen + qt_error_string(errno));
+    struct stat status = {};
+    if (fstat(handle, &status) == 0 && S_ISREG(status.st_mode) &&
+        file.open(handle, mode, QFileDevice::AutoCloseHandle))
+        return {};
+    close(handle);
+    return unreadable(noRegularFile());
 }
 
 /** Reads the whole file, if it is one that ends. */
@@ -23,10 +52,11 @@ PxXMLFault readBytes(const QString &path, QByteArray &bytes)
         return unreadable(QStringLiteral("there is no such file"));
     // A pipe or a device could keep us waiting, or reading, for ever.
     if (!info.isFile())
-        return unreadable(QStringLiteral("this is no regular file"));
+        return unreadable(noRegularFile());
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return unreadable(QStringLiteral("the file cannot be opened: ") + file.errorString());
+    PxXMLFault fault = open(file);
+    if (fault.kind != PxXMLFault::Kind::None)
+        return fault;
     bytes = file.read(qMin<qint64>(file.size(), PxXMLLoader::maximumFileSize) + 1);
     if (file.error() != QFile::NoError)
         return unreadable(QStringLiteral("the file cannot be read: ") + file.errorString());

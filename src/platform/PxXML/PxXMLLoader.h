@@ -14,10 +14,12 @@
  * `file:line:column: message`, into `error`, with line and column counted from 1, and 0:0 when the
  * fault has no place in the text. Success clears `error`. Nothing is logged.
  *
- * The tree is the one of QDomDocument::setContent() without namespace processing, only that nodes
- * do not know their line and column, and that line ends, and white space in attribute values, are
- * normalized as XML demands. Any thread with a stack of 512 KB or more may load and destroy
- * documents.
+ * The tree is the one of QDomDocument::setContent() without namespace processing, with these
+ * differences: nodes do not know their line and column; line ends, and white space in attribute
+ * values, are normalized as XML demands; references to characters beyond U+FFFF give these
+ * characters; the name of a document type has no prefix. In names of attributes and document types
+ * any character but control characters is taken behind the first, where setContent() refuses some.
+ * Any thread with a stack of 512 KB or more may load and destroy documents.
  */
 class PXXML_EXPORT PxXMLLoader
 {
