@@ -1,6 +1,7 @@
 #include "description/PxProductTypeConfigRegistry.h"
 
 #include "description/PxProductTypeDescriptionReader.h"
+#include "values/PxUndecodableNames.h"
 
 #include <PxCreateOnce.h>
 #include <PxDirectoryConfig.h>
@@ -49,8 +50,11 @@ PxProductTypeConfigRegistry *PxProductTypeConfigRegistry::instance()
 {
     static QAtomicPointer<PxProductTypeConfigRegistry> ourInstance;
     static QBasicMutex ourMutex;
-    return pxCreateOnce(ourInstance, ourMutex,
-                        [] { return createRegistry(QStringLiteral("products")); });
+    return pxCreateOnce(ourInstance, ourMutex, [] {
+        // Nobody lists these: each product opens its own by its name.
+        PxUndecodableNames::warn(PxDirectoryConfig::instance()->userDefaultsPath());
+        return createRegistry(QStringLiteral("products"));
+    });
 }
 
 PxProductTypeConfigRegistry *PxProductTypeConfigRegistry::legacyInstance()

@@ -1,6 +1,7 @@
 #include "description/PxProductTypeDescriptionReader.h"
 
 #include "description/PxProductTypeDescription.h"
+#include "values/PxUndecodableNames.h"
 
 #include <PxXMLLoader.h>
 #include <PxXMLParser.h>
@@ -32,6 +33,7 @@ QHash<PxProductType, PxProductTypeDescription *> PxProductTypeDescriptionReader:
     descriptions.reserve(1000);
     const QFileInfoList files =
         m_directory.entryInfoList(fileFilter(), QDir::Files, QDir::Unsorted);
+    PxUndecodableNames::warn(m_directory.absolutePath());
     for (const QFileInfo &file : files) {
         const auto [type, description] = readFile(file);
         // What nobody will ever be given is freed: an unknown product, an earlier file's product.

@@ -2,6 +2,7 @@
 
 #include "themes/PxThemeImages.h"
 #include "values/PxJigType.h"
+#include "values/PxUndecodableNames.h"
 
 #include <PxCreateOnce.h>
 #include <PxDirectoryConfig.h>
@@ -234,6 +235,7 @@ PxThemeList PxThemeFactory::loadThemeList(QDir &directory)
     // Patterns match in any case; a file that matches both is listed once.
     const QFileInfoList files = directory.entryInfoList(
         {QStringLiteral("*.XML"), QStringLiteral("*.xml")}, QDir::Files, QDir::Unsorted);
+    PxUndecodableNames::warn(directory.absolutePath());
     for (const QFileInfo &file : files) {
         QString error;
         const QDomElement root = PxXMLLoader::loadDocumentElement(file, &error);

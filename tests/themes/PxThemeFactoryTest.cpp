@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QTest>
 
+#include <unistd.h>
+
 class PxThemeFactoryTest : public QObject
 {
     Q_OBJECT
@@ -20,6 +22,7 @@ private slots:
     void bothEndingsAreReadAndTheIndexTakesTheLast();
     void findsImagesWithoutASuffix();
     void imagesAreReadOnceAndWithinBounds();
+    void warnsOfNamesThatCannotBeDecoded();
     void defaultThemeFallsBackToTheFirst();
     void instanceChoosesTheDefaultTheme();
 
@@ -176,6 +179,27 @@ void PxThemeFactoryTest::imagesAreReadOnceAndWithinBounds()
     QCOMPARE(log.texts().filter("too large").size(), 1);
     QCOMPARE(log.entries().constLast().level, QtWarningMsg);
     QVERIFY(log.texts().constLast().contains("vast.bmp\" is too large: 40000 x 1000 pixels"));
+}
+
+void PxThemeFactoryTest::warnsOfNamesThatCannotBeDecoded()
+{
+    const QByteArray folder = QFile::encodeName(m_directory.filePath("latin"));
+    m_directory.write("latin/gr\xC3\xB6n.xml", "<themes><t id='green'/></themes>");
+    QByteArrayList files;
+    for (const char *name : {"/gr\xF6n.xml", "/\xE4.XML", "/\xE4.png"}) {
+        files.append(folder + name);
+        FILE *file = fopen(files.constLast(), "w");
+        QVERIFY(file);
+        fclose(file);
+    }
+    QDir directory(m_directory.filePath("latin"));
+    const PxLogRecorder log;
+    QCOMPARE(PxThemeFactory().loadThemeList(directory).idList(), QStringList("green"));
+    QCOMPARE(log.entries().constFirst().level, QtWarningMsg);
+    QVERIFY(log.texts().constFirst().endsWith("locale: 2 in \"" + directory.path() + '"'));
+    QCOMPARE(log.texts().size(), 2); // and how many themes there are
+    for (const QByteArray &file : files)
+        unlink(file); // Qt cannot
 }
 
 void PxThemeFactoryTest::defaultThemeFallsBackToTheFirst()

@@ -10,6 +10,7 @@
 #include <QTest>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 /** The command line of "check", with findings that any file can have. */
 class PxCheckCommandTest : public QObject
@@ -36,6 +37,7 @@ private slots:
     void tellsADroppedRowOnce();
     void checksWhatItIsToldTo();
     void findsWhatNoExampleShows();
+    void findsNamesThatCannotBeDecoded();
     void saysWhatIsWrong_data();
     void saysWhatIsWrong();
     void keepsQuiet();
@@ -588,6 +590,38 @@ void PxCheckCommandTest::findsWhatNoExampleShows()
     m_sample->write("producttypes.xml", "\n<types/>");
     QVERIFY(
         findingsOf(check(".")).contains("./producttypes.xml:2:2 error product-types-root-wrong"));
+}
+
+void PxCheckCommandTest::findsNamesThatCannotBeDecoded()
+{
+    QStringList expected;
+    QByteArrayList files;
+    for (const char *directory : {"defaults", "products", "products/legacy", "themes"}) {
+        const QByteArray path = QFile::encodeName(m_sample->filePath(directory));
+        for (const char *name : {"/gr\xF6n.xml", "/\xE4.xml", "/\xE4.png"}) {
+            files.append(path + name);
+            FILE *file = fopen(files.constLast(), "w");
+            QVERIFY(file);
+            fclose(file);
+        }
+        expected.append(QString("./%1:1:1 warning file-name-undecodable").arg(directory));
+    }
+    const PxProgramRun run = check(".");
+    QCOMPARE(findingsOf(run), expected);
+    QCOMPARE(run.text().count("not in the encoding of the locale: 2"), 4);
+    QCOMPARE(findingsOf(check(cup)), QStringList());
+    // The library warns of each directory that a command makes it read.
+    QString warnings;
+    for (const QStringList &command : {QStringList{"list", "--earlier"}, QStringList{"themes"}}) {
+        const PxProgramRun read(PX_CATALOGUE_PROGRAM,
+                                command + QStringList{"--resources", m_sample->path()});
+        warnings += read.errors().join(' ');
+    }
+    for (const char *directory : {"defaults", "products", "products/legacy", "themes"})
+        QVERIFY2(warnings.contains("locale: 2 in \"" + m_sample->filePath(directory) + '"'),
+                 qPrintable(warnings));
+    for (const QByteArray &file : files)
+        unlink(file); // Qt cannot
 }
 
 void PxCheckCommandTest::saysWhatIsWrong_data()

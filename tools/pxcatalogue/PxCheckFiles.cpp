@@ -5,6 +5,7 @@
 #include "check/PxCheckedFile.h"
 
 #include <PxDirectoryConfig.h>
+#include <values/PxUndecodableNames.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -109,6 +110,10 @@ QString PxCheckFiles::findFiles(const Directory &directory)
     const QString problem = PxCatalogueDirectories::problemOf(place);
     if (!problem.isEmpty())
         return problem;
+    if (const int count = PxUndecodableNames::count(place)) {
+        m_paths.undecodableNames.insert(place, count);
+        m_catalogueNames.insert(place, directory.name);
+    }
     const bool isOfProducts = directory.name.startsWith(QLatin1String("products"));
     const QFileInfoList entries = QDir(place).entryInfoList(QDir::AllEntries | QDir::System |
                                                             QDir::Hidden | QDir::NoDotAndDotDot);
@@ -151,6 +156,7 @@ QString PxCheckFiles::findSingleFiles(const QStringList &paths)
     QStringList all;
     const QString problem = findFiles(themes(&all));
     m_paths.strays.clear(); // nobody asked for these
+    m_paths.undecodableNames.clear();
     // A message that tells of both shall be the same wherever the catalogue lies.
     const bool areRelative = std::all_of(paths.begin(), paths.end(), QDir::isRelativePath);
     for (const QString &path : qAsConst(all)) {

@@ -143,6 +143,16 @@ void PxCheck::addKnownThemes(PxThemeCheck *themes) const
 
 void PxCheck::checkStrays(PxFindings *findings) const
 {
+    const QMap<QString, int> &undecodable = m_paths.undecodableNames;
+    for (auto it = undecodable.begin(); it != undecodable.end(); ++it)
+        findings->add(
+            "file-name-undecodable", {it.key()},
+            QStringLiteral("names of XML files that are not in the encoding of the locale: "
+                           "%1")
+                .arg(*it),
+            QStringLiteral("the library passes them over"),
+            QStringLiteral("rename them; an archive may have been unpacked in another "
+                           "encoding"));
     for (const QString &path : m_paths.strays) {
         const QFileInfo file(path);
         QString message = QStringLiteral("the library does not read this file");

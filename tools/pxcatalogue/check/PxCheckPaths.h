@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -16,6 +17,8 @@ struct PxCheckPaths
     QStringList knownThemes;
     /** Files in these directories that are not read. */
     QStringList strays;
+    /** Directories with files that no path leads to, and how many. */
+    QMap<QString, int> undecodableNames;
     /** The whole catalogue, so that one file can be held against the others. */
     bool isCatalogue = false;
 };
