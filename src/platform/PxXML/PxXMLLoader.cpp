@@ -23,21 +23,32 @@ QString noRegularFile()
     return QStringLiteral("this is no regular file");
 }
 
-/** Opens a regular file: a pipe that has come into its place is neither waited for nor read. */
-PxXMLFault open(QFile &file)
+PxXMLFault cannotOpen(const QString &reason)
 {
-    const QString cannotOpen = QStringLiteral("the file cannot be opened: ");
+    return unreadable(QStringLiteral("the file cannot be opened: ") + reason);
+}
+
+/**
+ * Opens a regular file and answers its size; a pipe that has come into its place is neither waited
+ * for nor read.
+ */
+PxXMLFault open(QFile &file, qint64 &size)
+{
     constexpr QIODevice::OpenMode mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
-    if (file.fileName().startsWith(QLatin1Char(':'))) // compiled in
-        return file.open(mode) ? PxXMLFault() : unreadable(cannotOpen + file.errorString());
+    if (file.fileName().startsWith(QLatin1Char(':'))) { // compiled in
+        size = file.size();
+        return file.open(mode) ? PxXMLFault() : cannotOpen(file.errorString());
+    }
     const int handle =
         ::open(QFile::encodeName(file.fileName()), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (handle < 0)
-        return unreadable(cannotOpen + qt_error_string(errno));
+        return cannotOpen(qt_error_string(errno));
     struct stat status = {};
     if (fstat(handle, &status) == 0 && S_ISREG(status.st_mode) &&
-        file.open(handle, mode, QFileDevice::AutoCloseHandle))
+        file.open(handle, mode, QFileDevice::AutoCloseHandle)) {
+        size = status.st_size;
         return {};
+    }
     close(handle);
     return unreadable(noRegularFile());
 }
@@ -48,22 +59,22 @@ PxXMLFault readBytes(const QString &path, QByteArray &bytes)
     if (path.isEmpty())
         return unreadable(QStringLiteral("no file name is given"));
     const QFileInfo info(path); // a new one: the caller's may remember what was there before
-    if (!info.exists())
-        return unreadable(QStringLiteral("there is no such file"));
     // A pipe or a device could keep us waiting, or reading, for ever.
     if (!info.isFile())
-        return unreadable(noRegularFile());
+        return unreadable(info.exists() ? noRegularFile()
+                                        : QStringLiteral("there is no such file"));
     QFile file(path);
-    PxXMLFault fault = open(file);
+    qint64 size = 0;
+    PxXMLFault fault = open(file, size);
     if (fault.kind != PxXMLFault::Kind::None)
         return fault;
-    bytes = file.read(qMin<qint64>(file.size(), PxXMLLoader::maximumFileSize) + 1);
+    bytes = file.read(qMin<qint64>(size, PxXMLLoader::maximumFileSize) + 1);
     if (file.error() != QFile::NoError)
         return unreadable(QStringLiteral("the file cannot be read: ") + file.errorString());
     if (bytes.size() > PxXMLLoader::maximumFileSize)
         return {PxXMLFault::Kind::Limit,
                 QStringLiteral("the file has %1 bytes, no more than %2 are allowed")
-                    .arg(qMax<qint64>(file.size(), bytes.size()))
+                    .arg(qMax<qint64>(size, bytes.size()))
                     .arg(PxXMLLoader::maximumFileSize)};
     return {};
 }
