@@ -49,10 +49,14 @@ QString PxPictureData::fault() const
             .arg(maximumUnpackedSize)
             .arg(m_width)
             .arg(m_height);
+    const qint64 maximumScans =
+        maximumScannedPixels / std::max(m_width * m_height, minimumScannedPixels);
     if (m_scans > maximumScans)
-        return QStringLiteral("is too slow: a JPEG of %1 scans, no more than %2 are allowed")
+        return QStringLiteral("is too slow: a JPEG of %1 scans, no more than %2 for %3 x %4 pixels")
             .arg(m_scans)
-            .arg(maximumScans);
+            .arg(maximumScans)
+            .arg(m_width)
+            .arg(m_height);
     return QString();
 }
 

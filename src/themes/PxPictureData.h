@@ -16,12 +16,16 @@ class QImage;
 class PxPictureData
 {
 public:
-    /** More than any preview or logo has; decoding so many costs up to 0.2 s and 34 MB. */
-    static constexpr qint64 maximumPixels = 2048LL * 2048;
-    /** Bytes of its pixels: in a PNG of one column eight for a pixel, and one more for each row. */
-    static constexpr qint64 maximumUnpackedSize = 9 * maximumPixels;
-    /** Of a JPEG, each of which goes over all pixels. Progressive ones have about ten. */
-    static constexpr int maximumScans = 32;
+    /** More than any preview or logo has; an image takes up to 64 MB. */
+    static constexpr qint64 maximumPixels = 4096LL * 4096;
+    /** Bytes of the pixels of a PNG or GIF: of four megapixels with eight bytes each, or more with
+     * less. */
+    static constexpr qint64 maximumUnpackedSize = 9LL * 2048 * 2048;
+    /** Scans of a JPEG times pixels: each goes over all of them. Progressive ones have about ten.
+     */
+    static constexpr qint64 maximumScannedPixels = 8 * maximumPixels;
+    /** A scan takes its time even if the picture has less. */
+    static constexpr qint64 minimumScannedPixels = 256LL * 256;
 
     explicit PxPictureData(const QByteArray &file);
 

@@ -230,7 +230,7 @@ QList<File> pictures()
         {"unicode-texts.png", png(small, chunks(chunk("iTXt", QByteArray("k\0\1\0\0\0", 6) + packed)))},
         {"profile.png", png(small, chunk("iCCP", QByteArray("k\0\0", 3) + packed))},
         {"warnings.png", png(small, chunks(chunk("gAMA", QByteArray("\0\0\xB1\x8F", 4))))}, {"empty-chunks.png", png(small, chunks(chunk("IDAT", "")))},
-        {"scans.jpg", jpegWithScans(larger, 6500)}, {"small-scans.jpg", jpegWithScans(small, 500000)}, {"most-scans.jpg", jpegWithScans(large, 22)},
+        {"scans.jpg", jpegWithScans(larger, 6500)}, {"small-scans.jpg", jpegWithScans(small, 500000)}, {"most-scans.jpg", jpegWithScans(large, 22)}, {"small-most-scans.jpg", jpegWithScans(small, 2038)}, {"large-scans.jpg", jpegWithScans(larger / (share > 1 ? 2 : 1), 0)}, {"large.bmp", bmp(larger, 8, 1, chunks("\xFF\1"))}, {"large.png", png(larger)},
         {"claims.jpg", QByteArray(jpeg(small)).replace(QByteArray("\x08\0\x08\0\x08", 5), "\x08\xFF\xF0\xFF\xF0")},
         {"comments.jpg", withSegments(jpeg(small), chunks(QByteArray("\xFF\xFE\0\2", 4)))}, {"profiles.jpg", withSegments(jpeg(small), chunks(iccSegment))},
         {"garbage.jpg", withSegments(jpeg(small), chunks("x"))}, {"marks.jpg", withSegments(jpeg(small), chunks("\xFF"))},

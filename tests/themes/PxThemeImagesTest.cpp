@@ -101,7 +101,7 @@ void PxThemeImagesTest::namesTheReason_data()
     using namespace PxPictures;
     QTest::addColumn<QByteArray>("picture");
     QTest::addColumn<QString>("fault");
-    const QString size = "is too large: %1 pixels, no more than 4194304 are allowed";
+    const QString size = "is too large: %1 pixels, no more than 16777216 are allowed";
     const QString bytes = "is too large: its pixels take more than 37748736 bytes, for %1";
     const QString kind = "is no PNG, JPEG, GIF or BMP picture";
     QTest::newRow("empty") << QByteArray() << kind;
@@ -111,17 +111,20 @@ void PxThemeImagesTest::namesTheReason_data()
     QTest::newRow("bytes") << png({8, 8}).append(QByteArray(8 << 20, ' '))
                            << "is too large: 8388677 bytes, no more than 8388608 are allowed";
     QTest::newRow("large PNG") << png({65536, 65537}, {}, "x") << size.arg("65536 x 65537");
-    QTest::newRow("one row more") << png({2048, 2049}) << size.arg("2048 x 2049");
+    QTest::newRow("one row more") << png({4096, 4097}) << size.arg("4096 x 4097");
     QTest::newRow("endless PNG") << png({8, 8}, {}, endlessPixels(300000)) << bytes.arg("8 x 8");
-    QTest::newRow("large JPEG") << jpeg({2500, 1800}) << size.arg("2500 x 1800");
-    QTest::newRow("slow JPEG") << jpegWithScans({8, 8}, 23)
-                               << "is too slow: a JPEG of 33 scans, no more than 32 are allowed";
+    QTest::newRow("large JPEG") << jpeg({5000, 3400}) << size.arg("5000 x 3400");
+    const QString scans = "is too slow: a JPEG of %1 pixels";
+    QTest::newRow("slow JPEG") << jpegWithScans({2048, 2048}, 23)
+                               << scans.arg("33 scans, no more than 32 for 2048 x 2048");
+    QTest::newRow("slow small JPEG")
+        << jpegWithScans({8, 8}, 2039) << scans.arg("2049 scans, no more than 2048 for 8 x 8");
     QTest::newRow("arithmetic JPEG") << jpeg({8, 8}).replace("\xFF\xC2", "\xFF\xCA")
                                      << "is a JPEG that is neither baseline nor progressive";
     QTest::newRow("GIF with a large screen")
-        << gif({65535, 65}, {8, 8}, 64) << size.arg("65535 x 65");
+        << gif({65535, 257}, {8, 8}, 64) << size.arg("65535 x 257");
     QTest::newRow("GIF with a large frame")
-        << gif({8, 8}, {2049, 2048}, 64) << size.arg("2049 x 2048");
+        << gif({8, 8}, {4097, 4096}, 64) << size.arg("4097 x 4096");
     QTest::newRow("endless GIF") << gif({8, 8}, {8, 8}, 37748737) << bytes.arg("8 x 8");
     QTest::newRow("large BMP") << bmp({40000, -1000}, 24, 0, "") << size.arg("40000 x 1000");
     QTest::newRow("BMP beyond 32 bits")

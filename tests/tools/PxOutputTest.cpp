@@ -226,12 +226,12 @@ void PxOutputTest::showsNothingRaw()
                    QString("<producttype code='99901' name='%1' class='book'/>"
                            "<producttype code='99902' name='%1' class='%1'/></producttypes>")
                        .arg(book));
-    sample.write(
-        "products/a\x1b[1m" + hidden + ".xml",
-        QString("<p><product name='%1' binding='%2' a%2='%2'><usablesize width='1' height='1'/>"
-                "<variants type='%2'><variant>v%2</variant></variants>"
-                "<defaults><defaults layout='%2'/></defaults></product></p>")
-            .arg(book, hidden));
+    sample.write("products/a\x1b[1m" + hidden + ".xml",
+                 QString("<p><product name='%1' binding='%2' a\u202E\u00AD='%2'><usablesize "
+                         "width='1' height='1'/>"
+                         "<variants type='%2'><variant>v%2</variant></variants>"
+                         "<defaults><defaults layout='%2'/></defaults></product></p>")
+                     .arg(book, hidden));
     sample.write("products/broken" + hidden + ".xml", QString("<p><%1").arg(hidden));
     sample.write("themes/hidden.xml",
                  QString("<themes><theme id='%1'><description>%1</description></theme></themes>")
