@@ -2,8 +2,8 @@
 
 #include "PxProductPropertiesExport.h"
 
-#include <QHash>
 #include <QImage>
+#include <QMap>
 #include <QString>
 
 /**
@@ -47,8 +47,9 @@ private:
     Result read(const QString &path);
     Result decode(const QByteArray &bytes);
 
-    QHash<QString, Result> m_ofPath;
-    QHash<QString, Result> m_ofFile; ///< by device and number, which no spelling changes
-    qint64 m_pixels = 0;             ///< decoded so far
+    // Sorted: paths of a theme file may all share one hash.
+    QMap<QString, Result> m_ofPath;
+    QMap<QString, Result> m_ofFile; ///< by device and number, which no spelling changes
+    qint64 m_pixels = 0;            ///< decoded so far
     int m_searchesLeft = maximumSearches;
 };

@@ -313,10 +313,13 @@ void PxHostileCatalogueTest::oneWarningForEachUnreadableFile()
 
 void PxHostileCatalogueTest::noFileCostsMuch()
 {
-    const QStringList costs = restOf(m_report, "cost ");
+    QMultiMap<double, QString> costs; // milliseconds and the file
+    for (const QString &cost : restOf(m_report, "cost "))
+        costs.insert(cost.section(' ', 0, 0).toDouble(), cost.section(' ', 1));
     QVERIFY(costs.size() > 100);
-    for (const QString &cost : costs)
-        QVERIFY2(cost.section(' ', 0, 0).toDouble() <= maximumMilliseconds, qPrintable(cost));
+    for (auto dearest = costs.end(); dearest-- != std::prev(costs.end(), 10);)
+        qInfo("%4.0f ms  %s", dearest.key(), qPrintable(dearest.value()));
+    QVERIFY2(costs.lastKey() <= maximumMilliseconds, qPrintable(costs.last()));
 }
 
 int main(int argc, char *argv[])

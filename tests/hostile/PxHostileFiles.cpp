@@ -203,6 +203,7 @@ QList<File> wildThemes()
         {"KEYACCOUNTS", theme("", "<keyaccounts>" + asMany("<k>99999999999999999999</k>", 2) + "</keyaccounts>")},
         {"PRODUCTS", theme("", "<products>" + asMany("<product>BOOK</product>", 2) + "</products>")},
         {"LOGOS", theme("", "<logos>" + asMany("<logo filename='n' width='2147483647' x='-2147483648'/>", 4) + "</logos>")},
+        {"COLLIDINGIMAGES", theme("", "<logos><logo filename='" + collidingNames(40000).join("'/><logo filename='") + "'/></logos>")},
         {"IMAGES", theme("thumbnail='/dev/zero'", "<logos>" + images + "</logos>")},
         {"DESCRIPTION", theme("", "<description>" + asMany("ä", 0) + "</description>")},
         {"DEEPDESCRIPTION", theme("", "<description>" + QByteArray("<a>").repeated(250) + QByteArray("ä").repeated(200000) + QByteArray("</a>").repeated(250) + "</description>")},

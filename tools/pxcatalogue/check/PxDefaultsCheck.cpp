@@ -6,6 +6,7 @@
 #include "check/PxPageEntries.h"
 #include "check/PxSourceParts.h"
 #include "check/PxSpelling.h"
+#include "vocabulary/PxVocabulary.h"
 
 #include <geometry/PxDefaultTemplateMap.h>
 
@@ -105,7 +106,8 @@ void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry, PxFindings *f
     }
     PxFileFindings found(m_file, findings);
     for (const PxSourcePart &part : parts) {
-        const PxPageType pageType(part.text);
+        const PxPageType pageType =
+            static_cast<PxPageTypeEnum>(PxVocabulary::decode(PxKeywordSet::PageType, part.text));
         const bool isUnion = PxPageEntry::isUnion(pageType);
         const bool isRange = pageType.isValid() && !pageType.matches(PxPageTypeAll);
         if (!isUnion && !isRange)

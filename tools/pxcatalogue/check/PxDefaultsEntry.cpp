@@ -46,7 +46,8 @@ PxDefaultsEntry::PxDefaultsEntry(const PxSourceElement &element)
     });
     m_themes.removeDuplicates();
     pxForEachPart(element.value(QStringLiteral("pageType")), [this](QStringView part) {
-        const PxPageTypeEnum pageType = PxPageType(part.trimmed().toString()).value();
+        const auto pageType = static_cast<PxPageTypeEnum>(
+            PxVocabulary::decode(PxKeywordSet::PageType, part.trimmed().toString()));
         if (pageType != PxPageTypeNone && !m_pageTypes.contains(pageType))
             m_pageTypes.append(pageType);
     });

@@ -186,10 +186,16 @@ bool isKeywordOf(const QString &word)
     return table->decode(word, none) != none;
 }
 
+/** As the wrapper does it, but without a message about what is no keyword: that is told here. */
 template <typename WRAPPER>
 int decodeAs(const QString &text)
 {
-    return WRAPPER(text).value();
+    const auto *table = WRAPPER().enumToStringTable();
+    int undecodable = table->maximumMessages;
+    int flags = 0;
+    pxForEachPart(
+        text, [&](QStringView part) { flags |= table->decodePart(part.toString(), undecodable); });
+    return flags;
 }
 
 // The shared map of an enumeration.
