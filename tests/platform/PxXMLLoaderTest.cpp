@@ -175,6 +175,7 @@ void PxXMLLoaderTest::refusesMalformedTextAndKeepsTheLimits_data()
         {"zero in the name of an attribute", QByteArray("<a>\n<b c\0=''/></a>", 18), "2:10: the name of an attribute has a control character"},
         {"control character there", "<a b\xC2\x85='' c=''/>", ": the name of an attribute has a control character"},
         {"control character in a document type", "<!DOCTYPE a\x1F\n SYSTEM 'x'><a/>", ": the name of the document type has a control character"},
+        {"control character in its prefix", "<!DOCTYPE  a\x01:b SYSTEM 'x'><a/>", ": the name of the document type has a control character"},
         {"no character in a document type", "<!DOCTYPE a\xEF\xBF\xBF><a/>", ": the name of the document type has a control character"},
         {"broken UTF-8", "<a>\n\xF0\x9F\x98\x80\xC3(</a>", "2:3: the text is no valid UTF-8"},
         {"cut UTF-8", "<a/>\n\xC3", "2:1: the text is no valid UTF-8"},

@@ -17,6 +17,21 @@ bool hasControlCharacter(QStringView name)
     });
 }
 
+/** What stands before the colon in its name, which Qt's reader does not tell. */
+QStringView prefixOfDocumentType(QStringView declaration)
+{
+    const auto isBlank = [](QChar c) {
+        return c == QLatin1Char(' ') || c == QLatin1Char('\t') || c == QLatin1Char('\n');
+    };
+    const QStringView rest =
+        declaration.mid(declaration.indexOf(QLatin1Char('E')) + 1); // of DOCTYPE
+    const auto begin = std::find_if_not(rest.begin(), rest.end(), isBlank);
+    const auto end = std::find_if(begin, rest.end(), [&isBlank](QChar c) {
+        return isBlank(c) || c == QLatin1Char(':') || c == QLatin1Char('>');
+    });
+    return QStringView(begin, end);
+}
+
 } // namespace
 
 PxXMLDocumentBuilder::PxXMLDocumentBuilder(QXmlStreamReader &reader, bool hasStandalone)
@@ -130,7 +145,8 @@ void PxXMLDocumentBuilder::addDeclaration(bool hasStandalone)
 
 std::optional<PxXMLFault> PxXMLDocumentBuilder::addDocumentType()
 {
-    if (hasControlCharacter(m_reader.dtdName()))
+    if (hasControlCharacter(m_reader.dtdName()) ||
+        hasControlCharacter(prefixOfDocumentType(m_reader.text())))
         return fault(PxXMLFault::Kind::NotWellFormed,
                      QStringLiteral("the name of the document type has a control character"));
     // A document gets its type when it is created only, so what we have so far moves over.
