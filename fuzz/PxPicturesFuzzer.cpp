@@ -1,5 +1,6 @@
 #include "PxFuzzedDirectory.h"
 
+#include <themes/PxPictureData.h>
 #include <themes/PxThemeImages.h>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
@@ -11,7 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         qFatal("no reason");
     if (!result.image.isNull() && !result.fault.isEmpty() && !result.isCutOff)
         qFatal("shown in spite of its fault");
-    if (qint64(result.image.width()) * result.image.height() > 2048 * 2048)
+    if (qint64(result.image.width()) * result.image.height() > PxPictureData::maximumPixels)
         qFatal("larger than it was measured");
     return 0;
 }

@@ -9,6 +9,32 @@
 #include <algorithm>
 #include <iterator>
 
+namespace {
+
+/** How many samples the blocks of a JPEG hold, which are cut off at no edge of the picture. */
+qint64 jpegSamples(const QByteArray &frame, qint64 width, qint64 height)
+{
+    constexpr int blockSize = 8;
+    const int components = frame.size() > 7 ? uchar(frame.at(7)) : 0;
+    int mostAcross = 1;
+    int mostDown = 1;
+    int blocks = 0; // of the smallest part of the picture that has some of each component
+    for (int i = 0; i < components && 9 + 3 * i < frame.size(); ++i) {
+        const int sampling = uchar(frame.at(9 + 3 * i));
+        const int across = sampling >> 4;
+        const int down = sampling & 15;
+        mostAcross = std::max(mostAcross, across);
+        mostDown = std::max(mostDown, down);
+        blocks += across * down;
+    }
+    const auto parts = [](qint64 length, int most) {
+        return (length + blockSize * most - 1) / (blockSize * most);
+    };
+    return parts(width, mostAcross) * parts(height, mostDown) * blocks * blockSize * blockSize;
+}
+
+} // namespace
+
 PxPictureData::PxPictureData(const QByteArray &file) : m_bytes(file)
 {
     const struct
@@ -49,14 +75,15 @@ QString PxPictureData::fault() const
             .arg(maximumUnpackedSize)
             .arg(m_width)
             .arg(m_height);
-    const qint64 maximumScans =
-        maximumScannedPixels / std::max(m_width * m_height, minimumScannedPixels);
-    if (m_scans > maximumScans)
-        return QStringLiteral("is too slow: a JPEG of %1 scans, no more than %2 for %3 x %4 pixels")
+    constexpr int usualScans = 10;
+    const bool isKept = m_isProgressive || m_scans > 1;
+    const qint64 samples = std::max(m_samples, minimumScannedSamples);
+    if (samples * (isKept ? std::max(m_scans, usualScans) : m_scans) > maximumScannedSamples)
+        return QStringLiteral("is too slow: a JPEG of %1 scans over %2 samples, no more than %3 "
+                              "together are allowed")
             .arg(m_scans)
-            .arg(maximumScans)
-            .arg(m_width)
-            .arg(m_height);
+            .arg(samples)
+            .arg(maximumScannedSamples);
     return QString();
 }
 
@@ -148,6 +175,8 @@ void PxPictureData::readJpeg()
             if (m_height == 0) {
                 m_height = word(segment + 3);
                 m_width = word(segment + 5);
+                m_samples = jpegSamples(file.mid(int(segment), 8 + 3 * 255), m_width, m_height);
+                m_isProgressive = marker == 0xC2;
             }
         } else if (marker == 0xDA) {
             ++m_scans;
@@ -193,7 +222,8 @@ void PxPictureData::readGif()
             position += 2;
             gifBlocks(&position);
         } else {
-            m_isCutOff = introducer < 0;
+            // Some end behind the frame without the mark of the end.
+            m_isCutOff = introducer < 0 && !(hasFrame && position == m_bytes.size());
             return;
         }
     }
@@ -224,8 +254,9 @@ void PxPictureData::readBmp()
         return;
     }
     constexpr int bitFields = 3;
-    if (compression != 0 && compression != bitFields) // run lengths
-        m_isCutOff = littleEndian(2, 4) > m_bytes.size();
+    if (compression != 0 && compression != bitFields)            // run lengths
+        m_isCutOff = !m_bytes.endsWith(QByteArray("\0\1", 2)) && // the end
+                     littleEndian(2, 4) > m_bytes.size();
     else if (m_width > 0 && m_height > 0 && m_width <= maximumPixels / m_height)
         m_isCutOff =
             littleEndian(10, 4) + (m_width * bits + 31) / 32 * 4 * m_height > m_bytes.size();

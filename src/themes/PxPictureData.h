@@ -18,14 +18,16 @@ class PxPictureData
 public:
     /** More than any preview or logo has; an image takes up to 64 MB. */
     static constexpr qint64 maximumPixels = 4096LL * 4096;
-    /** Bytes of the pixels of a PNG or GIF: of four megapixels with eight bytes each, or more with
-     * less. */
-    static constexpr qint64 maximumUnpackedSize = 9LL * 2048 * 2048;
-    /** Scans of a JPEG times pixels: each goes over all of them. Progressive ones have about ten.
+    /** Bytes of the pixels of a PNG or GIF: four each, and one more for each row, may it be of one.
      */
-    static constexpr qint64 maximumScannedPixels = 8 * maximumPixels;
+    static constexpr qint64 maximumUnpackedSize = 5 * maximumPixels;
+    /**
+     * Scans of a JPEG times samples, as many as its blocks of 64 hold: each scan goes over all.
+     * Progressive ones have about ten, and count as ten at least, since all samples are kept.
+     */
+    static constexpr qint64 maximumScannedSamples = 24 * maximumPixels;
     /** A scan takes its time even if the picture has less. */
-    static constexpr qint64 minimumScannedPixels = 256LL * 256;
+    static constexpr qint64 minimumScannedSamples = 512LL * 256;
 
     explicit PxPictureData(const QByteArray &file);
 
@@ -54,7 +56,9 @@ private:
     qint64 m_width = 0;
     qint64 m_height = 0;
     qint64 m_unpackedSize = 0; ///< where it does not follow from the others
+    qint64 m_samples = 0;      ///< of a JPEG
     int m_scans = 0;
+    bool m_isProgressive = false;
     bool m_isOtherJpeg = false; ///< arithmetically coded, lossless or hierarchical
     bool m_isCutOff = false;
 };

@@ -11,6 +11,7 @@
 #include <cstdlib>
 
 #include <fcntl.h>
+#include <limits.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -100,6 +101,10 @@ PxThemeImages::Result PxThemeImages::read(const QString &path)
     if (isEnding || path.isEmpty())
         return {};
     Result result;
+    if (path.size() >= PATH_MAX) { // long work for a name that no file can have
+        result.fault = QStringLiteral("is not there");
+        return result;
+    }
     const QString name = fileOf(path);
     if (name.isEmpty()) {
         const QFileInfo info(path);
@@ -115,8 +120,11 @@ PxThemeImages::Result PxThemeImages::read(const QString &path)
     QFile file(name);
     const QString id = open(&file);
     const auto known = m_ofFile.constFind(id);
-    if (known != m_ofFile.constEnd())
-        return *known;
+    if (known != m_ofFile.constEnd()) {
+        result = *known;
+        setPixelRatio(&result.image, name);
+        return result;
+    }
     if (id.isEmpty())
         result.fault = QStringLiteral("is no regular file");
     else if (file.size() > maximumFileSize)
@@ -126,11 +134,11 @@ PxThemeImages::Result PxThemeImages::read(const QString &path)
     else
         result = decode(file.read(maximumFileSize));
     result.isThere = true;
-    setPixelRatio(&result.image, name);
     if (!result.fault.isEmpty())
         qWarning() << "PxThemeImages::read" << name << qUtf8Printable(result.fault);
     if (!id.isEmpty())
         m_ofFile.insert(id, result);
+    setPixelRatio(&result.image, name);
     return result;
 }
 

@@ -69,6 +69,7 @@ void PxThemeImagesTest::showsWhatQImageShows_data()
         PxPictures::jpeg({40, 30}), QByteArray("\xFF\xFF\xFF\xFE\0\4\xFF\xDA\xFF\xE1\0\2", 12));
     QTest::newRow("GIF") << PxPictures::gif({8, 6}, {8, 6}, 48);
     QTest::newRow("GIF with a larger screen") << PxPictures::gif({80, 60}, {8, 6}, 48);
+    QTest::newRow("GIF without an end") << PxPictures::gif({8, 6}, {8, 6}, 48).chopped(1);
     QTest::newRow("BMP") << saved("BMP");
     QTest::newRow("BMP from top to bottom")
         << PxPictures::bmp({2, -3}, 24, 0, "abcdef..ghijkl..mnopqr..");
@@ -102,7 +103,7 @@ void PxThemeImagesTest::namesTheReason_data()
     QTest::addColumn<QByteArray>("picture");
     QTest::addColumn<QString>("fault");
     const QString size = "is too large: %1 pixels, no more than 16777216 are allowed";
-    const QString bytes = "is too large: its pixels take more than 37748736 bytes, for %1";
+    const QString bytes = "is too large: its pixels take more than 83886080 bytes, for %1";
     const QString kind = "is no PNG, JPEG, GIF or BMP picture";
     QTest::newRow("empty") << QByteArray() << kind;
     QTest::newRow("text") << QByteArray("no picture") << kind;
@@ -112,20 +113,26 @@ void PxThemeImagesTest::namesTheReason_data()
                            << "is too large: 8388677 bytes, no more than 8388608 are allowed";
     QTest::newRow("large PNG") << png({65536, 65537}, {}, "x") << size.arg("65536 x 65537");
     QTest::newRow("one row more") << png({4096, 4097}) << size.arg("4096 x 4097");
-    QTest::newRow("endless PNG") << png({8, 8}, {}, endlessPixels(300000)) << bytes.arg("8 x 8");
+    QTest::newRow("endless PNG") << png({8, 8}, {}, endlessPixels(700000)) << bytes.arg("8 x 8");
     QTest::newRow("large JPEG") << jpeg({5000, 3400}) << size.arg("5000 x 3400");
-    const QString scans = "is too slow: a JPEG of %1 pixels";
-    QTest::newRow("slow JPEG") << jpegWithScans({2048, 2048}, 23)
-                               << scans.arg("33 scans, no more than 32 for 2048 x 2048");
+    const QString scans = "is too slow: a JPEG of %1 samples, no more than 402653184 together are "
+                          "allowed";
+    QTest::newRow("slow JPEG") << jpegWithScans({2048, 2048}, 55)
+                               << scans.arg("65 scans over 6291456");
     QTest::newRow("slow small JPEG")
-        << jpegWithScans({8, 8}, 2039) << scans.arg("2049 scans, no more than 2048 for 8 x 8");
+        << jpegWithScans({8, 8}, 3063) << scans.arg("3073 scans over 131072");
+    const QByteArray thin("\x08\xFF\xDC\0\1\3\1\x41\0\2\x41\1\3\x11\1", 15); // four blocks a row
+    QTest::newRow("thin JPEG")
+        << jpegWithScans({8, 8}, 80)
+               .replace(QByteArray("\x08\0\x08\0\x08\3\1\x22\0\2\x11\1\3\x11\1", 15), thin)
+        << scans.arg("90 scans over 4716288");
     QTest::newRow("arithmetic JPEG") << jpeg({8, 8}).replace("\xFF\xC2", "\xFF\xCA")
                                      << "is a JPEG that is neither baseline nor progressive";
     QTest::newRow("GIF with a large screen")
         << gif({65535, 257}, {8, 8}, 64) << size.arg("65535 x 257");
     QTest::newRow("GIF with a large frame")
         << gif({8, 8}, {4097, 4096}, 64) << size.arg("4097 x 4096");
-    QTest::newRow("endless GIF") << gif({8, 8}, {8, 8}, 37748737) << bytes.arg("8 x 8");
+    QTest::newRow("endless GIF") << gif({8, 8}, {8, 8}, 83886081) << bytes.arg("8 x 8");
     QTest::newRow("large BMP") << bmp({40000, -1000}, 24, 0, "") << size.arg("40000 x 1000");
     QTest::newRow("BMP beyond 32 bits")
         << bmp({2147483647, -2147483647 - 1}, 1, 0, "") << size.arg("2147483647 x 2147483648");
@@ -174,7 +181,7 @@ void PxThemeImagesTest::cutOffPicturesAreNamed_data()
     QTest::newRow("PNG without size") << saved("PNG").left(14) << false;
     QTest::newRow("JPEG") << saved("JPG").chopped(3) << true;
     QTest::newRow("JPEG without pixels") << saved("JPG").left(30) << false;
-    QTest::newRow("GIF") << PxPictures::gif({8, 8}, {8, 8}, 64).chopped(1) << true;
+    QTest::newRow("GIF") << PxPictures::gif({8, 8}, {8, 8}, 64).chopped(3) << true;
     QTest::newRow("BMP") << saved("BMP").chopped(50) << true;
     QTest::newRow("packed BMP") << PxPictures::bmp({4, 2}, 8, 1, "\4\1").chopped(1) << true;
 }

@@ -66,7 +66,7 @@ static constexpr PxCheckTag rows[] = {
      "The end of the image is missing, as after a copy that was broken off. What is missing is shown in grey or black, or the whole image is not shown; that depends on its format. Copy the file again.",
      "", "", ""},
     {"theme-image-missing", PxSeverity::Warning, "an image of a theme cannot be shown",
-     "The file is not there, is no regular file, is no PNG, JPEG, GIF or BMP, is damaged, or is over a limit of the library: 8 MiB, 4096 x 4096 pixels, scans of a JPEG times pixels. Logos are looked up in the resource directories. A preview with a relative path is found from the directory that the application runs in; it is judged here only when other previews of the file show which one that is.",
+     "The file is not there, is no regular file, is no PNG, JPEG, GIF or BMP, is damaged, or is over a limit of the library: 8 MiB, 4096 x 4096 pixels, scans of a JPEG. Logos are looked up in the resource directories. A preview with a relative path is found from the directory that the application runs in; it is judged here only when other previews of the file show which one that is.",
      "themes/grundthemen.xml",
      "<logo booktype=\"CB6\" filename=\"»images/logo-schulle.png\"",
      "<logo booktype=\"CB6\" filename=\"images/logo-schule.png\""},
