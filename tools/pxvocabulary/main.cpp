@@ -52,6 +52,7 @@ int printTables(const QString &path)
 
 int main(int argc, char *argv[])
 {
+    PxTerminal::prepare();
     QCoreApplication::setApplicationName(QStringLiteral("pxvocabulary"));
     QStringList arguments;
     for (int i = 1; i < argc; ++i)

@@ -54,7 +54,7 @@ QString PxOutputFile::write(const QString &path, const QByteArray &contents)
     const QByteArray name = QFile::encodeName(path);
     struct stat file = {};
     if (stat(name.constData(), &file) != 0)
-        return replace(path, contents); // which says what is wrong, unless there is none
+        return errno == ENOENT ? replace(path, contents) : problem(errno);
     for (const int descriptor : {STDOUT_FILENO, STDERR_FILENO}) {
         struct stat open = {};
         if (fstat(descriptor, &open) == 0 && open.st_dev == file.st_dev &&

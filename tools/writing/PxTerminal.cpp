@@ -10,7 +10,9 @@
 #include <QStringList>
 
 #include <cerrno>
+#include <csignal>
 
+#include <fcntl.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -26,6 +28,16 @@ bool writeOutput(const QByteArray &output)
 }
 
 } // namespace
+
+void PxTerminal::prepare()
+{
+    std::signal(SIGXFSZ, SIG_IGN);
+    // Each takes the lowest number that is free; none can be written to.
+    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(descriptor, F_GETFD) == -1 && open("/dev/null", O_RDONLY) == -1)
+            return;
+    }
+}
 
 int PxTerminal::columns()
 {

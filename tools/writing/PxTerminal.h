@@ -9,6 +9,12 @@ class QJsonObject;
 class PxTerminal
 {
 public:
+    /**
+     * To be called first: a file that may not grow gives an error instead of a signal, and what the
+     * program opens never takes the place of a closed stdin, stdout or stderr.
+     */
+    static void prepare();
+
     /** From the environment or the terminal; 100 when stdout is no terminal. */
     static int columns();
 

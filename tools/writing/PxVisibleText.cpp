@@ -17,6 +17,7 @@ constexpr struct
     {0x115F, 0x1160},   // fillers of Hangul
     {0x17B4, 0x17B5},   // vowels of Khmer that are not written
     {0x180B, 0x180F},   // choose variants
+    {0x2800, 0x2800},   // a pattern of no dots
     {0x3164, 0x3164},   // filler
     {0xFE00, 0xFE0F},   // choose variants
     {0xFFA0, 0xFFA0},   // filler

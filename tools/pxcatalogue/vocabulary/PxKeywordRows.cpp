@@ -191,11 +191,8 @@ template <typename WRAPPER>
 int decodeAs(const QString &text)
 {
     const auto *table = WRAPPER().enumToStringTable();
-    int undecodable = table->maximumMessages;
-    int flags = 0;
-    pxForEachPart(
-        text, [&](QStringView part) { flags |= table->decodePart(part.toString(), undecodable); });
-    return flags;
+    int undecodable = pxMaximumMessages;
+    return table->decodeCSV(text, undecodable);
 }
 
 // The shared map of an enumeration.
