@@ -1,6 +1,7 @@
 #pragma once
 
 #include "PxKeyword.h"
+#include "PxMessageLimit.h"
 #include "splitEnumType.h"
 
 #include <QDebug>
@@ -53,49 +54,40 @@ public:
      * The union of a comma-separated list of keywords.
      *
      * A part that is no keyword, an empty one too, adds the default value and is logged at debug
-     * level, as far as maximumMessages goes; an empty text gives the default value without a word.
+     * level, as far as pxMaximumMessages goes; an empty text gives the default value without a word.
      */
     ENUM decodeCSV(const QString &keywords) const
     {
+        int undecodable = 0;
+        const ENUM value = decodeCSV(keywords, undecodable);
+        reportMoreUndecodable(undecodable);
+        return value;
+    }
+
+    /** The same for one of several texts, whose parts without keyword are counted together. */
+    ENUM decodeCSV(const QString &keywords, int &undecodable) const
+    {
         const char *const function = Q_FUNC_INFO; // of this function, not of the lambda
         int flags = 0;
-        int count = 0;
         pxForEachPart(keywords, [&](QStringView part) {
             const QString keyword = part.toString();
-            ENUM value = decode(keyword, undecodable);
-            if (value == undecodable) {
+            ENUM value = decode(keyword, noValue);
+            if (value == noValue) {
                 value = m_defaultValue;
-                if (!keywords.isEmpty() && ++count <= maximumMessages)
+                if (!keywords.isEmpty() && ++undecodable <= pxMaximumMessages)
                     reportUndecodable(keyword, function);
             }
             flags |= value;
         });
-        reportMoreUndecodable(count);
         return static_cast<ENUM>(flags);
     }
-
-    /** Of the parts of one text that are no keyword so many are logged; a text may have millions.
-     */
-    static constexpr int maximumMessages = 100;
-
-    /**
-     * The value of one part of a list whose parts are wanted one by one; as decodeCSV() has it, and
-     * logged unless it is empty. `count` counts those of the list that are no keyword.
-     */
-    ENUM decodePart(const QString &part, int &count) const
+    /** To be called after the last of several texts: how many were not logged. */
+    static void reportMoreUndecodable(int undecodable)
     {
-        const ENUM value = decode(part, undecodable);
-        if (value != undecodable)
-            return value;
-        return part.isEmpty() || ++count > maximumMessages ? m_defaultValue : decodeCSV(part);
-    }
-    /** To be called after the last part: how many were not logged. */
-    static void reportMoreUndecodable(int count)
-    {
-        if (count > maximumMessages)
+        if (undecodable > pxMaximumMessages)
             QMessageLogger("../PxTemplateClasses/PxEnumToStringTable", 161, Q_FUNC_INFO).debug()
                 << "undecodable: (using default in " << typeid(ENUM).name() << ")"
-                << count - maximumMessages << "more";
+                << undecodable - pxMaximumMessages << "more";
     }
 
     /** The keyword of exactly this value; a union without a keyword of its own has none. */
@@ -127,7 +119,7 @@ public:
 
 private:
     // The sign bit alone: no keyword can stand for it, for it splits into no bits.
-    static constexpr ENUM undecodable = static_cast<ENUM>(std::numeric_limits<int>::min());
+    static constexpr ENUM noValue = static_cast<ENUM>(std::numeric_limits<int>::min());
 
     static void reportUndecodable(const QString &keyword, const char *function)
     {

@@ -323,6 +323,7 @@ void PxProductTypeDescription::initBackgroundCategories(const QDomElement &produ
 }
 
 // Applications ask for each page of a product: what a page finds takes no longer with more entries.
+// Redirects are few, or ranges, and are gone through.
 
 void PxProductTypeDescription::indexSurroundings()
 {

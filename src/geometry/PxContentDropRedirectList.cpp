@@ -1,5 +1,6 @@
 #include "geometry/PxContentDropRedirectList.h"
 
+#include <PxMessageLimit.h>
 #include <PxXMLParser.h>
 
 #include <QDomElement>
@@ -9,6 +10,7 @@
 PxContentDropRedirectList::PxContentDropRedirectList(const QDomElement &parent)
 {
     const QString tag = QStringLiteral("contentredirect");
+    int unreadable = 0;
     for (QDomElement e = parent.firstChildElement(tag); !e.isNull();
          e = e.nextSiblingElement(tag)) {
         // A negative page has a "-" too, and so an empty first part: only pages from 0 can be read.
@@ -19,13 +21,18 @@ PxContentDropRedirectList::PxContentDropRedirectList(const QDomElement &parent)
         const int last = from.midRef(from.lastIndexOf(QLatin1Char('-')) + 1).toInt(&hasLast);
         const int target = PxXMLParser::intAttribute(e, QStringLiteral("to"), -1);
         if (!hasFirst || !hasLast || last < 0 || target < 0) {
-            QMessageLogger("PxContentDropRedirectList", __LINE__, Q_FUNC_INFO)
-                .warning("PxContentDropRedirectList::PxContentDropRedirectList parse error");
+            if (++unreadable <= pxMaximumMessages)
+                QMessageLogger("PxContentDropRedirectList", __LINE__, Q_FUNC_INFO)
+                    .warning("PxContentDropRedirectList::PxContentDropRedirectList parse error");
             continue;
         }
         if (first <= last)
             m_ranges.append({first, last, target});
     }
+    if (unreadable > pxMaximumMessages)
+        QMessageLogger("PxContentDropRedirectList", __LINE__, Q_FUNC_INFO)
+            .warning("PxContentDropRedirectList::PxContentDropRedirectList %d more parse errors",
+                     unreadable - pxMaximumMessages);
 }
 
 int PxContentDropRedirectList::targetPage(int page) const

@@ -117,7 +117,7 @@ void PxDefaultTemplateMap::readPageTypes(const QString &keywords, Defaults &defa
 {
     const auto *table = PxPageType().enumToStringTable();
     pxForEachPart(keywords, [&](QStringView part) {
-        const PxPageTypeEnum pageType = table->decodePart(part.trimmed().toString(), undecodable);
+        const PxPageTypeEnum pageType = table->decodeCSV(part.trimmed().toString(), undecodable);
         if (isSingleBit(pageType))
             defaults.pageTypes |= pageType;
         else if (!defaults.otherPageTypes.contains(pageType))

@@ -8,11 +8,19 @@
 #include <QDomElement>
 
 PxSurroundingDescription::PxSurroundingDescription(const QDomElement &surrounding)
+{
+    int undecodable = 0;
+    *this = PxSurroundingDescription(surrounding, undecodable);
+    PxPageType().enumToStringTable()->reportMoreUndecodable(undecodable);
+}
+
+PxSurroundingDescription::PxSurroundingDescription(const QDomElement &surrounding, int &undecodable)
     : m_surroundingType(EnumHelper::decodeKeyword(
           surrounding.attribute(QStringLiteral("type"), QStringLiteral("book")),
           EnumHelper::globalMapSurroundingTypeString,
           EnumHelper::globalSurroundingTypeDefaultValue))
-    , m_pageTypes(surrounding.attribute(QStringLiteral("pageType"), QStringLiteral("all")))
+    , m_pageTypes(PxPageType().enumToStringTable()->decodeCSV(
+          surrounding.attribute(QStringLiteral("pageType"), QStringLiteral("all")), undecodable))
     , m_alignments(pxPageAlignments(surrounding))
     , m_pageNr(PxXMLParser::intAttribute(surrounding, QStringLiteral("pageNr"), -1))
     , m_paintOnTop(PxXMLParser::boolAttribute(surrounding, QStringLiteral("paintOnTop"), true))

@@ -22,6 +22,8 @@ public:
      * A FRAME is for every ordinary page of any side, whatever its element says.
      */
     explicit PxSurroundingDescription(const QDomElement &surrounding);
+    /** One of many, which together log no more undecodable kinds of page than one. */
+    PxSurroundingDescription(const QDomElement &surrounding, int &undecodable);
 
     bool isValid() const { return m_surroundingType != PxSurroundingTypeNone; }
 

@@ -8,12 +8,14 @@ PxSurroundingDescriptionList::PxSurroundingDescriptionList(const QDomElement &pr
 {
     const QString listTag = QStringLiteral("surroundings");
     const QString tag = QStringLiteral("surrounding");
+    int undecodable = 0; // of the kinds of page of all elements
     for (QDomElement list = product.firstChildElement(listTag); !list.isNull();
          list = list.nextSiblingElement(listTag)) {
         for (QDomElement e = list.firstChildElement(tag); !e.isNull();
              e = e.nextSiblingElement(tag))
-            append(PxSurroundingDescription(e));
+            append(PxSurroundingDescription(e, undecodable));
     }
+    PxPageType().enumToStringTable()->reportMoreUndecodable(undecodable);
 }
 
 PxSurroundingDescription PxSurroundingDescriptionList::findDescription(

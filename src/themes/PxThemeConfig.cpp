@@ -56,7 +56,9 @@ QString PxThemeConfig::sortingKey() const
     append(m_productGroup.value());
     for (bool flag : {m_useSpineText, m_useSpineLogo, m_canMoveContent, m_canUseNormalBackgrounds})
         append(flag);
+    append(m_keyAccounts.size());
     std::for_each(m_keyAccounts.begin(), m_keyAccounts.end(), append);
+    append(m_logos.size());
     for (auto logo = m_logos.begin(); logo != m_logos.end(); ++logo) {
         const QRect &place = logo->second;
         for (int number : {int(logo.key()), place.x(), place.y(), place.width(), place.height()})
@@ -65,5 +67,5 @@ QString PxThemeConfig::sortingKey() const
     for (PxJigTypeEnum jigType : {PxJigTypeBackground, PxJigTypeClipart, PxJigTypeContent,
                                   PxJigTypeLayout, PxJigTypePassepartout, PxJigTypeFrame})
         parts.append(defaultCategory(jigType).name().toCaseFolded()); // compared in any case
-    return parts.join(QLatin1Char(','));
+    return parts.join(QChar(0));                                      // which no text of a file has
 }

@@ -20,8 +20,8 @@ public:
     Q_DISABLE_COPY(PxThemeFactory)
 
     /**
-     * The themes of the themes directory. Created on first use, from any thread; not to be asked for
-     * by a message handler while it loads, as PxProductTypeConfigRegistry::instance() says.
+     * The themes of the themes directory. Created on first use, from any thread; not to be asked
+     * for by a message handler while it loads, as PxProductTypeConfigRegistry::instance() says.
      */
     static PxThemeFactory *instance();
 

@@ -2,6 +2,7 @@
 
 #include <PxCreateOnce.h>
 #include <PxDirectoryConfig.h>
+#include <PxMessageLimit.h>
 #include <PxXMLLoader.h>
 
 #include <QDebug>
@@ -49,16 +50,20 @@ void PxHumanReadable::initTemplateNames()
     if (frames.isNull())
         qWarning() << "PxHumanReadable::initTemplateNames could not open" << error;
     const QString tag = QStringLiteral("frame");
+    int incomplete = 0;
     for (QDomElement e = frames.firstChildElement(tag); !e.isNull();
          e = e.nextSiblingElement(tag)) {
         const QString id = e.attribute(QStringLiteral("id"));
         const QString name = e.attribute(QStringLiteral("name"));
-        if (id.isEmpty() || name.isEmpty())
+        if (!id.isEmpty() && !name.isEmpty())
+            m_templateNames.insert(id, tr(name.toUtf8().constData()));
+        else if (++incomplete <= pxMaximumMessages)
             qWarning() << "PxHumanReadable::initTemplateNames frame without id or name" << id
                        << name;
-        else
-            m_templateNames.insert(id, tr(name.toUtf8().constData()));
     }
+    if (incomplete > pxMaximumMessages)
+        qWarning() << "PxHumanReadable::initTemplateNames" << incomplete - pxMaximumMessages
+                   << "more frames without id or name";
 }
 
 void PxHumanReadable::initFotoPaperTypeNames()

@@ -12,7 +12,7 @@ PxPageTypeList::PxPageTypeList(const QString &keywords)
     const auto *table = PxPageType().enumToStringTable();
     int undecodable = 0;
     pxForEachPart(keywords, [&](QStringView part) {
-        append(table->decodePart(part.trimmed().toString(), undecodable));
+        append(table->decodeCSV(part.trimmed().toString(), undecodable));
     });
     table->reportMoreUndecodable(undecodable);
 }

@@ -166,6 +166,7 @@ QList<File> wild()
         {"SURROUNDINGLISTS", "", asMany("<surroundings/>", 1)},
         {"SPINES", "", "<spines>" + spines + "</spines>"},
         {"WRONGPAGETYPES", "", "<defaults>" + asMany("<defaults pageType='x,x,x,x,x,x,x,x'/>", 2) + "</defaults>"},
+        {"WRONGSURROUNDINGS", "", "<surroundings>" + asMany("<surrounding pageType='x,x,x,x,x,x,x,x,x,x'/>", 2) + "</surroundings>"},
         {"DEFAULTS", "", "<defaults>" + asMany("<defaults background='\xC3\xA4'/>", 2) + "</defaults>"},
         {"THEMES", "", "<defaults><defaults theme='" + categories + "' templates='" + QByteArray("ä,").repeated(100000) + "'/></defaults>"},
         {"SAMETHEME", "", "<defaults><defaults pageType='" + asMany("normalpage,", 0) + "'/></defaults>"},
@@ -189,10 +190,11 @@ QList<File> wildThemes()
     const auto theme = [](const QByteArray &attributes, const QByteArray &children) {
         return "<themes><theme id='wild' " + attributes + '>' + children + "</theme></themes>";
     };
-    QByteArray sameId; // and all else but one category
+    QByteArray sameId; // and all else but how many commas each category has
     for (int i = 0; i < 20000 / share; ++i)
-        sameId +=
-            "<theme id='a'><defaultcategories frame='" + QByteArray::number(i) + "'/></theme>";
+        sameId += "<theme id='a'><defaultcategories frame='" + QByteArray(i % 150, ',') +
+                  "' layout='" + QByteArray(i / 150, ',') + "' fading='" +
+                  QByteArray(300 - i % 150 - i / 150, ',') + "'/></theme>";
     // clang-format off
     return {
         {"THEMES", "<themes>" + asMany("<theme/>", 1) + "</themes>"},
@@ -231,11 +233,11 @@ QList<File> pictures()
         {"unicode-texts.png", png(small, chunks(chunk("iTXt", QByteArray("k\0\1\0\0\0", 6) + packed)))},
         {"profile.png", png(small, chunk("iCCP", QByteArray("k\0\0", 3) + packed))},
         {"warnings.png", png(small, chunks(chunk("gAMA", QByteArray("\0\0\xB1\x8F", 4))))}, {"empty-chunks.png", png(small, chunks(chunk("IDAT", "")))},
-        {"scans.jpg", jpegWithScans(larger, 6500)}, {"small-scans.jpg", jpegWithScans(small, 500000)}, {"most-scans.jpg", jpegWithScans(large, 22)}, {"small-most-scans.jpg", jpegWithScans(small, 2038)}, {"large-scans.jpg", jpegWithScans(larger / (share > 1 ? 2 : 1), 0)}, {"large.bmp", bmp(larger, 8, 1, chunks("\xFF\1"))}, {"large.png", png(larger)},
+        {"scans.jpg", jpegWithScans(larger, 6500)}, {"small-scans.jpg", jpegWithScans(small, 500000)}, {"most-scans.jpg", jpegWithScans(large, 54)}, {"small-most-scans.jpg", jpegWithScans(small, 3062)}, {"large-scans.jpg", jpegWithScans(larger / (share > 1 ? 2 : 1), 0)}, {"large.bmp", bmp(larger, 8, 1, chunks("\xFF\1"))}, {"large.png", png(larger)},
         {"claims.jpg", QByteArray(jpeg(small)).replace(QByteArray("\x08\0\x08\0\x08", 5), "\x08\xFF\xF0\xFF\xF0")},
         {"comments.jpg", withSegments(jpeg(small), chunks(QByteArray("\xFF\xFE\0\2", 4)))}, {"profiles.jpg", withSegments(jpeg(small), chunks(iccSegment))},
         {"garbage.jpg", withSegments(jpeg(small), chunks("x"))}, {"marks.jpg", withSegments(jpeg(small), chunks("\xFF"))},
-        {"endless.gif", gif(small, small, 2000000000)}, {"full.gif", gif(large, large, 4194304)}, {"twice.gif", gif(small, small, 37000000)},
+        {"endless.gif", gif(small, small, 2000000000)}, {"full.gif", gif(large, large, 4194304)}, {"twice.gif", gif(small, small, 83000000)},
         {"screen.gif", gif({65535, 65535}, small, 64)}, {"frame.gif", gif(small, {65535, 65535}, 64)},
         {"cut.bmp", bmp(larger, 32, 0, "x")}, {"high.bmp", bmp({1, -16777216}, 1, 0, "x")}, {"beyond.bmp", bmp({2147483647, -2147483647 - 1}, 1, 0, "x")},
         {"runs.bmp", bmp(large, 8, 1, chunks("\xFF\1"))}, {"ones.bmp", bmp(large, 4, 2, chunks("\1\1"))}, {"steps.bmp", bmp(large, 8, 1, chunks(QByteArray("\0\2\0\0", 4)))},

@@ -3,6 +3,7 @@
 #include <PxCreateOnce.h>
 #include <PxDirectoryConfig.h>
 #include <PxKeyword.h>
+#include <PxMessageLimit.h>
 #include <PxXMLLoader.h>
 #include <PxXMLParser.h>
 
@@ -57,13 +58,18 @@ PxProductTypeCatalogue::PxProductTypeCatalogue(const QFileInfo &file)
     }
     const QString tag = QStringLiteral("producttype");
     int number = 0;
+    int leftOut = 0;
     for (QDomElement row = catalogue.firstChildElement(tag); !row.isNull();
          row = row.nextSiblingElement(tag)) {
         ++number;
-        if (const char *reason = addRow(row))
+        const char *reason = addRow(row);
+        if (reason && ++leftOut <= pxMaximumMessages)
             qWarning().nospace() << "PxProductTypeCatalogue leaves out row " << number << " of "
                                  << file.filePath() << ": " << reason;
     }
+    if (leftOut > pxMaximumMessages)
+        qWarning().nospace() << "PxProductTypeCatalogue leaves out " << leftOut - pxMaximumMessages
+                             << " more rows of " << file.filePath();
 }
 
 PxProductTypeCatalogue::~PxProductTypeCatalogue() = default;
