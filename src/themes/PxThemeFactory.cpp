@@ -249,7 +249,13 @@ PxThemeList PxThemeFactory::loadThemeList(QDir &directory)
         if (root.tagName().toLower() != QLatin1String("themes"))
             continue;
         qDebug() << "PxThemeFactory::loadThemeList()" << root.childNodes().count();
+        int themesOfFile = 0;
         for (QDomNode node = root.firstChild(); !node.isNull(); node = node.nextSibling()) {
+            if (++themesOfFile > maximumThemes) {
+                qWarning() << "PxThemeFactory::loadThemeList used are the first" << maximumThemes
+                           << "themes of" << file.absoluteFilePath();
+                break;
+            }
             const PxTheme theme = readTheme(node.toElement(), images);
             themes.append(theme);
             m_themeOfId.insert(theme.id(), theme);

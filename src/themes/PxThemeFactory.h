@@ -15,6 +15,9 @@ class QDir;
 class PXPRODUCTPROPERTIES_EXPORT PxThemeFactory
 {
 public:
+    /** Of one file; with an id, a product group and an expiry date more would not fit into it. */
+    static constexpr int maximumThemes = 50000;
+
     /** Without themes until init() or loadThemeList(). Applications use instance(). */
     PxThemeFactory() = default;
     Q_DISABLE_COPY(PxThemeFactory)

@@ -18,6 +18,7 @@ private slots:
     void readsEveryItemOfATheme();
     void missingItemsGetDefaults();
     void strayNodesAreThemesButBlanksAreNot();
+    void themesOfOneFileAreBounded();
     void damagedAndForeignFilesAreLeftOut();
     void bothEndingsAreReadAndTheIndexTakesTheLast();
     void findsImagesWithoutASuffix();
@@ -102,6 +103,15 @@ void PxThemeFactoryTest::strayNodesAreThemesButBlanksAreNot()
     QCOMPARE(themes.idList(), QStringList({"unbekannt", "a", "unbekannt"}));
     QCOMPARE(log.texts(), QStringList("PxThemeFactory::loadThemeList() 3"));
     QCOMPARE(log.entries().constFirst().level, QtDebugMsg);
+}
+
+void PxThemeFactoryTest::themesOfOneFileAreBounded()
+{
+    const PxLogRecorder log;
+    const QByteArray themes = "<themes>" + QByteArray("<t/>").repeated(50001) + "</themes>";
+    QCOMPARE(load("many/a.xml", themes).size(), 50000);
+    QVERIFY(log.texts().constLast().startsWith(
+        "PxThemeFactory::loadThemeList used are the first 50000 themes of "));
 }
 
 void PxThemeFactoryTest::damagedAndForeignFilesAreLeftOut()
