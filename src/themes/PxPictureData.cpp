@@ -14,7 +14,7 @@ namespace {
 /** How many samples the blocks of a JPEG hold, which are cut off at no edge of the picture. */
 qint64 jpegSamples(const QByteArray &frame, qint64 width, qint64 height)
 {
-    constexpr int blockSize = 8;
+    constexpr qint64 blockSize = 8;
     const int components = frame.size() > 7 ? uchar(frame.at(7)) : 0;
     int mostAcross = 1;
     int mostDown = 1;
