@@ -1,4 +1,4 @@
-#include <PxFindingsBaseline.h>
+#include <output/PxFindingsBaseline.h>
 
 #include <cstddef>
 #include <cstdint>

@@ -1,9 +1,9 @@
 #include "PxFuzzedDirectory.h"
 
-#include "PxFindingsBaseline.h"
-#include "PxFindingsJson.h"
-#include "check/PxCheck.h"
-#include "check/PxCheckedFile.h"
+#include "check/catalogue/PxCheck.h"
+#include "check/source/PxCheckedFile.h"
+#include "output/PxFindingsBaseline.h"
+#include "output/PxFindingsJson.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,7 +1,7 @@
 #include "PxProgramRun.h"
 #include "PxSampleCopy.h"
 
-#include <check/PxCheckTags.h>
+#include <check/findings/PxCheckTags.h>
 
 #include <QFile>
 #include <QTest>

@@ -1,5 +1,5 @@
-#include <check/PxCheckedFile.h>
-#include <check/PxSourceFault.h>
+#include <check/source/PxCheckedFile.h>
+#include <check/source/PxSourceFault.h>
 
 #include <QTemporaryFile>
 #include <QTest>

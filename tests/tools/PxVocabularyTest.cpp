@@ -7,9 +7,9 @@
 #include <PxProductType.h>
 #include <description/PxProductTypeDescription.h>
 #include <description/PxProductTypeDescriptionReader.h>
+#include <format/PxVocabulary.h>
 #include <themes/PxThemeFactory.h>
 #include <values/PxHumanReadable.h>
-#include <vocabulary/PxVocabulary.h>
 
 #include <QDir>
 #include <QDomDocument>

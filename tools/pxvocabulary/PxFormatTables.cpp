@@ -1,7 +1,7 @@
 #include "PxFormatTables.h"
 
-#include "vocabulary/PxKeywordRows.h"
-#include "vocabulary/PxVocabulary.h"
+#include "format/PxKeywordRows.h"
+#include "format/PxVocabulary.h"
 
 #include <QMap>
 #include <QVector>

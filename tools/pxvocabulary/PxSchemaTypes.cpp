@@ -1,6 +1,6 @@
 #include "PxSchemaTypes.h"
 
-#include "vocabulary/PxVocabulary.h"
+#include "format/PxVocabulary.h"
 
 #include <QXmlStreamWriter>
 

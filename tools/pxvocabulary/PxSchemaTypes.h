@@ -1,6 +1,6 @@
 #pragma once
 
-#include "vocabulary/PxVocabularyRows.h"
+#include "format/PxVocabularyRows.h"
 
 #include <QMap>
 #include <QStringList>

@@ -1,6 +1,6 @@
 #include "PxSchemaWriter.h"
 
-#include "vocabulary/PxVocabulary.h"
+#include "format/PxVocabulary.h"
 
 #include <QRegularExpression>
 

@@ -1,0 +1,170 @@
+#include "format/PxVocabulary.h"
+
+#include "format/PxKeywordRows.h"
+#include "format/PxVocabularyFiles.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+/** Looks at no more than it must: nearly all names differ in the first letters. */
+bool isNamed(const char *rowName, const QString &name)
+{
+    for (const QChar character : name) {
+        if (*rowName == '\0' || character != QLatin1Char(*rowName))
+            return false;
+        ++rowName;
+    }
+    return *rowName == '\0';
+}
+
+} // namespace
+
+const PxElementRow &PxVocabulary::root(PxFileKind kind)
+{
+    switch (kind) {
+    case PxFileKind::Theme:
+        return themeFileRow;
+    case PxFileKind::UserDefaults:
+        return userDefaultsFileRow;
+    case PxFileKind::ProductTypes:
+        return productTypesFileRow;
+    case PxFileKind::Frames:
+        return framesFileRow;
+    case PxFileKind::Product:
+        break;
+    }
+    return productFileRow;
+}
+
+const PxElementRow *PxVocabulary::find(PxFileKind kind, const QString &path)
+{
+    const PxElementRow *row = &root(kind);
+    const QStringList names = path.split(QLatin1Char('/'), Qt::SkipEmptyParts);
+    for (int i = 0; i < names.size() && row; ++i)
+        row = child(*row, names[i]);
+    return row;
+}
+
+const PxElementRow *PxVocabulary::child(const PxElementRow &parent, const QString &name)
+{
+    const auto *found =
+        std::find_if(parent.children.begin(), parent.children.end(), [&](const PxElementRow &row) {
+            return row.occurrence == PxOccurrence::AnyName || isNamed(row.name, name);
+        });
+    return found == parent.children.end() ? nullptr : found;
+}
+
+bool PxVocabulary::isChildName(const PxElementRow &parent, const QString &name)
+{
+    return std::any_of(parent.children.begin(), parent.children.end(),
+                       [&](const PxElementRow &row) { return isNamed(row.name, name); });
+}
+
+const PxAttributeRow *PxVocabulary::attribute(const PxElementRow &element, const QString &name)
+{
+    const auto *found =
+        std::find_if(element.attributes.begin(), element.attributes.end(),
+                     [&](const PxAttributeRow &row) { return isNamed(row.name, name); });
+    return found == element.attributes.end() ? nullptr : found;
+}
+
+QStringList PxVocabulary::childNames(const PxElementRow &parent)
+{
+    QStringList names;
+    for (const PxElementRow &row : parent.children)
+        names.append(QLatin1String(row.name));
+    return names;
+}
+
+QStringList PxVocabulary::attributeNames(const PxElementRow &element)
+{
+    QStringList names;
+    for (const PxAttributeRow &row : element.attributes)
+        names.append(QLatin1String(row.name));
+    return names;
+}
+
+QString PxVocabulary::typeName(const PxAttributeRow &attribute)
+{
+    constexpr struct
+    {
+        PxValueType type;
+        const char *name;
+    } names[] = {
+        {PxValueType::Integer, "int"},
+        {PxValueType::Boolean, "bool"},
+        {PxValueType::Text, "text"},
+        {PxValueType::TextList, "text list"},
+        {PxValueType::Path, "path, read as lower case"},
+        {PxValueType::DateTime, "date and time"},
+        {PxValueType::Keyword, "keyword"},
+        {PxValueType::KeywordList, "keyword list"},
+        {PxValueType::OneKeyword, "one keyword"},
+        {PxValueType::PageRange, "page or range"},
+        {PxValueType::RectanglePart, "rectangle"},
+        {PxValueType::ProductName, "product name, any case"},
+    };
+    if (attribute.typeText)
+        return QString::fromUtf8(attribute.typeText);
+    const auto *found = std::find_if(std::begin(names), std::end(names),
+                                     [&](const auto &row) { return row.type == attribute.type; });
+    return QLatin1String(found->name);
+}
+
+QString PxVocabulary::plainText(QString cell)
+{
+    static const QRegularExpression ourLink(QStringLiteral("\\[([^\\]]*)\\]\\([^)]*\\)"));
+    return cell.replace(ourLink, QStringLiteral("\\1"))
+        .remove(QStringLiteral("**"))
+        .replace(QLatin1Char('`'), QLatin1Char('"'));
+}
+
+const PxKeywordSetRow &PxVocabulary::keywords(PxKeywordSet set)
+{
+    const PxRows<PxKeywordSetRow> sets = keywordSetRows();
+    return *std::find_if(sets.begin(), sets.end(),
+                         [set](const PxKeywordSetRow &row) { return row.set == set; });
+}
+
+QStringList PxVocabulary::keywordNames(PxKeywordSet set)
+{
+    QStringList names;
+    for (const PxKeywordTableRow &row : keywords(set).keywords)
+        names.append(QString::fromUtf8(row.keyword));
+    return names;
+}
+
+bool PxVocabulary::isKeyword(PxKeywordSet set, const QString &word)
+{
+    return keywords(set).isKeyword(word);
+}
+
+int PxVocabulary::decode(PxKeywordSet set, const QString &text)
+{
+    return keywords(set).decode(text);
+}
+
+QString PxVocabulary::decoded(PxKeywordSet set, const QString &text)
+{
+    return encode(set, decode(set, text));
+}
+
+QString PxVocabulary::encode(PxKeywordSet set, int value)
+{
+    const PxKeywordSetRow &table = keywords(set);
+    if (value == table.defaultValue)
+        return QString::fromUtf8(table.defaultText);
+    QStringList bits;
+    for (const PxKeywordTableRow &row : table.keywords) {
+        if (row.value == value)
+            return QString::fromUtf8(row.keyword);
+        const bool isBit = row.value > 0 && (row.value & (row.value - 1)) == 0;
+        if (isBit && (value & row.value) != 0 && row.meaning)
+            bits.append(QString::fromUtf8(row.keyword));
+    }
+    return bits.join(QLatin1String(", "));
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "format/PxVocabularyRows.h"
+
+// The document elements, with all that may stand in them; each kind in the file of its name.
+extern const PxElementRow productFileRow;
+extern const PxElementRow userDefaultsFileRow;
+extern const PxElementRow themeFileRow;
+extern const PxElementRow productTypesFileRow;
+extern const PxElementRow framesFileRow;

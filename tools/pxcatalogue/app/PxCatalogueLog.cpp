@@ -1,0 +1,46 @@
+#include "app/PxCatalogueLog.h"
+
+#include "writing/PxTerminal.h"
+
+#include <QString>
+
+#include <cstdlib>
+
+namespace {
+
+auto ourShown = PxCatalogueLog::Shown::Warnings;
+
+/**
+ * Whether a debug message explains a warning: it follows the warning and is of the same source. The
+ * library tells so why it refused a file.
+ */
+bool isReason(QtMsgType level, const QMessageLogContext &context)
+{
+    static thread_local const char *ourSourceOfWarning = nullptr;
+    const bool isReason =
+        level == QtDebugMsg && ourSourceOfWarning && qstrcmp(context.file, ourSourceOfWarning) == 0;
+    ourSourceOfWarning = level == QtWarningMsg ? context.file : nullptr;
+    return isReason;
+}
+
+void print(QtMsgType level, const QMessageLogContext &context, const QString &text)
+{
+    if (level == QtFatalMsg) {
+        PxTerminal::printError(QLatin1String("internal fault: ") + text);
+        std::_Exit(3); // Qt would abort, which says less
+    }
+    if (ourShown == PxCatalogueLog::Shown::Nothing)
+        return;
+    if (isReason(level, context) || level != QtDebugMsg)
+        PxTerminal::printError(QLatin1String("warning: ") + text);
+    else if (ourShown == PxCatalogueLog::Shown::Everything)
+        PxTerminal::printError(QLatin1String("debug: ") + text);
+}
+
+} // namespace
+
+void PxCatalogueLog::install(Shown shown)
+{
+    ourShown = shown;
+    qInstallMessageHandler(print);
+}

@@ -1,0 +1,190 @@
+#include "check/catalogue/PxCatalogueCheck.h"
+
+#include "check/catalogue/PxProductTypesCheck.h"
+#include "check/product/PxSizeCheck.h"
+#include "check/words/PxListedProductTypes.h"
+#include "check/words/PxMessageText.h"
+
+#include <PxDirectoryConfig.h>
+#include <description/PxProductTypeDescriptionReader.h>
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace {
+
+/** Whether a length is far off in a sorted list that it is itself part of: in another unit. */
+bool isFarOff(const QVector<qint64> &lengths, qint64 length, int factor)
+{
+    constexpr int minimumOthers = 8; // fewer do not show what is usual
+    constexpr int medianFactor = 7;  // a unit is ten times off, but sizes differ, too
+    const int others = lengths.size() - 1;
+    const auto larger = [&](int times) {
+        return lengths.end() - std::lower_bound(lengths.begin(), lengths.end(), times * length);
+    };
+    const auto smaller = [&](int times) {
+        return std::upper_bound(lengths.begin(), lengths.end(), length / times) - lengths.begin();
+    };
+    const auto isNearlyAll = [&](auto count) { return 10 * count >= 9 * others; };
+    return others >= minimumOthers &&
+           ((isNearlyAll(larger(factor)) && 2 * larger(medianFactor) >= others) ||
+            (isNearlyAll(smaller(factor)) && 2 * smaller(medianFactor) >= others));
+}
+
+/** How many times a length may differ from nearly all others: gifts are anything, from pin to bag.
+ */
+int usualFactor(const PxProductType &type)
+{
+    return type.isGift() || type.isDeko() ? 10 : 4;
+}
+
+qint64 longerSide(const QSize &size)
+{
+    return std::max(size.width(), size.height());
+}
+
+} // namespace
+
+void PxCatalogueCheck::checkProductTypes(const PxCheckedFile &file, PxFindings *findings)
+{
+    PxProductTypesCheck check(file);
+    check.run(findings);
+    m_types = check.places();
+}
+
+void PxCatalogueCheck::addProduct(const PxCheckedProduct &product)
+{
+    const QString legacy = QStringLiteral("legacy");
+    const PxCheckedFile &file = product.file();
+    const PxSourceElement &element = product.element();
+    const PxSourceElement *size = element.firstChild(QStringLiteral("usablesize"));
+    // Which has been told already.
+    const bool isInOtherUnit = PxSizeCheck::isInOtherUnit(product.description());
+    m_products.append(
+        {product.type(), product.isLegacy(), file.place(element.rangeOf(QStringLiteral("name"))),
+         element.value(legacy), file.place(element.rangeOf(legacy)),
+         isInOtherUnit ? QSize()
+                       : product.description().usablePrintSize(PxPageType(PxPageTypeNormalPage), 0),
+         file.place(size ? size->rangeOf(QStringLiteral("width")) : element.nameRange)});
+    if (product.type().isValid())
+        m_files.insert(QFileInfo(file.path()).canonicalFilePath());
+}
+
+void PxCatalogueCheck::finish(PxFindings *findings) const
+{
+    const bool isEveryNameOnce = checkNames(findings);
+    checkPredecessors(findings);
+    checkSizes(findings);
+    // A product whose file cannot be read, or has the name of another, has been told already.
+    if (isEveryNameOnce && isComplete())
+        checkTypesHaveFiles(findings);
+}
+
+/** Answers whether no product has a second file. */
+bool PxCatalogueCheck::checkNames(PxFindings *findings) const
+{
+    bool isEveryNameOnce = true;
+    QMap<PxProductType, const Product *> firsts;
+    for (const Product &product : m_products) {
+        if (!product.type.isValid())
+            continue;
+        const Product *&first = firsts[product.type];
+        if (first) {
+            const bool isSameKind = first->isLegacy == product.isLegacy;
+            findings->add(
+                isSameKind ? "product-name-twice" : "product-current-and-legacy", product.name,
+                QStringLiteral("%1 is also in %2")
+                    .arg(product.type.productName(),
+                         PxMessageText::place(first->name, product.name.path)),
+                isSameKind ? QStringLiteral("which of the two is used depends on the file system")
+                           : QStringLiteral("it is a current and an older product, each with its "
+                                            "own description"));
+            isEveryNameOnce = false;
+        }
+        if (!first || first->isLegacy != product.isLegacy)
+            first = &product;
+    }
+    return isEveryNameOnce;
+}
+
+void PxCatalogueCheck::checkPredecessors(PxFindings *findings) const
+{
+    PxListedProductTypes &types = PxListedProductTypes::instance();
+    QMap<PxProductType, const Product *> successors;
+    for (const Product &product : m_products) {
+        const PxProductType legacy(product.legacyName);
+        if (product.legacyName.trimmed().isEmpty() || types.isEmpty())
+            continue;
+        if (!legacy.isValid() && !types.isListed(product.legacyName))
+            findings->add("legacy-unknown", product.legacy,
+                          QStringLiteral("\"%1\" is no known product name").arg(product.legacyName),
+                          QStringLiteral("the product replaces no older one"),
+                          types.hint(product.legacyName));
+        if (!legacy.isValid() || product.isLegacy || !product.type.isValid())
+            continue;
+        const Product *&other = successors[legacy];
+        if (other && other->type != product.type)
+            findings->add("legacy-claimed-twice", product.legacy,
+                          QStringLiteral("%1 is also replaced by %2, in %3")
+                              .arg(legacy.productName(), other->type.productName(),
+                                   PxMessageText::place(other->legacy, product.legacy.path)),
+                          QStringLiteral("either of the two may be found for it"));
+        else
+            other = &product;
+    }
+}
+
+void PxCatalogueCheck::checkSizes(PxFindings *findings) const
+{
+    QMap<PxProductClass, QVector<qint64>> lengths;
+    const auto isMeasured = [](const Product &product) {
+        return product.type.isValid() && product.size.width() > 0 && product.size.height() > 0;
+    };
+    for (const Product &product : m_products) {
+        if (isMeasured(product))
+            lengths[product.type.productClass()].append(longerSide(product.size));
+    }
+    for (QVector<qint64> &ofClass : lengths)
+        std::sort(ofClass.begin(), ofClass.end());
+    for (const Product &product : m_products) {
+        const QVector<qint64> &ofClass = lengths[product.type.productClass()];
+        if (!isMeasured(product) ||
+            !isFarOff(ofClass, longerSide(product.size), usualFactor(product.type)))
+            continue;
+        findings->add("size-implausible", product.width,
+                      QStringLiteral("%1 x %2 is far from the size of nearly all other products of "
+                                     "its class, where about %3 is usual for the longer side")
+                          .arg(product.size.width())
+                          .arg(product.size.height())
+                          .arg(ofClass.at(ofClass.size() / 2)),
+                      QStringLiteral("the size is taken as it is"),
+                      QStringLiteral("lengths are tenths of a millimetre"));
+    }
+}
+
+void PxCatalogueCheck::checkTypesHaveFiles(PxFindings *findings) const
+{
+    QMap<PxProductType, PxPlace> left = m_types;
+    for (const Product &product : m_products)
+        left.remove(product.type);
+    for (auto type = left.begin(); type != left.end(); ++type)
+        findings->add("product-type-without-file", *type,
+                      QStringLiteral("no product file describes %1").arg(type.key().productName()),
+                      QStringLiteral("the product is known, but not offered"));
+}
+
+/** Whether every product file of the catalogue gave a product. */
+bool PxCatalogueCheck::isComplete() const
+{
+    for (const char *name : {"products", "products/legacy"}) {
+        const QDir directory(PxDirectoryConfig::instance()->resource(QLatin1String(name), false));
+        const QFileInfoList files =
+            directory.entryInfoList(PxProductTypeDescriptionReader::fileFilter(), QDir::Files);
+        for (const QFileInfo &file : files) {
+            if (!m_files.contains(file.canonicalFilePath()))
+                return false;
+        }
+    }
+    return true;
+}

@@ -1,0 +1,50 @@
+#include "check/catalogue/PxFramesCheck.h"
+
+#include "check/rules/PxElementReading.h"
+#include "check/words/PxMessageText.h"
+#include "format/PxVocabulary.h"
+
+#include <QMap>
+
+#include <algorithm>
+
+namespace {
+
+bool isAscii(const QString &text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 128; });
+}
+
+} // namespace
+
+void PxFramesCheck::run(PxFindings *findings) const
+{
+    const PxElementRow &row = *PxVocabulary::find(PxFileKind::Frames, QStringLiteral("frame"));
+    QMap<QString, const PxSourceElement *> frames; // by id
+    for (const PxSourceElement *frame : m_file.root()->childrenNamed(QStringLiteral("frame"))) {
+        const QString id = frame->value(QStringLiteral("id"));
+        const QString missing = id.isEmpty() ? QStringLiteral("id") : QStringLiteral("name");
+        const PxSourceRange range = frame->rangeOf(QStringLiteral("id"));
+        if (frame->value(missing).isEmpty()) {
+            const PxMissingPart part = PxElementReading(*frame, row).missing(missing);
+            m_file.add(findings, "frame-incomplete", part.range,
+                       QStringLiteral("the frame has no \"%1\"").arg(missing),
+                       id.isEmpty() ? QStringLiteral("it is left out")
+                                    : QStringLiteral("it is shown as \"%1\"").arg(id),
+                       part.hint);
+            continue;
+        }
+        const PxSourceElement *&known = frames[id];
+        if (known)
+            m_file.add(findings, "frame-id-twice", range,
+                       QStringLiteral("the frame \"%1\" is in %2, too")
+                           .arg(id, PxMessageText::line(m_file, known->nameRange)),
+                       QStringLiteral("the later name is shown: \"%1\"")
+                           .arg(frame->value(QStringLiteral("name"))));
+        else if (!isAscii(id))
+            m_file.add(findings, "frame-id-not-ascii", range,
+                       QStringLiteral("the id \"%1\" is not plain ASCII").arg(id),
+                       QStringLiteral("it is found by exactly these letters"));
+        known = frame;
+    }
+}

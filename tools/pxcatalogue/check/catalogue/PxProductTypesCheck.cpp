@@ -1,0 +1,125 @@
+#include "check/catalogue/PxProductTypesCheck.h"
+
+#include "check/rules/PxElementReading.h"
+#include "check/words/PxMessageText.h"
+#include "check/words/PxSpelling.h"
+#include "format/PxVocabulary.h"
+
+#include <PxXMLParser.h>
+
+#include <QRegularExpression>
+
+namespace {
+
+PxElementReading readingOf(const PxSourceElement &row)
+{
+    return PxElementReading(
+        row, *PxVocabulary::find(PxFileKind::ProductTypes, QStringLiteral("producttype")));
+}
+
+} // namespace
+
+void PxProductTypesCheck::run(PxFindings *findings)
+{
+    const PxSourceElement *root = m_file.root();
+    if (root->name != QLatin1String("producttypes")) {
+        m_file.add(
+            findings, "product-types-root-wrong", root->nameRange,
+            QStringLiteral("the document element is \"%1\", not \"producttypes\"").arg(root->name),
+            QStringLiteral("no product is known"));
+        return;
+    }
+    for (const PxSourceElement *row : root->childrenNamed(QStringLiteral("producttype")))
+        checkRow(*row, findings);
+    checkMisspelt(*root, findings);
+}
+
+/** What is nearly called a row is meant for one. */
+void PxProductTypesCheck::checkMisspelt(const PxSourceElement &root, PxFindings *findings) const
+{
+    const QString row = QStringLiteral("producttype");
+    for (const PxSourceElement *child : root.children) {
+        if (child->name != row && PxSpelling::isNear(child->name, row))
+            m_file.add(findings, "product-type-row-dropped", child->nameRange,
+                       QStringLiteral("\"%1\" is no \"%2\"").arg(child->name, row),
+                       QStringLiteral("the product type is left out"), PxSpelling::didYouMean(row));
+    }
+}
+
+void PxProductTypesCheck::checkRow(const PxSourceElement &row, PxFindings *findings)
+{
+    const QString codeText = row.value(QStringLiteral("code"));
+    const int code = PxXMLParser::intAttribute(row.dom, QStringLiteral("code"), 0);
+    const QString name = row.value(QStringLiteral("name")).trimmed();
+    const QString key = name.toCaseFolded();
+    if (!readingOf(row).isReadable(QStringLiteral("code")))
+        return; // the row is left out for it, which is told where values are checked
+    const auto earlier = [&](const PxSourceElement *other) {
+        return PxMessageText::line(m_file, other->nameRange) + QLatin1String(" has");
+    };
+    if (code < 1) {
+        drop(row, "code",
+             codeText.isEmpty() ? QStringLiteral("the product type has no \"code\"")
+                                : QStringLiteral("\"%1\" is no code above 0").arg(codeText),
+             findings);
+    } else if (name.isEmpty()) {
+        drop(row, "name", QStringLiteral("the product type has no \"name\""), findings);
+    } else if (m_rowOfCode.contains(code)) {
+        drop(row, "code",
+             QStringLiteral("%1 the code %2, too")
+                 .arg(earlier(m_rowOfCode.value(code)), QString::number(code)),
+             findings);
+    } else if (m_rowOfName.contains(key)) {
+        drop(row, "name",
+             QStringLiteral("%1 the name \"%2\", too").arg(earlier(m_rowOfName.value(key)), name),
+             findings);
+    } else if (PxVocabulary::decode(PxKeywordSet::ProductClass,
+                                    row.value(QStringLiteral("class"))) == PxProductClassUnknown) {
+        dropClass(row, findings);
+    } else {
+        m_rowOfCode.insert(code, &row);
+        m_rowOfName.insert(key, &row);
+        m_places.insert(PxProductType(code), m_file.place(row.rangeOf(QStringLiteral("name"))));
+        checkStyle(row, name, findings);
+    }
+}
+
+void PxProductTypesCheck::drop(const PxSourceElement &row, const char *attribute,
+                               const QString &message, PxFindings *findings,
+                               const QString &hint) const
+{
+    const PxMissingPart missing = readingOf(row).missing(QLatin1String(attribute));
+    m_file.add(findings, "product-type-row-dropped", missing.range, message,
+               QStringLiteral("the product type is left out"), missing.hintOr(hint));
+}
+
+void PxProductTypesCheck::dropClass(const PxSourceElement &row, PxFindings *findings) const
+{
+    const QString text = row.value(QStringLiteral("class"));
+    const QStringList classes = PxVocabulary::keywordNames(PxKeywordSet::ProductClass);
+    drop(row, "class",
+         text.trimmed().isEmpty() ? QStringLiteral("the product type has no \"class\"")
+                                  : QStringLiteral("\"%1\" is no product class").arg(text),
+         findings,
+         text.trimmed().isEmpty()
+             ? QStringLiteral("it is one of %1").arg(classes.join(QLatin1String(", ")))
+             : PxSpelling::hint(text, classes));
+}
+
+void PxProductTypesCheck::checkStyle(const PxSourceElement &row, const QString &name,
+                                     PxFindings *findings) const
+{
+    static const QRegularExpression ourStyle(QStringLiteral("^[A-Z0-9_]+$"));
+    if (!ourStyle.match(name).hasMatch())
+        m_file.add(findings, "product-type-name-unsafe", row.rangeOf(QStringLiteral("name")),
+                   QStringLiteral("\"%1\" is not all upper-case ASCII letters, digits and \"_\"")
+                       .arg(name),
+                   QStringLiteral("the product is found by the name in any case"));
+    if (row.value(QStringLiteral("shortname")).isEmpty())
+        m_file.add(findings, "product-type-shortname-missing",
+                   row.rangeOf(QStringLiteral("shortname")),
+                   row.attribute(QStringLiteral("shortname"))
+                       ? QStringLiteral("the \"shortname\" of the product type is empty")
+                       : QStringLiteral("the product type has no \"shortname\""),
+                   QStringLiteral("\"%1\" is shown").arg(name));
+}

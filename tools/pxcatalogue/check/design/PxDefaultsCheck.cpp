@@ -1,0 +1,152 @@
+#include "check/design/PxDefaultsCheck.h"
+
+#include "check/design/PxDefaultsOverrides.h"
+#include "check/findings/PxFileFindings.h"
+#include "check/source/PxPageEntries.h"
+#include "check/source/PxSourceParts.h"
+#include "check/words/PxMessageText.h"
+#include "check/words/PxSpelling.h"
+#include "format/PxVocabulary.h"
+
+#include <geometry/PxDefaultTemplateMap.h>
+
+#include <algorithm>
+
+namespace {
+
+QString named(const QString &name)
+{
+    return name.isEmpty() ? QStringLiteral("none") : PxMessageText::quoted(name);
+}
+
+QString templatesText(const PxDefaultsEntry::Templates &templates)
+{
+    return QStringLiteral("background %1, layout %2")
+        .arg(named(templates.background), named(templates.layout));
+}
+
+} // namespace
+
+void PxDefaultsCheck::run(PxFindings *findings) const
+{
+    const auto containers = m_parent.childrenNamed(QStringLiteral("defaults"));
+    if (containers.isEmpty())
+        return;
+    checkNesting(containers, findings);
+    PxDefaultsOverrides overrides(m_file);
+    for (const auto *child : containers.constFirst()->childrenNamed(QStringLiteral("defaults"))) {
+        const PxDefaultsEntry entry(*child);
+        checkThemes(entry, findings);
+        checkPageTypes(entry, findings);
+        checkTemplates(entry, findings);
+        overrides.add(entry, findings);
+    }
+}
+
+/** One finding for all: whoever knows the container puts every entry into it. */
+void PxDefaultsCheck::checkNesting(const QVector<const PxSourceElement *> &containers,
+                                   PxFindings *findings) const
+{
+    const PxSourceElement &first = *containers.constFirst();
+    const int entries = first.childrenNamed(QStringLiteral("defaults")).size();
+    const bool isFlat = entries == 0 && PxDefaultsEntry::isEntry(first);
+    if (!isFlat && containers.size() == 1)
+        return;
+    const PxSourceElement &misplaced = isFlat ? first : *containers[1];
+    m_file.add(
+        findings, "defaults-not-nested", misplaced.nameRange,
+        PxDefaultsEntry::isEntry(misplaced)
+            ? QStringLiteral("an entry directly in \"%1\"").arg(m_parent.name)
+            : QStringLiteral("a second container of \"defaults\""),
+        QStringLiteral("only what is in the first \"defaults\" is read: %1 entries").arg(entries),
+        QStringLiteral("put all entries into one \"defaults\""));
+}
+
+void PxDefaultsCheck::checkThemes(const PxDefaultsEntry &entry, PxFindings *findings) const
+{
+    constexpr const char *tag = "defaults-theme-unknown";
+    const QString now = QStringLiteral("no theme finds these templates");
+    if (entry.themes().isEmpty()) {
+        m_file.add(findings, tag, entry.element().rangeOf(QStringLiteral("theme")),
+                   QStringLiteral("\"theme\" names no theme"), now,
+                   QStringLiteral("without the attribute they are for \"normal\""));
+        return;
+    }
+    if (m_themeIds.isEmpty())
+        return;
+    PxFileFindings found(m_file, findings);
+    const PxSourceList list =
+        PxSourceParts::ofAttribute(m_file, entry.element(), QStringLiteral("theme"));
+    for (const PxSourcePart &part : list.parts) {
+        const QString id = part.text.trimmed();
+        // Other themes fall back to this one, whether it is there or not.
+        if (id.isEmpty() || id == QLatin1String("normal") || m_themeIds.contains(id))
+            continue;
+        found.add(tag, part.range, QStringLiteral("there is no theme \"%1\"").arg(id), now,
+                  found.isTold(tag, part.range) ? m_themeIds.hint(id) : QString());
+    }
+}
+
+void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry, PxFindings *findings) const
+{
+    const QString attribute = QStringLiteral("pageType");
+    const QString now = QStringLiteral("no page finds these templates");
+    const QVector<PxSourcePart> parts =
+        PxSourceParts::ofAttribute(m_file, entry.element(), attribute).parts;
+    if (std::all_of(parts.begin(), parts.end(),
+                    [](const PxSourcePart &part) { return part.text.trimmed().isEmpty(); })) {
+        const PxMissingPart missing = entry.missing(attribute);
+        m_file.add(
+            findings, "defaults-page-type-missing", missing.range,
+            parts.isEmpty() ? QStringLiteral("\"pageType\" is missing")
+                            : QStringLiteral("\"pageType\" names no type of page"),
+            now,
+            missing.hintOr(QStringLiteral("name the types of pages, as pageType=\"normalpage\"")));
+        return;
+    }
+    PxFileFindings found(m_file, findings);
+    for (const PxSourcePart &part : parts) {
+        const PxPageType pageType =
+            static_cast<PxPageTypeEnum>(PxVocabulary::decode(PxKeywordSet::PageType, part.text));
+        const bool isUnion = PxPageEntry::isUnion(pageType);
+        const bool isRange = pageType.isValid() && !pageType.matches(PxPageTypeAll);
+        if (!isUnion && !isRange)
+            continue;
+        found.add("defaults-page-type-union", part.range,
+                  isUnion ? QStringLiteral("\"%1\" is more than one type").arg(part.text.trimmed())
+                          : QStringLiteral("\"%1\" stands for pages of another type")
+                                .arg(part.text.trimmed()),
+                  now,
+                  isUnion ? QStringLiteral("name each type, as \"fullcover,spine\"")
+                          : PxSpelling::didYouMean(QStringLiteral("normalpage")));
+    }
+}
+
+/** Only where a name is lost: giving one twice does no harm. */
+void PxDefaultsCheck::checkTemplates(const PxDefaultsEntry &entry, PxFindings *findings) const
+{
+    QVector<PxSourcePart> names =
+        PxSourceParts::ofAttribute(m_file, entry.element(), QStringLiteral("templates")).parts;
+    names.erase(std::remove_if(names.begin(), names.end(),
+                               [](const PxSourcePart &name) { return name.text.isEmpty(); }),
+                names.end());
+    if (names.isEmpty())
+        return;
+    const PxDefaultsEntry::Templates used = entry.templates();
+    const auto lost = std::find_if(names.begin(), names.end(), [&](const PxSourcePart &name) {
+        const QString own = PxDefaultTemplateMap::removeUmlauts(name.text.trimmed());
+        return own != used.background && own != used.layout;
+    });
+    if (lost == names.end())
+        return;
+    const bool isBackground = lost == names.begin();
+    const QString message =
+        names.size() > 2
+            ? QStringLiteral("\"templates\" takes a background and a layout, not %1 names")
+                  .arg(names.size())
+            : QStringLiteral("the %1 is given in \"templates\" and as an attribute")
+                  .arg(isBackground ? QLatin1String("background") : QLatin1String("layout"));
+    m_file.add(findings, "defaults-templates-count",
+               names.size() > 2 ? names[2].range : lost->range, message, templatesText(used),
+               names.size() > 2 ? QString() : QStringLiteral("keep the one that is meant"));
+}

@@ -1,0 +1,84 @@
+#include "check/design/PxDefaultsEntry.h"
+
+#include "check/source/PxSourceParts.h"
+#include "format/PxVocabulary.h"
+
+#include <PxListParts.h>
+#include <geometry/PxDefaultTemplateMap.h>
+
+#include <algorithm>
+
+namespace {
+
+/** The same in all files that hold entries. */
+const PxElementRow &entryRow()
+{
+    static const PxElementRow &ourRow =
+        *PxVocabulary::find(PxFileKind::UserDefaults, QStringLiteral("defaults/defaults"));
+    return ourRow;
+}
+
+/** As the library takes it: the default where the attribute is missing. */
+QString listOf(const PxSourceElement &entry, const QString &attribute)
+{
+    return entry.dom.attribute(
+        attribute, QLatin1String(PxVocabulary::attribute(entryRow(), attribute)->defaultText));
+}
+
+bool isPlainEntry(const PxSourceElement &element)
+{
+    const PxElementReading reading(element, entryRow());
+    return reading.hasOnlyKnown() && reading.isReadable(QStringLiteral("pageType")) &&
+           reading.isReadable(QStringLiteral("alignment"));
+}
+
+} // namespace
+
+PxDefaultsEntry::PxDefaultsEntry(const PxSourceElement &element)
+    : m_element(&element)
+    , m_isPlain(isPlainEntry(element))
+    , m_alignments(PxVocabulary::decode(PxKeywordSet::Alignment,
+                                        listOf(element, QStringLiteral("alignment"))))
+{
+    pxForEachPart(listOf(element, QStringLiteral("theme")), [this](QStringView theme) {
+        if (!theme.trimmed().isEmpty() && m_themes.size() < PxSourceParts::maximum)
+            m_themes.append(theme.trimmed().toString());
+    });
+    m_themes.removeDuplicates();
+    pxForEachPart(element.value(QStringLiteral("pageType")), [this](QStringView part) {
+        const auto pageType = static_cast<PxPageTypeEnum>(
+            PxVocabulary::decode(PxKeywordSet::PageType, part.trimmed().toString()));
+        if (pageType != PxPageTypeNone && !m_pageTypes.contains(pageType))
+            m_pageTypes.append(pageType);
+    });
+}
+
+PxMissingPart PxDefaultsEntry::missing(const QString &attribute) const
+{
+    return PxElementReading(*m_element, entryRow()).missing(attribute);
+}
+
+PxDefaultsEntry::Templates PxDefaultsEntry::templates() const
+{
+    // For a page that the library is sure to find.
+    QDomDocument document;
+    QDomElement parent = document.createElement(QStringLiteral("defaults"));
+    QDomElement entry = document.importNode(m_element->dom, false).toElement();
+    entry.setAttribute(QStringLiteral("theme"), QStringLiteral("normal"));
+    entry.setAttribute(QStringLiteral("pageType"), QStringLiteral("normalpage"));
+    entry.setAttribute(QStringLiteral("alignment"), QStringLiteral("left"));
+    parent.appendChild(entry);
+    const PxDefaultTemplateMap map(parent);
+    const PxPageContext page(PxPageTypeNormalPage, PxPageAlignmentLeft);
+    const QString theme = QStringLiteral("normal");
+    return {map.findTemplate({theme, page, DefaultTemplateTypeLayout}, false),
+            map.findTemplate({theme, page, DefaultTemplateTypeBackground}, false)};
+}
+
+bool PxDefaultsEntry::isEntry(const PxSourceElement &element)
+{
+    return std::any_of(element.attributes.begin(), element.attributes.end(),
+                       [](const PxSourceAttribute &attribute) {
+                           return PxVocabulary::attribute(entryRow(), attribute.name);
+                       });
+}

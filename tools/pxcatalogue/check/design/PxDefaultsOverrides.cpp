@@ -1,0 +1,88 @@
+#include "check/design/PxDefaultsOverrides.h"
+
+#include "check/words/PxMessageText.h"
+
+#include <PxPageAlignment.h>
+
+namespace {
+
+// Lists of a hostile file cross into millions of pages; real ones into hundreds.
+constexpr int maximumPages = 100000;
+
+} // namespace
+
+void PxDefaultsOverrides::add(const PxDefaultsEntry &entry, PxFindings *findings)
+{
+    if (!entry.isPlain())
+        return;
+    const QVector<Page> pages = pagesOf(entry);
+    m_asked += pages.size();
+    if (m_asked > maximumPages)
+        return;
+    QMap<int, QVector<Page>> taken;
+    for (const Page &page : pages) {
+        const auto owner = m_entryOfPage.constFind(page);
+        if (owner != m_entryOfPage.constEnd())
+            taken[*owner].append(page);
+        m_entryOfPage[page] = m_entries.size();
+    }
+    m_entries.append(entry);
+    m_pageCounts.append(pages.size());
+    for (auto it = taken.constBegin(); it != taken.constEnd(); ++it) {
+        const bool isWhole = it->size() == m_pageCounts[it.key()];
+        const Templates used = templatesOf(m_entries.size() - 1);
+        const Templates before = templatesOf(it.key());
+        const bool isLoss = (used.layout.isEmpty() && !before.layout.isEmpty()) ||
+                            (used.background.isEmpty() && !before.background.isEmpty());
+        if (isWhole || isLoss) {
+            report(entry, m_entries[it.key()], isWhole, it->constFirst(), findings);
+            return;
+        }
+    }
+}
+
+/** Asked of the library once, and only where entries meet. */
+PxDefaultsOverrides::Templates PxDefaultsOverrides::templatesOf(int entry)
+{
+    if (!m_templates.contains(entry))
+        m_templates.insert(entry, m_entries[entry].templates());
+    return m_templates.value(entry);
+}
+
+QVector<PxDefaultsOverrides::Page> PxDefaultsOverrides::pagesOf(const PxDefaultsEntry &entry) const
+{
+    QVector<Page> pages;
+    for (const QString &theme : entry.themes()) {
+        for (const PxPageTypeEnum pageType : entry.pageTypes()) {
+            for (const int alignment : splitEnumType(entry.alignments()))
+                pages.append({theme, pageType, alignment});
+        }
+        if (pages.size() > maximumPages)
+            break;
+    }
+    return pages;
+}
+
+void PxDefaultsOverrides::report(const PxDefaultsEntry &entry, const PxDefaultsEntry &replaced,
+                                 bool isWhole, const Page &page, PxFindings *findings) const
+{
+    const QString line = PxMessageText::line(m_file, replaced.element().nameRange);
+    const auto [theme, pageType, alignment] = page;
+    const QString side =
+        EnumHelper::encodeKeyword(static_cast<PxPageAlignment>(alignment),
+                                  EnumHelper::globalMapPageAlignmentString, QString())
+            .toLower();
+    const Templates before = replaced.templates();
+    const bool isLayout = entry.templates().layout.isEmpty() && !before.layout.isEmpty();
+    const QString lost = isLayout ? QStringLiteral("the layout \"%1\"").arg(before.layout)
+                                  : QStringLiteral("the background \"%1\"").arg(before.background);
+    m_file.add(
+        findings, "defaults-overridden", entry.element().nameRange,
+        QStringLiteral("replaces %1 for %2/%3/%4")
+            .arg(line, theme, PxPageType(static_cast<PxPageTypeEnum>(pageType)).encodeCSV(), side),
+        isWhole ? QStringLiteral("%1 is never used").arg(line)
+                : QStringLiteral("%1 of %2 is lost there").arg(lost, line),
+        isWhole
+            ? QStringLiteral("keep the one that is meant")
+            : QStringLiteral("an entry names layout and background, also what does not change"));
+}

@@ -1,0 +1,66 @@
+#include "check/design/PxVariantCheck.h"
+
+#include "check/rules/PxElementReading.h"
+#include "check/words/PxMessageText.h"
+#include "check/words/PxSpelling.h"
+
+#include <classification/PxProductVariantIdentifiers.h>
+
+#include <QMap>
+
+#include <algorithm>
+
+void PxVariantCheck::run(PxFindings *findings) const
+{
+    const auto *list = m_product.element().firstChild(QStringLiteral("variants"));
+    if (!list || !m_product.type().isValid())
+        return;
+    const QStringList all = m_product.description().variants();
+    const bool isAnyNamed = std::any_of(
+        all.begin(), all.end(), [this](const QString &identifier) { return isNamed(identifier); });
+    if (all.size() > 1 && !isAnyNamed) {
+        const PxMissingPart text = PxElementReading(*list->children.constFirst()).missingText();
+        m_product.add(findings, "variant-unnamed",
+                      text.hint.isEmpty() ? list->nameRange : text.range,
+                      QStringLiteral("none of the %1 variants has a display name for %2")
+                          .arg(all.size())
+                          .arg(m_product.type().productName()),
+                      QStringLiteral("the product has no variants"), text.hint);
+    } else {
+        checkEach(*list, findings);
+    }
+}
+
+void PxVariantCheck::checkEach(const PxSourceElement &list, PxFindings *findings) const
+{
+    QMap<QString, const PxSourceElement *> known;
+    for (const PxSourceElement *variant : list.children) {
+        const QString identifier = variant->dom.text();
+        const PxSourceElement *first = known.value(identifier);
+        if (first && !identifier.trimmed().isEmpty()) {
+            m_product.add(
+                findings, "variant-twice", variant->textRange(),
+                QStringLiteral("\"%1\" is also in %2")
+                    .arg(identifier, PxMessageText::line(m_product.file(), first->nameRange)),
+                QStringLiteral("it is shown once"), QStringLiteral("take one of them out"));
+            continue;
+        }
+        known.insert(identifier, variant);
+        if (isNamed(identifier))
+            continue;
+        const QString tidy = identifier.trimmed().toLower();
+        const PxMissingPart text = PxElementReading(*variant).missingText();
+        m_product.add(findings, "variant-unnamed", text.range,
+                      tidy.isEmpty() ? QStringLiteral("the variant is empty")
+                                     : QStringLiteral("\"%1\" has no display name for %2")
+                                           .arg(identifier, m_product.type().productName()),
+                      QStringLiteral("this variant is hidden"),
+                      isNamed(tidy) ? PxSpelling::didYouMean(tidy) : text.hint);
+    }
+}
+
+bool PxVariantCheck::isNamed(const QString &identifier) const
+{
+    const auto *names = PxProductVariantIdentifiers::instance();
+    return !names->variantName(m_product.type(), identifier).isEmpty();
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "check/findings/PxFinding.h"
+
+#include <QHash>
+#include <QMap>
+#include <QVector>
+
+/** What a check has found, as it is told in any format. */
+struct PxCheckReport
+{
+    QVector<PxFinding> findings; ///< sorted
+    /** What was not there for them, by tag; as in "without the whole catalogue". */
+    QMap<QString, QString> tagsNotChecked;
+    int fileCount = 0;
+    int knownCount = 0; ///< findings that are left out because they are known
+    /** What the files are called in the catalogue, by their path: the same wherever it lies. */
+    QHash<QString, QString> catalogueNames;
+
+    int count(PxSeverity severity) const
+    {
+        int found = 0;
+        for (const PxFinding &finding : findings)
+            found += finding.severity == severity ? finding.count() : 0;
+        return found;
+    }
+    bool hasAtLeast(PxSeverity severity) const
+    {
+        for (const PxFinding &finding : findings) {
+            if (finding.severity >= severity)
+                return true;
+        }
+        return false;
+    }
+};

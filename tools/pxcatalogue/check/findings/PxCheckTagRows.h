@@ -1,0 +1,13 @@
+#pragma once
+
+#include "check/findings/PxCheckTag.h"
+#include "format/PxVocabularyRows.h"
+
+// One table, in parts by subject; each in the file of its name.
+PxRows<PxCheckTag> fileTagRows();
+PxRows<PxCheckTag> vocabularyTagRows();
+PxRows<PxCheckTag> productTagRows();
+PxRows<PxCheckTag> layoutTagRows();
+PxRows<PxCheckTag> designTagRows();
+PxRows<PxCheckTag> catalogueTagRows();
+PxRows<PxCheckTag> themeTagRows();

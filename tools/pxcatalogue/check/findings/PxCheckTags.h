@@ -1,0 +1,21 @@
+#pragma once
+
+#include "check/findings/PxCheckTag.h"
+
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+/** All kinds of findings, by name. */
+class PxCheckTags
+{
+public:
+    static const QVector<const PxCheckTag *> &all();
+    static QStringList names();
+    /** Null when there is none. */
+    static const PxCheckTag *find(const QString &name);
+
+    /** The worst first. */
+    static QVector<PxSeverity> severities();
+    static const char *severityName(PxSeverity severity);
+};

@@ -1,0 +1,52 @@
+#include "check/findings/PxCheckTagRows.h"
+
+// clang-format off
+static constexpr PxCheckTag rows[] = {
+    {"allowance-unused", PxSeverity::Warning, "a comment allows what does not occur",
+     "A comment \"check: allow TAG\" silences a tag for the element behind it. Here there is nothing to silence, because the fault was repaired, the tag is misspelt, or the comment stands before the wrong element. Take the comment out, so that it does not hide the next fault.",
+     "products/cup2.xml",
+     "»<!-- check: allow spine-pages-twice for old orders -->\n    <pages>normalpage</pages>",
+     "<pages>normalpage</pages>"},
+    {"file-name-undecodable", PxSeverity::Warning, "names of files that are no text in this locale",
+     "Old archives hold names in the encoding of the machine that packed them. Where another one is usual, nothing can open these files by their names, and the products or themes in them are missing. The finding stands at the directory. Rename the files, best in ASCII.",
+     "", "", ""},
+    {"file-not-read", PxSeverity::Info, "a file that the library passes over",
+     "Files of products, themes and user defaults end in \".xml\"; other files, hidden ones, links that lead nowhere, pipes and directories are passed over. A product file that was renamed to keep a copy is harmless, one that got its name by mistake is missing.",
+     "products/cup2.xml.bak",
+     "»<productdescription/>\n",
+     "", true},
+    {"file-unreadable", PxSeverity::Error, "a file that cannot be opened, or is no regular file",
+     "The library skips it with a line in its log, and the products or themes in it are missing. Look at the kind and the permissions of the file.",
+     "", "", ""},
+    {"xml-attribute-twice", PxSeverity::Error, "an attribute is given twice in one tag",
+     "That is no well-formed XML, so the whole file is refused; other parsers take the first or the last value, which is worse. Keep the one that is meant.",
+     "products/cup2.xml",
+     "<usablesize width=\"2000\" »width=\"2500\" height=\"950\"/>",
+     "<usablesize width=\"2000\" height=\"950\"/>"},
+    {"xml-encoding-damaged", PxSeverity::Error, "bytes that are no text in the declared encoding",
+     "Without a declaration files are UTF-8. A file that an editor saved in another encoding is refused, or shows wrong characters. Save it as UTF-8, or declare its encoding in the first line.",
+     "products/cup2.xml",
+     "»<?xml version=\"1.0\" encoding=\"UTF-7b\"?>",
+     "<?xml version=\"1.0\" encoding=\"UTF-8\"?>"},
+    {"xml-entity-undeclared", PxSeverity::Error, "an entity that XML does not know",
+     "XML knows only &amp; &lt; &gt; &quot; and &apos;, and those of HTML are not among them. The whole file is refused. Write the character itself.",
+     "products/cup2.xml",
+     "<variants type=\"Innenfarbe»&uuml;\">",
+     "<variants type=\"Innenfarbe\">"},
+    {"xml-limit-exceeded", PxSeverity::Error, "a file that is over a limit of the library",
+     "The library reads files of unknown origin, so it bounds their size, depth, number of nodes and of attributes, and reads no document type of their own. No honest file comes near these limits.",
+     "products/cup2.xml",
+     "<!DOCTYPE p »[<!ENTITY a \"b\">]>\n<productdescription>",
+     "<productdescription>"},
+    {"xml-not-well-formed", PxSeverity::Error, "the file is no well-formed XML",
+     "A tag that is not closed, a missing quote or a stray character: the file cannot be understood beyond that place, and nothing of it is read.",
+     "products/cup2.xml",
+     "<pages>normalpage»</page>",
+     "<pages>normalpage</pages>"},
+};
+// clang-format on
+
+PxRows<PxCheckTag> fileTagRows()
+{
+    return rows;
+}

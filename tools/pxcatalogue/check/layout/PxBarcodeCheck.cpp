@@ -1,0 +1,145 @@
+#include "check/layout/PxBarcodeCheck.h"
+
+#include "check/layout/PxElementRectangle.h"
+#include "check/layout/PxImageCheck.h"
+#include "check/layout/PxProductPages.h"
+#include "check/product/PxSizeCheck.h"
+#include "check/rules/PxElementReading.h"
+#include "check/words/PxMessageText.h"
+
+#include <algorithm>
+
+namespace {
+
+// Each is held against all before it, for each page count.
+constexpr int maximumBarcodes = 100;
+
+bool isPageNrPlain(const PxSourceElement &barcode)
+{
+    const PxElementReading reading(barcode);
+    return reading.hasOnlyKnown() && reading.isReadable(QStringLiteral("pageNr")) &&
+           reading.isReadable(QStringLiteral("reverseOrder"));
+}
+
+} // namespace
+
+PxBarcodeCheck::PxBarcodeCheck(const PxCheckedProduct &product, const PxProductPages &pages)
+    : m_product(product)
+    , m_pages(pages)
+{
+    const auto *list = product.element().firstChild(QStringLiteral("barcodes"));
+    if (!list)
+        return;
+    m_elements = list->childrenNamed(QStringLiteral("barcode"));
+    m_barcodes = PxBarcodeList(list->dom);
+}
+
+void PxBarcodeCheck::run(PxFindings *findings) const
+{
+    for (int i = 0; i < qMin(m_elements.size(), maximumBarcodes); ++i) {
+        PxImageCheck::run(m_product, *m_elements[i], m_barcodes[i].imageName(), findings);
+        const bool hasRect = checkRect(i, findings);
+        if (!m_pages.isKnown() || !isPageNrPlain(*m_elements[i]))
+            continue;
+        const QVector<Place> all = places(i);
+        if (checkReach(i, all, findings) && hasRect)
+            checkInside(i, all, findings);
+    }
+}
+
+/** Whether there is a rectangle, and no doubt about it. */
+bool PxBarcodeCheck::checkRect(int index, PxFindings *findings) const
+{
+    const PxSourceElement &element = *m_elements[index];
+    const PxElementRectangle rectangle(element);
+    if (!isPageNrPlain(element) || !rectangle.isPlain())
+        return false;
+    if (m_barcodes[index].isValid())
+        return true;
+    m_product.add(findings, "barcode-empty", rectangle.placeOfFault(), rectangle.fault(),
+                  QStringLiteral("there is no barcode on that page"));
+    return false;
+}
+
+/** Where the barcode is, with any page count. */
+QVector<PxBarcodeCheck::Place> PxBarcodeCheck::places(int index) const
+{
+    QVector<Place> places;
+    const PxBarcode &barcode = m_barcodes[index];
+    for (const PxProductPages::Layout &layout : m_pages.layouts()) {
+        const int count = layout.pages.size();
+        const qint64 page =
+            barcode.reverseOrder() ? qint64(count) - barcode.pageNr() : qint64(barcode.pageNr());
+        if (page >= 0 && page < count && barcode.isOnPage(int(page), count))
+            places.append({int(page), layout.pages.at(int(page)), layout.normalPageCount, count});
+    }
+    return places;
+}
+
+/** The barcode that is before this one on all its pages; -1 when there is none such. */
+int PxBarcodeCheck::shadowOf(int index, const QVector<Place> &places) const
+{
+    for (int i = 0; i < index; ++i) {
+        if (std::all_of(places.begin(), places.end(), [&](const Place &place) {
+                return m_barcodes[i].isOnPage(place.page, place.pageCount);
+            }))
+            return i;
+    }
+    return -1;
+}
+
+/** Whether it is the barcode of some page, as far as can be told. */
+bool PxBarcodeCheck::checkReach(int index, const QVector<Place> &places, PxFindings *findings) const
+{
+    constexpr const char *tag = "barcode-unreachable";
+    const PxSourceElement &element = *m_elements[index];
+    const PxBarcode &barcode = m_barcodes[index];
+    if (places.isEmpty()) {
+        const bool isBehindLast = barcode.reverseOrder() && barcode.pageNr() == 0;
+        m_product.add(
+            findings, tag, element.rangeOf(QStringLiteral("pageNr")),
+            QStringLiteral("the product has no page %1%2")
+                .arg(barcode.pageNr())
+                .arg(barcode.reverseOrder() ? QLatin1String(" from the back") : QLatin1String()),
+            QStringLiteral("this barcode is on no page"),
+            isBehindLast ? QStringLiteral("from the back the last page is 1")
+                         : QStringLiteral("its pages are 0 to %1").arg(m_pages.lastPage()));
+        return false;
+    }
+    const int shadow = shadowOf(index, places);
+    if (shadow < 0 || !isPageNrPlain(*m_elements[shadow]))
+        return true;
+    m_product.add(findings, tag, element.nameRange,
+                  QStringLiteral("a second barcode for page %1").arg(places.constFirst().page),
+                  QStringLiteral("the one in %1 is used")
+                      .arg(PxMessageText::line(m_product.file(), m_elements[shadow]->nameRange)));
+    return false;
+}
+
+void PxBarcodeCheck::checkInside(int index, const QVector<Place> &places,
+                                 PxFindings *findings) const
+{
+    const QRect rect = m_barcodes[index].rect();
+    if (m_product.description().usablePrintSize(PxPageTypeNormalPage, 1).isEmpty() ||
+        PxSizeCheck::isInOtherUnit(m_product.description()))
+        return;
+    for (const Place &place : places) {
+        const QSize size =
+            m_product.description().usablePrintSize(place.pageType, place.normalPageCount);
+        if (size.isEmpty() || QRect(QPoint(0, 0), size).contains(rect))
+            continue;
+        const bool isBeside = rect.left() < 0 || rect.right() >= size.width();
+        const QString start = isBeside ? QStringLiteral("x") : QStringLiteral("y");
+        const int from = isBeside ? rect.left() : rect.top();
+        const qint64 to = qint64(from) + (isBeside ? rect.width() : rect.height());
+        m_product.add(findings, "barcode-outside", m_elements[index]->rangeOf(start),
+                      QStringLiteral("the barcode reaches from %1 = %2 to %3, page %4 from 0 to %5")
+                          .arg(start)
+                          .arg(from)
+                          .arg(to)
+                          .arg(place.page)
+                          .arg(isBeside ? size.width() : size.height()),
+                      QStringLiteral("the rectangle is used as it is"));
+        return;
+    }
+}

@@ -1,0 +1,161 @@
+#include "check/layout/PxNumberListCheck.h"
+
+#include "check/findings/PxFileFindings.h"
+#include "check/layout/PxProductPages.h"
+#include "check/rules/PxElementReading.h"
+#include "check/source/PxSourceParts.h"
+#include "check/words/PxMessageText.h"
+#include "check/words/PxSpelling.h"
+#include "format/PxVocabulary.h"
+
+#include <PxListParts.h>
+#include <geometry/PxProductionExtraPageGroup.h>
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+/** What counts instead of a list without a number. */
+QString absence(const PxSourceElement &list)
+{
+    const QString path = list.name == QLatin1String("target_pages")
+                             ? QStringLiteral("product/extra_production_pages/item/target_pages")
+                             : QLatin1String("product/") + list.name;
+    const PxElementRow &row = *PxVocabulary::find(PxFileKind::Product, path);
+    return PxVocabulary::plainText(QString::fromUtf8(row.absent));
+}
+
+bool isNumber(QStringView text)
+{
+    bool isOne = false;
+    static_cast<void>(text.toInt(&isOne));
+    return isOne;
+}
+
+/** Without a list of them, which may take much memory. */
+int countNumbers(const QString &list)
+{
+    int count = 0;
+    pxForEachPart(list, [&count](QStringView part) { count += isNumber(part) ? 1 : 0; });
+    return count;
+}
+
+/** For numbers with another separator than the comma. */
+QString separatorHint(const QString &part)
+{
+    const QStringList words = PxSpelling::words(part);
+    const bool areNumbers = std::all_of(
+        words.begin(), words.end(), [](const QString &word) { return !pxIntList(word).isEmpty(); });
+    return words.size() > 1 && areNumbers
+               ? QStringLiteral("separate with commas: \"%1\"")
+                     .arg(PxMessageText::shortened(words.join(QLatin1Char(','))))
+               : QString();
+}
+
+} // namespace
+
+void PxNumberListCheck::run(PxFindings *findings) const
+{
+    const PxSourceElement &product = m_product.element();
+    if (const auto *list = product.firstChild(QStringLiteral("pageswithcontent")))
+        checkParts(*list, findings);
+    const auto *numbering = product.firstChild(QStringLiteral("productionnumbering"));
+    if (numbering && checkParts(*numbering, findings))
+        checkNumbering(*numbering, findings);
+    if (const auto *extra = product.firstChild(QStringLiteral("extra_production_pages"))) {
+        for (const auto *item : extra->childrenNamed(QStringLiteral("item")))
+            checkExtraPage(*item, findings);
+    }
+}
+
+bool PxNumberListCheck::checkParts(const PxSourceElement &list, PxFindings *findings) const
+{
+    const PxSourceList source = PxSourceParts::ofText(m_product.file(), list);
+    const QVector<PxSourcePart> &parts = source.parts;
+    const int numbers = countNumbers(list.dom.text());
+    const QString now =
+        numbers > 0
+            ? QStringLiteral("it is left out: %1 of %2 parts are read")
+                  .arg(numbers)
+                  .arg(source.count)
+            : QStringLiteral("the list holds no number then, which means: %1").arg(absence(list));
+    PxFileFindings found(m_product.file(), findings);
+    for (int i = 0; i < parts.size(); ++i) {
+        const QString text = parts[i].text.trimmed();
+        // Nothing is lost with an empty part at the end, and an empty text is the default.
+        if (!pxIntList(parts[i].text).isEmpty() || (text.isEmpty() && i == source.count - 1))
+            continue;
+        found.add("number-list-part-dropped", parts[i].range,
+                  text.isEmpty()
+                      ? QStringLiteral("part %1 of \"%2\" is empty").arg(i + 1).arg(list.name)
+                      : QStringLiteral("\"%1\" is no whole number").arg(text),
+                  now,
+                  found.isTold("number-list-part-dropped", parts[i].range) ? separatorHint(text)
+                                                                           : QString());
+    }
+    return found.isEmpty();
+}
+
+/** The numbers that go on from the last one may meet those that the list has given already. */
+void PxNumberListCheck::checkNumbering(const PxSourceElement &list, PxFindings *findings) const
+{
+    const PxSourceList source = PxSourceParts::ofText(m_product.file(), list);
+    const QVector<PxSourcePart> &parts = source.parts;
+    if (!m_pages.isKnown() || !source.isWhole())
+        return;
+    const QList<int> given = pxIntList(list.dom.text());
+    if (given.isEmpty() || parts.size() != given.size())
+        return;
+    const QList<int> all = m_product.description().productionNumberingList(m_pages.lastPage() + 1);
+    const QList<int> continued = all.mid(given.size());
+    const QSet<int> known(given.begin(), given.end());
+    const auto again = std::find_if(continued.begin(), continued.end(),
+                                    [&](int number) { return known.contains(number); });
+    if (again == continued.end())
+        return;
+    m_product.add(findings, "production-number-repeated", parts.constLast().range,
+                  QStringLiteral("the list ends with %1, which is not its largest number")
+                      .arg(given.constLast()),
+                  QStringLiteral("numbering goes on from there: %1 is given twice").arg(*again),
+                  QStringLiteral("add the number that it shall go on with: %1")
+                      .arg(qint64(*std::max_element(given.begin(), given.end())) + 1));
+}
+
+void PxNumberListCheck::checkExtraPage(const PxSourceElement &item, PxFindings *findings) const
+{
+    const auto *pages = item.firstChild(QStringLiteral("target_pages"));
+    const auto *pdf = item.firstChild(QStringLiteral("pdf"));
+    const PxProductionExtraPageGroup group(item.dom);
+    const bool hasTarget = !group.targetPages().isEmpty();
+    // A list of which nothing is left has lost more than its parts.
+    if (hasTarget && !checkParts(*pages, findings))
+        return;
+    constexpr const char *tag = "extra-page-incomplete";
+    PxMissingPart missing;
+    QString message;
+    if (!pages || !pdf) {
+        const QString name = pages ? QStringLiteral("pdf") : QStringLiteral("target_pages");
+        const bool isTold = m_product.file().isTold(findings, tag, item.nameRange);
+        missing = PxElementReading(item).missingChild(
+            name, isTold ? PxElementReading::Search::Everywhere : PxElementReading::Search::Inside);
+        message = QStringLiteral("no \"%1\"").arg(name);
+    } else if (!hasTarget) {
+        missing = PxElementReading(*pages).missingText();
+        if (missing.hint.isEmpty())
+            missing.hint = QStringLiteral("pages are whole numbers, as in \"0,2\"");
+        message = QStringLiteral("no target page");
+    } else if (group.content().filename().trimmed().isEmpty()) {
+        missing = PxElementReading(*pdf).missing(QStringLiteral("filename"));
+        message = QStringLiteral("no file name");
+    } else {
+        return;
+    }
+    const int count = group.targetPages().size();
+    m_product.add(findings, tag, missing.range, message,
+                  QStringLiteral("production gets the file \"%1\" for %2 target %3")
+                      .arg(group.content().filename(), QString::number(count),
+                           count == 1 ? QLatin1String("page") : QLatin1String("pages")),
+                  missing.hint);
+}

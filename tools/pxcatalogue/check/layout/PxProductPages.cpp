@@ -1,0 +1,135 @@
+#include "check/layout/PxProductPages.h"
+
+#include "check/rules/PxElementReading.h"
+
+#include <PxXMLParser.h>
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+// Of all layouts together. Real books stay far below; no file shall keep us busy.
+constexpr qint64 maximumPages = 200000;
+constexpr int maximumPageCount = 10000;
+
+bool isSingle(const PxPageEntry &entry)
+{
+    return !entry.type.isNull() && !entry.isUnion();
+}
+
+} // namespace
+
+PxProductPages::PxProductPages(const PxCheckedProduct &product, const PxPageEntries &entries)
+    : m_product(product)
+    , m_entries(entries)
+{
+    if (!isPlain())
+        return;
+    qint64 pages = 0;
+    for (const int count : pageCounts()) {
+        const bool isSane =
+            count >= 1 && count <= maximumPageCount &&
+            qint64(count) * product.description().countAbstractPages() <= maximumPages;
+        if (isSane)
+            m_layouts.append({count, pagesWith(count)});
+        pages += isSane ? m_layouts.constLast().pages.size() : maximumPages;
+        if (pages >= maximumPages) {
+            m_layouts.clear();
+            return;
+        }
+    }
+    if (isKnown())
+        collectPages();
+}
+
+bool PxProductPages::isPlain() const
+{
+    const PxSourceElement &element = m_product.element();
+    const PxElementReading reading(element);
+    bool isPlain = m_entries.isGiven() && m_product.type().isValid();
+    for (const QString &attribute :
+         {QStringLiteral("binding"), QStringLiteral("numOfNormalPages"),
+          QStringLiteral("horizontalPages"), QStringLiteral("cardStyleAlignment"),
+          QStringLiteral("varioSingleCardStyleAlignment"),
+          QStringLiteral("collegeBlockStyleAlignment")})
+        isPlain = isPlain && reading.isReadable(attribute) && !reading.isMisspelt(attribute);
+    return isPlain && std::all_of(m_entries.read().begin(), m_entries.read().end(), isSingle);
+}
+
+QVector<int> PxProductPages::pageCounts() const
+{
+    switch (m_product.type().productClass()) {
+    case PxProductClassBook:
+        return pageCountsOfBook();
+    case PxProductClassCalendar:
+        // The library answers this for products of its registry only, and not every file is there.
+        switch (m_product.description().binding().value()) {
+        case PxBindingCalendarSimplex:
+            return {12};
+        case PxBindingCalendarDuplex:
+            return {24};
+        case PxBindingCalendarAnnualDuplex:
+            return {2};
+        default:
+            return {1};
+        }
+    case PxProductClassGift:
+    case PxProductClassCard:
+    case PxProductClassDecoration:
+        return {m_product.description().explicitNumberOfNormalPages()};
+    default:
+        return {1};
+    }
+}
+
+/** What the editor steps through, and what has a spine: rather one too many than one too few. */
+QVector<int> PxProductPages::pageCountsOfBook() const
+{
+    const PxProductTypeDescription &book = m_product.description();
+    const qint64 step = book.pageIncrement();
+    if (step < 1 || book.minPages() < 1 || book.maxPages() > maximumPageCount)
+        return {};
+    QSet<int> counts{book.maxPages()};
+    for (qint64 count = book.minPages(); count < book.maxPages(); count += step)
+        counts.insert(int(count));
+    const PxSourceElement *spines = m_product.element().firstChild(QStringLiteral("spines"));
+    const auto ofTable = spines ? spines->childrenNamed(QStringLiteral("spine"))
+                                : QVector<const PxSourceElement *>();
+    for (const PxSourceElement *spine : ofTable)
+        counts.insert(PxXMLParser::intAttribute(spine->dom, QStringLiteral("pages"), 0));
+    QVector<int> sorted(counts.begin(), counts.end());
+    std::sort(sorted.begin(), sorted.end());
+    return sorted;
+}
+
+/** As the library lists them; asked for each page count, that takes longer than all other checks.
+ */
+QVector<PxPageTypeEnum> PxProductPages::pagesWith(int normalPageCount) const
+{
+    QVector<PxPageTypeEnum> pages;
+    for (const PxPageEntry &entry : m_entries.read()) {
+        if (entry.isRange())
+            pages.insert(pages.size(), normalPageCount, PxPageTypeNormalPage);
+        else
+            pages.append(entry.type.value());
+    }
+    return pages;
+}
+
+void PxProductPages::collectPages()
+{
+    m_lastPage = m_layouts.constLast().pages.size() - 1; // page counts ascend
+    QVector<int> known(m_lastPage + 1);                  // the types of each page so far
+    for (const Layout &layout : qAsConst(m_layouts)) {
+        for (int number = 0; number < layout.pages.size(); ++number) {
+            const PxPageTypeEnum type = layout.pages.at(number);
+            if ((known.at(number) & type) != 0)
+                continue;
+            known[number] |= type;
+            m_pages.append({number, type, m_product.description().pageAlignment(number)});
+            m_pageTypes.expandedTo(type);
+        }
+    }
+}

@@ -1,0 +1,170 @@
+#include "check/layout/PxRedirectCheck.h"
+
+#include "check/rules/PxElementReading.h"
+#include "check/words/PxMessageText.h"
+#include "check/words/PxSpelling.h"
+
+#include <algorithm>
+
+namespace {
+
+// Each is held against all before it; honest files have a handful.
+constexpr int maximumOverlapped = 1000;
+
+QString pagesText(int first, int last)
+{
+    return first == last ? QStringLiteral("page %1").arg(first)
+                         : QStringLiteral("pages %1 to %2").arg(first).arg(last);
+}
+
+/** Which of the attributes that it needs are not there. */
+QStringList missing(const PxSourceElement &redirect)
+{
+    QStringList names;
+    for (const QString &name : {QStringLiteral("from"), QStringLiteral("to")}) {
+        if (!redirect.attribute(name))
+            names.append(name);
+    }
+    return names;
+}
+
+/** An unknown attribute that looks like none that is missing: nobody knows what it is meant for. */
+bool isUnclear(const PxSourceElement &redirect)
+{
+    const PxElementReading reading(redirect);
+    const QStringList names = missing(redirect);
+    return !reading.hasOnlyKnown() &&
+           std::none_of(names.begin(), names.end(),
+                        [&](const QString &name) { return reading.isMisspelt(name); });
+}
+
+QString missingText(const QStringList &names)
+{
+    return PxMessageText::quotedList(names) +
+           (names.size() == 1 ? QLatin1String(" is missing") : QLatin1String(" are missing"));
+}
+
+} // namespace
+
+void PxRedirectCheck::run(PxFindings *findings) const
+{
+    const PxSourceElement &product = m_product.element();
+    if (const auto *list = product.firstChild(QStringLiteral("rotationredirects"))) {
+        for (const auto *redirect : list->childrenNamed(QStringLiteral("rotationredirect")))
+            checkRotation(*redirect, findings);
+    }
+    if (const auto *list = product.firstChild(QStringLiteral("contentredirects"))) {
+        QVector<Range> ranges;
+        for (const auto *redirect : list->childrenNamed(QStringLiteral("contentredirect")))
+            checkContent(*redirect, &ranges, findings);
+        checkOverlaps(ranges, findings);
+    }
+}
+
+void PxRedirectCheck::checkRotation(const PxSourceElement &redirect, PxFindings *findings) const
+{
+    constexpr const char *tag = "rotation-redirect-incomplete";
+    const QString now = QStringLiteral("the redirect is left out");
+    const PxElementReading reading(redirect);
+    if (isUnclear(redirect) || !reading.isReadable(QStringLiteral("from")) ||
+        !reading.isReadable(QStringLiteral("to")))
+        return;
+    const QStringList names = missing(redirect);
+    if (!names.isEmpty()) {
+        const PxMissingPart part = reading.missing(names.constFirst());
+        m_product.add(findings, tag, part.range, missingText(names), now, part.hint);
+        return;
+    }
+    for (const QString &name : {QStringLiteral("from"), QStringLiteral("to")}) {
+        if (reading.number(name) < -1) {
+            m_product.add(findings, tag, redirect.rangeOf(name),
+                          QStringLiteral("\"%1\" is no page").arg(redirect.value(name)), now,
+                          QStringLiteral("pages count from 0; -1 is the only number below"));
+            return;
+        }
+    }
+}
+
+void PxRedirectCheck::checkContent(const PxSourceElement &redirect, QVector<Range> *ranges,
+                                   PxFindings *findings) const
+{
+    const PxElementReading reading(redirect);
+    if (isUnclear(redirect) || !reading.isReadable(QStringLiteral("to")))
+        return;
+    const QString from = redirect.value(QStringLiteral("from"));
+    const PxSourceRange place = redirect.rangeOf(QStringLiteral("from"));
+    bool hasFirst = false;
+    bool hasLast = false;
+    const int first = from.section(QLatin1Char('-'), 0, 0).toInt(&hasFirst);
+    const int last = from.section(QLatin1Char('-'), -1).toInt(&hasLast);
+    const int target = reading.number(QStringLiteral("to"), -1);
+    if (!hasFirst || !hasLast || target < 0) {
+        checkIncomplete(redirect, findings);
+    } else if (first > last) {
+        m_product.add(findings, "content-redirect-reversed", place,
+                      QStringLiteral("the range \"%1\" runs backwards").arg(from),
+                      QStringLiteral("nothing is redirected"),
+                      PxSpelling::didYouMean(QStringLiteral("%1-%2").arg(last).arg(first)));
+    } else if (from.count(QLatin1Char('-')) > 1) {
+        m_product.add(findings, "content-redirect-odd", place,
+                      QStringLiteral("the range \"%1\" has more than two parts").arg(from),
+                      pagesText(first, last) + QStringLiteral(" are redirected to %1").arg(target),
+                      QStringLiteral("write one element for each range"));
+    } else {
+        ranges->append({&redirect, first, last, target});
+    }
+}
+
+void PxRedirectCheck::checkIncomplete(const PxSourceElement &redirect, PxFindings *findings) const
+{
+    constexpr const char *tag = "content-redirect-incomplete";
+    const QString now = QStringLiteral("the redirect is left out");
+    const QString hint = QStringLiteral("pages count from 0");
+    const QStringList names = missing(redirect);
+    const QString from = redirect.value(QStringLiteral("from"));
+    const PxMissingPart part =
+        names.isEmpty() ? PxMissingPart() : PxElementReading(redirect).missing(names.constFirst());
+    if (!names.isEmpty())
+        m_product.add(findings, tag, part.range, missingText(names), now, part.hint);
+    else if (PxElementReading(redirect).number(QStringLiteral("to")) < 0)
+        m_product.add(findings, tag, redirect.rangeOf(QStringLiteral("to")),
+                      QStringLiteral("\"%1\" is no page").arg(redirect.value(QStringLiteral("to"))),
+                      now, hint);
+    else
+        m_product.add(
+            findings, tag, redirect.rangeOf(QStringLiteral("from")),
+            QStringLiteral("\"%1\" is neither a page nor a range of pages").arg(from), now,
+            from.contains(QLatin1Char(','))
+                ? QStringLiteral("write one element for each page or range")
+                : QStringLiteral("write a page such as \"3\" or a range such as \"3-7\""));
+}
+
+/**
+ * A range may make an exception inside an earlier one; anything else that takes pages from an
+ * earlier range is an oversight.
+ */
+void PxRedirectCheck::checkOverlaps(const QVector<Range> &ranges, PxFindings *findings) const
+{
+    for (int i = 1; i < std::min(ranges.size(), maximumOverlapped); ++i) {
+        const Range &later = ranges[i];
+        const auto earlier =
+            std::find_if(ranges.begin(), ranges.begin() + i, [&](const Range &other) {
+                const bool isShared = other.first <= later.last && later.first <= other.last;
+                const bool isException = other.first <= later.first && later.last <= other.last &&
+                                         later.last - later.first < other.last - other.first;
+                return isShared && !isException && other.target != later.target;
+            });
+        if (earlier == ranges.begin() + i)
+            continue;
+        const QString pages =
+            pagesText(std::max(earlier->first, later.first), std::min(earlier->last, later.last));
+        m_product.add(
+            findings, "content-redirect-overlap", later.element->rangeOf(QStringLiteral("from")),
+            QStringLiteral("%1: also in %2")
+                .arg(pages, PxMessageText::line(m_product.file(), earlier->element->nameRange)),
+            QStringLiteral("content goes to page %1, not to page %2")
+                .arg(m_product.description().contentDropRedirect(
+                    std::max(earlier->first, later.first)))
+                .arg(earlier->target));
+    }
+}

@@ -1,0 +1,222 @@
+#include "check/layout/PxSurroundingCheck.h"
+
+#include "check/layout/PxElementRectangle.h"
+#include "check/layout/PxImageCheck.h"
+#include "check/layout/PxProductPages.h"
+#include "check/rules/PxElementReading.h"
+#include "check/words/PxMessageText.h"
+
+#include <QSet>
+
+namespace {
+
+// Far more than a product has. Each is asked for each page.
+constexpr int maximumSurroundings = 1000;
+constexpr qint64 maximumAsked = 1000000;
+
+bool isPlain(const PxSourceElement &surrounding)
+{
+    const PxElementReading reading(surrounding);
+    return reading.hasOnlyKnown() && reading.isReadable(QStringLiteral("type")) &&
+           reading.isReadable(QStringLiteral("pageType")) &&
+           reading.isReadable(QStringLiteral("alignment")) &&
+           reading.isReadable(QStringLiteral("pageNr"));
+}
+
+QVector<const PxSourceElement *> surroundingElements(const PxSourceElement &product)
+{
+    QVector<const PxSourceElement *> elements;
+    for (const PxSourceElement *list : product.childrenNamed(QStringLiteral("surroundings")))
+        elements += list->childrenNamed(QStringLiteral("surrounding"));
+    return elements.mid(0, maximumSurroundings);
+}
+
+/** The same element with another type, which takes the settings that a frame ignores. */
+PxSurroundingDescription withoutFrame(const PxSourceElement &frame)
+{
+    QDomElement copy = frame.dom.cloneNode(false).toElement();
+    copy.setAttribute(QStringLiteral("type"), QStringLiteral("BOOK"));
+    return PxSurroundingDescription(copy);
+}
+
+} // namespace
+
+PxSurroundingCheck::PxSurroundingCheck(const PxCheckedProduct &product, const PxProductPages &pages)
+    : m_product(product)
+    , m_pages(pages)
+{
+    for (const PxSourceElement *element : surroundingElements(product.element()))
+        m_surroundings.append({element, PxSurroundingDescription(element->dom), isPlain(*element)});
+}
+
+void PxSurroundingCheck::run(PxFindings *findings) const
+{
+    for (const Surrounding &surrounding : m_surroundings) {
+        PxImageCheck::run(m_product, *surrounding.element, surrounding.description.image(),
+                          findings);
+        checkImage(surrounding, findings);
+        if (surrounding.description.surroundingType() == PxSurroundingTypeFrame)
+            checkFrame(surrounding, findings);
+    }
+    if (m_pages.isKnown())
+        checkUse(findings);
+}
+
+/**
+ * Whether image and rectangle go together. Without both a surrounding may be there for its shade
+ * alone, or to keep others from a page; and a frame is as large as its page at least.
+ */
+void PxSurroundingCheck::checkImage(const Surrounding &surrounding, PxFindings *findings) const
+{
+    constexpr const char *tag = "surrounding-empty";
+    const QString now = QStringLiteral("nothing is painted, and later surroundings of its pages "
+                                       "are not used");
+    const PxSourceElement &element = *surrounding.element;
+    const PxSurroundingDescription &description = surrounding.description;
+    const PxElementRectangle rectangle(element);
+    const bool isFrame = description.surroundingType() == PxSurroundingTypeFrame;
+    const bool hasImage = !description.image().isEmpty();
+    if (!surrounding.isPlain || !rectangle.isPlain() ||
+        hasImage == description.imageRect().isValid())
+        return;
+    if (hasImage && (!isFrame || rectangle.isGiven())) {
+        m_product.add(findings, tag, rectangle.placeOfFault(),
+                      QStringLiteral("an image without a rectangle: %1").arg(rectangle.fault()),
+                      now);
+    } else if (!hasImage && !isFrame && !description.hasBindingShade()) {
+        const QString image = QStringLiteral("image");
+        m_product.add(
+            findings, tag, element.rangeOf(image),
+            QStringLiteral("a rectangle without an image: \"image\" is %1")
+                .arg(element.attribute(image) ? QLatin1String("empty") : QLatin1String("missing")),
+            now);
+    }
+}
+
+void PxSurroundingCheck::checkFrame(const Surrounding &frame, PxFindings *findings) const
+{
+    const PxSurroundingDescription meant = withoutFrame(*frame.element);
+    const struct
+    {
+        QString attribute;
+        bool isIgnored;
+    } settings[] = {
+        {QStringLiteral("pageType"), meant.pageTypes() != frame.description.pageTypes()},
+        // "fullpage" is added in silence, too, but that takes nothing away from what is written.
+        {QStringLiteral("alignment"),
+         (meant.alignments() | PxPageAlignmentFullPage) != frame.description.alignments()},
+        {QStringLiteral("pageNr"), meant.pageNr() != frame.description.pageNr()},
+    };
+    QStringList names;
+    PxSourceRange place;
+    for (const PxSourceAttribute &attribute : frame.element->attributes) {
+        for (const auto &setting : settings) {
+            if (!setting.isIgnored || setting.attribute != attribute.name)
+                continue;
+            if (names.isEmpty())
+                place = attribute.nameRange;
+            names.append(QStringLiteral("%1=\"%2\"").arg(attribute.name, attribute.value));
+        }
+    }
+    if (names.isEmpty() || !frame.isPlain)
+        return;
+    m_product.add(findings, "frame-settings-ignored", place,
+                  QStringLiteral("a FRAME has no %1").arg(names.join(QLatin1String(", no "))),
+                  QStringLiteral("it is painted round every page"),
+                  QStringLiteral("for single pages take another type, such as BORDER"));
+}
+
+void PxSurroundingCheck::checkUse(PxFindings *findings) const
+{
+    const QVector<PxSurroundingKey> asked = keys();
+    if (qint64(asked.size()) * m_surroundings.size() > maximumAsked)
+        return;
+    const QVector<Use> all = uses(asked);
+    for (int i = 0; i < all.size(); ++i) {
+        if (all[i].isUsed || !m_surroundings[i].isPlain)
+            continue;
+        if (!all[i].isFitting)
+            reportUnfit(m_surroundings[i], findings);
+        else if (!all[i].isHiddenByDoubtful)
+            reportHidden(m_surroundings[i], m_surroundings[all[i].hiddenBy], findings);
+    }
+}
+
+/** All that applications may ask for: pages, and double pages, which only "fullpage" fits. */
+QVector<PxSurroundingKey> PxSurroundingCheck::keys() const
+{
+    QSet<int> pinned;
+    for (const Surrounding &surrounding : m_surroundings)
+        pinned.insert(surrounding.description.pageNr());
+    QVector<PxSurroundingKey> keys;
+    QSet<PxPageTypeEnum> doublePages;
+    QSet<QPair<int, int>> contexts;
+    for (const PxProductPages::Page &page : m_pages.pages()) {
+        // Pages that no surrounding names are told apart by type and side alone.
+        const QPair<int, int> context(page.type.value(), page.alignment);
+        if (!pinned.contains(page.number) && contexts.contains(context))
+            continue;
+        if (!pinned.contains(page.number))
+            contexts.insert(context);
+        keys.append(PxSurroundingKey(PxPageContext(page.type, page.alignment), page.number));
+        keys.append(
+            PxSurroundingKey(PxPageContext(page.type, PxPageAlignmentFullPage), page.number));
+    }
+    return keys;
+}
+
+QVector<PxSurroundingCheck::Use> PxSurroundingCheck::uses(
+    const QVector<PxSurroundingKey> &keys) const
+{
+    QVector<Use> uses(m_surroundings.size());
+    for (const PxSurroundingKey &key : keys) {
+        int first = -1;
+        for (int i = 0; i < m_surroundings.size(); ++i) {
+            if (!m_surroundings[i].description.isSuitable(key))
+                continue;
+            uses[i].isFitting = true;
+            if (first < 0) {
+                first = i;
+                uses[i].isUsed = true;
+                continue;
+            }
+            if (uses[i].hiddenBy < 0)
+                uses[i].hiddenBy = first;
+            if (!m_surroundings[first].isPlain)
+                uses[i].isHiddenByDoubtful = true;
+        }
+    }
+    return uses;
+}
+
+void PxSurroundingCheck::reportUnfit(const Surrounding &surrounding, PxFindings *findings) const
+{
+    const bool isPinned = surrounding.description.pageNr() != -1;
+    const bool hasType = surrounding.description.pageTypes().matches(m_pages.pageTypes().value());
+    const QString attribute = isPinned  ? QStringLiteral("pageNr")
+                              : hasType ? QStringLiteral("alignment")
+                                        : QStringLiteral("pageType");
+    const QString value = surrounding.element->value(attribute);
+    QString message = QStringLiteral("the product has no page of type \"%1\"").arg(value);
+    if (isPinned)
+        message = QStringLiteral("the product has no page %1: its pages are 0 to %2")
+                      .arg(value, QString::number(m_pages.lastPage()));
+    else if (hasType)
+        message = surrounding.element->attribute(attribute)
+                      ? QStringLiteral("no page of these types lies at \"%1\"").arg(value)
+                      : QStringLiteral("no page of these types lies on any of these sides");
+    m_product.add(findings, "surrounding-unreachable", surrounding.element->rangeOf(attribute),
+                  message, QStringLiteral("it is never painted"));
+}
+
+void PxSurroundingCheck::reportHidden(const Surrounding &surrounding, const Surrounding &by,
+                                      PxFindings *findings) const
+{
+    const QString line = PxMessageText::line(m_product.file(), by.element->nameRange);
+    m_product.add(findings, "surrounding-unreachable", surrounding.element->nameRange,
+                  QStringLiteral("every page that this is for has an earlier surrounding already"),
+                  QStringLiteral("it is never painted, but the one in %1").arg(line),
+                  surrounding.description.pageNr() == -1
+                      ? QString()
+                      : QStringLiteral("put it before %1").arg(line));
+}

@@ -1,0 +1,162 @@
+#include "check/product/PxMarginCheck.h"
+
+#include "check/rules/PxElementReading.h"
+
+#include <algorithm>
+
+namespace {
+
+const QString coverExtraHorizontal = QStringLiteral("coverextrahorizontal");
+const QString coverExtraVertical = QStringLiteral("coverextravertical");
+const QString foldMargin = QStringLiteral("foldmargin");
+
+QString sizeText(const QSize &size)
+{
+    return QStringLiteral("%1 x %2").arg(size.width()).arg(size.height());
+}
+
+} // namespace
+
+PxMarginCheck::PxMarginCheck(const PxCheckedProduct &product, const PxPageEntries &pages)
+    : m_product(product)
+    , m_pages(pages)
+    , m_size(product.description().usablePrintSize(PxPageTypeNormalPage, 0))
+{}
+
+void PxMarginCheck::run(PxFindings *findings) const
+{
+    checkNegative(findings);
+    checkNegativeIndent(findings);
+    if (!m_size.isEmpty()) {
+        checkExceeding(findings);
+        checkCover(findings);
+    }
+}
+
+void PxMarginCheck::checkNegative(PxFindings *findings) const
+{
+    static const QString ourMargins[] = {
+        QStringLiteral("safetymargin"),
+        QStringLiteral("bleedmargin"),
+        QStringLiteral("bleedmarginhorizontal"),
+        QStringLiteral("bleedmarginvertical"),
+        QStringLiteral("bleedmargincover"),
+        QStringLiteral("bleedmargincoverhorizontal"),
+        QStringLiteral("bleedmargincoververtical"),
+        QStringLiteral("normalpagehorizontalclamp"),
+        foldMargin,
+    };
+    const PxSourceElement &element = m_product.element();
+    for (const QString &margin : ourMargins) {
+        const int length = PxElementReading(element).number(margin);
+        const bool isComputed = margin == foldMargin && length == -1;
+        if (length < 0 && !isComputed)
+            m_product.add(findings, "margin-negative", element.rangeOf(margin),
+                          QStringLiteral("\"%1\" is %2").arg(margin).arg(length),
+                          QStringLiteral("the negative length is used as it is"));
+    }
+}
+
+void PxMarginCheck::checkNegativeIndent(PxFindings *findings) const
+{
+    const PxSourceElement *config =
+        m_product.element().firstChild(QStringLiteral("pageNumberConfig"));
+    const PxSourceElement *margin = config ? config->firstChild(QStringLiteral("margin")) : nullptr;
+    if (!margin)
+        return;
+    for (const QString &name :
+         {QStringLiteral("verticalMargin"), QStringLiteral("horizontalMargin")}) {
+        const int length = PxElementReading(*margin).number(name);
+        if (length < 0)
+            m_product.add(findings, "margin-negative", margin->rangeOf(name),
+                          QStringLiteral("\"%1\" is %2").arg(name).arg(length),
+                          QStringLiteral("the page number is printed beyond the edge"));
+    }
+}
+
+void PxMarginCheck::checkExceeding(PxFindings *findings) const
+{
+    const PxProductTypeDescription &description = m_product.description();
+    const struct
+    {
+        QString attribute;
+        qint64 taken;
+        int available;
+    } rows[] = {
+        {QStringLiteral("safetymargin"), qint64(description.safetyMargin()) * 2,
+         qMin(m_size.width(), m_size.height())},
+        {foldMargin, description.foldMargin(), m_size.width()},
+        {QStringLiteral("normalpagehorizontalclamp"), description.normalPageHorizontalClamp(),
+         m_size.width()},
+    };
+    for (const auto &row : rows) {
+        if (row.taken >= row.available)
+            m_product.add(findings, "margin-exceeds-page",
+                          m_product.element().rangeOf(row.attribute),
+                          QStringLiteral("\"%1\" takes %2 of a page %3")
+                              .arg(row.attribute)
+                              .arg(row.taken)
+                              .arg(sizeText(m_size)),
+                          QStringLiteral("nothing of the page is left"));
+    }
+}
+
+/** A cover whose size is not that of the page, but less. */
+bool PxMarginCheck::hasSmallCover() const
+{
+    const QSize cover = m_product.description().coverSize();
+    if (cover.width() >= m_size.width() && cover.height() >= m_size.height())
+        return false;
+    // Clear foils and the covers of calendars are as large as the pages, whatever is added.
+    return std::any_of(m_pages.read().begin(), m_pages.read().end(), [&](const PxPageEntry &page) {
+        return !page.type.hasValue(PxPageTypeSpine) &&
+               m_product.description().usablePrintSize(page.type, 0) != m_size;
+    });
+}
+
+void PxMarginCheck::checkCover(PxFindings *findings) const
+{
+    if (!hasSmallCover())
+        return;
+    const QSize cover = m_product.description().coverSize();
+    if (cover.width() < m_size.width())
+        checkCoverWidth(findings);
+    if (cover.height() < m_size.height())
+        m_product.add(
+            findings, "cover-smaller-than-page", m_product.element().rangeOf(coverExtraVertical),
+            QStringLiteral("a cover that is %1 lower than the page")
+                .arg(qint64(m_size.height()) - cover.height()),
+            QStringLiteral("a cover half is %1, a page %2").arg(sizeText(cover), sizeText(m_size)));
+}
+
+void PxMarginCheck::checkCoverWidth(PxFindings *findings) const
+{
+    const PxSourceElement &element = m_product.element();
+    const QSize cover = m_product.description().coverSize();
+    const PxElementReading reading(element);
+    if (!reading.isReadable(coverExtraHorizontal) || reading.isMisspelt(coverExtraHorizontal))
+        return;
+    const int extra = reading.number(coverExtraHorizontal);
+    const QString now =
+        QStringLiteral("a cover half is %1, a page %2").arg(sizeText(cover), sizeText(m_size));
+    if (extra < 0)
+        m_product.add(findings, "cover-smaller-than-page", element.rangeOf(coverExtraHorizontal),
+                      QStringLiteral("a cover that is %1 narrower than the page")
+                          .arg(qint64(m_size.width()) - cover.width()),
+                      now);
+    else
+        addAdjustment(extra, now, findings);
+}
+
+/** What is not negative in the file has been made so for the sake of the spine. */
+void PxMarginCheck::addAdjustment(int extra, const QString &now, PxFindings *findings) const
+{
+    const qint64 taken =
+        qint64(m_size.width()) + extra - m_product.description().coverSize().width();
+    m_product.add(
+        findings, "spine-adjusted", m_product.element().rangeOf(coverExtraHorizontal),
+        QStringLiteral("the spine takes %1 from a cover half that is %2 wider than a page")
+            .arg(taken)
+            .arg(extra),
+        now, QStringLiteral("make it %1 wider at least").arg(taken));
+}

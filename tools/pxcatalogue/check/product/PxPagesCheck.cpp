@@ -1,0 +1,200 @@
+#include "check/product/PxPagesCheck.h"
+
+#include "check/rules/PxElementReading.h"
+#include "check/words/PxEditDistance.h"
+#include "check/words/PxSpelling.h"
+#include "format/PxVocabulary.h"
+
+#include <algorithm>
+
+namespace {
+
+/** The type of page that is meant. Where all normal pages are missing, those are as good a guess.
+ */
+QString meant(const QString &text, bool isRangeMissing)
+{
+    QStringList names = PxVocabulary::keywordNames(PxKeywordSet::PageType);
+    const QString nearest = PxSpelling::nearest(text, names);
+    if (nearest.isEmpty() || !isRangeMissing)
+        return nearest;
+    names.erase(std::remove_if(names.begin(), names.end(),
+                               [](const QString &name) {
+                                   const PxPageType type(name);
+                                   return !PxPageEntry::isRange(type) || PxPageEntry::isUnion(type);
+                               }),
+                names.end());
+    const QString range = PxSpelling::nearest(text, names);
+    const auto distanceTo = [&](const QString &name) {
+        return PxEditDistance::between(text.toUpper(), name.toUpper(),
+                                       PxEditDistance::Swap::IsOneChange);
+    };
+    return !range.isEmpty() && distanceTo(range) <= distanceTo(nearest) ? range : nearest;
+}
+
+QString hintFor(const QString &text, bool isRangeMissing)
+{
+    const QStringList words = PxSpelling::words(text);
+    const bool areTypes = std::all_of(
+        words.begin(), words.end(), [](const QString &word) { return !PxPageType(word).isNull(); });
+    if (words.size() > 1 && areTypes)
+        return QStringLiteral("separate pages with commas");
+    const QString name = meant(text, isRangeMissing);
+    return name.isEmpty() ? QString() : PxSpelling::didYouMean(name);
+}
+
+bool isCover(const PxPageEntry &entry)
+{
+    // The back of a calendar comes last, and stands without a front, too.
+    return entry.type.matches(PxPageTypeCover) && !entry.isUnion() &&
+           !entry.type.hasValue(PxPageTypeSpine) &&
+           !entry.type.hasValue(PxPageTypeCalendarCoverBack);
+}
+
+} // namespace
+
+void PxPagesCheck::run(PxFindings *findings) const
+{
+    if (!m_pages.isGiven()) {
+        checkPresence(findings);
+        return;
+    }
+    checkCount(findings);
+    for (const PxPageEntry &entry : m_pages.read())
+        checkEntry(entry, findings);
+    // A page that is left out moves all others.
+    if (!m_pages.isSound())
+        return;
+    if (checkCoverPosition(findings))
+        checkSpinePosition(findings);
+    checkRange(findings);
+}
+
+void PxPagesCheck::checkPresence(PxFindings *findings) const
+{
+    // One normal page is just what many a small product has.
+    if (!hasSeveralPages())
+        return;
+    const PxMissingPart pages =
+        PxElementReading(m_product.element()).missingChild(QStringLiteral("pages"));
+    m_product.add(findings, "pages-missing", pages.range,
+                  QStringLiteral("the product has no \"pages\""), nowWithoutPages(), pages.hint);
+}
+
+/** What becomes of a product that lists no page. */
+QString PxPagesCheck::nowWithoutPages() const
+{
+    return QStringLiteral("the product has %1 page, and no cover")
+        .arg(m_product.description().pageTypes(1).size());
+}
+
+/** What becomes of a product when this entry is left out. */
+QString PxPagesCheck::nowWithout(const PxPageEntry &entry) const
+{
+    if (!m_pages.hasPage())
+        return nowWithoutPages();
+    if (isRangeMissing())
+        return QStringLiteral("it is left out, and the book has %1 pages, whatever page count is "
+                              "ordered")
+            .arg(m_product.description().pageTypes(1).size());
+    const bool isLast = std::all_of(&entry + 1, m_pages.read().end(),
+                                    [](const PxPageEntry &next) { return next.type.isNull(); });
+    return isLast ? QStringLiteral("it is left out")
+                  : QStringLiteral("it is left out, and the pages behind it move up");
+}
+
+bool PxPagesCheck::isRangeMissing() const
+{
+    return m_product.type().isBook() &&
+           std::none_of(m_pages.read().begin(), m_pages.read().end(),
+                        [](const PxPageEntry &entry) { return entry.isRange(); });
+}
+
+bool PxPagesCheck::hasSeveralPages() const
+{
+    const PxProductTypeDescription &description = m_product.description();
+    constexpr auto calendars = static_cast<PxBindingEnum>(
+        PxBindingCalendarSimplex | PxBindingCalendarDuplex | PxBindingCalendarAnnualDuplex);
+    return m_product.type().isBook() ||
+           (m_product.type().isCalendar() && description.binding().matches(calendars)) ||
+           description.explicitNumberOfNormalPages() > 1;
+}
+
+void PxPagesCheck::checkCount(PxFindings *findings) const
+{
+    if (m_pages.droppedCount() == 0)
+        return;
+    m_product.add(
+        findings, "pages-too-many", m_pages.firstDropped(),
+        QStringLiteral("a list of %1 pages").arg(m_pages.read().size() + m_pages.droppedCount()),
+        QStringLiteral("the first %1 are used").arg(m_pages.read().size()),
+        QStringLiteral("write \"normalpages\" for all normal pages"));
+}
+
+void PxPagesCheck::checkEntry(const PxPageEntry &entry, PxFindings *findings) const
+{
+    const char *tag = entry.text.isEmpty() ? "pages-entry-empty" : "pages-entry-unknown";
+    if (entry.type.isNull() && !m_product.file().isTold(findings, tag, entry.range)) {
+        m_product.add(findings, tag, entry.range, QString());
+    } else if (entry.text.isEmpty()) {
+        const PxMissingPart text =
+            PxElementReading(*m_product.element().firstChild(QStringLiteral("pages")))
+                .missingText();
+        m_product.add(findings, tag, text.hint.isEmpty() ? entry.range : text.range,
+                      m_pages.read().size() == 1
+                          ? QStringLiteral("the list of pages is empty")
+                          : QStringLiteral("an empty entry in the list of pages"),
+                      m_pages.hasPage() ? QStringLiteral("it is left out, with a warning each time")
+                                        : nowWithoutPages(),
+                      text.hint);
+    } else if (entry.type.isNull()) {
+        m_product.add(findings, tag, entry.range,
+                      QStringLiteral("\"%1\" is no type of page").arg(entry.text),
+                      nowWithout(entry), hintFor(entry.text, isRangeMissing()));
+    } else if (entry.isUnion()) {
+        m_product.add(findings, "page-type-union", entry.range,
+                      QStringLiteral("\"%1\" is several types of page at once").arg(entry.text),
+                      QStringLiteral("the product has one page that is all of: %1")
+                          .arg(entry.type.encodeCSV()),
+                      QStringLiteral("name the type of this page"));
+    }
+}
+
+/** Whether nothing was found. */
+bool PxPagesCheck::checkCoverPosition(PxFindings *findings) const
+{
+    const auto cover = std::find_if(m_pages.read().begin(), m_pages.read().end(), isCover);
+    if (m_product.description().hasCover() || cover == m_pages.read().end())
+        return true;
+    m_product.add(findings, "cover-not-first", cover->range,
+                  QStringLiteral("a cover, but the list begins with \"%1\"")
+                      .arg(m_pages.read().constFirst().text),
+                  QStringLiteral("the product counts as one without cover"),
+                  QStringLiteral("begin with the cover"));
+    return false;
+}
+
+void PxPagesCheck::checkSpinePosition(PxFindings *findings) const
+{
+    int page = 0;
+    for (const PxPageEntry &entry : m_pages.read()) {
+        const PxPageAlignment alignment = m_product.description().pageAlignment(page);
+        if (entry.type.hasValue(PxPageTypeSpine) && !m_product.description().isSimplex() &&
+            alignment != PxPageAlignmentMiddle && alignment != PxPageAlignmentCenter)
+            m_product.add(findings, "spine-not-second", entry.range,
+                          QStringLiteral("a spine that is not the second of the pages"),
+                          QStringLiteral("page 1 is the one that lies in the middle"),
+                          QStringLiteral("begin with back cover, spine, front cover"));
+        page += entry.isRange() ? 2 : 1; // two stand for many
+    }
+}
+
+void PxPagesCheck::checkRange(PxFindings *findings) const
+{
+    if (!isRangeMissing())
+        return;
+    m_product.add(findings, "pages-range-missing", m_pages.read().constFirst().range,
+                  QStringLiteral("a book whose list of pages has no \"normalpages\""),
+                  QStringLiteral("it has %1 pages, whatever page count is ordered")
+                      .arg(m_pages.read().size()),
+                  QStringLiteral("write \"normalpages\" where the pages of the book are"));
+}

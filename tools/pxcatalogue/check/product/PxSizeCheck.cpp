@@ -1,0 +1,251 @@
+#include "check/product/PxSizeCheck.h"
+
+#include "check/rules/PxElementReading.h"
+#include "check/words/PxMessageText.h"
+#include "check/words/PxSpelling.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+const QString width = QStringLiteral("width");
+const QString height = QStringLiteral("height");
+const QString orientation = QStringLiteral("orientation");
+const QString space = QStringLiteral("space");
+
+/** The longer side is more than numerator/denominator of the shorter one. */
+bool isLonger(qint64 side, qint64 other, int numerator, int denominator)
+{
+    return side * denominator > other * numerator;
+}
+
+/** Leaves room for pages that are nearly square or nearly round: those may be called either. */
+bool contradicts(PxOrientationEnum said, const QSize &size)
+{
+    const qint64 w = size.width();
+    const qint64 h = size.height();
+    switch (said) {
+    case PxOrientationPortrait:
+        return isLonger(w, h, 21, 20);
+    case PxOrientationLandscape:
+        return isLonger(h, w, 21, 20);
+    case PxOrientationQuadratic:
+        return isLonger(qMax(w, h), qMin(w, h), 6, 5);
+    case PxOrientationPanorama:
+        return !isLonger(w, h, 6, 5);
+    case PxOrientationPortraitPanorama:
+        return !isLonger(h, w, 6, 5);
+    case PxOrientationRound:
+        return isLonger(qMax(w, h), qMin(w, h), 3, 2);
+    default: // unknown, or several at once
+        return false;
+    }
+}
+
+/** How much larger the larger one of the two is. */
+double ratio(double a, double b)
+{
+    return a > b ? a / b : b / a;
+}
+
+struct SizeClass
+{
+    PxSpaceMagnitudeEnum value;
+    int area; ///< in square centimetres
+};
+
+constexpr double roughness = 1.5; // how far a page may be from the area of its class
+
+constexpr SizeClass sizeClasses[] = {
+    {PxSpaceMagnitude150, 150}, {PxSpaceMagnitude200, 200},   {PxSpaceMagnitude280, 280},
+    {PxSpaceMagnitude310, 310}, {PxSpaceMagnitude400, 400},   {PxSpaceMagnitude600, 600},
+    {PxSpaceMagnitude900, 900}, {PxSpaceMagnitude1200, 1200},
+};
+
+/** The class that a product names; null for every class, or several. */
+const SizeClass *namedClass(const PxProductTypeDescription &product)
+{
+    const auto *named =
+        std::find_if(std::begin(sizeClasses), std::end(sizeClasses), [&](const SizeClass &row) {
+            return product.spaceMagnitude().hasValue(row.value);
+        });
+    return named == std::end(sizeClasses) ? nullptr : named;
+}
+
+double areaOf(const QSize &size)
+{
+    return size.width() / 100.0 * (size.height() / 100.0);
+}
+
+} // namespace
+
+PxSizeCheck::PxSizeCheck(const PxCheckedProduct &product)
+    : m_product(product)
+    , m_usableSize(product.element().firstChild(QStringLiteral("usablesize")))
+    , m_size(product.description().usablePrintSize(PxPageTypeNormalPage, 0))
+{}
+
+void PxSizeCheck::run(PxFindings *findings) const
+{
+    checkPresence(findings);
+    if (!m_usableSize)
+        return;
+    checkArea(findings);
+    checkShadowing(findings);
+    if (!m_size.isEmpty()) {
+        if (checkOrientation(findings))
+            checkSpace(findings);
+    }
+}
+
+void PxSizeCheck::checkPresence(PxFindings *findings) const
+{
+    const QString now = QStringLiteral("the product is never offered");
+    if (!m_usableSize) {
+        const PxMissingPart size =
+            PxElementReading(m_product.element()).missingChild(QStringLiteral("usablesize"));
+        m_product.add(findings, "size-missing", size.range,
+                      QStringLiteral("the product has no \"usablesize\""), now, size.hint);
+        return;
+    }
+    QStringList missing;
+    for (const QString &side : {width, height}) {
+        if (!m_usableSize->attribute(side))
+            missing.append(side);
+    }
+    if (missing.isEmpty())
+        return;
+    const PxMissingPart side = PxElementReading(*m_usableSize).missing(missing.constFirst());
+    m_product.add(findings, "size-missing", side.range,
+                  QStringLiteral("the size has no %1")
+                      .arg(PxMessageText::quotedList(missing, QStringLiteral(" and no "))),
+                  now, side.hint);
+}
+
+void PxSizeCheck::checkArea(PxFindings *findings) const
+{
+    for (const QString &side : {width, height}) {
+        const PxElementReading reading(*m_usableSize);
+        const int length = reading.number(side);
+        if (!reading.isNumber(side) || length > 0)
+            continue;
+        const PxSourceRange range = m_usableSize->rangeOf(side);
+        if (m_product.description().isValid())
+            m_product.add(findings, "size-not-positive", range,
+                          QStringLiteral("a page of the %1 0").arg(side),
+                          QStringLiteral("the product is offered, with pages of %1 x %2")
+                              .arg(m_size.width())
+                              .arg(m_size.height()));
+        else if (length < 0)
+            m_product.add(findings, "product-not-offered", range,
+                          QStringLiteral("a page of the %1 %2").arg(side).arg(length),
+                          QStringLiteral("the product is never offered, as it has no valid size"));
+        else if (m_size.isValid())
+            m_product.add(findings, "product-not-offered", range,
+                          QStringLiteral("a page of the %1 0, and no orientation").arg(side),
+                          QStringLiteral("the product is never offered, as no orientation follows "
+                                         "from a size without area"));
+        return;
+    }
+}
+
+void PxSizeCheck::checkShadowing(PxFindings *findings) const
+{
+    const PxSourceElement &element = m_product.element();
+    const auto add = [&](const QString &name) {
+        m_product.add(
+            findings, "size-attribute-shadowed", element.rangeOf(name),
+            QStringLiteral("\"%1\" of the product differs from that of its size").arg(name),
+            QStringLiteral("\"%1\" in %2 is used")
+                .arg(m_usableSize->value(name),
+                     PxMessageText::line(m_product.file(), m_usableSize->rangeOf(name))),
+            QStringLiteral("keep the one that is meant"));
+    };
+    const PxOrientation ownOrientation(element.value(orientation));
+    const PxOrientation sizeOrientation(m_usableSize->value(orientation));
+    if (ownOrientation.isValid() && sizeOrientation.isValid() && ownOrientation != sizeOrientation)
+        add(orientation);
+    const PxSpaceMagnitude ownSpace(element.value(space));
+    const PxSpaceMagnitude sizeSpace(m_usableSize->value(space));
+    // Every class at once is what an unknown word gives.
+    if (element.attribute(space) && !m_usableSize->value(space).isEmpty() &&
+        !ownSpace.hasValue(PxSpaceMagnitudeAny) && ownSpace != sizeSpace)
+        add(space);
+}
+
+/** Whether nothing was found: a wrong size has a wrong area, too. */
+bool PxSizeCheck::checkOrientation(PxFindings *findings) const
+{
+    const PxOrientation used = m_product.description().orientation();
+    if (!contradicts(used.value(), m_size))
+        return true;
+    const PxOrientation ofSize(m_usableSize->value(orientation));
+    const PxSourceElement &place = ofSize.isValid() ? *m_usableSize : m_product.element();
+    PxOrientation meant(QString(), m_size);
+    if (used.hasValue(PxOrientationPanorama) && isLonger(m_size.height(), m_size.width(), 2, 1))
+        meant = PxOrientation(PxOrientationPortraitPanorama);
+    if (used.hasValue(PxOrientationPortraitPanorama) &&
+        isLonger(m_size.width(), m_size.height(), 2, 1))
+        meant = PxOrientation(PxOrientationPanorama);
+    m_product.add(
+        findings, "orientation-contradicts-size", place.rangeOf(orientation),
+        QStringLiteral("%1, but the page is %2 x %3")
+            .arg(used.encodeCSV())
+            .arg(m_size.width())
+            .arg(m_size.height()),
+        QStringLiteral("%1 is used, whatever the size").arg(used.encodeCSV()),
+        QStringLiteral("did you mean \"%1\", or is the size wrong?").arg(meant.encodeCSV()));
+    return false;
+}
+
+void PxSizeCheck::checkSpace(PxFindings *findings) const
+{
+    const PxSpaceMagnitude used = m_product.description().spaceMagnitude();
+    const SizeClass *named = namedClass(m_product.description());
+    if (!named)
+        return;
+    if (isInOtherUnit(m_product.description())) {
+        addOtherUnit(named->area, findings);
+        return;
+    }
+    const double area = areaOf(m_size);
+    const auto *nearest = std::min_element(std::begin(sizeClasses), std::end(sizeClasses),
+                                           [&](const SizeClass &a, const SizeClass &b) {
+                                               return ratio(a.area, area) < ratio(b.area, area);
+                                           });
+    // The classes are rough, and some pages lie between two of them.
+    if (ratio(named->area, area) <= roughness || ratio(nearest->area, area) > 1.25)
+        return;
+    const PxSourceElement &place =
+        m_usableSize->value(space).isEmpty() ? m_product.element() : *m_usableSize;
+    m_product.add(
+        findings, "space-contradicts-size", place.rangeOf(space),
+        QStringLiteral("%1, but the page has %2 cm²").arg(used.encodeCSV()).arg(qRound(area)),
+        QStringLiteral("templates and type sizes of \"%1\" are used").arg(used.humanReadableName()),
+        PxSpelling::didYouMean(PxSpaceMagnitude(nearest->value).encodeCSV()));
+}
+
+bool PxSizeCheck::isInOtherUnit(const PxProductTypeDescription &product)
+{
+    const SizeClass *named = namedClass(product);
+    const QSize size = product.usablePrintSize(PxPageTypeNormalPage, 0);
+    // Ten times in either direction, within what the classes leave open.
+    return named && !size.isEmpty() && ratio(ratio(named->area, areaOf(size)), 100) <= roughness;
+}
+
+void PxSizeCheck::addOtherUnit(int namedArea, PxFindings *findings) const
+{
+    const bool isSmaller = areaOf(m_size) < namedArea;
+    const QSize meant = isSmaller ? m_size * 10 : m_size / 10;
+    m_product.add(findings, "size-in-other-unit", m_usableSize->rangeOf(width),
+                  QStringLiteral("%1 x %2 is ten times %3 than \"%4\" says")
+                      .arg(m_size.width())
+                      .arg(m_size.height())
+                      .arg(isSmaller ? QLatin1String("smaller") : QLatin1String("larger"))
+                      .arg(m_product.description().spaceMagnitude().encodeCSV()),
+                  QStringLiteral("the size is taken as it is"),
+                  QStringLiteral("lengths are in tenths of a millimetre: %1 x %2?")
+                      .arg(meant.width())
+                      .arg(meant.height()));
+}

@@ -1,0 +1,329 @@
+#include "check/product/PxSpineCheck.h"
+
+#include "check/rules/PxElementReading.h"
+#include "check/words/PxMessageText.h"
+#include "check/words/PxSpelling.h"
+
+#include <PxXMLParser.h>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+const QString pagesName = QStringLiteral("pages");
+const QString width = QStringLiteral("width");
+const QString maxFontHeight = QStringLiteral("maxfontheight");
+
+int widthOf(const PxSourceElement &spine)
+{
+    return PxXMLParser::intAttribute(spine.dom, width, 0);
+}
+
+/** A wrong name or number is told where it stands. */
+bool isWidthKnown(const PxSourceElement &spine)
+{
+    const PxElementReading reading(spine);
+    return reading.isReadable(width) && !reading.isMisspelt(width);
+}
+
+} // namespace
+
+PxSpineCheck::PxSpineCheck(const PxCheckedProduct &product, const PxPageEntries &pages)
+    : m_product(product)
+    , m_pages(pages)
+    , m_table(product.element().firstChild(QStringLiteral("spines")))
+{}
+
+void PxSpineCheck::run(PxFindings *findings)
+{
+    readTable(findings);
+    checkPresence(findings);
+    checkSpinePage(findings);
+    checkWidths(findings);
+    checkTextHeights(findings);
+    // Without one of its page counts little can be said about a table.
+    if (!m_product.type().isBook() || m_spines.isEmpty() || !m_isComplete)
+        return;
+    checkLength(findings);
+    checkSteps(findings);
+    checkSellingPages(findings);
+}
+
+void PxSpineCheck::readTable(PxFindings *findings)
+{
+    if (!m_table)
+        return;
+    for (const PxSourceElement *spine : m_table->childrenNamed(QStringLiteral("spine"))) {
+        ++m_rowCount;
+        readPageCount(*spine, findings);
+    }
+    // What has another name was meant for a row.
+    m_isComplete = m_isComplete && m_rowCount == m_table->children.size();
+}
+
+void PxSpineCheck::readPageCount(const PxSourceElement &spine, PxFindings *findings)
+{
+    const PxElementReading reading(spine);
+    const int pageCount = reading.number(pagesName);
+    if (pageCount > 0) {
+        if (m_spines.contains(pageCount)) {
+            m_isComplete = false; // most likely one of the two is meant for another page count
+            addTwice(spine, pageCount, findings);
+        }
+        m_spines.insert(pageCount, &spine);
+        return;
+    }
+    m_isComplete = false;
+    if (!reading.isReadable(pagesName))
+        return;
+    const PxMissingPart missing = reading.missing(pagesName);
+    m_product.add(
+        findings, "spine-pages-missing", missing.range,
+        reading.isGiven(pagesName) ? QStringLiteral("a spine for %1 pages").arg(pageCount)
+                                   : QStringLiteral("a spine without a page count"),
+        QStringLiteral("the smallest page count is %1").arg(m_product.description().minPages()),
+        missing.hint);
+}
+
+void PxSpineCheck::addTwice(const PxSourceElement &spine, int pageCount, PxFindings *findings) const
+{
+    const PxSourceElement &earlier = *m_spines.value(pageCount);
+    m_product.add(findings, "spine-pages-twice", spine.rangeOf(pagesName),
+                  QStringLiteral("a second spine for %1 pages, %2 wide; the one in %3 is %4")
+                      .arg(QString::number(pageCount), QString::number(widthOf(spine)),
+                           PxMessageText::line(m_product.file(), earlier.rangeOf(pagesName)),
+                           QString::number(widthOf(earlier))),
+                  QStringLiteral("the later one is used, as a spine of %1")
+                      .arg(m_product.description().spineWidth(pageCount)),
+                  QStringLiteral("keep the one that is meant"));
+}
+
+void PxSpineCheck::checkPresence(PxFindings *findings) const
+{
+    if (!m_product.type().isBook() || m_rowCount > 0)
+        return;
+    const PxMissingPart missing =
+        m_table ? PxElementReading(*m_table).missingEntries()
+                : PxElementReading(m_product.element()).missingChild(QStringLiteral("spines"));
+    m_product.add(
+        findings, "book-without-page-counts", missing.range,
+        m_table ? QStringLiteral("the \"spines\" of this book hold no \"spine\"")
+                : QStringLiteral("a book without \"spines\""),
+        QStringLiteral("its page counts go from %1 to %2")
+            .arg(m_product.description().minPages())
+            .arg(m_product.description().maxPages()),
+        missing.hintOr(QStringLiteral("add a \"spine\" for each page count, with the width 0 "
+                                      "when none is printed")));
+}
+
+void PxSpineCheck::checkLength(PxFindings *findings) const
+{
+    if (m_rowCount < 3)
+        m_product.add(findings, "spine-table-short", m_table->nameRange,
+                      QStringLiteral("a book with %1 page counts").arg(m_rowCount),
+                      QStringLiteral("the step between its page counts is %1")
+                          .arg(m_product.description().pageIncrement()),
+                      QStringLiteral("give three page counts or more"));
+}
+
+/** The step that most page counts have; of two the one that the library takes. */
+int PxSpineCheck::usualStep() const
+{
+    QHash<int, int> frequencies;
+    for (auto it = std::next(m_spines.begin()); it != m_spines.end(); ++it)
+        ++frequencies[it.key() - std::prev(it).key()];
+    int usual = m_product.description().pageIncrement();
+    for (auto it = frequencies.constBegin(); it != frequencies.constEnd(); ++it) {
+        const int best = frequencies.value(usual);
+        if (it.value() > best || (it.value() == best && it.key() < usual &&
+                                  usual != m_product.description().pageIncrement()))
+            usual = it.key();
+    }
+    return usual;
+}
+
+void PxSpineCheck::checkSteps(PxFindings *findings) const
+{
+    if (m_spines.size() < 3)
+        return;
+    const int usual = usualStep();
+    int before = usual;
+    int inStep = m_spines.firstKey();
+    bool isRegular = true;
+    // The last step is free.
+    for (auto it = std::next(m_spines.begin()); it != std::prev(m_spines.end()); ++it) {
+        const int smaller = std::prev(it).key();
+        const int step = it.key() - smaller;
+        const qint64 wanted = qint64(smaller) + usual;
+        // The page count before was the wrong one, and this goes on behind it.
+        const bool isBackInStep = smaller != inStep && it.key() - inStep == 2LL * usual;
+        // A table may go on in other steps: that is one place, not many.
+        if (step != usual && step != before && !isBackInStep)
+            m_product.add(findings, "spine-steps-irregular", it.value()->rangeOf(pagesName),
+                          QStringLiteral("%1 pages after %2, where most steps are %3")
+                              .arg(it.key())
+                              .arg(smaller)
+                              .arg(usual),
+                          QStringLiteral("the page counts go from %1 to %2 in steps of %3")
+                                  .arg(m_product.description().minPages())
+                                  .arg(m_product.description().maxPages())
+                                  .arg(m_product.description().pageIncrement()) +
+                              nowWithoutSpine(smaller, it.key()),
+                          std::next(it).key() == wanted + usual
+                              ? PxSpelling::didYouMean(QString::number(wanted))
+                          : step > usual ? QStringLiteral("add a spine for %1 pages").arg(wanted)
+                                         : QString());
+        isRegular = isRegular && step == usual;
+        before = isBackInStep ? usual : step;
+        if (isBackInStep || step == usual)
+            inStep = it.key();
+    }
+    if (isRegular)
+        checkLastStep(usual, findings);
+}
+
+/** What becomes of the first page count that is offered between two of the table. */
+QString PxSpineCheck::nowWithoutSpine(int smaller, int larger) const
+{
+    const PxProductTypeDescription &book = m_product.description();
+    const qint64 between = qint64(smaller) + book.pageIncrement();
+    return between < larger && hasWidth() && (between - book.minPages()) % book.pageIncrement() == 0
+               ? QStringLiteral("; the spine for %1 pages is %2 wide")
+                     .arg(between)
+                     .arg(book.spineWidth(int(between)))
+               : QString();
+}
+
+/** A last step that is longer than the others leaves out page counts as any other does. */
+void PxSpineCheck::checkLastStep(int usual, PxFindings *findings) const
+{
+    const auto last = std::prev(m_spines.end());
+    const int smaller = std::prev(last).key();
+    // Three entries without a width may stand for all that lie between them.
+    if (last.key() - usual <= smaller || (!hasWidth() && m_spines.size() < 4))
+        return;
+    m_product.add(findings, "spine-last-step-long", last.value()->rangeOf(pagesName),
+                  QStringLiteral("%1 pages after %2, where other steps are %3")
+                      .arg(last.key())
+                      .arg(smaller)
+                      .arg(usual),
+                  hasWidth() ? QStringLiteral("the spine for %1 pages is %2 wide")
+                                   .arg(smaller + usual)
+                                   .arg(m_product.description().spineWidth(smaller + usual))
+                             : QStringLiteral("the page counts go from %1 to %2 in steps of %3")
+                                   .arg(m_product.description().minPages())
+                                   .arg(m_product.description().maxPages())
+                                   .arg(m_product.description().pageIncrement()),
+                  QStringLiteral("add a spine for %1 pages").arg(smaller + usual));
+}
+
+bool PxSpineCheck::hasWidth() const
+{
+    return std::any_of(m_spines.begin(), m_spines.end(),
+                       [](const PxSourceElement *spine) { return widthOf(*spine) > 0; });
+}
+
+void PxSpineCheck::checkWidths(PxFindings *findings) const
+{
+    if (!hasWidth())
+        return;
+    const PxSourceElement *narrower = nullptr;
+    for (auto it = m_spines.begin(); it != m_spines.end(); ++it) {
+        const PxSourceElement &spine = *it.value();
+        const int own = widthOf(spine);
+        if (!isWidthKnown(spine))
+            continue;
+        if (own <= 0) {
+            m_product.add(findings, "spine-width-missing", spine.rangeOf(width),
+                          spine.attribute(width)
+                              ? QStringLiteral("a spine of the width %1").arg(own)
+                              : QStringLiteral("a spine without a width"),
+                          QStringLiteral("the spine for %1 pages is %2 wide")
+                              .arg(it.key())
+                              .arg(m_product.description().spineWidth(it.key())));
+            continue;
+        }
+        const int other = narrower ? widthOf(*narrower) : 0;
+        if (own < other && m_isComplete)
+            m_product.add(
+                findings, "spine-width-falls", spine.rangeOf(width),
+                QStringLiteral("a spine of %1 for %2 pages, but one of %3 for fewer in %4")
+                    .arg(own)
+                    .arg(it.key())
+                    .arg(other)
+                    .arg(PxMessageText::line(m_product.file(), narrower->rangeOf(width))),
+                QStringLiteral("the spine for %1 pages is %2 wide")
+                    .arg(it.key())
+                    .arg(m_product.description().spineWidth(it.key())));
+        narrower = &spine;
+    }
+}
+
+void PxSpineCheck::checkTextHeights(PxFindings *findings) const
+{
+    for (auto it = m_spines.begin(); it != m_spines.end(); ++it) {
+        // What the library has added to the width may take type, too.
+        const int spineWidth = m_product.description().spineWidth(it.key());
+        const int height = m_product.description().spineMaxFontHeight(it.key());
+        if (widthOf(*it.value()) > 0 && height > spineWidth)
+            m_product.add(findings, "spine-text-too-high", it.value()->rangeOf(maxFontHeight),
+                          QStringLiteral("type of the height %1 on a spine of %2")
+                              .arg(height)
+                              .arg(widthOf(*it.value())),
+                          QStringLiteral("type may be %1 high on a spine that is %2 wide")
+                              .arg(height)
+                              .arg(spineWidth));
+    }
+}
+
+void PxSpineCheck::checkSellingPages(PxFindings *findings) const
+{
+    const QString attribute = QStringLiteral("defaultSellingPages");
+    const int pageCount = m_product.description().defaultSellingPages();
+    if (!PxElementReading(m_product.element()).isNumber(attribute) || pageCount == -1 ||
+        m_spines.contains(pageCount))
+        return;
+    const auto next = m_spines.lowerBound(pageCount);
+    QStringList near;
+    if (next != m_spines.begin())
+        near.append(QString::number(std::prev(next).key()));
+    if (next != m_spines.end())
+        near.append(QString::number(next.key()));
+    m_product.add(findings, "selling-pages-not-offered", m_product.element().rangeOf(attribute),
+                  QStringLiteral("%1 is no page count of \"spines\"").arg(pageCount),
+                  QStringLiteral("a new book has %1 pages, and a spine of %2")
+                      .arg(pageCount)
+                      .arg(m_product.description().spineWidth(pageCount)),
+                  QStringLiteral("the nearest: %1").arg(near.join(QStringLiteral(", "))));
+}
+
+void PxSpineCheck::checkSpinePage(PxFindings *findings) const
+{
+    const bool isBookWithoutTable = m_product.type().isBook() && m_rowCount == 0;
+    // A width under another name is told with what follows from it.
+    const bool isEveryWidthKnown =
+        m_isComplete &&
+        std::all_of(m_spines.begin(), m_spines.end(), [](const PxSourceElement *spine) {
+            return PxElementReading(*spine).isReadable(width);
+        });
+    const PxElementReading product(m_product.element());
+    const PxMissingPart missing = m_spines.isEmpty()
+                                      ? product.missingChild(QStringLiteral("spines"))
+                                      : PxElementReading(*m_spines.first()).missing(width);
+    const PxPageEntry *spinePage = m_pages.spine();
+    if (spinePage && !hasWidth() && isEveryWidthKnown && !isBookWithoutTable)
+        m_product.add(findings, "spine-page-without-table",
+                      missing.hint.isEmpty() ? spinePage->range : missing.range,
+                      QStringLiteral("a spine among the pages, but no width in \"spines\""),
+                      QStringLiteral("the spine is %1 wide")
+                          .arg(m_product.description().spineWidth(
+                              m_spines.isEmpty() ? 0 : m_spines.firstKey())),
+                      missing.hintOr(QStringLiteral("give its width, or take the spine out")));
+    if (m_pages.isGiven() && m_pages.isSound() && !m_product.description().hasSpine() && hasWidth())
+        m_product.add(findings, "spine-without-page", m_table->nameRange,
+                      QStringLiteral("spines with a width, but \"pages\" lists no spine"),
+                      QStringLiteral("the product has no spine; a cover half is %1 wide")
+                          .arg(m_product.description().coverSize().width()),
+                      QStringLiteral("add \"spine\" to the pages, or give the width 0"));
+}

@@ -1,0 +1,196 @@
+#include "check/rules/PxElementReading.h"
+
+#include "check/words/PxSpelling.h"
+#include "format/PxVocabulary.h"
+
+#include <PxListParts.h>
+#include <PxXMLParser.h>
+
+#include <algorithm>
+
+namespace {
+
+const PxElementRow &rowOf(const PxSourceElement &element, PxFileKind kind)
+{
+    const PxElementRow *row =
+        element.parent ? PxVocabulary::child(rowOf(*element.parent, kind), element.name) : nullptr;
+    return row ? *row : PxVocabulary::root(kind);
+}
+
+// Elements of one search: what was meant for a child stands near by, and files may have 200 000.
+constexpr int maximumSearched = 10000;
+
+/** Whether any is read between the tags. */
+bool hasText(const PxSourceElement &element)
+{
+    return std::any_of(element.nodes.begin(), element.nodes.end(),
+                       [](const PxSourceNode &node) {
+                           return node.isText() && !QStringView(node.text).trimmed().isEmpty();
+                       }) ||
+           std::any_of(element.children.begin(), element.children.end(),
+                       [](const PxSourceElement *child) { return hasText(*child); });
+}
+
+} // namespace
+
+PxElementReading::PxElementReading(const PxSourceElement &element, PxFileKind kind)
+    : PxElementReading(element, rowOf(element, kind))
+{}
+
+bool PxElementReading::hasOnlyKnown() const
+{
+    if (!m_hasOnlyKnown)
+        m_hasOnlyKnown = std::all_of(m_element.attributes.begin(), m_element.attributes.end(),
+                                     [this](const PxSourceAttribute &attribute) {
+                                         return PxVocabulary::attribute(m_row, attribute.name);
+                                     });
+    return *m_hasOnlyKnown;
+}
+
+const PxSourceAttribute *PxElementReading::misspelling(const QString &attribute) const
+{
+    if (isGiven(attribute) || hasOnlyKnown())
+        return nullptr;
+    const auto found = std::find_if(m_element.attributes.begin(), m_element.attributes.end(),
+                                    [&](const PxSourceAttribute &own) {
+                                        return !PxVocabulary::attribute(m_row, own.name) &&
+                                               PxSpelling::isNear(own.name, attribute) &&
+                                               meant(own.name) == attribute;
+                                    });
+    return found == m_element.attributes.end() ? nullptr : found;
+}
+
+PxMissingPart PxElementReading::missing(const QString &attribute) const
+{
+    const PxSourceAttribute *own = misspelling(attribute);
+    return own ? PxMissingPart{own->nameRange, PxSpelling::didYouMean(attribute)}
+               : PxMissingPart{m_element.rangeOf(attribute), QString()};
+}
+
+PxMissingPart PxElementReading::missingText() const
+{
+    const auto isUnknown = [this](const PxSourceAttribute &attribute) {
+        return !PxVocabulary::attribute(m_row, attribute.name) &&
+               !attribute.name.startsWith(QLatin1String("xml")) &&
+               !attribute.name.contains(QLatin1Char(':'));
+    };
+    const auto found =
+        std::find_if(m_element.attributes.begin(), m_element.attributes.end(), isUnknown);
+    return found != m_element.attributes.end() && !hasText(m_element)
+               ? PxMissingPart{found->nameRange, QStringLiteral("write it between the tags")}
+               : PxMissingPart{m_element.textRange(), QString()};
+}
+
+bool PxElementReading::isReadable(const QString &attribute) const
+{
+    const PxSourceAttribute *own = m_element.attribute(attribute);
+    const PxAttributeRow *row = own ? PxVocabulary::attribute(m_row, attribute) : nullptr;
+    return !row || isReadable(m_element, *own, *row);
+}
+
+bool PxElementReading::isReadable(const PxSourceElement &element,
+                                  const PxSourceAttribute &attribute, const PxAttributeRow &row)
+{
+    const QString &name = attribute.name;
+    bool isReadable = true;
+    switch (row.type) {
+    case PxValueType::Integer:
+    case PxValueType::RectanglePart:
+        // What is no number gives the default, whichever that is, and so below.
+        return PxXMLParser::intAttribute(element.dom, name, 0) != 0 ||
+               PxXMLParser::intAttribute(element.dom, name, 1) == 0;
+    case PxValueType::Boolean:
+        return PxXMLParser::boolAttribute(element.dom, name, false) ||
+               !PxXMLParser::boolAttribute(element.dom, name, true);
+    case PxValueType::OneKeyword:
+        return PxVocabulary::isKeyword(row.keywords, attribute.value);
+    case PxValueType::Keyword:
+    case PxValueType::KeywordList:
+        pxForEachPart(attribute.value, [&](QStringView part) {
+            isReadable = isReadable && PxVocabulary::isKeyword(row.keywords, part.toString());
+        });
+        return isReadable;
+    default:
+        return true; // any text can be read
+    }
+}
+
+int PxElementReading::number(const QString &attribute, int absent) const
+{
+    return PxXMLParser::intAttribute(m_element.dom, attribute, absent);
+}
+
+QString PxElementReading::meant(const QString &name) const
+{
+    return PxSpelling::nearest(name, namesOfMissing());
+}
+
+/** The attributes that the library would read, and that are not given. */
+QStringList PxElementReading::namesOfMissing() const
+{
+    QStringList names;
+    for (const PxAttributeRow &row : m_row.attributes) {
+        const QString name = QLatin1String(row.name);
+        if (!isGiven(name))
+            names.append(name);
+    }
+    return names;
+}
+
+const PxSourceElement *PxElementReading::misplacedChild(const QString &name, Search search) const
+{
+    int left = maximumSearched;
+    const PxSourceElement *own = findBelow(m_element, name, &left);
+    // The others of any name are all like this one.
+    if (own || search == Search::Inside || m_row.occurrence == PxOccurrence::AnyName)
+        return own;
+    const PxSourceElement *root = &m_element;
+    while (root->parent)
+        root = root->parent;
+    return findBelow(*root, name, &left);
+}
+
+/** Not in others like this element: what stands there belongs to those. */
+const PxSourceElement *PxElementReading::findBelow(const PxSourceElement &parent,
+                                                   const QString &name, int *left) const
+{
+    for (const PxSourceElement *child : parent.children) {
+        if (--*left < 0)
+            return nullptr;
+        if (&parent == m_element.parent && child->name == m_element.name)
+            continue; // this one has been searched
+        if (PxSpelling::isNear(child->name, name))
+            return child;
+        if (const PxSourceElement *found = findBelow(*child, name, left))
+            return found;
+    }
+    return nullptr;
+}
+
+PxMissingPart PxElementReading::missingChild(const QString &name, Search search) const
+{
+    const PxSourceElement *meant = misplacedChild(name, search);
+    if (!meant)
+        return {m_element.nameRange, QString()};
+    const PxElementRow *row = PxVocabulary::child(m_row, name);
+    const bool isEntry = row && PxVocabulary::isChildName(*row, meant->name);
+    const bool isElsewhere = meant->name == name;
+    return {meant->nameRange, isEntry ? QStringLiteral("put it into \"%1\"").arg(name)
+                              : isElsewhere
+                                  ? QStringLiteral("put it into \"%1\"").arg(m_element.name)
+                                  : PxSpelling::didYouMean(name)};
+}
+
+PxMissingPart PxElementReading::missingEntries() const
+{
+    const QString name = QLatin1String(m_row.children.begin()->name);
+    for (const PxSourceElement *child : m_element.children) {
+        if (!child->name.contains(QLatin1Char(':'))) // else it is somebody else's
+            return {child->nameRange, PxSpelling::didYouMean(name)};
+    }
+    const auto text = std::find_if(m_element.nodes.begin(), m_element.nodes.end(),
+                                   [](const PxSourceNode &node) { return node.isText(); });
+    if (text == m_element.nodes.end())
+        return {m_element.nameRange, QString()};
+    return {text->range, QStringLiteral("write a \"%1\" element for each").arg(name)};
+}

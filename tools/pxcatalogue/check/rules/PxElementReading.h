@@ -1,0 +1,78 @@
+#pragma once
+
+#include "check/source/PxSourceElement.h"
+#include "format/PxVocabularyRows.h"
+
+#include <QStringList>
+
+#include <optional>
+
+/** Something that is missing in an element, as it is told. */
+struct PxMissingPart
+{
+    /** What was probably written for it; its empty value, or the element, when nothing was. */
+    PxSourceRange range;
+    QString hint; ///< empty when nothing looks like it
+
+    QString hintOr(const QString &other) const { return hint.isEmpty() ? other : hint; }
+};
+
+/**
+ * How the library reads an element, and whether that is just what is written.
+ *
+ * Where it is not, that is a finding already, and what follows from it shall be none.
+ */
+class PxElementReading
+{
+public:
+    /** The element stands where the library reads it in such a file. It must outlive this. */
+    explicit PxElementReading(const PxSourceElement &element,
+                              PxFileKind kind = PxFileKind::Product);
+    /** The row is that of the element, in any file. */
+    PxElementReading(const PxSourceElement &element, const PxElementRow &row)
+        : m_element(element)
+        , m_row(row)
+    {}
+
+    /** There are no unknown attributes, which might be misspelt ones. */
+    bool hasOnlyKnown() const;
+    bool isGiven(const QString &attribute) const { return m_element.attribute(attribute); }
+    /** The attribute is missing, but another one looks like a misspelling of it. */
+    bool isMisspelt(const QString &attribute) const { return misspelling(attribute); }
+    /** An attribute that is missing or empty, where that is a finding. */
+    PxMissingPart missing(const QString &attribute) const;
+    /** The text, where that is a finding; its value may have been written as an attribute. */
+    PxMissingPart missingText() const;
+    /** The attribute is missing, or can be read. */
+    bool isReadable(const QString &attribute) const;
+    /** The same of an attribute that is there, and its row. */
+    static bool isReadable(const PxSourceElement &element, const PxSourceAttribute &attribute,
+                           const PxAttributeRow &row);
+    /** The attribute is there, and a whole number. */
+    bool isNumber(const QString &attribute) const
+    {
+        return isGiven(attribute) && isReadable(attribute);
+    }
+    int number(const QString &attribute, int absent = 0) const;
+
+    /** The attribute that may be meant by a name; none that is given already. */
+    QString meant(const QString &name) const;
+    /** Where to look for what was meant for a child. */
+    enum class Search { Everywhere, Inside };
+    /** A child that is missing, where that is a finding. */
+    PxMissingPart missingChild(const QString &name, Search search = Search::Everywhere) const;
+    /** The same of the entries in an element that holds nothing else, which may be there as text.
+     */
+    PxMissingPart missingEntries() const;
+
+private:
+    QStringList namesOfMissing() const;
+    const PxSourceAttribute *misspelling(const QString &attribute) const;
+    const PxSourceElement *misplacedChild(const QString &name, Search search) const;
+    const PxSourceElement *findBelow(const PxSourceElement &parent, const QString &name,
+                                     int *left) const;
+
+    const PxSourceElement &m_element;
+    const PxElementRow &m_row;
+    mutable std::optional<bool> m_hasOnlyKnown;
+};

@@ -1,0 +1,203 @@
+#include "check/rules/PxKeywordCheck.h"
+
+#include "check/rules/PxMissingValue.h"
+#include "check/words/PxMessageText.h"
+#include "check/words/PxSpelling.h"
+#include "format/PxVocabulary.h"
+
+#include <PxListParts.h>
+
+#include <QRegularExpression>
+#include <QSet>
+
+#include <algorithm>
+
+PxKeywordCheck::PxKeywordCheck(const PxCheckedFile &file, const PxSourceElement &element,
+                               const PxAttributeRow &row, const PxSourceAttribute &attribute)
+    : m_element(element)
+    , m_row(row)
+    , m_attribute(attribute)
+    , m_list(PxSourceParts::ofAttribute(file, element, attribute.name))
+{
+    for (PxSourcePart &entry : m_list.parts)
+        entry.text = entry.text.trimmed();
+}
+
+void PxKeywordCheck::run(PxFileFindings &findings) const
+{
+    switch (m_row.keywords) {
+    case PxKeywordSet::None:
+    case PxKeywordSet::Material:     // any text is a material
+    case PxKeywordSet::ProductGroup: // a matter of the whole theme
+    case PxKeywordSet::ProductClass: // a matter of the whole row
+        return;
+    default:
+        break;
+    }
+    if (m_attribute.value.trimmed().isEmpty())
+        checkEmpty(findings);
+    else if (m_row.type == PxValueType::OneKeyword)
+        checkOneKeyword(findings);
+    else
+        checkList(findings);
+}
+
+/** An empty value is the same as none, unless the library reads it as something else. */
+void PxKeywordCheck::checkEmpty(PxFileFindings &findings) const
+{
+    const QString missing = QString::fromLatin1(m_row.defaultText);
+    if (!m_row.defaultText || PxVocabulary::decode(m_row.keywords, m_attribute.value) ==
+                                  PxVocabulary::decode(m_row.keywords, missing))
+        return;
+    findings.add(m_row.keywords == PxKeywordSet::Alignment ? "alignment-unknown"
+                                                           : "keyword-unknown",
+                 m_attribute.valueRange, QStringLiteral("\"%1\" is empty").arg(m_attribute.name),
+                 now(), QStringLiteral("leave it out for \"%1\"").arg(missing));
+}
+
+void PxKeywordCheck::checkOneKeyword(PxFileFindings &findings) const
+{
+    const QString word = m_attribute.value.trimmed();
+    if (isKnown(word))
+        return;
+    const QStringList words =
+        PxSpelling::words(QString(word).replace(QLatin1Char(','), QLatin1Char(' ')));
+    const bool areKeywords =
+        std::all_of(words.begin(), words.end(), [this](const QString &w) { return isKnown(w); });
+    if (words.size() > 1 && areKeywords)
+        findings.add("keyword-several", m_attribute.valueRange,
+                     QStringLiteral("\"%1\" takes one keyword, not a list").arg(m_attribute.name),
+                     now(), QStringLiteral("keep the one that is meant"));
+    else
+        checkUnknown({word,
+                      {m_list.parts.constFirst().range.begin, m_list.parts.constLast().range.end},
+                      m_attribute.valueRange},
+                     now(), findings);
+}
+
+void PxKeywordCheck::checkList(PxFileFindings &findings) const
+{
+    bool areKnown = true;
+    QString asRead;
+    for (const PxSourcePart &entry : m_list.parts) {
+        if (entry.text.isEmpty() || isKnown(entry.text))
+            continue;
+        if (areKnown)
+            asRead = now(); // once: lists may be long
+        areKnown = false;
+        checkUnknown(entry, asRead, findings);
+    }
+    // An author who mends a word looks at the whole list anyway.
+    if (areKnown && m_list.isWhole() && !checkGap(findings) && !checkSeveral(findings))
+        checkRepeated(findings);
+}
+
+void PxKeywordCheck::checkUnknown(const PxSourcePart &entry, const QString &asRead,
+                                  PxFileFindings &findings) const
+{
+    const QString name = QString::fromUtf8(PxVocabulary::keywords(m_row.keywords).name);
+    const QStringList words = PxSpelling::words(entry.text);
+    const auto known = std::count_if(words.begin(), words.end(),
+                                     [this](const QString &word) { return isKnown(word); });
+    // Blanks belong to some keywords, so that they separate only what leaves nothing open.
+    static const QRegularExpression ourMarks(QStringLiteral("[;|/+]"));
+    const bool isList =
+        words.size() > 1 && (known == words.size() || (known > 0 && entry.text.contains(ourMarks)));
+    if (isList && m_row.type != PxValueType::OneKeyword) {
+        findings.add("keyword-list-separator", entry.range,
+                     QStringLiteral("\"%1\" is one word, and no %2")
+                         .arg(PxMessageText::shortened(entry.text), name),
+                     asRead,
+                     m_row.type == PxValueType::Keyword
+                         ? QStringLiteral("keep the one that is meant")
+                         : QStringLiteral("separate with commas: \"%1\"")
+                               .arg(PxMessageText::shortened(words.join(QLatin1Char(',')))));
+        return;
+    }
+    const char *tag =
+        m_row.keywords == PxKeywordSet::Alignment ? "alignment-unknown" : "keyword-unknown";
+    findings.add(tag, entry.range,
+                 QStringLiteral("\"%1\" is no %2").arg(PxMessageText::shortened(entry.text), name),
+                 asRead,
+                 findings.isTold(tag, entry.range)
+                     ? PxSpelling::hint(entry.text, PxVocabulary::keywordNames(m_row.keywords))
+                     : QString());
+}
+
+/** An entry without a word adds the default, which matters where the default is something. */
+bool PxKeywordCheck::checkGap(PxFileFindings &findings) const
+{
+    const auto gap = std::find_if(m_list.parts.begin(), m_list.parts.end(),
+                                  [](const PxSourcePart &entry) { return entry.text.isEmpty(); });
+    if (gap == m_list.parts.end())
+        return false;
+    QStringList words;
+    for (const PxSourcePart &entry : m_list.parts) {
+        if (!entry.text.isEmpty())
+            words.append(entry.text);
+    }
+    const int without = PxVocabulary::decode(m_row.keywords, words.join(QLatin1Char(',')));
+    const int all = PxVocabulary::decode(m_row.keywords, m_attribute.value);
+    // Commas alone that stand for nothing are like a missing value that does.
+    const bool isMissing =
+        words.isEmpty() && all == 0 && m_row.defaultText &&
+        PxVocabulary::decode(m_row.keywords, QString::fromLatin1(m_row.defaultText)) == 0;
+    if (words.isEmpty() ? isMissing : all == without)
+        return false;
+    // The comma before it, or behind it when it is the first.
+    const int comma = gap == m_list.parts.begin() ? gap->whole.end : gap->whole.begin - 1;
+    findings.add("keyword-list-gap", {comma, comma + 1},
+                 QStringLiteral("an entry of \"%1\" is empty").arg(m_attribute.name),
+                 QStringLiteral("it adds %1")
+                     .arg(QString::fromUtf8(PxVocabulary::keywords(m_row.keywords).defaultText)),
+                 QStringLiteral("take the comma out"));
+    return true;
+}
+
+bool PxKeywordCheck::checkSeveral(PxFileFindings &findings) const
+{
+    if (m_row.type != PxValueType::Keyword)
+        return false;
+    QSet<int> values;
+    for (const PxSourcePart &entry : m_list.parts) {
+        if (!entry.text.isEmpty())
+            values.insert(PxVocabulary::decode(m_row.keywords, entry.text));
+    }
+    if (values.size() < 2)
+        return false;
+    findings.add(
+        "keyword-several", m_attribute.valueRange,
+        QStringLiteral("a product has one %1, and \"%2\" names %3")
+            .arg(QString::fromUtf8(PxVocabulary::keywords(m_row.keywords).name), m_attribute.name)
+            .arg(values.size()),
+        now(), QStringLiteral("keep the one that is meant"));
+    return true;
+}
+
+void PxKeywordCheck::checkRepeated(PxFileFindings &findings) const
+{
+    QSet<QString> words;
+    for (const PxSourcePart &entry : m_list.parts) {
+        const QString word = entry.text.toLower();
+        if (words.contains(word) && !word.isEmpty()) {
+            findings.add("keyword-repeated", entry.range,
+                         QStringLiteral("\"%1\" is in the list already")
+                             .arg(PxMessageText::shortened(entry.text)),
+                         QStringLiteral("it counts once"));
+            return;
+        }
+        words.insert(word);
+    }
+}
+
+bool PxKeywordCheck::isKnown(const QString &word) const
+{
+    return PxVocabulary::isKeyword(m_row.keywords, word);
+}
+
+QString PxKeywordCheck::now() const
+{
+    const QString answer = PxMissingValue::answer(m_element, m_row);
+    return QStringLiteral("read as %1")
+        .arg(answer.isEmpty() ? PxVocabulary::decoded(m_row.keywords, m_attribute.value) : answer);
+}

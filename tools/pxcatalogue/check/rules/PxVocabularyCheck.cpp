@@ -1,0 +1,278 @@
+#include "check/rules/PxVocabularyCheck.h"
+
+#include "check/design/PxDefaultsEntry.h"
+#include "check/rules/PxElementReading.h"
+#include "check/rules/PxMissingValue.h"
+#include "check/rules/PxValueCheck.h"
+#include "check/rules/PxVocabularySearch.h"
+#include "check/words/PxMessageText.h"
+#include "check/words/PxSpelling.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int maximumText = 1000; // letters of a text that is only quoted
+
+QString nameOf(const PxElementRow &row)
+{
+    return QLatin1String(row.name);
+}
+
+/** The name without its namespace prefix. */
+QString localName(const QString &name)
+{
+    return name.mid(name.indexOf(QLatin1Char(':')) + 1);
+}
+
+QString withoutPrefix(const QString &local)
+{
+    return QStringLiteral("names have no prefix here: \"%1\"").arg(local);
+}
+
+/** What XML itself, or a schema, has to say. */
+bool isOfXml(const QString &attribute)
+{
+    const QString prefix = attribute.section(QLatin1Char(':'), 0, 0);
+    return prefix == QLatin1String("xmlns") || prefix == QLatin1String("xml") ||
+           prefix == QLatin1String("xsi");
+}
+
+/** The row of the entries in a container of the same name; null for any other element. */
+const PxElementRow *entriesOfSameName(const PxElementRow &row)
+{
+    const bool isContainer =
+        row.children.size() == 1 && qstrcmp(row.children.begin()->name, row.name) == 0;
+    return isContainer ? row.children.begin() : nullptr;
+}
+
+/** A container that was taken for one of its entries: what it says is another check's matter. */
+bool isMeantAsEntry(const PxSourceElement &element, const PxElementRow &row)
+{
+    return entriesOfSameName(row) && PxDefaultsEntry::isEntry(element);
+}
+
+} // namespace
+
+void PxVocabularyCheck::run(PxFindings *findings) const
+{
+    const PxSourceElement *root = m_file.root();
+    if (!root || !isOfKind(*root))
+        return;
+    PxFileFindings ofFile(m_file, findings);
+    checkElement({*root, PxVocabulary::root(m_kind), nullptr, nullptr}, ofFile);
+}
+
+/** Whether anything is read from the file; when nothing is, that is told elsewhere. */
+bool PxVocabularyCheck::isOfKind(const PxSourceElement &root) const
+{
+    const QString name = nameOf(PxVocabulary::root(m_kind));
+    switch (m_kind) {
+    case PxFileKind::Product:
+        return root.firstChild(QStringLiteral("product"));
+    case PxFileKind::Theme:
+        return root.name.toLower() == name;
+    case PxFileKind::ProductTypes:
+        return root.name == name;
+    default:
+        return true;
+    }
+}
+
+void PxVocabularyCheck::checkElement(const Place &place, PxFileFindings &findings) const
+{
+    checkAttributes(place, findings);
+    checkText(place, findings);
+    checkChildren(place, findings);
+}
+
+void PxVocabularyCheck::checkAttributes(const Place &place, PxFileFindings &findings) const
+{
+    const PxValueCheck values(findings);
+    const PxElementRow *entry = entriesOfSameName(place.row);
+    for (const PxSourceAttribute &attribute : place.element.attributes) {
+        const PxAttributeRow *row = PxVocabulary::attribute(place.row, attribute.name);
+        if (row)
+            values.check(place.element, *row, attribute);
+        else if (!isOfXml(attribute.name) &&
+                 !(entry && PxVocabulary::attribute(*entry, attribute.name)))
+            addUnknownAttribute(place, attribute, findings);
+    }
+}
+
+void PxVocabularyCheck::addUnknownAttribute(const Place &place, const PxSourceAttribute &attribute,
+                                            PxFileFindings &findings) const
+{
+    constexpr const char *tag = "attribute-unknown";
+    const QString local = localName(attribute.name);
+    const bool hasPrefix = local != attribute.name;
+    const PxVocabularySearch search(PxVocabulary::root(m_kind), place.row, place.parent);
+    if (hasPrefix ? !PxVocabulary::attribute(place.row, local)
+                  : !place.parent && search.ownersOf(attribute.name).isEmpty())
+        return; // somebody else's, or a note about the file as a whole, as its version
+
+    const QString asText = place.row.text == PxTextKind::None
+                               ? QString()
+                               : PxElementReading(place.element, place.row).missingText().hint;
+    // Its neighbour was written in the same way: the first one tells it.
+    if (!asText.isEmpty() && place.before && place.before->name == place.element.name &&
+        !PxElementReading(*place.before, place.row).missingText().hint.isEmpty())
+        return;
+    if (!findings.isTold(tag, attribute.nameRange)) {
+        findings.add(tag, attribute.nameRange, QString());
+        return;
+    }
+    QString now;
+    QString hint;
+    const QStringList owners = search.ownersOf(attribute.name);
+    const QString meant = PxElementReading(place.element, place.row).meant(attribute.name);
+    // The same letters are a better guess than another element, and that one than other letters.
+    if (hasPrefix) {
+        hint = withoutPrefix(local);
+    } else if (!asText.isEmpty()) {
+        hint = asText;
+    } else if (!owners.isEmpty() && meant.compare(attribute.name, Qt::CaseInsensitive) != 0) {
+        hint = QStringLiteral("it is read on %1").arg(PxMessageText::quotedList(owners));
+    } else if (!meant.isEmpty()) {
+        hint = PxSpelling::didYouMean(meant);
+        now = PxMissingValue::text(place.element, *PxVocabulary::attribute(place.row, meant));
+    }
+    findings.add(tag, attribute.nameRange,
+                 QStringLiteral("\"%1\" is not read on \"%2\"")
+                     .arg(PxMessageText::shortened(attribute.name),
+                          PxMessageText::shortened(place.element.name)),
+                 now.isEmpty() ? QStringLiteral("it is passed over")
+                               : QStringLiteral("\"%1\" is missing: %2").arg(meant, now),
+                 hint);
+}
+
+void PxVocabularyCheck::checkText(const Place &place, PxFileFindings &findings) const
+{
+    if (place.row.text != PxTextKind::None)
+        return;
+    // There each piece of text counts as an element, which is worse and told elsewhere.
+    if (m_kind == PxFileKind::Theme &&
+        (!place.parent || place.element.name == QLatin1String("keyaccounts")))
+        return;
+    const QVector<PxSourceNode> &nodes = place.element.nodes;
+    const auto text = std::find_if(nodes.begin(), nodes.end(),
+                                   [](const PxSourceNode &node) { return node.isText(); });
+    if (text == nodes.end())
+        return;
+    const PxRows<PxElementRow> &children = place.row.children;
+    const bool isOfChild = children.size() == 1 && children.begin()->text != PxTextKind::None;
+    findings.add("text-not-read", text->range,
+                 QStringLiteral("the text \"%1\" is not read in \"%2\"")
+                     .arg(PxMessageText::shortened(text->text.left(maximumText).simplified()),
+                          PxMessageText::shortened(place.element.name)),
+                 QStringLiteral("it is passed over"),
+                 isOfChild
+                     ? QStringLiteral("put it into a \"%1\" element").arg(nameOf(*children.begin()))
+                     : QString());
+}
+
+void PxVocabularyCheck::checkChildren(const Place &place, PxFileFindings &findings) const
+{
+    QHash<QString, const PxSourceElement *> first;
+    bool isFlat = false;
+    const PxSourceElement *before = nullptr;
+    for (int i = 0; i < place.element.children.size(); ++i) {
+        const PxSourceElement *child = place.element.children.at(i);
+        const PxElementRow *row = PxVocabulary::child(place.row, child->name);
+        const PxSourceElement *neighbour = before;
+        before = child;
+        if (!row) {
+            addUnknownElement(place, i, findings);
+            continue;
+        }
+        isFlat = isFlat || isMeantAsEntry(*child, *row);
+        const bool isRepeated =
+            row->occurrence == PxOccurrence::First && first.contains(child->name);
+        if (!isRepeated) {
+            first.insert(child->name, child);
+            checkElement({*child, *row, &place.row, neighbour}, findings);
+        } else if (!isFlat || !entriesOfSameName(*row)) {
+            addRepeated(place, *child, *first.value(child->name), findings);
+        }
+    }
+}
+
+void PxVocabularyCheck::addRepeated(const Place &place, const PxSourceElement &child,
+                                    const PxSourceElement &first, PxFileFindings &findings) const
+{
+    const PxElementRow &row = *PxVocabulary::child(place.row, child.name);
+    QString hint = QStringLiteral("keep the one that is meant");
+    if (!place.parent && row.children.size() > 1)
+        hint = QStringLiteral("give each \"%1\" a file of its own").arg(child.name);
+    else if (!row.children.isEmpty())
+        hint = QStringLiteral("move what it holds into the first one");
+    findings.add("element-repeated", child.nameRange,
+                 QStringLiteral("another \"%1\" in \"%2\"").arg(child.name, place.element.name),
+                 QStringLiteral("only the first one is read, in %1")
+                     .arg(PxMessageText::line(m_file, first.nameRange)),
+                 hint);
+}
+
+void PxVocabularyCheck::addUnknownElement(const Place &place, int index,
+                                          PxFileFindings &findings) const
+{
+    const PxSourceElement &child = *place.element.children.at(index);
+    const QString local = localName(child.name);
+    const bool hasPrefix = local != child.name;
+    if (hasPrefix && !PxVocabulary::child(place.row, local))
+        return; // somebody else's
+    const QString now =
+        place.row.text == PxTextKind::None
+            ? QStringLiteral("nothing in it is read")
+            : QStringLiteral("its text counts as text of \"%1\"").arg(place.element.name);
+    const PxVocabularySearch search(PxVocabulary::root(m_kind), place.row, place.parent);
+    const PxElementRow *owner = hasPrefix ? nullptr : search.parentOf(child.name);
+    if (owner) {
+        addMisplaced(place, index, *owner, now, findings);
+        return;
+    }
+    constexpr const char *tag = "element-unknown";
+    if (!findings.isTold(tag, child.nameRange)) {
+        findings.add(tag, child.nameRange, QString());
+        return;
+    }
+    QString hint = hasPrefix ? withoutPrefix(local)
+                             : PxSpelling::hint(local, PxVocabulary::childNames(place.row));
+    if (hint.isEmpty())
+        hint = PxSpelling::hint(local, search.elementNames());
+    findings.add(tag, child.nameRange,
+                 QStringLiteral("\"%1\" is not read in \"%2\"")
+                     .arg(PxMessageText::shortened(child.name),
+                          PxMessageText::shortened(place.element.name)),
+                 now, hint);
+}
+
+/** Once for all that stand there in a row: they lack the same container. */
+void PxVocabularyCheck::addMisplaced(const Place &place, int index, const PxElementRow &owner,
+                                     const QString &now, PxFileFindings &findings) const
+{
+    const QVector<const PxSourceElement *> &siblings = place.element.children;
+    const PxSourceElement &child = *siblings.at(index);
+    if (index > 0 && siblings.at(index - 1)->name == child.name)
+        return;
+    const auto end =
+        std::find_if(siblings.begin() + index, siblings.end(),
+                     [&](const PxSourceElement *sibling) { return sibling->name != child.name; });
+    const int count = int(end - siblings.begin()) - index;
+    const QString into = &owner == &PxVocabulary::root(m_kind)
+                             ? QStringLiteral("the document element")
+                             : PxMessageText::quoted(nameOf(owner));
+    const QString what = count == 1 ? QStringLiteral("it") : QStringLiteral("them");
+    findings.add("element-misplaced", child.nameRange,
+                 count == 1 ? QStringLiteral("\"%1\" directly below \"%2\" is not read")
+                                  .arg(child.name, place.element.name)
+                            : QStringLiteral("%1 \"%2\" directly below \"%3\" are not read")
+                                  .arg(count)
+                                  .arg(child.name, place.element.name),
+                 now,
+                 (&owner == place.parent ? QStringLiteral("move %1 out, into %2")
+                                         : QStringLiteral("put %1 into %2"))
+                     .arg(what, into));
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "check/source/PxCheckedFile.h"
+
+#include <PxProductType.h>
+#include <description/PxProductTypeDescription.h>
+
+/** The product of a product file: its element, and what the library makes of it. */
+class PxCheckedProduct
+{
+public:
+    /** The file has been read and has a product element. It must outlive the product. */
+    PxCheckedProduct(const PxCheckedFile &file, bool isLegacy);
+
+    const PxCheckedFile &file() const { return m_file; }
+    const PxSourceElement &element() const { return m_element; }
+    PxProductType type() const { return m_type; }
+    const PxProductTypeDescription &description() const { return m_description; }
+    /** Lies in the directory of older products. */
+    bool isLegacy() const { return m_isLegacy; }
+
+    void add(PxFindings *findings, const char *tag, const PxSourceRange &range,
+             const QString &message, const QString &now = QString(),
+             const QString &hint = QString()) const
+    {
+        m_file.add(findings, tag, range, message, now, hint);
+    }
+
+private:
+    const PxCheckedFile &m_file;
+    const PxSourceElement &m_element;
+    PxProductType m_type;
+    PxProductTypeDescription m_description;
+    bool m_isLegacy;
+};

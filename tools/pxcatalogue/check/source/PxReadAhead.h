@@ -1,0 +1,53 @@
+#pragma once
+
+#include "check/source/PxCheckedFile.h"
+
+#include <array>
+#include <condition_variable>
+#include <future>
+#include <mutex>
+
+/**
+ * Reads files in a thread of its own, a few ahead of the one that is looked at, and destroys there
+ * those whose place is needed again.
+ *
+ * Reading takes about as long as checking. Checks themselves run in one thread: some count what
+ * they have done so far, and findings shall not depend on who was first.
+ */
+class PxReadAhead
+{
+public:
+    explicit PxReadAhead(const QStringList &paths);
+    ~PxReadAhead();
+    Q_DISABLE_COPY(PxReadAhead)
+
+    /**
+     * The next file in the order of the paths; to be asked once for each of them. The one before
+     * may be gone then.
+     */
+    const PxCheckedFile &next();
+
+private:
+    // Enough to make up for files of different sizes; a large one takes much memory.
+    static constexpr int maximumAhead = 4;
+
+    void read();
+    std::unique_ptr<PxCheckedFile> &slot(int index)
+    {
+        return m_files[std::size_t(index % maximumAhead)];
+    }
+    template <typename Change>
+    void change(Change change);
+    template <typename Condition>
+    void wait(Condition isMet);
+
+    const QStringList m_paths;
+    std::array<std::unique_ptr<PxCheckedFile>, maximumAhead> m_files;
+    int m_askedCount = 0;
+    std::mutex m_mutex; // of the next four
+    std::condition_variable m_changed;
+    int m_readCount = 0;
+    int m_doneCount = 0;
+    bool m_isCancelled = false;
+    std::future<void> m_reader; // the last member: all others outlive the thread
+};

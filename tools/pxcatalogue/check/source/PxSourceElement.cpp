@@ -1,0 +1,54 @@
+#include "check/source/PxSourceElement.h"
+
+#include <algorithm>
+
+const PxSourceAttribute *PxSourceElement::attribute(const QString &attributeName) const
+{
+    const auto found =
+        std::find_if(attributes.begin(), attributes.end(),
+                     [&](const PxSourceAttribute &a) { return a.name == attributeName; });
+    return found == attributes.end() ? nullptr : found;
+}
+
+QString PxSourceElement::value(const QString &attributeName) const
+{
+    const PxSourceAttribute *found = attribute(attributeName);
+    return found ? found->value : QString();
+}
+
+PxSourceRange PxSourceElement::rangeOf(const QString &attributeName) const
+{
+    const PxSourceAttribute *found = attribute(attributeName);
+    return found ? found->valueRange : nameRange;
+}
+
+const PxSourceElement *PxSourceElement::firstChild(const QString &childName) const
+{
+    const auto found =
+        std::find_if(children.begin(), children.end(),
+                     [&](const PxSourceElement *child) { return child->name == childName; });
+    return found == children.end() ? nullptr : *found;
+}
+
+QVector<const PxSourceElement *> PxSourceElement::childrenNamed(const QString &childName) const
+{
+    QVector<const PxSourceElement *> named;
+    std::copy_if(children.begin(), children.end(), std::back_inserter(named),
+                 [&](const PxSourceElement *child) { return child->name == childName; });
+    return named;
+}
+
+PxSourceRange PxSourceElement::textRange() const
+{
+    PxSourceRange all = nameRange;
+    bool isFirst = true;
+    for (const PxSourceNode &node : nodes) {
+        if (!node.isText())
+            continue;
+        if (isFirst)
+            all.begin = node.range.begin;
+        all.end = node.range.end;
+        isFirst = false;
+    }
+    return all;
+}

@@ -1,0 +1,23 @@
+#include "check/words/PxKnownNames.h"
+
+#include "check/words/PxSpelling.h"
+
+#include <algorithm>
+
+PxKnownNames::PxKnownNames(const QStringList &names) : m_names(names)
+{
+    m_names.sort();
+}
+
+bool PxKnownNames::contains(const QString &name) const
+{
+    return std::binary_search(m_names.begin(), m_names.end(), name);
+}
+
+QString PxKnownNames::hint(const QString &name)
+{
+    // Names that are compared are about as long as each other.
+    const qint64 length = qMin(name.size(), PxSpelling::maximumLength);
+    m_compared += qMax<qint64>(1, length * length) * m_names.size();
+    return m_compared <= maximumCompared ? PxSpelling::hint(name, m_names) : QString();
+}

@@ -1,0 +1,44 @@
+#include "check/words/PxListedProductTypes.h"
+
+#include <PxDirectoryConfig.h>
+#include <PxXMLLoader.h>
+
+#include <algorithm>
+
+PxListedProductTypes &PxListedProductTypes::instance()
+{
+    static PxListedProductTypes ourTypes;
+    return ourTypes;
+}
+
+PxListedProductTypes::PxListedProductTypes()
+{
+    const QDomElement catalogue = PxXMLLoader::loadDocumentElement(
+        PxDirectoryConfig::instance()->resource(QStringLiteral("producttypes.xml"), false));
+    const QString tag = QStringLiteral("producttype");
+    for (QDomElement row = catalogue.firstChildElement(); !row.isNull();
+         row = row.nextSiblingElement()) {
+        const QString name = row.attribute(QStringLiteral("name"));
+        m_keys.insert(key(name));
+        if (name.isEmpty())
+            addKeysOf(row);
+        const PxProductType type(name);
+        if (row.tagName() == tag && type.isValid())
+            m_types.append(type);
+    }
+    // A name that stands there twice is the same type both times.
+    std::sort(m_types.begin(), m_types.end());
+    m_types.erase(std::unique(m_types.begin(), m_types.end()), m_types.end());
+    QStringList names;
+    for (const PxProductType &type : qAsConst(m_types))
+        names.append(type.productName());
+    m_names = PxKnownNames(names);
+}
+
+/** The name may stand in any attribute, when that of the name is misspelt. */
+void PxListedProductTypes::addKeysOf(const QDomElement &row)
+{
+    const QDomNamedNodeMap attributes = row.attributes();
+    for (int i = 0; i < attributes.size(); ++i)
+        m_keys.insert(key(attributes.item(i).nodeValue()));
+}

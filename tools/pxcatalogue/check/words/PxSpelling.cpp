@@ -1,0 +1,51 @@
+#include "check/words/PxSpelling.h"
+
+#include "check/words/PxEditDistance.h"
+
+#include <QRegularExpression>
+
+#include <cstdlib>
+
+QString PxSpelling::nearest(const QString &word, const QStringList &candidates)
+{
+    const QString wanted = word.trimmed().toUpper();
+    if (wanted.isEmpty() || wanted.size() > maximumLength)
+        return QString();
+    int best = wanted.size() / 3 + 1; // a third of the letters may be wrong
+    QString nearest;
+    for (const QString &candidate : candidates) {
+        if (std::abs(candidate.size() - wanted.size()) > best || candidate.size() > maximumLength)
+            continue;
+        const int distance = PxEditDistance::between(wanted, candidate.toUpper(),
+                                                     PxEditDistance::Swap::IsOneChange, best);
+        if (distance < best || (distance == best && !nearest.isEmpty() && candidate < nearest)) {
+            best = distance;
+            nearest = candidate;
+        }
+    }
+    return nearest;
+}
+
+QString PxSpelling::hint(const QString &word, const QStringList &candidates)
+{
+    const QString name = nearest(word, candidates);
+    return name.isEmpty() ? QString() : didYouMean(name);
+}
+
+bool PxSpelling::isNear(const QString &word, const QString &name)
+{
+    return !nearest(word, {name}).isEmpty();
+}
+
+QString PxSpelling::didYouMean(const QString &name)
+{
+    return QStringLiteral("did you mean \"%1\"?").arg(name);
+}
+
+QStringList PxSpelling::words(const QString &list)
+{
+    static const QRegularExpression ourSeparators(QStringLiteral("[;|/+\\s]+"));
+    if (list.size() > maximumList)
+        return {list};
+    return list.split(ourSeparators, Qt::SkipEmptyParts);
+}

@@ -1,0 +1,94 @@
+#include "report/PxReport.h"
+
+#include "writing/PxTerminal.h"
+
+namespace {
+
+constexpr int formatVersion = 1; // a new member keeps it, any other change of JSON raises it
+constexpr int labelWidth = 22;   // one width for all sections, so that the values stand in a line
+
+PxTextTable::Kind kindOf(PxReportFormat format)
+{
+    switch (format) {
+    case PxReportFormat::Key:
+        return PxTextTable::Kind::Key;
+    case PxReportFormat::Plain:
+    case PxReportFormat::Name:
+    case PxReportFormat::PageNumbers:
+        return PxTextTable::Kind::Text;
+    default:
+        return PxTextTable::Kind::Number;
+    }
+}
+
+} // namespace
+
+void PxReport::addFields(const char *key, const char *heading, const QVector<Field> &fields)
+{
+    QJsonObject json;
+    PxTextTable table;
+    table.addColumn(QString(), PxTextTable::Kind::Key);
+    table.addColumn(QString(), PxTextTable::Kind::Text);
+    for (const Field &field : fields) {
+        json.insert(QLatin1String(field.key), field.value);
+        const QString text = PxReportValue::text(field.value, field.format);
+        if (text.isEmpty())
+            continue;
+        table.addRow({QString::fromUtf8(field.label).leftJustified(labelWidth),
+                      text + PxReportValue::unit(field.format)});
+    }
+    m_json.insert(QLatin1String(key), json);
+    m_sections.append({QString::fromUtf8(heading), table});
+}
+
+void PxReport::addTable(const char *key, const char *heading, const QVector<Column> &columns,
+                        const QVector<QJsonArray> &rows)
+{
+    PxTextTable table;
+    for (const Column &column : columns) {
+        if (column.format != PxReportFormat::JsonOnly)
+            table.addColumn(QString::fromUtf8(column.label) + PxReportValue::unit(column.format),
+                            kindOf(column.format));
+    }
+    QJsonArray json;
+    for (const QJsonArray &row : rows) {
+        QJsonObject object;
+        QStringList texts;
+        for (int i = 0; i < columns.size(); ++i) {
+            object.insert(QLatin1String(columns[i].key), row[i]);
+            if (columns[i].format != PxReportFormat::JsonOnly)
+                texts.append(PxReportValue::text(row[i], columns[i].format));
+        }
+        json.append(object);
+        table.addRow(texts);
+    }
+    m_json.insert(QLatin1String(key), json);
+    m_sections.append({QString::fromUtf8(heading), table});
+}
+
+QJsonObject PxReport::json() const
+{
+    QJsonObject json = m_json;
+    json.insert(QStringLiteral("format"), formatVersion);
+    json.insert(QStringLiteral("lengthUnit"), QStringLiteral("tenths of a millimetre"));
+    return json;
+}
+
+PxOutputText PxReport::text(int width) const
+{
+    PxOutputText text;
+    bool isFirst = true;
+    for (const Section &section : m_sections) {
+        if (section.table.isEmpty())
+            continue;
+        const QString indent = section.heading.isEmpty() ? QString() : QStringLiteral("  ");
+        if (!isFirst)
+            text.addLine(QString());
+        isFirst = false;
+        if (!section.heading.isEmpty())
+            text.addLine(PxTerminal::shortened(section.heading, width));
+        for (const QString &line : section.table.lines(width - indent.size()))
+            text.addLine(PxTerminal::shortened(indent + line, width));
+    }
+    return text;
+}

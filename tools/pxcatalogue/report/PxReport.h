@@ -1,0 +1,51 @@
+#pragma once
+
+#include "report/PxReportValue.h"
+#include "report/PxTextTable.h"
+#include "writing/PxOutputText.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+/**
+ * What a command answers: sections of single values and of tables, for people and as JSON.
+ *
+ * Both come from the same values. What a product does not have, an empty text, list or table, is
+ * left out of the text; in JSON it is there and empty.
+ */
+class PxReport
+{
+public:
+    struct Field
+    {
+        const char *key;
+        const char *label;
+        QJsonValue value;
+        PxReportFormat format = PxReportFormat::Plain;
+    };
+    struct Column
+    {
+        const char *key;
+        const char *label;
+        PxReportFormat format = PxReportFormat::Plain;
+    };
+
+    /** In JSON a member that is an object. */
+    void addFields(const char *key, const char *heading, const QVector<Field> &fields);
+    /** In JSON a member that is an array of objects. A row has one value for each column. */
+    void addTable(const char *key, const char *heading, const QVector<Column> &columns,
+                  const QVector<QJsonArray> &rows);
+
+    QJsonObject json() const;
+    PxOutputText text(int width) const;
+
+private:
+    struct Section
+    {
+        QString heading;
+        PxTextTable table;
+    };
+
+    QJsonObject m_json;
+    QVector<Section> m_sections;
+};

@@ -1,0 +1,211 @@
+#include "report/PxReportValue.h"
+
+#include <geometry/PxMargins.h>
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QRect>
+#include <QStringList>
+
+#include <initializer_list>
+
+namespace {
+
+QString lengthText(const QJsonValue &tenths)
+{
+    const auto value = qint64(tenths.toDouble()); // an int holds all but the largest sums
+    return QString::number(double(value) / 10.0, 'f', value % 10 == 0 ? 0 : 1);
+}
+
+QString sizeText(const QJsonValue &size)
+{
+    return lengthText(size[u"width"]) + QStringLiteral("×") + lengthText(size[u"height"]);
+}
+
+QString marginsText(const QJsonValue &margins)
+{
+    QStringList sides;
+    for (const char *side : {"top", "bottom", "left", "right"})
+        sides.append(lengthText(margins[QLatin1String(side)]));
+    const bool areEqual = sides.count(sides.constFirst()) == sides.size();
+    return areEqual ? sides.constFirst() : sides.join(QLatin1Char('/'));
+}
+
+QString pageCountsText(const QJsonValue &counts)
+{
+    const int minimum = counts[u"minimum"].toInt();
+    const int maximum = counts[u"maximum"].toInt();
+    if (minimum == maximum)
+        return QString::number(minimum);
+    if (counts[u"increment"].isNull())
+        return QStringLiteral("%1, %2").arg(minimum).arg(maximum);
+    return QStringLiteral("%1-%2/%3").arg(minimum).arg(maximum).arg(counts[u"increment"].toInt());
+}
+
+/**
+ * The index behind a run of neighbours, or of every second number, that begins at `first`. Numbers
+ * below 0 are in none: "-3--1" would be hard to read.
+ */
+int endOfRun(const QJsonArray &numbers, int first)
+{
+    int end = first + 1;
+    const auto stepTo = [&numbers](int i) {
+        return qint64(numbers[i].toInt()) - numbers[i - 1].toInt();
+    };
+    if (end == numbers.size() || numbers[first].toInt() < 0 ||
+        (stepTo(end) != 1 && stepTo(end) != 2))
+        return end;
+    const qint64 step = stepTo(end);
+    while (end < numbers.size() && stepTo(end) == step)
+        ++end;
+    return end;
+}
+
+QString pageNumbersText(const QJsonArray &numbers)
+{
+    QStringList parts;
+    for (int first = 0; first < numbers.size();) {
+        const int end = endOfRun(numbers, first);
+        const int number = numbers[first].toInt();
+        const int last = numbers[end - 1].toInt();
+        if (end - first < 3) {
+            parts.append(QString::number(number));
+            ++first;
+            continue;
+        }
+        const QString run =
+            QStringLiteral("%1-%2").arg(QString::number(number), QString::number(last));
+        parts.append(last - number == end - first - 1 ? run : run + QLatin1String("/2"));
+        first = end;
+    }
+    return parts.join(QLatin1String(", "));
+}
+
+QString plainText(const QJsonValue &value)
+{
+    switch (value.type()) {
+    case QJsonValue::Bool:
+        return value.toBool() ? QStringLiteral("yes") : QStringLiteral("no");
+    case QJsonValue::Double:
+        return QString::number(value.toDouble());
+    case QJsonValue::Array: {
+        QStringList parts;
+        for (const auto &part : value.toArray())
+            parts.append(plainText(part));
+        return parts.join(QLatin1String(", "));
+    }
+    default:
+        return value.toString();
+    }
+}
+
+QJsonObject object(std::initializer_list<QPair<const char *, int>> members)
+{
+    QJsonObject object;
+    for (const auto &[key, value] : members)
+        object.insert(QLatin1String(key), value);
+    return object;
+}
+
+} // namespace
+
+QJsonValue PxReportValue::size(const QSizeF &size)
+{
+    if (!size.isValid())
+        return QJsonValue();
+    return QJsonObject{{QStringLiteral("width"), qRound64(size.width())},
+                       {QStringLiteral("height"), qRound64(size.height())}};
+}
+
+QJsonValue PxReportValue::rect(const QRect &rect)
+{
+    return object(
+        {{"x", rect.x()}, {"y", rect.y()}, {"width", rect.width()}, {"height", rect.height()}});
+}
+
+QJsonValue PxReportValue::margins(const PxMargins &margins)
+{
+    return object({{"top", margins.top()},
+                   {"bottom", margins.bottom()},
+                   {"left", margins.left()},
+                   {"right", margins.right()}});
+}
+
+QJsonValue PxReportValue::name(const QString &keyword, const QString &displayName)
+{
+    if (keyword.isEmpty())
+        return QJsonValue();
+    return QJsonObject{{QStringLiteral("keyword"), keyword}, {QStringLiteral("name"), displayName}};
+}
+
+QJsonValue PxReportValue::pageCounts(const QList<int> &offered, int increment)
+{
+    if (offered.isEmpty())
+        return QJsonValue();
+    const QJsonValue step = offered.size() == 1   ? QJsonValue(0)
+                            : offered.size() == 2 ? QJsonValue()
+                                                  : QJsonValue(increment);
+    return QJsonObject{{QStringLiteral("minimum"), offered.constFirst()},
+                       {QStringLiteral("maximum"), offered.constLast()},
+                       {QStringLiteral("increment"), step}};
+}
+
+QJsonValue PxReportValue::numbers(const QList<int> &numbers)
+{
+    QJsonArray array;
+    for (int number : numbers)
+        array.append(number);
+    return array;
+}
+
+QString PxReportValue::text(const QJsonValue &value, PxReportFormat format)
+{
+    if (value.isNull())
+        return QString();
+    switch (format) {
+    case PxReportFormat::Name:
+        return value[u"name"].toString().isEmpty() ? value[u"keyword"].toString()
+                                                   : value[u"name"].toString();
+    case PxReportFormat::Length:
+        return lengthText(value);
+    case PxReportFormat::Size:
+        return sizeText(value);
+    case PxReportFormat::Pixels:
+        return QStringLiteral("%1×%2").arg(value[u"width"].toInt()).arg(value[u"height"].toInt());
+    case PxReportFormat::Margins:
+        return marginsText(value);
+    case PxReportFormat::Rect:
+        return QStringLiteral("%1 at %2, %3")
+            .arg(sizeText(value), lengthText(value[u"x"]), lengthText(value[u"y"]));
+    case PxReportFormat::Area:
+        return QString::number(value.toInt() / 10000.0, 'f', 0);
+    case PxReportFormat::PageCounts:
+        return pageCountsText(value);
+    case PxReportFormat::PageNumbers:
+        return pageNumbersText(value.toArray());
+    case PxReportFormat::CountOrAll:
+        return value.toArray().isEmpty() ? QStringLiteral("all")
+                                         : QString::number(value.toArray().size());
+    default:
+        return plainText(value);
+    }
+}
+
+QString PxReportValue::unit(PxReportFormat format)
+{
+    switch (format) {
+    case PxReportFormat::Length:
+    case PxReportFormat::Size:
+    case PxReportFormat::Margins:
+    case PxReportFormat::Rect:
+        return QStringLiteral(" mm");
+    case PxReportFormat::Area:
+        return QStringLiteral(" cm²");
+    case PxReportFormat::Points:
+        return QStringLiteral(" pt");
+    case PxReportFormat::Pixels:
+        return QStringLiteral(" px");
+    default:
+        return QString();
+    }
+}

@@ -1,6 +1,0 @@
-#pragma once
-
-#include "vocabulary/PxVocabularyRows.h"
-
-/** All keyword tables, in the order of the documentation. */
-PxRows<PxKeywordSetRow> keywordSetRows();
