@@ -1,6 +1,6 @@
 #pragma once
 
-#include "format/PxVocabularyRows.h"
+#include "format/PxFormatRows.h"
 
 /** All keyword tables, in the order of the documentation. */
 PxRows<PxKeywordSetRow> keywordSetRows();

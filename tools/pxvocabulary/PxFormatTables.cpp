@@ -1,7 +1,7 @@
 #include "PxFormatTables.h"
 
+#include "format/PxFormat.h"
 #include "format/PxKeywordRows.h"
-#include "format/PxVocabulary.h"
 
 #include <QMap>
 #include <QVector>
@@ -51,14 +51,14 @@ QString code(const char *name)
 
 const PxElementRow &at(Kind kind, const char *path)
 {
-    return *PxVocabulary::find(kind, QLatin1String(path));
+    return *PxFormat::find(kind, QLatin1String(path));
 }
 
 Line attributeLine(const PxAttributeRow &row, const QString &names)
 {
     Line line;
     line.attribute = names;
-    line.type = PxVocabulary::typeName(row);
+    line.type = PxFormat::typeName(row);
     line.absent = QString::fromUtf8(row.absent);
     line.meaning = QString::fromUtf8(row.meaning);
     return line;
@@ -125,7 +125,7 @@ Lines childLines(const PxElementRow &parent)
 Lines keywordLines(PxKeywordSet set)
 {
     Lines lines;
-    for (const PxKeywordTableRow &row : PxVocabulary::keywords(set).keywords) {
+    for (const PxKeywordTableRow &row : PxFormat::keywords(set).keywords) {
         if (!row.meaning) {
             lines.last().keyword += QStringLiteral(", ") + code(row.keyword);
             continue;
@@ -257,7 +257,7 @@ void addKeywordTables(QMap<QString, QStringList> *tables)
         {PxKeywordSet::Material, {keyword, {"Display name", &Line::meaning}}},
     };
     for (const auto &row : rows)
-        tables->insert(QLatin1String(PxVocabulary::keywords(row.set).name) + " keywords",
+        tables->insert(QLatin1String(PxFormat::keywords(row.set).name) + " keywords",
                        table(row.columns, keywordLines(row.set)));
 }
 

@@ -1,6 +1,6 @@
 #include "PxSchemaTypes.h"
 
-#include "format/PxVocabulary.h"
+#include "format/PxFormat.h"
 
 #include <QXmlStreamWriter>
 
@@ -83,8 +83,8 @@ QString PxSchemaTypes::typesOf(const PxAttributeRow &attribute)
         attribute.type == PxValueType::KeywordList ? keywordList(set) : keyword(set);
     // Empty is as good as absent, unless the library reads it as something else.
     const bool mayBeEmpty = attribute.defaultText &&
-                            PxVocabulary::decode(set, QString()) ==
-                                PxVocabulary::decode(set, QString::fromUtf8(attribute.defaultText));
+                            PxFormat::decode(set, QString()) ==
+                                PxFormat::decode(set, QString::fromUtf8(attribute.defaultText));
     return mayBeEmpty ? type + QLatin1Char(' ') + pattern("empty", "\\s*") : type;
 }
 
@@ -120,8 +120,8 @@ QString PxSchemaTypes::integer()
 
 QString PxSchemaTypes::keyword(PxKeywordSet set)
 {
-    const QString name = QString::fromUtf8(PxVocabulary::keywords(set).name)
-                             .replace(QLatin1Char(' '), QLatin1Char('-'));
+    const QString name =
+        QString::fromUtf8(PxFormat::keywords(set).name).replace(QLatin1Char(' '), QLatin1Char('-'));
     m_keywords.insert(name, set);
     return name;
 }
@@ -129,7 +129,7 @@ QString PxSchemaTypes::keyword(PxKeywordSet set)
 QString PxSchemaTypes::keywordList(PxKeywordSet set)
 {
     const QString name = keyword(set);
-    return pattern(name + QStringLiteral("-list"), listOf(oneOf(PxVocabulary::keywordNames(set))),
+    return pattern(name + QStringLiteral("-list"), listOf(oneOf(PxFormat::keywordNames(set))),
                    name);
 }
 
@@ -169,7 +169,7 @@ void PxSchemaTypes::writeKeyword(QXmlStreamWriter *xml, PxKeywordSet set) const
     xml->writeStartElement("xs:restriction");
     xml->writeAttribute("base", "xs:string");
     QString synonym;
-    for (const PxKeywordTableRow &row : PxVocabulary::keywords(set).keywords) {
+    for (const PxKeywordTableRow &row : PxFormat::keywords(set).keywords) {
         if (row.meaning)
             synonym = QString::fromUtf8(row.keyword);
         xml->writeStartElement("xs:enumeration");
@@ -186,7 +186,7 @@ void PxSchemaTypes::writeKeyword(QXmlStreamWriter *xml, PxKeywordSet set) const
     if (!isExact) {
         xml->writeEndElement();
         xml->writeStartElement("xs:simpleType");
-        writePattern(xml, oneOf(PxVocabulary::keywordNames(set)));
+        writePattern(xml, oneOf(PxFormat::keywordNames(set)));
         xml->writeEndElement();
         xml->writeEndElement();
     }

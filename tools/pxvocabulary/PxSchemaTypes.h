@@ -1,6 +1,6 @@
 #pragma once
 
-#include "format/PxVocabularyRows.h"
+#include "format/PxFormatRows.h"
 
 #include <QMap>
 #include <QStringList>

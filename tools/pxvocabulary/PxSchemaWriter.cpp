@@ -1,6 +1,6 @@
 #include "PxSchemaWriter.h"
 
-#include "format/PxVocabulary.h"
+#include "format/PxFormat.h"
 
 #include <QRegularExpression>
 
@@ -12,9 +12,9 @@ namespace {
 QString plain(const char *markdown)
 {
     static const QRegularExpression ourReference(QStringLiteral("see \\[[^]]*\\]\\([^)]*\\)"));
-    return PxVocabulary::plainText(QString::fromUtf8(markdown)
-                                       .replace(ourReference, QStringLiteral("see file-format.md"))
-                                       .remove(QLatin1Char('`')));
+    return PxFormat::plainText(QString::fromUtf8(markdown)
+                                   .replace(ourReference, QStringLiteral("see file-format.md"))
+                                   .remove(QLatin1Char('`')));
 }
 
 QString sentence(const char *subject, const QString &text)
@@ -37,7 +37,7 @@ void PxSchemaWriter::write(PxFileKind kind)
     m_xml.writeComment(" Written by pxvocabulary: change the vocabulary, not this file. ");
     m_xml.writeStartElement("xs:schema");
     m_xml.writeAttribute("xmlns:xs", "http://www.w3.org/2001/XMLSchema");
-    writeElement(PxVocabulary::root(kind), false);
+    writeElement(PxFormat::root(kind), false);
     m_types.write(&m_xml);
     m_xml.writeEndDocument();
 }
@@ -98,7 +98,7 @@ void PxSchemaWriter::writeAttribute(const PxAttributeRow &row, const QString &me
         m_xml.writeAttribute("type", types);
     if (row.defaultText && *row.defaultText)
         m_xml.writeAttribute("default", QString::fromUtf8(row.defaultText));
-    writeDocumentation(meaning + sentence("Type", plain(PxVocabulary::typeName(row).toUtf8())) +
+    writeDocumentation(meaning + sentence("Type", plain(PxFormat::typeName(row).toUtf8())) +
                        sentence("Absent or unreadable", plain(row.absent)));
     if (isUnion) {
         m_xml.writeStartElement("xs:simpleType");

@@ -5,7 +5,7 @@
 #include "check/design/PxDesignCheck.h"
 #include "check/layout/PxLayoutCheck.h"
 #include "check/product/PxProductCheck.h"
-#include "check/rules/PxVocabularyCheck.h"
+#include "check/rules/PxFormatCheck.h"
 #include "check/source/PxReadAhead.h"
 #include "check/themes/PxThemeCheck.h"
 #include "check/words/PxSpelling.h"
@@ -108,7 +108,7 @@ bool PxCheck::checkFiles(const QStringList &paths, PxFileKind kind, PxFindings *
         isEveryRead = isEveryRead && file.isRead();
         if (!file.isRead())
             continue;
-        PxVocabularyCheck(file, kind).run(findings);
+        PxFormatCheck(file, kind).run(findings);
         checkFile(file);
     }
     return isEveryRead;

@@ -2,7 +2,7 @@
 
 #include "check/catalogue/PxCheckPaths.h"
 #include "check/findings/PxFindings.h"
-#include "format/PxVocabularyRows.h"
+#include "format/PxFormatRows.h"
 
 class PxCatalogueCheck;
 class PxCheckedFile;

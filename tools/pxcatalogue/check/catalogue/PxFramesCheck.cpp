@@ -2,7 +2,7 @@
 
 #include "check/rules/PxElementReading.h"
 #include "check/words/PxMessageText.h"
-#include "format/PxVocabulary.h"
+#include "format/PxFormat.h"
 
 #include <QMap>
 
@@ -19,7 +19,7 @@ bool isAscii(const QString &text)
 
 void PxFramesCheck::run(PxFindings *findings) const
 {
-    const PxElementRow &row = *PxVocabulary::find(PxFileKind::Frames, QStringLiteral("frame"));
+    const PxElementRow &row = *PxFormat::find(PxFileKind::Frames, QStringLiteral("frame"));
     QMap<QString, const PxSourceElement *> frames; // by id
     for (const PxSourceElement *frame : m_file.root()->childrenNamed(QStringLiteral("frame"))) {
         const QString id = frame->value(QStringLiteral("id"));

@@ -3,7 +3,7 @@
 #include "check/rules/PxElementReading.h"
 #include "check/words/PxMessageText.h"
 #include "check/words/PxSpelling.h"
-#include "format/PxVocabulary.h"
+#include "format/PxFormat.h"
 
 #include <PxXMLParser.h>
 
@@ -14,7 +14,7 @@ namespace {
 PxElementReading readingOf(const PxSourceElement &row)
 {
     return PxElementReading(
-        row, *PxVocabulary::find(PxFileKind::ProductTypes, QStringLiteral("producttype")));
+        row, *PxFormat::find(PxFileKind::ProductTypes, QStringLiteral("producttype")));
 }
 
 } // namespace
@@ -73,8 +73,8 @@ void PxProductTypesCheck::checkRow(const PxSourceElement &row, PxFindings *findi
         drop(row, "name",
              QStringLiteral("%1 the name \"%2\", too").arg(earlier(m_rowOfName.value(key)), name),
              findings);
-    } else if (PxVocabulary::decode(PxKeywordSet::ProductClass,
-                                    row.value(QStringLiteral("class"))) == PxProductClassUnknown) {
+    } else if (PxFormat::decode(PxKeywordSet::ProductClass, row.value(QStringLiteral("class"))) ==
+               PxProductClassUnknown) {
         dropClass(row, findings);
     } else {
         m_rowOfCode.insert(code, &row);
@@ -96,7 +96,7 @@ void PxProductTypesCheck::drop(const PxSourceElement &row, const char *attribute
 void PxProductTypesCheck::dropClass(const PxSourceElement &row, PxFindings *findings) const
 {
     const QString text = row.value(QStringLiteral("class"));
-    const QStringList classes = PxVocabulary::keywordNames(PxKeywordSet::ProductClass);
+    const QStringList classes = PxFormat::keywordNames(PxKeywordSet::ProductClass);
     drop(row, "class",
          text.trimmed().isEmpty() ? QStringLiteral("the product type has no \"class\"")
                                   : QStringLiteral("\"%1\" is no product class").arg(text),

@@ -3,7 +3,7 @@
 #include "check/rules/PxElementReading.h"
 #include "check/words/PxMessageText.h"
 #include "check/words/PxSpelling.h"
-#include "format/PxVocabulary.h"
+#include "format/PxFormat.h"
 
 #include <values/PxProductMaterial.h>
 
@@ -31,5 +31,5 @@ void PxClassificationCheck::run(PxFindings *findings) const
         findings, "material-unknown", element->rangeOf(QStringLiteral("group")),
         QStringLiteral("\"%1\" is no material").arg(material.value()),
         QStringLiteral("it is a material of its own, without a display name"),
-        PxSpelling::hint(material.value(), PxVocabulary::keywordNames(PxKeywordSet::Material)));
+        PxSpelling::hint(material.value(), PxFormat::keywordNames(PxKeywordSet::Material)));
 }

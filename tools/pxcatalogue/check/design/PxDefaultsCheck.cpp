@@ -6,7 +6,7 @@
 #include "check/source/PxSourceParts.h"
 #include "check/words/PxMessageText.h"
 #include "check/words/PxSpelling.h"
-#include "format/PxVocabulary.h"
+#include "format/PxFormat.h"
 
 #include <geometry/PxDefaultTemplateMap.h>
 
@@ -107,7 +107,7 @@ void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry, PxFindings *f
     PxFileFindings found(m_file, findings);
     for (const PxSourcePart &part : parts) {
         const PxPageType pageType =
-            static_cast<PxPageTypeEnum>(PxVocabulary::decode(PxKeywordSet::PageType, part.text));
+            static_cast<PxPageTypeEnum>(PxFormat::decode(PxKeywordSet::PageType, part.text));
         const bool isUnion = PxPageEntry::isUnion(pageType);
         const bool isRange = pageType.isValid() && !pageType.matches(PxPageTypeAll);
         if (!isUnion && !isRange)

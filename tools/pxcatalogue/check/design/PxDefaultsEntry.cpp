@@ -1,7 +1,7 @@
 #include "check/design/PxDefaultsEntry.h"
 
 #include "check/source/PxSourceParts.h"
-#include "format/PxVocabulary.h"
+#include "format/PxFormat.h"
 
 #include <PxListParts.h>
 #include <geometry/PxDefaultTemplateMap.h>
@@ -14,7 +14,7 @@ namespace {
 const PxElementRow &entryRow()
 {
     static const PxElementRow &ourRow =
-        *PxVocabulary::find(PxFileKind::UserDefaults, QStringLiteral("defaults/defaults"));
+        *PxFormat::find(PxFileKind::UserDefaults, QStringLiteral("defaults/defaults"));
     return ourRow;
 }
 
@@ -22,7 +22,7 @@ const PxElementRow &entryRow()
 QString listOf(const PxSourceElement &entry, const QString &attribute)
 {
     return entry.dom.attribute(
-        attribute, QLatin1String(PxVocabulary::attribute(entryRow(), attribute)->defaultText));
+        attribute, QLatin1String(PxFormat::attribute(entryRow(), attribute)->defaultText));
 }
 
 bool isPlainEntry(const PxSourceElement &element)
@@ -37,8 +37,8 @@ bool isPlainEntry(const PxSourceElement &element)
 PxDefaultsEntry::PxDefaultsEntry(const PxSourceElement &element)
     : m_element(&element)
     , m_isPlain(isPlainEntry(element))
-    , m_alignments(PxVocabulary::decode(PxKeywordSet::Alignment,
-                                        listOf(element, QStringLiteral("alignment"))))
+    , m_alignments(
+          PxFormat::decode(PxKeywordSet::Alignment, listOf(element, QStringLiteral("alignment"))))
 {
     pxForEachPart(listOf(element, QStringLiteral("theme")), [this](QStringView theme) {
         if (!theme.trimmed().isEmpty() && m_themes.size() < PxSourceParts::maximum)
@@ -47,7 +47,7 @@ PxDefaultsEntry::PxDefaultsEntry(const PxSourceElement &element)
     m_themes.removeDuplicates();
     pxForEachPart(element.value(QStringLiteral("pageType")), [this](QStringView part) {
         const auto pageType = static_cast<PxPageTypeEnum>(
-            PxVocabulary::decode(PxKeywordSet::PageType, part.trimmed().toString()));
+            PxFormat::decode(PxKeywordSet::PageType, part.trimmed().toString()));
         if (pageType != PxPageTypeNone && !m_pageTypes.contains(pageType))
             m_pageTypes.append(pageType);
     });
@@ -79,6 +79,6 @@ bool PxDefaultsEntry::isEntry(const PxSourceElement &element)
 {
     return std::any_of(element.attributes.begin(), element.attributes.end(),
                        [](const PxSourceAttribute &attribute) {
-                           return PxVocabulary::attribute(entryRow(), attribute.name);
+                           return PxFormat::attribute(entryRow(), attribute.name);
                        });
 }

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "check/findings/PxCheckTag.h"
-#include "format/PxVocabularyRows.h"
+#include "format/PxFormatRows.h"
 
 // One table, in parts by subject; each in the file of its name.
 PxRows<PxCheckTag> fileTagRows();
-PxRows<PxCheckTag> vocabularyTagRows();
+PxRows<PxCheckTag> formatTagRows();
 PxRows<PxCheckTag> productTagRows();
 PxRows<PxCheckTag> layoutTagRows();
 PxRows<PxCheckTag> designTagRows();

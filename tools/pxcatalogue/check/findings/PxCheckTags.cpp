@@ -18,8 +18,8 @@ const QVector<const PxCheckTag *> &PxCheckTags::all()
     static const QVector<const PxCheckTag *> ourTags = [] {
         QVector<const PxCheckTag *> tags;
         for (const PxRows<PxCheckTag> &rows :
-             {fileTagRows(), vocabularyTagRows(), productTagRows(), layoutTagRows(),
-              designTagRows(), catalogueTagRows(), themeTagRows()}) {
+             {fileTagRows(), formatTagRows(), productTagRows(), layoutTagRows(), designTagRows(),
+              catalogueTagRows(), themeTagRows()}) {
             for (const PxCheckTag &tag : rows)
                 tags.append(&tag);
         }

@@ -6,7 +6,7 @@
 #include "check/source/PxSourceParts.h"
 #include "check/words/PxMessageText.h"
 #include "check/words/PxSpelling.h"
-#include "format/PxVocabulary.h"
+#include "format/PxFormat.h"
 
 #include <PxListParts.h>
 #include <geometry/PxProductionExtraPageGroup.h>
@@ -23,8 +23,8 @@ QString absence(const PxSourceElement &list)
     const QString path = list.name == QLatin1String("target_pages")
                              ? QStringLiteral("product/extra_production_pages/item/target_pages")
                              : QLatin1String("product/") + list.name;
-    const PxElementRow &row = *PxVocabulary::find(PxFileKind::Product, path);
-    return PxVocabulary::plainText(QString::fromUtf8(row.absent));
+    const PxElementRow &row = *PxFormat::find(PxFileKind::Product, path);
+    return PxFormat::plainText(QString::fromUtf8(row.absent));
 }
 
 bool isNumber(QStringView text)

@@ -3,7 +3,7 @@
 #include "check/rules/PxElementReading.h"
 #include "check/words/PxEditDistance.h"
 #include "check/words/PxSpelling.h"
-#include "format/PxVocabulary.h"
+#include "format/PxFormat.h"
 
 #include <algorithm>
 
@@ -13,7 +13,7 @@ namespace {
  */
 QString meant(const QString &text, bool isRangeMissing)
 {
-    QStringList names = PxVocabulary::keywordNames(PxKeywordSet::PageType);
+    QStringList names = PxFormat::keywordNames(PxKeywordSet::PageType);
     const QString nearest = PxSpelling::nearest(text, names);
     if (nearest.isEmpty() || !isRangeMissing)
         return nearest;

@@ -1,7 +1,7 @@
 #include "check/rules/PxElementReading.h"
 
 #include "check/words/PxSpelling.h"
-#include "format/PxVocabulary.h"
+#include "format/PxFormat.h"
 
 #include <PxListParts.h>
 #include <PxXMLParser.h>
@@ -13,8 +13,8 @@ namespace {
 const PxElementRow &rowOf(const PxSourceElement &element, PxFileKind kind)
 {
     const PxElementRow *row =
-        element.parent ? PxVocabulary::child(rowOf(*element.parent, kind), element.name) : nullptr;
-    return row ? *row : PxVocabulary::root(kind);
+        element.parent ? PxFormat::child(rowOf(*element.parent, kind), element.name) : nullptr;
+    return row ? *row : PxFormat::root(kind);
 }
 
 // Elements of one search: what was meant for a child stands near by, and files may have 200 000.
@@ -42,7 +42,7 @@ bool PxElementReading::hasOnlyKnown() const
     if (!m_hasOnlyKnown)
         m_hasOnlyKnown = std::all_of(m_element.attributes.begin(), m_element.attributes.end(),
                                      [this](const PxSourceAttribute &attribute) {
-                                         return PxVocabulary::attribute(m_row, attribute.name);
+                                         return PxFormat::attribute(m_row, attribute.name);
                                      });
     return *m_hasOnlyKnown;
 }
@@ -53,7 +53,7 @@ const PxSourceAttribute *PxElementReading::misspelling(const QString &attribute)
         return nullptr;
     const auto found = std::find_if(m_element.attributes.begin(), m_element.attributes.end(),
                                     [&](const PxSourceAttribute &own) {
-                                        return !PxVocabulary::attribute(m_row, own.name) &&
+                                        return !PxFormat::attribute(m_row, own.name) &&
                                                PxSpelling::isNear(own.name, attribute) &&
                                                meant(own.name) == attribute;
                                     });
@@ -70,7 +70,7 @@ PxMissingPart PxElementReading::missing(const QString &attribute) const
 PxMissingPart PxElementReading::missingText() const
 {
     const auto isUnknown = [this](const PxSourceAttribute &attribute) {
-        return !PxVocabulary::attribute(m_row, attribute.name) &&
+        return !PxFormat::attribute(m_row, attribute.name) &&
                !attribute.name.startsWith(QLatin1String("xml")) &&
                !attribute.name.contains(QLatin1Char(':'));
     };
@@ -84,7 +84,7 @@ PxMissingPart PxElementReading::missingText() const
 bool PxElementReading::isReadable(const QString &attribute) const
 {
     const PxSourceAttribute *own = m_element.attribute(attribute);
-    const PxAttributeRow *row = own ? PxVocabulary::attribute(m_row, attribute) : nullptr;
+    const PxAttributeRow *row = own ? PxFormat::attribute(m_row, attribute) : nullptr;
     return !row || isReadable(m_element, *own, *row);
 }
 
@@ -103,11 +103,11 @@ bool PxElementReading::isReadable(const PxSourceElement &element,
         return PxXMLParser::boolAttribute(element.dom, name, false) ||
                !PxXMLParser::boolAttribute(element.dom, name, true);
     case PxValueType::OneKeyword:
-        return PxVocabulary::isKeyword(row.keywords, attribute.value);
+        return PxFormat::isKeyword(row.keywords, attribute.value);
     case PxValueType::Keyword:
     case PxValueType::KeywordList:
         pxForEachPart(attribute.value, [&](QStringView part) {
-            isReadable = isReadable && PxVocabulary::isKeyword(row.keywords, part.toString());
+            isReadable = isReadable && PxFormat::isKeyword(row.keywords, part.toString());
         });
         return isReadable;
     default:
@@ -172,8 +172,8 @@ PxMissingPart PxElementReading::missingChild(const QString &name, Search search)
     const PxSourceElement *meant = misplacedChild(name, search);
     if (!meant)
         return {m_element.nameRange, QString()};
-    const PxElementRow *row = PxVocabulary::child(m_row, name);
-    const bool isEntry = row && PxVocabulary::isChildName(*row, meant->name);
+    const PxElementRow *row = PxFormat::child(m_row, name);
+    const bool isEntry = row && PxFormat::isChildName(*row, meant->name);
     const bool isElsewhere = meant->name == name;
     return {meant->nameRange, isEntry ? QStringLiteral("put it into \"%1\"").arg(name)
                               : isElsewhere

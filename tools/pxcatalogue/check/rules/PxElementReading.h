@@ -1,7 +1,7 @@
 #pragma once
 
 #include "check/source/PxSourceElement.h"
-#include "format/PxVocabularyRows.h"
+#include "format/PxFormatRows.h"
 
 #include <QStringList>
 

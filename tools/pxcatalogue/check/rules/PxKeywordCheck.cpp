@@ -3,7 +3,7 @@
 #include "check/rules/PxMissingValue.h"
 #include "check/words/PxMessageText.h"
 #include "check/words/PxSpelling.h"
-#include "format/PxVocabulary.h"
+#include "format/PxFormat.h"
 
 #include <PxListParts.h>
 
@@ -46,8 +46,8 @@ void PxKeywordCheck::run(PxFileFindings &findings) const
 void PxKeywordCheck::checkEmpty(PxFileFindings &findings) const
 {
     const QString missing = QString::fromLatin1(m_row.defaultText);
-    if (!m_row.defaultText || PxVocabulary::decode(m_row.keywords, m_attribute.value) ==
-                                  PxVocabulary::decode(m_row.keywords, missing))
+    if (!m_row.defaultText || PxFormat::decode(m_row.keywords, m_attribute.value) ==
+                                  PxFormat::decode(m_row.keywords, missing))
         return;
     findings.add(m_row.keywords == PxKeywordSet::Alignment ? "alignment-unknown"
                                                            : "keyword-unknown",
@@ -95,7 +95,7 @@ void PxKeywordCheck::checkList(PxFileFindings &findings) const
 void PxKeywordCheck::checkUnknown(const PxSourcePart &entry, const QString &asRead,
                                   PxFileFindings &findings) const
 {
-    const QString name = QString::fromUtf8(PxVocabulary::keywords(m_row.keywords).name);
+    const QString name = QString::fromUtf8(PxFormat::keywords(m_row.keywords).name);
     const QStringList words = PxSpelling::words(entry.text);
     const auto known = std::count_if(words.begin(), words.end(),
                                      [this](const QString &word) { return isKnown(word); });
@@ -120,7 +120,7 @@ void PxKeywordCheck::checkUnknown(const PxSourcePart &entry, const QString &asRe
                  QStringLiteral("\"%1\" is no %2").arg(PxMessageText::shortened(entry.text), name),
                  asRead,
                  findings.isTold(tag, entry.range)
-                     ? PxSpelling::hint(entry.text, PxVocabulary::keywordNames(m_row.keywords))
+                     ? PxSpelling::hint(entry.text, PxFormat::keywordNames(m_row.keywords))
                      : QString());
 }
 
@@ -136,12 +136,12 @@ bool PxKeywordCheck::checkGap(PxFileFindings &findings) const
         if (!entry.text.isEmpty())
             words.append(entry.text);
     }
-    const int without = PxVocabulary::decode(m_row.keywords, words.join(QLatin1Char(',')));
-    const int all = PxVocabulary::decode(m_row.keywords, m_attribute.value);
+    const int without = PxFormat::decode(m_row.keywords, words.join(QLatin1Char(',')));
+    const int all = PxFormat::decode(m_row.keywords, m_attribute.value);
     // Commas alone that stand for nothing are like a missing value that does.
     const bool isMissing =
         words.isEmpty() && all == 0 && m_row.defaultText &&
-        PxVocabulary::decode(m_row.keywords, QString::fromLatin1(m_row.defaultText)) == 0;
+        PxFormat::decode(m_row.keywords, QString::fromLatin1(m_row.defaultText)) == 0;
     if (words.isEmpty() ? isMissing : all == without)
         return false;
     // The comma before it, or behind it when it is the first.
@@ -149,7 +149,7 @@ bool PxKeywordCheck::checkGap(PxFileFindings &findings) const
     findings.add("keyword-list-gap", {comma, comma + 1},
                  QStringLiteral("an entry of \"%1\" is empty").arg(m_attribute.name),
                  QStringLiteral("it adds %1")
-                     .arg(QString::fromUtf8(PxVocabulary::keywords(m_row.keywords).defaultText)),
+                     .arg(QString::fromUtf8(PxFormat::keywords(m_row.keywords).defaultText)),
                  QStringLiteral("take the comma out"));
     return true;
 }
@@ -161,14 +161,14 @@ bool PxKeywordCheck::checkSeveral(PxFileFindings &findings) const
     QSet<int> values;
     for (const PxSourcePart &entry : m_list.parts) {
         if (!entry.text.isEmpty())
-            values.insert(PxVocabulary::decode(m_row.keywords, entry.text));
+            values.insert(PxFormat::decode(m_row.keywords, entry.text));
     }
     if (values.size() < 2)
         return false;
     findings.add(
         "keyword-several", m_attribute.valueRange,
         QStringLiteral("a product has one %1, and \"%2\" names %3")
-            .arg(QString::fromUtf8(PxVocabulary::keywords(m_row.keywords).name), m_attribute.name)
+            .arg(QString::fromUtf8(PxFormat::keywords(m_row.keywords).name), m_attribute.name)
             .arg(values.size()),
         now(), QStringLiteral("keep the one that is meant"));
     return true;
@@ -192,12 +192,12 @@ void PxKeywordCheck::checkRepeated(PxFileFindings &findings) const
 
 bool PxKeywordCheck::isKnown(const QString &word) const
 {
-    return PxVocabulary::isKeyword(m_row.keywords, word);
+    return PxFormat::isKeyword(m_row.keywords, word);
 }
 
 QString PxKeywordCheck::now() const
 {
     const QString answer = PxMissingValue::answer(m_element, m_row);
     return QStringLiteral("read as %1")
-        .arg(answer.isEmpty() ? PxVocabulary::decoded(m_row.keywords, m_attribute.value) : answer);
+        .arg(answer.isEmpty() ? PxFormat::decoded(m_row.keywords, m_attribute.value) : answer);
 }

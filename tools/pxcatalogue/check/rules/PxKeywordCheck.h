@@ -2,7 +2,7 @@
 
 #include "check/findings/PxFileFindings.h"
 #include "check/source/PxSourceParts.h"
-#include "format/PxVocabularyRows.h"
+#include "format/PxFormatRows.h"
 
 /** Checks the keywords in the value of an attribute. */
 class PxKeywordCheck

@@ -1,6 +1,6 @@
 #include "check/rules/PxMissingValue.h"
 
-#include "format/PxVocabulary.h"
+#include "format/PxFormat.h"
 
 #include <description/PxProductTypeDescription.h>
 
@@ -34,11 +34,11 @@ constexpr struct
      }},
     {"orientation",
      [](const Description &d) {
-         return PxVocabulary::encode(PxKeywordSet::Orientation, d.orientation().value());
+         return PxFormat::encode(PxKeywordSet::Orientation, d.orientation().value());
      }},
     {"space",
      [](const Description &d) {
-         return PxVocabulary::encode(PxKeywordSet::SizeClass, d.spaceMagnitude().value());
+         return PxFormat::encode(PxKeywordSet::SizeClass, d.spaceMagnitude().value());
      }},
 };
 
@@ -64,7 +64,7 @@ QDomElement withoutLists(const QDomElement &product, const char *asked)
 /** What the documentation says about a missing attribute. */
 QString absence(const PxAttributeRow &attribute)
 {
-    return PxVocabulary::plainText(QString::fromUtf8(attribute.absent));
+    return PxFormat::plainText(QString::fromUtf8(attribute.absent));
 }
 
 QString integerText(const PxAttributeRow &attribute)

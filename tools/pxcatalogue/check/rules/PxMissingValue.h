@@ -1,7 +1,7 @@
 #pragma once
 
 #include "check/source/PxSourceElement.h"
-#include "format/PxVocabularyRows.h"
+#include "format/PxFormatRows.h"
 
 /** Tells what the library uses in place of an attribute that is missing or that it cannot read. */
 class PxMissingValue

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "check/findings/PxFileFindings.h"
-#include "format/PxVocabularyRows.h"
+#include "format/PxFormatRows.h"
 
 /** Checks whether the library can read the values of attributes: numbers and flags. */
 class PxValueCheck

@@ -3,7 +3,7 @@
 #include "check/words/PxListedProductTypes.h"
 #include "check/words/PxMessageText.h"
 #include "check/words/PxSpelling.h"
-#include "format/PxVocabulary.h"
+#include "format/PxFormat.h"
 
 #include <PxProductGroup.h>
 #include <PxProductType.h>
@@ -112,7 +112,7 @@ void PxThemeElementCheck::checkGroup(PxFindings *findings) const
         if (group.contains(QLatin1Char(',')))
             hint = QStringLiteral("name one product group only");
         else if (m_file.isTold(findings, tag, m_theme.rangeOf(attribute)))
-            hint = PxSpelling::hint(group, PxVocabulary::keywordNames(PxKeywordSet::ProductGroup));
+            hint = PxSpelling::hint(group, PxFormat::keywordNames(PxKeywordSet::ProductGroup));
         m_file.add(findings, tag, m_theme.rangeOf(attribute),
                    QStringLiteral("\"%1\" is no product group").arg(group), now, hint);
     }

@@ -6,7 +6,7 @@
 class PxSpelling
 {
 public:
-    /** No name of the vocabulary is longer; comparing longer words would take time for nothing. */
+    /** No name of the format is longer; comparing longer words would take time for nothing. */
     static constexpr int maximumLength = 64;
 
     /** The one candidate that is nearest and near; empty when none is. Case does not count. */

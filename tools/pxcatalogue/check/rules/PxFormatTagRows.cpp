@@ -70,7 +70,7 @@ static constexpr PxCheckTag rows[] = {
 };
 // clang-format on
 
-PxRows<PxCheckTag> vocabularyTagRows()
+PxRows<PxCheckTag> formatTagRows()
 {
     return rows;
 }

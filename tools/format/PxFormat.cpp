@@ -1,7 +1,7 @@
-#include "format/PxVocabulary.h"
+#include "format/PxFormat.h"
 
+#include "format/PxFormatFiles.h"
 #include "format/PxKeywordRows.h"
-#include "format/PxVocabularyFiles.h"
 
 #include <QRegularExpression>
 
@@ -23,7 +23,7 @@ bool isNamed(const char *rowName, const QString &name)
 
 } // namespace
 
-const PxElementRow &PxVocabulary::root(PxFileKind kind)
+const PxElementRow &PxFormat::root(PxFileKind kind)
 {
     switch (kind) {
     case PxFileKind::Theme:
@@ -40,7 +40,7 @@ const PxElementRow &PxVocabulary::root(PxFileKind kind)
     return productFileRow;
 }
 
-const PxElementRow *PxVocabulary::find(PxFileKind kind, const QString &path)
+const PxElementRow *PxFormat::find(PxFileKind kind, const QString &path)
 {
     const PxElementRow *row = &root(kind);
     const QStringList names = path.split(QLatin1Char('/'), Qt::SkipEmptyParts);
@@ -49,7 +49,7 @@ const PxElementRow *PxVocabulary::find(PxFileKind kind, const QString &path)
     return row;
 }
 
-const PxElementRow *PxVocabulary::child(const PxElementRow &parent, const QString &name)
+const PxElementRow *PxFormat::child(const PxElementRow &parent, const QString &name)
 {
     const auto *found =
         std::find_if(parent.children.begin(), parent.children.end(), [&](const PxElementRow &row) {
@@ -58,13 +58,13 @@ const PxElementRow *PxVocabulary::child(const PxElementRow &parent, const QStrin
     return found == parent.children.end() ? nullptr : found;
 }
 
-bool PxVocabulary::isChildName(const PxElementRow &parent, const QString &name)
+bool PxFormat::isChildName(const PxElementRow &parent, const QString &name)
 {
     return std::any_of(parent.children.begin(), parent.children.end(),
                        [&](const PxElementRow &row) { return isNamed(row.name, name); });
 }
 
-const PxAttributeRow *PxVocabulary::attribute(const PxElementRow &element, const QString &name)
+const PxAttributeRow *PxFormat::attribute(const PxElementRow &element, const QString &name)
 {
     const auto *found =
         std::find_if(element.attributes.begin(), element.attributes.end(),
@@ -72,7 +72,7 @@ const PxAttributeRow *PxVocabulary::attribute(const PxElementRow &element, const
     return found == element.attributes.end() ? nullptr : found;
 }
 
-QStringList PxVocabulary::childNames(const PxElementRow &parent)
+QStringList PxFormat::childNames(const PxElementRow &parent)
 {
     QStringList names;
     for (const PxElementRow &row : parent.children)
@@ -80,7 +80,7 @@ QStringList PxVocabulary::childNames(const PxElementRow &parent)
     return names;
 }
 
-QStringList PxVocabulary::attributeNames(const PxElementRow &element)
+QStringList PxFormat::attributeNames(const PxElementRow &element)
 {
     QStringList names;
     for (const PxAttributeRow &row : element.attributes)
@@ -88,7 +88,7 @@ QStringList PxVocabulary::attributeNames(const PxElementRow &element)
     return names;
 }
 
-QString PxVocabulary::typeName(const PxAttributeRow &attribute)
+QString PxFormat::typeName(const PxAttributeRow &attribute)
 {
     constexpr struct
     {
@@ -115,7 +115,7 @@ QString PxVocabulary::typeName(const PxAttributeRow &attribute)
     return QLatin1String(found->name);
 }
 
-QString PxVocabulary::plainText(QString cell)
+QString PxFormat::plainText(QString cell)
 {
     static const QRegularExpression ourLink(QStringLiteral("\\[([^\\]]*)\\]\\([^)]*\\)"));
     return cell.replace(ourLink, QStringLiteral("\\1"))
@@ -123,14 +123,14 @@ QString PxVocabulary::plainText(QString cell)
         .replace(QLatin1Char('`'), QLatin1Char('"'));
 }
 
-const PxKeywordSetRow &PxVocabulary::keywords(PxKeywordSet set)
+const PxKeywordSetRow &PxFormat::keywords(PxKeywordSet set)
 {
     const PxRows<PxKeywordSetRow> sets = keywordSetRows();
     return *std::find_if(sets.begin(), sets.end(),
                          [set](const PxKeywordSetRow &row) { return row.set == set; });
 }
 
-QStringList PxVocabulary::keywordNames(PxKeywordSet set)
+QStringList PxFormat::keywordNames(PxKeywordSet set)
 {
     QStringList names;
     for (const PxKeywordTableRow &row : keywords(set).keywords)
@@ -138,22 +138,22 @@ QStringList PxVocabulary::keywordNames(PxKeywordSet set)
     return names;
 }
 
-bool PxVocabulary::isKeyword(PxKeywordSet set, const QString &word)
+bool PxFormat::isKeyword(PxKeywordSet set, const QString &word)
 {
     return keywords(set).isKeyword(word);
 }
 
-int PxVocabulary::decode(PxKeywordSet set, const QString &text)
+int PxFormat::decode(PxKeywordSet set, const QString &text)
 {
     return keywords(set).decode(text);
 }
 
-QString PxVocabulary::decoded(PxKeywordSet set, const QString &text)
+QString PxFormat::decoded(PxKeywordSet set, const QString &text)
 {
     return encode(set, decode(set, text));
 }
 
-QString PxVocabulary::encode(PxKeywordSet set, int value)
+QString PxFormat::encode(PxKeywordSet set, int value)
 {
     const PxKeywordSetRow &table = keywords(set);
     if (value == table.defaultValue)

@@ -1,10 +1,10 @@
-#include "check/rules/PxVocabularyCheck.h"
+#include "check/rules/PxFormatCheck.h"
 
 #include "check/design/PxDefaultsEntry.h"
 #include "check/rules/PxElementReading.h"
+#include "check/rules/PxFormatSearch.h"
 #include "check/rules/PxMissingValue.h"
 #include "check/rules/PxValueCheck.h"
-#include "check/rules/PxVocabularySearch.h"
 #include "check/words/PxMessageText.h"
 #include "check/words/PxSpelling.h"
 
@@ -56,19 +56,19 @@ bool isMeantAsEntry(const PxSourceElement &element, const PxElementRow &row)
 
 } // namespace
 
-void PxVocabularyCheck::run(PxFindings *findings) const
+void PxFormatCheck::run(PxFindings *findings) const
 {
     const PxSourceElement *root = m_file.root();
     if (!root || !isOfKind(*root))
         return;
     PxFileFindings ofFile(m_file, findings);
-    checkElement({*root, PxVocabulary::root(m_kind), nullptr, nullptr}, ofFile);
+    checkElement({*root, PxFormat::root(m_kind), nullptr, nullptr}, ofFile);
 }
 
 /** Whether anything is read from the file; when nothing is, that is told elsewhere. */
-bool PxVocabularyCheck::isOfKind(const PxSourceElement &root) const
+bool PxFormatCheck::isOfKind(const PxSourceElement &root) const
 {
-    const QString name = nameOf(PxVocabulary::root(m_kind));
+    const QString name = nameOf(PxFormat::root(m_kind));
     switch (m_kind) {
     case PxFileKind::Product:
         return root.firstChild(QStringLiteral("product"));
@@ -81,35 +81,35 @@ bool PxVocabularyCheck::isOfKind(const PxSourceElement &root) const
     }
 }
 
-void PxVocabularyCheck::checkElement(const Place &place, PxFileFindings &findings) const
+void PxFormatCheck::checkElement(const Place &place, PxFileFindings &findings) const
 {
     checkAttributes(place, findings);
     checkText(place, findings);
     checkChildren(place, findings);
 }
 
-void PxVocabularyCheck::checkAttributes(const Place &place, PxFileFindings &findings) const
+void PxFormatCheck::checkAttributes(const Place &place, PxFileFindings &findings) const
 {
     const PxValueCheck values(findings);
     const PxElementRow *entry = entriesOfSameName(place.row);
     for (const PxSourceAttribute &attribute : place.element.attributes) {
-        const PxAttributeRow *row = PxVocabulary::attribute(place.row, attribute.name);
+        const PxAttributeRow *row = PxFormat::attribute(place.row, attribute.name);
         if (row)
             values.check(place.element, *row, attribute);
         else if (!isOfXml(attribute.name) &&
-                 !(entry && PxVocabulary::attribute(*entry, attribute.name)))
+                 !(entry && PxFormat::attribute(*entry, attribute.name)))
             addUnknownAttribute(place, attribute, findings);
     }
 }
 
-void PxVocabularyCheck::addUnknownAttribute(const Place &place, const PxSourceAttribute &attribute,
-                                            PxFileFindings &findings) const
+void PxFormatCheck::addUnknownAttribute(const Place &place, const PxSourceAttribute &attribute,
+                                        PxFileFindings &findings) const
 {
     constexpr const char *tag = "attribute-unknown";
     const QString local = localName(attribute.name);
     const bool hasPrefix = local != attribute.name;
-    const PxVocabularySearch search(PxVocabulary::root(m_kind), place.row, place.parent);
-    if (hasPrefix ? !PxVocabulary::attribute(place.row, local)
+    const PxFormatSearch search(PxFormat::root(m_kind), place.row, place.parent);
+    if (hasPrefix ? !PxFormat::attribute(place.row, local)
                   : !place.parent && search.ownersOf(attribute.name).isEmpty())
         return; // somebody else's, or a note about the file as a whole, as its version
 
@@ -137,7 +137,7 @@ void PxVocabularyCheck::addUnknownAttribute(const Place &place, const PxSourceAt
         hint = QStringLiteral("it is read on %1").arg(PxMessageText::quotedList(owners));
     } else if (!meant.isEmpty()) {
         hint = PxSpelling::didYouMean(meant);
-        now = PxMissingValue::text(place.element, *PxVocabulary::attribute(place.row, meant));
+        now = PxMissingValue::text(place.element, *PxFormat::attribute(place.row, meant));
     }
     findings.add(tag, attribute.nameRange,
                  QStringLiteral("\"%1\" is not read on \"%2\"")
@@ -148,7 +148,7 @@ void PxVocabularyCheck::addUnknownAttribute(const Place &place, const PxSourceAt
                  hint);
 }
 
-void PxVocabularyCheck::checkText(const Place &place, PxFileFindings &findings) const
+void PxFormatCheck::checkText(const Place &place, PxFileFindings &findings) const
 {
     if (place.row.text != PxTextKind::None)
         return;
@@ -173,14 +173,14 @@ void PxVocabularyCheck::checkText(const Place &place, PxFileFindings &findings) 
                      : QString());
 }
 
-void PxVocabularyCheck::checkChildren(const Place &place, PxFileFindings &findings) const
+void PxFormatCheck::checkChildren(const Place &place, PxFileFindings &findings) const
 {
     QHash<QString, const PxSourceElement *> first;
     bool isFlat = false;
     const PxSourceElement *before = nullptr;
     for (int i = 0; i < place.element.children.size(); ++i) {
         const PxSourceElement *child = place.element.children.at(i);
-        const PxElementRow *row = PxVocabulary::child(place.row, child->name);
+        const PxElementRow *row = PxFormat::child(place.row, child->name);
         const PxSourceElement *neighbour = before;
         before = child;
         if (!row) {
@@ -199,10 +199,10 @@ void PxVocabularyCheck::checkChildren(const Place &place, PxFileFindings &findin
     }
 }
 
-void PxVocabularyCheck::addRepeated(const Place &place, const PxSourceElement &child,
-                                    const PxSourceElement &first, PxFileFindings &findings) const
+void PxFormatCheck::addRepeated(const Place &place, const PxSourceElement &child,
+                                const PxSourceElement &first, PxFileFindings &findings) const
 {
-    const PxElementRow &row = *PxVocabulary::child(place.row, child.name);
+    const PxElementRow &row = *PxFormat::child(place.row, child.name);
     QString hint = QStringLiteral("keep the one that is meant");
     if (!place.parent && row.children.size() > 1)
         hint = QStringLiteral("give each \"%1\" a file of its own").arg(child.name);
@@ -215,19 +215,18 @@ void PxVocabularyCheck::addRepeated(const Place &place, const PxSourceElement &c
                  hint);
 }
 
-void PxVocabularyCheck::addUnknownElement(const Place &place, int index,
-                                          PxFileFindings &findings) const
+void PxFormatCheck::addUnknownElement(const Place &place, int index, PxFileFindings &findings) const
 {
     const PxSourceElement &child = *place.element.children.at(index);
     const QString local = localName(child.name);
     const bool hasPrefix = local != child.name;
-    if (hasPrefix && !PxVocabulary::child(place.row, local))
+    if (hasPrefix && !PxFormat::child(place.row, local))
         return; // somebody else's
     const QString now =
         place.row.text == PxTextKind::None
             ? QStringLiteral("nothing in it is read")
             : QStringLiteral("its text counts as text of \"%1\"").arg(place.element.name);
-    const PxVocabularySearch search(PxVocabulary::root(m_kind), place.row, place.parent);
+    const PxFormatSearch search(PxFormat::root(m_kind), place.row, place.parent);
     const PxElementRow *owner = hasPrefix ? nullptr : search.parentOf(child.name);
     if (owner) {
         addMisplaced(place, index, *owner, now, findings);
@@ -238,8 +237,8 @@ void PxVocabularyCheck::addUnknownElement(const Place &place, int index,
         findings.add(tag, child.nameRange, QString());
         return;
     }
-    QString hint = hasPrefix ? withoutPrefix(local)
-                             : PxSpelling::hint(local, PxVocabulary::childNames(place.row));
+    QString hint =
+        hasPrefix ? withoutPrefix(local) : PxSpelling::hint(local, PxFormat::childNames(place.row));
     if (hint.isEmpty())
         hint = PxSpelling::hint(local, search.elementNames());
     findings.add(tag, child.nameRange,
@@ -250,8 +249,8 @@ void PxVocabularyCheck::addUnknownElement(const Place &place, int index,
 }
 
 /** Once for all that stand there in a row: they lack the same container. */
-void PxVocabularyCheck::addMisplaced(const Place &place, int index, const PxElementRow &owner,
-                                     const QString &now, PxFileFindings &findings) const
+void PxFormatCheck::addMisplaced(const Place &place, int index, const PxElementRow &owner,
+                                 const QString &now, PxFileFindings &findings) const
 {
     const QVector<const PxSourceElement *> &siblings = place.element.children;
     const PxSourceElement &child = *siblings.at(index);
@@ -261,9 +260,8 @@ void PxVocabularyCheck::addMisplaced(const Place &place, int index, const PxElem
         std::find_if(siblings.begin() + index, siblings.end(),
                      [&](const PxSourceElement *sibling) { return sibling->name != child.name; });
     const int count = int(end - siblings.begin()) - index;
-    const QString into = &owner == &PxVocabulary::root(m_kind)
-                             ? QStringLiteral("the document element")
-                             : PxMessageText::quoted(nameOf(owner));
+    const QString into = &owner == &PxFormat::root(m_kind) ? QStringLiteral("the document element")
+                                                           : PxMessageText::quoted(nameOf(owner));
     const QString what = count == 1 ? QStringLiteral("it") : QStringLiteral("them");
     findings.add("element-misplaced", child.nameRange,
                  count == 1 ? QStringLiteral("\"%1\" directly below \"%2\" is not read")

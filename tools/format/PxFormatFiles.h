@@ -1,6 +1,6 @@
 #pragma once
 
-#include "format/PxVocabularyRows.h"
+#include "format/PxFormatRows.h"
 
 // The document elements, with all that may stand in them; each kind in the file of its name.
 extern const PxElementRow productFileRow;

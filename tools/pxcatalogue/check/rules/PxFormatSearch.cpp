@@ -1,6 +1,6 @@
-#include "check/rules/PxVocabularySearch.h"
+#include "check/rules/PxFormatSearch.h"
 
-#include "format/PxVocabulary.h"
+#include "format/PxFormat.h"
 
 namespace {
 
@@ -14,10 +14,10 @@ void forEachRow(const PxElementRow &row, Visit visit)
 
 } // namespace
 
-const PxElementRow *PxVocabularySearch::parentOf(const QString &element) const
+const PxElementRow *PxFormatSearch::parentOf(const QString &element) const
 {
     const auto isParent = [&element](const PxElementRow &row) {
-        return PxVocabulary::isChildName(row, element);
+        return PxFormat::isChildName(row, element);
     };
     for (const PxElementRow &child : m_from.children) {
         if (isParent(child))
@@ -33,30 +33,29 @@ const PxElementRow *PxVocabularySearch::parentOf(const QString &element) const
     return first;
 }
 
-QStringList PxVocabularySearch::ownersOf(const QString &attribute) const
+QStringList PxFormatSearch::ownersOf(const QString &attribute) const
 {
     QStringList below;
     for (const PxElementRow &child : m_from.children) {
-        if (PxVocabulary::attribute(child, attribute))
+        if (PxFormat::attribute(child, attribute))
             below.append(QLatin1String(child.name));
     }
     if (!below.isEmpty())
         return below;
-    if (m_parent && PxVocabulary::attribute(*m_parent, attribute))
+    if (m_parent && PxFormat::attribute(*m_parent, attribute))
         return {QLatin1String(m_parent->name)};
     QStringList all;
     forEachRow(m_root, [&](const PxElementRow &row) {
-        if (PxVocabulary::attribute(row, attribute))
+        if (PxFormat::attribute(row, attribute))
             all.append(QLatin1String(row.name));
     });
     all.removeDuplicates(); // elements of one name stand in several places
     return all;
 }
 
-QStringList PxVocabularySearch::elementNames() const
+QStringList PxFormatSearch::elementNames() const
 {
     QStringList names;
-    forEachRow(m_root,
-               [&names](const PxElementRow &row) { names += PxVocabulary::childNames(row); });
+    forEachRow(m_root, [&names](const PxElementRow &row) { names += PxFormat::childNames(row); });
     return names;
 }

@@ -7,7 +7,7 @@
 #include <PxProductType.h>
 #include <description/PxProductTypeDescription.h>
 #include <description/PxProductTypeDescriptionReader.h>
-#include <format/PxVocabulary.h>
+#include <format/PxFormat.h>
 #include <themes/PxThemeFactory.h>
 #include <values/PxHumanReadable.h>
 
@@ -18,7 +18,7 @@
 #include <QTest>
 
 /** Holds the vocabulary against what the library really reads. */
-class PxVocabularyTest : public QObject
+class PxFormatTest : public QObject
 {
     Q_OBJECT
 
@@ -58,7 +58,7 @@ QVector<QPair<PxFileKind, QString>> allPaths()
     QVector<QPair<PxFileKind, QString>> paths;
     for (PxFileKind kind : {PxFileKind::Product, PxFileKind::UserDefaults, PxFileKind::Theme,
                             PxFileKind::ProductTypes})
-        addPaths(kind, PxVocabulary::root(kind), QString(), &paths);
+        addPaths(kind, PxFormat::root(kind), QString(), &paths);
     return paths;
 }
 
@@ -189,7 +189,7 @@ QStringList missingKeywords(PxKeywordSet set, const WRAPPER &wrapper)
         const auto value = static_cast<decltype(wrapper.value())>(1 << bit);
         const QString keyword = table->encode(value);
         const bool isKeyword = table->decode(keyword, decltype(value)(0)) == value;
-        if (isKeyword && !PxVocabulary::keywordNames(set).contains(keyword))
+        if (isKeyword && !PxFormat::keywordNames(set).contains(keyword))
             missing.append(keyword);
     }
     return missing;
@@ -199,17 +199,17 @@ template <typename MAP>
 QStringList missingKeywordsOf(PxKeywordSet set, const MAP &map)
 {
     QStringList missing = map.keys();
-    for (const QString &name : PxVocabulary::keywordNames(set))
+    for (const QString &name : PxFormat::keywordNames(set))
         missing.removeOne(name.toUpper());
     return missing;
 }
 
 } // namespace
 
-void PxVocabularyTest::initTestCase()
+void PxFormatTest::initTestCase()
 {
     QByteArray types = "1 book PROBEBOOK\n2 book OLDBOOK\n4 gift CUP\n";
-    for (const PxKeywordTableRow &row : PxVocabulary::keywords(PxKeywordSet::ProductClass).keywords)
+    for (const PxKeywordTableRow &row : PxFormat::keywords(PxKeywordSet::ProductClass).keywords)
         types +=
             QByteArray::number(100 + row.value) + ' ' + row.keyword + " OF_" + row.keyword + '\n';
     m_directory.writeProductTypes(types);
@@ -238,14 +238,14 @@ void PxVocabularyTest::initTestCase()
         <producttype code="9" name="CAN" class="gift" shortname="Dose"/></producttypes>)";
 }
 
-QDomDocument PxVocabularyTest::document(PxFileKind kind) const
+QDomDocument PxFormatTest::document(PxFileKind kind) const
 {
     QDomDocument document;
     document.setContent(m_files[kind]);
     return document;
 }
 
-QString PxVocabularyTest::answers(PxFileKind kind, const QDomDocument &document) const
+QString PxFormatTest::answers(PxFileKind kind, const QDomDocument &document) const
 {
     const PxLogRecorder log;
     const QByteArray text = document.toByteArray();
@@ -278,25 +278,24 @@ QString PxVocabularyTest::answers(PxFileKind kind, const QDomDocument &document)
     return PxProgramRun(PX_CATALOGUE_PROGRAM, list).text();
 }
 
-void PxVocabularyTest::attributeIsReadAndHasItsDefault_data()
+void PxFormatTest::attributeIsReadAndHasItsDefault_data()
 {
     QTest::addColumn<int>("kind");
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("attribute");
     for (const auto &[kind, path] : allPaths()) {
-        for (const PxAttributeRow &row : PxVocabulary::find(kind, path)->attributes)
+        for (const PxAttributeRow &row : PxFormat::find(kind, path)->attributes)
             QTest::newRow(qPrintable(path + '@' + row.name)) << int(kind) << path << row.name;
     }
 }
 
-void PxVocabularyTest::attributeIsReadAndHasItsDefault()
+void PxFormatTest::attributeIsReadAndHasItsDefault()
 {
     QFETCH(int, kind);
     QFETCH(QString, path);
     QFETCH(QString, attribute);
     const auto fileKind = static_cast<PxFileKind>(kind);
-    const PxAttributeRow &row =
-        *PxVocabulary::attribute(*PxVocabulary::find(fileKind, path), attribute);
+    const PxAttributeRow &row = *PxFormat::attribute(*PxFormat::find(fileKind, path), attribute);
     const QDomDocument file = document(fileKind);
     QDomElement element = elementAt(file, path);
     QString probe = element.attribute(attribute);
@@ -322,7 +321,7 @@ void PxVocabularyTest::attributeIsReadAndHasItsDefault()
     }
 }
 
-void PxVocabularyTest::elementCountsAsOften_data()
+void PxFormatTest::elementCountsAsOften_data()
 {
     QTest::addColumn<int>("kind");
     QTest::addColumn<QString>("path");
@@ -330,12 +329,12 @@ void PxVocabularyTest::elementCountsAsOften_data()
         QTest::newRow(qPrintable(QString::number(int(kind)) + path)) << int(kind) << path;
 }
 
-void PxVocabularyTest::elementCountsAsOften()
+void PxFormatTest::elementCountsAsOften()
 {
     QFETCH(int, kind);
     QFETCH(QString, path);
     const auto fileKind = static_cast<PxFileKind>(kind);
-    const PxElementRow &row = *PxVocabulary::find(fileKind, path);
+    const PxElementRow &row = *PxFormat::find(fileKind, path);
     const QDomDocument file = document(fileKind);
     QDomElement element = elementAt(file, path);
     const QString full = answers(fileKind, file);
@@ -362,7 +361,7 @@ void PxVocabularyTest::elementCountsAsOften()
 }
 
 /** Which can't be repeated: one file has to show it all. */
-void PxVocabularyTest::framesAreReadOnce()
+void PxFormatTest::framesAreReadOnce()
 {
     m_directory.write("frames.xml", "<any><frame id='a' name='A'/><other id='b' name='B'/>"
                                     "<frame id='c' name=''/><frame id='d' name='D'/></any>");
@@ -371,42 +370,41 @@ void PxVocabularyTest::framesAreReadOnce()
         names.append(PxHumanReadable::instance()->frameName(id));
     QCOMPARE(names, QStringList({"A", "b", "c", "D"}));
 
-    const PxElementRow &root = PxVocabulary::root(PxFileKind::Frames);
-    const PxElementRow &frame = *PxVocabulary::child(root, "frame");
-    QCOMPARE(PxVocabulary::attributeNames(frame), QStringList({"id", "name"}));
+    const PxElementRow &root = PxFormat::root(PxFileKind::Frames);
+    const PxElementRow &frame = *PxFormat::child(root, "frame");
+    QCOMPARE(PxFormat::attributeNames(frame), QStringList({"id", "name"}));
     QVERIFY(root.occurrence == PxOccurrence::AnyName && frame.occurrence == PxOccurrence::Any);
 }
 
 /** The fixture of the library's tests has all that the library reads. */
-void PxVocabularyTest::fixtureHoldsNothingElse()
+void PxFormatTest::fixtureHoldsNothingElse()
 {
     QVector<QPair<QDomElement, const PxElementRow *>> open = {
-        {document(PxFileKind::Product).documentElement(),
-         &PxVocabulary::root(PxFileKind::Product)}};
+        {document(PxFileKind::Product).documentElement(), &PxFormat::root(PxFileKind::Product)}};
     while (!open.isEmpty()) {
         const auto [element, row] = open.takeLast();
         QVERIFY(row);
         const QDomNamedNodeMap attributes = element.attributes();
         for (int i = 0; i < attributes.size(); ++i)
-            QVERIFY(PxVocabulary::attribute(*row, attributes.item(i).nodeName()));
+            QVERIFY(PxFormat::attribute(*row, attributes.item(i).nodeName()));
         for (QDomElement e = element.firstChildElement(); !e.isNull(); e = e.nextSiblingElement())
-            open.append({e, PxVocabulary::child(*row, e.tagName())});
+            open.append({e, PxFormat::child(*row, e.tagName())});
     }
 }
 
-void PxVocabularyTest::keywordsAreThoseOfTheLibrary()
+void PxFormatTest::keywordsAreThoseOfTheLibrary()
 {
     using Set = PxKeywordSet;
     for (int i = int(Set::Binding); i <= int(Set::Orientation); ++i) {
-        const PxKeywordSetRow &set = PxVocabulary::keywords(Set(i));
+        const PxKeywordSetRow &set = PxFormat::keywords(Set(i));
         for (const PxKeywordTableRow &row : set.keywords) {
-            QVERIFY2(PxVocabulary::isKeyword(set.set, row.keyword), row.keyword);
-            QCOMPARE(PxVocabulary::decode(set.set, row.keyword), row.value);
+            QVERIFY2(PxFormat::isKeyword(set.set, row.keyword), row.keyword);
+            QCOMPARE(PxFormat::decode(set.set, row.keyword), row.value);
         }
-        QVERIFY(!PxVocabulary::isKeyword(set.set, "none of them"));
-        QCOMPARE(PxVocabulary::decode(set.set, "none of them"), set.defaultValue);
+        QVERIFY(!PxFormat::isKeyword(set.set, "none of them"));
+        QCOMPARE(PxFormat::decode(set.set, "none of them"), set.defaultValue);
     }
-    for (const PxKeywordTableRow &row : PxVocabulary::keywords(Set::Material).keywords)
+    for (const PxKeywordTableRow &row : PxFormat::keywords(Set::Material).keywords)
         QCOMPARE(PxProductMaterial(row.keyword).visibleDescription(), QString(row.meaning));
 
     using namespace EnumHelper;
@@ -424,11 +422,11 @@ void PxVocabularyTest::keywordsAreThoseOfTheLibrary()
              QStringList());
 }
 
-void PxVocabularyTest::productClassesAreThoseOfTheLibrary()
+void PxFormatTest::productClassesAreThoseOfTheLibrary()
 {
-    for (const PxKeywordTableRow &row : PxVocabulary::keywords(PxKeywordSet::ProductClass).keywords)
+    for (const PxKeywordTableRow &row : PxFormat::keywords(PxKeywordSet::ProductClass).keywords)
         QCOMPARE(int(PxProductType(100 + row.value).productClass()), row.value);
 }
 
-QTEST_GUILESS_MAIN(PxVocabularyTest)
-#include "PxVocabularyTest.moc"
+QTEST_GUILESS_MAIN(PxFormatTest)
+#include "PxFormatTest.moc"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "format/PxVocabularyRows.h"
+#include "format/PxFormatRows.h"
 
 #include <QString>
 #include <QStringList>
@@ -11,7 +11,7 @@
  * The one table for all that tells authors about the format: checks, schemas and documentation. The
  * library reads the files by itself; a test holds the two against each other.
  */
-class PxVocabulary
+class PxFormat
 {
 public:
     /** The document element of a kind of file. */

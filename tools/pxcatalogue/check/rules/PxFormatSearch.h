@@ -1,16 +1,15 @@
 #pragma once
 
-#include "format/PxVocabularyRows.h"
+#include "format/PxFormatRows.h"
 
 #include <QStringList>
 
 /** Looks for a name where it does not stand: where an author may have meant to put it. */
-class PxVocabularySearch
+class PxFormatSearch
 {
 public:
     /** `from` is where the name stands, and `parent` the element above, which may be null. */
-    PxVocabularySearch(const PxElementRow &root, const PxElementRow &from,
-                       const PxElementRow *parent)
+    PxFormatSearch(const PxElementRow &root, const PxElementRow &from, const PxElementRow *parent)
         : m_root(root)
         , m_from(from)
         , m_parent(parent)

@@ -1,4 +1,4 @@
-#include "format/PxVocabularyFiles.h"
+#include "format/PxFormatFiles.h"
 
 namespace {
 

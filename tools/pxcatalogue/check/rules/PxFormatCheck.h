@@ -1,17 +1,17 @@
 #pragma once
 
 #include "check/findings/PxFileFindings.h"
-#include "format/PxVocabulary.h"
+#include "format/PxFormat.h"
 
 /**
  * Checks the names of elements and attributes, and each value by itself: what the library does not
  * read, and what it reads otherwise than it is written.
  */
-class PxVocabularyCheck
+class PxFormatCheck
 {
 public:
     /** The file has been read. It must outlive the check. */
-    PxVocabularyCheck(const PxCheckedFile &file, PxFileKind kind) : m_file(file), m_kind(kind) {}
+    PxFormatCheck(const PxCheckedFile &file, PxFileKind kind) : m_file(file), m_kind(kind) {}
 
     void run(PxFindings *findings) const;
 
