@@ -21,7 +21,8 @@ bool hasFile(const PxProductTypeConfigRegistry *registry, const PxProductType &t
 PxProductTypeList PxCatalogueProducts::of(const PxProductTypeConfigRegistry *registry)
 {
     PxProductTypeList types = registry->products();
-    for (const PxProductType &type : PxListedProductTypes::instance().types()) {
+    const PxListedProductTypes listed(false);
+    for (const PxProductType &type : listed.types()) {
         if (hasFile(registry, type) && !registry->exists(type))
             types.append(type);
     }

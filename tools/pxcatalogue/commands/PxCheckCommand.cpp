@@ -85,8 +85,8 @@ QString PxCheckCommand::check()
         return problem;
     PxFindings findings;
     m_options.applyTo(&findings);
-    PxCheck check(files.paths());
-    check.run(&findings);
+    PxCheck check(files.paths(), findings);
+    check.run();
     m_report.findings = findings.sorted();
     m_report.tagsNotChecked = findings.tagsNotChecked();
     m_report.fileCount = check.fileCount();

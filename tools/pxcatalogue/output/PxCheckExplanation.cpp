@@ -1,8 +1,7 @@
 #include "output/PxCheckExplanation.h"
 
+#include "check/PxCheckLimits.h"
 #include "check/findings/PxCheckTags.h"
-#include "check/findings/PxFindings.h"
-#include "check/source/PxSourceParts.h"
 #include "report/PxTextTable.h"
 #include "writing/PxTerminal.h"
 
@@ -138,9 +137,9 @@ QString PxCheckExplanation::table()
 QString PxCheckExplanation::markdown()
 {
     QString text = QString::fromUtf8(markdownStart)
-                       .arg(PxFindings::maximumOfTag)
-                       .arg(PxFindings::maximumLength)
-                       .arg(PxSourceParts::maximum) +
+                       .arg(PxCheckLimits::findingsOfTag)
+                       .arg(PxCheckLimits::messageLength)
+                       .arg(PxCheckLimits::listParts) +
                    QLatin1String("| Tag | Severity | Finding |\n|---|---|---|\n");
     for (const PxCheckTag *tag : PxCheckTags::all())
         text += QStringLiteral("| [%1](#%1) | %2 | %3 |\n")

@@ -18,7 +18,7 @@ QJsonObject jsonOf(const PxFinding &finding)
         {QStringLiteral("endColumn"), finding.place.endColumn},
         {QStringLiteral("severity"), QLatin1String(PxCheckTags::severityName(finding.severity))},
         {QStringLiteral("tag"), QLatin1String(finding.tag->name)},
-        {QStringLiteral("message"), finding.message},
+        {QStringLiteral("message"), finding.text()},
         {QStringLiteral("now"), finding.now},
         {QStringLiteral("hint"), finding.hint},
         {QStringLiteral("count"), finding.count()}};

@@ -118,7 +118,7 @@ QJsonObject PxFindingsSarif::json() const
 
 QJsonObject PxFindingsSarif::result(const PxFinding &finding, const QString &fingerprint) const
 {
-    QStringList texts{finding.message};
+    QStringList texts{finding.text()};
     if (!finding.now.isEmpty())
         texts.append(QLatin1String("now: ") + finding.now);
     if (!finding.hint.isEmpty())

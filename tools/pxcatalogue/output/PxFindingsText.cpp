@@ -48,7 +48,7 @@ void PxFindingsText::addFinding(PxOutputText *text, const PxFinding &finding) co
     text->addLine(
         {{place},
          {QLatin1String(PxCheckTags::severityName(finding.severity)), colour},
-         {QStringLiteral(": %1 [%2]").arg(finding.message, QLatin1String(finding.tag->name))}});
+         {QStringLiteral(": %1 [%2]").arg(finding.text(), QLatin1String(finding.tag->name))}});
     if (!finding.now.isEmpty())
         text->addLine(QLatin1String("    now: ") + finding.now);
     if (!finding.hint.isEmpty())

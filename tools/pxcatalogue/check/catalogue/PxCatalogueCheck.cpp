@@ -1,9 +1,6 @@
 #include "check/catalogue/PxCatalogueCheck.h"
 
-#include "check/catalogue/PxProductTypesCheck.h"
 #include "check/product/PxSizeCheck.h"
-#include "check/words/PxListedProductTypes.h"
-#include "check/words/PxMessageText.h"
 
 #include <PxDirectoryConfig.h>
 #include <description/PxProductTypeDescriptionReader.h>
@@ -46,20 +43,13 @@ qint64 longerSide(const QSize &size)
 
 } // namespace
 
-void PxCatalogueCheck::checkProductTypes(const PxCheckedFile &file, PxFindings *findings)
-{
-    PxProductTypesCheck check(file);
-    check.run(findings);
-    m_types = check.places();
-}
-
 void PxCatalogueCheck::addProduct(const PxCheckedProduct &product)
 {
     const QString legacy = QStringLiteral("legacy");
     const PxCheckedFile &file = product.file();
     const PxSourceElement &element = product.element();
     const PxSourceElement *size = element.firstChild(QStringLiteral("usablesize"));
-    // Which has been told already.
+    // Which is a finding already.
     const bool isInOtherUnit = PxSizeCheck::isInOtherUnit(product.description());
     m_products.append(
         {product.type(), product.isLegacy(), file.place(element.rangeOf(QStringLiteral("name"))),
@@ -71,18 +61,18 @@ void PxCatalogueCheck::addProduct(const PxCheckedProduct &product)
         m_files.insert(QFileInfo(file.path()).canonicalFilePath());
 }
 
-void PxCatalogueCheck::finish(PxFindings *findings) const
+void PxCatalogueCheck::run()
 {
-    const bool isEveryNameOnce = checkNames(findings);
-    checkPredecessors(findings);
-    checkSizes(findings);
-    // A product whose file cannot be read, or has the name of another, has been told already.
+    const bool isEveryNameOnce = checkNames();
+    checkPredecessors();
+    checkSizes();
+    // A product whose file cannot be read, or has the name of another, is a finding already.
     if (isEveryNameOnce && isComplete())
-        checkTypesHaveFiles(findings);
+        checkTypesHaveFiles();
 }
 
 /** Answers whether no product has a second file. */
-bool PxCatalogueCheck::checkNames(PxFindings *findings) const
+bool PxCatalogueCheck::checkNames() const
 {
     bool isEveryNameOnce = true;
     QMap<PxProductType, const Product *> firsts;
@@ -92,14 +82,16 @@ bool PxCatalogueCheck::checkNames(PxFindings *findings) const
         const Product *&first = firsts[product.type];
         if (first) {
             const bool isSameKind = first->isLegacy == product.isLegacy;
-            findings->add(
-                isSameKind ? "product-name-twice" : "product-current-and-legacy", product.name,
-                QStringLiteral("%1 is also in %2")
-                    .arg(product.type.productName(),
-                         PxMessageText::place(first->name, product.name.path)),
-                isSameKind ? QStringLiteral("which of the two is used depends on the file system")
-                           : QStringLiteral("it is a current and an older product, each with its "
-                                            "own description"));
+            m_report
+                .add(isSameKind ? PxTag::ProductNameTwice : PxTag::ProductCurrentAndLegacy,
+                     product.name,
+                     QStringLiteral("%1 is also in %2")
+                         .arg(product.type.productName(), PxFinding::otherPlaceMark))
+                .otherPlace(first->name)
+                .now(isSameKind
+                         ? QStringLiteral("which of the two is used depends on the file system")
+                         : QStringLiteral("it is a current and an older product, each with its "
+                                          "own description"));
             isEveryNameOnce = false;
         }
         if (!first || first->isLegacy != product.isLegacy)
@@ -108,34 +100,36 @@ bool PxCatalogueCheck::checkNames(PxFindings *findings) const
     return isEveryNameOnce;
 }
 
-void PxCatalogueCheck::checkPredecessors(PxFindings *findings) const
+void PxCatalogueCheck::checkPredecessors() const
 {
-    PxListedProductTypes &types = PxListedProductTypes::instance();
     QMap<PxProductType, const Product *> successors;
     for (const Product &product : m_products) {
         const PxProductType legacy(product.legacyName);
-        if (product.legacyName.trimmed().isEmpty() || types.isEmpty())
+        if (product.legacyName.trimmed().isEmpty() || m_names.isEmpty())
             continue;
-        if (!legacy.isValid() && !types.isListed(product.legacyName))
-            findings->add("legacy-unknown", product.legacy,
-                          QStringLiteral("\"%1\" is no known product name").arg(product.legacyName),
-                          QStringLiteral("the product replaces no older one"),
-                          types.hint(product.legacyName));
+        if (!legacy.isValid() && !m_names.isListed(product.legacyName))
+            m_report
+                .add(PxTag::LegacyUnknown, product.legacy,
+                     QStringLiteral("\"%1\" is no known product name").arg(product.legacyName))
+                .now(QStringLiteral("the product replaces no older one"))
+                .hint([&] { return m_names.hint(product.legacyName); });
         if (!legacy.isValid() || product.isLegacy || !product.type.isValid())
             continue;
         const Product *&other = successors[legacy];
         if (other && other->type != product.type)
-            findings->add("legacy-claimed-twice", product.legacy,
-                          QStringLiteral("%1 is also replaced by %2, in %3")
-                              .arg(legacy.productName(), other->type.productName(),
-                                   PxMessageText::place(other->legacy, product.legacy.path)),
-                          QStringLiteral("either of the two may be found for it"));
+            m_report
+                .add(PxTag::LegacyClaimedTwice, product.legacy,
+                     QStringLiteral("%1 is also replaced by %2, in %3")
+                         .arg(legacy.productName(), other->type.productName(),
+                              PxFinding::otherPlaceMark))
+                .otherPlace(other->legacy)
+                .now(QStringLiteral("either of the two may be found for it"));
         else
             other = &product;
     }
 }
 
-void PxCatalogueCheck::checkSizes(PxFindings *findings) const
+void PxCatalogueCheck::checkSizes() const
 {
     QMap<PxProductClass, QVector<qint64>> lengths;
     const auto isMeasured = [](const Product &product) {
@@ -152,26 +146,28 @@ void PxCatalogueCheck::checkSizes(PxFindings *findings) const
         if (!isMeasured(product) ||
             !isFarOff(ofClass, longerSide(product.size), usualFactor(product.type)))
             continue;
-        findings->add("size-implausible", product.width,
-                      QStringLiteral("%1 x %2 is far from the size of nearly all other products of "
-                                     "its class, where about %3 is usual for the longer side")
-                          .arg(product.size.width())
-                          .arg(product.size.height())
-                          .arg(ofClass.at(ofClass.size() / 2)),
-                      QStringLiteral("the size is taken as it is"),
-                      QStringLiteral("lengths are tenths of a millimetre"));
+        m_report
+            .add(PxTag::SizeImplausible, product.width,
+                 QStringLiteral("%1 x %2 is far from the size of nearly all other products of "
+                                "its class, where about %3 is usual for the longer side")
+                     .arg(product.size.width())
+                     .arg(product.size.height())
+                     .arg(ofClass.at(ofClass.size() / 2)))
+            .now(QStringLiteral("the size is taken as it is"))
+            .hint(QStringLiteral("lengths are tenths of a millimetre"));
     }
 }
 
-void PxCatalogueCheck::checkTypesHaveFiles(PxFindings *findings) const
+void PxCatalogueCheck::checkTypesHaveFiles() const
 {
     QMap<PxProductType, PxPlace> left = m_types;
     for (const Product &product : m_products)
         left.remove(product.type);
     for (auto type = left.begin(); type != left.end(); ++type)
-        findings->add("product-type-without-file", *type,
-                      QStringLiteral("no product file describes %1").arg(type.key().productName()),
-                      QStringLiteral("the product is known, but not offered"));
+        m_report
+            .add(PxTag::ProductTypeWithoutFile, *type,
+                 QStringLiteral("no product file describes %1").arg(type.key().productName()))
+            .now(QStringLiteral("the product is known, but not offered"));
 }
 
 /** Whether every product file of the catalogue gave a product. */

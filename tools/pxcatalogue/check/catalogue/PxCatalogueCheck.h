@@ -1,24 +1,34 @@
 #pragma once
 
+#include "check/findings/PxReporter.h"
 #include "check/source/PxCheckedProduct.h"
+#include "check/words/PxListedProductTypes.h"
 
 #include <QMap>
 #include <QSet>
 
-/** Holds the files of a catalogue against each other: products, older products, product types. */
+/** Compares the files of a catalogue with each other: products, older products, product types. */
 class PxCatalogueCheck
 {
 public:
-    void checkProductTypes(const PxCheckedFile &file, PxFindings *findings);
-    /** Remembers what the others are held against; neither file nor product is kept. */
+    /** Both must outlive the check. */
+    PxCatalogueCheck(PxListedProductTypes &names, const PxReporter &report)
+        : m_names(names)
+        , m_report(report)
+    {}
+
+    /** Where the name of each product type stands in producttypes.xml. */
+    void setProductTypes(const QMap<PxProductType, PxPlace> &types) { m_types = types; }
+    /** Remembers what the others are compared with; neither file nor product is kept. */
     void addProduct(const PxCheckedProduct &product);
-    /** When all products have been added. */
-    void finish(PxFindings *findings) const;
+
+    /** After all products have been added. */
+    void run();
 
 private:
     struct Product
     {
-        PxProductType type; ///< invalid for an unknown name, which is told elsewhere
+        PxProductType type; ///< invalid for an unknown name, which is a finding already
         bool isLegacy;
         PxPlace name;
         QString legacyName;
@@ -27,12 +37,14 @@ private:
         PxPlace width;
     };
 
-    bool checkNames(PxFindings *findings) const;
-    void checkPredecessors(PxFindings *findings) const;
-    void checkSizes(PxFindings *findings) const;
-    void checkTypesHaveFiles(PxFindings *findings) const;
+    bool checkNames() const;
+    void checkPredecessors() const;
+    void checkSizes() const;
+    void checkTypesHaveFiles() const;
     bool isComplete() const;
 
+    PxListedProductTypes &m_names;
+    const PxReporter m_report;
     QVector<Product> m_products;
     QSet<QString> m_files; ///< canonical paths of those that the library gets a product from
     QMap<PxProductType, PxPlace> m_types;

@@ -1,13 +1,27 @@
 #include "check/catalogue/PxCheck.h"
 
-#include "check/catalogue/PxCatalogueCheck.h"
 #include "check/catalogue/PxFramesCheck.h"
-#include "check/design/PxDesignCheck.h"
-#include "check/layout/PxLayoutCheck.h"
+#include "check/catalogue/PxProductTypesCheck.h"
+#include "check/design/PxBackgroundCategoryCheck.h"
+#include "check/design/PxClassificationCheck.h"
+#include "check/design/PxDefaultsCheck.h"
+#include "check/design/PxUserDefaultsCheck.h"
+#include "check/design/PxVariantCheck.h"
+#include "check/findings/PxAllowanceComments.h"
+#include "check/layout/PxBarcodeCheck.h"
+#include "check/layout/PxNumberListCheck.h"
+#include "check/layout/PxProductPages.h"
+#include "check/layout/PxRedirectCheck.h"
+#include "check/layout/PxSurroundingCheck.h"
+#include "check/product/PxMarginCheck.h"
+#include "check/product/PxPagesCheck.h"
 #include "check/product/PxProductCheck.h"
+#include "check/product/PxSizeCheck.h"
+#include "check/product/PxSpineCheck.h"
 #include "check/rules/PxFormatCheck.h"
+#include "check/rules/PxReadingCheck.h"
 #include "check/source/PxReadAhead.h"
-#include "check/themes/PxThemeCheck.h"
+#include "check/themes/PxThemeFileCheck.h"
 #include "check/words/PxSpelling.h"
 
 #include <QFileInfo>
@@ -35,7 +49,7 @@ QString hintForProductOf(const PxSourceElement &root)
                               : QStringLiteral("write \"product\" for \"%1\"").arg(misspelt);
 }
 
-/** Whether the library reads something from the file: else most checks have nothing to look at. */
+/** Whether the library reads something from the file: most checks are skipped if it does not. */
 bool isUnderstood(const PxCheckedFile &file, PxFileKind kind)
 {
     const PxSourceElement *root = file.root();
@@ -58,117 +72,160 @@ bool isUnderstood(const PxCheckedFile &file, PxFileKind kind)
 
 } // namespace
 
-void PxCheck::run(PxFindings *findings)
+PxCheck::PxCheck(const PxCheckPaths &paths, PxFindings &findings)
+    : m_paths(paths)
+    , m_findings(findings)
+    , m_types(!paths.productTypes.isEmpty())
+    , m_themes(PxReporter(findings))
+    , m_catalogue(m_types, PxReporter(findings))
+{}
+
+void PxCheck::run()
 {
-    PxThemeCheck themes;
-    addKnownThemes(&themes);
-    const bool isEveryThemeRead =
-        checkFiles(m_paths.themes, PxFileKind::Theme, findings,
-                   [&](const PxCheckedFile &file) { themes.checkFile(file, findings); });
-    PxCatalogueCheck catalogue;
-    checkFiles(single(m_paths.productTypes), PxFileKind::ProductTypes, findings,
-               [&](const PxCheckedFile &file) { catalogue.checkProductTypes(file, findings); });
-    checkFiles(single(m_paths.frames), PxFileKind::Frames, findings,
-               [&](const PxCheckedFile &file) { PxFramesCheck(file).run(findings); });
-    const QStringList themeIds = isEveryThemeRead ? themes.ids() : QStringList();
-    if (themeIds.isEmpty())
-        findings->setNotChecked(QStringLiteral("defaults-theme-unknown"),
-                                m_paths.themes.isEmpty() && m_paths.knownThemes.isEmpty()
-                                    ? QStringLiteral("without a theme file")
-                                    : QStringLiteral("without the id of every theme"));
-    PxDesignCheck design{PxKnownNames(themeIds)};
-    for (const QStringList *paths : {&m_paths.products, &m_paths.legacyProducts})
-        checkFiles(*paths, PxFileKind::Product, findings, [&](const PxCheckedFile &file) {
-            checkProduct(file, paths == &m_paths.legacyProducts, &design, &catalogue, findings);
-        });
-    checkFiles(m_paths.userDefaults, PxFileKind::UserDefaults, findings,
-               [&](const PxCheckedFile &file) { design.checkUserDefaults(file, findings); });
-    findings->setPartial(!m_paths.isCatalogue);
+    checkThemes();
+    checkFiles(single(m_paths.productTypes), PxFileKind::ProductTypes,
+               [this](const PxCheckedFile &file) { checkProductTypes(file); });
+    checkFiles(single(m_paths.frames), PxFileKind::Frames,
+               [this](const PxCheckedFile &file) { PxFramesCheck(reporterFor(file)).run(); });
+    checkFiles(m_paths.products, PxFileKind::Product,
+               [this](const PxCheckedFile &file) { checkProduct(file, false); });
+    checkFiles(m_paths.legacyProducts, PxFileKind::Product,
+               [this](const PxCheckedFile &file) { checkProduct(file, true); });
+    checkFiles(m_paths.userDefaults, PxFileKind::UserDefaults, [this](const PxCheckedFile &file) {
+        PxUserDefaultsCheck(m_productNames, m_themeIds, reporterFor(file)).run();
+    });
+    m_findings.setPartial(!m_paths.isCatalogue);
     if (m_paths.isCatalogue) {
-        catalogue.finish(findings);
-        themes.finish(findings);
+        m_catalogue.run();
+        m_themes.run();
     }
-    checkStrays(findings);
+    checkStrays();
 }
 
 /** What every file is checked for, and then `checkFile`. Answers whether all could be read. */
 template <typename CheckFile>
-bool PxCheck::checkFiles(const QStringList &paths, PxFileKind kind, PxFindings *findings,
-                         CheckFile checkFile)
+bool PxCheck::checkFiles(const QStringList &paths, PxFileKind kind, CheckFile checkFile)
 {
     if (paths.isEmpty())
         return true; // without a thread that has nothing to read
+    using Checked = PxAllowanceComments::Checked;
     bool isEveryRead = true;
     PxReadAhead files(paths);
     for (int i = 0; i < paths.size(); ++i) {
         ++m_fileCount;
         const PxCheckedFile &file = files.next();
-        file.checkReading(findings);
-        file.findAllowances(findings, isUnderstood(file, kind));
+        PxReadingCheck(reporterFor(file)).run();
+        PxAllowanceComments(file, m_findings)
+            .find(isUnderstood(file, kind) ? Checked::Everything : Checked::Little);
         isEveryRead = isEveryRead && file.isRead();
         if (!file.isRead())
             continue;
-        PxFormatCheck(file, kind).run(findings);
+        PxFormatCheck(kind, reporterFor(file)).run();
         checkFile(file);
     }
     return isEveryRead;
 }
 
-void PxCheck::checkProduct(const PxCheckedFile &file, bool isLegacy, PxDesignCheck *design,
-                           PxCatalogueCheck *catalogue, PxFindings *findings) const
+void PxCheck::checkThemes()
+{
+    for (const QString &path : m_paths.knownThemes)
+        m_themes.addKnownFile(PxCheckedFile(path));
+    const bool isEveryRead =
+        checkFiles(m_paths.themes, PxFileKind::Theme, [this](const PxCheckedFile &file) {
+            m_themes.addFile(file);
+            PxThemeFileCheck(m_types, m_themeImages, reporterFor(file)).run();
+        });
+    m_themeIds = PxKnownNames(isEveryRead ? m_themes.ids() : QStringList());
+    if (m_themeIds.isEmpty())
+        m_findings.setNotChecked(PxTag::DefaultsThemeUnknown,
+                                 m_paths.themes.isEmpty() && m_paths.knownThemes.isEmpty()
+                                     ? QStringLiteral("without a theme file")
+                                     : QStringLiteral("without the id of every theme"));
+}
+
+void PxCheck::checkProductTypes(const PxCheckedFile &file)
+{
+    PxProductTypesCheck check(reporterFor(file));
+    check.run();
+    m_catalogue.setProductTypes(check.places());
+}
+
+void PxCheck::checkProduct(const PxCheckedFile &file, bool isLegacy)
 {
     const PxSourceElement &root = *file.root();
+    const PxReporter report = reporterFor(file);
     if (!root.firstChild(QStringLiteral("product"))) {
-        file.add(findings, "product-element-missing", root.nameRange,
-                 QStringLiteral("no \"product\" element below \"%1\"").arg(root.name),
-                 QStringLiteral("nothing is read from this file"), hintForProductOf(root));
+        report
+            .add(PxTag::ProductElementMissing, root.nameRange,
+                 QStringLiteral("no \"product\" element below \"%1\"").arg(root.name))
+            .now(QStringLiteral("nothing is read from this file"))
+            .hint(hintForProductOf(root));
         return;
     }
     const PxCheckedProduct product(file, isLegacy);
-    const PxPageEntries pages(product);
-    // What is wrong with a row of producttypes.xml is told there.
-    const bool areTypesChecked = !m_paths.productTypes.isEmpty();
-    PxProductCheck(product, pages, areTypesChecked).run(findings);
-    PxLayoutCheck(product, pages).run(findings);
-    design->checkProduct(product, findings);
-    catalogue->addProduct(product);
+    const PxPageEntries entries(product);
+    PxProductCheck(product, m_types, report).run();
+    PxSizeCheck(product, report).run();
+    PxMarginCheck(product, entries, report).run();
+    PxPagesCheck(product, entries, report).run();
+    PxSpineCheck(product, entries, report).run();
+    const PxProductPages pages(product, entries);
+    PxRedirectCheck(product, report).run();
+    PxSurroundingCheck(product, pages, m_images, report).run();
+    PxBarcodeCheck(product, pages, m_images, report).run();
+    PxNumberListCheck(product, pages, report).run();
+    checkDesign(product);
+    m_productNames.insert(product.element().value(QStringLiteral("name")));
+    m_catalogue.addProduct(product);
 }
 
-/** Themes that are not checked themselves. */
-void PxCheck::addKnownThemes(PxThemeCheck *themes) const
+void PxCheck::checkDesign(const PxCheckedProduct &product)
 {
-    for (const QString &path : m_paths.knownThemes)
-        themes->addKnownFile(PxCheckedFile(path));
+    const PxReporter report = reporterFor(product.file());
+    PxDefaultsCheck(product.element(), m_themeIds, report).run();
+    PxVariantCheck(product, report).run();
+    PxBackgroundCategoryCheck(product, report).run();
+    PxClassificationCheck(product, report).run();
 }
 
-void PxCheck::checkStrays(PxFindings *findings) const
+void PxCheck::checkStrays() const
 {
     const QMap<QString, int> &undecodable = m_paths.undecodableNames;
     for (auto it = undecodable.begin(); it != undecodable.end(); ++it)
-        findings->add(
-            "file-name-undecodable", {it.key()},
-            QStringLiteral("names of XML files that are not in the encoding of the locale: "
-                           "%1")
-                .arg(*it),
-            QStringLiteral("the library passes them over"),
-            QStringLiteral("rename them; an archive may have been unpacked in another "
-                           "encoding"));
-    for (const QString &path : m_paths.strays) {
-        const QFileInfo file(path);
-        QString message = QStringLiteral("the library does not read this file");
-        QString hint = QStringLiteral("files that are read end in \".xml\"");
-        if (file.isSymLink() && !file.exists()) {
-            message = QStringLiteral("this link leads nowhere");
-            hint = QStringLiteral("mend the link, or take it out");
-        } else if (!file.isFile()) {
-            message = file.isDir() ? QStringLiteral("this is a directory")
-                                   : QStringLiteral("this is no regular file");
-            hint = QStringLiteral("move it elsewhere");
-        } else if (file.isHidden()) {
-            message = QStringLiteral("this file is hidden, as its name begins with a dot");
-            hint = QStringLiteral("take the dot out of the name, or move the file elsewhere");
-        }
-        findings->add("file-not-read", {path}, message,
-                      QStringLiteral("the library passes it over"), hint);
+        PxReporter(m_findings)
+            .add(PxTag::FileNameUndecodable, PxPlace{it.key()},
+                 QStringLiteral("names of XML files that are not in the encoding of the locale: %1")
+                     .arg(*it))
+            .now(QStringLiteral("the library passes them over"))
+            .hint(QStringLiteral(
+                "rename them; an archive may have been unpacked in another encoding"));
+    for (const QString &path : m_paths.strays)
+        checkStray(path);
+}
+
+void PxCheck::checkStray(const QString &path) const
+{
+    const QFileInfo file(path);
+    QString message = QStringLiteral("the library does not read this file");
+    QString hint = QStringLiteral("files that are read end in \".xml\"");
+    if (file.isSymLink() && !file.exists()) {
+        message = QStringLiteral("this link leads nowhere");
+        hint = QStringLiteral("mend the link, or take it out");
+    } else if (!file.isFile()) {
+        message = file.isDir() ? QStringLiteral("this is a directory")
+                               : QStringLiteral("this is no regular file");
+        hint = QStringLiteral("move it elsewhere");
+    } else if (file.isHidden()) {
+        message = QStringLiteral("this file is hidden, as its name begins with a dot");
+        hint = QStringLiteral("take the dot out of the name, or move the file elsewhere");
     }
+    PxReporter(m_findings)
+        .add(PxTag::FileNotRead, PxPlace{path}, message)
+        .now(QStringLiteral("the library passes it over"))
+        .hint(hint);
+}
+
+PxReporter PxCheck::reporterFor(const PxCheckedFile &file) const
+{
+    return PxReporter(m_findings, file);
 }

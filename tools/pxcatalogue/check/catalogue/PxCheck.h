@@ -1,33 +1,44 @@
 #pragma once
 
+#include "check/catalogue/PxCatalogueCheck.h"
 #include "check/catalogue/PxCheckPaths.h"
-#include "check/findings/PxFindings.h"
+#include "check/themes/PxThemeIdCheck.h"
+#include "check/words/PxImageNames.h"
+#include "check/words/PxKnownNames.h"
 #include "format/PxFormatRows.h"
 
-class PxCatalogueCheck;
-class PxCheckedFile;
-class PxDesignCheck;
-class PxThemeCheck;
+#include <QSet>
 
 /** Runs all checks over the files of a catalogue, one file after the other. */
 class PxCheck
 {
 public:
-    /** The library has been told its directories. */
-    explicit PxCheck(const PxCheckPaths &paths) : m_paths(paths) {}
+    /** The library knows its directories. The findings must outlive the check. */
+    PxCheck(const PxCheckPaths &paths, PxFindings &findings);
 
-    void run(PxFindings *findings);
+    void run();
     int fileCount() const { return m_fileCount; }
 
 private:
     template <typename CheckFile>
-    bool checkFiles(const QStringList &paths, PxFileKind kind, PxFindings *findings,
-                    CheckFile checkFile);
-    void checkProduct(const PxCheckedFile &file, bool isLegacy, PxDesignCheck *design,
-                      PxCatalogueCheck *catalogue, PxFindings *findings) const;
-    void addKnownThemes(PxThemeCheck *themes) const;
-    void checkStrays(PxFindings *findings) const;
+    bool checkFiles(const QStringList &paths, PxFileKind kind, CheckFile checkFile);
+    void checkThemes();
+    void checkProductTypes(const PxCheckedFile &file);
+    void checkProduct(const PxCheckedFile &file, bool isLegacy);
+    void checkDesign(const PxCheckedProduct &product);
+    void checkStrays() const;
+    void checkStray(const QString &path) const;
+    PxReporter reporterFor(const PxCheckedFile &file) const;
 
-    PxCheckPaths m_paths;
+    const PxCheckPaths m_paths;
+    PxFindings &m_findings;
     int m_fileCount = 0;
+    // What files are compared with, and how much may be guessed about it in one run.
+    PxListedProductTypes m_types;
+    PxKnownNames m_themeIds;      // none if they are not known
+    QSet<QString> m_productNames; // of the products checked so far
+    PxImageNames m_images{PxImageNames::Kind::Any};
+    PxImageNames m_themeImages{PxImageNames::Kind::Lower};
+    PxThemeIdCheck m_themes;
+    PxCatalogueCheck m_catalogue;
 };

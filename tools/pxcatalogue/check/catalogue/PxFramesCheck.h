@@ -1,5 +1,6 @@
 #pragma once
 
+#include "check/findings/PxReporter.h"
 #include "check/source/PxCheckedFile.h"
 
 /** Checks the frame models of frames.xml. */
@@ -7,10 +8,10 @@ class PxFramesCheck
 {
 public:
     /** The file has been read. It must outlive the check. */
-    explicit PxFramesCheck(const PxCheckedFile &file) : m_file(file) {}
+    PxFramesCheck(const PxReporter &report) : m_report(report) {}
 
-    void run(PxFindings *findings) const;
+    void run();
 
 private:
-    const PxCheckedFile &m_file;
+    const PxReporter m_report;
 };

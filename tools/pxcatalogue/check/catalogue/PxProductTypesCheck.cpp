@@ -19,107 +19,104 @@ PxElementReading readingOf(const PxSourceElement &row)
 
 } // namespace
 
-void PxProductTypesCheck::run(PxFindings *findings)
+void PxProductTypesCheck::run()
 {
-    const PxSourceElement *root = m_file.root();
+    const PxSourceElement *root = m_report.file().root();
     if (root->name != QLatin1String("producttypes")) {
-        m_file.add(
-            findings, "product-types-root-wrong", root->nameRange,
-            QStringLiteral("the document element is \"%1\", not \"producttypes\"").arg(root->name),
-            QStringLiteral("no product is known"));
+        m_report
+            .add(PxTag::ProductTypesRootWrong, root->nameRange,
+                 QStringLiteral("the document element is \"%1\", not \"producttypes\"")
+                     .arg(root->name))
+            .now(QStringLiteral("no product is known"));
         return;
     }
     for (const PxSourceElement *row : root->childrenNamed(QStringLiteral("producttype")))
-        checkRow(*row, findings);
-    checkMisspelt(*root, findings);
+        checkRow(*row);
+    checkMisspelt(*root);
 }
 
 /** What is nearly called a row is meant for one. */
-void PxProductTypesCheck::checkMisspelt(const PxSourceElement &root, PxFindings *findings) const
+void PxProductTypesCheck::checkMisspelt(const PxSourceElement &root) const
 {
     const QString row = QStringLiteral("producttype");
     for (const PxSourceElement *child : root.children) {
         if (child->name != row && PxSpelling::isNear(child->name, row))
-            m_file.add(findings, "product-type-row-dropped", child->nameRange,
-                       QStringLiteral("\"%1\" is no \"%2\"").arg(child->name, row),
-                       QStringLiteral("the product type is left out"), PxSpelling::didYouMean(row));
+            m_report
+                .add(PxTag::ProductTypeRowDropped, child->nameRange,
+                     QStringLiteral("\"%1\" is no \"%2\"").arg(child->name, row))
+                .now(QStringLiteral("the product type is left out"))
+                .hint(PxSpelling::didYouMean(row));
     }
 }
 
-void PxProductTypesCheck::checkRow(const PxSourceElement &row, PxFindings *findings)
+void PxProductTypesCheck::checkRow(const PxSourceElement &row)
 {
     const QString codeText = row.value(QStringLiteral("code"));
     const int code = PxXMLParser::intAttribute(row.dom, QStringLiteral("code"), 0);
     const QString name = row.value(QStringLiteral("name")).trimmed();
     const QString key = name.toCaseFolded();
     if (!readingOf(row).isReadable(QStringLiteral("code")))
-        return; // the row is left out for it, which is told where values are checked
-    const auto earlier = [&](const PxSourceElement *other) {
-        return PxMessageText::line(m_file, other->nameRange) + QLatin1String(" has");
-    };
+        return; // the row is left out for it, which is reported where values are checked
+    const QString mark = PxFinding::otherPlaceMark;
     if (code < 1) {
         drop(row, "code",
              codeText.isEmpty() ? QStringLiteral("the product type has no \"code\"")
-                                : QStringLiteral("\"%1\" is no code above 0").arg(codeText),
-             findings);
+                                : QStringLiteral("\"%1\" is no code above 0").arg(codeText));
     } else if (name.isEmpty()) {
-        drop(row, "name", QStringLiteral("the product type has no \"name\""), findings);
+        drop(row, "name", QStringLiteral("the product type has no \"name\""));
     } else if (m_rowOfCode.contains(code)) {
-        drop(row, "code",
-             QStringLiteral("%1 the code %2, too")
-                 .arg(earlier(m_rowOfCode.value(code)), QString::number(code)),
-             findings);
+        drop(row, "code", QStringLiteral("%1 has the code %2, too").arg(mark).arg(code))
+            .otherPlace(m_report.file().place(m_rowOfCode.value(code)->nameRange));
     } else if (m_rowOfName.contains(key)) {
-        drop(row, "name",
-             QStringLiteral("%1 the name \"%2\", too").arg(earlier(m_rowOfName.value(key)), name),
-             findings);
+        drop(row, "name", QStringLiteral("%1 has the name \"%2\", too").arg(mark, name))
+            .otherPlace(m_report.file().place(m_rowOfName.value(key)->nameRange));
     } else if (PxFormat::decode(PxKeywordSet::ProductClass, row.value(QStringLiteral("class"))) ==
                PxProductClassUnknown) {
-        dropClass(row, findings);
+        dropClass(row);
     } else {
         m_rowOfCode.insert(code, &row);
         m_rowOfName.insert(key, &row);
-        m_places.insert(PxProductType(code), m_file.place(row.rangeOf(QStringLiteral("name"))));
-        checkStyle(row, name, findings);
+        m_places.insert(PxProductType(code),
+                        m_report.file().place(row.rangeOf(QStringLiteral("name"))));
+        checkStyle(row, name);
     }
 }
 
-void PxProductTypesCheck::drop(const PxSourceElement &row, const char *attribute,
-                               const QString &message, PxFindings *findings,
-                               const QString &hint) const
+PxAddedFinding PxProductTypesCheck::drop(const PxSourceElement &row, const char *attribute,
+                                         const QString &message, const QString &hint) const
 {
     const PxMissingPart missing = readingOf(row).missing(QLatin1String(attribute));
-    m_file.add(findings, "product-type-row-dropped", missing.range, message,
-               QStringLiteral("the product type is left out"), missing.hintOr(hint));
+    return m_report.add(PxTag::ProductTypeRowDropped, missing.range, message)
+        .now(QStringLiteral("the product type is left out"))
+        .hint(missing.hintOr(hint));
 }
 
-void PxProductTypesCheck::dropClass(const PxSourceElement &row, PxFindings *findings) const
+void PxProductTypesCheck::dropClass(const PxSourceElement &row) const
 {
     const QString text = row.value(QStringLiteral("class"));
     const QStringList classes = PxFormat::keywordNames(PxKeywordSet::ProductClass);
     drop(row, "class",
          text.trimmed().isEmpty() ? QStringLiteral("the product type has no \"class\"")
                                   : QStringLiteral("\"%1\" is no product class").arg(text),
-         findings,
          text.trimmed().isEmpty()
              ? QStringLiteral("it is one of %1").arg(classes.join(QLatin1String(", ")))
              : PxSpelling::hint(text, classes));
 }
 
-void PxProductTypesCheck::checkStyle(const PxSourceElement &row, const QString &name,
-                                     PxFindings *findings) const
+void PxProductTypesCheck::checkStyle(const PxSourceElement &row, const QString &name) const
 {
     static const QRegularExpression ourStyle(QStringLiteral("^[A-Z0-9_]+$"));
     if (!ourStyle.match(name).hasMatch())
-        m_file.add(findings, "product-type-name-unsafe", row.rangeOf(QStringLiteral("name")),
-                   QStringLiteral("\"%1\" is not all upper-case ASCII letters, digits and \"_\"")
-                       .arg(name),
-                   QStringLiteral("the product is found by the name in any case"));
+        m_report
+            .add(PxTag::ProductTypeNameUnsafe, row.rangeOf(QStringLiteral("name")),
+                 QStringLiteral("\"%1\" is not all upper-case ASCII letters, digits and \"_\"")
+                     .arg(name))
+            .now(QStringLiteral("the product is found by the name in any case"));
     if (row.value(QStringLiteral("shortname")).isEmpty())
-        m_file.add(findings, "product-type-shortname-missing",
-                   row.rangeOf(QStringLiteral("shortname")),
-                   row.attribute(QStringLiteral("shortname"))
-                       ? QStringLiteral("the \"shortname\" of the product type is empty")
-                       : QStringLiteral("the product type has no \"shortname\""),
-                   QStringLiteral("\"%1\" is shown").arg(name));
+        m_report
+            .add(PxTag::ProductTypeShortnameMissing, row.rangeOf(QStringLiteral("shortname")),
+                 row.attribute(QStringLiteral("shortname"))
+                     ? QStringLiteral("the \"shortname\" of the product type is empty")
+                     : QStringLiteral("the product type has no \"shortname\""))
+            .now(QStringLiteral("\"%1\" is shown").arg(name));
 }

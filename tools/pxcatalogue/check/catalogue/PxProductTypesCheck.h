@@ -1,5 +1,6 @@
 #pragma once
 
+#include "check/findings/PxReporter.h"
 #include "check/source/PxCheckedFile.h"
 
 #include <PxProductType.h>
@@ -10,22 +11,22 @@
 class PxProductTypesCheck
 {
 public:
-    /** The file has been read. It must outlive the check. */
-    explicit PxProductTypesCheck(const PxCheckedFile &file) : m_file(file) {}
+    /** The file has been read. */
+    PxProductTypesCheck(const PxReporter &report) : m_report(report) {}
 
-    void run(PxFindings *findings);
+    void run();
     /** Where the name of each product type stands that the library takes from the file. */
     QMap<PxProductType, PxPlace> places() const { return m_places; }
 
 private:
-    void checkRow(const PxSourceElement &row, PxFindings *findings);
-    void checkMisspelt(const PxSourceElement &root, PxFindings *findings) const;
-    void drop(const PxSourceElement &row, const char *attribute, const QString &message,
-              PxFindings *findings, const QString &hint = QString()) const;
-    void dropClass(const PxSourceElement &row, PxFindings *findings) const;
-    void checkStyle(const PxSourceElement &row, const QString &name, PxFindings *findings) const;
+    void checkRow(const PxSourceElement &row);
+    void checkMisspelt(const PxSourceElement &root) const;
+    PxAddedFinding drop(const PxSourceElement &row, const char *attribute, const QString &message,
+                        const QString &hint = QString()) const;
+    void dropClass(const PxSourceElement &row) const;
+    void checkStyle(const PxSourceElement &row, const QString &name) const;
 
-    const PxCheckedFile &m_file;
+    const PxReporter m_report;
     QMap<int, const PxSourceElement *> m_rowOfCode; // of the rows that the library takes
     QMap<QString, const PxSourceElement *> m_rowOfName;
     QMap<PxProductType, PxPlace> m_places;

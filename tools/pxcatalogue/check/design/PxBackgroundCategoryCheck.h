@@ -1,5 +1,6 @@
 #pragma once
 
+#include "check/findings/PxReporter.h"
 #include "check/source/PxCheckedProduct.h"
 
 /** Checks the categories to which the backgrounds of a product are limited. */
@@ -7,10 +8,14 @@ class PxBackgroundCategoryCheck
 {
 public:
     /** The product must outlive the check. */
-    explicit PxBackgroundCategoryCheck(const PxCheckedProduct &product) : m_product(product) {}
+    PxBackgroundCategoryCheck(const PxCheckedProduct &product, const PxReporter &report)
+        : m_product(product)
+        , m_report(report)
+    {}
 
-    void run(PxFindings *findings) const;
+    void run();
 
 private:
     const PxCheckedProduct &m_product;
+    const PxReporter m_report;
 };

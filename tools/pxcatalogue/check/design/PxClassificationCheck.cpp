@@ -7,7 +7,7 @@
 
 #include <values/PxProductMaterial.h>
 
-void PxClassificationCheck::run(PxFindings *findings) const
+void PxClassificationCheck::run()
 {
     const auto *element = m_product.element().firstChild(QStringLiteral("classification"));
     if (!element || !PxElementReading(*element).hasOnlyKnown())
@@ -19,17 +19,17 @@ void PxClassificationCheck::run(PxFindings *findings) const
             missing.append(name);
     }
     if (!missing.isEmpty())
-        m_product.add(
-            findings, "classification-incomplete", element->nameRange,
-            QStringLiteral("nothing is said about %1").arg(PxMessageText::quotedList(missing)),
-            QStringLiteral("size name or material are empty"));
+        m_report
+            .add(PxTag::ClassificationIncomplete, element->nameRange,
+                 QStringLiteral("nothing is said about %1").arg(PxMessageText::quotedList(missing)))
+            .now(QStringLiteral("size name or material are empty"));
 
     const PxProductMaterial material = m_product.description().classification().material();
     if (material.value().trimmed().isEmpty() || !material.visibleDescription().isEmpty())
         return;
-    m_product.add(
-        findings, "material-unknown", element->rangeOf(QStringLiteral("group")),
-        QStringLiteral("\"%1\" is no material").arg(material.value()),
-        QStringLiteral("it is a material of its own, without a display name"),
-        PxSpelling::hint(material.value(), PxFormat::keywordNames(PxKeywordSet::Material)));
+    m_report
+        .add(PxTag::MaterialUnknown, element->rangeOf(QStringLiteral("group")),
+             QStringLiteral("\"%1\" is no material").arg(material.value()))
+        .now(QStringLiteral("it is a material of its own, without a display name"))
+        .hint(PxSpelling::hint(material.value(), PxFormat::keywordNames(PxKeywordSet::Material)));
 }

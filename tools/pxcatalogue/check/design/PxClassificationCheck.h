@@ -1,5 +1,6 @@
 #pragma once
 
+#include "check/findings/PxReporter.h"
 #include "check/source/PxCheckedProduct.h"
 
 /** Checks size names and material. */
@@ -7,10 +8,14 @@ class PxClassificationCheck
 {
 public:
     /** The product must outlive the check. */
-    explicit PxClassificationCheck(const PxCheckedProduct &product) : m_product(product) {}
+    PxClassificationCheck(const PxCheckedProduct &product, const PxReporter &report)
+        : m_product(product)
+        , m_report(report)
+    {}
 
-    void run(PxFindings *findings) const;
+    void run();
 
 private:
     const PxCheckedProduct &m_product;
+    const PxReporter m_report;
 };

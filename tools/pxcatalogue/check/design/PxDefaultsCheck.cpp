@@ -1,7 +1,6 @@
 #include "check/design/PxDefaultsCheck.h"
 
 #include "check/design/PxDefaultsOverrides.h"
-#include "check/findings/PxFileFindings.h"
 #include "check/source/PxPageEntries.h"
 #include "check/source/PxSourceParts.h"
 #include "check/words/PxMessageText.h"
@@ -27,25 +26,24 @@ QString templatesText(const PxDefaultsEntry::Templates &templates)
 
 } // namespace
 
-void PxDefaultsCheck::run(PxFindings *findings) const
+void PxDefaultsCheck::run()
 {
     const auto containers = m_parent.childrenNamed(QStringLiteral("defaults"));
     if (containers.isEmpty())
         return;
-    checkNesting(containers, findings);
-    PxDefaultsOverrides overrides(m_file);
+    checkNesting(containers);
+    PxDefaultsOverrides overrides(m_report);
     for (const auto *child : containers.constFirst()->childrenNamed(QStringLiteral("defaults"))) {
         const PxDefaultsEntry entry(*child);
-        checkThemes(entry, findings);
-        checkPageTypes(entry, findings);
-        checkTemplates(entry, findings);
-        overrides.add(entry, findings);
+        checkThemes(entry);
+        checkPageTypes(entry);
+        checkTemplates(entry);
+        overrides.add(entry);
     }
 }
 
 /** One finding for all: whoever knows the container puts every entry into it. */
-void PxDefaultsCheck::checkNesting(const QVector<const PxSourceElement *> &containers,
-                                   PxFindings *findings) const
+void PxDefaultsCheck::checkNesting(const QVector<const PxSourceElement *> &containers) const
 {
     const PxSourceElement &first = *containers.constFirst();
     const int entries = first.childrenNamed(QStringLiteral("defaults")).size();
@@ -53,58 +51,61 @@ void PxDefaultsCheck::checkNesting(const QVector<const PxSourceElement *> &conta
     if (!isFlat && containers.size() == 1)
         return;
     const PxSourceElement &misplaced = isFlat ? first : *containers[1];
-    m_file.add(
-        findings, "defaults-not-nested", misplaced.nameRange,
-        PxDefaultsEntry::isEntry(misplaced)
-            ? QStringLiteral("an entry directly in \"%1\"").arg(m_parent.name)
-            : QStringLiteral("a second container of \"defaults\""),
-        QStringLiteral("only what is in the first \"defaults\" is read: %1 entries").arg(entries),
-        QStringLiteral("put all entries into one \"defaults\""));
+    m_report
+        .add(PxTag::DefaultsNotNested, misplaced.nameRange,
+             PxDefaultsEntry::isEntry(misplaced)
+                 ? QStringLiteral("an entry directly in \"%1\"").arg(m_parent.name)
+                 : QStringLiteral("a second container of \"defaults\""))
+        .now(QStringLiteral("only what is in the first \"defaults\" is read: %1 entries")
+                 .arg(entries))
+        .hint(QStringLiteral("put all entries into one \"defaults\""));
 }
 
-void PxDefaultsCheck::checkThemes(const PxDefaultsEntry &entry, PxFindings *findings) const
+void PxDefaultsCheck::checkThemes(const PxDefaultsEntry &entry) const
 {
-    constexpr const char *tag = "defaults-theme-unknown";
+    constexpr PxTag tag = PxTag::DefaultsThemeUnknown;
     const QString now = QStringLiteral("no theme finds these templates");
     if (entry.themes().isEmpty()) {
-        m_file.add(findings, tag, entry.element().rangeOf(QStringLiteral("theme")),
-                   QStringLiteral("\"theme\" names no theme"), now,
-                   QStringLiteral("without the attribute they are for \"normal\""));
+        m_report
+            .add(tag, entry.element().rangeOf(QStringLiteral("theme")),
+                 QStringLiteral("\"theme\" names no theme"))
+            .now(now)
+            .hint(QStringLiteral("without the attribute they are for \"normal\""));
         return;
     }
     if (m_themeIds.isEmpty())
         return;
-    PxFileFindings found(m_file, findings);
     const PxSourceList list =
-        PxSourceParts::ofAttribute(m_file, entry.element(), QStringLiteral("theme"));
+        PxSourceParts::ofAttribute(m_report.file(), entry.element(), QStringLiteral("theme"));
     for (const PxSourcePart &part : list.parts) {
         const QString id = part.text.trimmed();
         // Other themes fall back to this one, whether it is there or not.
         if (id.isEmpty() || id == QLatin1String("normal") || m_themeIds.contains(id))
             continue;
-        found.add(tag, part.range, QStringLiteral("there is no theme \"%1\"").arg(id), now,
-                  found.isTold(tag, part.range) ? m_themeIds.hint(id) : QString());
+        m_report.add(tag, part.range, QStringLiteral("there is no theme \"%1\"").arg(id))
+            .now(now)
+            .hint([&] { return m_themeIds.hint(id); });
     }
 }
 
-void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry, PxFindings *findings) const
+void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry) const
 {
     const QString attribute = QStringLiteral("pageType");
     const QString now = QStringLiteral("no page finds these templates");
     const QVector<PxSourcePart> parts =
-        PxSourceParts::ofAttribute(m_file, entry.element(), attribute).parts;
+        PxSourceParts::ofAttribute(m_report.file(), entry.element(), attribute).parts;
     if (std::all_of(parts.begin(), parts.end(),
                     [](const PxSourcePart &part) { return part.text.trimmed().isEmpty(); })) {
         const PxMissingPart missing = entry.missing(attribute);
-        m_file.add(
-            findings, "defaults-page-type-missing", missing.range,
-            parts.isEmpty() ? QStringLiteral("\"pageType\" is missing")
-                            : QStringLiteral("\"pageType\" names no type of page"),
-            now,
-            missing.hintOr(QStringLiteral("name the types of pages, as pageType=\"normalpage\"")));
+        m_report
+            .add(PxTag::DefaultsPageTypeMissing, missing.range,
+                 parts.isEmpty() ? QStringLiteral("\"pageType\" is missing")
+                                 : QStringLiteral("\"pageType\" names no type of page"))
+            .now(now)
+            .hint(missing.hintOr(
+                QStringLiteral("name the types of pages, as pageType=\"normalpage\"")));
         return;
     }
-    PxFileFindings found(m_file, findings);
     for (const PxSourcePart &part : parts) {
         const PxPageType pageType =
             static_cast<PxPageTypeEnum>(PxFormat::decode(PxKeywordSet::PageType, part.text));
@@ -112,21 +113,23 @@ void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry, PxFindings *f
         const bool isRange = pageType.isValid() && !pageType.matches(PxPageTypeAll);
         if (!isUnion && !isRange)
             continue;
-        found.add("defaults-page-type-union", part.range,
-                  isUnion ? QStringLiteral("\"%1\" is more than one type").arg(part.text.trimmed())
-                          : QStringLiteral("\"%1\" stands for pages of another type")
-                                .arg(part.text.trimmed()),
-                  now,
-                  isUnion ? QStringLiteral("name each type, as \"fullcover,spine\"")
+        m_report
+            .add(PxTag::DefaultsPageTypeUnion, part.range,
+                 isUnion ? QStringLiteral("\"%1\" is more than one type").arg(part.text.trimmed())
+                         : QStringLiteral("\"%1\" stands for pages of another type")
+                               .arg(part.text.trimmed()))
+            .now(now)
+            .hint(isUnion ? QStringLiteral("name each type, as \"fullcover,spine\"")
                           : PxSpelling::didYouMean(QStringLiteral("normalpage")));
     }
 }
 
 /** Only where a name is lost: giving one twice does no harm. */
-void PxDefaultsCheck::checkTemplates(const PxDefaultsEntry &entry, PxFindings *findings) const
+void PxDefaultsCheck::checkTemplates(const PxDefaultsEntry &entry) const
 {
     QVector<PxSourcePart> names =
-        PxSourceParts::ofAttribute(m_file, entry.element(), QStringLiteral("templates")).parts;
+        PxSourceParts::ofAttribute(m_report.file(), entry.element(), QStringLiteral("templates"))
+            .parts;
     names.erase(std::remove_if(names.begin(), names.end(),
                                [](const PxSourcePart &name) { return name.text.isEmpty(); }),
                 names.end());
@@ -146,7 +149,9 @@ void PxDefaultsCheck::checkTemplates(const PxDefaultsEntry &entry, PxFindings *f
                   .arg(names.size())
             : QStringLiteral("the %1 is given in \"templates\" and as an attribute")
                   .arg(isBackground ? QLatin1String("background") : QLatin1String("layout"));
-    m_file.add(findings, "defaults-templates-count",
-               names.size() > 2 ? names[2].range : lost->range, message, templatesText(used),
-               names.size() > 2 ? QString() : QStringLiteral("keep the one that is meant"));
+    m_report
+        .add(PxTag::DefaultsTemplatesCount, names.size() > 2 ? names[2].range : lost->range,
+             message)
+        .now(templatesText(used))
+        .hint(names.size() > 2 ? QString() : QStringLiteral("keep the one that is meant"));
 }

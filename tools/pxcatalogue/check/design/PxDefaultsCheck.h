@@ -1,6 +1,7 @@
 #pragma once
 
 #include "check/design/PxDefaultsEntry.h"
+#include "check/findings/PxReporter.h"
 #include "check/source/PxCheckedFile.h"
 #include "check/words/PxKnownNames.h"
 
@@ -9,23 +10,21 @@ class PxDefaultsCheck
 {
 public:
     /** `parent` holds the container. The ids of all themes; none when they are not known. */
-    PxDefaultsCheck(const PxCheckedFile &file, const PxSourceElement &parent,
-                    PxKnownNames &themeIds)
-        : m_file(file)
-        , m_parent(parent)
+    PxDefaultsCheck(const PxSourceElement &parent, PxKnownNames &themeIds, const PxReporter &report)
+        : m_parent(parent)
         , m_themeIds(themeIds)
+        , m_report(report)
     {}
 
-    void run(PxFindings *findings) const;
+    void run();
 
 private:
-    void checkNesting(const QVector<const PxSourceElement *> &containers,
-                      PxFindings *findings) const;
-    void checkThemes(const PxDefaultsEntry &entry, PxFindings *findings) const;
-    void checkPageTypes(const PxDefaultsEntry &entry, PxFindings *findings) const;
-    void checkTemplates(const PxDefaultsEntry &entry, PxFindings *findings) const;
+    void checkNesting(const QVector<const PxSourceElement *> &containers) const;
+    void checkThemes(const PxDefaultsEntry &entry) const;
+    void checkPageTypes(const PxDefaultsEntry &entry) const;
+    void checkTemplates(const PxDefaultsEntry &entry) const;
 
-    const PxCheckedFile &m_file;
     const PxSourceElement &m_parent;
     PxKnownNames &m_themeIds;
+    const PxReporter m_report;
 };

@@ -1,5 +1,6 @@
 #include "check/design/PxDefaultsEntry.h"
 
+#include "check/PxCheckLimits.h"
 #include "check/source/PxSourceParts.h"
 #include "format/PxFormat.h"
 
@@ -41,7 +42,7 @@ PxDefaultsEntry::PxDefaultsEntry(const PxSourceElement &element)
           PxFormat::decode(PxKeywordSet::Alignment, listOf(element, QStringLiteral("alignment"))))
 {
     pxForEachPart(listOf(element, QStringLiteral("theme")), [this](QStringView theme) {
-        if (!theme.trimmed().isEmpty() && m_themes.size() < PxSourceParts::maximum)
+        if (!theme.trimmed().isEmpty() && m_themes.size() < PxCheckLimits::listParts)
             m_themes.append(theme.trimmed().toString());
     });
     m_themes.removeDuplicates();

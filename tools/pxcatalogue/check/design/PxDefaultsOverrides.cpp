@@ -2,22 +2,17 @@
 
 #include "check/words/PxMessageText.h"
 
+#include "check/PxCheckLimits.h"
+
 #include <PxPageAlignment.h>
 
-namespace {
-
-// Lists of a hostile file cross into millions of pages; real ones into hundreds.
-constexpr int maximumPages = 100000;
-
-} // namespace
-
-void PxDefaultsOverrides::add(const PxDefaultsEntry &entry, PxFindings *findings)
+void PxDefaultsOverrides::add(const PxDefaultsEntry &entry)
 {
     if (!entry.isPlain())
         return;
     const QVector<Page> pages = pagesOf(entry);
     m_asked += pages.size();
-    if (m_asked > maximumPages)
+    if (m_asked > PxCheckLimits::pagesOfDefaults)
         return;
     QMap<int, QVector<Page>> taken;
     for (const Page &page : pages) {
@@ -35,7 +30,7 @@ void PxDefaultsOverrides::add(const PxDefaultsEntry &entry, PxFindings *findings
         const bool isLoss = (used.layout.isEmpty() && !before.layout.isEmpty()) ||
                             (used.background.isEmpty() && !before.background.isEmpty());
         if (isWhole || isLoss) {
-            report(entry, m_entries[it.key()], isWhole, it->constFirst(), findings);
+            report(entry, m_entries[it.key()], isWhole, it->constFirst());
             return;
         }
     }
@@ -57,16 +52,16 @@ QVector<PxDefaultsOverrides::Page> PxDefaultsOverrides::pagesOf(const PxDefaults
             for (const int alignment : splitEnumType(entry.alignments()))
                 pages.append({theme, pageType, alignment});
         }
-        if (pages.size() > maximumPages)
+        if (pages.size() > PxCheckLimits::pagesOfDefaults)
             break;
     }
     return pages;
 }
 
 void PxDefaultsOverrides::report(const PxDefaultsEntry &entry, const PxDefaultsEntry &replaced,
-                                 bool isWhole, const Page &page, PxFindings *findings) const
+                                 bool isWhole, const Page &page) const
 {
-    const QString line = PxMessageText::line(m_file, replaced.element().nameRange);
+    const QString line = m_report.line(replaced.element().nameRange);
     const auto [theme, pageType, alignment] = page;
     const QString side =
         EnumHelper::encodeKeyword(static_cast<PxPageAlignment>(alignment),
@@ -76,13 +71,15 @@ void PxDefaultsOverrides::report(const PxDefaultsEntry &entry, const PxDefaultsE
     const bool isLayout = entry.templates().layout.isEmpty() && !before.layout.isEmpty();
     const QString lost = isLayout ? QStringLiteral("the layout \"%1\"").arg(before.layout)
                                   : QStringLiteral("the background \"%1\"").arg(before.background);
-    m_file.add(
-        findings, "defaults-overridden", entry.element().nameRange,
-        QStringLiteral("replaces %1 for %2/%3/%4")
-            .arg(line, theme, PxPageType(static_cast<PxPageTypeEnum>(pageType)).encodeCSV(), side),
-        isWhole ? QStringLiteral("%1 is never used").arg(line)
-                : QStringLiteral("%1 of %2 is lost there").arg(lost, line),
-        isWhole
-            ? QStringLiteral("keep the one that is meant")
-            : QStringLiteral("an entry names layout and background, also what does not change"));
+    m_report
+        .add(PxTag::DefaultsOverridden, entry.element().nameRange,
+             QStringLiteral("replaces %1 for %2/%3/%4")
+                 .arg(PxFinding::otherPlaceMark, theme,
+                      PxPageType(static_cast<PxPageTypeEnum>(pageType)).encodeCSV(), side))
+        .otherPlace(m_report.file().place(replaced.element().nameRange))
+        .now(isWhole ? QStringLiteral("%1 is never used").arg(line)
+                     : QStringLiteral("%1 of %2 is lost there").arg(lost, line))
+        .hint(isWhole ? QStringLiteral("keep the one that is meant")
+                      : QStringLiteral(
+                            "an entry names layout and background, also what does not change"));
 }

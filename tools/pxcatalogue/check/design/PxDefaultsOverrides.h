@@ -1,6 +1,7 @@
 #pragma once
 
 #include "check/design/PxDefaultsEntry.h"
+#include "check/findings/PxReporter.h"
 #include "check/source/PxCheckedFile.h"
 
 #include <QHash>
@@ -13,10 +14,10 @@ class PxDefaultsOverrides
 {
 public:
     /** The file must outlive the object. */
-    explicit PxDefaultsOverrides(const PxCheckedFile &file) : m_file(file) {}
+    PxDefaultsOverrides(const PxReporter &report) : m_report(report) {}
 
     /** Holds an entry against those that were added before it. */
-    void add(const PxDefaultsEntry &entry, PxFindings *findings);
+    void add(const PxDefaultsEntry &entry);
 
 private:
     using Templates = PxDefaultsEntry::Templates;
@@ -25,9 +26,9 @@ private:
     Templates templatesOf(int entry);
     QVector<Page> pagesOf(const PxDefaultsEntry &entry) const;
     void report(const PxDefaultsEntry &entry, const PxDefaultsEntry &replaced, bool isWhole,
-                const Page &page, PxFindings *findings) const;
+                const Page &page) const;
 
-    const PxCheckedFile &m_file;
+    const PxReporter m_report;
     QVector<PxDefaultsEntry> m_entries;
     QHash<int, Templates> m_templates; // by index of the entry
     QVector<int> m_pageCounts;         // how many pages each entry was for

@@ -1,6 +1,6 @@
 #include "check/design/PxUserDefaultsCheck.h"
 
-#include "check/words/PxMessageText.h"
+#include "check/design/PxDefaultsCheck.h"
 #include "check/words/PxSpelling.h"
 
 #include <PxProductType.h>
@@ -9,9 +9,16 @@
 
 #include <algorithm>
 
-void PxUserDefaultsCheck::checkName(PxFindings *findings) const
+void PxUserDefaultsCheck::run()
 {
-    const QString fileName = QFileInfo(m_file.path()).fileName();
+    checkName();
+    if (checkStart())
+        PxDefaultsCheck(*m_report.file().root(), m_themeIds, m_report).run();
+}
+
+void PxUserDefaultsCheck::checkName() const
+{
+    const QString fileName = QFileInfo(m_report.file().path()).fileName();
     const QString suffix = QStringLiteral(".xml");
     const bool isSuffix = fileName.endsWith(suffix);
     const QString name =
@@ -36,27 +43,30 @@ void PxUserDefaultsCheck::checkName(PxFindings *findings) const
     } else {
         return; // a product whose file is broken, or not among the files that are checked
     }
-    m_file.add(findings, "user-defaults-without-product", {0, 0}, message,
-               QStringLiteral("the library does not look for this file"), hint);
+    m_report.add(PxTag::UserDefaultsWithoutProduct, PxSourceRange{0, 0}, message)
+        .now(QStringLiteral("the library does not look for this file"))
+        .hint(hint);
 }
 
-bool PxUserDefaultsCheck::checkStart(PxFindings *findings) const
+/** Whether the library gets to the entries: what stands above the first element may hide them. */
+bool PxUserDefaultsCheck::checkStart() const
 {
     // As the library does: the first node is meant to be the element that holds the container.
-    const QDomNode first = m_file.document().firstChild();
+    const QDomNode first = m_report.file().document().firstChild();
     if (first.isElement())
         return true;
-    const QString text = m_file.source().text();
+    const QString text = m_report.file().source().text();
     const int begin = qMax(0, text.indexOf(QLatin1Char('<')));
     const int end = text.indexOf(QLatin1Char('>'), begin) + 1;
-    const QString what = first.isComment()        ? PxMessageText::kind(PxSourceNode::Kind::Comment)
+    const QString what = first.isComment() ? PxSourceNode::kindText(PxSourceNode::Kind::Comment)
                          : first.isDocumentType() ? QStringLiteral("a document type")
                          : text.midRef(begin).startsWith(QLatin1String("<?xml "))
                              ? QStringLiteral("an XML declaration")
-                             : PxMessageText::kind(PxSourceNode::Kind::ProcessingInstruction);
-    m_file.add(findings, "user-defaults-unreadable", {begin, qMax(begin, end)},
-               what + QStringLiteral(" above the first element"),
-               QStringLiteral("nothing is found in this file"),
-               QStringLiteral("take it out; without a declaration the file is UTF-8"));
+                             : PxSourceNode::kindText(PxSourceNode::Kind::ProcessingInstruction);
+    m_report
+        .add(PxTag::UserDefaultsUnreadable, PxSourceRange{begin, qMax(begin, end)},
+             what + QStringLiteral(" above the first element"))
+        .now(QStringLiteral("nothing is found in this file"))
+        .hint(QStringLiteral("take it out; without a declaration the file is UTF-8"));
     return false;
 }

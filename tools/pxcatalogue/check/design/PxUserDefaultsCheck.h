@@ -1,24 +1,32 @@
 #pragma once
 
-#include "check/source/PxCheckedFile.h"
+#include "check/findings/PxReporter.h"
+#include "check/words/PxKnownNames.h"
 
 #include <QSet>
 
-/** Checks whether the library finds a file of user defaults, and the entries in it. */
+/** Checks a file of user defaults: whether the library finds it, and the entries in it. */
 class PxUserDefaultsCheck
 {
 public:
-    /** The names in all product files, as they are spelt there; none when they are not known. */
-    PxUserDefaultsCheck(const PxCheckedFile &file, const QSet<QString> &productNames)
-        : m_file(file)
-        , m_productNames(productNames)
+    /**
+     * The names in all product files, as they are spelt there, and the ids of all themes; none if
+     * they are not known. Both must outlive the check.
+     */
+    PxUserDefaultsCheck(const QSet<QString> &productNames, PxKnownNames &themeIds,
+                        const PxReporter &report)
+        : m_productNames(productNames)
+        , m_themeIds(themeIds)
+        , m_report(report)
     {}
 
-    void checkName(PxFindings *findings) const;
-    /** False when the library finds no entry because of what stands above the first element. */
-    bool checkStart(PxFindings *findings) const;
+    void run();
 
 private:
-    const PxCheckedFile &m_file;
+    void checkName() const;
+    bool checkStart() const;
+
     const QSet<QString> &m_productNames;
+    PxKnownNames &m_themeIds;
+    const PxReporter m_report;
 };

@@ -10,7 +10,7 @@
 
 #include <algorithm>
 
-void PxVariantCheck::run(PxFindings *findings) const
+void PxVariantCheck::run()
 {
     const auto *list = m_product.element().firstChild(QStringLiteral("variants"));
     if (!list || !m_product.type().isValid())
@@ -20,29 +20,32 @@ void PxVariantCheck::run(PxFindings *findings) const
         all.begin(), all.end(), [this](const QString &identifier) { return isNamed(identifier); });
     if (all.size() > 1 && !isAnyNamed) {
         const PxMissingPart text = PxElementReading(*list->children.constFirst()).missingText();
-        m_product.add(findings, "variant-unnamed",
-                      text.hint.isEmpty() ? list->nameRange : text.range,
-                      QStringLiteral("none of the %1 variants has a display name for %2")
-                          .arg(all.size())
-                          .arg(m_product.type().productName()),
-                      QStringLiteral("the product has no variants"), text.hint);
+        m_report
+            .add(PxTag::VariantUnnamed, text.hint.isEmpty() ? list->nameRange : text.range,
+                 QStringLiteral("none of the %1 variants has a display name for %2")
+                     .arg(all.size())
+                     .arg(m_product.type().productName()))
+            .now(QStringLiteral("the product has no variants"))
+            .hint(text.hint);
     } else {
-        checkEach(*list, findings);
+        checkEach(*list);
     }
 }
 
-void PxVariantCheck::checkEach(const PxSourceElement &list, PxFindings *findings) const
+void PxVariantCheck::checkEach(const PxSourceElement &list) const
 {
     QMap<QString, const PxSourceElement *> known;
     for (const PxSourceElement *variant : list.children) {
         const QString identifier = variant->dom.text();
         const PxSourceElement *first = known.value(identifier);
         if (first && !identifier.trimmed().isEmpty()) {
-            m_product.add(
-                findings, "variant-twice", variant->textRange(),
-                QStringLiteral("\"%1\" is also in %2")
-                    .arg(identifier, PxMessageText::line(m_product.file(), first->nameRange)),
-                QStringLiteral("it is shown once"), QStringLiteral("take one of them out"));
+            m_report
+                .add(PxTag::VariantTwice, variant->textRange(),
+                     QStringLiteral("\"%1\" is also in %2")
+                         .arg(identifier, PxFinding::otherPlaceMark))
+                .otherPlace(m_report.file().place(first->nameRange))
+                .now(QStringLiteral("it is shown once"))
+                .hint(QStringLiteral("take one of them out"));
             continue;
         }
         known.insert(identifier, variant);
@@ -50,12 +53,13 @@ void PxVariantCheck::checkEach(const PxSourceElement &list, PxFindings *findings
             continue;
         const QString tidy = identifier.trimmed().toLower();
         const PxMissingPart text = PxElementReading(*variant).missingText();
-        m_product.add(findings, "variant-unnamed", text.range,
-                      tidy.isEmpty() ? QStringLiteral("the variant is empty")
-                                     : QStringLiteral("\"%1\" has no display name for %2")
-                                           .arg(identifier, m_product.type().productName()),
-                      QStringLiteral("this variant is hidden"),
-                      isNamed(tidy) ? PxSpelling::didYouMean(tidy) : text.hint);
+        m_report
+            .add(PxTag::VariantUnnamed, text.range,
+                 tidy.isEmpty() ? QStringLiteral("the variant is empty")
+                                : QStringLiteral("\"%1\" has no display name for %2")
+                                      .arg(identifier, m_product.type().productName()))
+            .now(QStringLiteral("this variant is hidden"))
+            .hint(isNamed(tidy) ? PxSpelling::didYouMean(tidy) : text.hint);
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "check/findings/PxReporter.h"
 #include "check/source/PxCheckedProduct.h"
 
 /** Checks the variants of a product: whether each is shown. */
@@ -7,13 +8,17 @@ class PxVariantCheck
 {
 public:
     /** The product must outlive the check. */
-    explicit PxVariantCheck(const PxCheckedProduct &product) : m_product(product) {}
+    PxVariantCheck(const PxCheckedProduct &product, const PxReporter &report)
+        : m_product(product)
+        , m_report(report)
+    {}
 
-    void run(PxFindings *findings) const;
+    void run();
 
 private:
-    void checkEach(const PxSourceElement &list, PxFindings *findings) const;
+    void checkEach(const PxSourceElement &list) const;
     bool isNamed(const QString &identifier) const;
 
     const PxCheckedProduct &m_product;
+    const PxReporter m_report;
 };

@@ -1,6 +1,8 @@
 #pragma once
 
-/** How bad it is that what a file says and what the library does part ways. */
+#include "check/findings/PxTag.h"
+
+/** How bad a finding is. */
 enum class PxSeverity {
     Pedantic, ///< a matter of style
     Info,     ///< surprising but legal
@@ -11,7 +13,8 @@ enum class PxSeverity {
 /** One kind of finding: what the explanation, the documentation and the tests are made from. */
 struct PxCheckTag
 {
-    const char *name;
+    PxTag tag;
+    const char *name; ///< as users write it
     PxSeverity severity;
     const char *summary;     ///< one line, without a full stop
     const char *explanation; ///< what happens, why, and what to do: sentences, one line

@@ -39,6 +39,12 @@ QStringList PxCheckTags::names()
     return names;
 }
 
+/** The tags are enumerated by name, too. */
+const PxCheckTag &PxCheckTags::of(PxTag tag)
+{
+    return *all().at(int(tag));
+}
+
 const PxCheckTag *PxCheckTags::find(const QString &name)
 {
     const auto found = std::lower_bound(all().begin(), all().end(), name, isBefore);

@@ -12,6 +12,7 @@ class PxCheckTags
 public:
     static const QVector<const PxCheckTag *> &all();
     static QStringList names();
+    static const PxCheckTag &of(PxTag tag);
     /** Null when there is none. */
     static const PxCheckTag *find(const QString &name);
 

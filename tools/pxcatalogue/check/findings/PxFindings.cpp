@@ -1,18 +1,17 @@
 #include "check/findings/PxFindings.h"
 
-#include "check/findings/PxCheckTags.h"
+#include "check/PxCheckLimits.h"
+#include "check/findings/PxReporter.h"
 #include "check/words/PxSpelling.h"
 
 #include <algorithm>
 #include <iterator>
-#include <stdexcept>
-#include <string>
 #include <tuple>
 
 namespace {
 
-constexpr const char *tagsOfNamesOnly[] = {"attribute-unknown", "element-misplaced",
-                                           "element-unknown", "text-not-read"};
+constexpr PxTag tagsOfNamesOnly[] = {PxTag::AttributeUnknown, PxTag::ElementMisplaced,
+                                     PxTag::ElementUnknown, PxTag::TextNotRead};
 
 bool isBefore(const PxFinding &a, const PxFinding &b)
 {
@@ -26,51 +25,53 @@ bool isBefore(const PxFinding &a, const PxFinding &b)
 /** Says that something is not read, and not what the product or theme lacks for it. */
 bool isOfNameOnly(const PxCheckTag *tag)
 {
-    return std::any_of(std::begin(tagsOfNamesOnly), std::end(tagsOfNamesOnly),
-                       [&](const char *name) { return qstrcmp(name, tag->name) == 0; });
+    return std::find(std::begin(tagsOfNamesOnly), std::end(tagsOfNamesOnly), tag->tag) !=
+           std::end(tagsOfNamesOnly);
 }
 
-QString shortened(const QString &text)
+/** For an allowance that silences nothing. */
+QString hintFor(const QString &tag)
 {
-    return text.size() <= PxFindings::maximumLength
-               ? text
-               : text.left(PxFindings::maximumLength) + QStringLiteral("…");
+    if (tag.isEmpty())
+        return QStringLiteral("write the tag that it is for");
+    if (PxCheckTags::find(tag))
+        return QStringLiteral("take the comment out");
+    if (tag.contains(QLatin1Char(',')))
+        return QStringLiteral("write a comment for each tag");
+    const QString meant = PxSpelling::hint(tag, PxCheckTags::names());
+    return meant.isEmpty() ? QStringLiteral("take the comment out") : meant;
 }
 
 } // namespace
 
-void PxFindings::add(const char *tag, const PxPlace &place, const QString &message,
-                     const QString &now, const QString &hint)
+PxFinding *PxFindings::add(PxTag tag, const PxPlace &place, const QString &message)
 {
-    const PxCheckTag *found = PxCheckTags::find(QLatin1String(tag));
-    if (!found)
-        throw std::logic_error(std::string("there is no tag ") + tag);
-    if (!m_allowances.allows(QLatin1String(tag), place))
-        append(found, place, message, now, hint);
+    const PxCheckTag &row = PxCheckTags::of(tag);
+    return m_allowances.allows(QLatin1String(row.name), place) ? nullptr
+                                                               : append(row, place, message);
 }
 
-void PxFindings::append(const PxCheckTag *tag, const PxPlace &place, const QString &message,
-                        const QString &now, const QString &hint)
+bool PxFindings::hasRoom(PxTag tag, const QString &path) const
 {
-    OfTag &ofTag = m_findings[{place.path, tag}];
-    ofTag.severity = m_severities.value(QLatin1String(tag->name), tag->severity);
-    if (ofTag.told.size() < maximumOfTag)
-        ofTag.told.append(
-            {tag, ofTag.severity, place, shortened(message), shortened(now), shortened(hint)});
-    else
+    return m_findings.value({path, &PxCheckTags::of(tag)}).listed.size() <
+           PxCheckLimits::findingsOfTag;
+}
+
+PxFinding *PxFindings::append(const PxCheckTag &tag, const PxPlace &place, const QString &message)
+{
+    OfTag &ofTag = m_findings[{place.path, &tag}];
+    ofTag.severity = m_severities.value(QLatin1String(tag.name), tag.severity);
+    if (ofTag.listed.size() >= PxCheckLimits::findingsOfTag) {
         ofTag.rest.append({place.line, place.column});
-}
-
-bool PxFindings::isTold(const char *tag, const PxPlace &place)
-{
-    return hasRoom(PxCheckTags::find(QLatin1String(tag)), place.path) &&
-           !m_allowances.allows(QLatin1String(tag), place);
-}
-
-bool PxFindings::hasRoom(const PxCheckTag *tag, const QString &path) const
-{
-    const auto found = m_findings.constFind({path, tag});
-    return found == m_findings.constEnd() || found->told.size() < maximumOfTag;
+        return nullptr;
+    }
+    PxFinding finding;
+    finding.tag = &tag;
+    finding.severity = ofTag.severity;
+    finding.place = place;
+    finding.message = message;
+    ofTag.listed.append(finding);
+    return &ofTag.listed.last();
 }
 
 void PxFindings::allow(const QString &tag, const PxPlace &comment, const PxPlace &part,
@@ -88,7 +89,7 @@ bool PxFindings::isWanted(const QString &tag) const
 QString PxFindings::lack(const PxCheckTag &tag) const
 {
     return m_isPartial && tag.needsCatalogue ? QStringLiteral("without the whole catalogue")
-                                             : m_notChecked.value(QLatin1String(tag.name));
+                                             : m_notChecked.value(&tag);
 }
 
 QVector<PxFinding> PxFindings::sorted() const
@@ -102,12 +103,12 @@ QVector<PxFinding> PxFindings::sorted() const
         if (isOfNameOnly(it.key().second))
             paths.insert(it.key().first);
     }
-    // Not before: what is not told stands for nothing, and an allowance is of use all the same.
+    // Last: a finding that nobody wants to see hides no other, though an allowance may silence it.
     for (const QString &path : qAsConst(paths))
         left.removeCauses(path);
     QVector<PxFinding> sorted;
     for (auto it = left.m_findings.constBegin(); it != left.m_findings.constEnd(); ++it) {
-        sorted += it->told;
+        sorted += it->listed;
         if (it->rest.isEmpty())
             continue;
         const Spot first = *std::min_element(it->rest.begin(), it->rest.end());
@@ -135,7 +136,7 @@ void PxFindings::removeUnwanted()
 
 /**
  * A name that is not read, and what is missing for it, are one mistake and stand at one place: the
- * consequence is told, unless it matters less.
+ * consequence is listed, unless it matters less.
  */
 void PxFindings::removeCauses(const QString &path)
 {
@@ -151,7 +152,7 @@ void PxFindings::removeCauses(const QString &path)
             continue;
         Mark mark;
         mark.worst[isOfNameOnly(it.key().second)] = int(it->severity);
-        for (const PxFinding &finding : it->told) {
+        for (const PxFinding &finding : it->listed) {
             mark.spot = {finding.place.line, finding.place.column};
             marks.append(mark);
         }
@@ -176,38 +177,30 @@ void PxFindings::removeCauses(const QString &path)
             const auto place = std::lower_bound(places.begin(), places.end(), Mark{spot}, isBefore);
             return place->worst[1] >= 0 && (place->worst[1] > place->worst[0]) != isOfName;
         };
-        it->told.erase(
-            std::remove_if(it->told.begin(), it->told.end(),
+        it->listed.erase(
+            std::remove_if(it->listed.begin(), it->listed.end(),
                            [&](const PxFinding &finding) {
                                return isLeftOut({finding.place.line, finding.place.column});
                            }),
-            it->told.end());
+            it->listed.end());
         it->rest.erase(std::remove_if(it->rest.begin(), it->rest.end(), isLeftOut), it->rest.end());
     }
 }
 
-/** An allowance does not allow itself, nor another one. */
+/** Appended, not added: no allowance silences itself or another one. */
 void PxFindings::addUnused(const PxAllowances::Allowance &allowance)
 {
-    const PxCheckTag *unused = PxCheckTags::find(QStringLiteral("allowance-unused"));
-    const PxPlace &place = allowance.comment;
     const PxCheckTag *tag = PxCheckTags::find(allowance.tag);
-    const QString now = QStringLiteral("the comment silences nothing");
-    if (allowance.tag.isEmpty()) {
-        append(unused, place, QStringLiteral("the allowance names no tag"), now,
-               QStringLiteral("write the tag that it is for"));
-    } else if (!tag) {
-        QString hint;
-        if (hasRoom(unused, place.path))
-            hint = allowance.tag.contains(QLatin1Char(','))
-                       ? QStringLiteral("write a comment for each tag")
-                       : PxSpelling::hint(allowance.tag, PxCheckTags::names());
-        append(unused, place, QStringLiteral("there is no tag \"%1\" to allow").arg(allowance.tag),
-               now, hint.isEmpty() ? QStringLiteral("take the comment out") : hint);
-    } else if (!m_excluded.contains(allowance.tag) && lack(*tag).isEmpty()) { // else nobody knows
-        append(unused, place, QStringLiteral("nothing here is \"%1\"").arg(allowance.tag), now,
-               QStringLiteral("take the comment out"));
-    }
+    if (tag && (m_excluded.contains(allowance.tag) || !lack(*tag).isEmpty()))
+        return; // nobody knows what it would silence
+    QString message = QStringLiteral("nothing here is \"%1\"").arg(allowance.tag);
+    if (allowance.tag.isEmpty())
+        message = QStringLiteral("the allowance names no tag");
+    else if (!tag)
+        message = QStringLiteral("there is no tag \"%1\" to allow").arg(allowance.tag);
+    PxAddedFinding(append(PxCheckTags::of(PxTag::AllowanceUnused), allowance.comment, message))
+        .now(QStringLiteral("the comment silences nothing"))
+        .hint([&] { return hintFor(allowance.tag); });
 }
 
 QMap<QString, QString> PxFindings::tagsNotChecked() const

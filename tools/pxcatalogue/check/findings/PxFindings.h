@@ -1,6 +1,7 @@
 #pragma once
 
 #include "check/findings/PxAllowances.h"
+#include "check/findings/PxCheckTags.h"
 
 #include <QHash>
 #include <QMap>
@@ -11,19 +12,6 @@
 class PxFindings
 {
 public:
-    /** Of one tag in one file so many are told; how many more there are is the last one. */
-    static constexpr int maximumOfTag = 100;
-    /** A longer message is cut off: a file may hold a single name of eight million letters. */
-    static constexpr int maximumLength = 1000;
-
-    /** The tag is one of PxCheckTags; else that is a fault of ours, and thrown. */
-    void add(const char *tag, const PxPlace &place, const QString &message,
-             const QString &now = QString(), const QString &hint = QString());
-    /**
-     * Whether one more is told at the place. If not, it is allowed or only counted, and its texts
-     * need not be looked for.
-     */
-    bool isTold(const char *tag, const PxPlace &place);
     /**
      * Silences a tag in a part of a file, as the comment at `comment` says, for what is added after
      * it. When there is nothing to silence, that is a finding of its own, unless the file cannot be
@@ -33,7 +21,10 @@ public:
     /** Not all files of the catalogue are checked. */
     void setPartial(bool isPartial) { m_isPartial = isPartial; }
     /** A tag cannot be checked; `lack` is what is not there for it, as in "without themes". */
-    void setNotChecked(const QString &tag, const QString &lack) { m_notChecked[tag] = lack; }
+    void setNotChecked(PxTag tag, const QString &lack)
+    {
+        m_notChecked[&PxCheckTags::of(tag)] = lack;
+    }
 
     void setSeverity(const QString &tag, PxSeverity severity) { m_severities[tag] = severity; }
     /** Only these tags; all when none are named. */
@@ -51,6 +42,8 @@ public:
     QMap<QString, QString> tagsNotChecked() const;
 
 private:
+    friend class PxReporter;
+
     struct Spot
     {
         int line = 1;
@@ -65,14 +58,15 @@ private:
     struct OfTag
     {
         PxSeverity severity = PxSeverity::Error;
-        QVector<PxFinding> told;
-        QVector<Spot> rest;
+        QVector<PxFinding> listed;
+        QVector<Spot> rest; ///< those that are only counted
     };
     using Key = QPair<QString, const PxCheckTag *>; // path and tag
 
-    bool hasRoom(const PxCheckTag *tag, const QString &path) const;
-    void append(const PxCheckTag *tag, const PxPlace &place, const QString &message,
-                const QString &now, const QString &hint);
+    /** Null if an allowance silences it, or there are so many that it is only counted. */
+    PxFinding *add(PxTag tag, const PxPlace &place, const QString &message);
+    bool hasRoom(PxTag tag, const QString &path) const;
+    PxFinding *append(const PxCheckTag &tag, const PxPlace &place, const QString &message);
     bool isWanted(const QString &tag) const;
     /** Empty for a tag that is checked. */
     QString lack(const PxCheckTag &tag) const;
@@ -85,7 +79,7 @@ private:
     QHash<QString, PxSeverity> m_severities;
     QSet<QString> m_only;
     QSet<QString> m_excluded;
-    QHash<QString, QString> m_notChecked;
+    QHash<const PxCheckTag *, QString> m_notChecked;
     bool m_isPedantic = false;
     bool m_isPartial = false;
 };

@@ -1,5 +1,6 @@
 #include "check/layout/PxBarcodeCheck.h"
 
+#include "check/PxCheckLimits.h"
 #include "check/layout/PxElementRectangle.h"
 #include "check/layout/PxImageCheck.h"
 #include "check/layout/PxProductPages.h"
@@ -11,9 +12,6 @@
 
 namespace {
 
-// Each is held against all before it, for each page count.
-constexpr int maximumBarcodes = 100;
-
 bool isPageNrPlain(const PxSourceElement &barcode)
 {
     const PxElementReading reading(barcode);
@@ -23,9 +21,12 @@ bool isPageNrPlain(const PxSourceElement &barcode)
 
 } // namespace
 
-PxBarcodeCheck::PxBarcodeCheck(const PxCheckedProduct &product, const PxProductPages &pages)
+PxBarcodeCheck::PxBarcodeCheck(const PxCheckedProduct &product, const PxProductPages &pages,
+                               PxImageNames &images, const PxReporter &report)
     : m_product(product)
     , m_pages(pages)
+    , m_images(images)
+    , m_report(report)
 {
     const auto *list = product.element().firstChild(QStringLiteral("barcodes"));
     if (!list)
@@ -34,21 +35,21 @@ PxBarcodeCheck::PxBarcodeCheck(const PxCheckedProduct &product, const PxProductP
     m_barcodes = PxBarcodeList(list->dom);
 }
 
-void PxBarcodeCheck::run(PxFindings *findings) const
+void PxBarcodeCheck::run()
 {
-    for (int i = 0; i < qMin(m_elements.size(), maximumBarcodes); ++i) {
-        PxImageCheck::run(m_product, *m_elements[i], m_barcodes[i].imageName(), findings);
-        const bool hasRect = checkRect(i, findings);
+    for (int i = 0; i < qMin(m_elements.size(), PxCheckLimits::barcodes); ++i) {
+        PxImageCheck(*m_elements[i], m_barcodes[i].imageName(), m_images, m_report).run();
+        const bool hasRect = checkRect(i);
         if (!m_pages.isKnown() || !isPageNrPlain(*m_elements[i]))
             continue;
         const QVector<Place> all = places(i);
-        if (checkReach(i, all, findings) && hasRect)
-            checkInside(i, all, findings);
+        if (checkReach(i, all) && hasRect)
+            checkInside(i, all);
     }
 }
 
 /** Whether there is a rectangle, and no doubt about it. */
-bool PxBarcodeCheck::checkRect(int index, PxFindings *findings) const
+bool PxBarcodeCheck::checkRect(int index) const
 {
     const PxSourceElement &element = *m_elements[index];
     const PxElementRectangle rectangle(element);
@@ -56,8 +57,8 @@ bool PxBarcodeCheck::checkRect(int index, PxFindings *findings) const
         return false;
     if (m_barcodes[index].isValid())
         return true;
-    m_product.add(findings, "barcode-empty", rectangle.placeOfFault(), rectangle.fault(),
-                  QStringLiteral("there is no barcode on that page"));
+    m_report.add(PxTag::BarcodeEmpty, rectangle.placeOfFault(), rectangle.fault())
+        .now(QStringLiteral("there is no barcode on that page"));
     return false;
 }
 
@@ -89,35 +90,36 @@ int PxBarcodeCheck::shadowOf(int index, const QVector<Place> &places) const
 }
 
 /** Whether it is the barcode of some page, as far as can be told. */
-bool PxBarcodeCheck::checkReach(int index, const QVector<Place> &places, PxFindings *findings) const
+bool PxBarcodeCheck::checkReach(int index, const QVector<Place> &places) const
 {
-    constexpr const char *tag = "barcode-unreachable";
+    constexpr PxTag tag = PxTag::BarcodeUnreachable;
     const PxSourceElement &element = *m_elements[index];
     const PxBarcode &barcode = m_barcodes[index];
     if (places.isEmpty()) {
         const bool isBehindLast = barcode.reverseOrder() && barcode.pageNr() == 0;
-        m_product.add(
-            findings, tag, element.rangeOf(QStringLiteral("pageNr")),
-            QStringLiteral("the product has no page %1%2")
-                .arg(barcode.pageNr())
-                .arg(barcode.reverseOrder() ? QLatin1String(" from the back") : QLatin1String()),
-            QStringLiteral("this barcode is on no page"),
-            isBehindLast ? QStringLiteral("from the back the last page is 1")
-                         : QStringLiteral("its pages are 0 to %1").arg(m_pages.lastPage()));
+        m_report
+            .add(tag, element.rangeOf(QStringLiteral("pageNr")),
+                 QStringLiteral("the product has no page %1%2")
+                     .arg(barcode.pageNr())
+                     .arg(barcode.reverseOrder() ? QLatin1String(" from the back")
+                                                 : QLatin1String()))
+            .now(QStringLiteral("this barcode is on no page"))
+            .hint(isBehindLast ? QStringLiteral("from the back the last page is 1")
+                               : QStringLiteral("its pages are 0 to %1").arg(m_pages.lastPage()));
         return false;
     }
     const int shadow = shadowOf(index, places);
     if (shadow < 0 || !isPageNrPlain(*m_elements[shadow]))
         return true;
-    m_product.add(findings, tag, element.nameRange,
-                  QStringLiteral("a second barcode for page %1").arg(places.constFirst().page),
-                  QStringLiteral("the one in %1 is used")
-                      .arg(PxMessageText::line(m_product.file(), m_elements[shadow]->nameRange)));
+    m_report
+        .add(tag, element.nameRange,
+             QStringLiteral("a second barcode for page %1").arg(places.constFirst().page))
+        .now(QStringLiteral("the one in %1 is used")
+                 .arg(m_report.line(m_elements[shadow]->nameRange)));
     return false;
 }
 
-void PxBarcodeCheck::checkInside(int index, const QVector<Place> &places,
-                                 PxFindings *findings) const
+void PxBarcodeCheck::checkInside(int index, const QVector<Place> &places) const
 {
     const QRect rect = m_barcodes[index].rect();
     if (m_product.description().usablePrintSize(PxPageTypeNormalPage, 1).isEmpty() ||
@@ -132,14 +134,15 @@ void PxBarcodeCheck::checkInside(int index, const QVector<Place> &places,
         const QString start = isBeside ? QStringLiteral("x") : QStringLiteral("y");
         const int from = isBeside ? rect.left() : rect.top();
         const qint64 to = qint64(from) + (isBeside ? rect.width() : rect.height());
-        m_product.add(findings, "barcode-outside", m_elements[index]->rangeOf(start),
-                      QStringLiteral("the barcode reaches from %1 = %2 to %3, page %4 from 0 to %5")
-                          .arg(start)
-                          .arg(from)
-                          .arg(to)
-                          .arg(place.page)
-                          .arg(isBeside ? size.width() : size.height()),
-                      QStringLiteral("the rectangle is used as it is"));
+        m_report
+            .add(PxTag::BarcodeOutside, m_elements[index]->rangeOf(start),
+                 QStringLiteral("the barcode reaches from %1 = %2 to %3, page %4 from 0 to %5")
+                     .arg(start)
+                     .arg(from)
+                     .arg(to)
+                     .arg(place.page)
+                     .arg(isBeside ? size.width() : size.height()))
+            .now(QStringLiteral("the rectangle is used as it is"));
         return;
     }
 }

@@ -1,19 +1,22 @@
 #pragma once
 
+#include "check/findings/PxReporter.h"
 #include "check/source/PxCheckedProduct.h"
 
 #include <geometry/PxBarcodeList.h>
 
+class PxImageNames;
 class PxProductPages;
 
 /** Checks the barcodes: whether there is something to print, and a page to print it on. */
 class PxBarcodeCheck
 {
 public:
-    /** Both must outlive the check. */
-    PxBarcodeCheck(const PxCheckedProduct &product, const PxProductPages &pages);
+    /** All of them must outlive the check. */
+    PxBarcodeCheck(const PxCheckedProduct &product, const PxProductPages &pages,
+                   PxImageNames &images, const PxReporter &report);
 
-    void run(PxFindings *findings) const;
+    void run();
 
 private:
     /** A page of a product with so many normal pages, and pages in all. */
@@ -25,14 +28,16 @@ private:
         int pageCount;
     };
 
-    bool checkRect(int index, PxFindings *findings) const;
+    bool checkRect(int index) const;
     QVector<Place> places(int index) const;
     int shadowOf(int index, const QVector<Place> &places) const;
-    bool checkReach(int index, const QVector<Place> &places, PxFindings *findings) const;
-    void checkInside(int index, const QVector<Place> &places, PxFindings *findings) const;
+    bool checkReach(int index, const QVector<Place> &places) const;
+    void checkInside(int index, const QVector<Place> &places) const;
 
     const PxCheckedProduct &m_product;
     const PxProductPages &m_pages;
+    PxImageNames &m_images;
+    const PxReporter m_report;
     QVector<const PxSourceElement *> m_elements;
     PxBarcodeList m_barcodes; // one for each element
 };

@@ -1,21 +1,19 @@
 #include "check/layout/PxImageCheck.h"
 
-#include "check/words/PxImageNames.h"
-
 #include <PxDirectoryConfig.h>
 
 #include <QFileInfo>
 
-void PxImageCheck::run(const PxCheckedProduct &product, const PxSourceElement &element,
-                       const QString &name, PxFindings *findings)
+void PxImageCheck::run()
 {
-    const QFileInfo file(PxDirectoryConfig::instance()->resource(name, false));
-    if (name.isEmpty() || file.isFile())
+    const QFileInfo file(PxDirectoryConfig::instance()->resource(m_name, false));
+    if (m_name.isEmpty() || file.isFile())
         return;
-    product.add(findings, "image-missing", element.rangeOf(QStringLiteral("image")),
-                file.exists()
-                    ? QStringLiteral("\"%1\" is no regular file").arg(name)
-                    : QStringLiteral("there is no image \"%1\" in the resources").arg(name),
-                QStringLiteral("the name is handed on as it is, and nothing is painted"),
-                PxImageNames(PxImageNames::Kind::Any).hint(name, file));
+    m_report
+        .add(PxTag::ImageMissing, m_element.rangeOf(QStringLiteral("image")),
+             file.exists()
+                 ? QStringLiteral("\"%1\" is no regular file").arg(m_name)
+                 : QStringLiteral("there is no image \"%1\" in the resources").arg(m_name))
+        .now(QStringLiteral("the name is handed on as it is, and nothing is painted"))
+        .hint([&] { return m_images.hint(m_name, file); });
 }

@@ -1,6 +1,5 @@
 #include "check/layout/PxNumberListCheck.h"
 
-#include "check/findings/PxFileFindings.h"
 #include "check/layout/PxProductPages.h"
 #include "check/rules/PxElementReading.h"
 #include "check/source/PxSourceParts.h"
@@ -56,21 +55,21 @@ QString separatorHint(const QString &part)
 
 } // namespace
 
-void PxNumberListCheck::run(PxFindings *findings) const
+void PxNumberListCheck::run()
 {
     const PxSourceElement &product = m_product.element();
     if (const auto *list = product.firstChild(QStringLiteral("pageswithcontent")))
-        checkParts(*list, findings);
+        checkParts(*list);
     const auto *numbering = product.firstChild(QStringLiteral("productionnumbering"));
-    if (numbering && checkParts(*numbering, findings))
-        checkNumbering(*numbering, findings);
+    if (numbering && checkParts(*numbering))
+        checkNumbering(*numbering);
     if (const auto *extra = product.firstChild(QStringLiteral("extra_production_pages"))) {
         for (const auto *item : extra->childrenNamed(QStringLiteral("item")))
-            checkExtraPage(*item, findings);
+            checkExtraPage(*item);
     }
 }
 
-bool PxNumberListCheck::checkParts(const PxSourceElement &list, PxFindings *findings) const
+bool PxNumberListCheck::checkParts(const PxSourceElement &list) const
 {
     const PxSourceList source = PxSourceParts::ofText(m_product.file(), list);
     const QVector<PxSourcePart> &parts = source.parts;
@@ -81,25 +80,26 @@ bool PxNumberListCheck::checkParts(const PxSourceElement &list, PxFindings *find
                   .arg(numbers)
                   .arg(source.count)
             : QStringLiteral("the list holds no number then, which means: %1").arg(absence(list));
-    PxFileFindings found(m_product.file(), findings);
+    bool isSound = true;
     for (int i = 0; i < parts.size(); ++i) {
         const QString text = parts[i].text.trimmed();
         // Nothing is lost with an empty part at the end, and an empty text is the default.
         if (!pxIntList(parts[i].text).isEmpty() || (text.isEmpty() && i == source.count - 1))
             continue;
-        found.add("number-list-part-dropped", parts[i].range,
-                  text.isEmpty()
-                      ? QStringLiteral("part %1 of \"%2\" is empty").arg(i + 1).arg(list.name)
-                      : QStringLiteral("\"%1\" is no whole number").arg(text),
-                  now,
-                  found.isTold("number-list-part-dropped", parts[i].range) ? separatorHint(text)
-                                                                           : QString());
+        isSound = false;
+        m_report
+            .add(PxTag::NumberListPartDropped, parts[i].range,
+                 text.isEmpty()
+                     ? QStringLiteral("part %1 of \"%2\" is empty").arg(i + 1).arg(list.name)
+                     : QStringLiteral("\"%1\" is no whole number").arg(text))
+            .now(now)
+            .hint([&] { return separatorHint(text); });
     }
-    return found.isEmpty();
+    return isSound;
 }
 
 /** The numbers that go on from the last one may meet those that the list has given already. */
-void PxNumberListCheck::checkNumbering(const PxSourceElement &list, PxFindings *findings) const
+void PxNumberListCheck::checkNumbering(const PxSourceElement &list) const
 {
     const PxSourceList source = PxSourceParts::ofText(m_product.file(), list);
     const QVector<PxSourcePart> &parts = source.parts;
@@ -115,31 +115,32 @@ void PxNumberListCheck::checkNumbering(const PxSourceElement &list, PxFindings *
                                     [&](int number) { return known.contains(number); });
     if (again == continued.end())
         return;
-    m_product.add(findings, "production-number-repeated", parts.constLast().range,
-                  QStringLiteral("the list ends with %1, which is not its largest number")
-                      .arg(given.constLast()),
-                  QStringLiteral("numbering goes on from there: %1 is given twice").arg(*again),
-                  QStringLiteral("add the number that it shall go on with: %1")
-                      .arg(qint64(*std::max_element(given.begin(), given.end())) + 1));
+    m_report
+        .add(PxTag::ProductionNumberRepeated, parts.constLast().range,
+             QStringLiteral("the list ends with %1, which is not its largest number")
+                 .arg(given.constLast()))
+        .now(QStringLiteral("numbering goes on from there: %1 is given twice").arg(*again))
+        .hint(QStringLiteral("add the number that it shall go on with: %1")
+                  .arg(qint64(*std::max_element(given.begin(), given.end())) + 1));
 }
 
-void PxNumberListCheck::checkExtraPage(const PxSourceElement &item, PxFindings *findings) const
+void PxNumberListCheck::checkExtraPage(const PxSourceElement &item) const
 {
     const auto *pages = item.firstChild(QStringLiteral("target_pages"));
     const auto *pdf = item.firstChild(QStringLiteral("pdf"));
     const PxProductionExtraPageGroup group(item.dom);
     const bool hasTarget = !group.targetPages().isEmpty();
     // A list of which nothing is left has lost more than its parts.
-    if (hasTarget && !checkParts(*pages, findings))
+    if (hasTarget && !checkParts(*pages))
         return;
-    constexpr const char *tag = "extra-page-incomplete";
+    constexpr PxTag tag = PxTag::ExtraPageIncomplete;
     PxMissingPart missing;
     QString message;
     if (!pages || !pdf) {
         const QString name = pages ? QStringLiteral("pdf") : QStringLiteral("target_pages");
-        const bool isTold = m_product.file().isTold(findings, tag, item.nameRange);
         missing = PxElementReading(item).missingChild(
-            name, isTold ? PxElementReading::Search::Everywhere : PxElementReading::Search::Inside);
+            name, m_report.hasRoom(tag) ? PxElementReading::Search::Everywhere
+                                        : PxElementReading::Search::Inside);
         message = QStringLiteral("no \"%1\"").arg(name);
     } else if (!hasTarget) {
         missing = PxElementReading(*pages).missingText();
@@ -153,9 +154,9 @@ void PxNumberListCheck::checkExtraPage(const PxSourceElement &item, PxFindings *
         return;
     }
     const int count = group.targetPages().size();
-    m_product.add(findings, tag, missing.range, message,
-                  QStringLiteral("production gets the file \"%1\" for %2 target %3")
-                      .arg(group.content().filename(), QString::number(count),
-                           count == 1 ? QLatin1String("page") : QLatin1String("pages")),
-                  missing.hint);
+    m_report.add(tag, missing.range, message)
+        .now(QStringLiteral("production gets the file \"%1\" for %2 target %3")
+                 .arg(group.content().filename(), QString::number(count),
+                      count == 1 ? QLatin1String("page") : QLatin1String("pages")))
+        .hint(missing.hint);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "check/findings/PxReporter.h"
 #include "check/source/PxCheckedProduct.h"
 
 class PxProductPages;
@@ -9,19 +10,22 @@ class PxNumberListCheck
 {
 public:
     /** Both must outlive the check. */
-    PxNumberListCheck(const PxCheckedProduct &product, const PxProductPages &pages)
+    PxNumberListCheck(const PxCheckedProduct &product, const PxProductPages &pages,
+                      const PxReporter &report)
         : m_product(product)
         , m_pages(pages)
+        , m_report(report)
     {}
 
-    void run(PxFindings *findings) const;
+    void run();
 
 private:
     /** Whether every part is a number. */
-    bool checkParts(const PxSourceElement &list, PxFindings *findings) const;
-    void checkNumbering(const PxSourceElement &list, PxFindings *findings) const;
-    void checkExtraPage(const PxSourceElement &item, PxFindings *findings) const;
+    bool checkParts(const PxSourceElement &list) const;
+    void checkNumbering(const PxSourceElement &list) const;
+    void checkExtraPage(const PxSourceElement &item) const;
 
     const PxCheckedProduct &m_product;
     const PxProductPages &m_pages;
+    const PxReporter m_report;
 };

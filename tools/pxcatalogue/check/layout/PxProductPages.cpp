@@ -1,5 +1,6 @@
 #include "check/layout/PxProductPages.h"
 
+#include "check/PxCheckLimits.h"
 #include "check/rules/PxElementReading.h"
 
 #include <PxXMLParser.h>
@@ -9,10 +10,6 @@
 #include <algorithm>
 
 namespace {
-
-// Of all layouts together. Real books stay far below; no file shall keep us busy.
-constexpr qint64 maximumPages = 200000;
-constexpr int maximumPageCount = 10000;
 
 bool isSingle(const PxPageEntry &entry)
 {
@@ -30,12 +27,12 @@ PxProductPages::PxProductPages(const PxCheckedProduct &product, const PxPageEntr
     qint64 pages = 0;
     for (const int count : pageCounts()) {
         const bool isSane =
-            count >= 1 && count <= maximumPageCount &&
-            qint64(count) * product.description().countAbstractPages() <= maximumPages;
+            count >= 1 && count <= PxCheckLimits::pageCount &&
+            qint64(count) * product.description().countAbstractPages() <= PxCheckLimits::pages;
         if (isSane)
             m_layouts.append({count, pagesWith(count)});
-        pages += isSane ? m_layouts.constLast().pages.size() : maximumPages;
-        if (pages >= maximumPages) {
+        pages += isSane ? m_layouts.constLast().pages.size() : PxCheckLimits::pages;
+        if (pages >= PxCheckLimits::pages) {
             m_layouts.clear();
             return;
         }
@@ -89,7 +86,7 @@ QVector<int> PxProductPages::pageCountsOfBook() const
 {
     const PxProductTypeDescription &book = m_product.description();
     const qint64 step = book.pageIncrement();
-    if (step < 1 || book.minPages() < 1 || book.maxPages() > maximumPageCount)
+    if (step < 1 || book.minPages() < 1 || book.maxPages() > PxCheckLimits::pageCount)
         return {};
     QSet<int> counts{book.maxPages()};
     for (qint64 count = book.minPages(); count < book.maxPages(); count += step)

@@ -1,5 +1,6 @@
 #include "check/layout/PxRedirectCheck.h"
 
+#include "check/PxCheckLimits.h"
 #include "check/rules/PxElementReading.h"
 #include "check/words/PxMessageText.h"
 #include "check/words/PxSpelling.h"
@@ -7,9 +8,6 @@
 #include <algorithm>
 
 namespace {
-
-// Each is held against all before it; honest files have a handful.
-constexpr int maximumOverlapped = 1000;
 
 QString pagesText(int first, int last)
 {
@@ -46,24 +44,24 @@ QString missingText(const QStringList &names)
 
 } // namespace
 
-void PxRedirectCheck::run(PxFindings *findings) const
+void PxRedirectCheck::run()
 {
     const PxSourceElement &product = m_product.element();
     if (const auto *list = product.firstChild(QStringLiteral("rotationredirects"))) {
         for (const auto *redirect : list->childrenNamed(QStringLiteral("rotationredirect")))
-            checkRotation(*redirect, findings);
+            checkRotation(*redirect);
     }
     if (const auto *list = product.firstChild(QStringLiteral("contentredirects"))) {
         QVector<Range> ranges;
         for (const auto *redirect : list->childrenNamed(QStringLiteral("contentredirect")))
-            checkContent(*redirect, &ranges, findings);
-        checkOverlaps(ranges, findings);
+            checkContent(*redirect, &ranges);
+        checkOverlaps(ranges);
     }
 }
 
-void PxRedirectCheck::checkRotation(const PxSourceElement &redirect, PxFindings *findings) const
+void PxRedirectCheck::checkRotation(const PxSourceElement &redirect) const
 {
-    constexpr const char *tag = "rotation-redirect-incomplete";
+    constexpr PxTag tag = PxTag::RotationRedirectIncomplete;
     const QString now = QStringLiteral("the redirect is left out");
     const PxElementReading reading(redirect);
     if (isUnclear(redirect) || !reading.isReadable(QStringLiteral("from")) ||
@@ -72,21 +70,22 @@ void PxRedirectCheck::checkRotation(const PxSourceElement &redirect, PxFindings 
     const QStringList names = missing(redirect);
     if (!names.isEmpty()) {
         const PxMissingPart part = reading.missing(names.constFirst());
-        m_product.add(findings, tag, part.range, missingText(names), now, part.hint);
+        m_report.add(tag, part.range, missingText(names)).now(now).hint(part.hint);
         return;
     }
     for (const QString &name : {QStringLiteral("from"), QStringLiteral("to")}) {
         if (reading.number(name) < -1) {
-            m_product.add(findings, tag, redirect.rangeOf(name),
-                          QStringLiteral("\"%1\" is no page").arg(redirect.value(name)), now,
-                          QStringLiteral("pages count from 0; -1 is the only number below"));
+            m_report
+                .add(tag, redirect.rangeOf(name),
+                     QStringLiteral("\"%1\" is no page").arg(redirect.value(name)))
+                .now(now)
+                .hint(QStringLiteral("pages count from 0; -1 is the only number below"));
             return;
         }
     }
 }
 
-void PxRedirectCheck::checkContent(const PxSourceElement &redirect, QVector<Range> *ranges,
-                                   PxFindings *findings) const
+void PxRedirectCheck::checkContent(const PxSourceElement &redirect, QVector<Range> *ranges) const
 {
     const PxElementReading reading(redirect);
     if (isUnclear(redirect) || !reading.isReadable(QStringLiteral("to")))
@@ -99,25 +98,27 @@ void PxRedirectCheck::checkContent(const PxSourceElement &redirect, QVector<Rang
     const int last = from.section(QLatin1Char('-'), -1).toInt(&hasLast);
     const int target = reading.number(QStringLiteral("to"), -1);
     if (!hasFirst || !hasLast || target < 0) {
-        checkIncomplete(redirect, findings);
+        checkIncomplete(redirect);
     } else if (first > last) {
-        m_product.add(findings, "content-redirect-reversed", place,
-                      QStringLiteral("the range \"%1\" runs backwards").arg(from),
-                      QStringLiteral("nothing is redirected"),
-                      PxSpelling::didYouMean(QStringLiteral("%1-%2").arg(last).arg(first)));
+        m_report
+            .add(PxTag::ContentRedirectReversed, place,
+                 QStringLiteral("the range \"%1\" runs backwards").arg(from))
+            .now(QStringLiteral("nothing is redirected"))
+            .hint(PxSpelling::didYouMean(QStringLiteral("%1-%2").arg(last).arg(first)));
     } else if (from.count(QLatin1Char('-')) > 1) {
-        m_product.add(findings, "content-redirect-odd", place,
-                      QStringLiteral("the range \"%1\" has more than two parts").arg(from),
-                      pagesText(first, last) + QStringLiteral(" are redirected to %1").arg(target),
-                      QStringLiteral("write one element for each range"));
+        m_report
+            .add(PxTag::ContentRedirectOdd, place,
+                 QStringLiteral("the range \"%1\" has more than two parts").arg(from))
+            .now(pagesText(first, last) + QStringLiteral(" are redirected to %1").arg(target))
+            .hint(QStringLiteral("write one element for each range"));
     } else {
         ranges->append({&redirect, first, last, target});
     }
 }
 
-void PxRedirectCheck::checkIncomplete(const PxSourceElement &redirect, PxFindings *findings) const
+void PxRedirectCheck::checkIncomplete(const PxSourceElement &redirect) const
 {
-    constexpr const char *tag = "content-redirect-incomplete";
+    constexpr PxTag tag = PxTag::ContentRedirectIncomplete;
     const QString now = QStringLiteral("the redirect is left out");
     const QString hint = QStringLiteral("pages count from 0");
     const QStringList names = missing(redirect);
@@ -125,27 +126,30 @@ void PxRedirectCheck::checkIncomplete(const PxSourceElement &redirect, PxFinding
     const PxMissingPart part =
         names.isEmpty() ? PxMissingPart() : PxElementReading(redirect).missing(names.constFirst());
     if (!names.isEmpty())
-        m_product.add(findings, tag, part.range, missingText(names), now, part.hint);
+        m_report.add(tag, part.range, missingText(names)).now(now).hint(part.hint);
     else if (PxElementReading(redirect).number(QStringLiteral("to")) < 0)
-        m_product.add(findings, tag, redirect.rangeOf(QStringLiteral("to")),
-                      QStringLiteral("\"%1\" is no page").arg(redirect.value(QStringLiteral("to"))),
-                      now, hint);
+        m_report
+            .add(tag, redirect.rangeOf(QStringLiteral("to")),
+                 QStringLiteral("\"%1\" is no page").arg(redirect.value(QStringLiteral("to"))))
+            .now(now)
+            .hint(hint);
     else
-        m_product.add(
-            findings, tag, redirect.rangeOf(QStringLiteral("from")),
-            QStringLiteral("\"%1\" is neither a page nor a range of pages").arg(from), now,
-            from.contains(QLatin1Char(','))
-                ? QStringLiteral("write one element for each page or range")
-                : QStringLiteral("write a page such as \"3\" or a range such as \"3-7\""));
+        m_report
+            .add(tag, redirect.rangeOf(QStringLiteral("from")),
+                 QStringLiteral("\"%1\" is neither a page nor a range of pages").arg(from))
+            .now(now)
+            .hint(from.contains(QLatin1Char(','))
+                      ? QStringLiteral("write one element for each page or range")
+                      : QStringLiteral("write a page such as \"3\" or a range such as \"3-7\""));
 }
 
 /**
  * A range may make an exception inside an earlier one; anything else that takes pages from an
  * earlier range is an oversight.
  */
-void PxRedirectCheck::checkOverlaps(const QVector<Range> &ranges, PxFindings *findings) const
+void PxRedirectCheck::checkOverlaps(const QVector<Range> &ranges) const
 {
-    for (int i = 1; i < std::min(ranges.size(), maximumOverlapped); ++i) {
+    for (int i = 1; i < std::min(ranges.size(), PxCheckLimits::redirects); ++i) {
         const Range &later = ranges[i];
         const auto earlier =
             std::find_if(ranges.begin(), ranges.begin() + i, [&](const Range &other) {
@@ -158,13 +162,13 @@ void PxRedirectCheck::checkOverlaps(const QVector<Range> &ranges, PxFindings *fi
             continue;
         const QString pages =
             pagesText(std::max(earlier->first, later.first), std::min(earlier->last, later.last));
-        m_product.add(
-            findings, "content-redirect-overlap", later.element->rangeOf(QStringLiteral("from")),
-            QStringLiteral("%1: also in %2")
-                .arg(pages, PxMessageText::line(m_product.file(), earlier->element->nameRange)),
-            QStringLiteral("content goes to page %1, not to page %2")
-                .arg(m_product.description().contentDropRedirect(
-                    std::max(earlier->first, later.first)))
-                .arg(earlier->target));
+        m_report
+            .add(PxTag::ContentRedirectOverlap, later.element->rangeOf(QStringLiteral("from")),
+                 QStringLiteral("%1: also in %2").arg(pages, PxFinding::otherPlaceMark))
+            .otherPlace(m_report.file().place(earlier->element->nameRange))
+            .now(QStringLiteral("content goes to page %1, not to page %2")
+                     .arg(m_product.description().contentDropRedirect(
+                         std::max(earlier->first, later.first)))
+                     .arg(earlier->target));
     }
 }

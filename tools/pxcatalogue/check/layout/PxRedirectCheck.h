@@ -1,5 +1,6 @@
 #pragma once
 
+#include "check/findings/PxReporter.h"
 #include "check/source/PxCheckedProduct.h"
 
 /** Checks which pages lead to which: when the product is turned, when content is dropped. */
@@ -7,9 +8,12 @@ class PxRedirectCheck
 {
 public:
     /** The product must outlive the check. */
-    explicit PxRedirectCheck(const PxCheckedProduct &product) : m_product(product) {}
+    PxRedirectCheck(const PxCheckedProduct &product, const PxReporter &report)
+        : m_product(product)
+        , m_report(report)
+    {}
 
-    void run(PxFindings *findings) const;
+    void run();
 
 private:
     /** Pages whose content goes to another one. */
@@ -21,11 +25,11 @@ private:
         int target;
     };
 
-    void checkRotation(const PxSourceElement &redirect, PxFindings *findings) const;
-    void checkContent(const PxSourceElement &redirect, QVector<Range> *ranges,
-                      PxFindings *findings) const;
-    void checkIncomplete(const PxSourceElement &redirect, PxFindings *findings) const;
-    void checkOverlaps(const QVector<Range> &ranges, PxFindings *findings) const;
+    void checkRotation(const PxSourceElement &redirect) const;
+    void checkContent(const PxSourceElement &redirect, QVector<Range> *ranges) const;
+    void checkIncomplete(const PxSourceElement &redirect) const;
+    void checkOverlaps(const QVector<Range> &ranges) const;
 
     const PxCheckedProduct &m_product;
+    const PxReporter m_report;
 };

@@ -1,5 +1,6 @@
 #include "check/layout/PxSurroundingCheck.h"
 
+#include "check/PxCheckLimits.h"
 #include "check/layout/PxElementRectangle.h"
 #include "check/layout/PxImageCheck.h"
 #include "check/layout/PxProductPages.h"
@@ -9,10 +10,6 @@
 #include <QSet>
 
 namespace {
-
-// Far more than a product has. Each is asked for each page.
-constexpr int maximumSurroundings = 1000;
-constexpr qint64 maximumAsked = 1000000;
 
 bool isPlain(const PxSourceElement &surrounding)
 {
@@ -28,7 +25,7 @@ QVector<const PxSourceElement *> surroundingElements(const PxSourceElement &prod
     QVector<const PxSourceElement *> elements;
     for (const PxSourceElement *list : product.childrenNamed(QStringLiteral("surroundings")))
         elements += list->childrenNamed(QStringLiteral("surrounding"));
-    return elements.mid(0, maximumSurroundings);
+    return elements.mid(0, PxCheckLimits::surroundings);
 }
 
 /** The same element with another type, which takes the settings that a frame ignores. */
@@ -41,34 +38,37 @@ PxSurroundingDescription withoutFrame(const PxSourceElement &frame)
 
 } // namespace
 
-PxSurroundingCheck::PxSurroundingCheck(const PxCheckedProduct &product, const PxProductPages &pages)
+PxSurroundingCheck::PxSurroundingCheck(const PxCheckedProduct &product, const PxProductPages &pages,
+                                       PxImageNames &images, const PxReporter &report)
     : m_product(product)
     , m_pages(pages)
+    , m_images(images)
+    , m_report(report)
 {
     for (const PxSourceElement *element : surroundingElements(product.element()))
         m_surroundings.append({element, PxSurroundingDescription(element->dom), isPlain(*element)});
 }
 
-void PxSurroundingCheck::run(PxFindings *findings) const
+void PxSurroundingCheck::run()
 {
     for (const Surrounding &surrounding : m_surroundings) {
-        PxImageCheck::run(m_product, *surrounding.element, surrounding.description.image(),
-                          findings);
-        checkImage(surrounding, findings);
+        PxImageCheck(*surrounding.element, surrounding.description.image(), m_images, m_report)
+            .run();
+        checkImage(surrounding);
         if (surrounding.description.surroundingType() == PxSurroundingTypeFrame)
-            checkFrame(surrounding, findings);
+            checkFrame(surrounding);
     }
     if (m_pages.isKnown())
-        checkUse(findings);
+        checkUse();
 }
 
 /**
  * Whether image and rectangle go together. Without both a surrounding may be there for its shade
  * alone, or to keep others from a page; and a frame is as large as its page at least.
  */
-void PxSurroundingCheck::checkImage(const Surrounding &surrounding, PxFindings *findings) const
+void PxSurroundingCheck::checkImage(const Surrounding &surrounding) const
 {
-    constexpr const char *tag = "surrounding-empty";
+    constexpr PxTag tag = PxTag::SurroundingEmpty;
     const QString now = QStringLiteral("nothing is painted, and later surroundings of its pages "
                                        "are not used");
     const PxSourceElement &element = *surrounding.element;
@@ -80,20 +80,22 @@ void PxSurroundingCheck::checkImage(const Surrounding &surrounding, PxFindings *
         hasImage == description.imageRect().isValid())
         return;
     if (hasImage && (!isFrame || rectangle.isGiven())) {
-        m_product.add(findings, tag, rectangle.placeOfFault(),
-                      QStringLiteral("an image without a rectangle: %1").arg(rectangle.fault()),
-                      now);
+        m_report
+            .add(tag, rectangle.placeOfFault(),
+                 QStringLiteral("an image without a rectangle: %1").arg(rectangle.fault()))
+            .now(now);
     } else if (!hasImage && !isFrame && !description.hasBindingShade()) {
         const QString image = QStringLiteral("image");
-        m_product.add(
-            findings, tag, element.rangeOf(image),
-            QStringLiteral("a rectangle without an image: \"image\" is %1")
-                .arg(element.attribute(image) ? QLatin1String("empty") : QLatin1String("missing")),
-            now);
+        m_report
+            .add(tag, element.rangeOf(image),
+                 QStringLiteral("a rectangle without an image: \"image\" is %1")
+                     .arg(element.attribute(image) ? QLatin1String("empty")
+                                                   : QLatin1String("missing")))
+            .now(now);
     }
 }
 
-void PxSurroundingCheck::checkFrame(const Surrounding &frame, PxFindings *findings) const
+void PxSurroundingCheck::checkFrame(const Surrounding &frame) const
 {
     const PxSurroundingDescription meant = withoutFrame(*frame.element);
     const struct
@@ -120,25 +122,26 @@ void PxSurroundingCheck::checkFrame(const Surrounding &frame, PxFindings *findin
     }
     if (names.isEmpty() || !frame.isPlain)
         return;
-    m_product.add(findings, "frame-settings-ignored", place,
-                  QStringLiteral("a FRAME has no %1").arg(names.join(QLatin1String(", no "))),
-                  QStringLiteral("it is painted round every page"),
-                  QStringLiteral("for single pages take another type, such as BORDER"));
+    m_report
+        .add(PxTag::FrameSettingsIgnored, place,
+             QStringLiteral("a FRAME has no %1").arg(names.join(QLatin1String(", no "))))
+        .now(QStringLiteral("it is painted round every page"))
+        .hint(QStringLiteral("for single pages take another type, such as BORDER"));
 }
 
-void PxSurroundingCheck::checkUse(PxFindings *findings) const
+void PxSurroundingCheck::checkUse() const
 {
     const QVector<PxSurroundingKey> asked = keys();
-    if (qint64(asked.size()) * m_surroundings.size() > maximumAsked)
+    if (qint64(asked.size()) * m_surroundings.size() > PxCheckLimits::surroundingQueries)
         return;
     const QVector<Use> all = uses(asked);
     for (int i = 0; i < all.size(); ++i) {
         if (all[i].isUsed || !m_surroundings[i].isPlain)
             continue;
         if (!all[i].isFitting)
-            reportUnfit(m_surroundings[i], findings);
+            reportUnfit(m_surroundings[i]);
         else if (!all[i].isHiddenByDoubtful)
-            reportHidden(m_surroundings[i], m_surroundings[all[i].hiddenBy], findings);
+            reportHidden(m_surroundings[i], m_surroundings[all[i].hiddenBy]);
     }
 }
 
@@ -189,7 +192,7 @@ QVector<PxSurroundingCheck::Use> PxSurroundingCheck::uses(
     return uses;
 }
 
-void PxSurroundingCheck::reportUnfit(const Surrounding &surrounding, PxFindings *findings) const
+void PxSurroundingCheck::reportUnfit(const Surrounding &surrounding) const
 {
     const bool isPinned = surrounding.description.pageNr() != -1;
     const bool hasType = surrounding.description.pageTypes().matches(m_pages.pageTypes().value());
@@ -205,18 +208,18 @@ void PxSurroundingCheck::reportUnfit(const Surrounding &surrounding, PxFindings 
         message = surrounding.element->attribute(attribute)
                       ? QStringLiteral("no page of these types lies at \"%1\"").arg(value)
                       : QStringLiteral("no page of these types lies on any of these sides");
-    m_product.add(findings, "surrounding-unreachable", surrounding.element->rangeOf(attribute),
-                  message, QStringLiteral("it is never painted"));
+    m_report.add(PxTag::SurroundingUnreachable, surrounding.element->rangeOf(attribute), message)
+        .now(QStringLiteral("it is never painted"));
 }
 
-void PxSurroundingCheck::reportHidden(const Surrounding &surrounding, const Surrounding &by,
-                                      PxFindings *findings) const
+void PxSurroundingCheck::reportHidden(const Surrounding &surrounding, const Surrounding &by) const
 {
-    const QString line = PxMessageText::line(m_product.file(), by.element->nameRange);
-    m_product.add(findings, "surrounding-unreachable", surrounding.element->nameRange,
-                  QStringLiteral("every page that this is for has an earlier surrounding already"),
-                  QStringLiteral("it is never painted, but the one in %1").arg(line),
-                  surrounding.description.pageNr() == -1
-                      ? QString()
-                      : QStringLiteral("put it before %1").arg(line));
+    const QString line = m_report.line(by.element->nameRange);
+    m_report
+        .add(PxTag::SurroundingUnreachable, surrounding.element->nameRange,
+             QStringLiteral("every page that this is for has an earlier surrounding already"))
+        .now(QStringLiteral("it is never painted, but the one in %1").arg(line))
+        .hint(surrounding.description.pageNr() == -1
+                  ? QString()
+                  : QStringLiteral("put it before %1").arg(line));
 }

@@ -1,17 +1,20 @@
 #pragma once
 
+#include "check/findings/PxReporter.h"
 #include "check/source/PxCheckedProduct.h"
 
+class PxImageNames;
 class PxProductPages;
 
 /** Checks the images round the pages: whether each is ever painted, and as its element says. */
 class PxSurroundingCheck
 {
 public:
-    /** Both must outlive the check. */
-    PxSurroundingCheck(const PxCheckedProduct &product, const PxProductPages &pages);
+    /** All of them must outlive the check. */
+    PxSurroundingCheck(const PxCheckedProduct &product, const PxProductPages &pages,
+                       PxImageNames &images, const PxReporter &report);
 
-    void run(PxFindings *findings) const;
+    void run();
 
 private:
     struct Surrounding
@@ -29,16 +32,17 @@ private:
         bool isHiddenByDoubtful = false;
     };
 
-    void checkImage(const Surrounding &surrounding, PxFindings *findings) const;
-    void checkFrame(const Surrounding &frame, PxFindings *findings) const;
-    void checkUse(PxFindings *findings) const;
+    void checkImage(const Surrounding &surrounding) const;
+    void checkFrame(const Surrounding &frame) const;
+    void checkUse() const;
     QVector<PxSurroundingKey> keys() const;
     QVector<Use> uses(const QVector<PxSurroundingKey> &keys) const;
-    void reportUnfit(const Surrounding &surrounding, PxFindings *findings) const;
-    void reportHidden(const Surrounding &surrounding, const Surrounding &by,
-                      PxFindings *findings) const;
+    void reportUnfit(const Surrounding &surrounding) const;
+    void reportHidden(const Surrounding &surrounding, const Surrounding &by) const;
 
     const PxCheckedProduct &m_product;
     const PxProductPages &m_pages;
+    PxImageNames &m_images;
+    const PxReporter m_report;
     QVector<Surrounding> m_surroundings; // in the order in which the library asks them
 };

@@ -17,23 +17,25 @@ QString sizeText(const QSize &size)
 
 } // namespace
 
-PxMarginCheck::PxMarginCheck(const PxCheckedProduct &product, const PxPageEntries &pages)
+PxMarginCheck::PxMarginCheck(const PxCheckedProduct &product, const PxPageEntries &pages,
+                             const PxReporter &report)
     : m_product(product)
     , m_pages(pages)
+    , m_report(report)
     , m_size(product.description().usablePrintSize(PxPageTypeNormalPage, 0))
 {}
 
-void PxMarginCheck::run(PxFindings *findings) const
+void PxMarginCheck::run()
 {
-    checkNegative(findings);
-    checkNegativeIndent(findings);
+    checkNegative();
+    checkNegativeIndent();
     if (!m_size.isEmpty()) {
-        checkExceeding(findings);
-        checkCover(findings);
+        checkExceeding();
+        checkCover();
     }
 }
 
-void PxMarginCheck::checkNegative(PxFindings *findings) const
+void PxMarginCheck::checkNegative() const
 {
     static const QString ourMargins[] = {
         QStringLiteral("safetymargin"),
@@ -51,13 +53,14 @@ void PxMarginCheck::checkNegative(PxFindings *findings) const
         const int length = PxElementReading(element).number(margin);
         const bool isComputed = margin == foldMargin && length == -1;
         if (length < 0 && !isComputed)
-            m_product.add(findings, "margin-negative", element.rangeOf(margin),
-                          QStringLiteral("\"%1\" is %2").arg(margin).arg(length),
-                          QStringLiteral("the negative length is used as it is"));
+            m_report
+                .add(PxTag::MarginNegative, element.rangeOf(margin),
+                     QStringLiteral("\"%1\" is %2").arg(margin).arg(length))
+                .now(QStringLiteral("the negative length is used as it is"));
     }
 }
 
-void PxMarginCheck::checkNegativeIndent(PxFindings *findings) const
+void PxMarginCheck::checkNegativeIndent() const
 {
     const PxSourceElement *config =
         m_product.element().firstChild(QStringLiteral("pageNumberConfig"));
@@ -68,13 +71,14 @@ void PxMarginCheck::checkNegativeIndent(PxFindings *findings) const
          {QStringLiteral("verticalMargin"), QStringLiteral("horizontalMargin")}) {
         const int length = PxElementReading(*margin).number(name);
         if (length < 0)
-            m_product.add(findings, "margin-negative", margin->rangeOf(name),
-                          QStringLiteral("\"%1\" is %2").arg(name).arg(length),
-                          QStringLiteral("the page number is printed beyond the edge"));
+            m_report
+                .add(PxTag::MarginNegative, margin->rangeOf(name),
+                     QStringLiteral("\"%1\" is %2").arg(name).arg(length))
+                .now(QStringLiteral("the page number is printed beyond the edge"));
     }
 }
 
-void PxMarginCheck::checkExceeding(PxFindings *findings) const
+void PxMarginCheck::checkExceeding() const
 {
     const PxProductTypeDescription &description = m_product.description();
     const struct
@@ -91,13 +95,13 @@ void PxMarginCheck::checkExceeding(PxFindings *findings) const
     };
     for (const auto &row : rows) {
         if (row.taken >= row.available)
-            m_product.add(findings, "margin-exceeds-page",
-                          m_product.element().rangeOf(row.attribute),
-                          QStringLiteral("\"%1\" takes %2 of a page %3")
-                              .arg(row.attribute)
-                              .arg(row.taken)
-                              .arg(sizeText(m_size)),
-                          QStringLiteral("nothing of the page is left"));
+            m_report
+                .add(PxTag::MarginExceedsPage, m_product.element().rangeOf(row.attribute),
+                     QStringLiteral("\"%1\" takes %2 of a page %3")
+                         .arg(row.attribute)
+                         .arg(row.taken)
+                         .arg(sizeText(m_size)))
+                .now(QStringLiteral("nothing of the page is left"));
     }
 }
 
@@ -114,22 +118,23 @@ bool PxMarginCheck::hasSmallCover() const
     });
 }
 
-void PxMarginCheck::checkCover(PxFindings *findings) const
+void PxMarginCheck::checkCover() const
 {
     if (!hasSmallCover())
         return;
     const QSize cover = m_product.description().coverSize();
     if (cover.width() < m_size.width())
-        checkCoverWidth(findings);
+        checkCoverWidth();
     if (cover.height() < m_size.height())
-        m_product.add(
-            findings, "cover-smaller-than-page", m_product.element().rangeOf(coverExtraVertical),
-            QStringLiteral("a cover that is %1 lower than the page")
-                .arg(qint64(m_size.height()) - cover.height()),
-            QStringLiteral("a cover half is %1, a page %2").arg(sizeText(cover), sizeText(m_size)));
+        m_report
+            .add(PxTag::CoverSmallerThanPage, m_product.element().rangeOf(coverExtraVertical),
+                 QStringLiteral("a cover that is %1 lower than the page")
+                     .arg(qint64(m_size.height()) - cover.height()))
+            .now(QStringLiteral("a cover half is %1, a page %2")
+                     .arg(sizeText(cover), sizeText(m_size)));
 }
 
-void PxMarginCheck::checkCoverWidth(PxFindings *findings) const
+void PxMarginCheck::checkCoverWidth() const
 {
     const PxSourceElement &element = m_product.element();
     const QSize cover = m_product.description().coverSize();
@@ -140,23 +145,25 @@ void PxMarginCheck::checkCoverWidth(PxFindings *findings) const
     const QString now =
         QStringLiteral("a cover half is %1, a page %2").arg(sizeText(cover), sizeText(m_size));
     if (extra < 0)
-        m_product.add(findings, "cover-smaller-than-page", element.rangeOf(coverExtraHorizontal),
-                      QStringLiteral("a cover that is %1 narrower than the page")
-                          .arg(qint64(m_size.width()) - cover.width()),
-                      now);
+        m_report
+            .add(PxTag::CoverSmallerThanPage, element.rangeOf(coverExtraHorizontal),
+                 QStringLiteral("a cover that is %1 narrower than the page")
+                     .arg(qint64(m_size.width()) - cover.width()))
+            .now(now);
     else
-        addAdjustment(extra, now, findings);
+        addAdjustment(extra, now);
 }
 
 /** What is not negative in the file has been made so for the sake of the spine. */
-void PxMarginCheck::addAdjustment(int extra, const QString &now, PxFindings *findings) const
+void PxMarginCheck::addAdjustment(int extra, const QString &now) const
 {
     const qint64 taken =
         qint64(m_size.width()) + extra - m_product.description().coverSize().width();
-    m_product.add(
-        findings, "spine-adjusted", m_product.element().rangeOf(coverExtraHorizontal),
-        QStringLiteral("the spine takes %1 from a cover half that is %2 wider than a page")
-            .arg(taken)
-            .arg(extra),
-        now, QStringLiteral("make it %1 wider at least").arg(taken));
+    m_report
+        .add(PxTag::SpineAdjusted, m_product.element().rangeOf(coverExtraHorizontal),
+             QStringLiteral("the spine takes %1 from a cover half that is %2 wider than a page")
+                 .arg(taken)
+                 .arg(extra))
+        .now(now)
+        .hint(QStringLiteral("make it %1 wider at least").arg(taken));
 }

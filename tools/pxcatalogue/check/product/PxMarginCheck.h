@@ -1,5 +1,6 @@
 #pragma once
 
+#include "check/findings/PxReporter.h"
 #include "check/source/PxPageEntries.h"
 
 #include <QSize>
@@ -9,20 +10,22 @@ class PxMarginCheck
 {
 public:
     /** Both must outlive the check. */
-    PxMarginCheck(const PxCheckedProduct &product, const PxPageEntries &pages);
+    PxMarginCheck(const PxCheckedProduct &product, const PxPageEntries &pages,
+                  const PxReporter &report);
 
-    void run(PxFindings *findings) const;
+    void run();
 
 private:
-    void checkNegative(PxFindings *findings) const;
-    void checkNegativeIndent(PxFindings *findings) const;
-    void checkExceeding(PxFindings *findings) const;
-    void checkCover(PxFindings *findings) const;
-    void checkCoverWidth(PxFindings *findings) const;
-    void addAdjustment(int extra, const QString &now, PxFindings *findings) const;
+    void checkNegative() const;
+    void checkNegativeIndent() const;
+    void checkExceeding() const;
+    void checkCover() const;
+    void checkCoverWidth() const;
+    void addAdjustment(int extra, const QString &now) const;
     bool hasSmallCover() const;
 
     const PxCheckedProduct &m_product;
     const PxPageEntries &m_pages;
+    const PxReporter m_report;
     QSize m_size; // as the library takes it
 };

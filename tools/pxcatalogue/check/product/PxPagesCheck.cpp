@@ -52,32 +52,33 @@ bool isCover(const PxPageEntry &entry)
 
 } // namespace
 
-void PxPagesCheck::run(PxFindings *findings) const
+void PxPagesCheck::run()
 {
     if (!m_pages.isGiven()) {
-        checkPresence(findings);
+        checkPresence();
         return;
     }
-    checkCount(findings);
+    checkCount();
     for (const PxPageEntry &entry : m_pages.read())
-        checkEntry(entry, findings);
+        checkEntry(entry);
     // A page that is left out moves all others.
     if (!m_pages.isSound())
         return;
-    if (checkCoverPosition(findings))
-        checkSpinePosition(findings);
-    checkRange(findings);
+    if (checkCoverPosition())
+        checkSpinePosition();
+    checkRange();
 }
 
-void PxPagesCheck::checkPresence(PxFindings *findings) const
+void PxPagesCheck::checkPresence() const
 {
     // One normal page is just what many a small product has.
     if (!hasSeveralPages())
         return;
     const PxMissingPart pages =
         PxElementReading(m_product.element()).missingChild(QStringLiteral("pages"));
-    m_product.add(findings, "pages-missing", pages.range,
-                  QStringLiteral("the product has no \"pages\""), nowWithoutPages(), pages.hint);
+    m_report.add(PxTag::PagesMissing, pages.range, QStringLiteral("the product has no \"pages\""))
+        .now(nowWithoutPages())
+        .hint(pages.hint);
 }
 
 /** What becomes of a product that lists no page. */
@@ -119,82 +120,86 @@ bool PxPagesCheck::hasSeveralPages() const
            description.explicitNumberOfNormalPages() > 1;
 }
 
-void PxPagesCheck::checkCount(PxFindings *findings) const
+void PxPagesCheck::checkCount() const
 {
     if (m_pages.droppedCount() == 0)
         return;
-    m_product.add(
-        findings, "pages-too-many", m_pages.firstDropped(),
-        QStringLiteral("a list of %1 pages").arg(m_pages.read().size() + m_pages.droppedCount()),
-        QStringLiteral("the first %1 are used").arg(m_pages.read().size()),
-        QStringLiteral("write \"normalpages\" for all normal pages"));
+    m_report
+        .add(PxTag::PagesTooMany, m_pages.firstDropped(),
+             QStringLiteral("a list of %1 pages")
+                 .arg(m_pages.read().size() + m_pages.droppedCount()))
+        .now(QStringLiteral("the first %1 are used").arg(m_pages.read().size()))
+        .hint(QStringLiteral("write \"normalpages\" for all normal pages"));
 }
 
-void PxPagesCheck::checkEntry(const PxPageEntry &entry, PxFindings *findings) const
+void PxPagesCheck::checkEntry(const PxPageEntry &entry) const
 {
-    const char *tag = entry.text.isEmpty() ? "pages-entry-empty" : "pages-entry-unknown";
-    if (entry.type.isNull() && !m_product.file().isTold(findings, tag, entry.range)) {
-        m_product.add(findings, tag, entry.range, QString());
-    } else if (entry.text.isEmpty()) {
+    if (entry.text.isEmpty()) {
         const PxMissingPart text =
             PxElementReading(*m_product.element().firstChild(QStringLiteral("pages")))
                 .missingText();
-        m_product.add(findings, tag, text.hint.isEmpty() ? entry.range : text.range,
-                      m_pages.read().size() == 1
-                          ? QStringLiteral("the list of pages is empty")
-                          : QStringLiteral("an empty entry in the list of pages"),
-                      m_pages.hasPage() ? QStringLiteral("it is left out, with a warning each time")
-                                        : nowWithoutPages(),
-                      text.hint);
+        m_report
+            .add(PxTag::PagesEntryEmpty, text.hint.isEmpty() ? entry.range : text.range,
+                 m_pages.read().size() == 1 ? QStringLiteral("the list of pages is empty")
+                                            : QStringLiteral("an empty entry in the list of pages"))
+            .now(m_pages.hasPage() ? QStringLiteral("it is left out, with a warning each time")
+                                   : nowWithoutPages())
+            .hint(text.hint);
     } else if (entry.type.isNull()) {
-        m_product.add(findings, tag, entry.range,
-                      QStringLiteral("\"%1\" is no type of page").arg(entry.text),
-                      nowWithout(entry), hintFor(entry.text, isRangeMissing()));
+        m_report
+            .add(PxTag::PagesEntryUnknown, entry.range,
+                 QStringLiteral("\"%1\" is no type of page").arg(entry.text))
+            .now([&] { return nowWithout(entry); })
+            .hint([&] { return hintFor(entry.text, isRangeMissing()); });
     } else if (entry.isUnion()) {
-        m_product.add(findings, "page-type-union", entry.range,
-                      QStringLiteral("\"%1\" is several types of page at once").arg(entry.text),
-                      QStringLiteral("the product has one page that is all of: %1")
-                          .arg(entry.type.encodeCSV()),
-                      QStringLiteral("name the type of this page"));
+        m_report
+            .add(PxTag::PageTypeUnion, entry.range,
+                 QStringLiteral("\"%1\" is several types of page at once").arg(entry.text))
+            .now(QStringLiteral("the product has one page that is all of: %1")
+                     .arg(entry.type.encodeCSV()))
+            .hint(QStringLiteral("name the type of this page"));
     }
 }
 
 /** Whether nothing was found. */
-bool PxPagesCheck::checkCoverPosition(PxFindings *findings) const
+bool PxPagesCheck::checkCoverPosition() const
 {
     const auto cover = std::find_if(m_pages.read().begin(), m_pages.read().end(), isCover);
     if (m_product.description().hasCover() || cover == m_pages.read().end())
         return true;
-    m_product.add(findings, "cover-not-first", cover->range,
-                  QStringLiteral("a cover, but the list begins with \"%1\"")
-                      .arg(m_pages.read().constFirst().text),
-                  QStringLiteral("the product counts as one without cover"),
-                  QStringLiteral("begin with the cover"));
+    m_report
+        .add(PxTag::CoverNotFirst, cover->range,
+             QStringLiteral("a cover, but the list begins with \"%1\"")
+                 .arg(m_pages.read().constFirst().text))
+        .now(QStringLiteral("the product counts as one without cover"))
+        .hint(QStringLiteral("begin with the cover"));
     return false;
 }
 
-void PxPagesCheck::checkSpinePosition(PxFindings *findings) const
+void PxPagesCheck::checkSpinePosition() const
 {
     int page = 0;
     for (const PxPageEntry &entry : m_pages.read()) {
         const PxPageAlignment alignment = m_product.description().pageAlignment(page);
         if (entry.type.hasValue(PxPageTypeSpine) && !m_product.description().isSimplex() &&
             alignment != PxPageAlignmentMiddle && alignment != PxPageAlignmentCenter)
-            m_product.add(findings, "spine-not-second", entry.range,
-                          QStringLiteral("a spine that is not the second of the pages"),
-                          QStringLiteral("page 1 is the one that lies in the middle"),
-                          QStringLiteral("begin with back cover, spine, front cover"));
+            m_report
+                .add(PxTag::SpineNotSecond, entry.range,
+                     QStringLiteral("a spine that is not the second of the pages"))
+                .now(QStringLiteral("page 1 is the one that lies in the middle"))
+                .hint(QStringLiteral("begin with back cover, spine, front cover"));
         page += entry.isRange() ? 2 : 1; // two stand for many
     }
 }
 
-void PxPagesCheck::checkRange(PxFindings *findings) const
+void PxPagesCheck::checkRange() const
 {
     if (!isRangeMissing())
         return;
-    m_product.add(findings, "pages-range-missing", m_pages.read().constFirst().range,
-                  QStringLiteral("a book whose list of pages has no \"normalpages\""),
-                  QStringLiteral("it has %1 pages, whatever page count is ordered")
-                      .arg(m_pages.read().size()),
-                  QStringLiteral("write \"normalpages\" where the pages of the book are"));
+    m_report
+        .add(PxTag::PagesRangeMissing, m_pages.read().constFirst().range,
+             QStringLiteral("a book whose list of pages has no \"normalpages\""))
+        .now(QStringLiteral("it has %1 pages, whatever page count is ordered")
+                 .arg(m_pages.read().size()))
+        .hint(QStringLiteral("write \"normalpages\" where the pages of the book are"));
 }

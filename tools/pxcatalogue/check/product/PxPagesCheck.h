@@ -1,5 +1,6 @@
 #pragma once
 
+#include "check/findings/PxReporter.h"
 #include "check/source/PxPageEntries.h"
 
 /** Checks the list of pages. */
@@ -7,26 +8,29 @@ class PxPagesCheck
 {
 public:
     /** Both must outlive the check. */
-    PxPagesCheck(const PxCheckedProduct &product, const PxPageEntries &pages)
+    PxPagesCheck(const PxCheckedProduct &product, const PxPageEntries &pages,
+                 const PxReporter &report)
         : m_product(product)
         , m_pages(pages)
+        , m_report(report)
     {}
 
-    void run(PxFindings *findings) const;
+    void run();
 
 private:
-    void checkPresence(PxFindings *findings) const;
+    void checkPresence() const;
     bool hasSeveralPages() const;
     QString nowWithoutPages() const;
     QString nowWithout(const PxPageEntry &entry) const;
     /** A book has no page count then. */
     bool isRangeMissing() const;
-    void checkCount(PxFindings *findings) const;
-    void checkEntry(const PxPageEntry &entry, PxFindings *findings) const;
-    bool checkCoverPosition(PxFindings *findings) const;
-    void checkSpinePosition(PxFindings *findings) const;
-    void checkRange(PxFindings *findings) const;
+    void checkCount() const;
+    void checkEntry(const PxPageEntry &entry) const;
+    bool checkCoverPosition() const;
+    void checkSpinePosition() const;
+    void checkRange() const;
 
     const PxCheckedProduct &m_product;
     const PxPageEntries &m_pages;
+    const PxReporter m_report;
 };

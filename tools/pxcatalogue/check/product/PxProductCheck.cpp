@@ -1,11 +1,6 @@
 #include "check/product/PxProductCheck.h"
 
-#include "check/product/PxMarginCheck.h"
-#include "check/product/PxPagesCheck.h"
-#include "check/product/PxSizeCheck.h"
-#include "check/product/PxSpineCheck.h"
 #include "check/rules/PxElementReading.h"
-#include "check/words/PxListedProductTypes.h"
 
 #include <PxXMLParser.h>
 
@@ -25,76 +20,79 @@ bool isUnsafeForFile(const QString &name)
 
 } // namespace
 
-void PxProductCheck::run(PxFindings *findings) const
+void PxProductCheck::run()
 {
-    checkName(findings);
-    checkCounts(findings);
-    checkAlignmentStyle(findings);
-    PxSizeCheck(m_product).run(findings);
-    PxMarginCheck(m_product, m_pages).run(findings);
-    PxPagesCheck(m_product, m_pages).run(findings);
-    PxSpineCheck(m_product, m_pages).run(findings);
+    checkName();
+    checkCounts();
+    checkAlignmentStyle();
 }
 
-void PxProductCheck::checkName(PxFindings *findings) const
+void PxProductCheck::checkName() const
 {
     const PxSourceElement &element = m_product.element();
     const QString attribute = QStringLiteral("name");
     const QString name = element.value(attribute);
     const QString now = QStringLiteral("the file is skipped without a word");
-    PxListedProductTypes &types = PxListedProductTypes::instance();
     const PxMissingPart missing = PxElementReading(element).missing(attribute);
     if (name.trimmed().isEmpty())
-        m_product.add(findings, "product-name-missing", missing.range,
-                      QStringLiteral("the product has no name"), now, missing.hint);
+        m_report
+            .add(PxTag::ProductNameMissing, missing.range,
+                 QStringLiteral("the product has no name"))
+            .now(now)
+            .hint(missing.hint);
     else if (isUnsafeForFile(name))
-        checkNameOfFile(findings);
+        checkNameOfFile();
     // Without any product type there is one cause, and it is not in this file.
-    else if (!m_product.type().isValid() && !types.isEmpty() && !types.isListed(name))
-        m_product.add(findings, "product-name-unknown", element.rangeOf(attribute),
-                      QStringLiteral("there is no product type \"%1\"").arg(name), now,
-                      types.hint(name));
-    else if (!m_product.type().isValid() && !types.isEmpty() && !m_areTypesChecked)
-        m_product.add(findings, "product-name-unknown", element.rangeOf(attribute),
-                      QStringLiteral("the row of \"%1\" in producttypes.xml is left out").arg(name),
-                      now, QStringLiteral("check producttypes.xml"));
+    else if (!m_product.type().isValid() && !m_types.isEmpty() && !m_types.isListed(name))
+        m_report
+            .add(PxTag::ProductNameUnknown, element.rangeOf(attribute),
+                 QStringLiteral("there is no product type \"%1\"").arg(name))
+            .now(now)
+            .hint([&] { return m_types.hint(name); });
+    else if (!m_product.type().isValid() && !m_types.isEmpty() && !m_types.isChecked())
+        m_report
+            .add(PxTag::ProductNameUnknown, element.rangeOf(attribute),
+                 QStringLiteral("the row of \"%1\" in producttypes.xml is left out").arg(name))
+            .now(now)
+            .hint(QStringLiteral("check producttypes.xml"));
 }
 
-void PxProductCheck::checkNameOfFile(PxFindings *findings) const
+void PxProductCheck::checkNameOfFile() const
 {
     const QString attribute = QStringLiteral("name");
-    m_product.add(
-        findings, "name-unsafe-for-file", m_product.element().rangeOf(attribute),
-        QStringLiteral("\"%1\" cannot name a file").arg(m_product.element().value(attribute)),
-        m_product.type().isValid()
-            ? QStringLiteral("the user's default templates are looked for in a file of this name")
-            : QStringLiteral("the file is skipped: there is no such product type"),
-        QStringLiteral("use letters, digits and underscores only"));
+    m_report
+        .add(PxTag::NameUnsafeForFile, m_product.element().rangeOf(attribute),
+             QStringLiteral("\"%1\" cannot name a file").arg(m_product.element().value(attribute)))
+        .now(m_product.type().isValid()
+                 ? QStringLiteral(
+                       "the user's default templates are looked for in a file of this name")
+                 : QStringLiteral("the file is skipped: there is no such product type"))
+        .hint(QStringLiteral("use letters, digits and underscores only"));
 }
 
-void PxProductCheck::checkCounts(PxFindings *findings) const
+void PxProductCheck::checkCounts() const
 {
     const PxSourceElement &element = m_product.element();
     const PxProductTypeDescription &description = m_product.description();
     if (description.explicitNumberOfProducts() <= 0)
-        m_product.add(findings, "product-count-zero",
-                      element.rangeOf(QStringLiteral("numOfProducts")),
-                      QStringLiteral("a product that consists of %1 pieces")
-                          .arg(description.explicitNumberOfProducts()),
-                      QStringLiteral("the pages of one piece cannot be computed"),
-                      QStringLiteral("leave it out for a single piece"));
+        m_report
+            .add(PxTag::ProductCountZero, element.rangeOf(QStringLiteral("numOfProducts")),
+                 QStringLiteral("a product that consists of %1 pieces")
+                     .arg(description.explicitNumberOfProducts()))
+            .now(QStringLiteral("the pages of one piece cannot be computed"))
+            .hint(QStringLiteral("leave it out for a single piece"));
     constexpr auto counted = static_cast<PxProductClass>(PxProductClassGift | PxProductClassCard |
                                                          PxProductClassDecoration);
     const int pageCount = description.explicitNumberOfNormalPages();
     if (pageCount <= 0 && m_product.type().isProductClass(counted))
-        m_product.add(findings, "page-count-not-positive",
-                      element.rangeOf(QStringLiteral("numOfNormalPages")),
-                      QStringLiteral("a product of %1 normal pages").arg(pageCount),
-                      QStringLiteral("the page count is %1").arg(unsigned(pageCount)),
-                      QStringLiteral("leave it out for a single page"));
+        m_report
+            .add(PxTag::PageCountNotPositive, element.rangeOf(QStringLiteral("numOfNormalPages")),
+                 QStringLiteral("a product of %1 normal pages").arg(pageCount))
+            .now(QStringLiteral("the page count is %1").arg(unsigned(pageCount)))
+            .hint(QStringLiteral("leave it out for a single page"));
 }
 
-void PxProductCheck::checkAlignmentStyle(PxFindings *findings) const
+void PxProductCheck::checkAlignmentStyle() const
 {
     // The library asks for them in this order.
     static const QString ourStyles[] = {QStringLiteral("cardStyleAlignment"),
@@ -108,9 +106,10 @@ void PxProductCheck::checkAlignmentStyle(PxFindings *findings) const
         if (first.isEmpty())
             first = style;
         else
-            m_product.add(findings, "alignment-style-shadowed", element.rangeOf(style),
-                          QStringLiteral("\"%1\" is true beside \"%2\"").arg(style, first),
-                          QStringLiteral("\"%1\" counts, \"%2\" is not read").arg(first, style),
-                          QStringLiteral("keep the one that is meant"));
+            m_report
+                .add(PxTag::AlignmentStyleShadowed, element.rangeOf(style),
+                     QStringLiteral("\"%1\" is true beside \"%2\"").arg(style, first))
+                .now(QStringLiteral("\"%1\" counts, \"%2\" is not read").arg(first, style))
+                .hint(QStringLiteral("keep the one that is meant"));
     }
 }

@@ -1,29 +1,30 @@
 #pragma once
 
-#include "check/source/PxPageEntries.h"
+#include "check/findings/PxReporter.h"
+#include "check/source/PxCheckedProduct.h"
+#include "check/words/PxListedProductTypes.h"
 
-/** Checks the product as a whole: its name, counts, sizes, page counts and spines, and its pages.
- */
+/** Checks the product as a whole: its name, its counts, its style of alignment. */
 class PxProductCheck
 {
 public:
-    /** Both must outlive the check. `areTypesChecked`: producttypes.xml is checked, too. */
-    PxProductCheck(const PxCheckedProduct &product, const PxPageEntries &pages,
-                   bool areTypesChecked)
+    /** All of them must outlive the check. */
+    PxProductCheck(const PxCheckedProduct &product, PxListedProductTypes &types,
+                   const PxReporter &report)
         : m_product(product)
-        , m_pages(pages)
-        , m_areTypesChecked(areTypesChecked)
+        , m_types(types)
+        , m_report(report)
     {}
 
-    void run(PxFindings *findings) const;
+    void run();
 
 private:
-    void checkName(PxFindings *findings) const;
-    void checkNameOfFile(PxFindings *findings) const;
-    void checkCounts(PxFindings *findings) const;
-    void checkAlignmentStyle(PxFindings *findings) const;
+    void checkName() const;
+    void checkNameOfFile() const;
+    void checkCounts() const;
+    void checkAlignmentStyle() const;
 
     const PxCheckedProduct &m_product;
-    const PxPageEntries &m_pages;
-    bool m_areTypesChecked;
+    PxListedProductTypes &m_types;
+    const PxReporter m_report;
 };

@@ -80,33 +80,37 @@ double areaOf(const QSize &size)
 
 } // namespace
 
-PxSizeCheck::PxSizeCheck(const PxCheckedProduct &product)
+PxSizeCheck::PxSizeCheck(const PxCheckedProduct &product, const PxReporter &report)
     : m_product(product)
+    , m_report(report)
     , m_usableSize(product.element().firstChild(QStringLiteral("usablesize")))
     , m_size(product.description().usablePrintSize(PxPageTypeNormalPage, 0))
 {}
 
-void PxSizeCheck::run(PxFindings *findings) const
+void PxSizeCheck::run()
 {
-    checkPresence(findings);
+    checkPresence();
     if (!m_usableSize)
         return;
-    checkArea(findings);
-    checkShadowing(findings);
+    checkArea();
+    checkShadowing();
     if (!m_size.isEmpty()) {
-        if (checkOrientation(findings))
-            checkSpace(findings);
+        if (checkOrientation())
+            checkSpace();
     }
 }
 
-void PxSizeCheck::checkPresence(PxFindings *findings) const
+void PxSizeCheck::checkPresence() const
 {
     const QString now = QStringLiteral("the product is never offered");
     if (!m_usableSize) {
         const PxMissingPart size =
             PxElementReading(m_product.element()).missingChild(QStringLiteral("usablesize"));
-        m_product.add(findings, "size-missing", size.range,
-                      QStringLiteral("the product has no \"usablesize\""), now, size.hint);
+        m_report
+            .add(PxTag::SizeMissing, size.range,
+                 QStringLiteral("the product has no \"usablesize\""))
+            .now(now)
+            .hint(size.hint);
         return;
     }
     QStringList missing;
@@ -117,13 +121,15 @@ void PxSizeCheck::checkPresence(PxFindings *findings) const
     if (missing.isEmpty())
         return;
     const PxMissingPart side = PxElementReading(*m_usableSize).missing(missing.constFirst());
-    m_product.add(findings, "size-missing", side.range,
-                  QStringLiteral("the size has no %1")
-                      .arg(PxMessageText::quotedList(missing, QStringLiteral(" and no "))),
-                  now, side.hint);
+    m_report
+        .add(PxTag::SizeMissing, side.range,
+             QStringLiteral("the size has no %1")
+                 .arg(PxMessageText::quotedList(missing, QStringLiteral(" and no "))))
+        .now(now)
+        .hint(side.hint);
 }
 
-void PxSizeCheck::checkArea(PxFindings *findings) const
+void PxSizeCheck::checkArea() const
 {
     for (const QString &side : {width, height}) {
         const PxElementReading reading(*m_usableSize);
@@ -132,35 +138,36 @@ void PxSizeCheck::checkArea(PxFindings *findings) const
             continue;
         const PxSourceRange range = m_usableSize->rangeOf(side);
         if (m_product.description().isValid())
-            m_product.add(findings, "size-not-positive", range,
-                          QStringLiteral("a page of the %1 0").arg(side),
-                          QStringLiteral("the product is offered, with pages of %1 x %2")
-                              .arg(m_size.width())
-                              .arg(m_size.height()));
+            m_report
+                .add(PxTag::SizeNotPositive, range, QStringLiteral("a page of the %1 0").arg(side))
+                .now(QStringLiteral("the product is offered, with pages of %1 x %2")
+                         .arg(m_size.width())
+                         .arg(m_size.height()));
         else if (length < 0)
-            m_product.add(findings, "product-not-offered", range,
-                          QStringLiteral("a page of the %1 %2").arg(side).arg(length),
-                          QStringLiteral("the product is never offered, as it has no valid size"));
+            m_report
+                .add(PxTag::ProductNotOffered, range,
+                     QStringLiteral("a page of the %1 %2").arg(side).arg(length))
+                .now(QStringLiteral("the product is never offered, as it has no valid size"));
         else if (m_size.isValid())
-            m_product.add(findings, "product-not-offered", range,
-                          QStringLiteral("a page of the %1 0, and no orientation").arg(side),
-                          QStringLiteral("the product is never offered, as no orientation follows "
-                                         "from a size without area"));
+            m_report
+                .add(PxTag::ProductNotOffered, range,
+                     QStringLiteral("a page of the %1 0, and no orientation").arg(side))
+                .now(QStringLiteral("the product is never offered, as no orientation follows "
+                                    "from a size without area"));
         return;
     }
 }
 
-void PxSizeCheck::checkShadowing(PxFindings *findings) const
+void PxSizeCheck::checkShadowing() const
 {
     const PxSourceElement &element = m_product.element();
     const auto add = [&](const QString &name) {
-        m_product.add(
-            findings, "size-attribute-shadowed", element.rangeOf(name),
-            QStringLiteral("\"%1\" of the product differs from that of its size").arg(name),
-            QStringLiteral("\"%1\" in %2 is used")
-                .arg(m_usableSize->value(name),
-                     PxMessageText::line(m_product.file(), m_usableSize->rangeOf(name))),
-            QStringLiteral("keep the one that is meant"));
+        m_report
+            .add(PxTag::SizeAttributeShadowed, element.rangeOf(name),
+                 QStringLiteral("\"%1\" of the product differs from that of its size").arg(name))
+            .now(QStringLiteral("\"%1\" in %2 is used")
+                     .arg(m_usableSize->value(name), m_report.line(m_usableSize->rangeOf(name))))
+            .hint(QStringLiteral("keep the one that is meant"));
     };
     const PxOrientation ownOrientation(element.value(orientation));
     const PxOrientation sizeOrientation(m_usableSize->value(orientation));
@@ -175,7 +182,7 @@ void PxSizeCheck::checkShadowing(PxFindings *findings) const
 }
 
 /** Whether nothing was found: a wrong size has a wrong area, too. */
-bool PxSizeCheck::checkOrientation(PxFindings *findings) const
+bool PxSizeCheck::checkOrientation() const
 {
     const PxOrientation used = m_product.description().orientation();
     if (!contradicts(used.value(), m_size))
@@ -188,25 +195,25 @@ bool PxSizeCheck::checkOrientation(PxFindings *findings) const
     if (used.hasValue(PxOrientationPortraitPanorama) &&
         isLonger(m_size.width(), m_size.height(), 2, 1))
         meant = PxOrientation(PxOrientationPanorama);
-    m_product.add(
-        findings, "orientation-contradicts-size", place.rangeOf(orientation),
-        QStringLiteral("%1, but the page is %2 x %3")
-            .arg(used.encodeCSV())
-            .arg(m_size.width())
-            .arg(m_size.height()),
-        QStringLiteral("%1 is used, whatever the size").arg(used.encodeCSV()),
-        QStringLiteral("did you mean \"%1\", or is the size wrong?").arg(meant.encodeCSV()));
+    m_report
+        .add(PxTag::OrientationContradictsSize, place.rangeOf(orientation),
+             QStringLiteral("%1, but the page is %2 x %3")
+                 .arg(used.encodeCSV())
+                 .arg(m_size.width())
+                 .arg(m_size.height()))
+        .now(QStringLiteral("%1 is used, whatever the size").arg(used.encodeCSV()))
+        .hint(QStringLiteral("did you mean \"%1\", or is the size wrong?").arg(meant.encodeCSV()));
     return false;
 }
 
-void PxSizeCheck::checkSpace(PxFindings *findings) const
+void PxSizeCheck::checkSpace() const
 {
     const PxSpaceMagnitude used = m_product.description().spaceMagnitude();
     const SizeClass *named = namedClass(m_product.description());
     if (!named)
         return;
     if (isInOtherUnit(m_product.description())) {
-        addOtherUnit(named->area, findings);
+        addOtherUnit(named->area);
         return;
     }
     const double area = areaOf(m_size);
@@ -219,11 +226,12 @@ void PxSizeCheck::checkSpace(PxFindings *findings) const
         return;
     const PxSourceElement &place =
         m_usableSize->value(space).isEmpty() ? m_product.element() : *m_usableSize;
-    m_product.add(
-        findings, "space-contradicts-size", place.rangeOf(space),
-        QStringLiteral("%1, but the page has %2 cm²").arg(used.encodeCSV()).arg(qRound(area)),
-        QStringLiteral("templates and type sizes of \"%1\" are used").arg(used.humanReadableName()),
-        PxSpelling::didYouMean(PxSpaceMagnitude(nearest->value).encodeCSV()));
+    m_report
+        .add(PxTag::SpaceContradictsSize, place.rangeOf(space),
+             QStringLiteral("%1, but the page has %2 cm²").arg(used.encodeCSV()).arg(qRound(area)))
+        .now(QStringLiteral("templates and type sizes of \"%1\" are used")
+                 .arg(used.humanReadableName()))
+        .hint(PxSpelling::didYouMean(PxSpaceMagnitude(nearest->value).encodeCSV()));
 }
 
 bool PxSizeCheck::isInOtherUnit(const PxProductTypeDescription &product)
@@ -234,18 +242,19 @@ bool PxSizeCheck::isInOtherUnit(const PxProductTypeDescription &product)
     return named && !size.isEmpty() && ratio(ratio(named->area, areaOf(size)), 100) <= roughness;
 }
 
-void PxSizeCheck::addOtherUnit(int namedArea, PxFindings *findings) const
+void PxSizeCheck::addOtherUnit(int namedArea) const
 {
     const bool isSmaller = areaOf(m_size) < namedArea;
     const QSize meant = isSmaller ? m_size * 10 : m_size / 10;
-    m_product.add(findings, "size-in-other-unit", m_usableSize->rangeOf(width),
-                  QStringLiteral("%1 x %2 is ten times %3 than \"%4\" says")
-                      .arg(m_size.width())
-                      .arg(m_size.height())
-                      .arg(isSmaller ? QLatin1String("smaller") : QLatin1String("larger"))
-                      .arg(m_product.description().spaceMagnitude().encodeCSV()),
-                  QStringLiteral("the size is taken as it is"),
-                  QStringLiteral("lengths are in tenths of a millimetre: %1 x %2?")
-                      .arg(meant.width())
-                      .arg(meant.height()));
+    m_report
+        .add(PxTag::SizeInOtherUnit, m_usableSize->rangeOf(width),
+             QStringLiteral("%1 x %2 is ten times %3 than \"%4\" says")
+                 .arg(m_size.width())
+                 .arg(m_size.height())
+                 .arg(isSmaller ? QLatin1String("smaller") : QLatin1String("larger"))
+                 .arg(m_product.description().spaceMagnitude().encodeCSV()))
+        .now(QStringLiteral("the size is taken as it is"))
+        .hint(QStringLiteral("lengths are in tenths of a millimetre: %1 x %2?")
+                  .arg(meant.width())
+                  .arg(meant.height()));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "check/findings/PxReporter.h"
 #include "check/source/PxCheckedProduct.h"
 
 #include <QSize>
@@ -9,21 +10,22 @@ class PxSizeCheck
 {
 public:
     /** The product must outlive the check. */
-    explicit PxSizeCheck(const PxCheckedProduct &product);
+    PxSizeCheck(const PxCheckedProduct &product, const PxReporter &report);
 
-    void run(PxFindings *findings) const;
+    void run();
     /** Whether the page is a hundred times smaller or larger than its size class says. */
     static bool isInOtherUnit(const PxProductTypeDescription &product);
 
 private:
-    void checkPresence(PxFindings *findings) const;
-    void checkArea(PxFindings *findings) const;
-    void checkShadowing(PxFindings *findings) const;
-    bool checkOrientation(PxFindings *findings) const;
-    void checkSpace(PxFindings *findings) const;
-    void addOtherUnit(int namedArea, PxFindings *findings) const;
+    void checkPresence() const;
+    void checkArea() const;
+    void checkShadowing() const;
+    bool checkOrientation() const;
+    void checkSpace() const;
+    void addOtherUnit(int namedArea) const;
 
     const PxCheckedProduct &m_product;
+    const PxReporter m_report;
     const PxSourceElement *m_usableSize; // null when there is none
     QSize m_size;                        // as the library takes it
 };

@@ -29,47 +29,49 @@ bool isWidthKnown(const PxSourceElement &spine)
 
 } // namespace
 
-PxSpineCheck::PxSpineCheck(const PxCheckedProduct &product, const PxPageEntries &pages)
+PxSpineCheck::PxSpineCheck(const PxCheckedProduct &product, const PxPageEntries &pages,
+                           const PxReporter &report)
     : m_product(product)
     , m_pages(pages)
+    , m_report(report)
     , m_table(product.element().firstChild(QStringLiteral("spines")))
 {}
 
-void PxSpineCheck::run(PxFindings *findings)
+void PxSpineCheck::run()
 {
-    readTable(findings);
-    checkPresence(findings);
-    checkSpinePage(findings);
-    checkWidths(findings);
-    checkTextHeights(findings);
+    readTable();
+    checkPresence();
+    checkSpinePage();
+    checkWidths();
+    checkTextHeights();
     // Without one of its page counts little can be said about a table.
     if (!m_product.type().isBook() || m_spines.isEmpty() || !m_isComplete)
         return;
-    checkLength(findings);
-    checkSteps(findings);
-    checkSellingPages(findings);
+    checkLength();
+    checkSteps();
+    checkSellingPages();
 }
 
-void PxSpineCheck::readTable(PxFindings *findings)
+void PxSpineCheck::readTable()
 {
     if (!m_table)
         return;
     for (const PxSourceElement *spine : m_table->childrenNamed(QStringLiteral("spine"))) {
         ++m_rowCount;
-        readPageCount(*spine, findings);
+        readPageCount(*spine);
     }
     // What has another name was meant for a row.
     m_isComplete = m_isComplete && m_rowCount == m_table->children.size();
 }
 
-void PxSpineCheck::readPageCount(const PxSourceElement &spine, PxFindings *findings)
+void PxSpineCheck::readPageCount(const PxSourceElement &spine)
 {
     const PxElementReading reading(spine);
     const int pageCount = reading.number(pagesName);
     if (pageCount > 0) {
         if (m_spines.contains(pageCount)) {
             m_isComplete = false; // most likely one of the two is meant for another page count
-            addTwice(spine, pageCount, findings);
+            addTwice(spine, pageCount);
         }
         m_spines.insert(pageCount, &spine);
         return;
@@ -78,53 +80,56 @@ void PxSpineCheck::readPageCount(const PxSourceElement &spine, PxFindings *findi
     if (!reading.isReadable(pagesName))
         return;
     const PxMissingPart missing = reading.missing(pagesName);
-    m_product.add(
-        findings, "spine-pages-missing", missing.range,
-        reading.isGiven(pagesName) ? QStringLiteral("a spine for %1 pages").arg(pageCount)
-                                   : QStringLiteral("a spine without a page count"),
-        QStringLiteral("the smallest page count is %1").arg(m_product.description().minPages()),
-        missing.hint);
+    m_report
+        .add(PxTag::SpinePagesMissing, missing.range,
+             reading.isGiven(pagesName) ? QStringLiteral("a spine for %1 pages").arg(pageCount)
+                                        : QStringLiteral("a spine without a page count"))
+        .now(
+            QStringLiteral("the smallest page count is %1").arg(m_product.description().minPages()))
+        .hint(missing.hint);
 }
 
-void PxSpineCheck::addTwice(const PxSourceElement &spine, int pageCount, PxFindings *findings) const
+void PxSpineCheck::addTwice(const PxSourceElement &spine, int pageCount) const
 {
     const PxSourceElement &earlier = *m_spines.value(pageCount);
-    m_product.add(findings, "spine-pages-twice", spine.rangeOf(pagesName),
-                  QStringLiteral("a second spine for %1 pages, %2 wide; the one in %3 is %4")
-                      .arg(QString::number(pageCount), QString::number(widthOf(spine)),
-                           PxMessageText::line(m_product.file(), earlier.rangeOf(pagesName)),
-                           QString::number(widthOf(earlier))),
-                  QStringLiteral("the later one is used, as a spine of %1")
-                      .arg(m_product.description().spineWidth(pageCount)),
-                  QStringLiteral("keep the one that is meant"));
+    m_report
+        .add(PxTag::SpinePagesTwice, spine.rangeOf(pagesName),
+             QStringLiteral("a second spine for %1 pages, %2 wide; the one in %3 is %4")
+                 .arg(QString::number(pageCount), QString::number(widthOf(spine)),
+                      PxFinding::otherPlaceMark, QString::number(widthOf(earlier))))
+        .otherPlace(m_report.file().place(earlier.rangeOf(pagesName)))
+        .now(QStringLiteral("the later one is used, as a spine of %1")
+                 .arg(m_product.description().spineWidth(pageCount)))
+        .hint(QStringLiteral("keep the one that is meant"));
 }
 
-void PxSpineCheck::checkPresence(PxFindings *findings) const
+void PxSpineCheck::checkPresence() const
 {
     if (!m_product.type().isBook() || m_rowCount > 0)
         return;
     const PxMissingPart missing =
         m_table ? PxElementReading(*m_table).missingEntries()
                 : PxElementReading(m_product.element()).missingChild(QStringLiteral("spines"));
-    m_product.add(
-        findings, "book-without-page-counts", missing.range,
-        m_table ? QStringLiteral("the \"spines\" of this book hold no \"spine\"")
-                : QStringLiteral("a book without \"spines\""),
-        QStringLiteral("its page counts go from %1 to %2")
-            .arg(m_product.description().minPages())
-            .arg(m_product.description().maxPages()),
-        missing.hintOr(QStringLiteral("add a \"spine\" for each page count, with the width 0 "
-                                      "when none is printed")));
+    m_report
+        .add(PxTag::BookWithoutPageCounts, missing.range,
+             m_table ? QStringLiteral("the \"spines\" of this book hold no \"spine\"")
+                     : QStringLiteral("a book without \"spines\""))
+        .now(QStringLiteral("its page counts go from %1 to %2")
+                 .arg(m_product.description().minPages())
+                 .arg(m_product.description().maxPages()))
+        .hint(missing.hintOr(QStringLiteral("add a \"spine\" for each page count, with the width 0 "
+                                            "when none is printed")));
 }
 
-void PxSpineCheck::checkLength(PxFindings *findings) const
+void PxSpineCheck::checkLength() const
 {
     if (m_rowCount < 3)
-        m_product.add(findings, "spine-table-short", m_table->nameRange,
-                      QStringLiteral("a book with %1 page counts").arg(m_rowCount),
-                      QStringLiteral("the step between its page counts is %1")
-                          .arg(m_product.description().pageIncrement()),
-                      QStringLiteral("give three page counts or more"));
+        m_report
+            .add(PxTag::SpineTableShort, m_table->nameRange,
+                 QStringLiteral("a book with %1 page counts").arg(m_rowCount))
+            .now(QStringLiteral("the step between its page counts is %1")
+                     .arg(m_product.description().pageIncrement()))
+            .hint(QStringLiteral("give three page counts or more"));
 }
 
 /** The step that most page counts have; of two the one that the library takes. */
@@ -143,7 +148,7 @@ int PxSpineCheck::usualStep() const
     return usual;
 }
 
-void PxSpineCheck::checkSteps(PxFindings *findings) const
+void PxSpineCheck::checkSteps() const
 {
     if (m_spines.size() < 3)
         return;
@@ -160,27 +165,28 @@ void PxSpineCheck::checkSteps(PxFindings *findings) const
         const bool isBackInStep = smaller != inStep && it.key() - inStep == 2LL * usual;
         // A table may go on in other steps: that is one place, not many.
         if (step != usual && step != before && !isBackInStep)
-            m_product.add(findings, "spine-steps-irregular", it.value()->rangeOf(pagesName),
-                          QStringLiteral("%1 pages after %2, where most steps are %3")
-                              .arg(it.key())
-                              .arg(smaller)
-                              .arg(usual),
-                          QStringLiteral("the page counts go from %1 to %2 in steps of %3")
-                                  .arg(m_product.description().minPages())
-                                  .arg(m_product.description().maxPages())
-                                  .arg(m_product.description().pageIncrement()) +
-                              nowWithoutSpine(smaller, it.key()),
-                          std::next(it).key() == wanted + usual
-                              ? PxSpelling::didYouMean(QString::number(wanted))
-                          : step > usual ? QStringLiteral("add a spine for %1 pages").arg(wanted)
-                                         : QString());
+            m_report
+                .add(PxTag::SpineStepsIrregular, it.value()->rangeOf(pagesName),
+                     QStringLiteral("%1 pages after %2, where most steps are %3")
+                         .arg(it.key())
+                         .arg(smaller)
+                         .arg(usual))
+                .now(QStringLiteral("the page counts go from %1 to %2 in steps of %3")
+                         .arg(m_product.description().minPages())
+                         .arg(m_product.description().maxPages())
+                         .arg(m_product.description().pageIncrement()) +
+                     nowWithoutSpine(smaller, it.key()))
+                .hint(std::next(it).key() == wanted + usual
+                          ? PxSpelling::didYouMean(QString::number(wanted))
+                      : step > usual ? QStringLiteral("add a spine for %1 pages").arg(wanted)
+                                     : QString());
         isRegular = isRegular && step == usual;
         before = isBackInStep ? usual : step;
         if (isBackInStep || step == usual)
             inStep = it.key();
     }
     if (isRegular)
-        checkLastStep(usual, findings);
+        checkLastStep(usual);
 }
 
 /** What becomes of the first page count that is offered between two of the table. */
@@ -196,26 +202,27 @@ QString PxSpineCheck::nowWithoutSpine(int smaller, int larger) const
 }
 
 /** A last step that is longer than the others leaves out page counts as any other does. */
-void PxSpineCheck::checkLastStep(int usual, PxFindings *findings) const
+void PxSpineCheck::checkLastStep(int usual) const
 {
     const auto last = std::prev(m_spines.end());
     const int smaller = std::prev(last).key();
     // Three entries without a width may stand for all that lie between them.
     if (last.key() - usual <= smaller || (!hasWidth() && m_spines.size() < 4))
         return;
-    m_product.add(findings, "spine-last-step-long", last.value()->rangeOf(pagesName),
-                  QStringLiteral("%1 pages after %2, where other steps are %3")
-                      .arg(last.key())
-                      .arg(smaller)
-                      .arg(usual),
-                  hasWidth() ? QStringLiteral("the spine for %1 pages is %2 wide")
-                                   .arg(smaller + usual)
-                                   .arg(m_product.description().spineWidth(smaller + usual))
-                             : QStringLiteral("the page counts go from %1 to %2 in steps of %3")
-                                   .arg(m_product.description().minPages())
-                                   .arg(m_product.description().maxPages())
-                                   .arg(m_product.description().pageIncrement()),
-                  QStringLiteral("add a spine for %1 pages").arg(smaller + usual));
+    m_report
+        .add(PxTag::SpineLastStepLong, last.value()->rangeOf(pagesName),
+             QStringLiteral("%1 pages after %2, where other steps are %3")
+                 .arg(last.key())
+                 .arg(smaller)
+                 .arg(usual))
+        .now(hasWidth() ? QStringLiteral("the spine for %1 pages is %2 wide")
+                              .arg(smaller + usual)
+                              .arg(m_product.description().spineWidth(smaller + usual))
+                        : QStringLiteral("the page counts go from %1 to %2 in steps of %3")
+                              .arg(m_product.description().minPages())
+                              .arg(m_product.description().maxPages())
+                              .arg(m_product.description().pageIncrement()))
+        .hint(QStringLiteral("add a spine for %1 pages").arg(smaller + usual));
 }
 
 bool PxSpineCheck::hasWidth() const
@@ -224,7 +231,7 @@ bool PxSpineCheck::hasWidth() const
                        [](const PxSourceElement *spine) { return widthOf(*spine) > 0; });
 }
 
-void PxSpineCheck::checkWidths(PxFindings *findings) const
+void PxSpineCheck::checkWidths() const
 {
     if (!hasWidth())
         return;
@@ -235,49 +242,51 @@ void PxSpineCheck::checkWidths(PxFindings *findings) const
         if (!isWidthKnown(spine))
             continue;
         if (own <= 0) {
-            m_product.add(findings, "spine-width-missing", spine.rangeOf(width),
-                          spine.attribute(width)
-                              ? QStringLiteral("a spine of the width %1").arg(own)
-                              : QStringLiteral("a spine without a width"),
-                          QStringLiteral("the spine for %1 pages is %2 wide")
-                              .arg(it.key())
-                              .arg(m_product.description().spineWidth(it.key())));
+            m_report
+                .add(PxTag::SpineWidthMissing, spine.rangeOf(width),
+                     spine.attribute(width) ? QStringLiteral("a spine of the width %1").arg(own)
+                                            : QStringLiteral("a spine without a width"))
+                .now(QStringLiteral("the spine for %1 pages is %2 wide")
+                         .arg(it.key())
+                         .arg(m_product.description().spineWidth(it.key())));
             continue;
         }
         const int other = narrower ? widthOf(*narrower) : 0;
         if (own < other && m_isComplete)
-            m_product.add(
-                findings, "spine-width-falls", spine.rangeOf(width),
-                QStringLiteral("a spine of %1 for %2 pages, but one of %3 for fewer in %4")
-                    .arg(own)
-                    .arg(it.key())
-                    .arg(other)
-                    .arg(PxMessageText::line(m_product.file(), narrower->rangeOf(width))),
-                QStringLiteral("the spine for %1 pages is %2 wide")
-                    .arg(it.key())
-                    .arg(m_product.description().spineWidth(it.key())));
+            m_report
+                .add(PxTag::SpineWidthFalls, spine.rangeOf(width),
+                     QStringLiteral("a spine of %1 for %2 pages, but one of %3 for fewer in %4")
+                         .arg(own)
+                         .arg(it.key())
+                         .arg(other)
+                         .arg(PxFinding::otherPlaceMark))
+                .otherPlace(m_report.file().place(narrower->rangeOf(width)))
+                .now(QStringLiteral("the spine for %1 pages is %2 wide")
+                         .arg(it.key())
+                         .arg(m_product.description().spineWidth(it.key())));
         narrower = &spine;
     }
 }
 
-void PxSpineCheck::checkTextHeights(PxFindings *findings) const
+void PxSpineCheck::checkTextHeights() const
 {
     for (auto it = m_spines.begin(); it != m_spines.end(); ++it) {
         // What the library has added to the width may take type, too.
         const int spineWidth = m_product.description().spineWidth(it.key());
         const int height = m_product.description().spineMaxFontHeight(it.key());
         if (widthOf(*it.value()) > 0 && height > spineWidth)
-            m_product.add(findings, "spine-text-too-high", it.value()->rangeOf(maxFontHeight),
-                          QStringLiteral("type of the height %1 on a spine of %2")
-                              .arg(height)
-                              .arg(widthOf(*it.value())),
-                          QStringLiteral("type may be %1 high on a spine that is %2 wide")
-                              .arg(height)
-                              .arg(spineWidth));
+            m_report
+                .add(PxTag::SpineTextTooHigh, it.value()->rangeOf(maxFontHeight),
+                     QStringLiteral("type of the height %1 on a spine of %2")
+                         .arg(height)
+                         .arg(widthOf(*it.value())))
+                .now(QStringLiteral("type may be %1 high on a spine that is %2 wide")
+                         .arg(height)
+                         .arg(spineWidth));
     }
 }
 
-void PxSpineCheck::checkSellingPages(PxFindings *findings) const
+void PxSpineCheck::checkSellingPages() const
 {
     const QString attribute = QStringLiteral("defaultSellingPages");
     const int pageCount = m_product.description().defaultSellingPages();
@@ -290,15 +299,16 @@ void PxSpineCheck::checkSellingPages(PxFindings *findings) const
         near.append(QString::number(std::prev(next).key()));
     if (next != m_spines.end())
         near.append(QString::number(next.key()));
-    m_product.add(findings, "selling-pages-not-offered", m_product.element().rangeOf(attribute),
-                  QStringLiteral("%1 is no page count of \"spines\"").arg(pageCount),
-                  QStringLiteral("a new book has %1 pages, and a spine of %2")
-                      .arg(pageCount)
-                      .arg(m_product.description().spineWidth(pageCount)),
-                  QStringLiteral("the nearest: %1").arg(near.join(QStringLiteral(", "))));
+    m_report
+        .add(PxTag::SellingPagesNotOffered, m_product.element().rangeOf(attribute),
+             QStringLiteral("%1 is no page count of \"spines\"").arg(pageCount))
+        .now(QStringLiteral("a new book has %1 pages, and a spine of %2")
+                 .arg(pageCount)
+                 .arg(m_product.description().spineWidth(pageCount)))
+        .hint(QStringLiteral("the nearest: %1").arg(near.join(QStringLiteral(", "))));
 }
 
-void PxSpineCheck::checkSpinePage(PxFindings *findings) const
+void PxSpineCheck::checkSpinePage() const
 {
     const bool isBookWithoutTable = m_product.type().isBook() && m_rowCount == 0;
     // A width under another name is told with what follows from it.
@@ -313,17 +323,19 @@ void PxSpineCheck::checkSpinePage(PxFindings *findings) const
                                       : PxElementReading(*m_spines.first()).missing(width);
     const PxPageEntry *spinePage = m_pages.spine();
     if (spinePage && !hasWidth() && isEveryWidthKnown && !isBookWithoutTable)
-        m_product.add(findings, "spine-page-without-table",
-                      missing.hint.isEmpty() ? spinePage->range : missing.range,
-                      QStringLiteral("a spine among the pages, but no width in \"spines\""),
-                      QStringLiteral("the spine is %1 wide")
-                          .arg(m_product.description().spineWidth(
-                              m_spines.isEmpty() ? 0 : m_spines.firstKey())),
-                      missing.hintOr(QStringLiteral("give its width, or take the spine out")));
+        m_report
+            .add(PxTag::SpinePageWithoutTable,
+                 missing.hint.isEmpty() ? spinePage->range : missing.range,
+                 QStringLiteral("a spine among the pages, but no width in \"spines\""))
+            .now(QStringLiteral("the spine is %1 wide")
+                     .arg(m_product.description().spineWidth(
+                         m_spines.isEmpty() ? 0 : m_spines.firstKey())))
+            .hint(missing.hintOr(QStringLiteral("give its width, or take the spine out")));
     if (m_pages.isGiven() && m_pages.isSound() && !m_product.description().hasSpine() && hasWidth())
-        m_product.add(findings, "spine-without-page", m_table->nameRange,
-                      QStringLiteral("spines with a width, but \"pages\" lists no spine"),
-                      QStringLiteral("the product has no spine; a cover half is %1 wide")
-                          .arg(m_product.description().coverSize().width()),
-                      QStringLiteral("add \"spine\" to the pages, or give the width 0"));
+        m_report
+            .add(PxTag::SpineWithoutPage, m_table->nameRange,
+                 QStringLiteral("spines with a width, but \"pages\" lists no spine"))
+            .now(QStringLiteral("the product has no spine; a cover half is %1 wide")
+                     .arg(m_product.description().coverSize().width()))
+            .hint(QStringLiteral("add \"spine\" to the pages, or give the width 0"));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "check/findings/PxReporter.h"
 #include "check/source/PxPageEntries.h"
 
 #include <QMap>
@@ -9,28 +10,30 @@ class PxSpineCheck
 {
 public:
     /** Both must outlive the check. */
-    PxSpineCheck(const PxCheckedProduct &product, const PxPageEntries &pages);
+    PxSpineCheck(const PxCheckedProduct &product, const PxPageEntries &pages,
+                 const PxReporter &report);
 
-    void run(PxFindings *findings);
+    void run();
 
 private:
-    void readTable(PxFindings *findings);
-    void readPageCount(const PxSourceElement &spine, PxFindings *findings);
-    void addTwice(const PxSourceElement &spine, int pageCount, PxFindings *findings) const;
-    void checkPresence(PxFindings *findings) const;
-    void checkLength(PxFindings *findings) const;
-    void checkSteps(PxFindings *findings) const;
+    void readTable();
+    void readPageCount(const PxSourceElement &spine);
+    void addTwice(const PxSourceElement &spine, int pageCount) const;
+    void checkPresence() const;
+    void checkLength() const;
+    void checkSteps() const;
     QString nowWithoutSpine(int smaller, int larger) const;
-    void checkLastStep(int usual, PxFindings *findings) const;
+    void checkLastStep(int usual) const;
     int usualStep() const;
-    void checkWidths(PxFindings *findings) const;
-    void checkTextHeights(PxFindings *findings) const;
-    void checkSellingPages(PxFindings *findings) const;
-    void checkSpinePage(PxFindings *findings) const;
+    void checkWidths() const;
+    void checkTextHeights() const;
+    void checkSellingPages() const;
+    void checkSpinePage() const;
     bool hasWidth() const;
 
     const PxCheckedProduct &m_product;
     const PxPageEntries &m_pages;
+    const PxReporter m_report;
     const PxSourceElement *m_table; // null when there is none
     int m_rowCount = 0;
     /** The rows that count, by page count. */

@@ -1,5 +1,6 @@
 #include "check/rules/PxElementReading.h"
 
+#include "check/PxCheckLimits.h"
 #include "check/words/PxSpelling.h"
 #include "format/PxFormat.h"
 
@@ -16,9 +17,6 @@ const PxElementRow &rowOf(const PxSourceElement &element, PxFileKind kind)
         element.parent ? PxFormat::child(rowOf(*element.parent, kind), element.name) : nullptr;
     return row ? *row : PxFormat::root(kind);
 }
-
-// Elements of one search: what was meant for a child stands near by, and files may have 200 000.
-constexpr int maximumSearched = 10000;
 
 /** Whether any is read between the tags. */
 bool hasText(const PxSourceElement &element)
@@ -139,7 +137,7 @@ QStringList PxElementReading::namesOfMissing() const
 
 const PxSourceElement *PxElementReading::misplacedChild(const QString &name, Search search) const
 {
-    int left = maximumSearched;
+    int left = PxCheckLimits::searchedElements;
     const PxSourceElement *own = findBelow(m_element, name, &left);
     // The others of any name are all like this one.
     if (own || search == Search::Inside || m_row.occurrence == PxOccurrence::AnyName)

@@ -1,6 +1,6 @@
 #include "check/rules/PxFormatCheck.h"
 
-#include "check/design/PxDefaultsEntry.h"
+#include "check/PxCheckLimits.h"
 #include "check/rules/PxElementReading.h"
 #include "check/rules/PxFormatSearch.h"
 #include "check/rules/PxMissingValue.h"
@@ -13,8 +13,6 @@
 #include <algorithm>
 
 namespace {
-
-constexpr int maximumText = 1000; // letters of a text that is only quoted
 
 QString nameOf(const PxElementRow &row)
 {
@@ -48,21 +46,31 @@ const PxElementRow *entriesOfSameName(const PxElementRow &row)
     return isContainer ? row.children.begin() : nullptr;
 }
 
+/** For an element whose text may have been written as an attribute; empty for all others. */
+QString hintForText(const PxSourceElement &element, const PxElementRow &row)
+{
+    return row.text == PxTextKind::None ? QString()
+                                        : PxElementReading(element, row).missingText().hint;
+}
+
 /** A container that was taken for one of its entries: what it says is another check's matter. */
 bool isMeantAsEntry(const PxSourceElement &element, const PxElementRow &row)
 {
-    return entriesOfSameName(row) && PxDefaultsEntry::isEntry(element);
+    const PxElementRow *entries = entriesOfSameName(row);
+    return entries && std::any_of(element.attributes.begin(), element.attributes.end(),
+                                  [entries](const PxSourceAttribute &attribute) {
+                                      return PxFormat::attribute(*entries, attribute.name);
+                                  });
 }
 
 } // namespace
 
-void PxFormatCheck::run(PxFindings *findings) const
+void PxFormatCheck::run()
 {
-    const PxSourceElement *root = m_file.root();
+    const PxSourceElement *root = m_report.file().root();
     if (!root || !isOfKind(*root))
         return;
-    PxFileFindings ofFile(m_file, findings);
-    checkElement({*root, PxFormat::root(m_kind), nullptr, nullptr}, ofFile);
+    checkElement({*root, PxFormat::root(m_kind), nullptr, nullptr});
 }
 
 /** Whether anything is read from the file; when nothing is, that is told elsewhere. */
@@ -81,74 +89,76 @@ bool PxFormatCheck::isOfKind(const PxSourceElement &root) const
     }
 }
 
-void PxFormatCheck::checkElement(const Place &place, PxFileFindings &findings) const
+void PxFormatCheck::checkElement(const Place &place) const
 {
-    checkAttributes(place, findings);
-    checkText(place, findings);
-    checkChildren(place, findings);
+    checkAttributes(place);
+    checkText(place);
+    checkChildren(place);
 }
 
-void PxFormatCheck::checkAttributes(const Place &place, PxFileFindings &findings) const
+void PxFormatCheck::checkAttributes(const Place &place) const
 {
-    const PxValueCheck values(findings);
     const PxElementRow *entry = entriesOfSameName(place.row);
     for (const PxSourceAttribute &attribute : place.element.attributes) {
         const PxAttributeRow *row = PxFormat::attribute(place.row, attribute.name);
         if (row)
-            values.check(place.element, *row, attribute);
+            PxValueCheck(place.element, *row, attribute, m_report).run();
         else if (!isOfXml(attribute.name) &&
                  !(entry && PxFormat::attribute(*entry, attribute.name)))
-            addUnknownAttribute(place, attribute, findings);
+            addUnknownAttribute(place, attribute);
     }
 }
 
-void PxFormatCheck::addUnknownAttribute(const Place &place, const PxSourceAttribute &attribute,
-                                        PxFileFindings &findings) const
+void PxFormatCheck::addUnknownAttribute(const Place &place,
+                                        const PxSourceAttribute &attribute) const
 {
-    constexpr const char *tag = "attribute-unknown";
     const QString local = localName(attribute.name);
     const bool hasPrefix = local != attribute.name;
     const PxFormatSearch search(PxFormat::root(m_kind), place.row, place.parent);
     if (hasPrefix ? !PxFormat::attribute(place.row, local)
                   : !place.parent && search.ownersOf(attribute.name).isEmpty())
-        return; // somebody else's, or a note about the file as a whole, as its version
+        return; // of another application, or a note about the file as a whole, as its version
 
-    const QString asText = place.row.text == PxTextKind::None
-                               ? QString()
-                               : PxElementReading(place.element, place.row).missingText().hint;
-    // Its neighbour was written in the same way: the first one tells it.
+    const QString asText = hintForText(place.element, place.row);
+    // Its neighbour was written in the same way, and has been reported.
     if (!asText.isEmpty() && place.before && place.before->name == place.element.name &&
-        !PxElementReading(*place.before, place.row).missingText().hint.isEmpty())
+        !hintForText(*place.before, place.row).isEmpty())
         return;
-    if (!findings.isTold(tag, attribute.nameRange)) {
-        findings.add(tag, attribute.nameRange, QString());
-        return;
-    }
-    QString now;
-    QString hint;
-    const QStringList owners = search.ownersOf(attribute.name);
-    const QString meant = PxElementReading(place.element, place.row).meant(attribute.name);
-    // The same letters are a better guess than another element, and that one than other letters.
-    if (hasPrefix) {
-        hint = withoutPrefix(local);
-    } else if (!asText.isEmpty()) {
-        hint = asText;
-    } else if (!owners.isEmpty() && meant.compare(attribute.name, Qt::CaseInsensitive) != 0) {
-        hint = QStringLiteral("it is read on %1").arg(PxMessageText::quotedList(owners));
-    } else if (!meant.isEmpty()) {
-        hint = PxSpelling::didYouMean(meant);
-        now = PxMissingValue::text(place.element, *PxFormat::attribute(place.row, meant));
-    }
-    findings.add(tag, attribute.nameRange,
-                 QStringLiteral("\"%1\" is not read on \"%2\"")
-                     .arg(PxMessageText::shortened(attribute.name),
-                          PxMessageText::shortened(place.element.name)),
-                 now.isEmpty() ? QStringLiteral("it is passed over")
-                               : QStringLiteral("\"%1\" is missing: %2").arg(meant, now),
-                 hint);
+    const auto misspelt = [&] {
+        const QString meant = PxElementReading(place.element, place.row).meant(attribute.name);
+        const bool isSame = meant.compare(attribute.name, Qt::CaseInsensitive) == 0;
+        // The same letters are a better guess than another element, and that one than other
+        // letters.
+        return hasPrefix || !asText.isEmpty() ||
+                       (!isSame && !search.ownersOf(attribute.name).isEmpty())
+                   ? QString()
+                   : meant;
+    };
+    m_report
+        .add(PxTag::AttributeUnknown, attribute.nameRange,
+             QStringLiteral("\"%1\" is not read on \"%2\"")
+                 .arg(PxMessageText::shortened(attribute.name),
+                      PxMessageText::shortened(place.element.name)))
+        .now([&] {
+            const QString meant = misspelt();
+            const PxAttributeRow *row = PxFormat::attribute(place.row, meant);
+            return row ? QStringLiteral("\"%1\" is missing: %2")
+                             .arg(meant, PxMissingValue::text(place.element, *row))
+                       : QStringLiteral("it is passed over");
+        })
+        .hint([&] {
+            const QStringList owners = search.ownersOf(attribute.name);
+            const QString meant = misspelt();
+            return hasPrefix           ? withoutPrefix(local)
+                   : !asText.isEmpty() ? asText
+                   : !meant.isEmpty()  ? PxSpelling::didYouMean(meant)
+                   : owners.isEmpty()
+                       ? QString()
+                       : QStringLiteral("it is read on %1").arg(PxMessageText::quotedList(owners));
+        });
 }
 
-void PxFormatCheck::checkText(const Place &place, PxFileFindings &findings) const
+void PxFormatCheck::checkText(const Place &place) const
 {
     if (place.row.text != PxTextKind::None)
         return;
@@ -163,17 +173,19 @@ void PxFormatCheck::checkText(const Place &place, PxFileFindings &findings) cons
         return;
     const PxRows<PxElementRow> &children = place.row.children;
     const bool isOfChild = children.size() == 1 && children.begin()->text != PxTextKind::None;
-    findings.add("text-not-read", text->range,
-                 QStringLiteral("the text \"%1\" is not read in \"%2\"")
-                     .arg(PxMessageText::shortened(text->text.left(maximumText).simplified()),
-                          PxMessageText::shortened(place.element.name)),
-                 QStringLiteral("it is passed over"),
-                 isOfChild
-                     ? QStringLiteral("put it into a \"%1\" element").arg(nameOf(*children.begin()))
-                     : QString());
+    m_report
+        .add(PxTag::TextNotRead, text->range,
+             QStringLiteral("the text \"%1\" is not read in \"%2\"")
+                 .arg(PxMessageText::shortened(
+                          text->text.left(PxCheckLimits::messageLength).simplified()),
+                      PxMessageText::shortened(place.element.name)))
+        .now(QStringLiteral("it is passed over"))
+        .hint(isOfChild
+                  ? QStringLiteral("put it into a \"%1\" element").arg(nameOf(*children.begin()))
+                  : QString());
 }
 
-void PxFormatCheck::checkChildren(const Place &place, PxFileFindings &findings) const
+void PxFormatCheck::checkChildren(const Place &place) const
 {
     QHash<QString, const PxSourceElement *> first;
     bool isFlat = false;
@@ -184,7 +196,7 @@ void PxFormatCheck::checkChildren(const Place &place, PxFileFindings &findings) 
         const PxSourceElement *neighbour = before;
         before = child;
         if (!row) {
-            addUnknownElement(place, i, findings);
+            addUnknownElement(place, i);
             continue;
         }
         isFlat = isFlat || isMeantAsEntry(*child, *row);
@@ -192,15 +204,15 @@ void PxFormatCheck::checkChildren(const Place &place, PxFileFindings &findings) 
             row->occurrence == PxOccurrence::First && first.contains(child->name);
         if (!isRepeated) {
             first.insert(child->name, child);
-            checkElement({*child, *row, &place.row, neighbour}, findings);
+            checkElement({*child, *row, &place.row, neighbour});
         } else if (!isFlat || !entriesOfSameName(*row)) {
-            addRepeated(place, *child, *first.value(child->name), findings);
+            addRepeated(place, *child, *first.value(child->name));
         }
     }
 }
 
 void PxFormatCheck::addRepeated(const Place &place, const PxSourceElement &child,
-                                const PxSourceElement &first, PxFileFindings &findings) const
+                                const PxSourceElement &first) const
 {
     const PxElementRow &row = *PxFormat::child(place.row, child.name);
     QString hint = QStringLiteral("keep the one that is meant");
@@ -208,14 +220,15 @@ void PxFormatCheck::addRepeated(const Place &place, const PxSourceElement &child
         hint = QStringLiteral("give each \"%1\" a file of its own").arg(child.name);
     else if (!row.children.isEmpty())
         hint = QStringLiteral("move what it holds into the first one");
-    findings.add("element-repeated", child.nameRange,
-                 QStringLiteral("another \"%1\" in \"%2\"").arg(child.name, place.element.name),
-                 QStringLiteral("only the first one is read, in %1")
-                     .arg(PxMessageText::line(m_file, first.nameRange)),
-                 hint);
+    m_report
+        .add(PxTag::ElementRepeated, child.nameRange,
+             QStringLiteral("another \"%1\" in \"%2\"").arg(child.name, place.element.name))
+        .now(
+            QStringLiteral("only the first one is read, in %1").arg(m_report.line(first.nameRange)))
+        .hint(hint);
 }
 
-void PxFormatCheck::addUnknownElement(const Place &place, int index, PxFileFindings &findings) const
+void PxFormatCheck::addUnknownElement(const Place &place, int index) const
 {
     const PxSourceElement &child = *place.element.children.at(index);
     const QString local = localName(child.name);
@@ -229,28 +242,26 @@ void PxFormatCheck::addUnknownElement(const Place &place, int index, PxFileFindi
     const PxFormatSearch search(PxFormat::root(m_kind), place.row, place.parent);
     const PxElementRow *owner = hasPrefix ? nullptr : search.parentOf(child.name);
     if (owner) {
-        addMisplaced(place, index, *owner, now, findings);
+        addMisplaced(place, index, *owner, now);
         return;
     }
-    constexpr const char *tag = "element-unknown";
-    if (!findings.isTold(tag, child.nameRange)) {
-        findings.add(tag, child.nameRange, QString());
-        return;
-    }
-    QString hint =
-        hasPrefix ? withoutPrefix(local) : PxSpelling::hint(local, PxFormat::childNames(place.row));
-    if (hint.isEmpty())
-        hint = PxSpelling::hint(local, search.elementNames());
-    findings.add(tag, child.nameRange,
-                 QStringLiteral("\"%1\" is not read in \"%2\"")
-                     .arg(PxMessageText::shortened(child.name),
-                          PxMessageText::shortened(place.element.name)),
-                 now, hint);
+    m_report
+        .add(PxTag::ElementUnknown, child.nameRange,
+             QStringLiteral("\"%1\" is not read in \"%2\"")
+                 .arg(PxMessageText::shortened(child.name),
+                      PxMessageText::shortened(place.element.name)))
+        .now(now)
+        .hint([&] {
+            if (hasPrefix)
+                return withoutPrefix(local);
+            const QString sibling = PxSpelling::hint(local, PxFormat::childNames(place.row));
+            return sibling.isEmpty() ? PxSpelling::hint(local, search.elementNames()) : sibling;
+        });
 }
 
 /** Once for all that stand there in a row: they lack the same container. */
 void PxFormatCheck::addMisplaced(const Place &place, int index, const PxElementRow &owner,
-                                 const QString &now, PxFileFindings &findings) const
+                                 const QString &now) const
 {
     const QVector<const PxSourceElement *> &siblings = place.element.children;
     const PxSourceElement &child = *siblings.at(index);
@@ -263,14 +274,15 @@ void PxFormatCheck::addMisplaced(const Place &place, int index, const PxElementR
     const QString into = &owner == &PxFormat::root(m_kind) ? QStringLiteral("the document element")
                                                            : PxMessageText::quoted(nameOf(owner));
     const QString what = count == 1 ? QStringLiteral("it") : QStringLiteral("them");
-    findings.add("element-misplaced", child.nameRange,
-                 count == 1 ? QStringLiteral("\"%1\" directly below \"%2\" is not read")
-                                  .arg(child.name, place.element.name)
-                            : QStringLiteral("%1 \"%2\" directly below \"%3\" are not read")
-                                  .arg(count)
-                                  .arg(child.name, place.element.name),
-                 now,
-                 (&owner == place.parent ? QStringLiteral("move %1 out, into %2")
-                                         : QStringLiteral("put %1 into %2"))
-                     .arg(what, into));
+    m_report
+        .add(PxTag::ElementMisplaced, child.nameRange,
+             count == 1 ? QStringLiteral("\"%1\" directly below \"%2\" is not read")
+                              .arg(child.name, place.element.name)
+                        : QStringLiteral("%1 \"%2\" directly below \"%3\" are not read")
+                              .arg(count)
+                              .arg(child.name, place.element.name))
+        .now(now)
+        .hint((&owner == place.parent ? QStringLiteral("move %1 out, into %2")
+                                      : QStringLiteral("put %1 into %2"))
+                  .arg(what, into));
 }

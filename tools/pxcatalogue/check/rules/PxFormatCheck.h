@@ -1,6 +1,6 @@
 #pragma once
 
-#include "check/findings/PxFileFindings.h"
+#include "check/findings/PxReporter.h"
 #include "format/PxFormat.h"
 
 /**
@@ -10,10 +10,10 @@
 class PxFormatCheck
 {
 public:
-    /** The file has been read. It must outlive the check. */
-    PxFormatCheck(const PxCheckedFile &file, PxFileKind kind) : m_file(file), m_kind(kind) {}
+    /** The file has been read. */
+    PxFormatCheck(PxFileKind kind, const PxReporter &report) : m_kind(kind), m_report(report) {}
 
-    void run(PxFindings *findings) const;
+    void run();
 
 private:
     /** An element, what it may be, what its parent is, and its neighbour before; null for none. */
@@ -26,20 +26,19 @@ private:
     };
 
     bool isOfKind(const PxSourceElement &root) const;
-    void checkElement(const Place &place, PxFileFindings &findings) const;
-    void checkAttributes(const Place &place, PxFileFindings &findings) const;
-    void checkText(const Place &place, PxFileFindings &findings) const;
-    void checkChildren(const Place &place, PxFileFindings &findings) const;
+    void checkElement(const Place &place) const;
+    void checkAttributes(const Place &place) const;
+    void checkText(const Place &place) const;
+    void checkChildren(const Place &place) const;
 
-    void addUnknownAttribute(const Place &place, const PxSourceAttribute &attribute,
-                             PxFileFindings &findings) const;
-    void addRepeated(const Place &place, const PxSourceElement &child, const PxSourceElement &first,
-                     PxFileFindings &findings) const;
+    void addUnknownAttribute(const Place &place, const PxSourceAttribute &attribute) const;
+    void addRepeated(const Place &place, const PxSourceElement &child,
+                     const PxSourceElement &first) const;
     /** The child with that index, and so below. */
-    void addUnknownElement(const Place &place, int index, PxFileFindings &findings) const;
-    void addMisplaced(const Place &place, int index, const PxElementRow &owner, const QString &now,
-                      PxFileFindings &findings) const;
+    void addUnknownElement(const Place &place, int index) const;
+    void addMisplaced(const Place &place, int index, const PxElementRow &owner,
+                      const QString &now) const;
 
-    const PxCheckedFile &m_file;
     PxFileKind m_kind;
+    const PxReporter m_report;
 };

@@ -12,18 +12,19 @@
 
 #include <algorithm>
 
-PxKeywordCheck::PxKeywordCheck(const PxCheckedFile &file, const PxSourceElement &element,
-                               const PxAttributeRow &row, const PxSourceAttribute &attribute)
+PxKeywordCheck::PxKeywordCheck(const PxSourceElement &element, const PxAttributeRow &row,
+                               const PxSourceAttribute &attribute, const PxReporter &report)
     : m_element(element)
     , m_row(row)
     , m_attribute(attribute)
-    , m_list(PxSourceParts::ofAttribute(file, element, attribute.name))
+    , m_report(report)
+    , m_list(PxSourceParts::ofAttribute(report.file(), element, attribute.name))
 {
     for (PxSourcePart &entry : m_list.parts)
         entry.text = entry.text.trimmed();
 }
 
-void PxKeywordCheck::run(PxFileFindings &findings) const
+void PxKeywordCheck::run()
 {
     switch (m_row.keywords) {
     case PxKeywordSet::None:
@@ -35,27 +36,29 @@ void PxKeywordCheck::run(PxFileFindings &findings) const
         break;
     }
     if (m_attribute.value.trimmed().isEmpty())
-        checkEmpty(findings);
+        checkEmpty();
     else if (m_row.type == PxValueType::OneKeyword)
-        checkOneKeyword(findings);
+        checkOneKeyword();
     else
-        checkList(findings);
+        checkList();
 }
 
 /** An empty value is the same as none, unless the library reads it as something else. */
-void PxKeywordCheck::checkEmpty(PxFileFindings &findings) const
+void PxKeywordCheck::checkEmpty() const
 {
     const QString missing = QString::fromLatin1(m_row.defaultText);
     if (!m_row.defaultText || PxFormat::decode(m_row.keywords, m_attribute.value) ==
                                   PxFormat::decode(m_row.keywords, missing))
         return;
-    findings.add(m_row.keywords == PxKeywordSet::Alignment ? "alignment-unknown"
-                                                           : "keyword-unknown",
-                 m_attribute.valueRange, QStringLiteral("\"%1\" is empty").arg(m_attribute.name),
-                 now(), QStringLiteral("leave it out for \"%1\"").arg(missing));
+    m_report
+        .add(m_row.keywords == PxKeywordSet::Alignment ? PxTag::AlignmentUnknown
+                                                       : PxTag::KeywordUnknown,
+             m_attribute.valueRange, QStringLiteral("\"%1\" is empty").arg(m_attribute.name))
+        .now(now())
+        .hint(QStringLiteral("leave it out for \"%1\"").arg(missing));
 }
 
-void PxKeywordCheck::checkOneKeyword(PxFileFindings &findings) const
+void PxKeywordCheck::checkOneKeyword() const
 {
     const QString word = m_attribute.value.trimmed();
     if (isKnown(word))
@@ -65,17 +68,19 @@ void PxKeywordCheck::checkOneKeyword(PxFileFindings &findings) const
     const bool areKeywords =
         std::all_of(words.begin(), words.end(), [this](const QString &w) { return isKnown(w); });
     if (words.size() > 1 && areKeywords)
-        findings.add("keyword-several", m_attribute.valueRange,
-                     QStringLiteral("\"%1\" takes one keyword, not a list").arg(m_attribute.name),
-                     now(), QStringLiteral("keep the one that is meant"));
+        m_report
+            .add(PxTag::KeywordSeveral, m_attribute.valueRange,
+                 QStringLiteral("\"%1\" takes one keyword, not a list").arg(m_attribute.name))
+            .now(now())
+            .hint(QStringLiteral("keep the one that is meant"));
     else
         checkUnknown({word,
                       {m_list.parts.constFirst().range.begin, m_list.parts.constLast().range.end},
                       m_attribute.valueRange},
-                     now(), findings);
+                     now());
 }
 
-void PxKeywordCheck::checkList(PxFileFindings &findings) const
+void PxKeywordCheck::checkList() const
 {
     bool areKnown = true;
     QString asRead;
@@ -85,15 +90,14 @@ void PxKeywordCheck::checkList(PxFileFindings &findings) const
         if (areKnown)
             asRead = now(); // once: lists may be long
         areKnown = false;
-        checkUnknown(entry, asRead, findings);
+        checkUnknown(entry, asRead);
     }
     // An author who mends a word looks at the whole list anyway.
-    if (areKnown && m_list.isWhole() && !checkGap(findings) && !checkSeveral(findings))
-        checkRepeated(findings);
+    if (areKnown && m_list.isWhole() && !checkGap() && !checkSeveral())
+        checkRepeated();
 }
 
-void PxKeywordCheck::checkUnknown(const PxSourcePart &entry, const QString &asRead,
-                                  PxFileFindings &findings) const
+void PxKeywordCheck::checkUnknown(const PxSourcePart &entry, const QString &asRead) const
 {
     const QString name = QString::fromUtf8(PxFormat::keywords(m_row.keywords).name);
     const QStringList words = PxSpelling::words(entry.text);
@@ -104,28 +108,28 @@ void PxKeywordCheck::checkUnknown(const PxSourcePart &entry, const QString &asRe
     const bool isList =
         words.size() > 1 && (known == words.size() || (known > 0 && entry.text.contains(ourMarks)));
     if (isList && m_row.type != PxValueType::OneKeyword) {
-        findings.add("keyword-list-separator", entry.range,
-                     QStringLiteral("\"%1\" is one word, and no %2")
-                         .arg(PxMessageText::shortened(entry.text), name),
-                     asRead,
-                     m_row.type == PxValueType::Keyword
-                         ? QStringLiteral("keep the one that is meant")
-                         : QStringLiteral("separate with commas: \"%1\"")
-                               .arg(PxMessageText::shortened(words.join(QLatin1Char(',')))));
+        m_report
+            .add(PxTag::KeywordListSeparator, entry.range,
+                 QStringLiteral("\"%1\" is one word, and no %2")
+                     .arg(PxMessageText::shortened(entry.text), name))
+            .now(asRead)
+            .hint(m_row.type == PxValueType::Keyword
+                      ? QStringLiteral("keep the one that is meant")
+                      : QStringLiteral("separate with commas: \"%1\"")
+                            .arg(PxMessageText::shortened(words.join(QLatin1Char(',')))));
         return;
     }
-    const char *tag =
-        m_row.keywords == PxKeywordSet::Alignment ? "alignment-unknown" : "keyword-unknown";
-    findings.add(tag, entry.range,
-                 QStringLiteral("\"%1\" is no %2").arg(PxMessageText::shortened(entry.text), name),
-                 asRead,
-                 findings.isTold(tag, entry.range)
-                     ? PxSpelling::hint(entry.text, PxFormat::keywordNames(m_row.keywords))
-                     : QString());
+    const PxTag tag =
+        m_row.keywords == PxKeywordSet::Alignment ? PxTag::AlignmentUnknown : PxTag::KeywordUnknown;
+    m_report
+        .add(tag, entry.range,
+             QStringLiteral("\"%1\" is no %2").arg(PxMessageText::shortened(entry.text), name))
+        .now(asRead)
+        .hint([&] { return PxSpelling::hint(entry.text, PxFormat::keywordNames(m_row.keywords)); });
 }
 
 /** An entry without a word adds the default, which matters where the default is something. */
-bool PxKeywordCheck::checkGap(PxFileFindings &findings) const
+bool PxKeywordCheck::checkGap() const
 {
     const auto gap = std::find_if(m_list.parts.begin(), m_list.parts.end(),
                                   [](const PxSourcePart &entry) { return entry.text.isEmpty(); });
@@ -146,15 +150,16 @@ bool PxKeywordCheck::checkGap(PxFileFindings &findings) const
         return false;
     // The comma before it, or behind it when it is the first.
     const int comma = gap == m_list.parts.begin() ? gap->whole.end : gap->whole.begin - 1;
-    findings.add("keyword-list-gap", {comma, comma + 1},
-                 QStringLiteral("an entry of \"%1\" is empty").arg(m_attribute.name),
-                 QStringLiteral("it adds %1")
-                     .arg(QString::fromUtf8(PxFormat::keywords(m_row.keywords).defaultText)),
-                 QStringLiteral("take the comma out"));
+    m_report
+        .add(PxTag::KeywordListGap, {comma, comma + 1},
+             QStringLiteral("an entry of \"%1\" is empty").arg(m_attribute.name))
+        .now(QStringLiteral("it adds %1")
+                 .arg(QString::fromUtf8(PxFormat::keywords(m_row.keywords).defaultText)))
+        .hint(QStringLiteral("take the comma out"));
     return true;
 }
 
-bool PxKeywordCheck::checkSeveral(PxFileFindings &findings) const
+bool PxKeywordCheck::checkSeveral() const
 {
     if (m_row.type != PxValueType::Keyword)
         return false;
@@ -165,25 +170,27 @@ bool PxKeywordCheck::checkSeveral(PxFileFindings &findings) const
     }
     if (values.size() < 2)
         return false;
-    findings.add(
-        "keyword-several", m_attribute.valueRange,
-        QStringLiteral("a product has one %1, and \"%2\" names %3")
-            .arg(QString::fromUtf8(PxFormat::keywords(m_row.keywords).name), m_attribute.name)
-            .arg(values.size()),
-        now(), QStringLiteral("keep the one that is meant"));
+    m_report
+        .add(PxTag::KeywordSeveral, m_attribute.valueRange,
+             QStringLiteral("a product has one %1, and \"%2\" names %3")
+                 .arg(QString::fromUtf8(PxFormat::keywords(m_row.keywords).name), m_attribute.name)
+                 .arg(values.size()))
+        .now(now())
+        .hint(QStringLiteral("keep the one that is meant"));
     return true;
 }
 
-void PxKeywordCheck::checkRepeated(PxFileFindings &findings) const
+void PxKeywordCheck::checkRepeated() const
 {
     QSet<QString> words;
     for (const PxSourcePart &entry : m_list.parts) {
         const QString word = entry.text.toLower();
         if (words.contains(word) && !word.isEmpty()) {
-            findings.add("keyword-repeated", entry.range,
-                         QStringLiteral("\"%1\" is in the list already")
-                             .arg(PxMessageText::shortened(entry.text)),
-                         QStringLiteral("it counts once"));
+            m_report
+                .add(PxTag::KeywordRepeated, entry.range,
+                     QStringLiteral("\"%1\" is in the list already")
+                         .arg(PxMessageText::shortened(entry.text)))
+                .now(QStringLiteral("it counts once"));
             return;
         }
         words.insert(word);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "check/findings/PxFileFindings.h"
+#include "check/findings/PxReporter.h"
 #include "check/source/PxSourceParts.h"
 #include "format/PxFormatRows.h"
 
@@ -9,21 +9,20 @@ class PxKeywordCheck
 {
 public:
     /** All of them must outlive the check. */
-    PxKeywordCheck(const PxCheckedFile &file, const PxSourceElement &element,
-                   const PxAttributeRow &row, const PxSourceAttribute &attribute);
+    PxKeywordCheck(const PxSourceElement &element, const PxAttributeRow &row,
+                   const PxSourceAttribute &attribute, const PxReporter &report);
 
-    void run(PxFileFindings &findings) const;
+    void run();
 
 private:
-    void checkEmpty(PxFileFindings &findings) const;
-    void checkOneKeyword(PxFileFindings &findings) const;
-    void checkList(PxFileFindings &findings) const;
-    void checkUnknown(const PxSourcePart &entry, const QString &asRead,
-                      PxFileFindings &findings) const;
+    void checkEmpty() const;
+    void checkOneKeyword() const;
+    void checkList() const;
+    void checkUnknown(const PxSourcePart &entry, const QString &asRead) const;
     /** Whether it found something, and so below. */
-    bool checkGap(PxFileFindings &findings) const;
-    bool checkSeveral(PxFileFindings &findings) const;
-    void checkRepeated(PxFileFindings &findings) const;
+    bool checkGap() const;
+    bool checkSeveral() const;
+    void checkRepeated() const;
 
     bool isKnown(const QString &word) const;
     /** What the library makes of the whole value. */
@@ -32,5 +31,6 @@ private:
     const PxSourceElement &m_element;
     const PxAttributeRow &m_row;
     const PxSourceAttribute &m_attribute;
+    const PxReporter m_report;
     PxSourceList m_list; // texts without blanks
 };

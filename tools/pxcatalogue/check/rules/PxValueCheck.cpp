@@ -48,55 +48,55 @@ bool isTooLarge(const QString &text)
 
 } // namespace
 
-void PxValueCheck::check(const PxSourceElement &element, const PxAttributeRow &row,
-                         const PxSourceAttribute &attribute) const
+void PxValueCheck::run()
 {
-    switch (row.type) {
+    switch (m_row.type) {
     case PxValueType::Integer:
     case PxValueType::RectanglePart:
-        checkInteger(element, row, attribute);
+        checkInteger();
         break;
     case PxValueType::Boolean:
-        checkBoolean(element, row, attribute);
+        checkBoolean();
         break;
     case PxValueType::Keyword:
     case PxValueType::KeywordList:
     case PxValueType::OneKeyword:
-        PxKeywordCheck(m_findings.file(), element, row, attribute).run(m_findings);
+        PxKeywordCheck(m_element, m_row, m_attribute, m_report).run();
         break;
     default:
         break; // any text can be read
     }
 }
 
-void PxValueCheck::checkInteger(const PxSourceElement &element, const PxAttributeRow &row,
-                                const PxSourceAttribute &attribute) const
+void PxValueCheck::checkInteger() const
 {
-    if (PxElementReading::isReadable(element, attribute, row))
+    if (PxElementReading::isReadable(m_element, m_attribute, m_row))
         return;
+    const QString value = m_attribute.value;
     QString message =
-        QStringLiteral("\"%1\" is no whole number").arg(PxMessageText::shortened(attribute.value));
-    if (attribute.value.trimmed().isEmpty())
-        message = QStringLiteral("\"%1\" is empty").arg(attribute.name);
-    else if (isTooLarge(attribute.value))
+        QStringLiteral("\"%1\" is no whole number").arg(PxMessageText::shortened(value));
+    if (value.trimmed().isEmpty())
+        message = QStringLiteral("\"%1\" is empty").arg(m_attribute.name);
+    else if (isTooLarge(value))
         message = QStringLiteral("%1 is beyond the numbers of 32 bits")
-                      .arg(PxMessageText::shortened(attribute.value.trimmed()));
-    m_findings.add("integer-malformed", attribute.valueRange, message,
-                   PxMissingValue::text(element, row), integerHint(row, attribute));
+                      .arg(PxMessageText::shortened(value.trimmed()));
+    m_report.add(PxTag::IntegerMalformed, m_attribute.valueRange, message)
+        .now([this] { return PxMissingValue::text(m_element, m_row); })
+        .hint([this] { return integerHint(m_row, m_attribute); });
 }
 
-void PxValueCheck::checkBoolean(const PxSourceElement &element, const PxAttributeRow &row,
-                                const PxSourceAttribute &attribute) const
+void PxValueCheck::checkBoolean() const
 {
-    if (PxElementReading::isReadable(element, attribute, row))
+    if (PxElementReading::isReadable(m_element, m_attribute, m_row))
         return;
+    const QString value = m_attribute.value;
     const QString meant =
-        PxSpelling::hint(attribute.value, {QStringLiteral("true"), QStringLiteral("false")});
-    m_findings.add("boolean-malformed", attribute.valueRange,
-                   attribute.value.trimmed().isEmpty()
-                       ? QStringLiteral("\"%1\" is empty").arg(attribute.name)
-                       : QStringLiteral("\"%1\" is neither true nor false")
-                             .arg(PxMessageText::shortened(attribute.value)),
-                   PxMissingValue::text(element, row),
-                   meant.isEmpty() ? QStringLiteral("write \"true\" or \"false\"") : meant);
+        PxSpelling::hint(value, {QStringLiteral("true"), QStringLiteral("false")});
+    m_report
+        .add(PxTag::BooleanMalformed, m_attribute.valueRange,
+             value.trimmed().isEmpty() ? QStringLiteral("\"%1\" is empty").arg(m_attribute.name)
+                                       : QStringLiteral("\"%1\" is neither true nor false")
+                                             .arg(PxMessageText::shortened(value)))
+        .now([this] { return PxMissingValue::text(m_element, m_row); })
+        .hint(meant.isEmpty() ? QStringLiteral("write \"true\" or \"false\"") : meant);
 }

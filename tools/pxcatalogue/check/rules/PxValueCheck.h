@@ -1,23 +1,29 @@
 #pragma once
 
-#include "check/findings/PxFileFindings.h"
+#include "check/findings/PxReporter.h"
 #include "format/PxFormatRows.h"
 
-/** Checks whether the library can read the values of attributes: numbers and flags. */
+/** Checks whether the library can read the value of an attribute. */
 class PxValueCheck
 {
 public:
-    /** The findings must outlive the check. */
-    explicit PxValueCheck(PxFileFindings &findings) : m_findings(findings) {}
+    /** All of them must outlive the check. */
+    PxValueCheck(const PxSourceElement &element, const PxAttributeRow &row,
+                 const PxSourceAttribute &attribute, const PxReporter &report)
+        : m_element(element)
+        , m_row(row)
+        , m_attribute(attribute)
+        , m_report(report)
+    {}
 
-    void check(const PxSourceElement &element, const PxAttributeRow &row,
-               const PxSourceAttribute &attribute) const;
+    void run();
 
 private:
-    void checkInteger(const PxSourceElement &element, const PxAttributeRow &row,
-                      const PxSourceAttribute &attribute) const;
-    void checkBoolean(const PxSourceElement &element, const PxAttributeRow &row,
-                      const PxSourceAttribute &attribute) const;
+    void checkInteger() const;
+    void checkBoolean() const;
 
-    PxFileFindings &m_findings;
+    const PxSourceElement &m_element;
+    const PxAttributeRow &m_row;
+    const PxSourceAttribute &m_attribute;
+    const PxReporter m_report;
 };

@@ -19,13 +19,6 @@ public:
     /** Lies in the directory of older products. */
     bool isLegacy() const { return m_isLegacy; }
 
-    void add(PxFindings *findings, const char *tag, const PxSourceRange &range,
-             const QString &message, const QString &now = QString(),
-             const QString &hint = QString()) const
-    {
-        m_file.add(findings, tag, range, message, now, hint);
-    }
-
 private:
     const PxCheckedFile &m_file;
     const PxSourceElement &m_element;

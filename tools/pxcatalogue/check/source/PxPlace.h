@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/** A part of a file. Lines and columns count characters from 1; the end is the place behind it. */
+/** A part of a file. Lines and columns count characters from 1; the end is behind the last one. */
 struct PxPlace
 {
     QString path;
@@ -10,4 +10,11 @@ struct PxPlace
     int column = 1;
     int endLine = 1;
     int endColumn = 1;
+
+    /** As in "line 5"; with the path in another file than `file`. */
+    QString seenFrom(const QString &file) const
+    {
+        return path == file ? QStringLiteral("line %1").arg(line)
+                            : QStringLiteral("%1:%2").arg(path, QString::number(line));
+    }
 };

@@ -2,6 +2,8 @@
 
 #include "check/source/PxCheckedFile.h"
 
+#include <QStringList>
+
 #include <array>
 #include <condition_variable>
 #include <future>

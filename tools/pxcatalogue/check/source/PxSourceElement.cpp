@@ -2,6 +2,20 @@
 
 #include <algorithm>
 
+QString PxSourceNode::kindText(Kind kind)
+{
+    switch (kind) {
+    case Kind::CharacterData:
+        return QStringLiteral("a CDATA section");
+    case Kind::Comment:
+        return QStringLiteral("a comment");
+    case Kind::ProcessingInstruction:
+        return QStringLiteral("a processing instruction");
+    default:
+        return QStringLiteral("text");
+    }
+}
+
 const PxSourceAttribute *PxSourceElement::attribute(const QString &attributeName) const
 {
     const auto found =

@@ -25,6 +25,8 @@ struct PxSourceNode
     QString text;
     PxSourceRange range;
 
+    /** As in "a comment". */
+    static QString kindText(Kind kind);
     bool isText() const { return kind == Kind::Text || kind == Kind::CharacterData; }
     /** A text of nothing but blanks, which the library does not count as a node. */
     bool isBlank() const { return kind == Kind::Text && text.trimmed().isEmpty(); }

@@ -1,5 +1,7 @@
 #include "check/source/PxSourceParts.h"
 
+#include "check/PxCheckLimits.h"
+
 #include <PxListParts.h>
 
 namespace {
@@ -37,7 +39,7 @@ private:
     }
     void open(int begin)
     {
-        if (m_list.count++ < PxSourceParts::maximum)
+        if (m_list.count++ < PxCheckLimits::listParts)
             m_list.parts.append({QString(), {begin, begin}, {begin, begin}});
     }
     /** Whether the last part is there. */
@@ -117,7 +119,7 @@ PxSourceList split(const PxCheckedFile &file, const PxSourceRange &range, const 
     const int count = value.count(QLatin1Char(',')) + 1;
     if (list.count != count) {
         const PxSourcePart whole{QString(), range, range};
-        list = {QVector<PxSourcePart>(qMin(count, PxSourceParts::maximum), whole), count};
+        list = {QVector<PxSourcePart>(qMin(count, PxCheckLimits::listParts), whole), count};
     }
     auto part = list.parts.begin();
     pxForEachPart(value, [&](QStringView text) {

@@ -28,9 +28,6 @@ struct PxSourceList
 class PxSourceParts
 {
 public:
-    /** Lists of files that somebody wrote have hundreds; those of a hostile one have millions. */
-    static constexpr int maximum = 100000;
-
     /** Of the value of an attribute; none when there is no such attribute. */
     static PxSourceList ofAttribute(const PxCheckedFile &file, const PxSourceElement &element,
                                     const QString &name);

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "check/findings/PxReporter.h"
 #include "check/rules/PxElementReading.h"
 #include "check/source/PxCheckedFile.h"
+#include "check/words/PxListedProductTypes.h"
 
 #include <QDateTime>
 
@@ -9,24 +11,26 @@
 class PxThemeElementCheck
 {
 public:
-    /** Both must outlive the check. */
-    PxThemeElementCheck(const PxCheckedFile &file, const PxSourceElement &theme);
+    /** Theme and types must outlive the check. */
+    PxThemeElementCheck(const PxSourceElement &theme, PxListedProductTypes &types,
+                        const PxReporter &report);
 
-    void run(PxFindings *findings) const;
+    void run();
 
 private:
-    void checkId(PxFindings *findings) const;
-    void checkGroup(PxFindings *findings) const;
-    void checkExpiry(PxFindings *findings) const;
-    void checkDescription(PxFindings *findings) const;
-    void checkKeyAccounts(PxFindings *findings) const;
-    void checkKeyAccount(const PxSourceElement &account, PxFindings *findings) const;
-    void checkProducts(PxFindings *findings) const;
-    void checkMissingProducts(const PxSourceElement *products, PxFindings *findings) const;
+    void checkId() const;
+    void checkGroup() const;
+    void checkExpiry() const;
+    void checkDescription() const;
+    void checkKeyAccounts() const;
+    void checkKeyAccount(const PxSourceElement &account) const;
+    void checkProducts() const;
+    void checkMissingProducts(const PxSourceElement *products) const;
     PxMissingPart missingChild(const PxSourceElement *child, const QString &name) const;
 
-    const PxCheckedFile &m_file;
     const PxSourceElement &m_theme;
+    PxListedProductTypes &m_types;
+    const PxReporter m_report;
     QDateTime m_expiry; ///< invalid when it is missing or unreadable
     bool m_isExpired;
 };

@@ -33,30 +33,45 @@ QStringList baseDirectories(const QString &themeFile)
 
 } // namespace
 
-void PxThemeImageCheck::checkLogo(const PxSourceElement &logo, PxFindings *findings)
+void PxThemeImageCheck::run()
+{
+    for (const PxSourceElement *theme : m_report.file().root()->children) {
+        checkThumbnail(*theme);
+        if (const PxSourceElement *logos = theme->firstChild(QStringLiteral("logos"))) {
+            for (const PxSourceElement *logo : logos->children)
+                checkLogo(*logo);
+        }
+    }
+    checkRelativeThumbnails();
+}
+
+/** The image is a path in the resource directories. */
+void PxThemeImageCheck::checkLogo(const PxSourceElement &logo)
 {
     const PxSourceAttribute *name = logo.attribute(QStringLiteral("filename"));
     if (name && !name->value.isEmpty()) {
         checkImage(
-            {name, PxDirectoryConfig::instance()->resource(name->value.toLower(), false), logoNow},
-            findings);
+            {name, PxDirectoryConfig::instance()->resource(name->value.toLower(), false), logoNow});
         return;
     }
     const PxMissingPart missing =
         PxElementReading(logo, PxFileKind::Theme).missing(QStringLiteral("filename"));
-    m_file.add(findings, "theme-image-missing", missing.range,
-               QStringLiteral("the logo names no image: \"filename\" is %1")
-                   .arg(name ? QLatin1String("empty") : QLatin1String("missing")),
-               logoNow, missing.hint);
+    m_report
+        .add(PxTag::ThemeImageMissing, missing.range,
+             QStringLiteral("the logo names no image: \"filename\" is %1")
+                 .arg(name ? QLatin1String("empty") : QLatin1String("missing")))
+        .now(logoNow)
+        .hint(missing.hint);
 }
 
-void PxThemeImageCheck::checkThumbnail(const PxSourceElement &theme, PxFindings *findings)
+/** A relative one is kept until all are known. */
+void PxThemeImageCheck::checkThumbnail(const PxSourceElement &theme)
 {
     const PxSourceAttribute *name = theme.attribute(QStringLiteral("thumbnail"));
     if (!name || name->value.isEmpty())
         return; // no preview is meant
     if (QDir::isAbsolutePath(name->value))
-        checkImage({name, name->value.toLower(), thumbnailNow}, findings);
+        checkImage({name, name->value.toLower(), thumbnailNow});
     else
         m_relativeThumbnails.append(name);
 }
@@ -65,12 +80,12 @@ void PxThemeImageCheck::checkThumbnail(const PxSourceElement &theme, PxFindings 
  * Where an application will run is not known, so a relative thumbnail is judged only in a directory
  * that has proved to be the one: other thumbnails of the file are found from there.
  */
-void PxThemeImageCheck::finish(PxFindings *findings)
+void PxThemeImageCheck::checkRelativeThumbnails()
 {
     QString best;
     int bestCount = 0;
     QSet<const PxSourceAttribute *> found;
-    for (const QString &base : baseDirectories(m_file.path())) {
+    for (const QString &base : baseDirectories(m_report.file().path())) {
         const QDir directory(base);
         int count = 0;
         for (const PxSourceAttribute *name : m_relativeThumbnails) {
@@ -87,11 +102,11 @@ void PxThemeImageCheck::finish(PxFindings *findings)
     }
     for (const PxSourceAttribute *name : m_relativeThumbnails) {
         if (bestCount > 0 && !found.contains(name))
-            checkImage({name, QDir(best).filePath(name->value.toLower()), thumbnailNow}, findings);
+            checkImage({name, QDir(best).filePath(name->value.toLower()), thumbnailNow});
     }
 }
 
-void PxThemeImageCheck::checkImage(const Image &image, PxFindings *findings)
+void PxThemeImageCheck::checkImage(const Image &image)
 {
     if (isCompiledIn(image.path))
         return;
@@ -101,15 +116,16 @@ void PxThemeImageCheck::checkImage(const Image &image, PxFindings *findings)
     const QString written = image.attribute->value;
     const QString lowered = written.toLower();
     const bool isLowered = written != lowered && !result.isThere;
-    m_file.add(findings,
-               isLowered         ? "theme-image-path-lowered"
-               : result.isCutOff ? "theme-image-cut-off"
-                                 : "theme-image-missing",
-               image.attribute->valueRange,
-               isLowered ? QStringLiteral("\"%1\" is looked up as \"%2\", which is not there")
-                               .arg(written, lowered)
-                         : QStringLiteral("\"%1\" %2").arg(lowered, result.fault),
-               result.image.isNull() ? image.now : partNow, hint(image));
+    m_report
+        .add(isLowered         ? PxTag::ThemeImagePathLowered
+             : result.isCutOff ? PxTag::ThemeImageCutOff
+                               : PxTag::ThemeImageMissing,
+             image.attribute->valueRange,
+             isLowered ? QStringLiteral("\"%1\" is looked up as \"%2\", which is not there")
+                             .arg(written, lowered)
+                       : QStringLiteral("\"%1\" %2").arg(lowered, result.fault))
+        .now(result.image.isNull() ? image.now : partNow)
+        .hint([&] { return hint(image); });
 }
 
 QString PxThemeImageCheck::hint(const Image &image)
@@ -124,5 +140,5 @@ QString PxThemeImageCheck::hint(const Image &image)
         image.path.endsWith(lowered) ? image.path.chopped(lowered.size()) + written : QString();
     if (written != lowered && QFileInfo::exists(asWritten))
         return QStringLiteral("rename the file to lower case");
-    return m_imageNames.hint(lowered, info);
+    return m_names.hint(lowered, info);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "check/source/PxCheckedFile.h"
+#include "check/findings/PxReporter.h"
 #include "check/words/PxImageNames.h"
 
 #include <themes/PxThemeImages.h>
@@ -10,15 +10,13 @@
 class PxThemeImageCheck
 {
 public:
-    /** The file must outlive the check. */
-    explicit PxThemeImageCheck(const PxCheckedFile &file) : m_file(file) {}
+    /** The images must outlive the check. */
+    PxThemeImageCheck(PxImageNames &names, const PxReporter &report)
+        : m_names(names)
+        , m_report(report)
+    {}
 
-    /** The image is a path in the resource directories. */
-    void checkLogo(const PxSourceElement &logo, PxFindings *findings);
-    /** A relative one is kept for finish(). */
-    void checkThumbnail(const PxSourceElement &theme, PxFindings *findings);
-    /** When all thumbnails have been checked. */
-    void finish(PxFindings *findings);
+    void run();
 
 private:
     /** An attribute that names an image, and the file that the library opens for it. */
@@ -29,11 +27,14 @@ private:
         QLatin1String now;
     };
 
-    void checkImage(const Image &image, PxFindings *findings);
+    void checkLogo(const PxSourceElement &logo);
+    void checkThumbnail(const PxSourceElement &theme);
+    void checkRelativeThumbnails();
+    void checkImage(const Image &image);
     QString hint(const Image &image);
 
-    const PxCheckedFile &m_file;
+    PxImageNames &m_names;
+    const PxReporter m_report;
     QVector<const PxSourceAttribute *> m_relativeThumbnails;
     PxThemeImages m_images;
-    PxImageNames m_imageNames{PxImageNames::Kind::Lower};
 };

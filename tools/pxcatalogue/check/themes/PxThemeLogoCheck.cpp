@@ -1,8 +1,6 @@
 #include "check/themes/PxThemeLogoCheck.h"
 
 #include "check/rules/PxElementReading.h"
-#include "check/themes/PxThemeImageCheck.h"
-#include "check/words/PxListedProductTypes.h"
 #include "check/words/PxMessageText.h"
 
 #include <PxProductType.h>
@@ -10,48 +8,49 @@
 
 #include <limits>
 
-void PxThemeLogoCheck::run(const PxSourceElement &logos, PxFindings *findings)
+void PxThemeLogoCheck::run()
 {
-    m_logos.clear();
-    for (const PxSourceElement *logo : logos.children) { // whatever they are called
-        checkProduct(*logo, findings);
-        checkPlace(*logo, findings);
-        m_images.checkLogo(*logo, findings);
+    for (const PxSourceElement *logo : m_element.children) { // whatever they are called
+        checkProduct(*logo);
+        checkPlace(*logo);
     }
 }
 
-void PxThemeLogoCheck::checkProduct(const PxSourceElement &logo, PxFindings *findings)
+void PxThemeLogoCheck::checkProduct(const PxSourceElement &logo)
 {
     const QString booktype = QStringLiteral("booktype");
     const QString name = logo.value(booktype);
     const QString now = QStringLiteral("the logo belongs to no product");
     const PxProductType type(name.toUpper());
-    PxListedProductTypes &types = PxListedProductTypes::instance();
     if (name.trimmed().isEmpty()) {
         const PxMissingPart missing = PxElementReading(logo, PxFileKind::Theme).missing(booktype);
-        m_file.add(
-            findings, "theme-logo-product-missing", missing.range,
-            QStringLiteral("the logo names no product: \"booktype\" is %1")
-                .arg(logo.attribute(booktype) ? QLatin1String("empty") : QLatin1String("missing")),
-            now, missing.hint);
+        m_report
+            .add(PxTag::ThemeLogoProductMissing, missing.range,
+                 QStringLiteral("the logo names no product: \"booktype\" is %1")
+                     .arg(logo.attribute(booktype) ? QLatin1String("empty")
+                                                   : QLatin1String("missing")))
+            .now(now)
+            .hint(missing.hint);
     } else if (type.isValid()) {
         const PxSourceElement *&known = m_logos[int(type.type())];
         if (known)
-            m_file.add(findings, "theme-logo-twice", logo.rangeOf(booktype),
-                       QStringLiteral("%1 has a logo in %2, too")
-                           .arg(type.productName(), PxMessageText::line(m_file, known->nameRange)),
-                       QStringLiteral("the later one is used, image and place together"));
+            m_report
+                .add(PxTag::ThemeLogoTwice, logo.rangeOf(booktype),
+                     QStringLiteral("%1 has a logo in %2, too")
+                         .arg(type.productName(), PxFinding::otherPlaceMark))
+                .otherPlace(m_report.file().place(known->nameRange))
+                .now(QStringLiteral("the later one is used, image and place together"));
         known = &logo;
-    } else if (!types.isEmpty() && !types.isListed(name)) {
-        m_file.add(findings, "theme-logo-product-unknown", logo.rangeOf(booktype),
-                   QStringLiteral("\"%1\" is no known product name").arg(name), now,
-                   m_file.isTold(findings, "theme-logo-product-unknown", logo.rangeOf(booktype))
-                       ? types.hint(name)
-                       : QString());
+    } else if (!m_types.isEmpty() && !m_types.isListed(name)) {
+        m_report
+            .add(PxTag::ThemeLogoProductUnknown, logo.rangeOf(booktype),
+                 QStringLiteral("\"%1\" is no known product name").arg(name))
+            .now(now)
+            .hint([&] { return m_types.hint(name); });
     }
 }
 
-void PxThemeLogoCheck::checkPlace(const PxSourceElement &logo, PxFindings *findings)
+void PxThemeLogoCheck::checkPlace(const PxSourceElement &logo) const
 {
     const QRect rect = PxXMLParser::readRect(logo.dom);
     if (!rect.isEmpty())
@@ -69,15 +68,18 @@ void PxThemeLogoCheck::checkPlace(const PxSourceElement &logo, PxFindings *findi
             culprit = side;
     }
     if (missing.isEmpty()) {
-        m_file.add(findings, "theme-logo-without-place", logo.rangeOf(culprit),
-                   QStringLiteral("the place of the logo is empty or too far out"),
-                   QStringLiteral("it is %1 x %2 large").arg(rect.width()).arg(rect.height()));
+        m_report
+            .add(PxTag::ThemeLogoWithoutPlace, logo.rangeOf(culprit),
+                 QStringLiteral("the place of the logo is empty or too far out"))
+            .now(QStringLiteral("it is %1 x %2 large").arg(rect.width()).arg(rect.height()));
         return;
     }
     const PxMissingPart side =
         PxElementReading(logo, PxFileKind::Theme).missing(missing.constFirst());
-    m_file.add(findings, "theme-logo-without-place", side.range,
-               QStringLiteral("the logo has no %1")
-                   .arg(PxMessageText::quotedList(missing, QStringLiteral(" and no "))),
-               QStringLiteral("it has no place"), side.hint);
+    m_report
+        .add(PxTag::ThemeLogoWithoutPlace, side.range,
+             QStringLiteral("the logo has no %1")
+                 .arg(PxMessageText::quotedList(missing, QStringLiteral(" and no "))))
+        .now(QStringLiteral("it has no place"))
+        .hint(side.hint);
 }

@@ -1,29 +1,30 @@
 #pragma once
 
-#include "check/source/PxCheckedFile.h"
+#include "check/findings/PxReporter.h"
+#include "check/words/PxListedProductTypes.h"
 
 #include <QHash>
 
-class PxThemeImageCheck;
-
-/** Checks the logos of a theme. */
+/** Checks the logos of a theme: for which product each is, and where it goes. */
 class PxThemeLogoCheck
 {
 public:
-    /** Both must outlive the check. */
-    PxThemeLogoCheck(const PxCheckedFile &file, PxThemeImageCheck *images)
-        : m_file(file)
-        , m_images(*images)
+    /** `logos` is the element of that name. It and the types must outlive the check. */
+    PxThemeLogoCheck(const PxSourceElement &logos, PxListedProductTypes &types,
+                     const PxReporter &report)
+        : m_element(logos)
+        , m_types(types)
+        , m_report(report)
     {}
 
-    /** The element "logos". */
-    void run(const PxSourceElement &logos, PxFindings *findings);
+    void run();
 
 private:
-    void checkProduct(const PxSourceElement &logo, PxFindings *findings);
-    void checkPlace(const PxSourceElement &logo, PxFindings *findings);
+    void checkProduct(const PxSourceElement &logo);
+    void checkPlace(const PxSourceElement &logo) const;
 
-    const PxCheckedFile &m_file;
-    PxThemeImageCheck &m_images;
+    const PxSourceElement &m_element;
+    PxListedProductTypes &m_types;
+    const PxReporter m_report;
     QHash<int, const PxSourceElement *> m_logos; ///< by product type
 };

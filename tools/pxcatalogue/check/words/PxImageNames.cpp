@@ -1,17 +1,14 @@
 #include "check/words/PxImageNames.h"
 
+#include "check/PxCheckLimits.h"
 #include "check/words/PxSpelling.h"
 
 #include <QDirIterator>
 
-// Nobody keeps more images in a directory, and there are directories without end.
-static constexpr int maximumFiles = 2000;
-
 QString PxImageNames::hint(const QString &name, const QFileInfo &file)
 {
-    if (m_hintsLeft <= 0)
+    if (m_guessCount++ >= PxCheckLimits::guessedImages)
         return QString();
-    --m_hintsLeft;
     const QString tidy = name.trimmed();
     const QString path = file.filePath();
     if (tidy != name && path.endsWith(name) && QFileInfo(path.chopped(name.size()) + tidy).isFile())
@@ -30,7 +27,7 @@ QStringList PxImageNames::namesIn(const QString &directory)
         return *known;
     QStringList names;
     QDirIterator files(directory, QDir::Files);
-    for (int i = 0; i < maximumFiles && files.hasNext(); ++i) {
+    for (int i = 0; i < PxCheckLimits::imagesOfDirectory && files.hasNext(); ++i) {
         files.next();
         const QString name = files.fileName();
         if (m_kind == Kind::Any || name == name.toLower())

@@ -23,5 +23,5 @@ private:
 
     Kind m_kind;
     QHash<QString, QStringList> m_names; // by directory
-    int m_hintsLeft = 100; // guessing takes time, and so many mistakes are no slips of the pen
+    int m_guessCount = 0;
 };

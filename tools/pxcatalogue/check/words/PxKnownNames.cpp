@@ -1,5 +1,6 @@
 #include "check/words/PxKnownNames.h"
 
+#include "check/PxCheckLimits.h"
 #include "check/words/PxSpelling.h"
 
 #include <algorithm>
@@ -17,7 +18,8 @@ bool PxKnownNames::contains(const QString &name) const
 QString PxKnownNames::hint(const QString &name)
 {
     // Names that are compared are about as long as each other.
-    const qint64 length = qMin(name.size(), PxSpelling::maximumLength);
+    const qint64 length = qMin(name.size(), PxCheckLimits::comparedLength);
     m_compared += qMax<qint64>(1, length * length) * m_names.size();
-    return m_compared <= maximumCompared ? PxSpelling::hint(name, m_names) : QString();
+    return m_compared <= PxCheckLimits::comparedLetters ? PxSpelling::hint(name, m_names)
+                                                        : QString();
 }

@@ -19,9 +19,6 @@ public:
     QString hint(const QString &name);
 
 private:
-    // Guessing takes time, and so many mistakes are no slips of the pen.
-    static constexpr qint64 maximumCompared = 100000000;
-
     QStringList m_names;   // sorted
     qint64 m_compared = 0; // pairs of letters
 };

@@ -5,13 +5,7 @@
 
 #include <algorithm>
 
-PxListedProductTypes &PxListedProductTypes::instance()
-{
-    static PxListedProductTypes ourTypes;
-    return ourTypes;
-}
-
-PxListedProductTypes::PxListedProductTypes()
+PxListedProductTypes::PxListedProductTypes(bool isChecked) : m_isChecked(isChecked)
 {
     const QDomElement catalogue = PxXMLLoader::loadDocumentElement(
         PxDirectoryConfig::instance()->resource(QStringLiteral("producttypes.xml"), false));

@@ -1,5 +1,6 @@
 #include "check/words/PxSpelling.h"
 
+#include "check/PxCheckLimits.h"
 #include "check/words/PxEditDistance.h"
 
 #include <QRegularExpression>
@@ -9,12 +10,13 @@
 QString PxSpelling::nearest(const QString &word, const QStringList &candidates)
 {
     const QString wanted = word.trimmed().toUpper();
-    if (wanted.isEmpty() || wanted.size() > maximumLength)
+    if (wanted.isEmpty() || wanted.size() > PxCheckLimits::comparedLength)
         return QString();
     int best = wanted.size() / 3 + 1; // a third of the letters may be wrong
     QString nearest;
     for (const QString &candidate : candidates) {
-        if (std::abs(candidate.size() - wanted.size()) > best || candidate.size() > maximumLength)
+        if (std::abs(candidate.size() - wanted.size()) > best ||
+            candidate.size() > PxCheckLimits::comparedLength)
             continue;
         const int distance = PxEditDistance::between(wanted, candidate.toUpper(),
                                                      PxEditDistance::Swap::IsOneChange, best);
@@ -45,7 +47,7 @@ QString PxSpelling::didYouMean(const QString &name)
 QStringList PxSpelling::words(const QString &list)
 {
     static const QRegularExpression ourSeparators(QStringLiteral("[;|/+\\s]+"));
-    if (list.size() > maximumList)
+    if (list.size() > PxCheckLimits::wordListLength)
         return {list};
     return list.split(ourSeparators, Qt::SkipEmptyParts);
 }

@@ -6,9 +6,6 @@
 class PxSpelling
 {
 public:
-    /** No name of the format is longer; comparing longer words would take time for nothing. */
-    static constexpr int maximumLength = 64;
-
     /** The one candidate that is nearest and near; empty when none is. Case does not count. */
     static QString nearest(const QString &word, const QStringList &candidates);
     /** The same as a question to the author; empty when none is near. */
@@ -19,7 +16,4 @@ public:
     static QString didYouMean(const QString &name);
     /** Those of a list that uses another separator than the comma; a very long one is a word. */
     static QStringList words(const QString &list);
-
-private:
-    static constexpr int maximumList = 1000; // letters
 };

@@ -1,0 +1,77 @@
+#include "check/findings/PxAllowanceComments.h"
+
+#include "check/words/PxSpelling.h"
+
+#include <QRegularExpression>
+
+#include <limits>
+
+static constexpr int maximumLength = 500; // letters of a comment: by then it has named its tag
+
+void PxAllowanceComments::find(Checked checked)
+{
+    // What cannot be read is not checked, so that every allowance in it would seem to be unused.
+    if (!m_file.root())
+        return;
+    const PxSourceDocument &source = m_file.source();
+    QVector<PxSourceNode> others = findIn(source.prolog(), {source.root()}, checked);
+    source.forEachElement([&](const PxSourceElement &element) {
+        others += findIn(element.nodes, element.children, checked);
+    });
+    // Afterwards: what only seems to be an allowance is a finding, which a later one may silence.
+    for (const PxSourceNode &node : qAsConst(others))
+        checkNoAllowance(node);
+}
+
+/**
+ * Each node is for the first of the elements behind it; both are in their order. Answers the
+ * comments and instructions that are no allowance.
+ */
+QVector<PxSourceNode> PxAllowanceComments::findIn(const QVector<PxSourceNode> &nodes,
+                                                  const QVector<const PxSourceElement *> &elements,
+                                                  Checked checked)
+{
+    static const QRegularExpression ourAllowance(
+        QStringLiteral("^\\s*check:\\s*allow(?:\\s+(\\S+)|\\s*$)"),
+        QRegularExpression::CaseInsensitiveOption);
+    QVector<PxSourceNode> others;
+    auto element = elements.begin();
+    for (const PxSourceNode &node : nodes) {
+        if (node.isText())
+            continue;
+        const QRegularExpressionMatch allowance = ourAllowance.match(node.text.left(maximumLength));
+        if (!allowance.hasMatch()) {
+            others.append(node);
+            continue;
+        }
+        while (element != elements.end() && (*element)->range.begin < node.range.end)
+            ++element;
+        const bool isLast = element == elements.end();
+        PxPlace part = m_file.place(isLast ? node.range : (*element)->range);
+        if (!isLast && *element == m_file.source().root()) {
+            part.line = part.column = 1; // with what stands around the document element
+            part.endLine = std::numeric_limits<int>::max();
+        }
+        m_findings.allow(allowance.captured(1), m_file.place(node.range), part,
+                         checked == Checked::Everything);
+    }
+    return others;
+}
+
+/** A comment that names a tag in nearly the words that allow it. */
+void PxAllowanceComments::checkNoAllowance(const PxSourceNode &node) const
+{
+    static const QRegularExpression ourWords(
+        QStringLiteral("^\\s*check\\s*:?\\s*([a-z]+)\\s*:?\\s+(\\S+)"),
+        QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch words = ourWords.match(node.text.left(maximumLength));
+    const QString tag = words.captured(2);
+    if (!words.hasMatch() || !PxCheckTags::find(tag) ||
+        !PxSpelling::isNear(words.captured(1), QStringLiteral("allow")))
+        return;
+    m_report
+        .add(PxTag::AllowanceUnused, node.range,
+             QStringLiteral("the comment names \"%1\", but does not allow it").arg(tag))
+        .now(QStringLiteral("the comment silences nothing"))
+        .hint(QStringLiteral("write \"check: allow %1\"").arg(tag));
+}

@@ -1,0 +1,13 @@
+#include "check/findings/PxFinding.h"
+
+void PxFinding::setRest(int count)
+{
+    restCount = count;
+    message = QStringLiteral("and %1 more in this file").arg(count);
+}
+
+QString PxFinding::text() const
+{
+    QString text = message;
+    return text.replace(otherPlaceMark, otherPlace.seenFrom(place.path));
+}

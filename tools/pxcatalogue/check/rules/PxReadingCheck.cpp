@@ -1,0 +1,67 @@
+#include "check/rules/PxReadingCheck.h"
+
+#include "check/source/PxSourceFault.h"
+
+namespace {
+
+const auto now = QLatin1String("the file is not read at all");
+
+} // namespace
+
+void PxReadingCheck::run()
+{
+    const PxXMLFault &fault = m_report.file().fault();
+    switch (fault.kind) {
+    case PxXMLFault::Kind::None:
+        break;
+    case PxXMLFault::Kind::Unreadable:
+        m_report.add(PxTag::FileUnreadable, m_report.file().faultPlace(), fault.message).now(now);
+        break;
+    case PxXMLFault::Kind::Encoding:
+        m_report.add(PxTag::XmlEncodingDamaged, m_report.file().faultPlace(), fault.message)
+            .now(now)
+            .hint(QStringLiteral("save the file as UTF-8, or declare its encoding"));
+        break;
+    case PxXMLFault::Kind::Limit:
+        m_report.add(PxTag::XmlLimitExceeded, m_report.file().faultPlace(), fault.message).now(now);
+        break;
+    case PxXMLFault::Kind::NotWellFormed:
+        checkMarkup();
+        break;
+    }
+}
+
+void PxReadingCheck::checkMarkup()
+{
+    using Kind = PxSourceFault::Kind;
+    const PxSourceDocument &source = m_report.file().source();
+    const PxSourceFault fault(source.text());
+    const PxSourceRange range = fault.range();
+    const QString name = source.text().mid(range.begin, range.end - range.begin);
+    const PxSourceFault::Element *unclosed = fault.unclosed();
+    if (fault.kind() == Kind::None ||
+        (fault.kind() == Kind::EndMissing && !m_report.file().isSourceWhole()))
+        m_report
+            .add(PxTag::XmlNotWellFormed, m_report.file().faultPlace(),
+                 m_report.file().fault().message)
+            .now(now);
+    else if (fault.kind() == Kind::AttributeTwice)
+        m_report
+            .add(PxTag::XmlAttributeTwice, range,
+                 QStringLiteral("attribute \"%1\" is given twice").arg(name))
+            .now(now)
+            .hint(QStringLiteral("keep the one that is meant"));
+    else if (fault.kind() == Kind::EntityUndeclared)
+        m_report
+            .add(PxTag::XmlEntityUndeclared, range,
+                 QStringLiteral("the entity \"%1\" is not defined").arg(name))
+            .now(now)
+            .hint(QStringLiteral("write the character itself"));
+    else
+        m_report.add(PxTag::XmlNotWellFormed, range, fault.message())
+            .now(now)
+            .hint(unclosed ? QStringLiteral("\"%1\" of line %2 is not closed")
+                                 .arg(unclosed->name,
+                                      QString::number(source.place(unclosed->nameRange).line))
+                           : fault.hint());
+}
