@@ -26,9 +26,14 @@ PxProductClass readClass(const QDomElement &row)
                                      PxProductClassUnknown);
 }
 
-QString nameKey(const QString &name)
+QPair<uint, QString> nameKey(const QString &name)
 {
-    return name.trimmed().toCaseFolded();
+    return {qHash(name), name};
+}
+
+QPair<uint, QString> foldedNameKey(const QString &name)
+{
+    return nameKey(name.trimmed().toCaseFolded());
 }
 
 } // namespace
@@ -82,8 +87,8 @@ const PxProductTypeEntry *PxProductTypeCatalogue::find(int code) const
 const PxProductTypeEntry *PxProductTypeCatalogue::find(const QString &name) const
 {
     // Nearly every name is written as in the catalogue, and then need not be folded.
-    const auto found = m_byName.constFind(name);
-    return found == m_byName.constEnd() ? m_byName.value(nameKey(name)) : *found;
+    const auto found = m_byName.constFind(nameKey(name));
+    return found == m_byName.constEnd() ? m_byName.value(foldedNameKey(name)) : *found;
 }
 
 const char *PxProductTypeCatalogue::addRow(const QDomElement &row)
@@ -95,10 +100,10 @@ const char *PxProductTypeCatalogue::addRow(const QDomElement &row)
     entry.productClass = readClass(row);
     entry.shortName = PxXMLParser::attribute(row, QStringLiteral("shortname"), entry.name, false);
 
-    const QString key = nameKey(entry.name);
+    const auto key = foldedNameKey(entry.name);
     if (code < 1)
         return "its code is no number above 0";
-    if (key.isEmpty())
+    if (entry.name.isEmpty())
         return "it has no name";
     if (entry.productClass == PxProductClassUnknown)
         return "its class is unknown";
@@ -110,6 +115,6 @@ const char *PxProductTypeCatalogue::addRow(const QDomElement &row)
     m_entries.push_back(entry);
     m_byCode.insert(code, &m_entries.back());
     m_byName.insert(key, &m_entries.back());
-    m_byName.insert(entry.name, &m_entries.back());
+    m_byName.insert(nameKey(entry.name), &m_entries.back());
     return nullptr;
 }

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QHash>
 #include <QMap>
+#include <QPair>
 
 #include <deque>
 
@@ -39,6 +40,7 @@ private:
 
     std::deque<PxProductTypeEntry> m_entries; // never moves an entry
     QHash<int, const PxProductTypeEntry *> m_byCode;
-    // As written, and case-folded. Sorted: names of a file may share one hash.
-    QMap<QString, const PxProductTypeEntry *> m_byName;
+    // As written, and case-folded; by hash, then by name. Hashes are quickly compared, and the
+    // names of a hostile file, which may share one hash, are still found in a few steps.
+    QMap<QPair<uint, QString>, const PxProductTypeEntry *> m_byName;
 };

@@ -59,6 +59,8 @@ QDateTime fromExtendedForm(const QString &text)
 QDateTime toLocalTime(const QString &text)
 {
     const QString trimmed = text.trimmed();
+    if (trimmed.isEmpty()) // as for each theme without an expiry date
+        return QDateTime();
     const bool isCompact =
         trimmed.size() == 12 && std::all_of(trimmed.begin(), trimmed.end(), [](QChar c) {
             return c >= QLatin1Char('0') && c <= QLatin1Char('9');
