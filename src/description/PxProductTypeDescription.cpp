@@ -58,17 +58,14 @@ PxProductTypeDescription::PxProductTypeDescription(const QDomElement &product)
     readCardAlignment(product);
 
     m_surroundings = PxSurroundingDescriptionList(product);
-    indexSurroundings();
     m_rotationRedirects =
         PxPageRotationRedirectList(product.firstChildElement(QStringLiteral("rotationredirects")));
-    for (const PxPageRotationRedirect &redirect : qAsConst(m_rotationRedirects))
-        m_rotationsBySource[redirect.sourcePageNr()].append(redirect);
     m_contentDropRedirects =
         PxContentDropRedirectList(product.firstChildElement(QStringLiteral("contentredirects")));
     m_defaultTemplates.applyDefaultsNode(product.firstChildElement(QStringLiteral("defaults")));
     readUserDefaults(product.attribute(QStringLiteral("name")));
     m_barcodes = PxBarcodeList(product.firstChildElement(QStringLiteral("barcodes")));
-    indexBarcodes();
+    indexPages();
     readVariants(product.firstChildElement(QStringLiteral("variants")));
     m_productionNumberingPages = decodeIntList(product, QStringLiteral("productionnumbering"));
     m_pagesWithContent = decodeIntList(product, QStringLiteral("pageswithcontent"));
@@ -325,14 +322,30 @@ void PxProductTypeDescription::initBackgroundCategories(const QDomElement &produ
 // Applications ask for each page of a product: what a page finds takes no longer with more entries.
 // Redirects are few, or ranges, and are gone through.
 
+void PxProductTypeDescription::indexPages()
+{
+    indexSurroundings();
+    for (int index = 0; index < m_rotationRedirects.size(); ++index)
+        m_rotationsBySource.append({m_rotationRedirects.at(index).sourcePageNr(), index});
+    for (int index = 0; index < m_barcodes.size(); ++index) {
+        const PxBarcode &barcode = m_barcodes.at(index);
+        PageIndexes &barcodes = barcode.reverseOrder() ? m_barcodesFromBack : m_barcodesFromFront;
+        barcodes.append({barcode.pageNr(), index});
+    }
+    for (PageIndexes *indexes :
+         {&m_pinnedSurroundings, &m_rotationsBySource, &m_barcodesFromFront, &m_barcodesFromBack}) {
+        std::sort(indexes->begin(), indexes->end());
+        indexes->squeeze();
+    }
+}
+
 void PxProductTypeDescription::indexSurroundings()
 {
     int alignmentsOfType[32] = {}; // of those before, by the bit of the page type
     for (int index = 0; index < m_surroundings.size(); ++index) {
         const PxSurroundingDescription &surrounding = m_surroundings.at(index);
         if (surrounding.pageNr() != -1) {
-            if (!m_pinnedSurroundings.contains(surrounding.pageNr()))
-                m_pinnedSurroundings.insert(surrounding.pageNr(), index);
+            m_pinnedSurroundings.append({surrounding.pageNr(), index});
             continue;
         }
         // The very first one is found for no particular page, whatever its type.
@@ -346,16 +359,6 @@ void PxProductTypeDescription::indexSurroundings()
         }
         if (isFirst)
             m_generalSurroundings.append(index);
-    }
-}
-
-void PxProductTypeDescription::indexBarcodes()
-{
-    for (int index = 0; index < m_barcodes.size(); ++index) {
-        const PxBarcode &barcode = m_barcodes.at(index);
-        QMap<int, int> &indexes = barcode.reverseOrder() ? m_barcodeFromBack : m_barcodeFromFront;
-        if (!indexes.contains(barcode.pageNr()))
-            indexes.insert(barcode.pageNr(), index);
     }
 }
 

@@ -23,7 +23,7 @@
 #include <PxImageFXs.h>
 #include <PxPageNamingStyle.h>
 
-#include <QMap>
+#include <QPair>
 #include <QSize>
 #include <QStringList>
 #include <QVector>
@@ -226,6 +226,9 @@ private:
         PxProductTypeDescriptionSpineData data;
     };
 
+    // For the entries of a list: the page and the index of each, sorted.
+    using PageIndexes = QVector<QPair<int, int>>;
+
     // Of "pages" and of the background categories: far more than a product has.
     static constexpr int maximumListEntries = 1000;
 
@@ -249,8 +252,8 @@ private:
     int findPageIncrement() const;
     bool isPageCountOfBook(int pageCount) const;
     int fixedPageCount() const;
+    void indexPages();
     void indexSurroundings();
-    void indexBarcodes();
     int decodeFoldMargin(const QDomElement &product) const;
 
     PxOrientation m_orientation;
@@ -290,16 +293,16 @@ private:
     QStringList m_variants;
     QString m_variantDescription;
     PxSurroundingDescriptionList m_surroundings;
-    QVector<int> m_generalSurroundings;  // indexes, of those that some page may find first
-    QMap<int, int> m_pinnedSurroundings; // index of the first, by page
+    QVector<int> m_generalSurroundings; // indexes of those that some page may find first
+    PageIndexes m_pinnedSurroundings;
     PxPageRotationRedirectList m_rotationRedirects;
-    QMap<int, PxPageRotationRedirectList> m_rotationsBySource;
+    PageIndexes m_rotationsBySource;
     PxContentDropRedirectList m_contentDropRedirects;
     PxDefaultTemplateMap m_defaultTemplates;
     PxDefaultTemplateMap m_userDefaultTemplates;
     PxBarcodeList m_barcodes;
-    QMap<int, int> m_barcodeFromFront; // index of the first, by page number
-    QMap<int, int> m_barcodeFromBack;
+    PageIndexes m_barcodesFromFront;
+    PageIndexes m_barcodesFromBack;
     QList<int> m_productionNumberingPages;
     QList<int> m_pagesWithContent; // sorted, each once
     PxThematicCategorySet m_allowedBackgroundCategories;

@@ -9,6 +9,24 @@
 #include <algorithm>
 #include <limits>
 
+namespace {
+
+using PageIndexes = QVector<QPair<int, int>>;
+
+PageIndexes::const_iterator firstOfPage(const PageIndexes &indexes, int page)
+{
+    return std::lower_bound(indexes.begin(), indexes.end(), qMakePair(page, 0));
+}
+
+/** The first index of the page; `none` if it has none. */
+int indexOfPage(const PageIndexes &indexes, int page, int none)
+{
+    const auto found = firstOfPage(indexes, page);
+    return found == indexes.end() || found->first != page ? none : found->second;
+}
+
+} // namespace
+
 bool PxProductTypeDescription::isValid() const
 {
     return m_binding.isValid() && m_orientation.isValid() && m_usableSize.isValid();
@@ -220,7 +238,11 @@ int PxProductTypeDescription::contentDropRedirect(int page) const
 
 PxPageRotationRedirectList PxProductTypeDescription::rotationRedirectForSourcePage(int page) const
 {
-    return m_rotationsBySource.value(page);
+    PxPageRotationRedirectList redirects;
+    for (auto it = firstOfPage(m_rotationsBySource, page);
+         it != m_rotationsBySource.end() && it->first == page; ++it)
+        redirects.append(m_rotationRedirects.at(it->second));
+    return redirects;
 }
 
 PxPageRotationRedirectList PxProductTypeDescription::rotationRedirectForTargetPage(int page) const
@@ -324,7 +346,7 @@ PxSurroundingDescription PxProductTypeDescription::findSurrounding(
         }
     }
     if (key.pageIndex() != -1)
-        found = qMin(found, m_pinnedSurroundings.value(key.pageIndex(), found));
+        found = qMin(found, indexOfPage(m_pinnedSurroundings, key.pageIndex(), found));
     return m_surroundings.value(found);
 }
 
@@ -332,9 +354,9 @@ PxBarcode PxProductTypeDescription::barcodeOnPage(int page, int pageCount) const
 {
     const int none = m_barcodes.size();
     const qint64 fromBack = qint64(pageCount) - page;
-    const int inFront = m_barcodeFromFront.value(page, none);
+    const int inFront = indexOfPage(m_barcodesFromFront, page, none);
     const int atBack =
-        fromBack == int(fromBack) ? m_barcodeFromBack.value(int(fromBack), none) : none;
+        fromBack == int(fromBack) ? indexOfPage(m_barcodesFromBack, int(fromBack), none) : none;
     return m_barcodes.value(qMin(inFront, atBack));
 }
 
