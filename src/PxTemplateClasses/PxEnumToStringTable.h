@@ -54,12 +54,13 @@ public:
      * The union of a comma-separated list of keywords.
      *
      * A part that is no keyword, an empty one too, adds the default value and is logged at debug
-     * level, as far as pxMaximumMessages goes; an empty text gives the default value without a word.
+     * level, as far as pxMaximumMessages goes; an empty text gives the default value without a
+     * word.
      */
     ENUM decodeCSV(const QString &keywords) const
     {
         int undecodable = 0;
-        const ENUM value = decodeCSV(keywords, undecodable);
+        const ENUM value = decodeParts(keywords, undecodable, Q_FUNC_INFO);
         reportMoreUndecodable(undecodable);
         return value;
     }
@@ -67,20 +68,9 @@ public:
     /** The same for one of several texts, whose parts without keyword are counted together. */
     ENUM decodeCSV(const QString &keywords, int &undecodable) const
     {
-        const char *const function = Q_FUNC_INFO; // of this function, not of the lambda
-        int flags = 0;
-        pxForEachPart(keywords, [&](QStringView part) {
-            const QString keyword = part.toString();
-            ENUM value = decode(keyword, noValue);
-            if (value == noValue) {
-                value = m_defaultValue;
-                if (!keywords.isEmpty() && ++undecodable <= pxMaximumMessages)
-                    reportUndecodable(keyword, function);
-            }
-            flags |= value;
-        });
-        return static_cast<ENUM>(flags);
+        return decodeParts(keywords, undecodable, Q_FUNC_INFO);
     }
+
     /** To be called after the last of several texts: how many were not logged. */
     static void reportMoreUndecodable(int undecodable)
     {
@@ -120,6 +110,22 @@ public:
 private:
     // The sign bit alone: no keyword can stand for it, for it splits into no bits.
     static constexpr ENUM noValue = static_cast<ENUM>(std::numeric_limits<int>::min());
+
+    ENUM decodeParts(const QString &keywords, int &undecodable, const char *function) const
+    {
+        int flags = 0;
+        pxForEachPart(keywords, [&](QStringView part) {
+            const QString keyword = part.toString();
+            ENUM value = decode(keyword, noValue);
+            if (value == noValue) {
+                value = m_defaultValue;
+                if (!keywords.isEmpty() && ++undecodable <= pxMaximumMessages)
+                    reportUndecodable(keyword, function);
+            }
+            flags |= value;
+        });
+        return static_cast<ENUM>(flags);
+    }
 
     static void reportUndecodable(const QString &keyword, const char *function)
     {
