@@ -17,8 +17,9 @@
  * The tree is the one of QDomDocument::setContent() without namespace processing, with these
  * differences: nodes do not know their line and column; line ends, and white space in attribute
  * values, are normalized as XML demands; references to characters beyond U+FFFF give these
- * characters; the name of a document type has no prefix. In names of attributes and document types
- * any character but control characters is taken behind the first, where setContent() refuses some.
+ * characters; the name of a document type has no prefix; names of attributes and document types
+ * may have any character but control characters behind the first, where setContent() refuses some;
+ * and no document type declaration may have control characters other than tab and line ends.
  * Any thread with a stack of 512 KB or more may load and destroy documents.
  */
 class PXXML_EXPORT PxXMLLoader
