@@ -7,20 +7,24 @@
 #include <QDebug>
 #include <QDomElement>
 
-PxSurroundingDescription::PxSurroundingDescription(const QDomElement &surrounding)
+namespace {
+
+PxPageType readPageTypes(const QDomElement &surrounding, int *undecodable)
 {
-    int undecodable = 0;
-    *this = PxSurroundingDescription(surrounding, undecodable);
-    PxPageType().enumToStringTable()->reportMoreUndecodable(undecodable);
+    const QString keywords =
+        surrounding.attribute(QStringLiteral("pageType"), QStringLiteral("all"));
+    const auto *table = PxPageType().enumToStringTable();
+    return undecodable ? table->decodeCSV(keywords, *undecodable) : table->decodeCSV(keywords);
 }
 
-PxSurroundingDescription::PxSurroundingDescription(const QDomElement &surrounding, int &undecodable)
+} // namespace
+
+PxSurroundingDescription::PxSurroundingDescription(const QDomElement &surrounding, int *undecodable)
     : m_surroundingType(EnumHelper::decodeKeyword(
           surrounding.attribute(QStringLiteral("type"), QStringLiteral("book")),
           EnumHelper::globalMapSurroundingTypeString,
           EnumHelper::globalSurroundingTypeDefaultValue))
-    , m_pageTypes(PxPageType().enumToStringTable()->decodeCSV(
-          surrounding.attribute(QStringLiteral("pageType"), QStringLiteral("all")), undecodable))
+    , m_pageTypes(readPageTypes(surrounding, undecodable))
     , m_alignments(pxPageAlignments(surrounding))
     , m_pageNr(PxXMLParser::intAttribute(surrounding, QStringLiteral("pageNr"), -1))
     , m_paintOnTop(PxXMLParser::boolAttribute(surrounding, QStringLiteral("paintOnTop"), true))

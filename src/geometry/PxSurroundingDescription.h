@@ -19,11 +19,11 @@ public:
     /**
      * Reads a "surrounding" element.
      *
-     * A FRAME is for every ordinary page of any side, whatever its element says.
+     * A FRAME is for every ordinary page of any side, whatever its element says. `undecodable`
+     * counts the undecodable page types of several elements, which together log no more messages
+     * than one.
      */
-    explicit PxSurroundingDescription(const QDomElement &surrounding);
-    /** One of many, which together log no more undecodable kinds of page than one. */
-    PxSurroundingDescription(const QDomElement &surrounding, int &undecodable);
+    explicit PxSurroundingDescription(const QDomElement &surrounding, int *undecodable = nullptr);
 
     bool isValid() const { return m_surroundingType != PxSurroundingTypeNone; }
 

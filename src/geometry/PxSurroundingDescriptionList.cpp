@@ -13,7 +13,7 @@ PxSurroundingDescriptionList::PxSurroundingDescriptionList(const QDomElement &pr
          list = list.nextSiblingElement(listTag)) {
         for (QDomElement e = list.firstChildElement(tag); !e.isNull();
              e = e.nextSiblingElement(tag))
-            append(PxSurroundingDescription(e, undecodable));
+            append(PxSurroundingDescription(e, &undecodable));
     }
     PxPageType().enumToStringTable()->reportMoreUndecodable(undecodable);
 }
