@@ -3,9 +3,6 @@
 /** Every public header of the library and of its platform; for applications. */
 #include "classification/PxProductClassification.h"
 #include "classification/PxProductClassificationManager.h"
-#include "classification/PxProductTypeVariationListModel.h"
-#include "classification/PxProductVariantIdentifiers.h"
-#include "classification/PxProductVariantListModel.h"
 #include "context/PxProductContext.h"
 #include "context/PxProductContextImpl.h"
 #include "context/PxProductContextsGroup.h"
@@ -60,6 +57,9 @@
 #include "values/PxPaperType.h"
 #include "values/PxProductMaterial.h"
 #include "values/PxSpaceMagnitude.h"
+#include "variants/PxProductTypeVariationListModel.h"
+#include "variants/PxProductVariantIdentifiers.h"
+#include "variants/PxProductVariantListModel.h"
 
 #include <EnumHelper.h>
 #include <PxAssemblyWay.h>

@@ -1,9 +1,9 @@
 // Which colours does the mug come in, and which papers the photo book? With --screenshot FILE the
 // window goes to a picture instead of the screen.
-#include <classification/PxProductTypeVariationListModel.h>
-#include <classification/PxProductVariantIdentifiers.h>
-#include <classification/PxProductVariantListModel.h>
 #include <description/PxProductPropertiesInitializer.h>
+#include <variants/PxProductTypeVariationListModel.h>
+#include <variants/PxProductVariantIdentifiers.h>
+#include <variants/PxProductVariantListModel.h>
 
 #include <QApplication>
 #include <QCommandLineParser>

@@ -4,7 +4,7 @@
 #include "check/words/PxMessageText.h"
 #include "check/words/PxSpelling.h"
 
-#include <classification/PxProductVariantIdentifiers.h>
+#include <variants/PxProductVariantIdentifiers.h>
 
 #include <QMap>
 

@@ -1,6 +1,6 @@
-#include "classification/PxProductVariantListModel.h"
+#include "variants/PxProductVariantListModel.h"
 
-#include "classification/PxProductVariantIdentifiers.h"
+#include "variants/PxProductVariantIdentifiers.h"
 
 namespace {
 

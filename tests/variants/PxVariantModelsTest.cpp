@@ -1,9 +1,9 @@
 #include <PxCatalogueDirectory.h>
 #include <PxDirectoryConfig.h>
-#include <classification/PxProductTypeVariationListModel.h>
-#include <classification/PxProductVariantIdentifiers.h>
-#include <classification/PxProductVariantListModel.h>
 #include <description/PxProductPropertiesInitializer.h>
+#include <variants/PxProductTypeVariationListModel.h>
+#include <variants/PxProductVariantIdentifiers.h>
+#include <variants/PxProductVariantListModel.h>
 
 #include <QAbstractItemModelTester>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "classification/PxProductVariantIdentifiers.h"
+#include "variants/PxProductVariantIdentifiers.h"
 
 #include "description/PxProductTypeConfigRegistry.h"
 

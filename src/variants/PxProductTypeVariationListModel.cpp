@@ -1,4 +1,4 @@
-#include "classification/PxProductTypeVariationListModel.h"
+#include "variants/PxProductTypeVariationListModel.h"
 
 #include "description/PxProductTypeConfigRegistry.h"
 
