@@ -1,6 +1,6 @@
 #pragma once
 
-#include "description/PxIndirectProductDescription.h"
+#include "context/PxIndirectProductDescription.h"
 #include "themes/PxThemeList.h"
 
 #include <PxProductTypeList.h>

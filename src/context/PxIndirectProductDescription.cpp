@@ -1,4 +1,4 @@
-#include "description/PxIndirectProductDescription.h"
+#include "context/PxIndirectProductDescription.h"
 
 #include "context/PxProductContext.h"
 
