@@ -45,18 +45,18 @@ qint64 longerSide(const QSize &size)
 
 void PxCatalogueCheck::addProduct(const PxCheckedProduct &product)
 {
-    const QString legacy = QStringLiteral("legacy");
+    constexpr const char *legacy = "legacy";
     const PxCheckedFile &file = product.file();
     const PxSourceElement &element = product.element();
-    const PxSourceElement *size = element.firstChild(QStringLiteral("usablesize"));
+    const PxSourceElement *size = element.firstChild("usablesize");
     // Which is a finding already.
     const bool isInOtherUnit = PxSizeCheck::isInOtherUnit(product.description());
     m_products.append(
-        {product.type(), product.isLegacy(), file.place(element.rangeOf(QStringLiteral("name"))),
+        {product.type(), product.isLegacy(), file.place(element.rangeOf("name")),
          element.value(legacy), file.place(element.rangeOf(legacy)),
          isInOtherUnit ? QSize()
                        : product.description().usablePrintSize(PxPageType(PxPageTypeNormalPage), 0),
-         file.place(size ? size->rangeOf(QStringLiteral("width")) : element.nameRange)});
+         file.place(size ? size->rangeOf("width") : element.nameRange)});
     if (product.type().isValid())
         m_files.insert(QFileInfo(file.path()).canonicalFilePath());
 }
@@ -85,13 +85,12 @@ bool PxCatalogueCheck::checkNames() const
             m_report
                 .add(isSameKind ? PxTag::ProductNameTwice : PxTag::ProductCurrentAndLegacy,
                      product.name,
-                     QStringLiteral("%1 is also in %2")
+                     QString("%1 is also in %2")
                          .arg(product.type.productName(), PxFinding::otherPlaceMark))
                 .otherPlace(first->name)
                 .now(isSameKind
-                         ? QStringLiteral("which of the two is used depends on the file system")
-                         : QStringLiteral("it is a current and an older product, each with its "
-                                          "own description"));
+                         ? "which of the two is used depends on the file system"
+                         : "it is a current and an older product, each with its own description");
             isEveryNameOnce = false;
         }
         if (!first || first->isLegacy != product.isLegacy)
@@ -110,8 +109,8 @@ void PxCatalogueCheck::checkPredecessors() const
         if (!legacy.isValid() && !m_names.isListed(product.legacyName))
             m_report
                 .add(PxTag::LegacyUnknown, product.legacy,
-                     QStringLiteral("\"%1\" is no known product name").arg(product.legacyName))
-                .now(QStringLiteral("the product replaces no older one"))
+                     QString("\"%1\" is no known product name").arg(product.legacyName))
+                .now("the product replaces no older one")
                 .hint([&] { return m_names.hint(product.legacyName); });
         if (!legacy.isValid() || product.isLegacy || !product.type.isValid())
             continue;
@@ -119,11 +118,11 @@ void PxCatalogueCheck::checkPredecessors() const
         if (other && other->type != product.type)
             m_report
                 .add(PxTag::LegacyClaimedTwice, product.legacy,
-                     QStringLiteral("%1 is also replaced by %2, in %3")
+                     QString("%1 is also replaced by %2, in %3")
                          .arg(legacy.productName(), other->type.productName(),
                               PxFinding::otherPlaceMark))
                 .otherPlace(other->legacy)
-                .now(QStringLiteral("either of the two may be found for it"));
+                .now("either of the two may be found for it");
         else
             other = &product;
     }
@@ -148,13 +147,13 @@ void PxCatalogueCheck::checkSizes() const
             continue;
         m_report
             .add(PxTag::SizeImplausible, product.width,
-                 QStringLiteral("%1 x %2 is far from the size of nearly all other products of "
-                                "its class, where about %3 is usual for the longer side")
+                 QString("%1 x %2 is far from the size of nearly all other products of its class, "
+                         "where about %3 is usual for the longer side")
                      .arg(product.size.width())
                      .arg(product.size.height())
                      .arg(ofClass.at(ofClass.size() / 2)))
-            .now(QStringLiteral("the size is taken as it is"))
-            .hint(QStringLiteral("lengths are tenths of a millimetre"));
+            .now("the size is taken as it is")
+            .hint("lengths are tenths of a millimetre");
     }
 }
 
@@ -166,8 +165,8 @@ void PxCatalogueCheck::checkTypesHaveFiles() const
     for (auto type = left.begin(); type != left.end(); ++type)
         m_report
             .add(PxTag::ProductTypeWithoutFile, *type,
-                 QStringLiteral("no product file describes %1").arg(type.key().productName()))
-            .now(QStringLiteral("the product is known, but not offered"));
+                 QString("no product file describes %1").arg(type.key().productName()))
+            .now("the product is known, but not offered");
 }
 
 /** Whether every product file of the catalogue gave a product. */

@@ -36,17 +36,16 @@ QStringList single(const QString &path)
 /** For a document element without a product. */
 QString hintForProductOf(const PxSourceElement &root)
 {
-    const QString name = QStringLiteral("product");
+    constexpr const char *name = "product";
     QStringList children;
     for (const PxSourceElement *child : root.children) {
         if (child->firstChild(name))
-            return QStringLiteral("move \"product\" out of \"%1\", directly below \"%2\"")
+            return QString("move \"product\" out of \"%1\", directly below \"%2\"")
                 .arg(child->name, root.name);
         children.append(child->name);
     }
     const QString misspelt = PxSpelling::nearest(name, children);
-    return misspelt.isEmpty() ? QString()
-                              : QStringLiteral("write \"product\" for \"%1\"").arg(misspelt);
+    return misspelt.isEmpty() ? QString() : QString("write \"product\" for \"%1\"").arg(misspelt);
 }
 
 /** Whether the library reads something from the file: most checks are skipped if it does not. */
@@ -55,10 +54,10 @@ bool isUnderstood(const PxCheckedFile &file, PxFileKind kind)
     const PxSourceElement *root = file.root();
     if (!root)
         return false;
-    const PxSourceElement *product = root->firstChild(QStringLiteral("product"));
+    const PxSourceElement *product = root->firstChild("product");
     switch (kind) {
     case PxFileKind::Product:
-        return product && PxProductType(product->value(QStringLiteral("name"))).isValid();
+        return product && PxProductType(product->value("name")).isValid();
     case PxFileKind::Theme:
         return root->name.toLower() == QLatin1String("themes");
     case PxFileKind::ProductTypes:
@@ -139,8 +138,8 @@ void PxCheck::checkThemes()
     if (m_themeIds.isEmpty())
         m_findings.setNotChecked(PxTag::DefaultsThemeUnknown,
                                  m_paths.themes.isEmpty() && m_paths.knownThemes.isEmpty()
-                                     ? QStringLiteral("without a theme file")
-                                     : QStringLiteral("without the id of every theme"));
+                                     ? "without a theme file"
+                                     : "without the id of every theme");
 }
 
 void PxCheck::checkProductTypes(const PxCheckedFile &file)
@@ -154,11 +153,11 @@ void PxCheck::checkProduct(const PxCheckedFile &file, bool isLegacy)
 {
     const PxSourceElement &root = *file.root();
     const PxReporter report = reporterFor(file);
-    if (!root.firstChild(QStringLiteral("product"))) {
+    if (!root.firstChild("product")) {
         report
             .add(PxTag::ProductElementMissing, root.nameRange,
-                 QStringLiteral("no \"product\" element below \"%1\"").arg(root.name))
-            .now(QStringLiteral("nothing is read from this file"))
+                 QString("no \"product\" element below \"%1\"").arg(root.name))
+            .now("nothing is read from this file")
             .hint(hintForProductOf(root));
         return;
     }
@@ -175,7 +174,7 @@ void PxCheck::checkProduct(const PxCheckedFile &file, bool isLegacy)
     PxBarcodeCheck(product, pages, m_images, report).run();
     PxNumberListCheck(product, pages, report).run();
     checkDesign(product);
-    m_productNames.insert(product.element().value(QStringLiteral("name")));
+    m_productNames.insert(product.element().value("name"));
     m_catalogue.addProduct(product);
 }
 
@@ -194,11 +193,10 @@ void PxCheck::checkStrays() const
     for (auto it = undecodable.begin(); it != undecodable.end(); ++it)
         PxReporter(m_findings)
             .add(PxTag::FileNameUndecodable, PxPlace{it.key()},
-                 QStringLiteral("names of XML files that are not in the encoding of the locale: %1")
+                 QString("names of XML files that are not in the encoding of the locale: %1")
                      .arg(*it))
-            .now(QStringLiteral("the library passes them over"))
-            .hint(QStringLiteral(
-                "rename them; an archive may have been unpacked in another encoding"));
+            .now("the library passes them over")
+            .hint("rename them; an archive may have been unpacked in another encoding");
     for (const QString &path : m_paths.strays)
         checkStray(path);
 }
@@ -206,22 +204,21 @@ void PxCheck::checkStrays() const
 void PxCheck::checkStray(const QString &path) const
 {
     const QFileInfo file(path);
-    QString message = QStringLiteral("the library does not read this file");
-    QString hint = QStringLiteral("files that are read end in \".xml\"");
+    QString message = "the library does not read this file";
+    QString hint = "files that are read end in \".xml\"";
     if (file.isSymLink() && !file.exists()) {
-        message = QStringLiteral("this link leads nowhere");
-        hint = QStringLiteral("mend the link, or take it out");
+        message = "this link leads nowhere";
+        hint = "mend the link, or take it out";
     } else if (!file.isFile()) {
-        message = file.isDir() ? QStringLiteral("this is a directory")
-                               : QStringLiteral("this is no regular file");
-        hint = QStringLiteral("move it elsewhere");
+        message = file.isDir() ? "this is a directory" : "this is no regular file";
+        hint = "move it elsewhere";
     } else if (file.isHidden()) {
-        message = QStringLiteral("this file is hidden, as its name begins with a dot");
-        hint = QStringLiteral("take the dot out of the name, or move the file elsewhere");
+        message = "this file is hidden, as its name begins with a dot";
+        hint = "take the dot out of the name, or move the file elsewhere";
     }
     PxReporter(m_findings)
         .add(PxTag::FileNotRead, PxPlace{path}, message)
-        .now(QStringLiteral("the library passes it over"))
+        .now("the library passes it over")
         .hint(hint);
 }
 

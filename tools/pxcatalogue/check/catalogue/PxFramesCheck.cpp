@@ -19,20 +19,18 @@ bool isAscii(const QString &text)
 
 void PxFramesCheck::run()
 {
-    const PxElementRow &row = *PxFormat::find(PxFileKind::Frames, QStringLiteral("frame"));
+    const PxElementRow &row = *PxFormat::find(PxFileKind::Frames, "frame");
     QMap<QString, const PxSourceElement *> frames; // by id
-    for (const PxSourceElement *frame :
-         m_report.file().root()->childrenNamed(QStringLiteral("frame"))) {
-        const QString id = frame->value(QStringLiteral("id"));
-        const QString missing = id.isEmpty() ? QStringLiteral("id") : QStringLiteral("name");
-        const PxSourceRange range = frame->rangeOf(QStringLiteral("id"));
+    for (const PxSourceElement *frame : m_report.file().root()->childrenNamed("frame")) {
+        const QString id = frame->value("id");
+        const char *missing = id.isEmpty() ? "id" : "name";
+        const PxSourceRange range = frame->rangeOf("id");
         if (frame->value(missing).isEmpty()) {
             const PxMissingPart part = PxElementReading(*frame, row).missing(missing);
             m_report
                 .add(PxTag::FrameIncomplete, part.range,
-                     QStringLiteral("the frame has no \"%1\"").arg(missing))
-                .now(id.isEmpty() ? QStringLiteral("it is left out")
-                                  : QStringLiteral("it is shown as \"%1\"").arg(id))
+                     QString("the frame has no \"%1\"").arg(missing))
+                .now(id.isEmpty() ? "it is left out" : QString("it is shown as \"%1\"").arg(id))
                 .hint(part.hint);
             continue;
         }
@@ -40,16 +38,14 @@ void PxFramesCheck::run()
         if (known)
             m_report
                 .add(PxTag::FrameIdTwice, range,
-                     QStringLiteral("the frame \"%1\" is in %2, too")
-                         .arg(id, PxFinding::otherPlaceMark))
+                     QString("the frame \"%1\" is in %2, too").arg(id, PxFinding::otherPlaceMark))
                 .otherPlace(m_report.file().place(known->nameRange))
-                .now(QStringLiteral("the later name is shown: \"%1\"")
-                         .arg(frame->value(QStringLiteral("name"))));
+                .now(QString("the later name is shown: \"%1\"").arg(frame->value("name")));
         else if (!isAscii(id))
             m_report
                 .add(PxTag::FrameIdNotAscii, range,
-                     QStringLiteral("the id \"%1\" is not plain ASCII").arg(id))
-                .now(QStringLiteral("it is found by exactly these letters"));
+                     QString("the id \"%1\" is not plain ASCII").arg(id))
+                .now("it is found by exactly these letters");
         known = frame;
     }
 }

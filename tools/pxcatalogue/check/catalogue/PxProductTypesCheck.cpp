@@ -13,8 +13,7 @@ namespace {
 
 PxElementReading readingOf(const PxSourceElement &row)
 {
-    return PxElementReading(
-        row, *PxFormat::find(PxFileKind::ProductTypes, QStringLiteral("producttype")));
+    return PxElementReading(row, *PxFormat::find(PxFileKind::ProductTypes, "producttype"));
 }
 
 } // namespace
@@ -25,12 +24,11 @@ void PxProductTypesCheck::run()
     if (root->name != QLatin1String("producttypes")) {
         m_report
             .add(PxTag::ProductTypesRootWrong, root->nameRange,
-                 QStringLiteral("the document element is \"%1\", not \"producttypes\"")
-                     .arg(root->name))
-            .now(QStringLiteral("no product is known"));
+                 QString("the document element is \"%1\", not \"producttypes\"").arg(root->name))
+            .now("no product is known");
         return;
     }
-    for (const PxSourceElement *row : root->childrenNamed(QStringLiteral("producttype")))
+    for (const PxSourceElement *row : root->childrenNamed("producttype"))
         checkRow(*row);
     checkMisspelt(*root);
 }
@@ -38,46 +36,45 @@ void PxProductTypesCheck::run()
 /** What is nearly called a row is meant for one. */
 void PxProductTypesCheck::checkMisspelt(const PxSourceElement &root) const
 {
-    const QString row = QStringLiteral("producttype");
+    constexpr const char *row = "producttype";
     for (const PxSourceElement *child : root.children) {
         if (child->name != row && PxSpelling::isNear(child->name, row))
             m_report
                 .add(PxTag::ProductTypeRowDropped, child->nameRange,
-                     QStringLiteral("\"%1\" is no \"%2\"").arg(child->name, row))
-                .now(QStringLiteral("the product type is left out"))
+                     QString("\"%1\" is no \"%2\"").arg(child->name, row))
+                .now("the product type is left out")
                 .hint(PxSpelling::didYouMean(row));
     }
 }
 
 void PxProductTypesCheck::checkRow(const PxSourceElement &row)
 {
-    const QString codeText = row.value(QStringLiteral("code"));
-    const int code = PxXMLParser::intAttribute(row.dom, QStringLiteral("code"), 0);
-    const QString name = row.value(QStringLiteral("name")).trimmed();
+    const QString codeText = row.value("code");
+    const int code = PxXMLParser::intAttribute(row.dom, "code", 0);
+    const QString name = row.value("name").trimmed();
     const QString key = name.toCaseFolded();
-    if (!readingOf(row).isReadable(QStringLiteral("code")))
+    if (!readingOf(row).isReadable("code"))
         return; // the row is left out for it, which is reported where values are checked
     const QString mark = PxFinding::otherPlaceMark;
     if (code < 1) {
         drop(row, "code",
-             codeText.isEmpty() ? QStringLiteral("the product type has no \"code\"")
-                                : QStringLiteral("\"%1\" is no code above 0").arg(codeText));
+             codeText.isEmpty() ? "the product type has no \"code\""
+                                : QString("\"%1\" is no code above 0").arg(codeText));
     } else if (name.isEmpty()) {
-        drop(row, "name", QStringLiteral("the product type has no \"name\""));
+        drop(row, "name", "the product type has no \"name\"");
     } else if (m_rowOfCode.contains(code)) {
-        drop(row, "code", QStringLiteral("%1 has the code %2, too").arg(mark).arg(code))
+        drop(row, "code", QString("%1 has the code %2, too").arg(mark).arg(code))
             .otherPlace(m_report.file().place(m_rowOfCode.value(code)->nameRange));
     } else if (m_rowOfName.contains(key)) {
-        drop(row, "name", QStringLiteral("%1 has the name \"%2\", too").arg(mark, name))
+        drop(row, "name", QString("%1 has the name \"%2\", too").arg(mark, name))
             .otherPlace(m_report.file().place(m_rowOfName.value(key)->nameRange));
-    } else if (PxFormat::decode(PxKeywordSet::ProductClass, row.value(QStringLiteral("class"))) ==
+    } else if (PxFormat::decode(PxKeywordSet::ProductClass, row.value("class")) ==
                PxProductClassUnknown) {
         dropClass(row);
     } else {
         m_rowOfCode.insert(code, &row);
         m_rowOfName.insert(key, &row);
-        m_places.insert(PxProductType(code),
-                        m_report.file().place(row.rangeOf(QStringLiteral("name"))));
+        m_places.insert(PxProductType(code), m_report.file().place(row.rangeOf("name")));
         checkStyle(row, name);
     }
 }
@@ -85,38 +82,36 @@ void PxProductTypesCheck::checkRow(const PxSourceElement &row)
 PxAddedFinding PxProductTypesCheck::drop(const PxSourceElement &row, const char *attribute,
                                          const QString &message, const QString &hint) const
 {
-    const PxMissingPart missing = readingOf(row).missing(QLatin1String(attribute));
+    const PxMissingPart missing = readingOf(row).missing(attribute);
     return m_report.add(PxTag::ProductTypeRowDropped, missing.range, message)
-        .now(QStringLiteral("the product type is left out"))
+        .now("the product type is left out")
         .hint(missing.hintOr(hint));
 }
 
 void PxProductTypesCheck::dropClass(const PxSourceElement &row) const
 {
-    const QString text = row.value(QStringLiteral("class"));
+    const QString text = row.value("class");
     const QStringList classes = PxFormat::keywordNames(PxKeywordSet::ProductClass);
     drop(row, "class",
-         text.trimmed().isEmpty() ? QStringLiteral("the product type has no \"class\"")
-                                  : QStringLiteral("\"%1\" is no product class").arg(text),
+         text.trimmed().isEmpty() ? "the product type has no \"class\""
+                                  : QString("\"%1\" is no product class").arg(text),
          text.trimmed().isEmpty()
-             ? QStringLiteral("it is one of %1").arg(classes.join(QLatin1String(", ")))
+             ? QString("it is one of %1").arg(classes.join(QLatin1String(", ")))
              : PxSpelling::hint(text, classes));
 }
 
 void PxProductTypesCheck::checkStyle(const PxSourceElement &row, const QString &name) const
 {
-    static const QRegularExpression ourStyle(QStringLiteral("^[A-Z0-9_]+$"));
+    static const QRegularExpression ourStyle("^[A-Z0-9_]+$");
     if (!ourStyle.match(name).hasMatch())
         m_report
-            .add(PxTag::ProductTypeNameUnsafe, row.rangeOf(QStringLiteral("name")),
-                 QStringLiteral("\"%1\" is not all upper-case ASCII letters, digits and \"_\"")
-                     .arg(name))
-            .now(QStringLiteral("the product is found by the name in any case"));
-    if (row.value(QStringLiteral("shortname")).isEmpty())
+            .add(PxTag::ProductTypeNameUnsafe, row.rangeOf("name"),
+                 QString("\"%1\" is not all upper-case ASCII letters, digits and \"_\"").arg(name))
+            .now("the product is found by the name in any case");
+    if (row.value("shortname").isEmpty())
         m_report
-            .add(PxTag::ProductTypeShortnameMissing, row.rangeOf(QStringLiteral("shortname")),
-                 row.attribute(QStringLiteral("shortname"))
-                     ? QStringLiteral("the \"shortname\" of the product type is empty")
-                     : QStringLiteral("the product type has no \"shortname\""))
-            .now(QStringLiteral("\"%1\" is shown").arg(name));
+            .add(PxTag::ProductTypeShortnameMissing, row.rangeOf("shortname"),
+                 row.attribute("shortname") ? "the \"shortname\" of the product type is empty"
+                                            : "the product type has no \"shortname\"")
+            .now(QString("\"%1\" is shown").arg(name));
 }

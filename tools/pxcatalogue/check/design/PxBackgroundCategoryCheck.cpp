@@ -11,7 +11,7 @@ void PxBackgroundCategoryCheck::run()
 {
     QMap<QString, QString> known; // as first written, by the name without its case
     const PxSourceList list = PxSourceParts::ofAttribute(
-        m_product.file(), m_product.element(), QStringLiteral("coverBackgroundCategories"));
+        m_product.file(), m_product.element().attribute("coverBackgroundCategories"));
     for (const PxSourcePart &part : list.parts) {
         const QString name = part.text.trimmed();
         if (part.text.isEmpty())
@@ -19,8 +19,8 @@ void PxBackgroundCategoryCheck::run()
         if (name != part.text) {
             m_report
                 .add(PxTag::CategoryBlank, part.whole,
-                     QStringLiteral("the category \"%1\" has a blank at its edge").arg(part.text))
-                .now(QStringLiteral("no background is of this category"))
+                     QString("the category \"%1\" has a blank at its edge").arg(part.text))
+                .now("no background is of this category")
                 .hint(name.isEmpty() ? QString() : PxSpelling::didYouMean(name));
             continue;
         }
@@ -32,8 +32,8 @@ void PxBackgroundCategoryCheck::run()
             continue;
         m_report
             .add(PxTag::CategoryCaseTwice, part.range,
-                 QStringLiteral("the category \"%1\" is also written \"%2\"").arg(name, first))
-            .now(QStringLiteral("both are kept"))
-            .hint(QStringLiteral("keep the spelling that the backgrounds have"));
+                 QString("the category \"%1\" is also written \"%2\"").arg(name, first))
+            .now("both are kept")
+            .hint("keep the spelling that the backgrounds have");
     }
 }

@@ -9,27 +9,26 @@
 
 void PxClassificationCheck::run()
 {
-    const auto *element = m_product.element().firstChild(QStringLiteral("classification"));
+    const auto *element = m_product.element().firstChild("classification");
     if (!element || !PxElementReading(*element).hasOnlyKnown())
         return;
     QStringList missing;
-    for (const QString &name :
-         {QStringLiteral("cm"), QStringLiteral("inch"), QStringLiteral("group")}) {
+    for (const char *name : {"cm", "inch", "group"}) {
         if (element->value(name).trimmed().isEmpty())
             missing.append(name);
     }
     if (!missing.isEmpty())
         m_report
             .add(PxTag::ClassificationIncomplete, element->nameRange,
-                 QStringLiteral("nothing is said about %1").arg(PxMessageText::quotedList(missing)))
-            .now(QStringLiteral("size name or material are empty"));
+                 QString("nothing is said about %1").arg(PxMessageText::quotedList(missing)))
+            .now("size name or material are empty");
 
     const PxProductMaterial material = m_product.description().classification().material();
     if (material.value().trimmed().isEmpty() || !material.visibleDescription().isEmpty())
         return;
     m_report
-        .add(PxTag::MaterialUnknown, element->rangeOf(QStringLiteral("group")),
-             QStringLiteral("\"%1\" is no material").arg(material.value()))
-        .now(QStringLiteral("it is a material of its own, without a display name"))
+        .add(PxTag::MaterialUnknown, element->rangeOf("group"),
+             QString("\"%1\" is no material").arg(material.value()))
+        .now("it is a material of its own, without a display name")
         .hint(PxSpelling::hint(material.value(), PxFormat::keywordNames(PxKeywordSet::Material)));
 }

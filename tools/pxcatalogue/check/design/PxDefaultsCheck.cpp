@@ -15,12 +15,12 @@ namespace {
 
 QString named(const QString &name)
 {
-    return name.isEmpty() ? QStringLiteral("none") : PxMessageText::quoted(name);
+    return name.isEmpty() ? "none" : PxMessageText::quoted(name);
 }
 
 QString templatesText(const PxDefaultsEntry::Templates &templates)
 {
-    return QStringLiteral("background %1, layout %2")
+    return QString("background %1, layout %2")
         .arg(named(templates.background), named(templates.layout));
 }
 
@@ -28,12 +28,12 @@ QString templatesText(const PxDefaultsEntry::Templates &templates)
 
 void PxDefaultsCheck::run()
 {
-    const auto containers = m_parent.childrenNamed(QStringLiteral("defaults"));
+    const auto containers = m_parent.childrenNamed("defaults");
     if (containers.isEmpty())
         return;
     checkNesting(containers);
     PxDefaultsOverrides overrides(m_report);
-    for (const auto *child : containers.constFirst()->childrenNamed(QStringLiteral("defaults"))) {
+    for (const auto *child : containers.constFirst()->childrenNamed("defaults")) {
         const PxDefaultsEntry entry(*child);
         checkThemes(entry);
         checkPageTypes(entry);
@@ -46,7 +46,7 @@ void PxDefaultsCheck::run()
 void PxDefaultsCheck::checkNesting(const QVector<const PxSourceElement *> &containers) const
 {
     const PxSourceElement &first = *containers.constFirst();
-    const int entries = first.childrenNamed(QStringLiteral("defaults")).size();
+    const int entries = first.childrenNamed("defaults").size();
     const bool isFlat = entries == 0 && PxDefaultsEntry::isEntry(first);
     if (!isFlat && containers.size() == 1)
         return;
@@ -54,35 +54,32 @@ void PxDefaultsCheck::checkNesting(const QVector<const PxSourceElement *> &conta
     m_report
         .add(PxTag::DefaultsNotNested, misplaced.nameRange,
              PxDefaultsEntry::isEntry(misplaced)
-                 ? QStringLiteral("an entry directly in \"%1\"").arg(m_parent.name)
-                 : QStringLiteral("a second container of \"defaults\""))
-        .now(QStringLiteral("only what is in the first \"defaults\" is read: %1 entries")
-                 .arg(entries))
-        .hint(QStringLiteral("put all entries into one \"defaults\""));
+                 ? QString("an entry directly in \"%1\"").arg(m_parent.name)
+                 : "a second container of \"defaults\"")
+        .now(QString("only what is in the first \"defaults\" is read: %1 entries").arg(entries))
+        .hint("put all entries into one \"defaults\"");
 }
 
 void PxDefaultsCheck::checkThemes(const PxDefaultsEntry &entry) const
 {
     constexpr PxTag tag = PxTag::DefaultsThemeUnknown;
-    const QString now = QStringLiteral("no theme finds these templates");
+    const QString now = "no theme finds these templates";
     if (entry.themes().isEmpty()) {
-        m_report
-            .add(tag, entry.element().rangeOf(QStringLiteral("theme")),
-                 QStringLiteral("\"theme\" names no theme"))
+        m_report.add(tag, entry.element().rangeOf("theme"), "\"theme\" names no theme")
             .now(now)
-            .hint(QStringLiteral("without the attribute they are for \"normal\""));
+            .hint("without the attribute they are for \"normal\"");
         return;
     }
     if (m_themeIds.isEmpty())
         return;
     const PxSourceList list =
-        PxSourceParts::ofAttribute(m_report.file(), entry.element(), QStringLiteral("theme"));
+        PxSourceParts::ofAttribute(m_report.file(), entry.element().attribute("theme"));
     for (const PxSourcePart &part : list.parts) {
         const QString id = part.text.trimmed();
         // Other themes fall back to this one, whether it is there or not.
         if (id.isEmpty() || id == QLatin1String("normal") || m_themeIds.contains(id))
             continue;
-        m_report.add(tag, part.range, QStringLiteral("there is no theme \"%1\"").arg(id))
+        m_report.add(tag, part.range, QString("there is no theme \"%1\"").arg(id))
             .now(now)
             .hint([&] { return m_themeIds.hint(id); });
     }
@@ -90,20 +87,18 @@ void PxDefaultsCheck::checkThemes(const PxDefaultsEntry &entry) const
 
 void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry) const
 {
-    const QString attribute = QStringLiteral("pageType");
-    const QString now = QStringLiteral("no page finds these templates");
+    constexpr const char *attribute = "pageType";
+    const QString now = "no page finds these templates";
     const QVector<PxSourcePart> parts =
-        PxSourceParts::ofAttribute(m_report.file(), entry.element(), attribute).parts;
+        PxSourceParts::ofAttribute(m_report.file(), entry.element().attribute(attribute)).parts;
     if (std::all_of(parts.begin(), parts.end(),
                     [](const PxSourcePart &part) { return part.text.trimmed().isEmpty(); })) {
         const PxMissingPart missing = entry.missing(attribute);
         m_report
             .add(PxTag::DefaultsPageTypeMissing, missing.range,
-                 parts.isEmpty() ? QStringLiteral("\"pageType\" is missing")
-                                 : QStringLiteral("\"pageType\" names no type of page"))
+                 parts.isEmpty() ? "\"pageType\" is missing" : "\"pageType\" names no type of page")
             .now(now)
-            .hint(missing.hintOr(
-                QStringLiteral("name the types of pages, as pageType=\"normalpage\"")));
+            .hint(missing.hintOr("name the types of pages, as pageType=\"normalpage\""));
         return;
     }
     for (const PxSourcePart &part : parts) {
@@ -115,12 +110,12 @@ void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry) const
             continue;
         m_report
             .add(PxTag::DefaultsPageTypeUnion, part.range,
-                 isUnion ? QStringLiteral("\"%1\" is more than one type").arg(part.text.trimmed())
-                         : QStringLiteral("\"%1\" stands for pages of another type")
-                               .arg(part.text.trimmed()))
+                 isUnion
+                     ? QString("\"%1\" is more than one type").arg(part.text.trimmed())
+                     : QString("\"%1\" stands for pages of another type").arg(part.text.trimmed()))
             .now(now)
-            .hint(isUnion ? QStringLiteral("name each type, as \"fullcover,spine\"")
-                          : PxSpelling::didYouMean(QStringLiteral("normalpage")));
+            .hint(isUnion ? "name each type, as \"fullcover,spine\""
+                          : PxSpelling::didYouMean("normalpage"));
     }
 }
 
@@ -128,8 +123,7 @@ void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry) const
 void PxDefaultsCheck::checkTemplates(const PxDefaultsEntry &entry) const
 {
     QVector<PxSourcePart> names =
-        PxSourceParts::ofAttribute(m_report.file(), entry.element(), QStringLiteral("templates"))
-            .parts;
+        PxSourceParts::ofAttribute(m_report.file(), entry.element().attribute("templates")).parts;
     names.erase(std::remove_if(names.begin(), names.end(),
                                [](const PxSourcePart &name) { return name.text.isEmpty(); }),
                 names.end());
@@ -145,13 +139,13 @@ void PxDefaultsCheck::checkTemplates(const PxDefaultsEntry &entry) const
     const bool isBackground = lost == names.begin();
     const QString message =
         names.size() > 2
-            ? QStringLiteral("\"templates\" takes a background and a layout, not %1 names")
+            ? QString("\"templates\" takes a background and a layout, not %1 names")
                   .arg(names.size())
-            : QStringLiteral("the %1 is given in \"templates\" and as an attribute")
+            : QString("the %1 is given in \"templates\" and as an attribute")
                   .arg(isBackground ? QLatin1String("background") : QLatin1String("layout"));
     m_report
         .add(PxTag::DefaultsTemplatesCount, names.size() > 2 ? names[2].range : lost->range,
              message)
         .now(templatesText(used))
-        .hint(names.size() > 2 ? QString() : QStringLiteral("keep the one that is meant"));
+        .hint(names.size() > 2 ? QString() : "keep the one that is meant");
 }

@@ -15,12 +15,12 @@ namespace {
 const PxElementRow &entryRow()
 {
     static const PxElementRow &ourRow =
-        *PxFormat::find(PxFileKind::UserDefaults, QStringLiteral("defaults/defaults"));
+        *PxFormat::find(PxFileKind::UserDefaults, "defaults/defaults");
     return ourRow;
 }
 
 /** As the library takes it: the default where the attribute is missing. */
-QString listOf(const PxSourceElement &entry, const QString &attribute)
+QString listOf(const PxSourceElement &entry, const char *attribute)
 {
     return entry.dom.attribute(
         attribute, QLatin1String(PxFormat::attribute(entryRow(), attribute)->defaultText));
@@ -29,8 +29,8 @@ QString listOf(const PxSourceElement &entry, const QString &attribute)
 bool isPlainEntry(const PxSourceElement &element)
 {
     const PxElementReading reading(element, entryRow());
-    return reading.hasOnlyKnown() && reading.isReadable(QStringLiteral("pageType")) &&
-           reading.isReadable(QStringLiteral("alignment"));
+    return reading.hasOnlyKnown() && reading.isReadable("pageType") &&
+           reading.isReadable("alignment");
 }
 
 } // namespace
@@ -38,15 +38,14 @@ bool isPlainEntry(const PxSourceElement &element)
 PxDefaultsEntry::PxDefaultsEntry(const PxSourceElement &element)
     : m_element(&element)
     , m_isPlain(isPlainEntry(element))
-    , m_alignments(
-          PxFormat::decode(PxKeywordSet::Alignment, listOf(element, QStringLiteral("alignment"))))
+    , m_alignments(PxFormat::decode(PxKeywordSet::Alignment, listOf(element, "alignment")))
 {
-    pxForEachPart(listOf(element, QStringLiteral("theme")), [this](QStringView theme) {
+    pxForEachPart(listOf(element, "theme"), [this](QStringView theme) {
         if (!theme.trimmed().isEmpty() && m_themes.size() < PxCheckLimits::listParts)
             m_themes.append(theme.trimmed().toString());
     });
     m_themes.removeDuplicates();
-    pxForEachPart(element.value(QStringLiteral("pageType")), [this](QStringView part) {
+    pxForEachPart(element.value("pageType"), [this](QStringView part) {
         const auto pageType = static_cast<PxPageTypeEnum>(
             PxFormat::decode(PxKeywordSet::PageType, part.trimmed().toString()));
         if (pageType != PxPageTypeNone && !m_pageTypes.contains(pageType))
@@ -54,7 +53,7 @@ PxDefaultsEntry::PxDefaultsEntry(const PxSourceElement &element)
     });
 }
 
-PxMissingPart PxDefaultsEntry::missing(const QString &attribute) const
+PxMissingPart PxDefaultsEntry::missing(const char *attribute) const
 {
     return PxElementReading(*m_element, entryRow()).missing(attribute);
 }
@@ -63,15 +62,15 @@ PxDefaultsEntry::Templates PxDefaultsEntry::templates() const
 {
     // For a page that the library is sure to find.
     QDomDocument document;
-    QDomElement parent = document.createElement(QStringLiteral("defaults"));
+    QDomElement parent = document.createElement("defaults");
     QDomElement entry = document.importNode(m_element->dom, false).toElement();
-    entry.setAttribute(QStringLiteral("theme"), QStringLiteral("normal"));
-    entry.setAttribute(QStringLiteral("pageType"), QStringLiteral("normalpage"));
-    entry.setAttribute(QStringLiteral("alignment"), QStringLiteral("left"));
+    entry.setAttribute("theme", "normal");
+    entry.setAttribute("pageType", "normalpage");
+    entry.setAttribute("alignment", "left");
     parent.appendChild(entry);
     const PxDefaultTemplateMap map(parent);
     const PxPageContext page(PxPageTypeNormalPage, PxPageAlignmentLeft);
-    const QString theme = QStringLiteral("normal");
+    constexpr const char *theme = "normal";
     return {map.findTemplate({theme, page, DefaultTemplateTypeLayout}, false),
             map.findTemplate({theme, page, DefaultTemplateTypeBackground}, false)};
 }

@@ -69,17 +69,16 @@ void PxDefaultsOverrides::report(const PxDefaultsEntry &entry, const PxDefaultsE
             .toLower();
     const Templates before = replaced.templates();
     const bool isLayout = entry.templates().layout.isEmpty() && !before.layout.isEmpty();
-    const QString lost = isLayout ? QStringLiteral("the layout \"%1\"").arg(before.layout)
-                                  : QStringLiteral("the background \"%1\"").arg(before.background);
+    const QString lost = isLayout ? QString("the layout \"%1\"").arg(before.layout)
+                                  : QString("the background \"%1\"").arg(before.background);
     m_report
         .add(PxTag::DefaultsOverridden, entry.element().nameRange,
-             QStringLiteral("replaces %1 for %2/%3/%4")
+             QString("replaces %1 for %2/%3/%4")
                  .arg(PxFinding::otherPlaceMark, theme,
                       PxPageType(static_cast<PxPageTypeEnum>(pageType)).encodeCSV(), side))
         .otherPlace(m_report.file().place(replaced.element().nameRange))
-        .now(isWhole ? QStringLiteral("%1 is never used").arg(line)
-                     : QStringLiteral("%1 of %2 is lost there").arg(lost, line))
-        .hint(isWhole ? QStringLiteral("keep the one that is meant")
-                      : QStringLiteral(
-                            "an entry names layout and background, also what does not change"));
+        .now(isWhole ? QString("%1 is never used").arg(line)
+                     : QString("%1 of %2 is lost there").arg(lost, line))
+        .hint(isWhole ? "keep the one that is meant"
+                      : "an entry names layout and background, also what does not change");
 }

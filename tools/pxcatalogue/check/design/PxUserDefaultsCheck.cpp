@@ -19,7 +19,7 @@ void PxUserDefaultsCheck::run()
 void PxUserDefaultsCheck::checkName() const
 {
     const QString fileName = QFileInfo(m_report.file().path()).fileName();
-    const QString suffix = QStringLiteral(".xml");
+    const QString suffix = ".xml";
     const bool isSuffix = fileName.endsWith(suffix);
     const QString name =
         fileName.endsWith(suffix, Qt::CaseInsensitive) ? fileName.chopped(suffix.size()) : fileName;
@@ -33,18 +33,16 @@ void PxUserDefaultsCheck::checkName() const
     QString message;
     QString hint;
     if (similar != names.end()) {
-        message =
-            QStringLiteral("the file is named otherwise than the product \"%1\"").arg(*similar);
-        hint = QStringLiteral("name it \"%1\"").arg(*similar + suffix);
+        message = QString("the file is named otherwise than the product \"%1\"").arg(*similar);
+        hint = QString("name it \"%1\"").arg(*similar + suffix);
     } else if (!PxProductType(name).isValid()) {
-        message = QStringLiteral("\"%1\" is no product").arg(name);
-        hint = isSuffix ? PxSpelling::hint(name, names)
-                        : QStringLiteral("files that are read end in \".xml\"");
+        message = QString("\"%1\" is no product").arg(name);
+        hint = isSuffix ? PxSpelling::hint(name, names) : "files that are read end in \".xml\"";
     } else {
         return; // a product whose file is broken, or not among the files that are checked
     }
     m_report.add(PxTag::UserDefaultsWithoutProduct, PxSourceRange{0, 0}, message)
-        .now(QStringLiteral("the library does not look for this file"))
+        .now("the library does not look for this file")
         .hint(hint);
 }
 
@@ -59,14 +57,14 @@ bool PxUserDefaultsCheck::checkStart() const
     const int begin = qMax(0, text.indexOf(QLatin1Char('<')));
     const int end = text.indexOf(QLatin1Char('>'), begin) + 1;
     const QString what = first.isComment() ? PxSourceNode::kindText(PxSourceNode::Kind::Comment)
-                         : first.isDocumentType() ? QStringLiteral("a document type")
+                         : first.isDocumentType() ? "a document type"
                          : text.midRef(begin).startsWith(QLatin1String("<?xml "))
-                             ? QStringLiteral("an XML declaration")
+                             ? "an XML declaration"
                              : PxSourceNode::kindText(PxSourceNode::Kind::ProcessingInstruction);
     m_report
         .add(PxTag::UserDefaultsUnreadable, PxSourceRange{begin, qMax(begin, end)},
-             what + QStringLiteral(" above the first element"))
-        .now(QStringLiteral("nothing is found in this file"))
-        .hint(QStringLiteral("take it out; without a declaration the file is UTF-8"));
+             what + " above the first element")
+        .now("nothing is found in this file")
+        .hint("take it out; without a declaration the file is UTF-8");
     return false;
 }

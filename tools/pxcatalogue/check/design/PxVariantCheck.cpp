@@ -12,7 +12,7 @@
 
 void PxVariantCheck::run()
 {
-    const auto *list = m_product.element().firstChild(QStringLiteral("variants"));
+    const auto *list = m_product.element().firstChild("variants");
     if (!list || !m_product.type().isValid())
         return;
     const QStringList all = m_product.description().variants();
@@ -22,10 +22,10 @@ void PxVariantCheck::run()
         const PxMissingPart text = PxElementReading(*list->children.constFirst()).missingText();
         m_report
             .add(PxTag::VariantUnnamed, text.hint.isEmpty() ? list->nameRange : text.range,
-                 QStringLiteral("none of the %1 variants has a display name for %2")
+                 QString("none of the %1 variants has a display name for %2")
                      .arg(all.size())
                      .arg(m_product.type().productName()))
-            .now(QStringLiteral("the product has no variants"))
+            .now("the product has no variants")
             .hint(text.hint);
     } else {
         checkEach(*list);
@@ -41,11 +41,10 @@ void PxVariantCheck::checkEach(const PxSourceElement &list) const
         if (first && !identifier.trimmed().isEmpty()) {
             m_report
                 .add(PxTag::VariantTwice, variant->textRange(),
-                     QStringLiteral("\"%1\" is also in %2")
-                         .arg(identifier, PxFinding::otherPlaceMark))
+                     QString("\"%1\" is also in %2").arg(identifier, PxFinding::otherPlaceMark))
                 .otherPlace(m_report.file().place(first->nameRange))
-                .now(QStringLiteral("it is shown once"))
-                .hint(QStringLiteral("take one of them out"));
+                .now("it is shown once")
+                .hint("take one of them out");
             continue;
         }
         known.insert(identifier, variant);
@@ -55,10 +54,10 @@ void PxVariantCheck::checkEach(const PxSourceElement &list) const
         const PxMissingPart text = PxElementReading(*variant).missingText();
         m_report
             .add(PxTag::VariantUnnamed, text.range,
-                 tidy.isEmpty() ? QStringLiteral("the variant is empty")
-                                : QStringLiteral("\"%1\" has no display name for %2")
+                 tidy.isEmpty() ? "the variant is empty"
+                                : QString("\"%1\" has no display name for %2")
                                       .arg(identifier, m_product.type().productName()))
-            .now(QStringLiteral("this variant is hidden"))
+            .now("this variant is hidden")
             .hint(isNamed(tidy) ? PxSpelling::didYouMean(tidy) : text.hint);
     }
 }

@@ -31,9 +31,8 @@ QVector<PxSourceNode> PxAllowanceComments::findIn(const QVector<PxSourceNode> &n
                                                   const QVector<const PxSourceElement *> &elements,
                                                   Checked checked)
 {
-    static const QRegularExpression ourAllowance(
-        QStringLiteral("^\\s*check:\\s*allow(?:\\s+(\\S+)|\\s*$)"),
-        QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression ourAllowance("^\\s*check:\\s*allow(?:\\s+(\\S+)|\\s*$)",
+                                                 QRegularExpression::CaseInsensitiveOption);
     QVector<PxSourceNode> others;
     auto element = elements.begin();
     for (const PxSourceNode &node : nodes) {
@@ -61,17 +60,16 @@ QVector<PxSourceNode> PxAllowanceComments::findIn(const QVector<PxSourceNode> &n
 /** A comment that names a tag in nearly the words that allow it. */
 void PxAllowanceComments::checkNoAllowance(const PxSourceNode &node) const
 {
-    static const QRegularExpression ourWords(
-        QStringLiteral("^\\s*check\\s*:?\\s*([a-z]+)\\s*:?\\s+(\\S+)"),
-        QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression ourWords("^\\s*check\\s*:?\\s*([a-z]+)\\s*:?\\s+(\\S+)",
+                                             QRegularExpression::CaseInsensitiveOption);
     const QRegularExpressionMatch words = ourWords.match(node.text.left(maximumLength));
     const QString tag = words.captured(2);
     if (!words.hasMatch() || !PxCheckTags::find(tag) ||
-        !PxSpelling::isNear(words.captured(1), QStringLiteral("allow")))
+        !PxSpelling::isNear(words.captured(1), "allow"))
         return;
     m_report
         .add(PxTag::AllowanceUnused, node.range,
-             QStringLiteral("the comment names \"%1\", but does not allow it").arg(tag))
-        .now(QStringLiteral("the comment silences nothing"))
-        .hint(QStringLiteral("write \"check: allow %1\"").arg(tag));
+             QString("the comment names \"%1\", but does not allow it").arg(tag))
+        .now("the comment silences nothing")
+        .hint(QString("write \"check: allow %1\"").arg(tag));
 }

@@ -3,7 +3,7 @@
 void PxFinding::setRest(int count)
 {
     restCount = count;
-    message = QStringLiteral("and %1 more in this file").arg(count);
+    message = QString("and %1 more in this file").arg(count);
 }
 
 QString PxFinding::text() const

@@ -10,7 +10,7 @@ QString withoutLine(const PxFinding &finding, const QHash<QString, QString> &cat
     const QString other = finding.otherPlace.path;
     QString message = finding.message;
     return message.replace(PxFinding::otherPlaceMark, other == finding.place.path
-                                                          ? QStringLiteral("line")
+                                                          ? "line"
                                                           : catalogueNames.value(other, other));
 }
 
@@ -25,7 +25,7 @@ PxFindingIdentity::PxFindingIdentity(const PxFinding &finding,
 
 QString PxFindingIdentity::restMessage()
 {
-    return QStringLiteral("and more in this file");
+    return "and more in this file";
 }
 
 bool PxFindingIdentity::operator<(const PxFindingIdentity &other) const

@@ -33,13 +33,13 @@ bool isOfNameOnly(const PxCheckTag *tag)
 QString hintFor(const QString &tag)
 {
     if (tag.isEmpty())
-        return QStringLiteral("write the tag that it is for");
+        return "write the tag that it is for";
     if (PxCheckTags::find(tag))
-        return QStringLiteral("take the comment out");
+        return "take the comment out";
     if (tag.contains(QLatin1Char(',')))
-        return QStringLiteral("write a comment for each tag");
+        return "write a comment for each tag";
     const QString meant = PxSpelling::hint(tag, PxCheckTags::names());
-    return meant.isEmpty() ? QStringLiteral("take the comment out") : meant;
+    return meant.isEmpty() ? "take the comment out" : meant;
 }
 
 } // namespace
@@ -88,7 +88,7 @@ bool PxFindings::isWanted(const QString &tag) const
 
 QString PxFindings::lack(const PxCheckTag &tag) const
 {
-    return m_isPartial && tag.needsCatalogue ? QStringLiteral("without the whole catalogue")
+    return m_isPartial && tag.needsCatalogue ? "without the whole catalogue"
                                              : m_notChecked.value(&tag);
 }
 
@@ -193,13 +193,13 @@ void PxFindings::addUnused(const PxAllowances::Allowance &allowance)
     const PxCheckTag *tag = PxCheckTags::find(allowance.tag);
     if (tag && (m_excluded.contains(allowance.tag) || !lack(*tag).isEmpty()))
         return; // nobody knows what it would silence
-    QString message = QStringLiteral("nothing here is \"%1\"").arg(allowance.tag);
+    QString message = QString("nothing here is \"%1\"").arg(allowance.tag);
     if (allowance.tag.isEmpty())
-        message = QStringLiteral("the allowance names no tag");
+        message = "the allowance names no tag";
     else if (!tag)
-        message = QStringLiteral("there is no tag \"%1\" to allow").arg(allowance.tag);
+        message = QString("there is no tag \"%1\" to allow").arg(allowance.tag);
     PxAddedFinding(append(PxCheckTags::of(PxTag::AllowanceUnused), allowance.comment, message))
-        .now(QStringLiteral("the comment silences nothing"))
+        .now("the comment silences nothing")
         .hint([&] { return hintFor(allowance.tag); });
 }
 

@@ -8,7 +8,7 @@ QString shortened(const QString &text)
 {
     return text.size() <= PxCheckLimits::messageLength
                ? text
-               : text.left(PxCheckLimits::messageLength) + QStringLiteral("…");
+               : text.left(PxCheckLimits::messageLength) + "…";
 }
 
 } // namespace

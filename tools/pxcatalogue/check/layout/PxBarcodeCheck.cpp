@@ -15,8 +15,8 @@ namespace {
 bool isPageNrPlain(const PxSourceElement &barcode)
 {
     const PxElementReading reading(barcode);
-    return reading.hasOnlyKnown() && reading.isReadable(QStringLiteral("pageNr")) &&
-           reading.isReadable(QStringLiteral("reverseOrder"));
+    return reading.hasOnlyKnown() && reading.isReadable("pageNr") &&
+           reading.isReadable("reverseOrder");
 }
 
 } // namespace
@@ -28,10 +28,10 @@ PxBarcodeCheck::PxBarcodeCheck(const PxCheckedProduct &product, const PxProductP
     , m_images(images)
     , m_report(report)
 {
-    const auto *list = product.element().firstChild(QStringLiteral("barcodes"));
+    const auto *list = product.element().firstChild("barcodes");
     if (!list)
         return;
-    m_elements = list->childrenNamed(QStringLiteral("barcode"));
+    m_elements = list->childrenNamed("barcode");
     m_barcodes = PxBarcodeList(list->dom);
 }
 
@@ -58,7 +58,7 @@ bool PxBarcodeCheck::checkRect(int index) const
     if (m_barcodes[index].isValid())
         return true;
     m_report.add(PxTag::BarcodeEmpty, rectangle.placeOfFault(), rectangle.fault())
-        .now(QStringLiteral("there is no barcode on that page"));
+        .now("there is no barcode on that page");
     return false;
 }
 
@@ -98,14 +98,14 @@ bool PxBarcodeCheck::checkReach(int index, const QVector<Place> &places) const
     if (places.isEmpty()) {
         const bool isBehindLast = barcode.reverseOrder() && barcode.pageNr() == 0;
         m_report
-            .add(tag, element.rangeOf(QStringLiteral("pageNr")),
-                 QStringLiteral("the product has no page %1%2")
+            .add(tag, element.rangeOf("pageNr"),
+                 QString("the product has no page %1%2")
                      .arg(barcode.pageNr())
                      .arg(barcode.reverseOrder() ? QLatin1String(" from the back")
                                                  : QLatin1String()))
-            .now(QStringLiteral("this barcode is on no page"))
-            .hint(isBehindLast ? QStringLiteral("from the back the last page is 1")
-                               : QStringLiteral("its pages are 0 to %1").arg(m_pages.lastPage()));
+            .now("this barcode is on no page")
+            .hint(isBehindLast ? "from the back the last page is 1"
+                               : QString("its pages are 0 to %1").arg(m_pages.lastPage()));
         return false;
     }
     const int shadow = shadowOf(index, places);
@@ -113,9 +113,8 @@ bool PxBarcodeCheck::checkReach(int index, const QVector<Place> &places) const
         return true;
     m_report
         .add(tag, element.nameRange,
-             QStringLiteral("a second barcode for page %1").arg(places.constFirst().page))
-        .now(QStringLiteral("the one in %1 is used")
-                 .arg(m_report.line(m_elements[shadow]->nameRange)));
+             QString("a second barcode for page %1").arg(places.constFirst().page))
+        .now(QString("the one in %1 is used").arg(m_report.line(m_elements[shadow]->nameRange)));
     return false;
 }
 
@@ -131,18 +130,18 @@ void PxBarcodeCheck::checkInside(int index, const QVector<Place> &places) const
         if (size.isEmpty() || QRect(QPoint(0, 0), size).contains(rect))
             continue;
         const bool isBeside = rect.left() < 0 || rect.right() >= size.width();
-        const QString start = isBeside ? QStringLiteral("x") : QStringLiteral("y");
+        const char *start = isBeside ? "x" : "y";
         const int from = isBeside ? rect.left() : rect.top();
         const qint64 to = qint64(from) + (isBeside ? rect.width() : rect.height());
         m_report
             .add(PxTag::BarcodeOutside, m_elements[index]->rangeOf(start),
-                 QStringLiteral("the barcode reaches from %1 = %2 to %3, page %4 from 0 to %5")
+                 QString("the barcode reaches from %1 = %2 to %3, page %4 from 0 to %5")
                      .arg(start)
                      .arg(from)
                      .arg(to)
                      .arg(place.page)
                      .arg(isBeside ? size.width() : size.height()))
-            .now(QStringLiteral("the rectangle is used as it is"));
+            .now("the rectangle is used as it is");
         return;
     }
 }

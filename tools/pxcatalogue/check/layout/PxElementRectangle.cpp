@@ -7,15 +7,14 @@
 
 namespace {
 
-const QString names[] = {QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("width"),
-                         QStringLiteral("height")};
+constexpr const char *names[] = {"x", "y", "width", "height"};
 
 } // namespace
 
 bool PxElementRectangle::isPlain() const
 {
     const PxElementReading reading(m_element);
-    return std::all_of(std::begin(names), std::end(names), [&](const QString &name) {
+    return std::all_of(std::begin(names), std::end(names), [&](const char *name) {
         return reading.isReadable(name) && !reading.isMisspelt(name);
     });
 }
@@ -23,30 +22,31 @@ bool PxElementRectangle::isPlain() const
 bool PxElementRectangle::isGiven() const
 {
     return std::any_of(std::begin(names), std::end(names),
-                       [this](const QString &name) { return m_element.attribute(name); });
+                       [this](const char *name) { return m_element.attribute(name); });
 }
 
 QString PxElementRectangle::fault() const
 {
-    const QString side = sideWithFault();
-    if (side.isEmpty())
-        return QStringLiteral("the rectangle leaves what can be counted");
+    const char *side = sideWithFault();
+    if (!side)
+        return "the rectangle leaves what can be counted";
     const PxSourceAttribute *attribute = m_element.attribute(side);
-    return attribute ? QStringLiteral("the %1 is %2").arg(side, attribute->value)
-                     : QStringLiteral("\"%1\" is missing").arg(side);
+    return attribute ? QString("the %1 is %2").arg(side, attribute->value)
+                     : QString("\"%1\" is missing").arg(side);
 }
 
 PxSourceRange PxElementRectangle::placeOfFault() const
 {
-    return m_element.rangeOf(sideWithFault());
+    const char *side = sideWithFault();
+    return side ? m_element.rangeOf(side) : m_element.nameRange;
 }
 
-/** The first one that is missing or not above 0; empty when both are well. */
-QString PxElementRectangle::sideWithFault() const
+/** The first one that is missing or not above 0; null when both are well. */
+const char *PxElementRectangle::sideWithFault() const
 {
-    for (const QString &name : {QStringLiteral("width"), QStringLiteral("height")}) {
+    for (const char *name : {"width", "height"}) {
         if (m_element.value(name).toLongLong() <= 0)
             return name;
     }
-    return QString();
+    return nullptr;
 }

@@ -18,7 +18,7 @@ public:
     PxSourceRange placeOfFault() const;
 
 private:
-    QString sideWithFault() const;
+    const char *sideWithFault() const;
 
     const PxSourceElement &m_element;
 };

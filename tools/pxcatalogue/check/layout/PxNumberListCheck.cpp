@@ -20,7 +20,7 @@ namespace {
 QString absence(const PxSourceElement &list)
 {
     const QString path = list.name == QLatin1String("target_pages")
-                             ? QStringLiteral("product/extra_production_pages/item/target_pages")
+                             ? "product/extra_production_pages/item/target_pages"
                              : QLatin1String("product/") + list.name;
     const PxElementRow &row = *PxFormat::find(PxFileKind::Product, path);
     return PxFormat::plainText(QString::fromUtf8(row.absent));
@@ -48,7 +48,7 @@ QString separatorHint(const QString &part)
     const bool areNumbers = std::all_of(
         words.begin(), words.end(), [](const QString &word) { return !pxIntList(word).isEmpty(); });
     return words.size() > 1 && areNumbers
-               ? QStringLiteral("separate with commas: \"%1\"")
+               ? QString("separate with commas: \"%1\"")
                      .arg(PxMessageText::shortened(words.join(QLatin1Char(','))))
                : QString();
 }
@@ -58,13 +58,13 @@ QString separatorHint(const QString &part)
 void PxNumberListCheck::run()
 {
     const PxSourceElement &product = m_product.element();
-    if (const auto *list = product.firstChild(QStringLiteral("pageswithcontent")))
+    if (const auto *list = product.firstChild("pageswithcontent"))
         checkParts(*list);
-    const auto *numbering = product.firstChild(QStringLiteral("productionnumbering"));
+    const auto *numbering = product.firstChild("productionnumbering");
     if (numbering && checkParts(*numbering))
         checkNumbering(*numbering);
-    if (const auto *extra = product.firstChild(QStringLiteral("extra_production_pages"))) {
-        for (const auto *item : extra->childrenNamed(QStringLiteral("item")))
+    if (const auto *extra = product.firstChild("extra_production_pages")) {
+        for (const auto *item : extra->childrenNamed("item"))
             checkExtraPage(*item);
     }
 }
@@ -76,10 +76,8 @@ bool PxNumberListCheck::checkParts(const PxSourceElement &list) const
     const int numbers = countNumbers(list.dom.text());
     const QString now =
         numbers > 0
-            ? QStringLiteral("it is left out: %1 of %2 parts are read")
-                  .arg(numbers)
-                  .arg(source.count)
-            : QStringLiteral("the list holds no number then, which means: %1").arg(absence(list));
+            ? QString("it is left out: %1 of %2 parts are read").arg(numbers).arg(source.count)
+            : QString("the list holds no number then, which means: %1").arg(absence(list));
     bool isSound = true;
     for (int i = 0; i < parts.size(); ++i) {
         const QString text = parts[i].text.trimmed();
@@ -89,9 +87,8 @@ bool PxNumberListCheck::checkParts(const PxSourceElement &list) const
         isSound = false;
         m_report
             .add(PxTag::NumberListPartDropped, parts[i].range,
-                 text.isEmpty()
-                     ? QStringLiteral("part %1 of \"%2\" is empty").arg(i + 1).arg(list.name)
-                     : QStringLiteral("\"%1\" is no whole number").arg(text))
+                 text.isEmpty() ? QString("part %1 of \"%2\" is empty").arg(i + 1).arg(list.name)
+                                : QString("\"%1\" is no whole number").arg(text))
             .now(now)
             .hint([&] { return separatorHint(text); });
     }
@@ -117,17 +114,17 @@ void PxNumberListCheck::checkNumbering(const PxSourceElement &list) const
         return;
     m_report
         .add(PxTag::ProductionNumberRepeated, parts.constLast().range,
-             QStringLiteral("the list ends with %1, which is not its largest number")
+             QString("the list ends with %1, which is not its largest number")
                  .arg(given.constLast()))
-        .now(QStringLiteral("numbering goes on from there: %1 is given twice").arg(*again))
-        .hint(QStringLiteral("add the number that it shall go on with: %1")
+        .now(QString("numbering goes on from there: %1 is given twice").arg(*again))
+        .hint(QString("add the number that it shall go on with: %1")
                   .arg(qint64(*std::max_element(given.begin(), given.end())) + 1));
 }
 
 void PxNumberListCheck::checkExtraPage(const PxSourceElement &item) const
 {
-    const auto *pages = item.firstChild(QStringLiteral("target_pages"));
-    const auto *pdf = item.firstChild(QStringLiteral("pdf"));
+    const auto *pages = item.firstChild("target_pages");
+    const auto *pdf = item.firstChild("pdf");
     const PxProductionExtraPageGroup group(item.dom);
     const bool hasTarget = !group.targetPages().isEmpty();
     // A list of which nothing is left has lost more than its parts.
@@ -137,25 +134,25 @@ void PxNumberListCheck::checkExtraPage(const PxSourceElement &item) const
     PxMissingPart missing;
     QString message;
     if (!pages || !pdf) {
-        const QString name = pages ? QStringLiteral("pdf") : QStringLiteral("target_pages");
+        const char *name = pages ? "pdf" : "target_pages";
         missing = PxElementReading(item).missingChild(
             name, m_report.hasRoom(tag) ? PxElementReading::Search::Everywhere
                                         : PxElementReading::Search::Inside);
-        message = QStringLiteral("no \"%1\"").arg(name);
+        message = QString("no \"%1\"").arg(name);
     } else if (!hasTarget) {
         missing = PxElementReading(*pages).missingText();
         if (missing.hint.isEmpty())
-            missing.hint = QStringLiteral("pages are whole numbers, as in \"0,2\"");
-        message = QStringLiteral("no target page");
+            missing.hint = "pages are whole numbers, as in \"0,2\"";
+        message = "no target page";
     } else if (group.content().filename().trimmed().isEmpty()) {
-        missing = PxElementReading(*pdf).missing(QStringLiteral("filename"));
-        message = QStringLiteral("no file name");
+        missing = PxElementReading(*pdf).missing("filename");
+        message = "no file name";
     } else {
         return;
     }
     const int count = group.targetPages().size();
     m_report.add(tag, missing.range, message)
-        .now(QStringLiteral("production gets the file \"%1\" for %2 target %3")
+        .now(QString("production gets the file \"%1\" for %2 target %3")
                  .arg(group.content().filename(), QString::number(count),
                       count == 1 ? QLatin1String("page") : QLatin1String("pages")))
         .hint(missing.hint);

@@ -46,11 +46,9 @@ bool PxProductPages::isPlain() const
     const PxSourceElement &element = m_product.element();
     const PxElementReading reading(element);
     bool isPlain = m_entries.isGiven() && m_product.type().isValid();
-    for (const QString &attribute :
-         {QStringLiteral("binding"), QStringLiteral("numOfNormalPages"),
-          QStringLiteral("horizontalPages"), QStringLiteral("cardStyleAlignment"),
-          QStringLiteral("varioSingleCardStyleAlignment"),
-          QStringLiteral("collegeBlockStyleAlignment")})
+    for (const char *attribute :
+         {"binding", "numOfNormalPages", "horizontalPages", "cardStyleAlignment",
+          "varioSingleCardStyleAlignment", "collegeBlockStyleAlignment"})
         isPlain = isPlain && reading.isReadable(attribute) && !reading.isMisspelt(attribute);
     return isPlain && std::all_of(m_entries.read().begin(), m_entries.read().end(), isSingle);
 }
@@ -91,11 +89,11 @@ QVector<int> PxProductPages::pageCountsOfBook() const
     QSet<int> counts{book.maxPages()};
     for (qint64 count = book.minPages(); count < book.maxPages(); count += step)
         counts.insert(int(count));
-    const PxSourceElement *spines = m_product.element().firstChild(QStringLiteral("spines"));
-    const auto ofTable = spines ? spines->childrenNamed(QStringLiteral("spine"))
-                                : QVector<const PxSourceElement *>();
+    const PxSourceElement *spines = m_product.element().firstChild("spines");
+    const auto ofTable =
+        spines ? spines->childrenNamed("spine") : QVector<const PxSourceElement *>();
     for (const PxSourceElement *spine : ofTable)
-        counts.insert(PxXMLParser::intAttribute(spine->dom, QStringLiteral("pages"), 0));
+        counts.insert(PxXMLParser::intAttribute(spine->dom, "pages", 0));
     QVector<int> sorted(counts.begin(), counts.end());
     std::sort(sorted.begin(), sorted.end());
     return sorted;

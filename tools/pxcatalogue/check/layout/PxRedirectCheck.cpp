@@ -11,15 +11,15 @@ namespace {
 
 QString pagesText(int first, int last)
 {
-    return first == last ? QStringLiteral("page %1").arg(first)
-                         : QStringLiteral("pages %1 to %2").arg(first).arg(last);
+    return first == last ? QString("page %1").arg(first)
+                         : QString("pages %1 to %2").arg(first).arg(last);
 }
 
 /** Which of the attributes that it needs are not there. */
 QStringList missing(const PxSourceElement &redirect)
 {
     QStringList names;
-    for (const QString &name : {QStringLiteral("from"), QStringLiteral("to")}) {
+    for (const char *name : {"from", "to"}) {
         if (!redirect.attribute(name))
             names.append(name);
     }
@@ -33,7 +33,7 @@ bool isUnclear(const PxSourceElement &redirect)
     const QStringList names = missing(redirect);
     return !reading.hasOnlyKnown() &&
            std::none_of(names.begin(), names.end(),
-                        [&](const QString &name) { return reading.isMisspelt(name); });
+                        [&](const QString &name) { return reading.isMisspelt(qPrintable(name)); });
 }
 
 QString missingText(const QStringList &names)
@@ -47,13 +47,13 @@ QString missingText(const QStringList &names)
 void PxRedirectCheck::run()
 {
     const PxSourceElement &product = m_product.element();
-    if (const auto *list = product.firstChild(QStringLiteral("rotationredirects"))) {
-        for (const auto *redirect : list->childrenNamed(QStringLiteral("rotationredirect")))
+    if (const auto *list = product.firstChild("rotationredirects")) {
+        for (const auto *redirect : list->childrenNamed("rotationredirect"))
             checkRotation(*redirect);
     }
-    if (const auto *list = product.firstChild(QStringLiteral("contentredirects"))) {
+    if (const auto *list = product.firstChild("contentredirects")) {
         QVector<Range> ranges;
-        for (const auto *redirect : list->childrenNamed(QStringLiteral("contentredirect")))
+        for (const auto *redirect : list->childrenNamed("contentredirect"))
             checkContent(*redirect, &ranges);
         checkOverlaps(ranges);
     }
@@ -62,24 +62,23 @@ void PxRedirectCheck::run()
 void PxRedirectCheck::checkRotation(const PxSourceElement &redirect) const
 {
     constexpr PxTag tag = PxTag::RotationRedirectIncomplete;
-    const QString now = QStringLiteral("the redirect is left out");
+    const QString now = "the redirect is left out";
     const PxElementReading reading(redirect);
-    if (isUnclear(redirect) || !reading.isReadable(QStringLiteral("from")) ||
-        !reading.isReadable(QStringLiteral("to")))
+    if (isUnclear(redirect) || !reading.isReadable("from") || !reading.isReadable("to"))
         return;
     const QStringList names = missing(redirect);
     if (!names.isEmpty()) {
-        const PxMissingPart part = reading.missing(names.constFirst());
+        const PxMissingPart part = reading.missing(qPrintable(names.constFirst()));
         m_report.add(tag, part.range, missingText(names)).now(now).hint(part.hint);
         return;
     }
-    for (const QString &name : {QStringLiteral("from"), QStringLiteral("to")}) {
+    for (const char *name : {"from", "to"}) {
         if (reading.number(name) < -1) {
             m_report
                 .add(tag, redirect.rangeOf(name),
-                     QStringLiteral("\"%1\" is no page").arg(redirect.value(name)))
+                     QString("\"%1\" is no page").arg(redirect.value(name)))
                 .now(now)
-                .hint(QStringLiteral("pages count from 0; -1 is the only number below"));
+                .hint("pages count from 0; -1 is the only number below");
             return;
         }
     }
@@ -88,29 +87,29 @@ void PxRedirectCheck::checkRotation(const PxSourceElement &redirect) const
 void PxRedirectCheck::checkContent(const PxSourceElement &redirect, QVector<Range> *ranges) const
 {
     const PxElementReading reading(redirect);
-    if (isUnclear(redirect) || !reading.isReadable(QStringLiteral("to")))
+    if (isUnclear(redirect) || !reading.isReadable("to"))
         return;
-    const QString from = redirect.value(QStringLiteral("from"));
-    const PxSourceRange place = redirect.rangeOf(QStringLiteral("from"));
+    const QString from = redirect.value("from");
+    const PxSourceRange place = redirect.rangeOf("from");
     bool hasFirst = false;
     bool hasLast = false;
     const int first = from.section(QLatin1Char('-'), 0, 0).toInt(&hasFirst);
     const int last = from.section(QLatin1Char('-'), -1).toInt(&hasLast);
-    const int target = reading.number(QStringLiteral("to"), -1);
+    const int target = reading.number("to", -1);
     if (!hasFirst || !hasLast || target < 0) {
         checkIncomplete(redirect);
     } else if (first > last) {
         m_report
             .add(PxTag::ContentRedirectReversed, place,
-                 QStringLiteral("the range \"%1\" runs backwards").arg(from))
-            .now(QStringLiteral("nothing is redirected"))
-            .hint(PxSpelling::didYouMean(QStringLiteral("%1-%2").arg(last).arg(first)));
+                 QString("the range \"%1\" runs backwards").arg(from))
+            .now("nothing is redirected")
+            .hint(PxSpelling::didYouMean(QString("%1-%2").arg(last).arg(first)));
     } else if (from.count(QLatin1Char('-')) > 1) {
         m_report
             .add(PxTag::ContentRedirectOdd, place,
-                 QStringLiteral("the range \"%1\" has more than two parts").arg(from))
-            .now(pagesText(first, last) + QStringLiteral(" are redirected to %1").arg(target))
-            .hint(QStringLiteral("write one element for each range"));
+                 QString("the range \"%1\" has more than two parts").arg(from))
+            .now(pagesText(first, last) + QString(" are redirected to %1").arg(target))
+            .hint("write one element for each range");
     } else {
         ranges->append({&redirect, first, last, target});
     }
@@ -119,28 +118,29 @@ void PxRedirectCheck::checkContent(const PxSourceElement &redirect, QVector<Rang
 void PxRedirectCheck::checkIncomplete(const PxSourceElement &redirect) const
 {
     constexpr PxTag tag = PxTag::ContentRedirectIncomplete;
-    const QString now = QStringLiteral("the redirect is left out");
-    const QString hint = QStringLiteral("pages count from 0");
+    const QString now = "the redirect is left out";
+    const QString hint = "pages count from 0";
     const QStringList names = missing(redirect);
-    const QString from = redirect.value(QStringLiteral("from"));
+    const QString from = redirect.value("from");
     const PxMissingPart part =
-        names.isEmpty() ? PxMissingPart() : PxElementReading(redirect).missing(names.constFirst());
+        names.isEmpty() ? PxMissingPart()
+                        : PxElementReading(redirect).missing(qPrintable(names.constFirst()));
     if (!names.isEmpty())
         m_report.add(tag, part.range, missingText(names)).now(now).hint(part.hint);
-    else if (PxElementReading(redirect).number(QStringLiteral("to")) < 0)
+    else if (PxElementReading(redirect).number("to") < 0)
         m_report
-            .add(tag, redirect.rangeOf(QStringLiteral("to")),
-                 QStringLiteral("\"%1\" is no page").arg(redirect.value(QStringLiteral("to"))))
+            .add(tag, redirect.rangeOf("to"),
+                 QString("\"%1\" is no page").arg(redirect.value("to")))
             .now(now)
             .hint(hint);
     else
         m_report
-            .add(tag, redirect.rangeOf(QStringLiteral("from")),
-                 QStringLiteral("\"%1\" is neither a page nor a range of pages").arg(from))
+            .add(tag, redirect.rangeOf("from"),
+                 QString("\"%1\" is neither a page nor a range of pages").arg(from))
             .now(now)
             .hint(from.contains(QLatin1Char(','))
-                      ? QStringLiteral("write one element for each page or range")
-                      : QStringLiteral("write a page such as \"3\" or a range such as \"3-7\""));
+                      ? "write one element for each page or range"
+                      : "write a page such as \"3\" or a range such as \"3-7\"");
 }
 
 /**
@@ -163,10 +163,10 @@ void PxRedirectCheck::checkOverlaps(const QVector<Range> &ranges) const
         const QString pages =
             pagesText(std::max(earlier->first, later.first), std::min(earlier->last, later.last));
         m_report
-            .add(PxTag::ContentRedirectOverlap, later.element->rangeOf(QStringLiteral("from")),
-                 QStringLiteral("%1: also in %2").arg(pages, PxFinding::otherPlaceMark))
+            .add(PxTag::ContentRedirectOverlap, later.element->rangeOf("from"),
+                 QString("%1: also in %2").arg(pages, PxFinding::otherPlaceMark))
             .otherPlace(m_report.file().place(earlier->element->nameRange))
-            .now(QStringLiteral("content goes to page %1, not to page %2")
+            .now(QString("content goes to page %1, not to page %2")
                      .arg(m_product.description().contentDropRedirect(
                          std::max(earlier->first, later.first)))
                      .arg(earlier->target));

@@ -14,17 +14,15 @@ namespace {
 bool isPlain(const PxSourceElement &surrounding)
 {
     const PxElementReading reading(surrounding);
-    return reading.hasOnlyKnown() && reading.isReadable(QStringLiteral("type")) &&
-           reading.isReadable(QStringLiteral("pageType")) &&
-           reading.isReadable(QStringLiteral("alignment")) &&
-           reading.isReadable(QStringLiteral("pageNr"));
+    return reading.hasOnlyKnown() && reading.isReadable("type") && reading.isReadable("pageType") &&
+           reading.isReadable("alignment") && reading.isReadable("pageNr");
 }
 
 QVector<const PxSourceElement *> surroundingElements(const PxSourceElement &product)
 {
     QVector<const PxSourceElement *> elements;
-    for (const PxSourceElement *list : product.childrenNamed(QStringLiteral("surroundings")))
-        elements += list->childrenNamed(QStringLiteral("surrounding"));
+    for (const PxSourceElement *list : product.childrenNamed("surroundings"))
+        elements += list->childrenNamed("surrounding");
     return elements.mid(0, PxCheckLimits::surroundings);
 }
 
@@ -32,7 +30,7 @@ QVector<const PxSourceElement *> surroundingElements(const PxSourceElement &prod
 PxSurroundingDescription withoutFrame(const PxSourceElement &frame)
 {
     QDomElement copy = frame.dom.cloneNode(false).toElement();
-    copy.setAttribute(QStringLiteral("type"), QStringLiteral("BOOK"));
+    copy.setAttribute("type", "BOOK");
     return PxSurroundingDescription(copy);
 }
 
@@ -69,8 +67,7 @@ void PxSurroundingCheck::run()
 void PxSurroundingCheck::checkImage(const Surrounding &surrounding) const
 {
     constexpr PxTag tag = PxTag::SurroundingEmpty;
-    const QString now = QStringLiteral("nothing is painted, and later surroundings of its pages "
-                                       "are not used");
+    const QString now = "nothing is painted, and later surroundings of its pages are not used";
     const PxSourceElement &element = *surrounding.element;
     const PxSurroundingDescription &description = surrounding.description;
     const PxElementRectangle rectangle(element);
@@ -82,13 +79,13 @@ void PxSurroundingCheck::checkImage(const Surrounding &surrounding) const
     if (hasImage && (!isFrame || rectangle.isGiven())) {
         m_report
             .add(tag, rectangle.placeOfFault(),
-                 QStringLiteral("an image without a rectangle: %1").arg(rectangle.fault()))
+                 QString("an image without a rectangle: %1").arg(rectangle.fault()))
             .now(now);
     } else if (!hasImage && !isFrame && !description.hasBindingShade()) {
-        const QString image = QStringLiteral("image");
+        constexpr const char *image = "image";
         m_report
             .add(tag, element.rangeOf(image),
-                 QStringLiteral("a rectangle without an image: \"image\" is %1")
+                 QString("a rectangle without an image: \"image\" is %1")
                      .arg(element.attribute(image) ? QLatin1String("empty")
                                                    : QLatin1String("missing")))
             .now(now);
@@ -103,11 +100,11 @@ void PxSurroundingCheck::checkFrame(const Surrounding &frame) const
         QString attribute;
         bool isIgnored;
     } settings[] = {
-        {QStringLiteral("pageType"), meant.pageTypes() != frame.description.pageTypes()},
+        {"pageType", meant.pageTypes() != frame.description.pageTypes()},
         // "fullpage" is added in silence, too, but that takes nothing away from what is written.
-        {QStringLiteral("alignment"),
+        {"alignment",
          (meant.alignments() | PxPageAlignmentFullPage) != frame.description.alignments()},
-        {QStringLiteral("pageNr"), meant.pageNr() != frame.description.pageNr()},
+        {"pageNr", meant.pageNr() != frame.description.pageNr()},
     };
     QStringList names;
     PxSourceRange place;
@@ -117,16 +114,16 @@ void PxSurroundingCheck::checkFrame(const Surrounding &frame) const
                 continue;
             if (names.isEmpty())
                 place = attribute.nameRange;
-            names.append(QStringLiteral("%1=\"%2\"").arg(attribute.name, attribute.value));
+            names.append(QString("%1=\"%2\"").arg(attribute.name, attribute.value));
         }
     }
     if (names.isEmpty() || !frame.isPlain)
         return;
     m_report
         .add(PxTag::FrameSettingsIgnored, place,
-             QStringLiteral("a FRAME has no %1").arg(names.join(QLatin1String(", no "))))
-        .now(QStringLiteral("it is painted round every page"))
-        .hint(QStringLiteral("for single pages take another type, such as BORDER"));
+             QString("a FRAME has no %1").arg(names.join(QLatin1String(", no "))))
+        .now("it is painted round every page")
+        .hint("for single pages take another type, such as BORDER");
 }
 
 void PxSurroundingCheck::checkUse() const
@@ -196,20 +193,18 @@ void PxSurroundingCheck::reportUnfit(const Surrounding &surrounding) const
 {
     const bool isPinned = surrounding.description.pageNr() != -1;
     const bool hasType = surrounding.description.pageTypes().matches(m_pages.pageTypes().value());
-    const QString attribute = isPinned  ? QStringLiteral("pageNr")
-                              : hasType ? QStringLiteral("alignment")
-                                        : QStringLiteral("pageType");
+    const char *attribute = isPinned ? "pageNr" : hasType ? "alignment" : "pageType";
     const QString value = surrounding.element->value(attribute);
-    QString message = QStringLiteral("the product has no page of type \"%1\"").arg(value);
+    QString message = QString("the product has no page of type \"%1\"").arg(value);
     if (isPinned)
-        message = QStringLiteral("the product has no page %1: its pages are 0 to %2")
+        message = QString("the product has no page %1: its pages are 0 to %2")
                       .arg(value, QString::number(m_pages.lastPage()));
     else if (hasType)
         message = surrounding.element->attribute(attribute)
-                      ? QStringLiteral("no page of these types lies at \"%1\"").arg(value)
-                      : QStringLiteral("no page of these types lies on any of these sides");
+                      ? QString("no page of these types lies at \"%1\"").arg(value)
+                      : "no page of these types lies on any of these sides";
     m_report.add(PxTag::SurroundingUnreachable, surrounding.element->rangeOf(attribute), message)
-        .now(QStringLiteral("it is never painted"));
+        .now("it is never painted");
 }
 
 void PxSurroundingCheck::reportHidden(const Surrounding &surrounding, const Surrounding &by) const
@@ -217,9 +212,8 @@ void PxSurroundingCheck::reportHidden(const Surrounding &surrounding, const Surr
     const QString line = m_report.line(by.element->nameRange);
     m_report
         .add(PxTag::SurroundingUnreachable, surrounding.element->nameRange,
-             QStringLiteral("every page that this is for has an earlier surrounding already"))
-        .now(QStringLiteral("it is never painted, but the one in %1").arg(line))
-        .hint(surrounding.description.pageNr() == -1
-                  ? QString()
-                  : QStringLiteral("put it before %1").arg(line));
+             "every page that this is for has an earlier surrounding already")
+        .now(QString("it is never painted, but the one in %1").arg(line))
+        .hint(surrounding.description.pageNr() == -1 ? QString()
+                                                     : QString("put it before %1").arg(line));
 }

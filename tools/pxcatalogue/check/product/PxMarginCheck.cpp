@@ -6,13 +6,13 @@
 
 namespace {
 
-const QString coverExtraHorizontal = QStringLiteral("coverextrahorizontal");
-const QString coverExtraVertical = QStringLiteral("coverextravertical");
-const QString foldMargin = QStringLiteral("foldmargin");
+constexpr const char *coverExtraHorizontal = "coverextrahorizontal";
+constexpr const char *coverExtraVertical = "coverextravertical";
+constexpr const char *foldMargin = "foldmargin";
 
 QString sizeText(const QSize &size)
 {
-    return QStringLiteral("%1 x %2").arg(size.width()).arg(size.height());
+    return QString("%1 x %2").arg(size.width()).arg(size.height());
 }
 
 } // namespace
@@ -37,44 +37,42 @@ void PxMarginCheck::run()
 
 void PxMarginCheck::checkNegative() const
 {
-    static const QString ourMargins[] = {
-        QStringLiteral("safetymargin"),
-        QStringLiteral("bleedmargin"),
-        QStringLiteral("bleedmarginhorizontal"),
-        QStringLiteral("bleedmarginvertical"),
-        QStringLiteral("bleedmargincover"),
-        QStringLiteral("bleedmargincoverhorizontal"),
-        QStringLiteral("bleedmargincoververtical"),
-        QStringLiteral("normalpagehorizontalclamp"),
+    static constexpr const char *ourMargins[] = {
+        "safetymargin",
+        "bleedmargin",
+        "bleedmarginhorizontal",
+        "bleedmarginvertical",
+        "bleedmargincover",
+        "bleedmargincoverhorizontal",
+        "bleedmargincoververtical",
+        "normalpagehorizontalclamp",
         foldMargin,
     };
     const PxSourceElement &element = m_product.element();
-    for (const QString &margin : ourMargins) {
+    for (const char *margin : ourMargins) {
         const int length = PxElementReading(element).number(margin);
-        const bool isComputed = margin == foldMargin && length == -1;
+        const bool isComputed = qstrcmp(margin, foldMargin) == 0 && length == -1;
         if (length < 0 && !isComputed)
             m_report
                 .add(PxTag::MarginNegative, element.rangeOf(margin),
-                     QStringLiteral("\"%1\" is %2").arg(margin).arg(length))
-                .now(QStringLiteral("the negative length is used as it is"));
+                     QString("\"%1\" is %2").arg(margin).arg(length))
+                .now("the negative length is used as it is");
     }
 }
 
 void PxMarginCheck::checkNegativeIndent() const
 {
-    const PxSourceElement *config =
-        m_product.element().firstChild(QStringLiteral("pageNumberConfig"));
-    const PxSourceElement *margin = config ? config->firstChild(QStringLiteral("margin")) : nullptr;
+    const PxSourceElement *config = m_product.element().firstChild("pageNumberConfig");
+    const PxSourceElement *margin = config ? config->firstChild("margin") : nullptr;
     if (!margin)
         return;
-    for (const QString &name :
-         {QStringLiteral("verticalMargin"), QStringLiteral("horizontalMargin")}) {
+    for (const char *name : {"verticalMargin", "horizontalMargin"}) {
         const int length = PxElementReading(*margin).number(name);
         if (length < 0)
             m_report
                 .add(PxTag::MarginNegative, margin->rangeOf(name),
-                     QStringLiteral("\"%1\" is %2").arg(name).arg(length))
-                .now(QStringLiteral("the page number is printed beyond the edge"));
+                     QString("\"%1\" is %2").arg(name).arg(length))
+                .now("the page number is printed beyond the edge");
     }
 }
 
@@ -83,25 +81,24 @@ void PxMarginCheck::checkExceeding() const
     const PxProductTypeDescription &description = m_product.description();
     const struct
     {
-        QString attribute;
+        const char *attribute;
         qint64 taken;
         int available;
     } rows[] = {
-        {QStringLiteral("safetymargin"), qint64(description.safetyMargin()) * 2,
+        {"safetymargin", qint64(description.safetyMargin()) * 2,
          qMin(m_size.width(), m_size.height())},
         {foldMargin, description.foldMargin(), m_size.width()},
-        {QStringLiteral("normalpagehorizontalclamp"), description.normalPageHorizontalClamp(),
-         m_size.width()},
+        {"normalpagehorizontalclamp", description.normalPageHorizontalClamp(), m_size.width()},
     };
     for (const auto &row : rows) {
         if (row.taken >= row.available)
             m_report
                 .add(PxTag::MarginExceedsPage, m_product.element().rangeOf(row.attribute),
-                     QStringLiteral("\"%1\" takes %2 of a page %3")
+                     QString("\"%1\" takes %2 of a page %3")
                          .arg(row.attribute)
                          .arg(row.taken)
                          .arg(sizeText(m_size)))
-                .now(QStringLiteral("nothing of the page is left"));
+                .now("nothing of the page is left");
     }
 }
 
@@ -128,10 +125,9 @@ void PxMarginCheck::checkCover() const
     if (cover.height() < m_size.height())
         m_report
             .add(PxTag::CoverSmallerThanPage, m_product.element().rangeOf(coverExtraVertical),
-                 QStringLiteral("a cover that is %1 lower than the page")
+                 QString("a cover that is %1 lower than the page")
                      .arg(qint64(m_size.height()) - cover.height()))
-            .now(QStringLiteral("a cover half is %1, a page %2")
-                     .arg(sizeText(cover), sizeText(m_size)));
+            .now(QString("a cover half is %1, a page %2").arg(sizeText(cover), sizeText(m_size)));
 }
 
 void PxMarginCheck::checkCoverWidth() const
@@ -143,11 +139,11 @@ void PxMarginCheck::checkCoverWidth() const
         return;
     const int extra = reading.number(coverExtraHorizontal);
     const QString now =
-        QStringLiteral("a cover half is %1, a page %2").arg(sizeText(cover), sizeText(m_size));
+        QString("a cover half is %1, a page %2").arg(sizeText(cover), sizeText(m_size));
     if (extra < 0)
         m_report
             .add(PxTag::CoverSmallerThanPage, element.rangeOf(coverExtraHorizontal),
-                 QStringLiteral("a cover that is %1 narrower than the page")
+                 QString("a cover that is %1 narrower than the page")
                      .arg(qint64(m_size.width()) - cover.width()))
             .now(now);
     else
@@ -161,9 +157,9 @@ void PxMarginCheck::addAdjustment(int extra, const QString &now) const
         qint64(m_size.width()) + extra - m_product.description().coverSize().width();
     m_report
         .add(PxTag::SpineAdjusted, m_product.element().rangeOf(coverExtraHorizontal),
-             QStringLiteral("the spine takes %1 from a cover half that is %2 wider than a page")
+             QString("the spine takes %1 from a cover half that is %2 wider than a page")
                  .arg(taken)
                  .arg(extra))
         .now(now)
-        .hint(QStringLiteral("make it %1 wider at least").arg(taken));
+        .hint(QString("make it %1 wider at least").arg(taken));
 }

@@ -37,7 +37,7 @@ QString hintFor(const QString &text, bool isRangeMissing)
     const bool areTypes = std::all_of(
         words.begin(), words.end(), [](const QString &word) { return !PxPageType(word).isNull(); });
     if (words.size() > 1 && areTypes)
-        return QStringLiteral("separate pages with commas");
+        return "separate pages with commas";
     const QString name = meant(text, isRangeMissing);
     return name.isEmpty() ? QString() : PxSpelling::didYouMean(name);
 }
@@ -74,9 +74,8 @@ void PxPagesCheck::checkPresence() const
     // One normal page is just what many a small product has.
     if (!hasSeveralPages())
         return;
-    const PxMissingPart pages =
-        PxElementReading(m_product.element()).missingChild(QStringLiteral("pages"));
-    m_report.add(PxTag::PagesMissing, pages.range, QStringLiteral("the product has no \"pages\""))
+    const PxMissingPart pages = PxElementReading(m_product.element()).missingChild("pages");
+    m_report.add(PxTag::PagesMissing, pages.range, "the product has no \"pages\"")
         .now(nowWithoutPages())
         .hint(pages.hint);
 }
@@ -84,7 +83,7 @@ void PxPagesCheck::checkPresence() const
 /** What becomes of a product that lists no page. */
 QString PxPagesCheck::nowWithoutPages() const
 {
-    return QStringLiteral("the product has %1 page, and no cover")
+    return QString("the product has %1 page, and no cover")
         .arg(m_product.description().pageTypes(1).size());
 }
 
@@ -94,13 +93,11 @@ QString PxPagesCheck::nowWithout(const PxPageEntry &entry) const
     if (!m_pages.hasPage())
         return nowWithoutPages();
     if (isRangeMissing())
-        return QStringLiteral("it is left out, and the book has %1 pages, whatever page count is "
-                              "ordered")
+        return QString("it is left out, and the book has %1 pages, whatever page count is ordered")
             .arg(m_product.description().pageTypes(1).size());
     const bool isLast = std::all_of(&entry + 1, m_pages.read().end(),
                                     [](const PxPageEntry &next) { return next.type.isNull(); });
-    return isLast ? QStringLiteral("it is left out")
-                  : QStringLiteral("it is left out, and the pages behind it move up");
+    return isLast ? "it is left out" : "it is left out, and the pages behind it move up";
 }
 
 bool PxPagesCheck::isRangeMissing() const
@@ -126,38 +123,34 @@ void PxPagesCheck::checkCount() const
         return;
     m_report
         .add(PxTag::PagesTooMany, m_pages.firstDropped(),
-             QStringLiteral("a list of %1 pages")
-                 .arg(m_pages.read().size() + m_pages.droppedCount()))
-        .now(QStringLiteral("the first %1 are used").arg(m_pages.read().size()))
-        .hint(QStringLiteral("write \"normalpages\" for all normal pages"));
+             QString("a list of %1 pages").arg(m_pages.read().size() + m_pages.droppedCount()))
+        .now(QString("the first %1 are used").arg(m_pages.read().size()))
+        .hint("write \"normalpages\" for all normal pages");
 }
 
 void PxPagesCheck::checkEntry(const PxPageEntry &entry) const
 {
     if (entry.text.isEmpty()) {
         const PxMissingPart text =
-            PxElementReading(*m_product.element().firstChild(QStringLiteral("pages")))
-                .missingText();
+            PxElementReading(*m_product.element().firstChild("pages")).missingText();
         m_report
             .add(PxTag::PagesEntryEmpty, text.hint.isEmpty() ? entry.range : text.range,
-                 m_pages.read().size() == 1 ? QStringLiteral("the list of pages is empty")
-                                            : QStringLiteral("an empty entry in the list of pages"))
-            .now(m_pages.hasPage() ? QStringLiteral("it is left out, with a warning each time")
-                                   : nowWithoutPages())
+                 m_pages.read().size() == 1 ? "the list of pages is empty"
+                                            : "an empty entry in the list of pages")
+            .now(m_pages.hasPage() ? "it is left out, with a warning each time" : nowWithoutPages())
             .hint(text.hint);
     } else if (entry.type.isNull()) {
         m_report
             .add(PxTag::PagesEntryUnknown, entry.range,
-                 QStringLiteral("\"%1\" is no type of page").arg(entry.text))
+                 QString("\"%1\" is no type of page").arg(entry.text))
             .now([&] { return nowWithout(entry); })
             .hint([&] { return hintFor(entry.text, isRangeMissing()); });
     } else if (entry.isUnion()) {
         m_report
             .add(PxTag::PageTypeUnion, entry.range,
-                 QStringLiteral("\"%1\" is several types of page at once").arg(entry.text))
-            .now(QStringLiteral("the product has one page that is all of: %1")
-                     .arg(entry.type.encodeCSV()))
-            .hint(QStringLiteral("name the type of this page"));
+                 QString("\"%1\" is several types of page at once").arg(entry.text))
+            .now(QString("the product has one page that is all of: %1").arg(entry.type.encodeCSV()))
+            .hint("name the type of this page");
     }
 }
 
@@ -169,10 +162,10 @@ bool PxPagesCheck::checkCoverPosition() const
         return true;
     m_report
         .add(PxTag::CoverNotFirst, cover->range,
-             QStringLiteral("a cover, but the list begins with \"%1\"")
+             QString("a cover, but the list begins with \"%1\"")
                  .arg(m_pages.read().constFirst().text))
-        .now(QStringLiteral("the product counts as one without cover"))
-        .hint(QStringLiteral("begin with the cover"));
+        .now("the product counts as one without cover")
+        .hint("begin with the cover");
     return false;
 }
 
@@ -185,9 +178,9 @@ void PxPagesCheck::checkSpinePosition() const
             alignment != PxPageAlignmentMiddle && alignment != PxPageAlignmentCenter)
             m_report
                 .add(PxTag::SpineNotSecond, entry.range,
-                     QStringLiteral("a spine that is not the second of the pages"))
-                .now(QStringLiteral("page 1 is the one that lies in the middle"))
-                .hint(QStringLiteral("begin with back cover, spine, front cover"));
+                     "a spine that is not the second of the pages")
+                .now("page 1 is the one that lies in the middle")
+                .hint("begin with back cover, spine, front cover");
         page += entry.isRange() ? 2 : 1; // two stand for many
     }
 }
@@ -198,8 +191,7 @@ void PxPagesCheck::checkRange() const
         return;
     m_report
         .add(PxTag::PagesRangeMissing, m_pages.read().constFirst().range,
-             QStringLiteral("a book whose list of pages has no \"normalpages\""))
-        .now(QStringLiteral("it has %1 pages, whatever page count is ordered")
-                 .arg(m_pages.read().size()))
-        .hint(QStringLiteral("write \"normalpages\" where the pages of the book are"));
+             "a book whose list of pages has no \"normalpages\"")
+        .now(QString("it has %1 pages, whatever page count is ordered").arg(m_pages.read().size()))
+        .hint("write \"normalpages\" where the pages of the book are");
 }

@@ -30,14 +30,12 @@ void PxProductCheck::run()
 void PxProductCheck::checkName() const
 {
     const PxSourceElement &element = m_product.element();
-    const QString attribute = QStringLiteral("name");
+    constexpr const char *attribute = "name";
     const QString name = element.value(attribute);
-    const QString now = QStringLiteral("the file is skipped without a word");
+    const QString now = "the file is skipped without a word";
     const PxMissingPart missing = PxElementReading(element).missing(attribute);
     if (name.trimmed().isEmpty())
-        m_report
-            .add(PxTag::ProductNameMissing, missing.range,
-                 QStringLiteral("the product has no name"))
+        m_report.add(PxTag::ProductNameMissing, missing.range, "the product has no name")
             .now(now)
             .hint(missing.hint);
     else if (isUnsafeForFile(name))
@@ -46,28 +44,27 @@ void PxProductCheck::checkName() const
     else if (!m_product.type().isValid() && !m_types.isEmpty() && !m_types.isListed(name))
         m_report
             .add(PxTag::ProductNameUnknown, element.rangeOf(attribute),
-                 QStringLiteral("there is no product type \"%1\"").arg(name))
+                 QString("there is no product type \"%1\"").arg(name))
             .now(now)
             .hint([&] { return m_types.hint(name); });
     else if (!m_product.type().isValid() && !m_types.isEmpty() && !m_types.isChecked())
         m_report
             .add(PxTag::ProductNameUnknown, element.rangeOf(attribute),
-                 QStringLiteral("the row of \"%1\" in producttypes.xml is left out").arg(name))
+                 QString("the row of \"%1\" in producttypes.xml is left out").arg(name))
             .now(now)
-            .hint(QStringLiteral("check producttypes.xml"));
+            .hint("check producttypes.xml");
 }
 
 void PxProductCheck::checkNameOfFile() const
 {
-    const QString attribute = QStringLiteral("name");
+    constexpr const char *attribute = "name";
     m_report
         .add(PxTag::NameUnsafeForFile, m_product.element().rangeOf(attribute),
-             QStringLiteral("\"%1\" cannot name a file").arg(m_product.element().value(attribute)))
+             QString("\"%1\" cannot name a file").arg(m_product.element().value(attribute)))
         .now(m_product.type().isValid()
-                 ? QStringLiteral(
-                       "the user's default templates are looked for in a file of this name")
-                 : QStringLiteral("the file is skipped: there is no such product type"))
-        .hint(QStringLiteral("use letters, digits and underscores only"));
+                 ? "the user's default templates are looked for in a file of this name"
+                 : "the file is skipped: there is no such product type")
+        .hint("use letters, digits and underscores only");
 }
 
 void PxProductCheck::checkCounts() const
@@ -76,40 +73,39 @@ void PxProductCheck::checkCounts() const
     const PxProductTypeDescription &description = m_product.description();
     if (description.explicitNumberOfProducts() <= 0)
         m_report
-            .add(PxTag::ProductCountZero, element.rangeOf(QStringLiteral("numOfProducts")),
-                 QStringLiteral("a product that consists of %1 pieces")
+            .add(PxTag::ProductCountZero, element.rangeOf("numOfProducts"),
+                 QString("a product that consists of %1 pieces")
                      .arg(description.explicitNumberOfProducts()))
-            .now(QStringLiteral("the pages of one piece cannot be computed"))
-            .hint(QStringLiteral("leave it out for a single piece"));
+            .now("the pages of one piece cannot be computed")
+            .hint("leave it out for a single piece");
     constexpr auto counted = static_cast<PxProductClass>(PxProductClassGift | PxProductClassCard |
                                                          PxProductClassDecoration);
     const int pageCount = description.explicitNumberOfNormalPages();
     if (pageCount <= 0 && m_product.type().isProductClass(counted))
         m_report
-            .add(PxTag::PageCountNotPositive, element.rangeOf(QStringLiteral("numOfNormalPages")),
-                 QStringLiteral("a product of %1 normal pages").arg(pageCount))
-            .now(QStringLiteral("the page count is %1").arg(unsigned(pageCount)))
-            .hint(QStringLiteral("leave it out for a single page"));
+            .add(PxTag::PageCountNotPositive, element.rangeOf("numOfNormalPages"),
+                 QString("a product of %1 normal pages").arg(pageCount))
+            .now(QString("the page count is %1").arg(unsigned(pageCount)))
+            .hint("leave it out for a single page");
 }
 
 void PxProductCheck::checkAlignmentStyle() const
 {
     // The library asks for them in this order.
-    static const QString ourStyles[] = {QStringLiteral("cardStyleAlignment"),
-                                        QStringLiteral("varioSingleCardStyleAlignment"),
-                                        QStringLiteral("collegeBlockStyleAlignment")};
+    static constexpr const char *ourStyles[] = {
+        "cardStyleAlignment", "varioSingleCardStyleAlignment", "collegeBlockStyleAlignment"};
     const PxSourceElement &element = m_product.element();
-    QString first;
-    for (const QString &style : ourStyles) {
+    const char *first = nullptr;
+    for (const char *style : ourStyles) {
         if (!PxXMLParser::boolAttribute(element.dom, style, false))
             continue;
-        if (first.isEmpty())
+        if (!first)
             first = style;
         else
             m_report
                 .add(PxTag::AlignmentStyleShadowed, element.rangeOf(style),
-                     QStringLiteral("\"%1\" is true beside \"%2\"").arg(style, first))
-                .now(QStringLiteral("\"%1\" counts, \"%2\" is not read").arg(first, style))
-                .hint(QStringLiteral("keep the one that is meant"));
+                     QString("\"%1\" is true beside \"%2\"").arg(style, first))
+                .now(QString("\"%1\" counts, \"%2\" is not read").arg(first, style))
+                .hint("keep the one that is meant");
     }
 }

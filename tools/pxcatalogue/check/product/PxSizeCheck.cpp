@@ -9,10 +9,10 @@
 
 namespace {
 
-const QString width = QStringLiteral("width");
-const QString height = QStringLiteral("height");
-const QString orientation = QStringLiteral("orientation");
-const QString space = QStringLiteral("space");
+constexpr const char *width = "width";
+constexpr const char *height = "height";
+constexpr const char *orientation = "orientation";
+constexpr const char *space = "space";
 
 /** The longer side is more than numerator/denominator of the shorter one. */
 bool isLonger(qint64 side, qint64 other, int numerator, int denominator)
@@ -83,7 +83,7 @@ double areaOf(const QSize &size)
 PxSizeCheck::PxSizeCheck(const PxCheckedProduct &product, const PxReporter &report)
     : m_product(product)
     , m_report(report)
-    , m_usableSize(product.element().firstChild(QStringLiteral("usablesize")))
+    , m_usableSize(product.element().firstChild("usablesize"))
     , m_size(product.description().usablePrintSize(PxPageTypeNormalPage, 0))
 {}
 
@@ -102,58 +102,54 @@ void PxSizeCheck::run()
 
 void PxSizeCheck::checkPresence() const
 {
-    const QString now = QStringLiteral("the product is never offered");
+    const QString now = "the product is never offered";
     if (!m_usableSize) {
-        const PxMissingPart size =
-            PxElementReading(m_product.element()).missingChild(QStringLiteral("usablesize"));
-        m_report
-            .add(PxTag::SizeMissing, size.range,
-                 QStringLiteral("the product has no \"usablesize\""))
+        const PxMissingPart size = PxElementReading(m_product.element()).missingChild("usablesize");
+        m_report.add(PxTag::SizeMissing, size.range, "the product has no \"usablesize\"")
             .now(now)
             .hint(size.hint);
         return;
     }
     QStringList missing;
-    for (const QString &side : {width, height}) {
+    for (const char *side : {width, height}) {
         if (!m_usableSize->attribute(side))
             missing.append(side);
     }
     if (missing.isEmpty())
         return;
-    const PxMissingPart side = PxElementReading(*m_usableSize).missing(missing.constFirst());
+    const PxMissingPart side =
+        PxElementReading(*m_usableSize).missing(qPrintable(missing.constFirst()));
     m_report
         .add(PxTag::SizeMissing, side.range,
-             QStringLiteral("the size has no %1")
-                 .arg(PxMessageText::quotedList(missing, QStringLiteral(" and no "))))
+             QString("the size has no %1").arg(PxMessageText::quotedList(missing, " and no ")))
         .now(now)
         .hint(side.hint);
 }
 
 void PxSizeCheck::checkArea() const
 {
-    for (const QString &side : {width, height}) {
+    for (const char *side : {width, height}) {
         const PxElementReading reading(*m_usableSize);
         const int length = reading.number(side);
         if (!reading.isNumber(side) || length > 0)
             continue;
         const PxSourceRange range = m_usableSize->rangeOf(side);
         if (m_product.description().isValid())
-            m_report
-                .add(PxTag::SizeNotPositive, range, QStringLiteral("a page of the %1 0").arg(side))
-                .now(QStringLiteral("the product is offered, with pages of %1 x %2")
+            m_report.add(PxTag::SizeNotPositive, range, QString("a page of the %1 0").arg(side))
+                .now(QString("the product is offered, with pages of %1 x %2")
                          .arg(m_size.width())
                          .arg(m_size.height()));
         else if (length < 0)
             m_report
                 .add(PxTag::ProductNotOffered, range,
-                     QStringLiteral("a page of the %1 %2").arg(side).arg(length))
-                .now(QStringLiteral("the product is never offered, as it has no valid size"));
+                     QString("a page of the %1 %2").arg(side).arg(length))
+                .now("the product is never offered, as it has no valid size");
         else if (m_size.isValid())
             m_report
                 .add(PxTag::ProductNotOffered, range,
-                     QStringLiteral("a page of the %1 0, and no orientation").arg(side))
-                .now(QStringLiteral("the product is never offered, as no orientation follows "
-                                    "from a size without area"));
+                     QString("a page of the %1 0, and no orientation").arg(side))
+                .now("the product is never offered, as no orientation follows from a size without "
+                     "area");
         return;
     }
 }
@@ -161,13 +157,13 @@ void PxSizeCheck::checkArea() const
 void PxSizeCheck::checkShadowing() const
 {
     const PxSourceElement &element = m_product.element();
-    const auto add = [&](const QString &name) {
+    const auto add = [&](const char *name) {
         m_report
             .add(PxTag::SizeAttributeShadowed, element.rangeOf(name),
-                 QStringLiteral("\"%1\" of the product differs from that of its size").arg(name))
-            .now(QStringLiteral("\"%1\" in %2 is used")
+                 QString("\"%1\" of the product differs from that of its size").arg(name))
+            .now(QString("\"%1\" in %2 is used")
                      .arg(m_usableSize->value(name), m_report.line(m_usableSize->rangeOf(name))))
-            .hint(QStringLiteral("keep the one that is meant"));
+            .hint("keep the one that is meant");
     };
     const PxOrientation ownOrientation(element.value(orientation));
     const PxOrientation sizeOrientation(m_usableSize->value(orientation));
@@ -197,12 +193,12 @@ bool PxSizeCheck::checkOrientation() const
         meant = PxOrientation(PxOrientationPanorama);
     m_report
         .add(PxTag::OrientationContradictsSize, place.rangeOf(orientation),
-             QStringLiteral("%1, but the page is %2 x %3")
+             QString("%1, but the page is %2 x %3")
                  .arg(used.encodeCSV())
                  .arg(m_size.width())
                  .arg(m_size.height()))
-        .now(QStringLiteral("%1 is used, whatever the size").arg(used.encodeCSV()))
-        .hint(QStringLiteral("did you mean \"%1\", or is the size wrong?").arg(meant.encodeCSV()));
+        .now(QString("%1 is used, whatever the size").arg(used.encodeCSV()))
+        .hint(QString("did you mean \"%1\", or is the size wrong?").arg(meant.encodeCSV()));
     return false;
 }
 
@@ -228,9 +224,8 @@ void PxSizeCheck::checkSpace() const
         m_usableSize->value(space).isEmpty() ? m_product.element() : *m_usableSize;
     m_report
         .add(PxTag::SpaceContradictsSize, place.rangeOf(space),
-             QStringLiteral("%1, but the page has %2 cm²").arg(used.encodeCSV()).arg(qRound(area)))
-        .now(QStringLiteral("templates and type sizes of \"%1\" are used")
-                 .arg(used.humanReadableName()))
+             QString("%1, but the page has %2 cm²").arg(used.encodeCSV()).arg(qRound(area)))
+        .now(QString("templates and type sizes of \"%1\" are used").arg(used.humanReadableName()))
         .hint(PxSpelling::didYouMean(PxSpaceMagnitude(nearest->value).encodeCSV()));
 }
 
@@ -248,13 +243,13 @@ void PxSizeCheck::addOtherUnit(int namedArea) const
     const QSize meant = isSmaller ? m_size * 10 : m_size / 10;
     m_report
         .add(PxTag::SizeInOtherUnit, m_usableSize->rangeOf(width),
-             QStringLiteral("%1 x %2 is ten times %3 than \"%4\" says")
+             QString("%1 x %2 is ten times %3 than \"%4\" says")
                  .arg(m_size.width())
                  .arg(m_size.height())
                  .arg(isSmaller ? QLatin1String("smaller") : QLatin1String("larger"))
                  .arg(m_product.description().spaceMagnitude().encodeCSV()))
-        .now(QStringLiteral("the size is taken as it is"))
-        .hint(QStringLiteral("lengths are in tenths of a millimetre: %1 x %2?")
+        .now("the size is taken as it is")
+        .hint(QString("lengths are in tenths of a millimetre: %1 x %2?")
                   .arg(meant.width())
                   .arg(meant.height()));
 }

@@ -11,9 +11,9 @@
 
 namespace {
 
-const QString pagesName = QStringLiteral("pages");
-const QString width = QStringLiteral("width");
-const QString maxFontHeight = QStringLiteral("maxfontheight");
+constexpr const char *pagesName = "pages";
+constexpr const char *width = "width";
+constexpr const char *maxFontHeight = "maxfontheight";
 
 int widthOf(const PxSourceElement &spine)
 {
@@ -34,7 +34,7 @@ PxSpineCheck::PxSpineCheck(const PxCheckedProduct &product, const PxPageEntries 
     : m_product(product)
     , m_pages(pages)
     , m_report(report)
-    , m_table(product.element().firstChild(QStringLiteral("spines")))
+    , m_table(product.element().firstChild("spines"))
 {}
 
 void PxSpineCheck::run()
@@ -56,7 +56,7 @@ void PxSpineCheck::readTable()
 {
     if (!m_table)
         return;
-    for (const PxSourceElement *spine : m_table->childrenNamed(QStringLiteral("spine"))) {
+    for (const PxSourceElement *spine : m_table->childrenNamed("spine")) {
         ++m_rowCount;
         readPageCount(*spine);
     }
@@ -82,10 +82,9 @@ void PxSpineCheck::readPageCount(const PxSourceElement &spine)
     const PxMissingPart missing = reading.missing(pagesName);
     m_report
         .add(PxTag::SpinePagesMissing, missing.range,
-             reading.isGiven(pagesName) ? QStringLiteral("a spine for %1 pages").arg(pageCount)
-                                        : QStringLiteral("a spine without a page count"))
-        .now(
-            QStringLiteral("the smallest page count is %1").arg(m_product.description().minPages()))
+             reading.isGiven(pagesName) ? QString("a spine for %1 pages").arg(pageCount)
+                                        : "a spine without a page count")
+        .now(QString("the smallest page count is %1").arg(m_product.description().minPages()))
         .hint(missing.hint);
 }
 
@@ -94,13 +93,13 @@ void PxSpineCheck::addTwice(const PxSourceElement &spine, int pageCount) const
     const PxSourceElement &earlier = *m_spines.value(pageCount);
     m_report
         .add(PxTag::SpinePagesTwice, spine.rangeOf(pagesName),
-             QStringLiteral("a second spine for %1 pages, %2 wide; the one in %3 is %4")
+             QString("a second spine for %1 pages, %2 wide; the one in %3 is %4")
                  .arg(QString::number(pageCount), QString::number(widthOf(spine)),
                       PxFinding::otherPlaceMark, QString::number(widthOf(earlier))))
         .otherPlace(m_report.file().place(earlier.rangeOf(pagesName)))
-        .now(QStringLiteral("the later one is used, as a spine of %1")
+        .now(QString("the later one is used, as a spine of %1")
                  .arg(m_product.description().spineWidth(pageCount)))
-        .hint(QStringLiteral("keep the one that is meant"));
+        .hint("keep the one that is meant");
 }
 
 void PxSpineCheck::checkPresence() const
@@ -109,16 +108,16 @@ void PxSpineCheck::checkPresence() const
         return;
     const PxMissingPart missing =
         m_table ? PxElementReading(*m_table).missingEntries()
-                : PxElementReading(m_product.element()).missingChild(QStringLiteral("spines"));
+                : PxElementReading(m_product.element()).missingChild("spines");
     m_report
         .add(PxTag::BookWithoutPageCounts, missing.range,
-             m_table ? QStringLiteral("the \"spines\" of this book hold no \"spine\"")
-                     : QStringLiteral("a book without \"spines\""))
-        .now(QStringLiteral("its page counts go from %1 to %2")
+             m_table ? "the \"spines\" of this book hold no \"spine\""
+                     : "a book without \"spines\"")
+        .now(QString("its page counts go from %1 to %2")
                  .arg(m_product.description().minPages())
                  .arg(m_product.description().maxPages()))
-        .hint(missing.hintOr(QStringLiteral("add a \"spine\" for each page count, with the width 0 "
-                                            "when none is printed")));
+        .hint(missing.hintOr(
+            "add a \"spine\" for each page count, with the width 0 when none is printed"));
 }
 
 void PxSpineCheck::checkLength() const
@@ -126,10 +125,10 @@ void PxSpineCheck::checkLength() const
     if (m_rowCount < 3)
         m_report
             .add(PxTag::SpineTableShort, m_table->nameRange,
-                 QStringLiteral("a book with %1 page counts").arg(m_rowCount))
-            .now(QStringLiteral("the step between its page counts is %1")
+                 QString("a book with %1 page counts").arg(m_rowCount))
+            .now(QString("the step between its page counts is %1")
                      .arg(m_product.description().pageIncrement()))
-            .hint(QStringLiteral("give three page counts or more"));
+            .hint("give three page counts or more");
 }
 
 /** The step that most page counts have; of two the one that the library takes. */
@@ -167,18 +166,18 @@ void PxSpineCheck::checkSteps() const
         if (step != usual && step != before && !isBackInStep)
             m_report
                 .add(PxTag::SpineStepsIrregular, it.value()->rangeOf(pagesName),
-                     QStringLiteral("%1 pages after %2, where most steps are %3")
+                     QString("%1 pages after %2, where most steps are %3")
                          .arg(it.key())
                          .arg(smaller)
                          .arg(usual))
-                .now(QStringLiteral("the page counts go from %1 to %2 in steps of %3")
+                .now(QString("the page counts go from %1 to %2 in steps of %3")
                          .arg(m_product.description().minPages())
                          .arg(m_product.description().maxPages())
                          .arg(m_product.description().pageIncrement()) +
                      nowWithoutSpine(smaller, it.key()))
                 .hint(std::next(it).key() == wanted + usual
                           ? PxSpelling::didYouMean(QString::number(wanted))
-                      : step > usual ? QStringLiteral("add a spine for %1 pages").arg(wanted)
+                      : step > usual ? QString("add a spine for %1 pages").arg(wanted)
                                      : QString());
         isRegular = isRegular && step == usual;
         before = isBackInStep ? usual : step;
@@ -195,7 +194,7 @@ QString PxSpineCheck::nowWithoutSpine(int smaller, int larger) const
     const PxProductTypeDescription &book = m_product.description();
     const qint64 between = qint64(smaller) + book.pageIncrement();
     return between < larger && hasWidth() && (between - book.minPages()) % book.pageIncrement() == 0
-               ? QStringLiteral("; the spine for %1 pages is %2 wide")
+               ? QString("; the spine for %1 pages is %2 wide")
                      .arg(between)
                      .arg(book.spineWidth(int(between)))
                : QString();
@@ -211,18 +210,18 @@ void PxSpineCheck::checkLastStep(int usual) const
         return;
     m_report
         .add(PxTag::SpineLastStepLong, last.value()->rangeOf(pagesName),
-             QStringLiteral("%1 pages after %2, where other steps are %3")
+             QString("%1 pages after %2, where other steps are %3")
                  .arg(last.key())
                  .arg(smaller)
                  .arg(usual))
-        .now(hasWidth() ? QStringLiteral("the spine for %1 pages is %2 wide")
+        .now(hasWidth() ? QString("the spine for %1 pages is %2 wide")
                               .arg(smaller + usual)
                               .arg(m_product.description().spineWidth(smaller + usual))
-                        : QStringLiteral("the page counts go from %1 to %2 in steps of %3")
+                        : QString("the page counts go from %1 to %2 in steps of %3")
                               .arg(m_product.description().minPages())
                               .arg(m_product.description().maxPages())
                               .arg(m_product.description().pageIncrement()))
-        .hint(QStringLiteral("add a spine for %1 pages").arg(smaller + usual));
+        .hint(QString("add a spine for %1 pages").arg(smaller + usual));
 }
 
 bool PxSpineCheck::hasWidth() const
@@ -244,9 +243,9 @@ void PxSpineCheck::checkWidths() const
         if (own <= 0) {
             m_report
                 .add(PxTag::SpineWidthMissing, spine.rangeOf(width),
-                     spine.attribute(width) ? QStringLiteral("a spine of the width %1").arg(own)
-                                            : QStringLiteral("a spine without a width"))
-                .now(QStringLiteral("the spine for %1 pages is %2 wide")
+                     spine.attribute(width) ? QString("a spine of the width %1").arg(own)
+                                            : "a spine without a width")
+                .now(QString("the spine for %1 pages is %2 wide")
                          .arg(it.key())
                          .arg(m_product.description().spineWidth(it.key())));
             continue;
@@ -255,13 +254,13 @@ void PxSpineCheck::checkWidths() const
         if (own < other && m_isComplete)
             m_report
                 .add(PxTag::SpineWidthFalls, spine.rangeOf(width),
-                     QStringLiteral("a spine of %1 for %2 pages, but one of %3 for fewer in %4")
+                     QString("a spine of %1 for %2 pages, but one of %3 for fewer in %4")
                          .arg(own)
                          .arg(it.key())
                          .arg(other)
                          .arg(PxFinding::otherPlaceMark))
                 .otherPlace(m_report.file().place(narrower->rangeOf(width)))
-                .now(QStringLiteral("the spine for %1 pages is %2 wide")
+                .now(QString("the spine for %1 pages is %2 wide")
                          .arg(it.key())
                          .arg(m_product.description().spineWidth(it.key())));
         narrower = &spine;
@@ -277,10 +276,10 @@ void PxSpineCheck::checkTextHeights() const
         if (widthOf(*it.value()) > 0 && height > spineWidth)
             m_report
                 .add(PxTag::SpineTextTooHigh, it.value()->rangeOf(maxFontHeight),
-                     QStringLiteral("type of the height %1 on a spine of %2")
+                     QString("type of the height %1 on a spine of %2")
                          .arg(height)
                          .arg(widthOf(*it.value())))
-                .now(QStringLiteral("type may be %1 high on a spine that is %2 wide")
+                .now(QString("type may be %1 high on a spine that is %2 wide")
                          .arg(height)
                          .arg(spineWidth));
     }
@@ -288,7 +287,7 @@ void PxSpineCheck::checkTextHeights() const
 
 void PxSpineCheck::checkSellingPages() const
 {
-    const QString attribute = QStringLiteral("defaultSellingPages");
+    constexpr const char *attribute = "defaultSellingPages";
     const int pageCount = m_product.description().defaultSellingPages();
     if (!PxElementReading(m_product.element()).isNumber(attribute) || pageCount == -1 ||
         m_spines.contains(pageCount))
@@ -301,11 +300,11 @@ void PxSpineCheck::checkSellingPages() const
         near.append(QString::number(next.key()));
     m_report
         .add(PxTag::SellingPagesNotOffered, m_product.element().rangeOf(attribute),
-             QStringLiteral("%1 is no page count of \"spines\"").arg(pageCount))
-        .now(QStringLiteral("a new book has %1 pages, and a spine of %2")
+             QString("%1 is no page count of \"spines\"").arg(pageCount))
+        .now(QString("a new book has %1 pages, and a spine of %2")
                  .arg(pageCount)
                  .arg(m_product.description().spineWidth(pageCount)))
-        .hint(QStringLiteral("the nearest: %1").arg(near.join(QStringLiteral(", "))));
+        .hint(QString("the nearest: %1").arg(near.join(", ")));
 }
 
 void PxSpineCheck::checkSpinePage() const
@@ -319,23 +318,23 @@ void PxSpineCheck::checkSpinePage() const
         });
     const PxElementReading product(m_product.element());
     const PxMissingPart missing = m_spines.isEmpty()
-                                      ? product.missingChild(QStringLiteral("spines"))
+                                      ? product.missingChild("spines")
                                       : PxElementReading(*m_spines.first()).missing(width);
     const PxPageEntry *spinePage = m_pages.spine();
     if (spinePage && !hasWidth() && isEveryWidthKnown && !isBookWithoutTable)
         m_report
             .add(PxTag::SpinePageWithoutTable,
                  missing.hint.isEmpty() ? spinePage->range : missing.range,
-                 QStringLiteral("a spine among the pages, but no width in \"spines\""))
-            .now(QStringLiteral("the spine is %1 wide")
+                 "a spine among the pages, but no width in \"spines\"")
+            .now(QString("the spine is %1 wide")
                      .arg(m_product.description().spineWidth(
                          m_spines.isEmpty() ? 0 : m_spines.firstKey())))
-            .hint(missing.hintOr(QStringLiteral("give its width, or take the spine out")));
+            .hint(missing.hintOr("give its width, or take the spine out"));
     if (m_pages.isGiven() && m_pages.isSound() && !m_product.description().hasSpine() && hasWidth())
         m_report
             .add(PxTag::SpineWithoutPage, m_table->nameRange,
-                 QStringLiteral("spines with a width, but \"pages\" lists no spine"))
-            .now(QStringLiteral("the product has no spine; a cover half is %1 wide")
+                 "spines with a width, but \"pages\" lists no spine")
+            .now(QString("the product has no spine; a cover half is %1 wide")
                      .arg(m_product.description().coverSize().width()))
-            .hint(QStringLiteral("add \"spine\" to the pages, or give the width 0"));
+            .hint("add \"spine\" to the pages, or give the width 0");
 }

@@ -45,7 +45,7 @@ bool PxElementReading::hasOnlyKnown() const
     return *m_hasOnlyKnown;
 }
 
-const PxSourceAttribute *PxElementReading::misspelling(const QString &attribute) const
+const PxSourceAttribute *PxElementReading::misspelling(const char *attribute) const
 {
     if (isGiven(attribute) || hasOnlyKnown())
         return nullptr;
@@ -58,7 +58,7 @@ const PxSourceAttribute *PxElementReading::misspelling(const QString &attribute)
     return found == m_element.attributes.end() ? nullptr : found;
 }
 
-PxMissingPart PxElementReading::missing(const QString &attribute) const
+PxMissingPart PxElementReading::missing(const char *attribute) const
 {
     const PxSourceAttribute *own = misspelling(attribute);
     return own ? PxMissingPart{own->nameRange, PxSpelling::didYouMean(attribute)}
@@ -75,11 +75,11 @@ PxMissingPart PxElementReading::missingText() const
     const auto found =
         std::find_if(m_element.attributes.begin(), m_element.attributes.end(), isUnknown);
     return found != m_element.attributes.end() && !hasText(m_element)
-               ? PxMissingPart{found->nameRange, QStringLiteral("write it between the tags")}
+               ? PxMissingPart{found->nameRange, "write it between the tags"}
                : PxMissingPart{m_element.textRange(), QString()};
 }
 
-bool PxElementReading::isReadable(const QString &attribute) const
+bool PxElementReading::isReadable(const char *attribute) const
 {
     const PxSourceAttribute *own = m_element.attribute(attribute);
     const PxAttributeRow *row = own ? PxFormat::attribute(m_row, attribute) : nullptr;
@@ -113,7 +113,7 @@ bool PxElementReading::isReadable(const PxSourceElement &element,
     }
 }
 
-int PxElementReading::number(const QString &attribute, int absent) const
+int PxElementReading::number(const char *attribute, int absent) const
 {
     return PxXMLParser::intAttribute(m_element.dom, attribute, absent);
 }
@@ -128,14 +128,13 @@ QStringList PxElementReading::namesOfMissing() const
 {
     QStringList names;
     for (const PxAttributeRow &row : m_row.attributes) {
-        const QString name = QLatin1String(row.name);
-        if (!isGiven(name))
-            names.append(name);
+        if (!isGiven(row.name))
+            names.append(row.name);
     }
     return names;
 }
 
-const PxSourceElement *PxElementReading::misplacedChild(const QString &name, Search search) const
+const PxSourceElement *PxElementReading::misplacedChild(const char *name, Search search) const
 {
     int left = PxCheckLimits::searchedElements;
     const PxSourceElement *own = findBelow(m_element, name, &left);
@@ -149,8 +148,8 @@ const PxSourceElement *PxElementReading::misplacedChild(const QString &name, Sea
 }
 
 /** Not in others like this element: what stands there belongs to those. */
-const PxSourceElement *PxElementReading::findBelow(const PxSourceElement &parent,
-                                                   const QString &name, int *left) const
+const PxSourceElement *PxElementReading::findBelow(const PxSourceElement &parent, const char *name,
+                                                   int *left) const
 {
     for (const PxSourceElement *child : parent.children) {
         if (--*left < 0)
@@ -165,7 +164,7 @@ const PxSourceElement *PxElementReading::findBelow(const PxSourceElement &parent
     return nullptr;
 }
 
-PxMissingPart PxElementReading::missingChild(const QString &name, Search search) const
+PxMissingPart PxElementReading::missingChild(const char *name, Search search) const
 {
     const PxSourceElement *meant = misplacedChild(name, search);
     if (!meant)
@@ -173,10 +172,9 @@ PxMissingPart PxElementReading::missingChild(const QString &name, Search search)
     const PxElementRow *row = PxFormat::child(m_row, name);
     const bool isEntry = row && PxFormat::isChildName(*row, meant->name);
     const bool isElsewhere = meant->name == name;
-    return {meant->nameRange, isEntry ? QStringLiteral("put it into \"%1\"").arg(name)
-                              : isElsewhere
-                                  ? QStringLiteral("put it into \"%1\"").arg(m_element.name)
-                                  : PxSpelling::didYouMean(name)};
+    return {meant->nameRange, isEntry       ? QString("put it into \"%1\"").arg(name)
+                              : isElsewhere ? QString("put it into \"%1\"").arg(m_element.name)
+                                            : PxSpelling::didYouMean(name)};
 }
 
 PxMissingPart PxElementReading::missingEntries() const
@@ -190,5 +188,5 @@ PxMissingPart PxElementReading::missingEntries() const
                                    [](const PxSourceNode &node) { return node.isText(); });
     if (text == m_element.nodes.end())
         return {m_element.nameRange, QString()};
-    return {text->range, QStringLiteral("write a \"%1\" element for each").arg(name)};
+    return {text->range, QString("write a \"%1\" element for each").arg(name)};
 }

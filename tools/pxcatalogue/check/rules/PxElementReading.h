@@ -36,40 +36,40 @@ public:
 
     /** There are no unknown attributes, which might be misspelt ones. */
     bool hasOnlyKnown() const;
-    bool isGiven(const QString &attribute) const { return m_element.attribute(attribute); }
+    bool isGiven(const char *attribute) const { return m_element.attribute(attribute); }
     /** The attribute is missing, but another one looks like a misspelling of it. */
-    bool isMisspelt(const QString &attribute) const { return misspelling(attribute); }
+    bool isMisspelt(const char *attribute) const { return misspelling(attribute); }
     /** An attribute that is missing or empty, where that is a finding. */
-    PxMissingPart missing(const QString &attribute) const;
+    PxMissingPart missing(const char *attribute) const;
     /** The text, where that is a finding; its value may have been written as an attribute. */
     PxMissingPart missingText() const;
     /** The attribute is missing, or can be read. */
-    bool isReadable(const QString &attribute) const;
+    bool isReadable(const char *attribute) const;
     /** The same of an attribute that is there, and its row. */
     static bool isReadable(const PxSourceElement &element, const PxSourceAttribute &attribute,
                            const PxAttributeRow &row);
     /** The attribute is there, and a whole number. */
-    bool isNumber(const QString &attribute) const
+    bool isNumber(const char *attribute) const
     {
         return isGiven(attribute) && isReadable(attribute);
     }
-    int number(const QString &attribute, int absent = 0) const;
+    int number(const char *attribute, int absent = 0) const;
 
     /** The attribute that may be meant by a name; none that is given already. */
     QString meant(const QString &name) const;
     /** Where to look for what was meant for a child. */
     enum class Search { Everywhere, Inside };
     /** A child that is missing, where that is a finding. */
-    PxMissingPart missingChild(const QString &name, Search search = Search::Everywhere) const;
+    PxMissingPart missingChild(const char *name, Search search = Search::Everywhere) const;
     /** The same of the entries in an element that holds nothing else, which may be there as text.
      */
     PxMissingPart missingEntries() const;
 
 private:
     QStringList namesOfMissing() const;
-    const PxSourceAttribute *misspelling(const QString &attribute) const;
-    const PxSourceElement *misplacedChild(const QString &name, Search search) const;
-    const PxSourceElement *findBelow(const PxSourceElement &parent, const QString &name,
+    const PxSourceAttribute *misspelling(const char *attribute) const;
+    const PxSourceElement *misplacedChild(const char *name, Search search) const;
+    const PxSourceElement *findBelow(const PxSourceElement &parent, const char *name,
                                      int *left) const;
 
     const PxSourceElement &m_element;

@@ -27,7 +27,7 @@ QString localName(const QString &name)
 
 QString withoutPrefix(const QString &local)
 {
-    return QStringLiteral("names have no prefix here: \"%1\"").arg(local);
+    return QString("names have no prefix here: \"%1\"").arg(local);
 }
 
 /** What XML itself, or a schema, has to say. */
@@ -79,7 +79,7 @@ bool PxFormatCheck::isOfKind(const PxSourceElement &root) const
     const QString name = nameOf(PxFormat::root(m_kind));
     switch (m_kind) {
     case PxFileKind::Product:
-        return root.firstChild(QStringLiteral("product"));
+        return root.firstChild("product");
     case PxFileKind::Theme:
         return root.name.toLower() == name;
     case PxFileKind::ProductTypes:
@@ -136,15 +136,15 @@ void PxFormatCheck::addUnknownAttribute(const Place &place,
     };
     m_report
         .add(PxTag::AttributeUnknown, attribute.nameRange,
-             QStringLiteral("\"%1\" is not read on \"%2\"")
+             QString("\"%1\" is not read on \"%2\"")
                  .arg(PxMessageText::shortened(attribute.name),
                       PxMessageText::shortened(place.element.name)))
         .now([&] {
             const QString meant = misspelt();
             const PxAttributeRow *row = PxFormat::attribute(place.row, meant);
-            return row ? QStringLiteral("\"%1\" is missing: %2")
+            return row ? QString("\"%1\" is missing: %2")
                              .arg(meant, PxMissingValue::text(place.element, *row))
-                       : QStringLiteral("it is passed over");
+                       : "it is passed over";
         })
         .hint([&] {
             const QStringList owners = search.ownersOf(attribute.name);
@@ -154,7 +154,7 @@ void PxFormatCheck::addUnknownAttribute(const Place &place,
                    : !meant.isEmpty()  ? PxSpelling::didYouMean(meant)
                    : owners.isEmpty()
                        ? QString()
-                       : QStringLiteral("it is read on %1").arg(PxMessageText::quotedList(owners));
+                       : QString("it is read on %1").arg(PxMessageText::quotedList(owners));
         });
 }
 
@@ -175,14 +175,13 @@ void PxFormatCheck::checkText(const Place &place) const
     const bool isOfChild = children.size() == 1 && children.begin()->text != PxTextKind::None;
     m_report
         .add(PxTag::TextNotRead, text->range,
-             QStringLiteral("the text \"%1\" is not read in \"%2\"")
+             QString("the text \"%1\" is not read in \"%2\"")
                  .arg(PxMessageText::shortened(
                           text->text.left(PxCheckLimits::messageLength).simplified()),
                       PxMessageText::shortened(place.element.name)))
-        .now(QStringLiteral("it is passed over"))
-        .hint(isOfChild
-                  ? QStringLiteral("put it into a \"%1\" element").arg(nameOf(*children.begin()))
-                  : QString());
+        .now("it is passed over")
+        .hint(isOfChild ? QString("put it into a \"%1\" element").arg(nameOf(*children.begin()))
+                        : QString());
 }
 
 void PxFormatCheck::checkChildren(const Place &place) const
@@ -215,16 +214,15 @@ void PxFormatCheck::addRepeated(const Place &place, const PxSourceElement &child
                                 const PxSourceElement &first) const
 {
     const PxElementRow &row = *PxFormat::child(place.row, child.name);
-    QString hint = QStringLiteral("keep the one that is meant");
+    QString hint = "keep the one that is meant";
     if (!place.parent && row.children.size() > 1)
-        hint = QStringLiteral("give each \"%1\" a file of its own").arg(child.name);
+        hint = QString("give each \"%1\" a file of its own").arg(child.name);
     else if (!row.children.isEmpty())
-        hint = QStringLiteral("move what it holds into the first one");
+        hint = "move what it holds into the first one";
     m_report
         .add(PxTag::ElementRepeated, child.nameRange,
-             QStringLiteral("another \"%1\" in \"%2\"").arg(child.name, place.element.name))
-        .now(
-            QStringLiteral("only the first one is read, in %1").arg(m_report.line(first.nameRange)))
+             QString("another \"%1\" in \"%2\"").arg(child.name, place.element.name))
+        .now(QString("only the first one is read, in %1").arg(m_report.line(first.nameRange)))
         .hint(hint);
 }
 
@@ -235,10 +233,9 @@ void PxFormatCheck::addUnknownElement(const Place &place, int index) const
     const bool hasPrefix = local != child.name;
     if (hasPrefix && !PxFormat::child(place.row, local))
         return; // somebody else's
-    const QString now =
-        place.row.text == PxTextKind::None
-            ? QStringLiteral("nothing in it is read")
-            : QStringLiteral("its text counts as text of \"%1\"").arg(place.element.name);
+    const QString now = place.row.text == PxTextKind::None
+                            ? "nothing in it is read"
+                            : QString("its text counts as text of \"%1\"").arg(place.element.name);
     const PxFormatSearch search(PxFormat::root(m_kind), place.row, place.parent);
     const PxElementRow *owner = hasPrefix ? nullptr : search.parentOf(child.name);
     if (owner) {
@@ -247,7 +244,7 @@ void PxFormatCheck::addUnknownElement(const Place &place, int index) const
     }
     m_report
         .add(PxTag::ElementUnknown, child.nameRange,
-             QStringLiteral("\"%1\" is not read in \"%2\"")
+             QString("\"%1\" is not read in \"%2\"")
                  .arg(PxMessageText::shortened(child.name),
                       PxMessageText::shortened(place.element.name)))
         .now(now)
@@ -271,18 +268,17 @@ void PxFormatCheck::addMisplaced(const Place &place, int index, const PxElementR
         std::find_if(siblings.begin() + index, siblings.end(),
                      [&](const PxSourceElement *sibling) { return sibling->name != child.name; });
     const int count = int(end - siblings.begin()) - index;
-    const QString into = &owner == &PxFormat::root(m_kind) ? QStringLiteral("the document element")
+    const QString into = &owner == &PxFormat::root(m_kind) ? "the document element"
                                                            : PxMessageText::quoted(nameOf(owner));
-    const QString what = count == 1 ? QStringLiteral("it") : QStringLiteral("them");
+    const char *what = count == 1 ? "it" : "them";
     m_report
         .add(PxTag::ElementMisplaced, child.nameRange,
-             count == 1 ? QStringLiteral("\"%1\" directly below \"%2\" is not read")
+             count == 1 ? QString("\"%1\" directly below \"%2\" is not read")
                               .arg(child.name, place.element.name)
-                        : QStringLiteral("%1 \"%2\" directly below \"%3\" are not read")
+                        : QString("%1 \"%2\" directly below \"%3\" are not read")
                               .arg(count)
                               .arg(child.name, place.element.name))
         .now(now)
-        .hint((&owner == place.parent ? QStringLiteral("move %1 out, into %2")
-                                      : QStringLiteral("put %1 into %2"))
+        .hint(QString(&owner == place.parent ? "move %1 out, into %2" : "put %1 into %2")
                   .arg(what, into));
 }

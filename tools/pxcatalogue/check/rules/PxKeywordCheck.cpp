@@ -18,7 +18,7 @@ PxKeywordCheck::PxKeywordCheck(const PxSourceElement &element, const PxAttribute
     , m_row(row)
     , m_attribute(attribute)
     , m_report(report)
-    , m_list(PxSourceParts::ofAttribute(report.file(), element, attribute.name))
+    , m_list(PxSourceParts::ofAttribute(report.file(), &attribute))
 {
     for (PxSourcePart &entry : m_list.parts)
         entry.text = entry.text.trimmed();
@@ -53,9 +53,9 @@ void PxKeywordCheck::checkEmpty() const
     m_report
         .add(m_row.keywords == PxKeywordSet::Alignment ? PxTag::AlignmentUnknown
                                                        : PxTag::KeywordUnknown,
-             m_attribute.valueRange, QStringLiteral("\"%1\" is empty").arg(m_attribute.name))
+             m_attribute.valueRange, QString("\"%1\" is empty").arg(m_attribute.name))
         .now(now())
-        .hint(QStringLiteral("leave it out for \"%1\"").arg(missing));
+        .hint(QString("leave it out for \"%1\"").arg(missing));
 }
 
 void PxKeywordCheck::checkOneKeyword() const
@@ -70,9 +70,9 @@ void PxKeywordCheck::checkOneKeyword() const
     if (words.size() > 1 && areKeywords)
         m_report
             .add(PxTag::KeywordSeveral, m_attribute.valueRange,
-                 QStringLiteral("\"%1\" takes one keyword, not a list").arg(m_attribute.name))
+                 QString("\"%1\" takes one keyword, not a list").arg(m_attribute.name))
             .now(now())
-            .hint(QStringLiteral("keep the one that is meant"));
+            .hint("keep the one that is meant");
     else
         checkUnknown({word,
                       {m_list.parts.constFirst().range.begin, m_list.parts.constLast().range.end},
@@ -104,18 +104,18 @@ void PxKeywordCheck::checkUnknown(const PxSourcePart &entry, const QString &asRe
     const auto known = std::count_if(words.begin(), words.end(),
                                      [this](const QString &word) { return isKnown(word); });
     // Blanks belong to some keywords, so that they separate only what leaves nothing open.
-    static const QRegularExpression ourMarks(QStringLiteral("[;|/+]"));
+    static const QRegularExpression ourMarks("[;|/+]");
     const bool isList =
         words.size() > 1 && (known == words.size() || (known > 0 && entry.text.contains(ourMarks)));
     if (isList && m_row.type != PxValueType::OneKeyword) {
         m_report
             .add(PxTag::KeywordListSeparator, entry.range,
-                 QStringLiteral("\"%1\" is one word, and no %2")
+                 QString("\"%1\" is one word, and no %2")
                      .arg(PxMessageText::shortened(entry.text), name))
             .now(asRead)
             .hint(m_row.type == PxValueType::Keyword
-                      ? QStringLiteral("keep the one that is meant")
-                      : QStringLiteral("separate with commas: \"%1\"")
+                      ? "keep the one that is meant"
+                      : QString("separate with commas: \"%1\"")
                             .arg(PxMessageText::shortened(words.join(QLatin1Char(',')))));
         return;
     }
@@ -123,7 +123,7 @@ void PxKeywordCheck::checkUnknown(const PxSourcePart &entry, const QString &asRe
         m_row.keywords == PxKeywordSet::Alignment ? PxTag::AlignmentUnknown : PxTag::KeywordUnknown;
     m_report
         .add(tag, entry.range,
-             QStringLiteral("\"%1\" is no %2").arg(PxMessageText::shortened(entry.text), name))
+             QString("\"%1\" is no %2").arg(PxMessageText::shortened(entry.text), name))
         .now(asRead)
         .hint([&] { return PxSpelling::hint(entry.text, PxFormat::keywordNames(m_row.keywords)); });
 }
@@ -152,10 +152,10 @@ bool PxKeywordCheck::checkGap() const
     const int comma = gap == m_list.parts.begin() ? gap->whole.end : gap->whole.begin - 1;
     m_report
         .add(PxTag::KeywordListGap, {comma, comma + 1},
-             QStringLiteral("an entry of \"%1\" is empty").arg(m_attribute.name))
-        .now(QStringLiteral("it adds %1")
+             QString("an entry of \"%1\" is empty").arg(m_attribute.name))
+        .now(QString("it adds %1")
                  .arg(QString::fromUtf8(PxFormat::keywords(m_row.keywords).defaultText)))
-        .hint(QStringLiteral("take the comma out"));
+        .hint("take the comma out");
     return true;
 }
 
@@ -172,11 +172,11 @@ bool PxKeywordCheck::checkSeveral() const
         return false;
     m_report
         .add(PxTag::KeywordSeveral, m_attribute.valueRange,
-             QStringLiteral("a product has one %1, and \"%2\" names %3")
+             QString("a product has one %1, and \"%2\" names %3")
                  .arg(QString::fromUtf8(PxFormat::keywords(m_row.keywords).name), m_attribute.name)
                  .arg(values.size()))
         .now(now())
-        .hint(QStringLiteral("keep the one that is meant"));
+        .hint("keep the one that is meant");
     return true;
 }
 
@@ -188,9 +188,9 @@ void PxKeywordCheck::checkRepeated() const
         if (words.contains(word) && !word.isEmpty()) {
             m_report
                 .add(PxTag::KeywordRepeated, entry.range,
-                     QStringLiteral("\"%1\" is in the list already")
+                     QString("\"%1\" is in the list already")
                          .arg(PxMessageText::shortened(entry.text)))
-                .now(QStringLiteral("it counts once"));
+                .now("it counts once");
             return;
         }
         words.insert(word);
@@ -205,6 +205,6 @@ bool PxKeywordCheck::isKnown(const QString &word) const
 QString PxKeywordCheck::now() const
 {
     const QString answer = PxMissingValue::answer(m_element, m_row);
-    return QStringLiteral("read as %1")
+    return QString("read as %1")
         .arg(answer.isEmpty() ? PxFormat::decoded(m_row.keywords, m_attribute.value) : answer);
 }

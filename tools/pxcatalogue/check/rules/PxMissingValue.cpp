@@ -29,9 +29,7 @@ constexpr struct
      [](const Description &d) { return QString::number(d.bleedMarginCover().vertical()); }},
     {foldMargin, [](const Description &d) { return QString::number(d.foldMargin()); }},
     {"fullBackgroundOnEachPage",
-     [](const Description &d) {
-         return d.fullBackgroundOnEachPage() ? QStringLiteral("true") : QStringLiteral("false");
-     }},
+     [](const Description &d) { return QString(d.fullBackgroundOnEachPage() ? "true" : "false"); }},
     {"orientation",
      [](const Description &d) {
          return PxFormat::encode(PxKeywordSet::Orientation, d.orientation().value());
@@ -49,7 +47,7 @@ constexpr struct
 QDomElement withoutLists(const QDomElement &product, const char *asked)
 {
     constexpr int maximumLength = 1000; // letters of a value
-    const QString size = QStringLiteral("usablesize");
+    constexpr const char *size = "usablesize";
     QDomElement copy = product.cloneNode(false).toElement();
     const QDomNamedNodeMap attributes = product.attributes();
     for (int i = 0; i < attributes.size(); ++i) {
@@ -73,7 +71,7 @@ QString integerText(const PxAttributeRow &attribute)
     const QString consequence = absent.section(QLatin1String(": "), 1);
     if (!attribute.defaultText)
         return consequence.isEmpty() ? absent : consequence;
-    const QString used = QStringLiteral("%1 is used").arg(attribute.defaultText);
+    const QString used = QString("%1 is used").arg(attribute.defaultText);
     if (consequence.isEmpty())
         return used;
     return consequence == QLatin1String("none") ? used + QLatin1String(", which means none")
@@ -85,9 +83,9 @@ QString nothingText(const PxAttributeRow &attribute)
 {
     const QString absent = absence(attribute);
     if (absent == QLatin1String("empty"))
-        return QStringLiteral("it counts as empty");
+        return "it counts as empty";
     if (absent == QLatin1String("none"))
-        return QStringLiteral("there is none");
+        return "there is none";
     const QString consequence = absent.section(QLatin1String(": "), 1);
     return consequence.isEmpty() ? absent : consequence;
 }
@@ -98,19 +96,19 @@ QString PxMissingValue::text(const PxSourceElement &element, const PxAttributeRo
 {
     const QString ofProduct = answer(element, attribute);
     if (!ofProduct.isEmpty())
-        return QStringLiteral("%1 is used").arg(ofProduct);
+        return QString("%1 is used").arg(ofProduct);
     switch (attribute.type) {
     case PxValueType::Integer:
         return integerText(attribute);
     case PxValueType::RectanglePart:
-        return attribute.defaultText ? QStringLiteral("%1 is used").arg(attribute.defaultText)
-                                     : QStringLiteral("there is no rectangle");
+        return attribute.defaultText ? QString("%1 is used").arg(attribute.defaultText)
+                                     : "there is no rectangle";
     case PxValueType::PageRange:
         return absence(attribute);
     default:
         if (!attribute.defaultText || !*attribute.defaultText)
             return nothingText(attribute);
-        return QStringLiteral("%1 is used").arg(attribute.defaultText);
+        return QString("%1 is used").arg(attribute.defaultText);
     }
 }
 

@@ -20,7 +20,7 @@ void PxReadingCheck::run()
     case PxXMLFault::Kind::Encoding:
         m_report.add(PxTag::XmlEncodingDamaged, m_report.file().faultPlace(), fault.message)
             .now(now)
-            .hint(QStringLiteral("save the file as UTF-8, or declare its encoding"));
+            .hint("save the file as UTF-8, or declare its encoding");
         break;
     case PxXMLFault::Kind::Limit:
         m_report.add(PxTag::XmlLimitExceeded, m_report.file().faultPlace(), fault.message).now(now);
@@ -48,19 +48,19 @@ void PxReadingCheck::checkMarkup()
     else if (fault.kind() == Kind::AttributeTwice)
         m_report
             .add(PxTag::XmlAttributeTwice, range,
-                 QStringLiteral("attribute \"%1\" is given twice").arg(name))
+                 QString("attribute \"%1\" is given twice").arg(name))
             .now(now)
-            .hint(QStringLiteral("keep the one that is meant"));
+            .hint("keep the one that is meant");
     else if (fault.kind() == Kind::EntityUndeclared)
         m_report
             .add(PxTag::XmlEntityUndeclared, range,
-                 QStringLiteral("the entity \"%1\" is not defined").arg(name))
+                 QString("the entity \"%1\" is not defined").arg(name))
             .now(now)
-            .hint(QStringLiteral("write the character itself"));
+            .hint("write the character itself");
     else
         m_report.add(PxTag::XmlNotWellFormed, range, fault.message())
             .now(now)
-            .hint(unclosed ? QStringLiteral("\"%1\" of line %2 is not closed")
+            .hint(unclosed ? QString("\"%1\" of line %2 is not closed")
                                  .arg(unclosed->name,
                                       QString::number(source.place(unclosed->nameRange).line))
                            : fault.hint());

@@ -13,7 +13,7 @@ namespace {
 bool isLength(const PxAttributeRow &row)
 {
     static const QRegularExpression ourLengths(
-        QStringLiteral("^(width|height|maxfontheight|\\w*margin\\w*|coverextra\\w*|\\w*clamp)$"));
+        "^(width|height|maxfontheight|\\w*margin\\w*|coverextra\\w*|\\w*clamp)$");
     return row.type == PxValueType::RectanglePart ||
            ourLengths.match(QLatin1String(row.name)).hasMatch();
 }
@@ -21,12 +21,11 @@ bool isLength(const PxAttributeRow &row)
 /** For somebody who wrote another kind of number. */
 QString integerHint(const PxAttributeRow &row, const PxSourceAttribute &attribute)
 {
-    static const QRegularExpression ourHex(QStringLiteral("^0[xX][0-9a-fA-F]{1,7}$"));
-    static const QRegularExpression ourMillimetres(
-        QStringLiteral("^(-?[0-9]{1,6})(?:[.,]([0-9]))?\\s*(mm)?$"));
+    static const QRegularExpression ourHex("^0[xX][0-9a-fA-F]{1,7}$");
+    static const QRegularExpression ourMillimetres("^(-?[0-9]{1,6})(?:[.,]([0-9]))?\\s*(mm)?$");
     const QString text = attribute.value.trimmed();
     if (text.isEmpty())
-        return QStringLiteral("give a number, or leave \"%1\" out").arg(attribute.name);
+        return QString("give a number, or leave \"%1\" out").arg(attribute.name);
     if (ourHex.match(text).hasMatch())
         return PxSpelling::didYouMean(QString::number(text.toInt(nullptr, 16)));
     const QRegularExpressionMatch millimetres = ourMillimetres.match(text);
@@ -34,15 +33,15 @@ QString integerHint(const PxAttributeRow &row, const PxSourceAttribute &attribut
         return QString();
     // Who writes a fraction thinks of millimetres.
     const QString tenth = millimetres.captured(2);
-    return QStringLiteral("lengths are in tenths of a millimetre: \"%1\" for %2")
-        .arg(millimetres.captured(1) + (tenth.isEmpty() ? QStringLiteral("0") : tenth),
+    return QString("lengths are in tenths of a millimetre: \"%1\" for %2")
+        .arg(millimetres.captured(1) + (tenth.isEmpty() ? "0" : tenth),
              millimetres.captured(3).isEmpty() ? text + QLatin1String(" mm") : text);
 }
 
 /** Digits only: what is wrong is that there are too many. */
 bool isTooLarge(const QString &text)
 {
-    static const QRegularExpression ourDigits(QStringLiteral("^\\s*[+-]?[0-9]+\\s*$"));
+    static const QRegularExpression ourDigits("^\\s*[+-]?[0-9]+\\s*$");
     return ourDigits.match(text).hasMatch();
 }
 
@@ -73,12 +72,11 @@ void PxValueCheck::checkInteger() const
     if (PxElementReading::isReadable(m_element, m_attribute, m_row))
         return;
     const QString value = m_attribute.value;
-    QString message =
-        QStringLiteral("\"%1\" is no whole number").arg(PxMessageText::shortened(value));
+    QString message = QString("\"%1\" is no whole number").arg(PxMessageText::shortened(value));
     if (value.trimmed().isEmpty())
-        message = QStringLiteral("\"%1\" is empty").arg(m_attribute.name);
+        message = QString("\"%1\" is empty").arg(m_attribute.name);
     else if (isTooLarge(value))
-        message = QStringLiteral("%1 is beyond the numbers of 32 bits")
+        message = QString("%1 is beyond the numbers of 32 bits")
                       .arg(PxMessageText::shortened(value.trimmed()));
     m_report.add(PxTag::IntegerMalformed, m_attribute.valueRange, message)
         .now([this] { return PxMissingValue::text(m_element, m_row); })
@@ -90,13 +88,12 @@ void PxValueCheck::checkBoolean() const
     if (PxElementReading::isReadable(m_element, m_attribute, m_row))
         return;
     const QString value = m_attribute.value;
-    const QString meant =
-        PxSpelling::hint(value, {QStringLiteral("true"), QStringLiteral("false")});
+    const QString meant = PxSpelling::hint(value, {"true", "false"});
     m_report
         .add(PxTag::BooleanMalformed, m_attribute.valueRange,
-             value.trimmed().isEmpty() ? QStringLiteral("\"%1\" is empty").arg(m_attribute.name)
-                                       : QStringLiteral("\"%1\" is neither true nor false")
-                                             .arg(PxMessageText::shortened(value)))
+             value.trimmed().isEmpty()
+                 ? QString("\"%1\" is empty").arg(m_attribute.name)
+                 : QString("\"%1\" is neither true nor false").arg(PxMessageText::shortened(value)))
         .now([this] { return PxMissingValue::text(m_element, m_row); })
-        .hint(meant.isEmpty() ? QStringLiteral("write \"true\" or \"false\"") : meant);
+        .hint(meant.isEmpty() ? "write \"true\" or \"false\"" : meant);
 }

@@ -26,7 +26,7 @@ PxCheckedFile::PxCheckedFile(const QString &path) : m_path(path)
     readSource();
     if (isRead() && !m_source->connectTo(m_document.documentElement())) {
         m_fault.kind = PxXMLFault::Kind::Unreadable;
-        m_fault.message = QStringLiteral("the file changes while it is read");
+        m_fault.message = "the file changes while it is read";
     }
 }
 

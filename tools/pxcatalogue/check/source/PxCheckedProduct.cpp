@@ -2,8 +2,8 @@
 
 PxCheckedProduct::PxCheckedProduct(const PxCheckedFile &file, bool isLegacy)
     : m_file(file)
-    , m_element(*file.root()->firstChild(QStringLiteral("product")))
-    , m_type(m_element.value(QStringLiteral("name")))
+    , m_element(*file.root()->firstChild("product"))
+    , m_type(m_element.value("name"))
     , m_description(m_element.dom)
     , m_isLegacy(isLegacy)
 {}

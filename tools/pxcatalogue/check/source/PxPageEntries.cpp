@@ -13,7 +13,7 @@ bool PxPageEntry::isRange(const PxPageType &type)
 
 PxPageEntries::PxPageEntries(const PxCheckedProduct &product)
 {
-    const PxSourceElement *pages = product.element().firstChild(QStringLiteral("pages"));
+    const PxSourceElement *pages = product.element().firstChild("pages");
     m_isGiven = pages != nullptr;
     if (!pages)
         return;

@@ -14,7 +14,7 @@ struct PxPlace
     /** As in "line 5"; with the path in another file than `file`. */
     QString seenFrom(const QString &file) const
     {
-        return path == file ? QStringLiteral("line %1").arg(line)
-                            : QStringLiteral("%1:%2").arg(path, QString::number(line));
+        return path == file ? QString("line %1").arg(line)
+                            : QString("%1:%2").arg(path, QString::number(line));
     }
 };

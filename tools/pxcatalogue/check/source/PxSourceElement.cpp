@@ -6,49 +6,52 @@ QString PxSourceNode::kindText(Kind kind)
 {
     switch (kind) {
     case Kind::CharacterData:
-        return QStringLiteral("a CDATA section");
+        return "a CDATA section";
     case Kind::Comment:
-        return QStringLiteral("a comment");
+        return "a comment";
     case Kind::ProcessingInstruction:
-        return QStringLiteral("a processing instruction");
+        return "a processing instruction";
     default:
-        return QStringLiteral("text");
+        return "text";
     }
 }
 
-const PxSourceAttribute *PxSourceElement::attribute(const QString &attributeName) const
+const PxSourceAttribute *PxSourceElement::attribute(const char *attributeName) const
 {
     const auto found =
-        std::find_if(attributes.begin(), attributes.end(),
-                     [&](const PxSourceAttribute &a) { return a.name == attributeName; });
+        std::find_if(attributes.begin(), attributes.end(), [&](const PxSourceAttribute &a) {
+            return a.name == QLatin1String(attributeName);
+        });
     return found == attributes.end() ? nullptr : found;
 }
 
-QString PxSourceElement::value(const QString &attributeName) const
+QString PxSourceElement::value(const char *attributeName) const
 {
     const PxSourceAttribute *found = attribute(attributeName);
     return found ? found->value : QString();
 }
 
-PxSourceRange PxSourceElement::rangeOf(const QString &attributeName) const
+PxSourceRange PxSourceElement::rangeOf(const char *attributeName) const
 {
     const PxSourceAttribute *found = attribute(attributeName);
     return found ? found->valueRange : nameRange;
 }
 
-const PxSourceElement *PxSourceElement::firstChild(const QString &childName) const
+const PxSourceElement *PxSourceElement::firstChild(const char *childName) const
 {
     const auto found =
-        std::find_if(children.begin(), children.end(),
-                     [&](const PxSourceElement *child) { return child->name == childName; });
+        std::find_if(children.begin(), children.end(), [&](const PxSourceElement *child) {
+            return child->name == QLatin1String(childName);
+        });
     return found == children.end() ? nullptr : *found;
 }
 
-QVector<const PxSourceElement *> PxSourceElement::childrenNamed(const QString &childName) const
+QVector<const PxSourceElement *> PxSourceElement::childrenNamed(const char *childName) const
 {
     QVector<const PxSourceElement *> named;
-    std::copy_if(children.begin(), children.end(), std::back_inserter(named),
-                 [&](const PxSourceElement *child) { return child->name == childName; });
+    std::copy_if(
+        children.begin(), children.end(), std::back_inserter(named),
+        [&](const PxSourceElement *child) { return child->name == QLatin1String(childName); });
     return named;
 }
 

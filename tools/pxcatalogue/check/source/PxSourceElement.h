@@ -50,14 +50,14 @@ public:
     QDomElement dom;             ///< the same element as the library reads it
 
     /** Null when there is none. */
-    const PxSourceAttribute *attribute(const QString &attributeName) const;
+    const PxSourceAttribute *attribute(const char *attributeName) const;
     /** An empty text when there is no such attribute. */
-    QString value(const QString &attributeName) const;
+    QString value(const char *attributeName) const;
     /** The value of an attribute; the name of the element when it is not there. */
-    PxSourceRange rangeOf(const QString &attributeName) const;
+    PxSourceRange rangeOf(const char *attributeName) const;
     /** Null when there is none. */
-    const PxSourceElement *firstChild(const QString &childName) const;
-    QVector<const PxSourceElement *> childrenNamed(const QString &childName) const;
+    const PxSourceElement *firstChild(const char *childName) const;
+    QVector<const PxSourceElement *> childrenNamed(const char *childName) const;
     /** The text inside, from the first character that is no blank to behind the last one. */
     PxSourceRange textRange() const;
 };

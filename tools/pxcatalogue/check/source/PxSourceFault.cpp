@@ -81,9 +81,7 @@ bool PxSourceFault::findUndeclaredEntity(int end)
     if (entity < 0 || !window.endsWith(QLatin1Char(';')))
         return false;
     const QString name = window.mid(entity + 1).chopped(1).toString();
-    static const QSet<QString> ourOwnNames{QStringLiteral("amp"), QStringLiteral("lt"),
-                                           QStringLiteral("gt"), QStringLiteral("quot"),
-                                           QStringLiteral("apos")};
+    static const QSet<QString> ourOwnNames{"amp", "lt", "gt", "quot", "apos"};
     if (name.isEmpty() || name.startsWith(QLatin1Char('#')) || ourOwnNames.contains(name) ||
         std::any_of(name.begin(), name.end(), [](QChar c) { return c.isSpace(); }))
         return false;
@@ -95,14 +93,14 @@ bool PxSourceFault::findUndeclaredEntity(int end)
 /** The fault is in the tag itself: what looks like one further on may be within another tag. */
 bool PxSourceFault::findWrongEndTag(int begin, int end)
 {
-    static const QRegularExpression ourEndTag(QStringLiteral("\\G</([^\\s<>/]{1,256})"));
+    static const QRegularExpression ourEndTag("\\G</([^\\s<>/]{1,256})");
     const QRegularExpressionMatch tag = ourEndTag.match(m_text, begin);
     if (m_open.isEmpty() || !tag.hasMatch() || tag.captured(1) == m_open.constLast().name)
         return false;
     const QString expected = m_open.constLast().name;
     const QString name = tag.captured(1);
     m_kind = Kind::EndTagWrong;
-    m_message = QStringLiteral("expected \"</%1>\" here").arg(expected);
+    m_message = QString("expected \"</%1>\" here").arg(expected);
     m_range = {begin, end};
     m_isUnclosed = std::any_of(m_open.begin(), m_open.end(),
                                [&](const Element &element) { return element.name == name; });
@@ -110,9 +108,9 @@ bool PxSourceFault::findWrongEndTag(int begin, int end)
         return true;
     const QString meant = PxSpelling::nearest(name, {expected});
     if (meant.isEmpty())
-        m_message = QStringLiteral("no element \"%1\" is open here").arg(name);
+        m_message = QString("no element \"%1\" is open here").arg(name);
     m_hint = meant.isEmpty()
-                 ? QStringLiteral("take the tag out, or open the element before it")
+                 ? "take the tag out, or open the element before it"
                  : PxSpelling::didYouMean(QLatin1String("</") + meant + QLatin1Char('>'));
     return true;
 }
@@ -124,7 +122,7 @@ bool PxSourceFault::findLateDeclaration(int begin, int end)
     if (isInPlace || declaration < 0 || declaration >= end)
         return false;
     m_range = {declaration, declaration + int(qstrlen("<?xml"))};
-    m_hint = QStringLiteral("take out what stands before it, blanks and empty lines, too");
+    m_hint = "take out what stands before it, blanks and empty lines, too";
     return true;
 }
 
@@ -148,7 +146,7 @@ bool PxSourceFault::findSecondAttribute(int begin, int end)
 /** The next tag begins within a start tag: one of its marks is missing. */
 void PxSourceFault::findUnfinishedTag(int begin, int end)
 {
-    static const QRegularExpression ourTag(QStringLiteral("\\G<([^\\s<>/!?\"'=]+)"));
+    static const QRegularExpression ourTag("\\G<([^\\s<>/!?\"'=]+)");
     const QRegularExpressionMatch tag = ourTag.match(m_text, begin);
     if (!tag.hasMatch() || m_text.at(end - 1) != QLatin1Char('<') || end - 1 == begin)
         return;
@@ -161,16 +159,15 @@ void PxSourceFault::findUnfinishedTag(int begin, int end)
             quote = i;
     }
     if (quote < 0) {
-        m_message =
-            QStringLiteral("the tag of \"%1\" has no \">\" before this").arg(tag.captured(1));
-        m_hint = QStringLiteral("end the tag before the next one begins");
+        m_message = QString("the tag of \"%1\" has no \">\" before this").arg(tag.captured(1));
+        m_hint = "end the tag before the next one begins";
     } else if (QStringView(m_text).mid(quote, end - quote).contains(QLatin1Char('>'))) {
-        m_message = QStringLiteral("the quote that begins here has no end");
-        m_hint = QStringLiteral("end the value with the quote that it begins with");
+        m_message = "the quote that begins here has no end";
+        m_hint = "end the value with the quote that it begins with";
         m_range = {quote, quote + 1};
     } else {
-        m_message = QStringLiteral("\"<\" in the value of an attribute");
-        m_hint = QStringLiteral("write \"&lt;\"");
+        m_message = "\"<\" in the value of an attribute";
+        m_hint = "write \"&lt;\"";
     }
 }
 
@@ -196,12 +193,12 @@ void PxSourceFault::findMarkupWithoutEnd(int begin)
             continue;
         m_isUnclosed = false;
         m_range = {begin, begin + mark.size()};
-        m_message = QStringLiteral("this %1 has no end").arg(QLatin1String(row.name));
+        m_message = QString("this %1 has no end").arg(QLatin1String(row.name));
         // What looks like the end of a tag is within a value.
         const bool isInValue = mark.size() == 1 && m_text.indexOf(QLatin1Char('>'), begin) >= 0 &&
                                m_text.at(begin + 1) != QLatin1Char('!');
-        m_hint = isInValue ? QStringLiteral("end the value with the quote that it begins with")
-                           : QStringLiteral("end it with \"%1\"").arg(QLatin1String(row.end));
+        m_hint = isInValue ? "end the value with the quote that it begins with"
+                           : QString("end it with \"%1\"").arg(QLatin1String(row.end));
         return;
     }
 }

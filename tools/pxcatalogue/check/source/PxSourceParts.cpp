@@ -131,13 +131,10 @@ PxSourceList split(const PxCheckedFile &file, const PxSourceRange &range, const 
 
 } // namespace
 
-PxSourceList PxSourceParts::ofAttribute(const PxCheckedFile &file, const PxSourceElement &element,
-                                        const QString &name)
+PxSourceList PxSourceParts::ofAttribute(const PxCheckedFile &file,
+                                        const PxSourceAttribute *attribute)
 {
-    const PxSourceAttribute *attribute = element.attribute(name);
-    if (!attribute)
-        return {};
-    return split(file, attribute->valueRange, attribute->value);
+    return attribute ? split(file, attribute->valueRange, attribute->value) : PxSourceList();
 }
 
 PxSourceList PxSourceParts::ofText(const PxCheckedFile &file, const PxSourceElement &element)

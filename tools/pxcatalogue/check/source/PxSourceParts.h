@@ -28,9 +28,8 @@ struct PxSourceList
 class PxSourceParts
 {
 public:
-    /** Of the value of an attribute; none when there is no such attribute. */
-    static PxSourceList ofAttribute(const PxCheckedFile &file, const PxSourceElement &element,
-                                    const QString &name);
+    /** Of the value of an attribute; none if it is null. */
+    static PxSourceList ofAttribute(const PxCheckedFile &file, const PxSourceAttribute *attribute);
     /** Of the text in an element. */
     static PxSourceList ofText(const PxCheckedFile &file, const PxSourceElement &element);
 };

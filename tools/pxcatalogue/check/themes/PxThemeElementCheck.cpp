@@ -17,30 +17,29 @@ const auto compactFormat = QLatin1String("yyyyMMddHHmm");
 /** Nearly the right form, for those that authors use elsewhere. */
 QString expiryHint(const QString &text)
 {
-    const QDateTime withSeconds =
-        QDateTime::fromString(text.trimmed(), QStringLiteral("yyyyMMddHHmmss"));
+    const QDateTime withSeconds = QDateTime::fromString(text.trimmed(), "yyyyMMddHHmmss");
     QString meant = withSeconds.toString(compactFormat);
     for (const char *format : {"yyyyMMdd", "dd.MM.yyyy", "d.M.yyyy"}) {
         const QDate day = QDate::fromString(text.trimmed(), QLatin1String(format));
         if (day.isValid())
             meant = day.endOfDay().toString(compactFormat);
     }
-    return meant.isEmpty() ? QStringLiteral("write year to minute, as in \"205012312359\"")
+    return meant.isEmpty() ? "write year to minute, as in \"205012312359\""
                            : PxSpelling::didYouMean(meant);
 }
 
 /** For a name that is no known one. */
 QString productHint(const QString &name, PxListedProductTypes &types)
 {
-    return name.contains(QLatin1Char(',')) ? QStringLiteral("write a \"product\" element for each")
+    return name.contains(QLatin1Char(',')) ? "write a \"product\" element for each"
                                            : types.hint(name);
 }
 
 QString unknownText(const PxSourceElement &product)
 {
     const QString name = product.dom.text().trimmed();
-    return name.isEmpty() ? QStringLiteral("the name of the product is empty")
-                          : QStringLiteral("\"%1\" is no known product name").arg(name);
+    return name.isEmpty() ? "the name of the product is empty"
+                          : QString("\"%1\" is no known product name").arg(name);
 }
 
 } // namespace
@@ -50,7 +49,7 @@ PxThemeElementCheck::PxThemeElementCheck(const PxSourceElement &theme, PxListedP
     : m_theme(theme)
     , m_types(types)
     , m_report(report)
-    , m_expiry(PxXMLParser::dateTimeAttribute(theme.dom, QStringLiteral("expiry"), QString()))
+    , m_expiry(PxXMLParser::dateTimeAttribute(theme.dom, "expiry", QString()))
     , m_isExpired(m_expiry.isValid() && m_expiry < QDateTime::currentDateTime())
 {}
 
@@ -66,61 +65,56 @@ void PxThemeElementCheck::run()
 
 void PxThemeElementCheck::checkId() const
 {
-    const QString id = m_theme.value(QStringLiteral("id"));
-    const PxSourceRange range = m_theme.rangeOf(QStringLiteral("id"));
+    const QString id = m_theme.value("id");
+    const PxSourceRange range = m_theme.rangeOf("id");
     if (id.isEmpty()) {
-        const bool isThere = m_theme.attribute(QStringLiteral("id"));
-        const PxMissingPart missing =
-            PxElementReading(m_theme, PxFileKind::Theme).missing(QStringLiteral("id"));
+        const bool isThere = m_theme.attribute("id");
+        const PxMissingPart missing = PxElementReading(m_theme, PxFileKind::Theme).missing("id");
         m_report
             .add(PxTag::ThemeIdMissing, missing.range,
-                 isThere ? QStringLiteral("the \"id\" of the theme is empty")
-                         : QStringLiteral("the theme has no \"id\""))
-            .now(QStringLiteral("its id is \"%1\"")
-                     .arg(isThere ? QString() : QStringLiteral("unbekannt")))
+                 isThere ? "the \"id\" of the theme is empty" : "the theme has no \"id\"")
+            .now(QString("its id is \"%1\"").arg(isThere ? QString() : "unbekannt"))
             .hint(missing.hint);
     } else if (id.contains(QLatin1Char(','))) {
         m_report
-            .add(PxTag::ThemeIdUnlistable, range,
-                 QStringLiteral("the id \"%1\" holds a comma").arg(id))
-            .now(QStringLiteral("no list of ids finds the theme"));
+            .add(PxTag::ThemeIdUnlistable, range, QString("the id \"%1\" holds a comma").arg(id))
+            .now("no list of ids finds the theme");
     } else if (id != id.trimmed()) {
         m_report
             .add(PxTag::ThemeIdUnlistable, range,
-                 QStringLiteral("the id \"%1\" begins or ends with a blank").arg(id))
-            .now(QStringLiteral("the blank belongs to the id"))
-            .hint(QStringLiteral("write \"%1\"").arg(id.trimmed().toLower()));
+                 QString("the id \"%1\" begins or ends with a blank").arg(id))
+            .now("the blank belongs to the id")
+            .hint(QString("write \"%1\"").arg(id.trimmed().toLower()));
     }
     if (id != id.toLower())
         m_report
             .add(PxTag::ThemeIdLowered, range,
-                 QStringLiteral("the id \"%1\" has upper-case letters").arg(id))
-            .now(QStringLiteral("the id is \"%1\"").arg(id.toLower()));
+                 QString("the id \"%1\" has upper-case letters").arg(id))
+            .now(QString("the id is \"%1\"").arg(id.toLower()));
 }
 
 void PxThemeElementCheck::checkGroup() const
 {
-    const QString attribute = QStringLiteral("producttype");
+    constexpr const char *attribute = "producttype";
     const QString group = m_theme.value(attribute);
-    const QString now = QStringLiteral("the theme is not valid");
+    const QString now = "the theme is not valid";
     if (group.trimmed().isEmpty()) {
         const PxMissingPart missing =
             PxElementReading(m_theme, PxFileKind::Theme).missing(attribute);
         m_report
             .add(PxTag::ThemeGroupMissing, missing.range,
-                 m_theme.attribute(attribute)
-                     ? QStringLiteral("the \"producttype\" of the theme is empty")
-                     : QStringLiteral("the theme has no \"producttype\""))
+                 m_theme.attribute(attribute) ? "the \"producttype\" of the theme is empty"
+                                              : "the theme has no \"producttype\"")
             .now(now)
-            .hint(missing.hintOr(QStringLiteral("name the product group, as in \"book\"")));
+            .hint(missing.hintOr("name the product group, as in \"book\""));
     } else if (!PxProductGroup(group).isValid()) {
         m_report
             .add(PxTag::ThemeGroupUnknown, m_theme.rangeOf(attribute),
-                 QStringLiteral("\"%1\" is no product group").arg(group))
+                 QString("\"%1\" is no product group").arg(group))
             .now(now)
             .hint([&] {
                 return group.contains(QLatin1Char(','))
-                           ? QStringLiteral("name one product group only")
+                           ? "name one product group only"
                            : PxSpelling::hint(group,
                                               PxFormat::keywordNames(PxKeywordSet::ProductGroup));
             });
@@ -129,70 +123,65 @@ void PxThemeElementCheck::checkGroup() const
 
 void PxThemeElementCheck::checkExpiry() const
 {
-    static const QRegularExpression ourDay(QStringLiteral("^\\d{4}-\\d\\d-\\d\\d$"));
-    const QString text = m_theme.value(QStringLiteral("expiry"));
-    const PxSourceRange range = m_theme.rangeOf(QStringLiteral("expiry"));
-    const PxMissingPart missing =
-        PxElementReading(m_theme, PxFileKind::Theme).missing(QStringLiteral("expiry"));
-    const QString now = QStringLiteral("the theme has expired, it is never offered");
+    static const QRegularExpression ourDay("^\\d{4}-\\d\\d-\\d\\d$");
+    const QString text = m_theme.value("expiry");
+    const PxSourceRange range = m_theme.rangeOf("expiry");
+    const PxMissingPart missing = PxElementReading(m_theme, PxFileKind::Theme).missing("expiry");
+    const QString now = "the theme has expired, it is never offered";
     if (text.trimmed().isEmpty())
         m_report
             .add(PxTag::ThemeExpiryMissing, missing.range,
-                 m_theme.attribute(QStringLiteral("expiry"))
-                     ? QStringLiteral("the \"expiry\" of the theme is empty")
-                     : QStringLiteral("the theme has no \"expiry\""))
+                 m_theme.attribute("expiry") ? "the \"expiry\" of the theme is empty"
+                                             : "the theme has no \"expiry\"")
             .now(now)
-            .hint(missing.hintOr(QStringLiteral("write year to minute, as in \"205012312359\"")));
+            .hint(missing.hintOr("write year to minute, as in \"205012312359\""));
     else if (!m_expiry.isValid())
         m_report
             .add(PxTag::ThemeExpiryMalformed, range,
-                 QStringLiteral("\"%1\" is no date and time").arg(text))
+                 QString("\"%1\" is no date and time").arg(text))
             .now(now)
             .hint([&] { return expiryHint(text); });
     else if (m_isExpired)
         m_report
             .add(PxTag::ThemeExpiryPast, range,
-                 QStringLiteral("the theme expired on %1")
-                     .arg(m_expiry.toString(QStringLiteral("yyyy-MM-dd 'at' HH:mm"))))
-            .now(QStringLiteral("it is not offered any more"));
+                 QString("the theme expired on %1").arg(m_expiry.toString("yyyy-MM-dd 'at' HH:mm")))
+            .now("it is not offered any more");
     else if (ourDay.match(text.trimmed()).hasMatch())
         m_report
-            .add(PxTag::ThemeExpiryDay, range,
-                 QStringLiteral("\"%1\" is a day without a time").arg(text))
-            .now(QStringLiteral("the theme expires when the day begins, at %1")
-                     .arg(m_expiry.toString(QStringLiteral("HH:mm"))))
-            .hint(QStringLiteral("write \"%1\" to include the day")
+            .add(PxTag::ThemeExpiryDay, range, QString("\"%1\" is a day without a time").arg(text))
+            .now(QString("the theme expires when the day begins, at %1")
+                     .arg(m_expiry.toString("HH:mm")))
+            .hint(QString("write \"%1\" to include the day")
                       .arg(m_expiry.date().endOfDay().toString(compactFormat)));
 }
 
 void PxThemeElementCheck::checkDescription() const
 {
-    const PxSourceElement *description = m_theme.firstChild(QStringLiteral("description"));
+    const PxSourceElement *description = m_theme.firstChild("description");
     if (description && !description->dom.text().trimmed().isEmpty())
         return;
     const PxMissingPart missing =
         description ? PxElementReading(*description, PxFileKind::Theme).missingText()
-                    : missingChild(description, QStringLiteral("description"));
+                    : missingChild(description, "description");
     m_report
         .add(PxTag::ThemeDescriptionMissing, missing.range,
-             description ? QStringLiteral("the \"description\" of the theme is empty")
-                         : QStringLiteral("the theme has no \"description\""))
-        .now(QStringLiteral("it is shown as \"%1\"")
-                 .arg(description ? QString() : QStringLiteral("unbekannt")))
+             description ? "the \"description\" of the theme is empty"
+                         : "the theme has no \"description\"")
+        .now(QString("it is shown as \"%1\"").arg(description ? QString() : "unbekannt"))
         .hint(missing.hint);
 }
 
 void PxThemeElementCheck::checkKeyAccounts() const
 {
-    const PxSourceElement *accounts = m_theme.firstChild(QStringLiteral("keyaccounts"));
+    const PxSourceElement *accounts = m_theme.firstChild("keyaccounts");
     if (!accounts || !accounts->dom.hasChildNodes()) {
-        const PxMissingPart missing = missingChild(accounts, QStringLiteral("keyaccounts"));
+        const PxMissingPart missing = missingChild(accounts, "keyaccounts");
         if (!m_isExpired) // nobody is offered it then anyway
             m_report
                 .add(PxTag::ThemeForNobody, missing.range,
-                     accounts ? QStringLiteral("\"keyaccounts\" names no key account")
-                              : QStringLiteral("the theme has no \"keyaccounts\""))
-                .now(QStringLiteral("the theme is offered to nobody"))
+                     accounts ? "\"keyaccounts\" names no key account"
+                              : "the theme has no \"keyaccounts\"")
+                .now("the theme is offered to nobody")
                 .hint(missing.hint);
         return;
     }
@@ -203,11 +192,10 @@ void PxThemeElementCheck::checkKeyAccounts() const
             continue;
         m_report
             .add(PxTag::ThemeKeyAccountMalformed, node.range,
-                 QStringLiteral("%1 directly in \"keyaccounts\"")
-                     .arg(PxSourceNode::kindText(node.kind)))
-            .now(QStringLiteral("it counts as key account 0"))
-            .hint(node.isText() ? QStringLiteral("write an element for each key account")
-                                : QStringLiteral("move it out of \"keyaccounts\""));
+                 QString("%1 directly in \"keyaccounts\"").arg(PxSourceNode::kindText(node.kind)))
+            .now("it counts as key account 0")
+            .hint(node.isText() ? "write an element for each key account"
+                                : "move it out of \"keyaccounts\"");
     }
 }
 
@@ -222,25 +210,24 @@ void PxThemeElementCheck::checkKeyAccount(const PxSourceElement &account) const
     m_report
         .add(PxTag::ThemeKeyAccountMalformed, missing.range,
              text.trimmed().isEmpty()
-                 ? QStringLiteral("the key account is empty")
-                 : QStringLiteral("\"%1\" is no number of a key account").arg(text.trimmed()))
-        .now(QStringLiteral("it counts as key account 0"))
-        .hint(text.contains(QLatin1Char(','))
-                  ? QStringLiteral("write an element for each key account")
-                  : missing.hint);
+                 ? "the key account is empty"
+                 : QString("\"%1\" is no number of a key account").arg(text.trimmed()))
+        .now("it counts as key account 0")
+        .hint(text.contains(QLatin1Char(',')) ? "write an element for each key account"
+                                              : missing.hint);
 }
 
 void PxThemeElementCheck::checkProducts() const
 {
-    const PxSourceElement *products = m_theme.firstChild(QStringLiteral("products"));
-    const bool isAnyThere = products && products->firstChild(QStringLiteral("product"));
+    const PxSourceElement *products = m_theme.firstChild("products");
+    const bool isAnyThere = products && products->firstChild("product");
     if (!isAnyThere)
         checkMissingProducts(products);
     if (!isAnyThere || m_types.isEmpty())
         return;
     QVector<const PxSourceElement *> unknown;
     bool isAnyKnown = false;
-    for (const PxSourceElement *product : products->childrenNamed(QStringLiteral("product"))) {
+    for (const PxSourceElement *product : products->childrenNamed("product")) {
         const QString name = product->dom.text();
         if (PxProductType(name).isValid() || m_types.isListed(name))
             isAnyKnown = true;
@@ -255,11 +242,10 @@ void PxThemeElementCheck::checkProducts() const
         const PxMissingPart text = textOf(*unknown.constFirst());
         m_report
             .add(tag, text.hint.isEmpty() ? products->nameRange : text.range,
-                 unknown.size() == 1 ? QStringLiteral("%1, and no other is there")
-                                           .arg(unknownText(*unknown.constFirst()))
-                                     : QStringLiteral("none of %1 names is a known product name")
-                                           .arg(unknown.size()))
-            .now(QStringLiteral("the theme is allowed for every product"))
+                 unknown.size() == 1
+                     ? QString("%1, and no other is there").arg(unknownText(*unknown.constFirst()))
+                     : QString("none of %1 names is a known product name").arg(unknown.size()))
+            .now("the theme is allowed for every product")
             .hint([&] {
                 return text.hintOr(productHint(unknown.constFirst()->dom.text(), m_types));
             });
@@ -268,9 +254,9 @@ void PxThemeElementCheck::checkProducts() const
     for (const PxSourceElement *product : unknown) {
         constexpr PxTag tag = PxTag::ThemeProductUnknown;
         const PxMissingPart text = textOf(*product);
-        m_report.add(tag, text.range, unknownText(*product))
-            .now(QStringLiteral("it is left out"))
-            .hint([&] { return text.hintOr(productHint(product->dom.text(), m_types)); });
+        m_report.add(tag, text.range, unknownText(*product)).now("it is left out").hint([&] {
+            return text.hintOr(productHint(product->dom.text(), m_types));
+        });
     }
 }
 
@@ -278,21 +264,20 @@ void PxThemeElementCheck::checkProducts() const
 void PxThemeElementCheck::checkMissingProducts(const PxSourceElement *products) const
 {
     const PxMissingPart missing =
-        products
-            ? PxElementReading(*products, PxFileKind::Theme).missingEntries()
-            : PxElementReading(m_theme, PxFileKind::Theme).missingChild(QStringLiteral("products"));
+        products ? PxElementReading(*products, PxFileKind::Theme).missingEntries()
+                 : PxElementReading(m_theme, PxFileKind::Theme).missingChild("products");
     if (missing.hint.isEmpty())
         return; // every product is meant
     m_report
         .add(PxTag::ThemeProductsAllUnknown, missing.range,
-             products ? QStringLiteral("no \"product\" in the \"products\" of the theme")
-                      : QStringLiteral("the theme has no \"products\""))
-        .now(QStringLiteral("the theme is allowed for every product"))
+             products ? "no \"product\" in the \"products\" of the theme"
+                      : "the theme has no \"products\"")
+        .now("the theme is allowed for every product")
         .hint(missing.hint);
 }
 
 PxMissingPart PxThemeElementCheck::missingChild(const PxSourceElement *child,
-                                                const QString &name) const
+                                                const char *name) const
 {
     return child ? PxMissingPart{child->nameRange, QString()}
                  : PxElementReading(m_theme, PxFileKind::Theme).missingChild(name);

@@ -26,7 +26,7 @@ private:
     void checkKeyAccount(const PxSourceElement &account) const;
     void checkProducts() const;
     void checkMissingProducts(const PxSourceElement *products) const;
-    PxMissingPart missingChild(const PxSourceElement *child, const QString &name) const;
+    PxMissingPart missingChild(const PxSourceElement *child, const char *name) const;
 
     const PxSourceElement &m_theme;
     PxListedProductTypes &m_types;

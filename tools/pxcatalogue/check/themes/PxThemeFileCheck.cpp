@@ -12,14 +12,14 @@ void PxThemeFileCheck::run()
     if (root->name.toLower() != QLatin1String("themes")) {
         m_report
             .add(PxTag::ThemeRootWrong, root->nameRange,
-                 QStringLiteral("the document element is \"%1\", not \"themes\"").arg(root->name))
-            .now(QStringLiteral("nothing is read from this file"));
+                 QString("the document element is \"%1\", not \"themes\"").arg(root->name))
+            .now("nothing is read from this file");
         return;
     }
     checkStrayNodes(*root);
     for (const PxSourceElement *theme : root->children) { // whatever they are called
         PxThemeElementCheck(*theme, m_types, m_report).run();
-        if (const PxSourceElement *logos = theme->firstChild(QStringLiteral("logos")))
+        if (const PxSourceElement *logos = theme->firstChild("logos"))
             PxThemeLogoCheck(*logos, m_types, m_report).run();
     }
     PxThemeImageCheck(m_images, m_report).run();
@@ -32,9 +32,8 @@ void PxThemeFileCheck::checkStrayNodes(const PxSourceElement &root) const
             continue;
         m_report
             .add(PxTag::ThemeStrayNode, node.range,
-                 QStringLiteral("%1 directly in \"%2\"")
-                     .arg(PxSourceNode::kindText(node.kind), root.name))
-            .now(QStringLiteral("it becomes a theme \"unbekannt\" that has expired"))
-            .hint(QStringLiteral("move it into a theme, or above \"%1\"").arg(root.name));
+                 QString("%1 directly in \"%2\"").arg(PxSourceNode::kindText(node.kind), root.name))
+            .now("it becomes a theme \"unbekannt\" that has expired")
+            .hint(QString("move it into a theme, or above \"%1\"").arg(root.name));
     }
 }

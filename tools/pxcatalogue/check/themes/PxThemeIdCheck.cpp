@@ -13,7 +13,7 @@ namespace {
 
 QString defaultThemeId()
 {
-    return QStringLiteral("normal");
+    return "normal";
 }
 
 } // namespace
@@ -38,12 +38,12 @@ void PxThemeIdCheck::addFile(const PxCheckedFile &file)
 
 void PxThemeIdCheck::addId(const PxCheckedFile &file, const PxSourceElement &theme)
 {
-    const QString id = theme.value(QStringLiteral("id")).toLower();
+    const QString id = theme.value("id").toLower();
     if (id.isEmpty()) {
         m_hasUnnamed = true;
         return;
     }
-    const PxPlace place = file.place(theme.rangeOf(QStringLiteral("id")));
+    const PxPlace place = file.place(theme.rangeOf("id"));
     const auto first = m_themes.constFind(id);
     if (first == m_themes.constEnd() || !isReadBeside(*first, file))
         m_themes.insert(id, place);
@@ -56,13 +56,12 @@ void PxThemeIdCheck::reportTwice(const QString &id, const PxPlace &first,
 {
     m_report
         .add(PxTag::ThemeIdTwice, second,
-             QStringLiteral("the id \"%1\" is also in %2").arg(id, PxFinding::otherPlaceMark))
+             QString("the id \"%1\" is also in %2").arg(id, PxFinding::otherPlaceMark))
         .otherPlace(first)
         .now(first.path == second.path
-                 ? QStringLiteral(
-                       "looking for one theme finds the first, looking up a list the last")
-                 : QStringLiteral("looking for one theme finds the one, looking up a list the "
-                                  "other, as the file system lists the files"));
+                 ? "looking for one theme finds the first, looking up a list the last"
+                 : "looking for one theme finds the one, looking up a list the other, as the file "
+                   "system lists the files");
 }
 
 /** A file elsewhere, say a draft of one that is known, is not read beside that one. */
@@ -80,10 +79,10 @@ void PxThemeIdCheck::run()
     const auto *factory = PxThemeFactory::instance();
     m_report
         .add(PxTag::ThemeNoDefault, meant.isEmpty() ? m_firstRoot : m_themes.value(meant),
-             QStringLiteral("no theme has the id \"normal\""))
+             "no theme has the id \"normal\"")
         .now(factory->themeList().isEmpty()
-                 ? QStringLiteral("there is no default theme")
-                 : QStringLiteral("\"%1\", the first theme, is the default theme")
+                 ? "there is no default theme"
+                 : QString("\"%1\", the first theme, is the default theme")
                        .arg(factory->defaultTheme().id()))
         .hint(meant.isEmpty() ? QString() : PxSpelling::didYouMean(defaultThemeId()));
 }
@@ -104,8 +103,8 @@ QStringList PxThemeIdCheck::ids() const
 bool PxThemeIdCheck::isComplete() const
 {
     const QFileInfoList files =
-        PxDirectoryConfig::instance()->lumoThemesDirectory(false).entryInfoList(
-            {QStringLiteral("*.xml")}, QDir::Files);
+        PxDirectoryConfig::instance()->lumoThemesDirectory(false).entryInfoList({"*.xml"},
+                                                                                QDir::Files);
     return !m_hasUnnamed && !m_files.isEmpty() &&
            std::all_of(files.begin(), files.end(), [this](const QFileInfo &file) {
                return m_files.contains(file.canonicalFilePath());

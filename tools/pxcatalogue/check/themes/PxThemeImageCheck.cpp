@@ -37,7 +37,7 @@ void PxThemeImageCheck::run()
 {
     for (const PxSourceElement *theme : m_report.file().root()->children) {
         checkThumbnail(*theme);
-        if (const PxSourceElement *logos = theme->firstChild(QStringLiteral("logos"))) {
+        if (const PxSourceElement *logos = theme->firstChild("logos")) {
             for (const PxSourceElement *logo : logos->children)
                 checkLogo(*logo);
         }
@@ -48,17 +48,16 @@ void PxThemeImageCheck::run()
 /** The image is a path in the resource directories. */
 void PxThemeImageCheck::checkLogo(const PxSourceElement &logo)
 {
-    const PxSourceAttribute *name = logo.attribute(QStringLiteral("filename"));
+    const PxSourceAttribute *name = logo.attribute("filename");
     if (name && !name->value.isEmpty()) {
         checkImage(
             {name, PxDirectoryConfig::instance()->resource(name->value.toLower(), false), logoNow});
         return;
     }
-    const PxMissingPart missing =
-        PxElementReading(logo, PxFileKind::Theme).missing(QStringLiteral("filename"));
+    const PxMissingPart missing = PxElementReading(logo, PxFileKind::Theme).missing("filename");
     m_report
         .add(PxTag::ThemeImageMissing, missing.range,
-             QStringLiteral("the logo names no image: \"filename\" is %1")
+             QString("the logo names no image: \"filename\" is %1")
                  .arg(name ? QLatin1String("empty") : QLatin1String("missing")))
         .now(logoNow)
         .hint(missing.hint);
@@ -67,7 +66,7 @@ void PxThemeImageCheck::checkLogo(const PxSourceElement &logo)
 /** A relative one is kept until all are known. */
 void PxThemeImageCheck::checkThumbnail(const PxSourceElement &theme)
 {
-    const PxSourceAttribute *name = theme.attribute(QStringLiteral("thumbnail"));
+    const PxSourceAttribute *name = theme.attribute("thumbnail");
     if (!name || name->value.isEmpty())
         return; // no preview is meant
     if (QDir::isAbsolutePath(name->value))
@@ -117,13 +116,14 @@ void PxThemeImageCheck::checkImage(const Image &image)
     const QString lowered = written.toLower();
     const bool isLowered = written != lowered && !result.isThere;
     m_report
-        .add(isLowered         ? PxTag::ThemeImagePathLowered
-             : result.isCutOff ? PxTag::ThemeImageCutOff
-                               : PxTag::ThemeImageMissing,
-             image.attribute->valueRange,
-             isLowered ? QStringLiteral("\"%1\" is looked up as \"%2\", which is not there")
-                             .arg(written, lowered)
-                       : QStringLiteral("\"%1\" %2").arg(lowered, result.fault))
+        .add(
+            isLowered         ? PxTag::ThemeImagePathLowered
+            : result.isCutOff ? PxTag::ThemeImageCutOff
+                              : PxTag::ThemeImageMissing,
+            image.attribute->valueRange,
+            isLowered
+                ? QString("\"%1\" is looked up as \"%2\", which is not there").arg(written, lowered)
+                : QString("\"%1\" %2").arg(lowered, result.fault))
         .now(result.image.isNull() ? image.now : partNow)
         .hint([&] { return hint(image); });
 }
@@ -139,6 +139,6 @@ QString PxThemeImageCheck::hint(const Image &image)
     const QString asWritten =
         image.path.endsWith(lowered) ? image.path.chopped(lowered.size()) + written : QString();
     if (written != lowered && QFileInfo::exists(asWritten))
-        return QStringLiteral("rename the file to lower case");
+        return "rename the file to lower case";
     return m_names.hint(lowered, info);
 }

@@ -18,15 +18,15 @@ void PxThemeLogoCheck::run()
 
 void PxThemeLogoCheck::checkProduct(const PxSourceElement &logo)
 {
-    const QString booktype = QStringLiteral("booktype");
+    constexpr const char *booktype = "booktype";
     const QString name = logo.value(booktype);
-    const QString now = QStringLiteral("the logo belongs to no product");
+    const QString now = "the logo belongs to no product";
     const PxProductType type(name.toUpper());
     if (name.trimmed().isEmpty()) {
         const PxMissingPart missing = PxElementReading(logo, PxFileKind::Theme).missing(booktype);
         m_report
             .add(PxTag::ThemeLogoProductMissing, missing.range,
-                 QStringLiteral("the logo names no product: \"booktype\" is %1")
+                 QString("the logo names no product: \"booktype\" is %1")
                      .arg(logo.attribute(booktype) ? QLatin1String("empty")
                                                    : QLatin1String("missing")))
             .now(now)
@@ -36,15 +36,15 @@ void PxThemeLogoCheck::checkProduct(const PxSourceElement &logo)
         if (known)
             m_report
                 .add(PxTag::ThemeLogoTwice, logo.rangeOf(booktype),
-                     QStringLiteral("%1 has a logo in %2, too")
+                     QString("%1 has a logo in %2, too")
                          .arg(type.productName(), PxFinding::otherPlaceMark))
                 .otherPlace(m_report.file().place(known->nameRange))
-                .now(QStringLiteral("the later one is used, image and place together"));
+                .now("the later one is used, image and place together");
         known = &logo;
     } else if (!m_types.isEmpty() && !m_types.isListed(name)) {
         m_report
             .add(PxTag::ThemeLogoProductUnknown, logo.rangeOf(booktype),
-                 QStringLiteral("\"%1\" is no known product name").arg(name))
+                 QString("\"%1\" is no known product name").arg(name))
             .now(now)
             .hint([&] { return m_types.hint(name); });
     }
@@ -57,8 +57,8 @@ void PxThemeLogoCheck::checkPlace(const PxSourceElement &logo) const
         return;
     constexpr int unreadable = std::numeric_limits<int>::min();
     QStringList missing;
-    QString culprit = QStringLiteral("width");
-    for (const QString &side : {QStringLiteral("height"), QStringLiteral("width")}) {
+    const char *culprit = "width";
+    for (const char *side : {"height", "width"}) {
         const int length = PxXMLParser::intAttribute(logo.dom, side, unreadable);
         if (!logo.attribute(side))
             missing.prepend(side);
@@ -70,16 +70,15 @@ void PxThemeLogoCheck::checkPlace(const PxSourceElement &logo) const
     if (missing.isEmpty()) {
         m_report
             .add(PxTag::ThemeLogoWithoutPlace, logo.rangeOf(culprit),
-                 QStringLiteral("the place of the logo is empty or too far out"))
-            .now(QStringLiteral("it is %1 x %2 large").arg(rect.width()).arg(rect.height()));
+                 "the place of the logo is empty or too far out")
+            .now(QString("it is %1 x %2 large").arg(rect.width()).arg(rect.height()));
         return;
     }
     const PxMissingPart side =
-        PxElementReading(logo, PxFileKind::Theme).missing(missing.constFirst());
+        PxElementReading(logo, PxFileKind::Theme).missing(qPrintable(missing.constFirst()));
     m_report
         .add(PxTag::ThemeLogoWithoutPlace, side.range,
-             QStringLiteral("the logo has no %1")
-                 .arg(PxMessageText::quotedList(missing, QStringLiteral(" and no "))))
-        .now(QStringLiteral("it has no place"))
+             QString("the logo has no %1").arg(PxMessageText::quotedList(missing, " and no ")))
+        .now("it has no place")
         .hint(side.hint);
 }

@@ -8,11 +8,11 @@
 PxListedProductTypes::PxListedProductTypes(bool isChecked) : m_isChecked(isChecked)
 {
     const QDomElement catalogue = PxXMLLoader::loadDocumentElement(
-        PxDirectoryConfig::instance()->resource(QStringLiteral("producttypes.xml"), false));
-    const QString tag = QStringLiteral("producttype");
+        PxDirectoryConfig::instance()->resource("producttypes.xml", false));
+    constexpr const char *tag = "producttype";
     for (QDomElement row = catalogue.firstChildElement(); !row.isNull();
          row = row.nextSiblingElement()) {
-        const QString name = row.attribute(QStringLiteral("name"));
+        const QString name = row.attribute("name");
         m_keys.insert(key(name));
         if (name.isEmpty())
             addKeysOf(row);

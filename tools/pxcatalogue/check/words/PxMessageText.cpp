@@ -12,7 +12,7 @@ QString PxMessageText::quotedList(const QStringList &names, const QString &last)
     QString list;
     for (int i = 0; i < names.size(); ++i) {
         if (i > 0)
-            list += i == names.size() - 1 ? last : QStringLiteral(", ");
+            list += i == names.size() - 1 ? last : ", ";
         list += quoted(names[i]);
     }
     return list;
@@ -24,5 +24,5 @@ QString PxMessageText::shortened(const QString &value)
     if (value.size() <= maximum)
         return value;
     const bool isInPair = value[maximum - 1].isHighSurrogate();
-    return value.left(isInPair ? maximum - 1 : maximum) + QStringLiteral("…");
+    return value.left(isInPair ? maximum - 1 : maximum) + "…";
 }

@@ -41,12 +41,12 @@ bool PxSpelling::isNear(const QString &word, const QString &name)
 
 QString PxSpelling::didYouMean(const QString &name)
 {
-    return QStringLiteral("did you mean \"%1\"?").arg(name);
+    return QString("did you mean \"%1\"?").arg(name);
 }
 
 QStringList PxSpelling::words(const QString &list)
 {
-    static const QRegularExpression ourSeparators(QStringLiteral("[;|/+\\s]+"));
+    static const QRegularExpression ourSeparators("[;|/+\\s]+");
     if (list.size() > PxCheckLimits::wordListLength)
         return {list};
     return list.split(ourSeparators, Qt::SkipEmptyParts);
