@@ -84,10 +84,7 @@ bool PxCatalogueCheck::checkNames() const
             const bool isSameKind = first->isLegacy == product.isLegacy;
             m_report
                 .add(isSameKind ? PxTag::ProductNameTwice : PxTag::ProductCurrentAndLegacy,
-                     product.name,
-                     QString("%1 is also in %2")
-                         .arg(product.type.productName(), PxFinding::otherPlaceMark))
-                .otherPlace(first->name)
+                     product.name, "%1 is also in %2", product.type.productName(), first->name)
                 .now(isSameKind
                          ? "which of the two is used depends on the file system"
                          : "it is a current and an older product, each with its own description");
@@ -108,8 +105,8 @@ void PxCatalogueCheck::checkPredecessors() const
             continue;
         if (!legacy.isValid() && !m_names.isListed(product.legacyName))
             m_report
-                .add(PxTag::LegacyUnknown, product.legacy,
-                     QString("\"%1\" is no known product name").arg(product.legacyName))
+                .add(PxTag::LegacyUnknown, product.legacy, "\"%1\" is no known product name",
+                     product.legacyName)
                 .now("the product replaces no older one")
                 .hint([&] { return m_names.hint(product.legacyName); });
         if (!legacy.isValid() || product.isLegacy || !product.type.isValid())
@@ -117,11 +114,8 @@ void PxCatalogueCheck::checkPredecessors() const
         const Product *&other = successors[legacy];
         if (other && other->type != product.type)
             m_report
-                .add(PxTag::LegacyClaimedTwice, product.legacy,
-                     QString("%1 is also replaced by %2, in %3")
-                         .arg(legacy.productName(), other->type.productName(),
-                              PxFinding::otherPlaceMark))
-                .otherPlace(other->legacy)
+                .add(PxTag::LegacyClaimedTwice, product.legacy, "%1 is also replaced by %2, in %3",
+                     legacy.productName(), other->type.productName(), other->legacy)
                 .now("either of the two may be found for it");
         else
             other = &product;
@@ -147,11 +141,9 @@ void PxCatalogueCheck::checkSizes() const
             continue;
         m_report
             .add(PxTag::SizeImplausible, product.width,
-                 QString("%1 x %2 is far from the size of nearly all other products of its class, "
-                         "where about %3 is usual for the longer side")
-                     .arg(product.size.width())
-                     .arg(product.size.height())
-                     .arg(ofClass.at(ofClass.size() / 2)))
+                 "%1 x %2 is far from the size of nearly all other products of its class, where "
+                 "about %3 is usual for the longer side",
+                 product.size.width(), product.size.height(), ofClass.at(ofClass.size() / 2))
             .now("the size is taken as it is")
             .hint("lengths are tenths of a millimetre");
     }
@@ -164,8 +156,8 @@ void PxCatalogueCheck::checkTypesHaveFiles() const
         left.remove(product.type);
     for (auto type = left.begin(); type != left.end(); ++type)
         m_report
-            .add(PxTag::ProductTypeWithoutFile, *type,
-                 QString("no product file describes %1").arg(type.key().productName()))
+            .add(PxTag::ProductTypeWithoutFile, *type, "no product file describes %1",
+                 type.key().productName())
             .now("the product is known, but not offered");
 }
 

@@ -156,7 +156,7 @@ void PxCheck::checkProduct(const PxCheckedFile &file, bool isLegacy)
     if (!root.firstChild("product")) {
         report
             .add(PxTag::ProductElementMissing, root.nameRange,
-                 QString("no \"product\" element below \"%1\"").arg(root.name))
+                 "no \"product\" element below \"%1\"", root.name)
             .now("nothing is read from this file")
             .hint(hintForProductOf(root));
         return;
@@ -193,8 +193,7 @@ void PxCheck::checkStrays() const
     for (auto it = undecodable.begin(); it != undecodable.end(); ++it)
         PxReporter(m_findings)
             .add(PxTag::FileNameUndecodable, PxPlace{it.key()},
-                 QString("names of XML files that are not in the encoding of the locale: %1")
-                     .arg(*it))
+                 "names of XML files that are not in the encoding of the locale: %1", *it)
             .now("the library passes them over")
             .hint("rename them; an archive may have been unpacked in another encoding");
     for (const QString &path : m_paths.strays)

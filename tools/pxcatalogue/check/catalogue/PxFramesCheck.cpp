@@ -27,9 +27,7 @@ void PxFramesCheck::run()
         const PxSourceRange range = frame->rangeOf("id");
         if (frame->value(missing).isEmpty()) {
             const PxMissingPart part = PxElementReading(*frame, row).missing(missing);
-            m_report
-                .add(PxTag::FrameIncomplete, part.range,
-                     QString("the frame has no \"%1\"").arg(missing))
+            m_report.add(PxTag::FrameIncomplete, part.range, "the frame has no \"%1\"", missing)
                 .now(id.isEmpty() ? "it is left out" : QString("it is shown as \"%1\"").arg(id))
                 .hint(part.hint);
             continue;
@@ -37,14 +35,11 @@ void PxFramesCheck::run()
         const PxSourceElement *&known = frames[id];
         if (known)
             m_report
-                .add(PxTag::FrameIdTwice, range,
-                     QString("the frame \"%1\" is in %2, too").arg(id, PxFinding::otherPlaceMark))
-                .otherPlace(m_report.file().place(known->nameRange))
-                .now(QString("the later name is shown: \"%1\"").arg(frame->value("name")));
+                .add(PxTag::FrameIdTwice, range, "the frame \"%1\" is in %2, too", id,
+                     m_report.place(known->nameRange))
+                .now("the later name is shown: \"%1\"", frame->value("name"));
         else if (!isAscii(id))
-            m_report
-                .add(PxTag::FrameIdNotAscii, range,
-                     QString("the id \"%1\" is not plain ASCII").arg(id))
+            m_report.add(PxTag::FrameIdNotAscii, range, "the id \"%1\" is not plain ASCII", id)
                 .now("it is found by exactly these letters");
         known = frame;
     }

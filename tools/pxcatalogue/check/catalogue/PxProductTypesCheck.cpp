@@ -55,49 +55,52 @@ void PxProductTypesCheck::checkRow(const PxSourceElement &row)
     const QString key = name.toCaseFolded();
     if (!readingOf(row).isReadable("code"))
         return; // the row is left out for it, which is reported where values are checked
-    const QString mark = PxFinding::otherPlaceMark;
     if (code < 1) {
         drop(row, "code",
-             codeText.isEmpty() ? "the product type has no \"code\""
-                                : QString("\"%1\" is no code above 0").arg(codeText));
+             codeText.isEmpty() ? "the product type has no \"code\"" : "\"%1\" is no code above 0",
+             codeText);
     } else if (name.isEmpty()) {
         drop(row, "name", "the product type has no \"name\"");
     } else if (m_rowOfCode.contains(code)) {
-        drop(row, "code", QString("%1 has the code %2, too").arg(mark).arg(code))
-            .otherPlace(m_report.file().place(m_rowOfCode.value(code)->nameRange));
+        drop(row, "code", "%1 has the code %2, too",
+             m_report.place(m_rowOfCode.value(code)->nameRange), code);
     } else if (m_rowOfName.contains(key)) {
-        drop(row, "name", QString("%1 has the name \"%2\", too").arg(mark, name))
-            .otherPlace(m_report.file().place(m_rowOfName.value(key)->nameRange));
+        drop(row, "name", "%1 has the name \"%2\", too",
+             m_report.place(m_rowOfName.value(key)->nameRange), name);
     } else if (PxFormat::decode(PxKeywordSet::ProductClass, row.value("class")) ==
                PxProductClassUnknown) {
         dropClass(row);
     } else {
         m_rowOfCode.insert(code, &row);
         m_rowOfName.insert(key, &row);
-        m_places.insert(PxProductType(code), m_report.file().place(row.rangeOf("name")));
+        m_places.insert(PxProductType(code), m_report.place(row.rangeOf("name")));
         checkStyle(row, name);
     }
 }
 
+template <typename... Arguments>
 PxAddedFinding PxProductTypesCheck::drop(const PxSourceElement &row, const char *attribute,
-                                         const QString &message, const QString &hint) const
+                                         const QString &message,
+                                         const Arguments &...arguments) const
 {
     const PxMissingPart missing = readingOf(row).missing(attribute);
-    return m_report.add(PxTag::ProductTypeRowDropped, missing.range, message)
+    return m_report.add(PxTag::ProductTypeRowDropped, missing.range, message, arguments...)
         .now("the product type is left out")
-        .hint(missing.hintOr(hint));
+        .hint(missing.hint);
 }
 
 void PxProductTypesCheck::dropClass(const PxSourceElement &row) const
 {
     const QString text = row.value("class");
     const QStringList classes = PxFormat::keywordNames(PxKeywordSet::ProductClass);
-    drop(row, "class",
-         text.trimmed().isEmpty() ? "the product type has no \"class\""
-                                  : QString("\"%1\" is no product class").arg(text),
-         text.trimmed().isEmpty()
-             ? QString("it is one of %1").arg(classes.join(QLatin1String(", ")))
-             : PxSpelling::hint(text, classes));
+    const bool isEmpty = text.trimmed().isEmpty();
+    PxAddedFinding dropped =
+        drop(row, "class",
+             isEmpty ? "the product type has no \"class\"" : "\"%1\" is no product class", text);
+    if (!isEmpty)
+        dropped.hint([&] { return PxSpelling::hint(text, classes); });
+    else if (!readingOf(row).isMisspelt("class"))
+        dropped.hint("it is one of %1", classes.join(", "));
 }
 
 void PxProductTypesCheck::checkStyle(const PxSourceElement &row, const QString &name) const
@@ -106,12 +109,12 @@ void PxProductTypesCheck::checkStyle(const PxSourceElement &row, const QString &
     if (!ourStyle.match(name).hasMatch())
         m_report
             .add(PxTag::ProductTypeNameUnsafe, row.rangeOf("name"),
-                 QString("\"%1\" is not all upper-case ASCII letters, digits and \"_\"").arg(name))
+                 "\"%1\" is not all upper-case ASCII letters, digits and \"_\"", name)
             .now("the product is found by the name in any case");
     if (row.value("shortname").isEmpty())
         m_report
             .add(PxTag::ProductTypeShortnameMissing, row.rangeOf("shortname"),
                  row.attribute("shortname") ? "the \"shortname\" of the product type is empty"
                                             : "the product type has no \"shortname\"")
-            .now(QString("\"%1\" is shown").arg(name));
+            .now("\"%1\" is shown", name);
 }

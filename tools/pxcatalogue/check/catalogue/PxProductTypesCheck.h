@@ -21,8 +21,9 @@ public:
 private:
     void checkRow(const PxSourceElement &row);
     void checkMisspelt(const PxSourceElement &root) const;
+    template <typename... Arguments>
     PxAddedFinding drop(const PxSourceElement &row, const char *attribute, const QString &message,
-                        const QString &hint = QString()) const;
+                        const Arguments &...arguments) const;
     void dropClass(const PxSourceElement &row) const;
     void checkStyle(const PxSourceElement &row, const QString &name) const;
 

@@ -19,7 +19,7 @@ void PxBackgroundCategoryCheck::run()
         if (name != part.text) {
             m_report
                 .add(PxTag::CategoryBlank, part.whole,
-                     QString("the category \"%1\" has a blank at its edge").arg(part.text))
+                     "the category \"%1\" has a blank at its edge", part.text)
                 .now("no background is of this category")
                 .hint(name.isEmpty() ? QString() : PxSpelling::didYouMean(name));
             continue;
@@ -31,8 +31,8 @@ void PxBackgroundCategoryCheck::run()
         if (first == name || !(category == other))
             continue;
         m_report
-            .add(PxTag::CategoryCaseTwice, part.range,
-                 QString("the category \"%1\" is also written \"%2\"").arg(name, first))
+            .add(PxTag::CategoryCaseTwice, part.range, "the category \"%1\" is also written \"%2\"",
+                 name, first)
             .now("both are kept")
             .hint("keep the spelling that the backgrounds have");
     }

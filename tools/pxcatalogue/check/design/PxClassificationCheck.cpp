@@ -19,16 +19,16 @@ void PxClassificationCheck::run()
     }
     if (!missing.isEmpty())
         m_report
-            .add(PxTag::ClassificationIncomplete, element->nameRange,
-                 QString("nothing is said about %1").arg(PxMessageText::quotedList(missing)))
+            .add(PxTag::ClassificationIncomplete, element->nameRange, "nothing is said about %1",
+                 PxMessageText::quotedList(missing))
             .now("size name or material are empty");
 
     const PxProductMaterial material = m_product.description().classification().material();
     if (material.value().trimmed().isEmpty() || !material.visibleDescription().isEmpty())
         return;
     m_report
-        .add(PxTag::MaterialUnknown, element->rangeOf("group"),
-             QString("\"%1\" is no material").arg(material.value()))
+        .add(PxTag::MaterialUnknown, element->rangeOf("group"), "\"%1\" is no material",
+             material.value())
         .now("it is a material of its own, without a display name")
         .hint(PxSpelling::hint(material.value(), PxFormat::keywordNames(PxKeywordSet::Material)));
 }

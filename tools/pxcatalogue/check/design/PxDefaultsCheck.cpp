@@ -56,7 +56,7 @@ void PxDefaultsCheck::checkNesting(const QVector<const PxSourceElement *> &conta
              PxDefaultsEntry::isEntry(misplaced)
                  ? QString("an entry directly in \"%1\"").arg(m_parent.name)
                  : "a second container of \"defaults\"")
-        .now(QString("only what is in the first \"defaults\" is read: %1 entries").arg(entries))
+        .now("only what is in the first \"defaults\" is read: %1 entries", entries)
         .hint("put all entries into one \"defaults\"");
 }
 
@@ -79,9 +79,9 @@ void PxDefaultsCheck::checkThemes(const PxDefaultsEntry &entry) const
         // Other themes fall back to this one, whether it is there or not.
         if (id.isEmpty() || id == QLatin1String("normal") || m_themeIds.contains(id))
             continue;
-        m_report.add(tag, part.range, QString("there is no theme \"%1\"").arg(id))
-            .now(now)
-            .hint([&] { return m_themeIds.hint(id); });
+        m_report.add(tag, part.range, "there is no theme \"%1\"", id).now(now).hint([&] {
+            return m_themeIds.hint(id);
+        });
     }
 }
 

@@ -61,7 +61,7 @@ QVector<PxDefaultsOverrides::Page> PxDefaultsOverrides::pagesOf(const PxDefaults
 void PxDefaultsOverrides::report(const PxDefaultsEntry &entry, const PxDefaultsEntry &replaced,
                                  bool isWhole, const Page &page) const
 {
-    const QString line = m_report.line(replaced.element().nameRange);
+    const PxPlace place = m_report.place(replaced.element().nameRange);
     const auto [theme, pageType, alignment] = page;
     const QString side =
         EnumHelper::encodeKeyword(static_cast<PxPageAlignment>(alignment),
@@ -72,13 +72,9 @@ void PxDefaultsOverrides::report(const PxDefaultsEntry &entry, const PxDefaultsE
     const QString lost = isLayout ? QString("the layout \"%1\"").arg(before.layout)
                                   : QString("the background \"%1\"").arg(before.background);
     m_report
-        .add(PxTag::DefaultsOverridden, entry.element().nameRange,
-             QString("replaces %1 for %2/%3/%4")
-                 .arg(PxFinding::otherPlaceMark, theme,
-                      PxPageType(static_cast<PxPageTypeEnum>(pageType)).encodeCSV(), side))
-        .otherPlace(m_report.file().place(replaced.element().nameRange))
-        .now(isWhole ? QString("%1 is never used").arg(line)
-                     : QString("%1 of %2 is lost there").arg(lost, line))
+        .add(PxTag::DefaultsOverridden, entry.element().nameRange, "replaces %1 for %2/%3/%4",
+             place, theme, PxPageType(static_cast<PxPageTypeEnum>(pageType)).encodeCSV(), side)
+        .now(isWhole ? "%1 is never used" : "%2 of %1 is lost there", place, lost)
         .hint(isWhole ? "keep the one that is meant"
                       : "an entry names layout and background, also what does not change");
 }

@@ -22,9 +22,8 @@ void PxVariantCheck::run()
         const PxMissingPart text = PxElementReading(*list->children.constFirst()).missingText();
         m_report
             .add(PxTag::VariantUnnamed, text.hint.isEmpty() ? list->nameRange : text.range,
-                 QString("none of the %1 variants has a display name for %2")
-                     .arg(all.size())
-                     .arg(m_product.type().productName()))
+                 "none of the %1 variants has a display name for %2", all.size(),
+                 m_product.type().productName())
             .now("the product has no variants")
             .hint(text.hint);
     } else {
@@ -40,9 +39,8 @@ void PxVariantCheck::checkEach(const PxSourceElement &list) const
         const PxSourceElement *first = known.value(identifier);
         if (first && !identifier.trimmed().isEmpty()) {
             m_report
-                .add(PxTag::VariantTwice, variant->textRange(),
-                     QString("\"%1\" is also in %2").arg(identifier, PxFinding::otherPlaceMark))
-                .otherPlace(m_report.file().place(first->nameRange))
+                .add(PxTag::VariantTwice, variant->textRange(), "\"%1\" is also in %2", identifier,
+                     m_report.place(first->nameRange))
                 .now("it is shown once")
                 .hint("take one of them out");
             continue;

@@ -68,8 +68,8 @@ void PxAllowanceComments::checkNoAllowance(const PxSourceNode &node) const
         !PxSpelling::isNear(words.captured(1), "allow"))
         return;
     m_report
-        .add(PxTag::AllowanceUnused, node.range,
-             QString("the comment names \"%1\", but does not allow it").arg(tag))
+        .add(PxTag::AllowanceUnused, node.range, "the comment names \"%1\", but does not allow it",
+             tag)
         .now("the comment silences nothing")
-        .hint(QString("write \"check: allow %1\"").arg(tag));
+        .hint("write \"check: allow %1\"", tag);
 }

@@ -44,11 +44,10 @@ QString hintFor(const QString &tag)
 
 } // namespace
 
-PxFinding *PxFindings::add(PxTag tag, const PxPlace &place, const QString &message)
+PxFinding *PxFindings::add(PxTag tag, const PxPlace &place)
 {
     const PxCheckTag &row = PxCheckTags::of(tag);
-    return m_allowances.allows(QLatin1String(row.name), place) ? nullptr
-                                                               : append(row, place, message);
+    return m_allowances.allows(QLatin1String(row.name), place) ? nullptr : append(row, place);
 }
 
 bool PxFindings::hasRoom(PxTag tag, const QString &path) const
@@ -57,7 +56,7 @@ bool PxFindings::hasRoom(PxTag tag, const QString &path) const
            PxCheckLimits::findingsOfTag;
 }
 
-PxFinding *PxFindings::append(const PxCheckTag &tag, const PxPlace &place, const QString &message)
+PxFinding *PxFindings::append(const PxCheckTag &tag, const PxPlace &place)
 {
     OfTag &ofTag = m_findings[{place.path, &tag}];
     ofTag.severity = m_severities.value(QLatin1String(tag.name), tag.severity);
@@ -69,7 +68,6 @@ PxFinding *PxFindings::append(const PxCheckTag &tag, const PxPlace &place, const
     finding.tag = &tag;
     finding.severity = ofTag.severity;
     finding.place = place;
-    finding.message = message;
     ofTag.listed.append(finding);
     return &ofTag.listed.last();
 }
@@ -193,12 +191,11 @@ void PxFindings::addUnused(const PxAllowances::Allowance &allowance)
     const PxCheckTag *tag = PxCheckTags::find(allowance.tag);
     if (tag && (m_excluded.contains(allowance.tag) || !lack(*tag).isEmpty()))
         return; // nobody knows what it would silence
-    QString message = QString("nothing here is \"%1\"").arg(allowance.tag);
-    if (allowance.tag.isEmpty())
-        message = "the allowance names no tag";
-    else if (!tag)
-        message = QString("there is no tag \"%1\" to allow").arg(allowance.tag);
-    PxAddedFinding(append(PxCheckTags::of(PxTag::AllowanceUnused), allowance.comment, message))
+    const char *message = allowance.tag.isEmpty() ? "the allowance names no tag"
+                          : tag                   ? "nothing here is \"%1\""
+                                                  : "there is no tag \"%1\" to allow";
+    PxAddedFinding(append(PxCheckTags::of(PxTag::AllowanceUnused), allowance.comment))
+        .message(message, allowance.tag)
         .now("the comment silences nothing")
         .hint([&] { return hintFor(allowance.tag); });
 }

@@ -64,9 +64,9 @@ private:
     using Key = QPair<QString, const PxCheckTag *>; // path and tag
 
     /** Null if an allowance silences it, or there are so many that it is only counted. */
-    PxFinding *add(PxTag tag, const PxPlace &place, const QString &message);
+    PxFinding *add(PxTag tag, const PxPlace &place);
     bool hasRoom(PxTag tag, const QString &path) const;
-    PxFinding *append(const PxCheckTag &tag, const PxPlace &place, const QString &message);
+    PxFinding *append(const PxCheckTag &tag, const PxPlace &place);
     bool isWanted(const QString &tag) const;
     /** Empty for a tag that is checked. */
     QString lack(const PxCheckTag &tag) const;

@@ -4,47 +4,36 @@
 
 namespace {
 
-QString shortened(const QString &text)
+/** With all arguments at once: what a file says may look like the next place. */
+QString filled(const QString &text, const QStringList &arguments)
 {
-    return text.size() <= PxCheckLimits::messageLength
-               ? text
-               : text.left(PxCheckLimits::messageLength) + "…";
+    QString filled;
+    int begin = 0;
+    for (int percent = text.indexOf('%'); percent >= 0; percent = text.indexOf('%', begin)) {
+        const int index = text.midRef(percent + 1, 1).toInt();
+        const bool isPlace = index > 0 && index <= arguments.size();
+        filled += text.midRef(begin, percent - begin);
+        filled += isPlace ? arguments[index - 1] : QString('%');
+        begin = percent + (isPlace ? 2 : 1);
+    }
+    return filled + text.midRef(begin);
 }
 
 } // namespace
 
-PxAddedFinding &PxAddedFinding::now(const QString &text)
+void PxAddedFinding::setText(Member member, const QString &text, const QStringList &arguments)
 {
-    if (m_finding)
-        m_finding->now = shortened(text);
-    return *this;
+    const QString whole = arguments.isEmpty() ? text : filled(text, arguments);
+    m_finding->*member = whole.size() <= PxCheckLimits::messageLength
+                             ? whole
+                             : whole.left(PxCheckLimits::messageLength) + "…";
 }
 
-PxAddedFinding &PxAddedFinding::hint(const QString &text)
+/** The message keeps the place as a place: it changes from run to run. */
+QString PxAddedFinding::textOf(const PxPlace &place, Member member)
 {
-    if (m_finding)
-        m_finding->hint = shortened(text);
-    return *this;
-}
-
-PxAddedFinding &PxAddedFinding::otherPlace(const PxPlace &place)
-{
-    if (m_finding)
-        m_finding->otherPlace = place;
-    return *this;
-}
-
-PxAddedFinding PxReporter::add(PxTag tag, const PxSourceRange &range, const QString &message) const
-{
-    return add(tag, m_file->place(range), message);
-}
-
-PxAddedFinding PxReporter::add(PxTag tag, const PxPlace &place, const QString &message) const
-{
-    return PxAddedFinding(m_findings.add(tag, place, shortened(message)));
-}
-
-QString PxReporter::line(const PxSourceRange &range) const
-{
-    return m_file->place(range).seenFrom(m_file->path());
+    if (member != &PxFinding::message)
+        return place.seenFrom(m_finding->place.path);
+    m_finding->otherPlace = place;
+    return PxFinding::otherPlaceMark;
 }

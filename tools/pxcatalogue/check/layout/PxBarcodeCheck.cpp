@@ -98,11 +98,8 @@ bool PxBarcodeCheck::checkReach(int index, const QVector<Place> &places) const
     if (places.isEmpty()) {
         const bool isBehindLast = barcode.reverseOrder() && barcode.pageNr() == 0;
         m_report
-            .add(tag, element.rangeOf("pageNr"),
-                 QString("the product has no page %1%2")
-                     .arg(barcode.pageNr())
-                     .arg(barcode.reverseOrder() ? QLatin1String(" from the back")
-                                                 : QLatin1String()))
+            .add(tag, element.rangeOf("pageNr"), "the product has no page %1%2", barcode.pageNr(),
+                 barcode.reverseOrder() ? QLatin1String(" from the back") : QLatin1String())
             .now("this barcode is on no page")
             .hint(isBehindLast ? "from the back the last page is 1"
                                : QString("its pages are 0 to %1").arg(m_pages.lastPage()));
@@ -111,10 +108,8 @@ bool PxBarcodeCheck::checkReach(int index, const QVector<Place> &places) const
     const int shadow = shadowOf(index, places);
     if (shadow < 0 || !isPageNrPlain(*m_elements[shadow]))
         return true;
-    m_report
-        .add(tag, element.nameRange,
-             QString("a second barcode for page %1").arg(places.constFirst().page))
-        .now(QString("the one in %1 is used").arg(m_report.line(m_elements[shadow]->nameRange)));
+    m_report.add(tag, element.nameRange, "a second barcode for page %1", places.constFirst().page)
+        .now("the one in %1 is used", m_report.place(m_elements[shadow]->nameRange));
     return false;
 }
 
@@ -135,12 +130,8 @@ void PxBarcodeCheck::checkInside(int index, const QVector<Place> &places) const
         const qint64 to = qint64(from) + (isBeside ? rect.width() : rect.height());
         m_report
             .add(PxTag::BarcodeOutside, m_elements[index]->rangeOf(start),
-                 QString("the barcode reaches from %1 = %2 to %3, page %4 from 0 to %5")
-                     .arg(start)
-                     .arg(from)
-                     .arg(to)
-                     .arg(place.page)
-                     .arg(isBeside ? size.width() : size.height()))
+                 "the barcode reaches from %1 = %2 to %3, page %4 from 0 to %5", start, from, to,
+                 place.page, isBeside ? size.width() : size.height())
             .now("the rectangle is used as it is");
         return;
     }

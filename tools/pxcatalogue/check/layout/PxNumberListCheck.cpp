@@ -114,11 +114,10 @@ void PxNumberListCheck::checkNumbering(const PxSourceElement &list) const
         return;
     m_report
         .add(PxTag::ProductionNumberRepeated, parts.constLast().range,
-             QString("the list ends with %1, which is not its largest number")
-                 .arg(given.constLast()))
-        .now(QString("numbering goes on from there: %1 is given twice").arg(*again))
-        .hint(QString("add the number that it shall go on with: %1")
-                  .arg(qint64(*std::max_element(given.begin(), given.end())) + 1));
+             "the list ends with %1, which is not its largest number", given.constLast())
+        .now("numbering goes on from there: %1 is given twice", *again)
+        .hint("add the number that it shall go on with: %1",
+              qint64(*std::max_element(given.begin(), given.end())) + 1);
 }
 
 void PxNumberListCheck::checkExtraPage(const PxSourceElement &item) const
@@ -152,8 +151,7 @@ void PxNumberListCheck::checkExtraPage(const PxSourceElement &item) const
     }
     const int count = group.targetPages().size();
     m_report.add(tag, missing.range, message)
-        .now(QString("production gets the file \"%1\" for %2 target %3")
-                 .arg(group.content().filename(), QString::number(count),
-                      count == 1 ? QLatin1String("page") : QLatin1String("pages")))
+        .now("production gets the file \"%1\" for %2 target %3", group.content().filename(), count,
+             count == 1 ? QLatin1String("page") : QLatin1String("pages"))
         .hint(missing.hint);
 }

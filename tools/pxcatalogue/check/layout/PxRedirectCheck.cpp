@@ -74,9 +74,7 @@ void PxRedirectCheck::checkRotation(const PxSourceElement &redirect) const
     }
     for (const char *name : {"from", "to"}) {
         if (reading.number(name) < -1) {
-            m_report
-                .add(tag, redirect.rangeOf(name),
-                     QString("\"%1\" is no page").arg(redirect.value(name)))
+            m_report.add(tag, redirect.rangeOf(name), "\"%1\" is no page", redirect.value(name))
                 .now(now)
                 .hint("pages count from 0; -1 is the only number below");
             return;
@@ -99,15 +97,12 @@ void PxRedirectCheck::checkContent(const PxSourceElement &redirect, QVector<Rang
     if (!hasFirst || !hasLast || target < 0) {
         checkIncomplete(redirect);
     } else if (first > last) {
-        m_report
-            .add(PxTag::ContentRedirectReversed, place,
-                 QString("the range \"%1\" runs backwards").arg(from))
+        m_report.add(PxTag::ContentRedirectReversed, place, "the range \"%1\" runs backwards", from)
             .now("nothing is redirected")
             .hint(PxSpelling::didYouMean(QString("%1-%2").arg(last).arg(first)));
     } else if (from.count(QLatin1Char('-')) > 1) {
         m_report
-            .add(PxTag::ContentRedirectOdd, place,
-                 QString("the range \"%1\" has more than two parts").arg(from))
+            .add(PxTag::ContentRedirectOdd, place, "the range \"%1\" has more than two parts", from)
             .now(pagesText(first, last) + QString(" are redirected to %1").arg(target))
             .hint("write one element for each range");
     } else {
@@ -128,15 +123,13 @@ void PxRedirectCheck::checkIncomplete(const PxSourceElement &redirect) const
     if (!names.isEmpty())
         m_report.add(tag, part.range, missingText(names)).now(now).hint(part.hint);
     else if (PxElementReading(redirect).number("to") < 0)
-        m_report
-            .add(tag, redirect.rangeOf("to"),
-                 QString("\"%1\" is no page").arg(redirect.value("to")))
+        m_report.add(tag, redirect.rangeOf("to"), "\"%1\" is no page", redirect.value("to"))
             .now(now)
             .hint(hint);
     else
         m_report
-            .add(tag, redirect.rangeOf("from"),
-                 QString("\"%1\" is neither a page nor a range of pages").arg(from))
+            .add(tag, redirect.rangeOf("from"), "\"%1\" is neither a page nor a range of pages",
+                 from)
             .now(now)
             .hint(from.contains(QLatin1Char(','))
                       ? "write one element for each page or range"
@@ -163,12 +156,10 @@ void PxRedirectCheck::checkOverlaps(const QVector<Range> &ranges) const
         const QString pages =
             pagesText(std::max(earlier->first, later.first), std::min(earlier->last, later.last));
         m_report
-            .add(PxTag::ContentRedirectOverlap, later.element->rangeOf("from"),
-                 QString("%1: also in %2").arg(pages, PxFinding::otherPlaceMark))
-            .otherPlace(m_report.file().place(earlier->element->nameRange))
-            .now(QString("content goes to page %1, not to page %2")
-                     .arg(m_product.description().contentDropRedirect(
-                         std::max(earlier->first, later.first)))
-                     .arg(earlier->target));
+            .add(PxTag::ContentRedirectOverlap, later.element->rangeOf("from"), "%1: also in %2",
+                 pages, m_report.place(earlier->element->nameRange))
+            .now("content goes to page %1, not to page %2",
+                 m_product.description().contentDropRedirect(std::max(earlier->first, later.first)),
+                 earlier->target);
     }
 }

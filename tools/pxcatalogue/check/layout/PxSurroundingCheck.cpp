@@ -78,16 +78,14 @@ void PxSurroundingCheck::checkImage(const Surrounding &surrounding) const
         return;
     if (hasImage && (!isFrame || rectangle.isGiven())) {
         m_report
-            .add(tag, rectangle.placeOfFault(),
-                 QString("an image without a rectangle: %1").arg(rectangle.fault()))
+            .add(tag, rectangle.placeOfFault(), "an image without a rectangle: %1",
+                 rectangle.fault())
             .now(now);
     } else if (!hasImage && !isFrame && !description.hasBindingShade()) {
         constexpr const char *image = "image";
         m_report
-            .add(tag, element.rangeOf(image),
-                 QString("a rectangle without an image: \"image\" is %1")
-                     .arg(element.attribute(image) ? QLatin1String("empty")
-                                                   : QLatin1String("missing")))
+            .add(tag, element.rangeOf(image), "a rectangle without an image: \"image\" is %1",
+                 element.attribute(image) ? QLatin1String("empty") : QLatin1String("missing"))
             .now(now);
     }
 }
@@ -120,8 +118,8 @@ void PxSurroundingCheck::checkFrame(const Surrounding &frame) const
     if (names.isEmpty() || !frame.isPlain)
         return;
     m_report
-        .add(PxTag::FrameSettingsIgnored, place,
-             QString("a FRAME has no %1").arg(names.join(QLatin1String(", no "))))
+        .add(PxTag::FrameSettingsIgnored, place, "a FRAME has no %1",
+             names.join(QLatin1String(", no ")))
         .now("it is painted round every page")
         .hint("for single pages take another type, such as BORDER");
 }
@@ -209,11 +207,10 @@ void PxSurroundingCheck::reportUnfit(const Surrounding &surrounding) const
 
 void PxSurroundingCheck::reportHidden(const Surrounding &surrounding, const Surrounding &by) const
 {
-    const QString line = m_report.line(by.element->nameRange);
+    const PxPlace place = m_report.place(by.element->nameRange);
     m_report
         .add(PxTag::SurroundingUnreachable, surrounding.element->nameRange,
              "every page that this is for has an earlier surrounding already")
-        .now(QString("it is never painted, but the one in %1").arg(line))
-        .hint(surrounding.description.pageNr() == -1 ? QString()
-                                                     : QString("put it before %1").arg(line));
+        .now("it is never painted, but the one in %1", place)
+        .hint(surrounding.description.pageNr() == -1 ? "" : "put it before %1", place);
 }

@@ -54,8 +54,7 @@ void PxMarginCheck::checkNegative() const
         const bool isComputed = qstrcmp(margin, foldMargin) == 0 && length == -1;
         if (length < 0 && !isComputed)
             m_report
-                .add(PxTag::MarginNegative, element.rangeOf(margin),
-                     QString("\"%1\" is %2").arg(margin).arg(length))
+                .add(PxTag::MarginNegative, element.rangeOf(margin), "\"%1\" is %2", margin, length)
                 .now("the negative length is used as it is");
     }
 }
@@ -69,9 +68,7 @@ void PxMarginCheck::checkNegativeIndent() const
     for (const char *name : {"verticalMargin", "horizontalMargin"}) {
         const int length = PxElementReading(*margin).number(name);
         if (length < 0)
-            m_report
-                .add(PxTag::MarginNegative, margin->rangeOf(name),
-                     QString("\"%1\" is %2").arg(name).arg(length))
+            m_report.add(PxTag::MarginNegative, margin->rangeOf(name), "\"%1\" is %2", name, length)
                 .now("the page number is printed beyond the edge");
     }
 }
@@ -94,10 +91,7 @@ void PxMarginCheck::checkExceeding() const
         if (row.taken >= row.available)
             m_report
                 .add(PxTag::MarginExceedsPage, m_product.element().rangeOf(row.attribute),
-                     QString("\"%1\" takes %2 of a page %3")
-                         .arg(row.attribute)
-                         .arg(row.taken)
-                         .arg(sizeText(m_size)))
+                     "\"%1\" takes %2 of a page %3", row.attribute, row.taken, sizeText(m_size))
                 .now("nothing of the page is left");
     }
 }
@@ -125,9 +119,8 @@ void PxMarginCheck::checkCover() const
     if (cover.height() < m_size.height())
         m_report
             .add(PxTag::CoverSmallerThanPage, m_product.element().rangeOf(coverExtraVertical),
-                 QString("a cover that is %1 lower than the page")
-                     .arg(qint64(m_size.height()) - cover.height()))
-            .now(QString("a cover half is %1, a page %2").arg(sizeText(cover), sizeText(m_size)));
+                 "a cover that is %1 lower than the page", qint64(m_size.height()) - cover.height())
+            .now("a cover half is %1, a page %2", sizeText(cover), sizeText(m_size));
 }
 
 void PxMarginCheck::checkCoverWidth() const
@@ -143,8 +136,8 @@ void PxMarginCheck::checkCoverWidth() const
     if (extra < 0)
         m_report
             .add(PxTag::CoverSmallerThanPage, element.rangeOf(coverExtraHorizontal),
-                 QString("a cover that is %1 narrower than the page")
-                     .arg(qint64(m_size.width()) - cover.width()))
+                 "a cover that is %1 narrower than the page",
+                 qint64(m_size.width()) - cover.width())
             .now(now);
     else
         addAdjustment(extra, now);
@@ -157,9 +150,7 @@ void PxMarginCheck::addAdjustment(int extra, const QString &now) const
         qint64(m_size.width()) + extra - m_product.description().coverSize().width();
     m_report
         .add(PxTag::SpineAdjusted, m_product.element().rangeOf(coverExtraHorizontal),
-             QString("the spine takes %1 from a cover half that is %2 wider than a page")
-                 .arg(taken)
-                 .arg(extra))
+             "the spine takes %1 from a cover half that is %2 wider than a page", taken, extra)
         .now(now)
-        .hint(QString("make it %1 wider at least").arg(taken));
+        .hint("make it %1 wider at least", taken);
 }

@@ -122,9 +122,9 @@ void PxPagesCheck::checkCount() const
     if (m_pages.droppedCount() == 0)
         return;
     m_report
-        .add(PxTag::PagesTooMany, m_pages.firstDropped(),
-             QString("a list of %1 pages").arg(m_pages.read().size() + m_pages.droppedCount()))
-        .now(QString("the first %1 are used").arg(m_pages.read().size()))
+        .add(PxTag::PagesTooMany, m_pages.firstDropped(), "a list of %1 pages",
+             m_pages.read().size() + m_pages.droppedCount())
+        .now("the first %1 are used", m_pages.read().size())
         .hint("write \"normalpages\" for all normal pages");
 }
 
@@ -140,16 +140,14 @@ void PxPagesCheck::checkEntry(const PxPageEntry &entry) const
             .now(m_pages.hasPage() ? "it is left out, with a warning each time" : nowWithoutPages())
             .hint(text.hint);
     } else if (entry.type.isNull()) {
-        m_report
-            .add(PxTag::PagesEntryUnknown, entry.range,
-                 QString("\"%1\" is no type of page").arg(entry.text))
+        m_report.add(PxTag::PagesEntryUnknown, entry.range, "\"%1\" is no type of page", entry.text)
             .now([&] { return nowWithout(entry); })
             .hint([&] { return hintFor(entry.text, isRangeMissing()); });
     } else if (entry.isUnion()) {
         m_report
-            .add(PxTag::PageTypeUnion, entry.range,
-                 QString("\"%1\" is several types of page at once").arg(entry.text))
-            .now(QString("the product has one page that is all of: %1").arg(entry.type.encodeCSV()))
+            .add(PxTag::PageTypeUnion, entry.range, "\"%1\" is several types of page at once",
+                 entry.text)
+            .now("the product has one page that is all of: %1", entry.type.encodeCSV())
             .hint("name the type of this page");
     }
 }
@@ -161,9 +159,8 @@ bool PxPagesCheck::checkCoverPosition() const
     if (m_product.description().hasCover() || cover == m_pages.read().end())
         return true;
     m_report
-        .add(PxTag::CoverNotFirst, cover->range,
-             QString("a cover, but the list begins with \"%1\"")
-                 .arg(m_pages.read().constFirst().text))
+        .add(PxTag::CoverNotFirst, cover->range, "a cover, but the list begins with \"%1\"",
+             m_pages.read().constFirst().text)
         .now("the product counts as one without cover")
         .hint("begin with the cover");
     return false;
@@ -192,6 +189,6 @@ void PxPagesCheck::checkRange() const
     m_report
         .add(PxTag::PagesRangeMissing, m_pages.read().constFirst().range,
              "a book whose list of pages has no \"normalpages\"")
-        .now(QString("it has %1 pages, whatever page count is ordered").arg(m_pages.read().size()))
+        .now("it has %1 pages, whatever page count is ordered", m_pages.read().size())
         .hint("write \"normalpages\" where the pages of the book are");
 }

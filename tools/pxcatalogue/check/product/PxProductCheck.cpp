@@ -44,13 +44,13 @@ void PxProductCheck::checkName() const
     else if (!m_product.type().isValid() && !m_types.isEmpty() && !m_types.isListed(name))
         m_report
             .add(PxTag::ProductNameUnknown, element.rangeOf(attribute),
-                 QString("there is no product type \"%1\"").arg(name))
+                 "there is no product type \"%1\"", name)
             .now(now)
             .hint([&] { return m_types.hint(name); });
     else if (!m_product.type().isValid() && !m_types.isEmpty() && !m_types.isChecked())
         m_report
             .add(PxTag::ProductNameUnknown, element.rangeOf(attribute),
-                 QString("the row of \"%1\" in producttypes.xml is left out").arg(name))
+                 "the row of \"%1\" in producttypes.xml is left out", name)
             .now(now)
             .hint("check producttypes.xml");
 }
@@ -60,7 +60,7 @@ void PxProductCheck::checkNameOfFile() const
     constexpr const char *attribute = "name";
     m_report
         .add(PxTag::NameUnsafeForFile, m_product.element().rangeOf(attribute),
-             QString("\"%1\" cannot name a file").arg(m_product.element().value(attribute)))
+             "\"%1\" cannot name a file", m_product.element().value(attribute))
         .now(m_product.type().isValid()
                  ? "the user's default templates are looked for in a file of this name"
                  : "the file is skipped: there is no such product type")
@@ -74,8 +74,7 @@ void PxProductCheck::checkCounts() const
     if (description.explicitNumberOfProducts() <= 0)
         m_report
             .add(PxTag::ProductCountZero, element.rangeOf("numOfProducts"),
-                 QString("a product that consists of %1 pieces")
-                     .arg(description.explicitNumberOfProducts()))
+                 "a product that consists of %1 pieces", description.explicitNumberOfProducts())
             .now("the pages of one piece cannot be computed")
             .hint("leave it out for a single piece");
     constexpr auto counted = static_cast<PxProductClass>(PxProductClassGift | PxProductClassCard |
@@ -84,8 +83,8 @@ void PxProductCheck::checkCounts() const
     if (pageCount <= 0 && m_product.type().isProductClass(counted))
         m_report
             .add(PxTag::PageCountNotPositive, element.rangeOf("numOfNormalPages"),
-                 QString("a product of %1 normal pages").arg(pageCount))
-            .now(QString("the page count is %1").arg(unsigned(pageCount)))
+                 "a product of %1 normal pages", pageCount)
+            .now("the page count is %1", unsigned(pageCount))
             .hint("leave it out for a single page");
 }
 
@@ -104,8 +103,8 @@ void PxProductCheck::checkAlignmentStyle() const
         else
             m_report
                 .add(PxTag::AlignmentStyleShadowed, element.rangeOf(style),
-                     QString("\"%1\" is true beside \"%2\"").arg(style, first))
-                .now(QString("\"%1\" counts, \"%2\" is not read").arg(first, style))
+                     "\"%1\" is true beside \"%2\"", style, first)
+                .now("\"%1\" counts, \"%2\" is not read", first, style)
                 .hint("keep the one that is meant");
     }
 }

@@ -120,8 +120,8 @@ void PxSizeCheck::checkPresence() const
     const PxMissingPart side =
         PxElementReading(*m_usableSize).missing(qPrintable(missing.constFirst()));
     m_report
-        .add(PxTag::SizeMissing, side.range,
-             QString("the size has no %1").arg(PxMessageText::quotedList(missing, " and no ")))
+        .add(PxTag::SizeMissing, side.range, "the size has no %1",
+             PxMessageText::quotedList(missing, " and no "))
         .now(now)
         .hint(side.hint);
 }
@@ -135,19 +135,16 @@ void PxSizeCheck::checkArea() const
             continue;
         const PxSourceRange range = m_usableSize->rangeOf(side);
         if (m_product.description().isValid())
-            m_report.add(PxTag::SizeNotPositive, range, QString("a page of the %1 0").arg(side))
-                .now(QString("the product is offered, with pages of %1 x %2")
-                         .arg(m_size.width())
-                         .arg(m_size.height()));
+            m_report.add(PxTag::SizeNotPositive, range, "a page of the %1 0", side)
+                .now("the product is offered, with pages of %1 x %2", m_size.width(),
+                     m_size.height());
         else if (length < 0)
-            m_report
-                .add(PxTag::ProductNotOffered, range,
-                     QString("a page of the %1 %2").arg(side).arg(length))
+            m_report.add(PxTag::ProductNotOffered, range, "a page of the %1 %2", side, length)
                 .now("the product is never offered, as it has no valid size");
         else if (m_size.isValid())
             m_report
-                .add(PxTag::ProductNotOffered, range,
-                     QString("a page of the %1 0, and no orientation").arg(side))
+                .add(PxTag::ProductNotOffered, range, "a page of the %1 0, and no orientation",
+                     side)
                 .now("the product is never offered, as no orientation follows from a size without "
                      "area");
         return;
@@ -160,9 +157,9 @@ void PxSizeCheck::checkShadowing() const
     const auto add = [&](const char *name) {
         m_report
             .add(PxTag::SizeAttributeShadowed, element.rangeOf(name),
-                 QString("\"%1\" of the product differs from that of its size").arg(name))
-            .now(QString("\"%1\" in %2 is used")
-                     .arg(m_usableSize->value(name), m_report.line(m_usableSize->rangeOf(name))))
+                 "\"%1\" of the product differs from that of its size", name)
+            .now("\"%1\" in %2 is used", m_usableSize->value(name),
+                 m_report.place(m_usableSize->rangeOf(name)))
             .hint("keep the one that is meant");
     };
     const PxOrientation ownOrientation(element.value(orientation));
@@ -193,12 +190,9 @@ bool PxSizeCheck::checkOrientation() const
         meant = PxOrientation(PxOrientationPanorama);
     m_report
         .add(PxTag::OrientationContradictsSize, place.rangeOf(orientation),
-             QString("%1, but the page is %2 x %3")
-                 .arg(used.encodeCSV())
-                 .arg(m_size.width())
-                 .arg(m_size.height()))
-        .now(QString("%1 is used, whatever the size").arg(used.encodeCSV()))
-        .hint(QString("did you mean \"%1\", or is the size wrong?").arg(meant.encodeCSV()));
+             "%1, but the page is %2 x %3", used.encodeCSV(), m_size.width(), m_size.height())
+        .now("%1 is used, whatever the size", used.encodeCSV())
+        .hint("did you mean \"%1\", or is the size wrong?", meant.encodeCSV());
     return false;
 }
 
@@ -223,9 +217,9 @@ void PxSizeCheck::checkSpace() const
     const PxSourceElement &place =
         m_usableSize->value(space).isEmpty() ? m_product.element() : *m_usableSize;
     m_report
-        .add(PxTag::SpaceContradictsSize, place.rangeOf(space),
-             QString("%1, but the page has %2 cm²").arg(used.encodeCSV()).arg(qRound(area)))
-        .now(QString("templates and type sizes of \"%1\" are used").arg(used.humanReadableName()))
+        .add(PxTag::SpaceContradictsSize, place.rangeOf(space), "%1, but the page has %2 cm²",
+             used.encodeCSV(), qRound(area))
+        .now("templates and type sizes of \"%1\" are used", used.humanReadableName())
         .hint(PxSpelling::didYouMean(PxSpaceMagnitude(nearest->value).encodeCSV()));
 }
 
@@ -243,13 +237,9 @@ void PxSizeCheck::addOtherUnit(int namedArea) const
     const QSize meant = isSmaller ? m_size * 10 : m_size / 10;
     m_report
         .add(PxTag::SizeInOtherUnit, m_usableSize->rangeOf(width),
-             QString("%1 x %2 is ten times %3 than \"%4\" says")
-                 .arg(m_size.width())
-                 .arg(m_size.height())
-                 .arg(isSmaller ? QLatin1String("smaller") : QLatin1String("larger"))
-                 .arg(m_product.description().spaceMagnitude().encodeCSV()))
+             "%1 x %2 is ten times %3 than \"%4\" says", m_size.width(), m_size.height(),
+             isSmaller ? QLatin1String("smaller") : QLatin1String("larger"),
+             m_product.description().spaceMagnitude().encodeCSV())
         .now("the size is taken as it is")
-        .hint(QString("lengths are in tenths of a millimetre: %1 x %2?")
-                  .arg(meant.width())
-                  .arg(meant.height()));
+        .hint("lengths are in tenths of a millimetre: %1 x %2?", meant.width(), meant.height());
 }

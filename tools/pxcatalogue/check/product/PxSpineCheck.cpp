@@ -84,7 +84,7 @@ void PxSpineCheck::readPageCount(const PxSourceElement &spine)
         .add(PxTag::SpinePagesMissing, missing.range,
              reading.isGiven(pagesName) ? QString("a spine for %1 pages").arg(pageCount)
                                         : "a spine without a page count")
-        .now(QString("the smallest page count is %1").arg(m_product.description().minPages()))
+        .now("the smallest page count is %1", m_product.description().minPages())
         .hint(missing.hint);
 }
 
@@ -93,12 +93,10 @@ void PxSpineCheck::addTwice(const PxSourceElement &spine, int pageCount) const
     const PxSourceElement &earlier = *m_spines.value(pageCount);
     m_report
         .add(PxTag::SpinePagesTwice, spine.rangeOf(pagesName),
-             QString("a second spine for %1 pages, %2 wide; the one in %3 is %4")
-                 .arg(QString::number(pageCount), QString::number(widthOf(spine)),
-                      PxFinding::otherPlaceMark, QString::number(widthOf(earlier))))
-        .otherPlace(m_report.file().place(earlier.rangeOf(pagesName)))
-        .now(QString("the later one is used, as a spine of %1")
-                 .arg(m_product.description().spineWidth(pageCount)))
+             "a second spine for %1 pages, %2 wide; the one in %3 is %4", pageCount, widthOf(spine),
+             m_report.place(earlier.rangeOf(pagesName)), widthOf(earlier))
+        .now("the later one is used, as a spine of %1",
+             m_product.description().spineWidth(pageCount))
         .hint("keep the one that is meant");
 }
 
@@ -113,9 +111,8 @@ void PxSpineCheck::checkPresence() const
         .add(PxTag::BookWithoutPageCounts, missing.range,
              m_table ? "the \"spines\" of this book hold no \"spine\""
                      : "a book without \"spines\"")
-        .now(QString("its page counts go from %1 to %2")
-                 .arg(m_product.description().minPages())
-                 .arg(m_product.description().maxPages()))
+        .now("its page counts go from %1 to %2", m_product.description().minPages(),
+             m_product.description().maxPages())
         .hint(missing.hintOr(
             "add a \"spine\" for each page count, with the width 0 when none is printed"));
 }
@@ -124,10 +121,9 @@ void PxSpineCheck::checkLength() const
 {
     if (m_rowCount < 3)
         m_report
-            .add(PxTag::SpineTableShort, m_table->nameRange,
-                 QString("a book with %1 page counts").arg(m_rowCount))
-            .now(QString("the step between its page counts is %1")
-                     .arg(m_product.description().pageIncrement()))
+            .add(PxTag::SpineTableShort, m_table->nameRange, "a book with %1 page counts",
+                 m_rowCount)
+            .now("the step between its page counts is %1", m_product.description().pageIncrement())
             .hint("give three page counts or more");
 }
 
@@ -166,10 +162,7 @@ void PxSpineCheck::checkSteps() const
         if (step != usual && step != before && !isBackInStep)
             m_report
                 .add(PxTag::SpineStepsIrregular, it.value()->rangeOf(pagesName),
-                     QString("%1 pages after %2, where most steps are %3")
-                         .arg(it.key())
-                         .arg(smaller)
-                         .arg(usual))
+                     "%1 pages after %2, where most steps are %3", it.key(), smaller, usual)
                 .now(QString("the page counts go from %1 to %2 in steps of %3")
                          .arg(m_product.description().minPages())
                          .arg(m_product.description().maxPages())
@@ -210,10 +203,7 @@ void PxSpineCheck::checkLastStep(int usual) const
         return;
     m_report
         .add(PxTag::SpineLastStepLong, last.value()->rangeOf(pagesName),
-             QString("%1 pages after %2, where other steps are %3")
-                 .arg(last.key())
-                 .arg(smaller)
-                 .arg(usual))
+             "%1 pages after %2, where other steps are %3", last.key(), smaller, usual)
         .now(hasWidth() ? QString("the spine for %1 pages is %2 wide")
                               .arg(smaller + usual)
                               .arg(m_product.description().spineWidth(smaller + usual))
@@ -221,7 +211,7 @@ void PxSpineCheck::checkLastStep(int usual) const
                               .arg(m_product.description().minPages())
                               .arg(m_product.description().maxPages())
                               .arg(m_product.description().pageIncrement()))
-        .hint(QString("add a spine for %1 pages").arg(smaller + usual));
+        .hint("add a spine for %1 pages", smaller + usual);
 }
 
 bool PxSpineCheck::hasWidth() const
@@ -245,24 +235,18 @@ void PxSpineCheck::checkWidths() const
                 .add(PxTag::SpineWidthMissing, spine.rangeOf(width),
                      spine.attribute(width) ? QString("a spine of the width %1").arg(own)
                                             : "a spine without a width")
-                .now(QString("the spine for %1 pages is %2 wide")
-                         .arg(it.key())
-                         .arg(m_product.description().spineWidth(it.key())));
+                .now("the spine for %1 pages is %2 wide", it.key(),
+                     m_product.description().spineWidth(it.key()));
             continue;
         }
         const int other = narrower ? widthOf(*narrower) : 0;
         if (own < other && m_isComplete)
             m_report
                 .add(PxTag::SpineWidthFalls, spine.rangeOf(width),
-                     QString("a spine of %1 for %2 pages, but one of %3 for fewer in %4")
-                         .arg(own)
-                         .arg(it.key())
-                         .arg(other)
-                         .arg(PxFinding::otherPlaceMark))
-                .otherPlace(m_report.file().place(narrower->rangeOf(width)))
-                .now(QString("the spine for %1 pages is %2 wide")
-                         .arg(it.key())
-                         .arg(m_product.description().spineWidth(it.key())));
+                     "a spine of %1 for %2 pages, but one of %3 for fewer in %4", own, it.key(),
+                     other, m_report.place(narrower->rangeOf(width)))
+                .now("the spine for %1 pages is %2 wide", it.key(),
+                     m_product.description().spineWidth(it.key()));
         narrower = &spine;
     }
 }
@@ -276,12 +260,8 @@ void PxSpineCheck::checkTextHeights() const
         if (widthOf(*it.value()) > 0 && height > spineWidth)
             m_report
                 .add(PxTag::SpineTextTooHigh, it.value()->rangeOf(maxFontHeight),
-                     QString("type of the height %1 on a spine of %2")
-                         .arg(height)
-                         .arg(widthOf(*it.value())))
-                .now(QString("type may be %1 high on a spine that is %2 wide")
-                         .arg(height)
-                         .arg(spineWidth));
+                     "type of the height %1 on a spine of %2", height, widthOf(*it.value()))
+                .now("type may be %1 high on a spine that is %2 wide", height, spineWidth);
     }
 }
 
@@ -300,11 +280,10 @@ void PxSpineCheck::checkSellingPages() const
         near.append(QString::number(next.key()));
     m_report
         .add(PxTag::SellingPagesNotOffered, m_product.element().rangeOf(attribute),
-             QString("%1 is no page count of \"spines\"").arg(pageCount))
-        .now(QString("a new book has %1 pages, and a spine of %2")
-                 .arg(pageCount)
-                 .arg(m_product.description().spineWidth(pageCount)))
-        .hint(QString("the nearest: %1").arg(near.join(", ")));
+             "%1 is no page count of \"spines\"", pageCount)
+        .now("a new book has %1 pages, and a spine of %2", pageCount,
+             m_product.description().spineWidth(pageCount))
+        .hint("the nearest: %1", near.join(", "));
 }
 
 void PxSpineCheck::checkSpinePage() const
@@ -326,15 +305,14 @@ void PxSpineCheck::checkSpinePage() const
             .add(PxTag::SpinePageWithoutTable,
                  missing.hint.isEmpty() ? spinePage->range : missing.range,
                  "a spine among the pages, but no width in \"spines\"")
-            .now(QString("the spine is %1 wide")
-                     .arg(m_product.description().spineWidth(
-                         m_spines.isEmpty() ? 0 : m_spines.firstKey())))
+            .now("the spine is %1 wide",
+                 m_product.description().spineWidth(m_spines.isEmpty() ? 0 : m_spines.firstKey()))
             .hint(missing.hintOr("give its width, or take the spine out"));
     if (m_pages.isGiven() && m_pages.isSound() && !m_product.description().hasSpine() && hasWidth())
         m_report
             .add(PxTag::SpineWithoutPage, m_table->nameRange,
                  "spines with a width, but \"pages\" lists no spine")
-            .now(QString("the product has no spine; a cover half is %1 wide")
-                     .arg(m_product.description().coverSize().width()))
+            .now("the product has no spine; a cover half is %1 wide",
+                 m_product.description().coverSize().width())
             .hint("add \"spine\" to the pages, or give the width 0");
 }

@@ -135,10 +135,8 @@ void PxFormatCheck::addUnknownAttribute(const Place &place,
                    : meant;
     };
     m_report
-        .add(PxTag::AttributeUnknown, attribute.nameRange,
-             QString("\"%1\" is not read on \"%2\"")
-                 .arg(PxMessageText::shortened(attribute.name),
-                      PxMessageText::shortened(place.element.name)))
+        .add(PxTag::AttributeUnknown, attribute.nameRange, "\"%1\" is not read on \"%2\"",
+             PxMessageText::shortened(attribute.name), PxMessageText::shortened(place.element.name))
         .now([&] {
             const QString meant = misspelt();
             const PxAttributeRow *row = PxFormat::attribute(place.row, meant);
@@ -174,11 +172,9 @@ void PxFormatCheck::checkText(const Place &place) const
     const PxRows<PxElementRow> &children = place.row.children;
     const bool isOfChild = children.size() == 1 && children.begin()->text != PxTextKind::None;
     m_report
-        .add(PxTag::TextNotRead, text->range,
-             QString("the text \"%1\" is not read in \"%2\"")
-                 .arg(PxMessageText::shortened(
-                          text->text.left(PxCheckLimits::messageLength).simplified()),
-                      PxMessageText::shortened(place.element.name)))
+        .add(PxTag::TextNotRead, text->range, "the text \"%1\" is not read in \"%2\"",
+             PxMessageText::shortened(text->text.left(PxCheckLimits::messageLength).simplified()),
+             PxMessageText::shortened(place.element.name))
         .now("it is passed over")
         .hint(isOfChild ? QString("put it into a \"%1\" element").arg(nameOf(*children.begin()))
                         : QString());
@@ -220,9 +216,9 @@ void PxFormatCheck::addRepeated(const Place &place, const PxSourceElement &child
     else if (!row.children.isEmpty())
         hint = "move what it holds into the first one";
     m_report
-        .add(PxTag::ElementRepeated, child.nameRange,
-             QString("another \"%1\" in \"%2\"").arg(child.name, place.element.name))
-        .now(QString("only the first one is read, in %1").arg(m_report.line(first.nameRange)))
+        .add(PxTag::ElementRepeated, child.nameRange, "another \"%1\" in \"%2\"", child.name,
+             place.element.name)
+        .now("only the first one is read, in %1", m_report.place(first.nameRange))
         .hint(hint);
 }
 
@@ -243,10 +239,8 @@ void PxFormatCheck::addUnknownElement(const Place &place, int index) const
         return;
     }
     m_report
-        .add(PxTag::ElementUnknown, child.nameRange,
-             QString("\"%1\" is not read in \"%2\"")
-                 .arg(PxMessageText::shortened(child.name),
-                      PxMessageText::shortened(place.element.name)))
+        .add(PxTag::ElementUnknown, child.nameRange, "\"%1\" is not read in \"%2\"",
+             PxMessageText::shortened(child.name), PxMessageText::shortened(place.element.name))
         .now(now)
         .hint([&] {
             if (hasPrefix)

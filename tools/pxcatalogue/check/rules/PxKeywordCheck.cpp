@@ -55,7 +55,7 @@ void PxKeywordCheck::checkEmpty() const
                                                        : PxTag::KeywordUnknown,
              m_attribute.valueRange, QString("\"%1\" is empty").arg(m_attribute.name))
         .now(now())
-        .hint(QString("leave it out for \"%1\"").arg(missing));
+        .hint("leave it out for \"%1\"", missing);
 }
 
 void PxKeywordCheck::checkOneKeyword() const
@@ -70,7 +70,7 @@ void PxKeywordCheck::checkOneKeyword() const
     if (words.size() > 1 && areKeywords)
         m_report
             .add(PxTag::KeywordSeveral, m_attribute.valueRange,
-                 QString("\"%1\" takes one keyword, not a list").arg(m_attribute.name))
+                 "\"%1\" takes one keyword, not a list", m_attribute.name)
             .now(now())
             .hint("keep the one that is meant");
     else
@@ -109,9 +109,8 @@ void PxKeywordCheck::checkUnknown(const PxSourcePart &entry, const QString &asRe
         words.size() > 1 && (known == words.size() || (known > 0 && entry.text.contains(ourMarks)));
     if (isList && m_row.type != PxValueType::OneKeyword) {
         m_report
-            .add(PxTag::KeywordListSeparator, entry.range,
-                 QString("\"%1\" is one word, and no %2")
-                     .arg(PxMessageText::shortened(entry.text), name))
+            .add(PxTag::KeywordListSeparator, entry.range, "\"%1\" is one word, and no %2",
+                 PxMessageText::shortened(entry.text), name)
             .now(asRead)
             .hint(m_row.type == PxValueType::Keyword
                       ? "keep the one that is meant"
@@ -121,9 +120,7 @@ void PxKeywordCheck::checkUnknown(const PxSourcePart &entry, const QString &asRe
     }
     const PxTag tag =
         m_row.keywords == PxKeywordSet::Alignment ? PxTag::AlignmentUnknown : PxTag::KeywordUnknown;
-    m_report
-        .add(tag, entry.range,
-             QString("\"%1\" is no %2").arg(PxMessageText::shortened(entry.text), name))
+    m_report.add(tag, entry.range, "\"%1\" is no %2", PxMessageText::shortened(entry.text), name)
         .now(asRead)
         .hint([&] { return PxSpelling::hint(entry.text, PxFormat::keywordNames(m_row.keywords)); });
 }
@@ -151,10 +148,9 @@ bool PxKeywordCheck::checkGap() const
     // The comma before it, or behind it when it is the first.
     const int comma = gap == m_list.parts.begin() ? gap->whole.end : gap->whole.begin - 1;
     m_report
-        .add(PxTag::KeywordListGap, {comma, comma + 1},
-             QString("an entry of \"%1\" is empty").arg(m_attribute.name))
-        .now(QString("it adds %1")
-                 .arg(QString::fromUtf8(PxFormat::keywords(m_row.keywords).defaultText)))
+        .add(PxTag::KeywordListGap, {comma, comma + 1}, "an entry of \"%1\" is empty",
+             m_attribute.name)
+        .now("it adds %1", QString::fromUtf8(PxFormat::keywords(m_row.keywords).defaultText))
         .hint("take the comma out");
     return true;
 }
@@ -172,9 +168,9 @@ bool PxKeywordCheck::checkSeveral() const
         return false;
     m_report
         .add(PxTag::KeywordSeveral, m_attribute.valueRange,
-             QString("a product has one %1, and \"%2\" names %3")
-                 .arg(QString::fromUtf8(PxFormat::keywords(m_row.keywords).name), m_attribute.name)
-                 .arg(values.size()))
+             "a product has one %1, and \"%2\" names %3",
+             QString::fromUtf8(PxFormat::keywords(m_row.keywords).name), m_attribute.name,
+             values.size())
         .now(now())
         .hint("keep the one that is meant");
     return true;
@@ -187,9 +183,8 @@ void PxKeywordCheck::checkRepeated() const
         const QString word = entry.text.toLower();
         if (words.contains(word) && !word.isEmpty()) {
             m_report
-                .add(PxTag::KeywordRepeated, entry.range,
-                     QString("\"%1\" is in the list already")
-                         .arg(PxMessageText::shortened(entry.text)))
+                .add(PxTag::KeywordRepeated, entry.range, "\"%1\" is in the list already",
+                     PxMessageText::shortened(entry.text))
                 .now("it counts once");
             return;
         }

@@ -46,15 +46,11 @@ void PxReadingCheck::checkMarkup()
                  m_report.file().fault().message)
             .now(now);
     else if (fault.kind() == Kind::AttributeTwice)
-        m_report
-            .add(PxTag::XmlAttributeTwice, range,
-                 QString("attribute \"%1\" is given twice").arg(name))
+        m_report.add(PxTag::XmlAttributeTwice, range, "attribute \"%1\" is given twice", name)
             .now(now)
             .hint("keep the one that is meant");
     else if (fault.kind() == Kind::EntityUndeclared)
-        m_report
-            .add(PxTag::XmlEntityUndeclared, range,
-                 QString("the entity \"%1\" is not defined").arg(name))
+        m_report.add(PxTag::XmlEntityUndeclared, range, "the entity \"%1\" is not defined", name)
             .now(now)
             .hint("write the character itself");
     else

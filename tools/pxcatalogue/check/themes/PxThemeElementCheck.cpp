@@ -73,24 +73,20 @@ void PxThemeElementCheck::checkId() const
         m_report
             .add(PxTag::ThemeIdMissing, missing.range,
                  isThere ? "the \"id\" of the theme is empty" : "the theme has no \"id\"")
-            .now(QString("its id is \"%1\"").arg(isThere ? QString() : "unbekannt"))
+            .now("its id is \"%1\"", isThere ? QString() : "unbekannt")
             .hint(missing.hint);
     } else if (id.contains(QLatin1Char(','))) {
-        m_report
-            .add(PxTag::ThemeIdUnlistable, range, QString("the id \"%1\" holds a comma").arg(id))
+        m_report.add(PxTag::ThemeIdUnlistable, range, "the id \"%1\" holds a comma", id)
             .now("no list of ids finds the theme");
     } else if (id != id.trimmed()) {
         m_report
-            .add(PxTag::ThemeIdUnlistable, range,
-                 QString("the id \"%1\" begins or ends with a blank").arg(id))
+            .add(PxTag::ThemeIdUnlistable, range, "the id \"%1\" begins or ends with a blank", id)
             .now("the blank belongs to the id")
-            .hint(QString("write \"%1\"").arg(id.trimmed().toLower()));
+            .hint("write \"%1\"", id.trimmed().toLower());
     }
     if (id != id.toLower())
-        m_report
-            .add(PxTag::ThemeIdLowered, range,
-                 QString("the id \"%1\" has upper-case letters").arg(id))
-            .now(QString("the id is \"%1\"").arg(id.toLower()));
+        m_report.add(PxTag::ThemeIdLowered, range, "the id \"%1\" has upper-case letters", id)
+            .now("the id is \"%1\"", id.toLower());
 }
 
 void PxThemeElementCheck::checkGroup() const
@@ -109,8 +105,8 @@ void PxThemeElementCheck::checkGroup() const
             .hint(missing.hintOr("name the product group, as in \"book\""));
     } else if (!PxProductGroup(group).isValid()) {
         m_report
-            .add(PxTag::ThemeGroupUnknown, m_theme.rangeOf(attribute),
-                 QString("\"%1\" is no product group").arg(group))
+            .add(PxTag::ThemeGroupUnknown, m_theme.rangeOf(attribute), "\"%1\" is no product group",
+                 group)
             .now(now)
             .hint([&] {
                 return group.contains(QLatin1Char(','))
@@ -136,23 +132,19 @@ void PxThemeElementCheck::checkExpiry() const
             .now(now)
             .hint(missing.hintOr("write year to minute, as in \"205012312359\""));
     else if (!m_expiry.isValid())
-        m_report
-            .add(PxTag::ThemeExpiryMalformed, range,
-                 QString("\"%1\" is no date and time").arg(text))
+        m_report.add(PxTag::ThemeExpiryMalformed, range, "\"%1\" is no date and time", text)
             .now(now)
             .hint([&] { return expiryHint(text); });
     else if (m_isExpired)
         m_report
-            .add(PxTag::ThemeExpiryPast, range,
-                 QString("the theme expired on %1").arg(m_expiry.toString("yyyy-MM-dd 'at' HH:mm")))
+            .add(PxTag::ThemeExpiryPast, range, "the theme expired on %1",
+                 m_expiry.toString("yyyy-MM-dd 'at' HH:mm"))
             .now("it is not offered any more");
     else if (ourDay.match(text.trimmed()).hasMatch())
-        m_report
-            .add(PxTag::ThemeExpiryDay, range, QString("\"%1\" is a day without a time").arg(text))
-            .now(QString("the theme expires when the day begins, at %1")
-                     .arg(m_expiry.toString("HH:mm")))
-            .hint(QString("write \"%1\" to include the day")
-                      .arg(m_expiry.date().endOfDay().toString(compactFormat)));
+        m_report.add(PxTag::ThemeExpiryDay, range, "\"%1\" is a day without a time", text)
+            .now("the theme expires when the day begins, at %1", m_expiry.toString("HH:mm"))
+            .hint("write \"%1\" to include the day",
+                  m_expiry.date().endOfDay().toString(compactFormat));
 }
 
 void PxThemeElementCheck::checkDescription() const
@@ -167,7 +159,7 @@ void PxThemeElementCheck::checkDescription() const
         .add(PxTag::ThemeDescriptionMissing, missing.range,
              description ? "the \"description\" of the theme is empty"
                          : "the theme has no \"description\"")
-        .now(QString("it is shown as \"%1\"").arg(description ? QString() : "unbekannt"))
+        .now("it is shown as \"%1\"", description ? QString() : "unbekannt")
         .hint(missing.hint);
 }
 
@@ -191,8 +183,8 @@ void PxThemeElementCheck::checkKeyAccounts() const
         if (node.isBlank())
             continue;
         m_report
-            .add(PxTag::ThemeKeyAccountMalformed, node.range,
-                 QString("%1 directly in \"keyaccounts\"").arg(PxSourceNode::kindText(node.kind)))
+            .add(PxTag::ThemeKeyAccountMalformed, node.range, "%1 directly in \"keyaccounts\"",
+                 PxSourceNode::kindText(node.kind))
             .now("it counts as key account 0")
             .hint(node.isText() ? "write an element for each key account"
                                 : "move it out of \"keyaccounts\"");

@@ -12,7 +12,7 @@ void PxThemeFileCheck::run()
     if (root->name.toLower() != QLatin1String("themes")) {
         m_report
             .add(PxTag::ThemeRootWrong, root->nameRange,
-                 QString("the document element is \"%1\", not \"themes\"").arg(root->name))
+                 "the document element is \"%1\", not \"themes\"", root->name)
             .now("nothing is read from this file");
         return;
     }
@@ -31,9 +31,9 @@ void PxThemeFileCheck::checkStrayNodes(const PxSourceElement &root) const
         if (node.isBlank())
             continue;
         m_report
-            .add(PxTag::ThemeStrayNode, node.range,
-                 QString("%1 directly in \"%2\"").arg(PxSourceNode::kindText(node.kind), root.name))
+            .add(PxTag::ThemeStrayNode, node.range, "%1 directly in \"%2\"",
+                 PxSourceNode::kindText(node.kind), root.name)
             .now("it becomes a theme \"unbekannt\" that has expired")
-            .hint(QString("move it into a theme, or above \"%1\"").arg(root.name));
+            .hint("move it into a theme, or above \"%1\"", root.name);
     }
 }

@@ -54,10 +54,7 @@ void PxThemeIdCheck::addId(const PxCheckedFile &file, const PxSourceElement &the
 void PxThemeIdCheck::reportTwice(const QString &id, const PxPlace &first,
                                  const PxPlace &second) const
 {
-    m_report
-        .add(PxTag::ThemeIdTwice, second,
-             QString("the id \"%1\" is also in %2").arg(id, PxFinding::otherPlaceMark))
-        .otherPlace(first)
+    m_report.add(PxTag::ThemeIdTwice, second, "the id \"%1\" is also in %2", id, first)
         .now(first.path == second.path
                  ? "looking for one theme finds the first, looking up a list the last"
                  : "looking for one theme finds the one, looking up a list the other, as the file "

@@ -56,9 +56,8 @@ void PxThemeImageCheck::checkLogo(const PxSourceElement &logo)
     }
     const PxMissingPart missing = PxElementReading(logo, PxFileKind::Theme).missing("filename");
     m_report
-        .add(PxTag::ThemeImageMissing, missing.range,
-             QString("the logo names no image: \"filename\" is %1")
-                 .arg(name ? QLatin1String("empty") : QLatin1String("missing")))
+        .add(PxTag::ThemeImageMissing, missing.range, "the logo names no image: \"filename\" is %1",
+             name ? QLatin1String("empty") : QLatin1String("missing"))
         .now(logoNow)
         .hint(missing.hint);
 }

@@ -26,25 +26,22 @@ void PxThemeLogoCheck::checkProduct(const PxSourceElement &logo)
         const PxMissingPart missing = PxElementReading(logo, PxFileKind::Theme).missing(booktype);
         m_report
             .add(PxTag::ThemeLogoProductMissing, missing.range,
-                 QString("the logo names no product: \"booktype\" is %1")
-                     .arg(logo.attribute(booktype) ? QLatin1String("empty")
-                                                   : QLatin1String("missing")))
+                 "the logo names no product: \"booktype\" is %1",
+                 logo.attribute(booktype) ? QLatin1String("empty") : QLatin1String("missing"))
             .now(now)
             .hint(missing.hint);
     } else if (type.isValid()) {
         const PxSourceElement *&known = m_logos[int(type.type())];
         if (known)
             m_report
-                .add(PxTag::ThemeLogoTwice, logo.rangeOf(booktype),
-                     QString("%1 has a logo in %2, too")
-                         .arg(type.productName(), PxFinding::otherPlaceMark))
-                .otherPlace(m_report.file().place(known->nameRange))
+                .add(PxTag::ThemeLogoTwice, logo.rangeOf(booktype), "%1 has a logo in %2, too",
+                     type.productName(), m_report.place(known->nameRange))
                 .now("the later one is used, image and place together");
         known = &logo;
     } else if (!m_types.isEmpty() && !m_types.isListed(name)) {
         m_report
             .add(PxTag::ThemeLogoProductUnknown, logo.rangeOf(booktype),
-                 QString("\"%1\" is no known product name").arg(name))
+                 "\"%1\" is no known product name", name)
             .now(now)
             .hint([&] { return m_types.hint(name); });
     }
@@ -71,14 +68,14 @@ void PxThemeLogoCheck::checkPlace(const PxSourceElement &logo) const
         m_report
             .add(PxTag::ThemeLogoWithoutPlace, logo.rangeOf(culprit),
                  "the place of the logo is empty or too far out")
-            .now(QString("it is %1 x %2 large").arg(rect.width()).arg(rect.height()));
+            .now("it is %1 x %2 large", rect.width(), rect.height());
         return;
     }
     const PxMissingPart side =
         PxElementReading(logo, PxFileKind::Theme).missing(qPrintable(missing.constFirst()));
     m_report
-        .add(PxTag::ThemeLogoWithoutPlace, side.range,
-             QString("the logo has no %1").arg(PxMessageText::quotedList(missing, " and no ")))
+        .add(PxTag::ThemeLogoWithoutPlace, side.range, "the logo has no %1",
+             PxMessageText::quotedList(missing, " and no "))
         .now("it has no place")
         .hint(side.hint);
 }
