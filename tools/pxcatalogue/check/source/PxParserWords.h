@@ -4,12 +4,15 @@
 
 #include <QString>
 
-/** Says in the words of an author what a parser says in those of a grammar. */
+/** Says in the words of an author what a parser stumbles over. */
 class PxParserWords
 {
 public:
-    /** The parser has stopped at the last character of the text. */
-    PxParserWords(const QString &message, const QString &textUpToFault);
+    /**
+     * The parser has stopped at the last character of the text, in what begins with `token`: a tag,
+     * a comment, or a text.
+     */
+    PxParserWords(const QString &textUpToFault, int token);
 
     /** Empty when there is nothing better to say; then there is neither hint nor range. */
     QString message() const { return m_message; }

@@ -63,8 +63,8 @@ void PxSourceFault::classify(const QXmlStreamReader &reader, int begin)
     else if (!findUndeclaredEntity(end) && !findWrongEndTag(begin, end) &&
              !findLateDeclaration(begin, end) && !findSecondAttribute(begin, end))
         findUnfinishedTag(begin, end);
-    const PxParserWords words(m_message, m_text.left(end));
-    if (!words.message().isEmpty()) {
+    const PxParserWords words(m_text.left(end), begin);
+    if (m_kind == Kind::NotWellFormed && !words.message().isEmpty()) {
         m_message = words.message();
         m_hint = words.hint();
         m_range = words.range();

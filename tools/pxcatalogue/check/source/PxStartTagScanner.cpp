@@ -31,28 +31,40 @@ PxSourceRange PxStartTagScanner::readName()
     return {m_offset + begin, m_offset + m_position};
 }
 
+/** Answers whether there is one, and all of it. */
 bool PxStartTagScanner::readAttribute()
 {
+    const int end = m_position; // of the value before
     skipBlanks();
+    const bool hasBlank = m_position > end;
     PxSourceAttribute attribute;
     attribute.nameRange = readName();
     attribute.name = m_tag.mid(attribute.nameRange.begin - m_offset)
                          .left(attribute.nameRange.end - attribute.nameRange.begin)
                          .toString();
-    skipBlanks();
-    if (attribute.name.isEmpty() || m_position >= m_tag.size() ||
-        m_tag[m_position] != QLatin1Char('='))
+    if (attribute.name.isEmpty())
         return false;
+    if (!hasBlank)
+        return lacks(Lack::Blank);
+    skipBlanks();
+    if (m_position >= m_tag.size() || m_tag[m_position] != '=')
+        return lacks(Lack::EqualSign);
     ++m_position;
     skipBlanks();
-    if (m_position >= m_tag.size())
-        return false;
-    const QChar quote = m_tag[m_position];
-    const int end = int(m_tag.indexOf(quote, m_position + 1));
-    if ((quote != QLatin1Char('"') && quote != QLatin1Char('\'')) || end < 0)
-        return false;
-    attribute.valueRange = {m_offset + m_position + 1, m_offset + end};
+    const QChar quote = m_position < m_tag.size() ? m_tag[m_position] : QChar();
+    if (quote != '"' && quote != '\'')
+        return lacks(Lack::Quote);
+    const int valueEnd = int(m_tag.indexOf(quote, m_position + 1));
+    if (valueEnd < 0)
+        return lacks(Lack::EndOfValue);
+    attribute.valueRange = {m_offset + m_position + 1, m_offset + valueEnd};
     m_attributes.append(attribute);
-    m_position = end + 1;
+    m_position = valueEnd + 1;
     return true;
+}
+
+bool PxStartTagScanner::lacks(Lack lack)
+{
+    m_lack = lack;
+    return false;
 }
