@@ -1,10 +1,10 @@
 #include "app/PxCatalogue.h"
 
-#include "app/PxCatalogueDirectories.h"
 #include "app/PxCatalogueLog.h"
-#include "commands/PxCatalogueProducts.h"
-#include "commands/PxCheckCommand.h"
+#include "commands/PxCatalogueDirectories.h"
 #include "commands/PxNearestNames.h"
+#include "commands/check/PxCheckCommand.h"
+#include "report/PxCatalogueProducts.h"
 #include "report/PxProductReport.h"
 #include "report/PxProductTable.h"
 #include "report/PxReport.h"
@@ -24,14 +24,13 @@ constexpr int done = 0;
 constexpr int answerIsNo = 1;
 constexpr int cannotRun = 2;
 
-PxCatalogueLog::Shown shownLog(const PxCatalogueCommandLine &commandLine)
+PxCatalogueLog::Shown shownLog(const PxCommandLine &commandLine)
 {
     if (commandLine.isVerbose())
         return PxCatalogueLog::Shown::Everything;
     // What the library complains about is what "check" finds, and tells better.
-    return commandLine.command() == PxCatalogueCommandLine::Command::Check
-               ? PxCatalogueLog::Shown::Nothing
-               : PxCatalogueLog::Shown::Warnings;
+    return commandLine.command() == PxCommandLine::Command::Check ? PxCatalogueLog::Shown::Nothing
+                                                                  : PxCatalogueLog::Shown::Warnings;
 }
 
 /** Before the library is asked anything: it translates its tables when it builds them. */
@@ -71,7 +70,7 @@ int PxCatalogue::run() const
         return PxTerminal::write(PxOutputText(m_commandLine.information())) ? done : cannotRun;
 
     PxCatalogueLog::install(shownLog(m_commandLine));
-    if (m_commandLine.command() == PxCatalogueCommandLine::Command::Check) {
+    if (m_commandLine.command() == PxCommandLine::Command::Check) {
         installTranslation(m_commandLine.language());
         return PxCheckCommand(m_commandLine).run();
     }
@@ -83,13 +82,13 @@ int PxCatalogue::run() const
     installTranslation(m_commandLine.language());
     PxProductPropertiesInitializer::setupModule();
     switch (m_commandLine.command()) {
-    case PxCatalogueCommandLine::Command::Show:
+    case PxCommandLine::Command::Show:
         return show();
-    case PxCatalogueCommandLine::Command::Compatible:
+    case PxCommandLine::Command::Compatible:
         return showCompatible();
-    case PxCatalogueCommandLine::Command::Themes:
+    case PxCommandLine::Command::Themes:
         return showThemes();
-    case PxCatalogueCommandLine::Command::Variants:
+    case PxCommandLine::Command::Variants:
         return showVariants();
     default:
         return list();

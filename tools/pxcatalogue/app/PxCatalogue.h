@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/PxCatalogueCommandLine.h"
+#include "commands/PxCommandLine.h"
 
 class PxProductType;
 class PxReport;
@@ -33,5 +33,5 @@ private:
     int printUnknownTheme() const;
     bool isThemeKnown() const;
 
-    PxCatalogueCommandLine m_commandLine;
+    PxCommandLine m_commandLine;
 };

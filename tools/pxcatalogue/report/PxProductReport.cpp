@@ -1,6 +1,6 @@
 #include "report/PxProductReport.h"
 
-#include "commands/PxCatalogueProducts.h"
+#include "report/PxCatalogueProducts.h"
 
 #include <PxProductProperties.h>
 

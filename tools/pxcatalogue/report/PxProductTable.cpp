@@ -1,6 +1,6 @@
 #include "report/PxProductTable.h"
 
-#include "commands/PxCatalogueProducts.h"
+#include "report/PxCatalogueProducts.h"
 #include "report/PxReport.h"
 
 #include <PxProductProperties.h>

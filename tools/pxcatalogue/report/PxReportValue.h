@@ -1,6 +1,6 @@
 #pragma once
 
-#include "commands/PxCatalogueKeywords.h"
+#include "report/PxCatalogueKeywords.h"
 
 #include <QJsonValue>
 #include <QSize>

@@ -1,6 +1,6 @@
 #include "report/PxThemeTable.h"
 
-#include "commands/PxCatalogueProducts.h"
+#include "report/PxCatalogueProducts.h"
 #include "report/PxReport.h"
 
 #include <EnumHelper.h>

@@ -1,6 +1,6 @@
-#include "app/PxCatalogueDirectories.h"
+#include "commands/PxCatalogueDirectories.h"
 
-#include "app/PxCatalogueCommandLine.h"
+#include "commands/PxCommandLine.h"
 
 #include <PxDirectoryConfig.h>
 #include <PxXMLLoader.h>
@@ -25,7 +25,7 @@ QString resourcesAbove(const QString &path)
 
 } // namespace
 
-PxCatalogueDirectories::PxCatalogueDirectories(const PxCatalogueCommandLine &commandLine)
+PxCatalogueDirectories::PxCatalogueDirectories(const PxCommandLine &commandLine)
     : m_commandLine(commandLine)
 {}
 
@@ -50,7 +50,7 @@ QString PxCatalogueDirectories::apply() const
 
 bool PxCatalogueDirectories::isCheck() const
 {
-    return m_commandLine.command() == PxCatalogueCommandLine::Command::Check;
+    return m_commandLine.command() == PxCommandLine::Command::Check;
 }
 
 bool PxCatalogueDirectories::isCheckOfFiles() const

@@ -1,10 +1,10 @@
-#include "commands/PxCheckCommand.h"
+#include "commands/check/PxCheckCommand.h"
 
-#include "app/PxCatalogueCommandLine.h"
-#include "app/PxCatalogueDirectories.h"
 #include "check/catalogue/PxCheck.h"
-#include "commands/PxCheckFiles.h"
-#include "output/PxCheckExplanation.h"
+#include "commands/PxCatalogueDirectories.h"
+#include "commands/PxCommandLine.h"
+#include "commands/check/PxCheckExplanation.h"
+#include "commands/check/PxCheckFiles.h"
 #include "output/PxFindingsBaseline.h"
 #include "output/PxFindingsJson.h"
 #include "output/PxFindingsSarif.h"
@@ -29,7 +29,7 @@ int cannotRunBecause(const QString &problem)
 
 } // namespace
 
-PxCheckCommand::PxCheckCommand(const PxCatalogueCommandLine &commandLine)
+PxCheckCommand::PxCheckCommand(const PxCommandLine &commandLine)
     : m_commandLine(commandLine)
     , m_options(commandLine)
 {}

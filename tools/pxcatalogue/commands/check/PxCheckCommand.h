@@ -1,15 +1,15 @@
 #pragma once
 
 #include "check/findings/PxCheckReport.h"
-#include "commands/PxCheckOptions.h"
+#include "commands/check/PxCheckOptions.h"
 
-class PxCatalogueCommandLine;
+class PxCommandLine;
 
 /** The command "check": finds the files, runs the checks and prints what they found. */
 class PxCheckCommand
 {
 public:
-    explicit PxCheckCommand(const PxCatalogueCommandLine &commandLine);
+    explicit PxCheckCommand(const PxCommandLine &commandLine);
 
     /**
      * Answers the exit status: 0 when nothing is as bad as the user fears, 1 when something is, 2
@@ -25,7 +25,7 @@ private:
     int print() const;
     bool write() const;
 
-    const PxCatalogueCommandLine &m_commandLine;
+    const PxCommandLine &m_commandLine;
     const PxCheckOptions m_options;
     PxCheckReport m_report;
 };

@@ -1,6 +1,6 @@
-#include "app/PxCatalogueCommandLine.h"
+#include "commands/PxCommandLine.h"
 
-#include "commands/PxCatalogueKeywords.h"
+#include "report/PxCatalogueKeywords.h"
 #include "report/PxProductReport.h"
 
 #include <QCoreApplication>
@@ -13,7 +13,7 @@
 
 namespace {
 
-using Command = PxCatalogueCommandLine::Command;
+using Command = PxCommandLine::Command;
 
 constexpr int themedCommands = int(Command::Show) | int(Command::Compatible);
 constexpr int shownCommands =
@@ -152,19 +152,19 @@ void addOptions(QCommandLineParser *parser, int commands)
 
 } // namespace
 
-PxCatalogueCommandLine::PxCatalogueCommandLine(const QStringList &arguments)
+PxCommandLine::PxCommandLine(const QStringList &arguments)
 {
     if (readCommand(arguments))
         readOptions(arguments);
 }
 
-QJsonArray PxCatalogueCommandLine::criterionKeywords() const
+QJsonArray PxCommandLine::criterionKeywords() const
 {
     return QJsonArray::fromStringList(keywordsOf(m_criterion, ::criterionKeywords));
 }
 
 /** Answers whether there is one; its options, which may stand before it, are read after it. */
-bool PxCatalogueCommandLine::readCommand(const QStringList &arguments)
+bool PxCommandLine::readCommand(const QStringList &arguments)
 {
     QCommandLineParser parser;
     addOptions(&parser, everyCommand);
@@ -192,7 +192,7 @@ bool PxCatalogueCommandLine::readCommand(const QStringList &arguments)
     return false;
 }
 
-void PxCatalogueCommandLine::readOptions(const QStringList &arguments)
+void PxCommandLine::readOptions(const QStringList &arguments)
 {
     const CommandRow &row = rowOf(m_command);
     addOptions(&m_parser, int(m_command));
@@ -214,7 +214,7 @@ void PxCatalogueCommandLine::readOptions(const QStringList &arguments)
 }
 
 /** Whether there are as many as the command takes. */
-bool PxCatalogueCommandLine::checkArguments()
+bool PxCommandLine::checkArguments()
 {
     const CommandRow &row = rowOf(m_command);
     const QStringList given = m_parser.positionalArguments().mid(1);
@@ -226,7 +226,7 @@ bool PxCatalogueCommandLine::checkArguments()
     return m_error.isEmpty();
 }
 
-void PxCatalogueCommandLine::readValues()
+void PxCommandLine::readValues()
 {
     for (const auto &row : optionRows) {
         const QString name = QLatin1String(row.name);
@@ -242,7 +242,7 @@ void PxCatalogueCommandLine::readValues()
 }
 
 /** Below the minimum when the option is not given. */
-int PxCatalogueCommandLine::readNumber(const QString &option, int minimum, int maximum)
+int PxCommandLine::readNumber(const QString &option, int minimum, int maximum)
 {
     if (!m_parser.optionNames().contains(option))
         return minimum - 1;
@@ -257,8 +257,7 @@ int PxCatalogueCommandLine::readNumber(const QString &option, int minimum, int m
 
 /** 0 when the option is not given. */
 template <typename ENUM>
-ENUM PxCatalogueCommandLine::readKeywords(const QString &option,
-                                          const QHash<QString, ENUM> &keywords)
+ENUM PxCommandLine::readKeywords(const QString &option, const QHash<QString, ENUM> &keywords)
 {
     int flags = 0;
     if (!m_parser.optionNames().contains(option))
@@ -277,7 +276,7 @@ ENUM PxCatalogueCommandLine::readKeywords(const QString &option,
     return static_cast<ENUM>(flags);
 }
 
-void PxCatalogueCommandLine::setError(const QString &error)
+void PxCommandLine::setError(const QString &error)
 {
     if (m_error.isEmpty())
         m_error = error + QLatin1String(" (\"pxcatalogue --help\" explains everything)");

@@ -5,13 +5,13 @@
 #include <QHash>
 #include <QVector>
 
-class PxCatalogueCommandLine;
+class PxCommandLine;
 
 /** Finds the files that are to be checked, in the directories that the library has been told. */
 class PxCheckFiles
 {
 public:
-    explicit PxCheckFiles(const PxCatalogueCommandLine &commandLine);
+    explicit PxCheckFiles(const PxCommandLine &commandLine);
 
     /** Answers what is wrong with the paths, in one line; empty for nothing. */
     QString find();
@@ -37,7 +37,7 @@ private:
     QString findFiles(const Directory &directory);
     QString shown(const QString &absolutePath) const;
 
-    const PxCatalogueCommandLine &m_commandLine;
+    const PxCommandLine &m_commandLine;
     QHash<QString, QString> m_shownOf; // directories as they were given, by absolute path
     PxCheckPaths m_paths;
     QHash<QString, QString> m_catalogueNames;

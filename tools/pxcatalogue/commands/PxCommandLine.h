@@ -7,7 +7,7 @@
 #include <QJsonArray>
 
 /** What the user wants: a command with its options, or only a text about the program. */
-class PxCatalogueCommandLine
+class PxCommandLine
 {
 public:
     enum class Command {
@@ -19,7 +19,7 @@ public:
         Check = 32
     };
 
-    explicit PxCatalogueCommandLine(const QStringList &arguments);
+    explicit PxCommandLine(const QStringList &arguments);
 
     /** Why nothing can be done, in one line that says what to do; empty when all is well. */
     QString error() const { return m_error; }

@@ -2,13 +2,13 @@
 
 #include <QString>
 
-class PxCatalogueCommandLine;
+class PxCommandLine;
 
 /** Where the catalogue is: the directories of the command line, else those of the platform. */
 class PxCatalogueDirectories
 {
 public:
-    explicit PxCatalogueDirectories(const PxCatalogueCommandLine &commandLine);
+    explicit PxCatalogueDirectories(const PxCommandLine &commandLine);
 
     /** Tells them to the platform. Answers what is wrong with them, in one line; empty for nothing.
      */
@@ -23,5 +23,5 @@ private:
     QString useGivenOnes() const;
     QString findCatalogue() const;
 
-    const PxCatalogueCommandLine &m_commandLine;
+    const PxCommandLine &m_commandLine;
 };

@@ -6,7 +6,7 @@
 #include <QMap>
 #include <QStringList>
 
-class PxCatalogueCommandLine;
+class PxCommandLine;
 
 /** The options of the command "check", understood. */
 class PxCheckOptions
@@ -14,7 +14,7 @@ class PxCheckOptions
 public:
     enum class Format { Text, Json, Sarif, Markdown };
 
-    explicit PxCheckOptions(const PxCatalogueCommandLine &commandLine);
+    explicit PxCheckOptions(const PxCommandLine &commandLine);
 
     /** What is wrong with them, in one line that says what to do; empty for nothing. */
     QString error() const { return m_error; }

@@ -1,8 +1,8 @@
-#include "commands/PxCheckOptions.h"
+#include "commands/check/PxCheckOptions.h"
 
-#include "app/PxCatalogueCommandLine.h"
 #include "check/findings/PxCheckTags.h"
 #include "check/words/PxSpelling.h"
+#include "commands/PxCommandLine.h"
 
 namespace {
 
@@ -34,7 +34,7 @@ QStringList partsOf(const QStringList &values)
 
 } // namespace
 
-PxCheckOptions::PxCheckOptions(const PxCatalogueCommandLine &commandLine)
+PxCheckOptions::PxCheckOptions(const PxCommandLine &commandLine)
     : m_isQuiet(commandLine.isSet("quiet"))
     , m_isPedantic(commandLine.isSet("pedantic"))
     , m_mustListTags(commandLine.isSet("list-tags"))

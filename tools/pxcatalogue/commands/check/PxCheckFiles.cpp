@@ -1,8 +1,8 @@
-#include "commands/PxCheckFiles.h"
+#include "commands/check/PxCheckFiles.h"
 
-#include "app/PxCatalogueCommandLine.h"
-#include "app/PxCatalogueDirectories.h"
 #include "check/source/PxCheckedFile.h"
+#include "commands/PxCatalogueDirectories.h"
+#include "commands/PxCommandLine.h"
 
 #include <PxDirectoryConfig.h>
 #include <values/PxUndecodableNames.h>
@@ -40,7 +40,7 @@ bool looksLikeXml(const QString &name)
 
 } // namespace
 
-PxCheckFiles::PxCheckFiles(const PxCatalogueCommandLine &commandLine) : m_commandLine(commandLine)
+PxCheckFiles::PxCheckFiles(const PxCommandLine &commandLine) : m_commandLine(commandLine)
 {
     QStringList given = (m_commandLine.value("resources") + QDir::listSeparator() +
                          qEnvironmentVariable("PX_RESOURCE_DIRS"))

@@ -1,4 +1,4 @@
-#include "output/PxCheckExplanation.h"
+#include "commands/check/PxCheckExplanation.h"
 
 #include "check/PxCheckLimits.h"
 #include "check/findings/PxCheckTags.h"

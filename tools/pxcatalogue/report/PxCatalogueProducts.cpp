@@ -1,7 +1,7 @@
-#include "commands/PxCatalogueProducts.h"
+#include "report/PxCatalogueProducts.h"
 
 #include "check/words/PxListedProductTypes.h"
-#include "commands/PxCatalogueKeywords.h"
+#include "report/PxCatalogueKeywords.h"
 
 #include <PxProductProperties.h>
 
