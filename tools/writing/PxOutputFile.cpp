@@ -13,59 +13,63 @@
 namespace {
 
 /** What happened, and what helps. */
-QString problem(int error)
+std::optional<PxProblem> problemOf(int error)
 {
     if (error == 0)
-        return QString();
+        return std::nullopt;
     const bool isFull = error == ENOSPC || error == EDQUOT || error == EFBIG;
-    return PxOutputFile::errorText(error) +
-           (isFull ? QLatin1String("; make room, or name another file")
-                   : QLatin1String("; name another file"));
+    return PxProblem{PxOutputFile::errorText(error) +
+                     (isFull ? "; make room, or name another file" : "; name another file")};
 }
 
-QString replace(const QString &path, const QByteArray &contents)
+std::optional<PxProblem> problemOf(const QSaveFile &file)
+{
+    return PxProblem{file.errorString() + "; name another file"};
+}
+
+std::optional<PxProblem> replace(const QString &path, const QByteArray &contents)
 {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
-        return file.errorString() + QLatin1String("; name another file");
+        return problemOf(file);
     // Past the buffer of QSaveFile, which is written last and not checked, as its fsync() is not.
     int error = PxOutputFile::write(file.handle(), contents);
     if (error == 0 && fsync(file.handle()) != 0 && errno != EINVAL) // not every system has it
         error = errno;
     if (error != 0)
-        return problem(error);
-    return file.commit() ? QString() : file.errorString() + QLatin1String("; name another file");
+        return problemOf(error);
+    return file.commit() ? std::nullopt : problemOf(file);
 }
 
-QString writeInPlace(const QByteArray &name, const QByteArray &contents)
+std::optional<PxProblem> writeInPlace(const QByteArray &name, const QByteArray &contents)
 {
     const int descriptor = open(name.constData(), O_WRONLY | O_NOCTTY | O_CLOEXEC);
     if (descriptor == -1)
-        return problem(errno);
+        return problemOf(errno);
     const int error = PxOutputFile::write(descriptor, contents);
     const int closingError = close(descriptor) == 0 ? 0 : errno;
-    return problem(error != 0 ? error : closingError);
+    return problemOf(error != 0 ? error : closingError);
 }
 
 } // namespace
 
-QString PxOutputFile::write(const QString &path, const QByteArray &contents)
+std::optional<PxProblem> PxOutputFile::write(const QString &path, const QByteArray &contents)
 {
     const QByteArray name = QFile::encodeName(path);
     struct stat file = {};
     if (stat(name.constData(), &file) != 0)
-        return errno == ENOENT ? replace(path, contents) : problem(errno);
+        return errno == ENOENT ? replace(path, contents) : problemOf(errno);
     for (const int descriptor : {STDOUT_FILENO, STDERR_FILENO}) {
         struct stat open = {};
         if (fstat(descriptor, &open) == 0 && open.st_dev == file.st_dev &&
             open.st_ino == file.st_ino)
-            return problem(write(descriptor, contents));
+            return problemOf(write(descriptor, contents));
     }
     if (S_ISREG(file.st_mode))
         return replace(path, contents);
     if (S_ISFIFO(file.st_mode) || S_ISCHR(file.st_mode))
         return writeInPlace(name, contents);
-    return QStringLiteral("it is no regular file; name another file");
+    return PxProblem{"it is no regular file; name another file"};
 }
 
 int PxOutputFile::write(int descriptor, const QByteArray &contents)

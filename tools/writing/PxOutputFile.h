@@ -1,7 +1,11 @@
 #pragma once
 
+#include "writing/PxProblem.h"
+
 #include <QByteArray>
 #include <QString>
+
+#include <optional>
 
 /** Writes the files of a program. What cannot be written harms nothing that was there before. */
 class PxOutputFile
@@ -12,12 +16,11 @@ public:
      * link its target.
      *
      * A pipe or a character device is written as it is, and so is the file that is the program's
-     * stdout or stderr. Nothing else is written. Answers what is wrong, and what helps, in one
-     * line; empty for nothing.
+     * stdout or stderr. Nothing else is written. A problem comes with what helps.
      */
-    static QString write(const QString &path, const QByteArray &contents);
+    static std::optional<PxProblem> write(const QString &path, const QByteArray &contents);
 
-    /** To an open file. Answers 0, or the error number of the system. */
+    /** Writes to an open file. Returns 0, or the error number of the system. */
     static int write(int descriptor, const QByteArray &contents);
     static QString errorText(int error);
 };

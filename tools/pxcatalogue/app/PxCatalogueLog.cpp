@@ -1,5 +1,6 @@
 #include "app/PxCatalogueLog.h"
 
+#include "commands/PxExitStatus.h"
 #include "writing/PxTerminal.h"
 
 #include <QString>
@@ -26,15 +27,15 @@ bool isReason(QtMsgType level, const QMessageLogContext &context)
 void print(QtMsgType level, const QMessageLogContext &context, const QString &text)
 {
     if (level == QtFatalMsg) {
-        PxTerminal::printError(QLatin1String("internal fault: ") + text);
-        std::_Exit(3); // Qt would abort, which says less
+        PxTerminal::printError("internal fault: " + text);
+        std::_Exit(int(PxExitStatus::InternalFault)); // Qt would abort, which says less
     }
     if (ourShown == PxCatalogueLog::Shown::Nothing)
         return;
     if (isReason(level, context) || level != QtDebugMsg)
-        PxTerminal::printError(QLatin1String("warning: ") + text);
+        PxTerminal::printError("warning: " + text);
     else if (ourShown == PxCatalogueLog::Shown::Everything)
-        PxTerminal::printError(QLatin1String("debug: ") + text);
+        PxTerminal::printError("debug: " + text);
 }
 
 } // namespace

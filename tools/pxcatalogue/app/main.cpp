@@ -1,15 +1,50 @@
 // Shows what the product files of a catalogue say, as the library understands them.
-#include "app/PxCatalogue.h"
-
+#include "app/PxCatalogueLog.h"
+#include "commands/PxCommand.h"
+#include "commands/PxCommandLine.h"
+#include "writing/PxOutputText.h"
 #include "writing/PxTerminal.h"
 
 #include <QCoreApplication>
+#include <QLocale>
+#include <QTranslator>
+
+namespace {
+
+/** Before the library is asked anything: it translates its tables when it builds them. */
+void installTranslation(const QString &language)
+{
+    const QLocale locale = language.isEmpty() ? QLocale() : QLocale(language);
+    // The texts are German, so there is no catalogue for it: where German is the first choice, the
+    // catalogue of the second one would be found.
+    if (locale.uiLanguages().value(0).startsWith("de"))
+        return;
+    auto *translator = new QTranslator(QCoreApplication::instance());
+    if (translator->load(locale, "pxproductproperties", "_", ":/pxproductproperties"))
+        QCoreApplication::installTranslator(translator);
+}
+
+PxExitStatus run(const PxCommandLine &line)
+{
+    if (line.problem())
+        return PxCommand::fail(*line.problem());
+    if (line.information())
+        return PxCommand::printed(PxOutputText(*line.information()));
+    using Shown = PxCatalogueLog::Shown;
+    PxCatalogueLog::install(line.isSet("verbose")            ? Shown::Everything
+                            : line.command().showsWarnings() ? Shown::Warnings
+                                                             : Shown::Nothing);
+    installTranslation(line.value("lang"));
+    return line.command().run(line);
+}
+
+} // namespace
 
 int main(int argc, char *argv[])
 {
     PxTerminal::prepare();
     const QCoreApplication application(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("pxcatalogue"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(PX_CATALOGUE_VERSION));
-    return PxCatalogue(QCoreApplication::arguments()).run();
+    QCoreApplication::setApplicationName("pxcatalogue");
+    QCoreApplication::setApplicationVersion(PX_CATALOGUE_VERSION);
+    return int(run(PxCommandLine(QCoreApplication::arguments())));
 }

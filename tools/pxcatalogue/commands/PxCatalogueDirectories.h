@@ -1,6 +1,10 @@
 #pragma once
 
-#include <QString>
+#include "writing/PxProblem.h"
+
+#include <QStringList>
+
+#include <optional>
 
 class PxCommandLine;
 
@@ -8,20 +12,23 @@ class PxCommandLine;
 class PxCatalogueDirectories
 {
 public:
-    explicit PxCatalogueDirectories(const PxCommandLine &commandLine);
+    explicit PxCatalogueDirectories(const PxCommandLine &line) : m_line(line) {}
 
-    /** Tells them to the platform. Answers what is wrong with them, in one line; empty for nothing.
+    /** Sets them in the platform, for questions to the library. */
+    std::optional<PxProblem> apply() const;
+    /**
+     * The same for a check of the paths of the command line, which are the resource directory, or
+     * files that lie in it.
+     *
+     * What the check reports with its place, in producttypes.xml, is no problem here.
      */
-    QString apply() const;
-    /** What is wrong with a directory, in one line; empty for nothing. */
-    static QString problemOf(const QString &directory);
+    std::optional<PxProblem> applyForCheck() const;
+
+    static std::optional<PxProblem> problemOf(const QString &directory);
 
 private:
-    bool isCheck() const;
-    bool isCheckOfFiles() const;
-    QString readResources(QStringList *resources) const;
-    QString useGivenOnes() const;
-    QString findCatalogue() const;
+    std::optional<PxProblem> useGivenOnes(const QStringList &paths) const;
+    std::optional<PxProblem> findResources(const QStringList &paths, QStringList *resources) const;
 
-    const PxCommandLine &m_commandLine;
+    const PxCommandLine &m_line;
 };

@@ -19,30 +19,32 @@ constexpr const char *keys[] = {"path", "tag", "message"};
 
 QString tooLarge(qint64 size)
 {
-    return QStringLiteral("it has %1 bytes, no more than %2 are read")
+    return QString("it has %1 bytes, no more than %2 are read")
         .arg(QString::number(size), QString::number(PxFindingsBaseline::maximumSize));
 }
 
-/** Answers what is wrong, in words that follow the name of the file; empty for nothing. */
-QString load(const QString &path, QByteArray *contents)
+/** The problem is worded to follow the name of the file. */
+std::optional<PxProblem> load(const QString &path, QByteArray *contents)
 {
-    const QString problem = QStringLiteral("cannot be read: ");
+    const auto problem = [](const QString &reason) {
+        return PxProblem{"cannot be read: " + reason};
+    };
     // Without waiting for a pipe, and what is asked is the file that was opened.
     const int descriptor =
         open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (descriptor == -1)
-        return problem + PxOutputFile::errorText(errno);
+        return problem(PxOutputFile::errorText(errno));
     struct stat info = {};
     const bool isRegular = fstat(descriptor, &info) == 0 && S_ISREG(info.st_mode);
     QFile file;
     if (!file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle) || !isRegular)
-        return problem + QLatin1String("it is no regular file");
+        return problem("it is no regular file");
     *contents = file.read(PxFindingsBaseline::maximumSize + 1);
     if (file.error() != QFileDevice::NoError)
-        return problem + file.errorString();
+        return problem(file.errorString());
     if (contents->size() > PxFindingsBaseline::maximumSize)
-        return problem + tooLarge(qMax<qint64>(info.st_size, contents->size()));
-    return QString();
+        return problem(tooLarge(qMax<qint64>(info.st_size, contents->size())));
+    return std::nullopt;
 }
 
 } // namespace
@@ -53,45 +55,49 @@ PxFindingsBaseline::PxFindingsBaseline(const PxCheckReport &report)
         m_counts[PxFindingIdentity(finding, report.catalogueNames)] += finding.count();
 }
 
-QString PxFindingsBaseline::read(const QString &path)
+std::optional<PxProblem> PxFindingsBaseline::read(const QString &path)
 {
     QByteArray json;
-    QString problem = load(path, &json);
-    if (problem.isEmpty())
+    std::optional<PxProblem> problem = load(path, &json);
+    if (!problem)
         problem = readJson(json);
-    return problem.isEmpty() ? QString()
-                             : QStringLiteral("the baseline \"%1\" %2").arg(path, problem);
+    if (problem)
+        problem->text.prepend(QString("the baseline \"%1\" ").arg(path));
+    return problem;
 }
 
-QString PxFindingsBaseline::readJson(const QByteArray &text)
+std::optional<PxProblem> PxFindingsBaseline::readJson(const QByteArray &text)
 {
-    const QString remedy = QStringLiteral("; write it again with --write-baseline");
     QJsonParseError error{};
     const QJsonObject json = QJsonDocument::fromJson(text, &error).object();
+    std::optional<PxProblem> problem;
     if (error.error != QJsonParseError::NoError)
-        return QLatin1String("is no JSON: ") + error.errorString() + remedy;
-    if (json[QLatin1String("format")].toInt() != formatVersion)
-        return QStringLiteral("has another format than %1").arg(formatVersion) + remedy;
-    if (!json[QLatin1String("findings")].isArray())
-        return QLatin1String("has no \"findings\"") + remedy;
-    const QString problem = readFindings(json[QLatin1String("findings")].toArray());
-    return problem.isEmpty() ? QString() : problem + remedy;
+        problem = PxProblem{"is no JSON: " + error.errorString()};
+    else if (json["format"].toInt() != formatVersion)
+        problem = PxProblem{QString("has another format than %1").arg(formatVersion)};
+    else if (!json["findings"].isArray())
+        problem = PxProblem{"has no \"findings\""};
+    else
+        problem = readFindings(json["findings"].toArray());
+    if (problem)
+        problem->text += "; write it again with --write-baseline";
+    return problem;
 }
 
-QString PxFindingsBaseline::readFindings(const QJsonArray &findings)
+std::optional<PxProblem> PxFindingsBaseline::readFindings(const QJsonArray &findings)
 {
     for (const QJsonValue &value : findings) {
         for (const char *key : keys) {
-            if (!value[QLatin1String(key)].isString())
-                return QStringLiteral("has a finding without \"%1\"").arg(QLatin1String(key));
+            if (!value[key].isString())
+                return PxProblem{QString("has a finding without \"%1\"").arg(key)};
         }
-        const int count = value[QLatin1String("count")].toInt();
+        const int count = value["count"].toInt();
         if (count < 1)
-            return QStringLiteral("has a finding without \"count\"");
-        m_counts[{value[QLatin1String("path")].toString(), value[QLatin1String("tag")].toString(),
-                  value[QLatin1String("message")].toString()}] = count;
+            return PxProblem{"has a finding without \"count\""};
+        m_counts[{value["path"].toString(), value["tag"].toString(), value["message"].toString()}] =
+            count;
     }
-    return QString();
+    return std::nullopt;
 }
 
 QByteArray PxFindingsBaseline::toJson() const
@@ -107,16 +113,16 @@ QByteArray PxFindingsBaseline::toJson() const
     return PxVisibleText::json(QJsonDocument(json).toJson()).toUtf8();
 }
 
-QString PxFindingsBaseline::write(const QString &path) const
+std::optional<PxProblem> PxFindingsBaseline::write(const QString &path) const
 {
     const QByteArray json = toJson();
-    const QString problem =
+    std::optional<PxProblem> problem =
         json.size() > maximumSize
-            ? tooLarge(json.size()) + QLatin1String("; leave out tags with --skip")
+            ? PxProblem{tooLarge(json.size()) + "; leave out tags with --skip"}
             : PxOutputFile::write(path, json);
-    return problem.isEmpty()
-               ? QString()
-               : QStringLiteral("the baseline \"%1\" cannot be written: %2").arg(path, problem);
+    if (problem)
+        problem->text.prepend(QString("the baseline \"%1\" cannot be written: ").arg(path));
+    return problem;
 }
 
 /**

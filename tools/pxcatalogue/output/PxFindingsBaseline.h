@@ -2,9 +2,12 @@
 
 #include "check/findings/PxCheckReport.h"
 #include "check/findings/PxFindingIdentity.h"
+#include "writing/PxProblem.h"
 
 #include <QJsonArray>
 #include <QMap>
+
+#include <optional>
 
 /** The findings of an old catalogue that are known: a file that lists them hides them. */
 class PxFindingsBaseline
@@ -17,12 +20,12 @@ public:
     /** Of all findings of the report. */
     explicit PxFindingsBaseline(const PxCheckReport &report);
 
-    /** Both answer what is wrong, in one line; empty for nothing. Only a regular file is read. */
-    QString read(const QString &path);
-    QString write(const QString &path) const;
+    /** Only a regular file is read. */
+    std::optional<PxProblem> read(const QString &path);
+    std::optional<PxProblem> write(const QString &path) const;
 
-    /** As read(), of what such a file holds; the answer does not name the file. */
-    QString readJson(const QByteArray &text);
+    /** Reads the contents of such a file; the problem does not name the file. */
+    std::optional<PxProblem> readJson(const QByteArray &text);
     /** What readJson() reads. */
     QByteArray toJson() const;
 
@@ -30,7 +33,7 @@ public:
     void hide(PxCheckReport *report) const;
 
 private:
-    QString readFindings(const QJsonArray &findings);
+    std::optional<PxProblem> readFindings(const QJsonArray &findings);
 
     QMap<PxFindingIdentity, int> m_counts;
 };

@@ -5,7 +5,10 @@
 #include <PxProductClass.h>
 #include <description/PxProductComparationCriterion.h>
 
+#include <QHash>
 #include <QStringList>
+
+#include <cstddef>
 
 // The keywords of the command line and of the output. Those of the product files are the library's.
 
@@ -26,6 +29,16 @@ inline constexpr PxKeyword<PxProductComparationCriterion> criterionRows[] = {
 inline const QHash<QString, PxProductComparationCriterion> criterionKeywords =
     EnumHelper::keywordMap(criterionRows);
 
+/** The keywords of the rows, in their order. */
+template <typename ENUM, std::size_t COUNT>
+QStringList keywordList(const PxKeyword<ENUM> (&rows)[COUNT])
+{
+    QStringList keywords;
+    for (const PxKeyword<ENUM> &row : rows)
+        keywords.append(row.keyword);
+    return keywords;
+}
+
 /** The lower-case keyword of each bit, lowest bit first; of several the shortest. */
 template <typename ENUM>
 QStringList keywordsOf(ENUM flags, const QHash<QString, ENUM> &map)
@@ -45,7 +58,7 @@ QString keywordOf(const PxEnumWrapper<ENUM> &wrapper)
 {
     const auto *table = wrapper.enumToStringTable();
     const QString keyword = table->encode(wrapper.value());
-    // A value without keyword is encoded as the default, which stands for another value.
+    // A value without keyword is encoded as the default, which is the keyword of another value.
     const ENUM decoded = table->decode(keyword, static_cast<ENUM>(-1));
     return decoded == wrapper.value() ? keyword : wrapper.encodeCSV();
 }

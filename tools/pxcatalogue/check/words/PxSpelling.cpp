@@ -4,8 +4,11 @@
 #include "check/words/PxEditDistance.h"
 
 #include <QRegularExpression>
+#include <QVector>
 
+#include <algorithm>
 #include <cstdlib>
+#include <tuple>
 
 QString PxSpelling::nearest(const QString &word, const QStringList &candidates)
 {
@@ -32,6 +35,23 @@ QString PxSpelling::hint(const QString &word, const QStringList &candidates)
 {
     const QString name = nearest(word, candidates);
     return name.isEmpty() ? QString() : didYouMean(name);
+}
+
+QStringList PxSpelling::nearestThree(const QString &word, const QStringList &candidates)
+{
+    const QString wanted = word.trimmed().toUpper();
+    QVector<std::tuple<int, int, QString>> near;
+    for (const QString &candidate : candidates) {
+        const QString upper = candidate.toUpper();
+        const int distance = PxEditDistance::toPartOf(upper, wanted);
+        if (!wanted.isEmpty() && distance <= wanted.size() / 3)
+            near.append({distance, PxEditDistance::between(wanted, upper), candidate});
+    }
+    std::sort(near.begin(), near.end());
+    QStringList nearest;
+    for (const auto &candidate : near.mid(0, 3))
+        nearest.append(std::get<QString>(candidate));
+    return nearest;
 }
 
 bool PxSpelling::isNear(const QString &word, const QString &name)

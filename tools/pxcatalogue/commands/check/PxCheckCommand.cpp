@@ -5,6 +5,7 @@
 #include "commands/PxCommandLine.h"
 #include "commands/check/PxCheckExplanation.h"
 #include "commands/check/PxCheckFiles.h"
+#include "commands/check/PxCheckOptions.h"
 #include "output/PxFindingsBaseline.h"
 #include "output/PxFindingsJson.h"
 #include "output/PxFindingsSarif.h"
@@ -13,100 +14,109 @@
 #include "writing/PxTerminal.h"
 
 #include <exception>
+#include <limits>
 
 namespace {
 
-constexpr int nothingFound = 0;
-constexpr int somethingFound = 1;
-constexpr int cannotRun = 2;
-constexpr int faultOfOurs = 3;
+using Format = PxCheckOptions::Format;
 
-int cannotRunBecause(const QString &problem)
+PxExitStatus explain(const PxCheckOptions &options)
 {
-    PxTerminal::printError(problem);
-    return cannotRun;
+    QString text = PxCheckExplanation::table();
+    if (options.explainedTag())
+        text = PxCheckExplanation::of(*options.explainedTag());
+    else if (options.format() == Format::Markdown)
+        text = PxCheckExplanation::markdown();
+    return PxCommand::printed(PxOutputText(text));
+}
+
+std::optional<PxProblem> check(const PxCommandLine &line, const PxCheckOptions &options,
+                               PxCheckReport *report)
+{
+    PxCheckFiles files(line);
+    auto problem = PxCatalogueDirectories(line).applyForCheck();
+    if (!problem)
+        problem = files.find();
+    if (problem)
+        return problem;
+    PxFindings findings;
+    options.applyTo(&findings);
+    PxCheck check(files.paths(), findings);
+    check.run();
+    report->findings = findings.sorted();
+    report->tagsNotChecked = findings.tagsNotChecked();
+    report->fileCount = check.fileCount();
+    report->catalogueNames = files.catalogueNames();
+    return std::nullopt;
+}
+
+/** Without what a baseline hides. */
+std::optional<PxProblem> checkWithBaseline(const PxCommandLine &line, const PxCheckOptions &options,
+                                           PxCheckReport *report)
+{
+    PxFindingsBaseline known;
+    std::optional<PxProblem> problem;
+    if (!options.baseline().isEmpty())
+        problem = known.read(options.baseline());
+    if (!problem)
+        problem = check(line, options, report);
+    if (!problem && !options.newBaseline().isEmpty()) {
+        known = PxFindingsBaseline(*report);
+        problem = known.write(options.newBaseline());
+    }
+    known.hide(report);
+    return problem;
+}
+
+PxExitStatus print(const PxCheckReport &report, const PxCheckOptions &options)
+{
+    if (options.format() == Format::Json)
+        return PxCommand::printed(PxFindingsJson(report).json());
+    if (options.format() == Format::Sarif)
+        return PxCommand::printed(PxFindingsSarif(report).json());
+    return PxCommand::printed(
+        PxFindingsText(report, PxTerminal::hasColours()).text(options.isQuiet()));
+}
+
+PxExitStatus runChecks(const PxCommandLine &line, const PxCheckOptions &options)
+{
+    PxCheckReport report;
+    if (const auto problem = checkWithBaseline(line, options, &report))
+        return PxCommand::fail(*problem);
+    const PxExitStatus status = print(report, options);
+    return status == PxExitStatus::Done && report.hasAtLeast(options.failOn())
+               ? PxExitStatus::AnswerIsNo
+               : status;
 }
 
 } // namespace
 
-PxCheckCommand::PxCheckCommand(const PxCommandLine &commandLine)
-    : m_commandLine(commandLine)
-    , m_options(commandLine)
-{}
+PxCommandUsage PxCheckCommand::usage() const
+{
+    // clang-format off
+    return {"check",
+        "What authors should know about the files of a catalogue.\n"
+        "Each place where what a file says and what the library does part ways, with the line and the\n"
+        "column, what the library does now, and what was probably meant. PATH is a resource directory,\n"
+        "or single files, which are checked each by itself; default: the resource directories. The\n"
+        "comment <!-- check: allow TAG reason --> silences a tag for the element behind it.\n"
+        "Exit status: 0 nothing found that is as bad as --fail-on says; 1 something is; 2 wrong usage,\n"
+        "or what cannot be read or written; 3 a fault of the program.",
+        PxCheckOptions::all(),
+        {"[PATH…]", "A resource directory, or files.", {}, std::numeric_limits<int>::max()}};
+    // clang-format on
+}
 
-int PxCheckCommand::run()
+PxExitStatus PxCheckCommand::run(const PxCommandLine &line) const
 {
     try {
-        if (!m_options.error().isEmpty())
-            return cannotRunBecause(m_options.error());
-        if (m_options.mustListTags() || m_options.explainedTag())
-            return explain();
-        return runChecks();
+        const PxCheckOptions options(line);
+        if (options.problem())
+            return fail(*options.problem());
+        return options.mustListTags() || options.explainedTag() ? explain(options)
+                                                                : runChecks(line, options);
     } catch (const std::exception &fault) {
-        PxTerminal::printError(QStringLiteral("internal fault: ") +
-                               QString::fromUtf8(fault.what()));
-        return faultOfOurs;
+        PxTerminal::printError(QString("internal fault: ") + fault.what());
+        return PxExitStatus::InternalFault;
     }
-}
-
-int PxCheckCommand::explain() const
-{
-    QString text = PxCheckExplanation::table();
-    if (m_options.explainedTag())
-        text = PxCheckExplanation::of(*m_options.explainedTag());
-    else if (m_options.format() == PxCheckOptions::Format::Markdown)
-        text = PxCheckExplanation::markdown();
-    return PxTerminal::write(PxOutputText(text)) ? nothingFound : cannotRun;
-}
-
-int PxCheckCommand::runChecks()
-{
-    PxFindingsBaseline known;
-    QString problem = m_options.baseline().isEmpty() ? QString() : known.read(m_options.baseline());
-    if (problem.isEmpty())
-        problem = check();
-    if (problem.isEmpty() && !m_options.newBaseline().isEmpty()) {
-        known = PxFindingsBaseline(m_report);
-        problem = known.write(m_options.newBaseline());
-    }
-    if (!problem.isEmpty())
-        return cannotRunBecause(problem);
-    known.hide(&m_report);
-    return print();
-}
-
-QString PxCheckCommand::check()
-{
-    QString problem = PxCatalogueDirectories(m_commandLine).apply();
-    PxCheckFiles files(m_commandLine);
-    if (problem.isEmpty())
-        problem = files.find();
-    if (!problem.isEmpty())
-        return problem;
-    PxFindings findings;
-    m_options.applyTo(&findings);
-    PxCheck check(files.paths(), findings);
-    check.run();
-    m_report.findings = findings.sorted();
-    m_report.tagsNotChecked = findings.tagsNotChecked();
-    m_report.fileCount = check.fileCount();
-    m_report.catalogueNames = files.catalogueNames();
-    return QString();
-}
-
-int PxCheckCommand::print() const
-{
-    if (!write())
-        return cannotRun;
-    return m_report.hasAtLeast(m_options.failOn()) ? somethingFound : nothingFound;
-}
-
-bool PxCheckCommand::write() const
-{
-    if (m_options.format() == PxCheckOptions::Format::Json)
-        return PxTerminal::write(PxFindingsJson(m_report).json());
-    if (m_options.format() == PxCheckOptions::Format::Sarif)
-        return PxTerminal::write(PxFindingsSarif(m_report).json());
-    return PxTerminal::write(
-        PxFindingsText(m_report, PxTerminal::hasColours()).text(m_options.isQuiet()));
 }

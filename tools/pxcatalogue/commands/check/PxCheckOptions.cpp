@@ -3,6 +3,7 @@
 #include "check/findings/PxCheckTags.h"
 #include "check/words/PxSpelling.h"
 #include "commands/PxCommandLine.h"
+#include "commands/PxOption.h"
 
 namespace {
 
@@ -26,7 +27,7 @@ QStringList partsOf(const QStringList &values)
 {
     QStringList parts;
     for (const QString &value : values) {
-        for (const QString &part : value.split(QLatin1Char(',')))
+        for (const QString &part : value.split(','))
             parts.append(part.trimmed());
     }
     return parts;
@@ -34,24 +35,43 @@ QStringList partsOf(const QStringList &values)
 
 } // namespace
 
-PxCheckOptions::PxCheckOptions(const PxCommandLine &commandLine)
-    : m_isQuiet(commandLine.isSet("quiet"))
-    , m_isPedantic(commandLine.isSet("pedantic"))
-    , m_mustListTags(commandLine.isSet("list-tags"))
-    , m_baseline(commandLine.value("baseline"))
-    , m_newBaseline(commandLine.value("write-baseline"))
+QVector<PxOption> PxCheckOptions::all()
 {
-    if (commandLine.isSet("explain"))
-        m_explainedTag = readTag("explain", commandLine.value("explain"));
-    if (commandLine.isSet("format"))
-        readFormat(commandLine.value("format"));
-    if (commandLine.isSet("fail-on"))
-        m_failOn = readSeverity("fail-on", commandLine.value("fail-on"));
-    readOverrides(partsOf(commandLine.values("override")));
-    m_only = readTags("only", commandLine.values("only"));
-    m_skipped = readTags("skip", commandLine.values("skip"));
+    // clang-format off
+    return {
+        {"format", "FORMAT", "text, json or sarif (2.1.0). Default: text."},
+        {"quiet", "", "As text, the findings only: nothing at all when there is none."},
+        {"pedantic", "", "Also matters of style."},
+        {"fail-on", "SEVERITY", "How bad a finding must be for exit status 1: error, warning, info or pedantic. Default: error."},
+        {"override", "TAG=SEVERITY", "Another severity for this tag; several with commas."},
+        {"only", "TAGS", "Only findings with these tags; several with commas."},
+        {"skip", "TAGS", "No findings with these tags; several with commas."},
+        {"baseline", "FILE", "No findings that are listed in this file."},
+        {"write-baseline", "FILE", "List all findings in this file instead of printing them."},
+        {"explain", "TAG", "What a tag means, with an example. Nothing is checked."},
+        {"list-tags", "", "A table of all tags. Nothing is checked. --format markdown: with their explanations."},
+    };
+    // clang-format on
+}
+
+PxCheckOptions::PxCheckOptions(const PxCommandLine &line)
+    : m_isQuiet(line.isSet("quiet"))
+    , m_isPedantic(line.isSet("pedantic"))
+    , m_mustListTags(line.isSet("list-tags"))
+    , m_baseline(line.value("baseline"))
+    , m_newBaseline(line.value("write-baseline"))
+{
+    if (line.isSet("explain"))
+        m_explainedTag = readTag("explain", line.value("explain"));
+    if (line.isSet("format"))
+        readFormat(line.value("format"));
+    if (line.isSet("fail-on"))
+        m_failOn = readSeverity("fail-on", line.value("fail-on"));
+    readOverrides(partsOf(line.values("override")));
+    m_only = readTags("only", line.values("only"));
+    m_skipped = readTags("skip", line.values("skip"));
     if (!m_baseline.isEmpty() && !m_newBaseline.isEmpty())
-        setError(QStringLiteral("--baseline and --write-baseline do not go together"));
+        setProblem("--baseline and --write-baseline do not go together");
 }
 
 void PxCheckOptions::applyTo(PxFindings *findings) const
@@ -70,55 +90,52 @@ void PxCheckOptions::readFormat(const QString &name)
     for (const auto &row : formats) {
         if (isOfTags ? !row.isOfTags : !row.isOfFindings)
             continue;
-        names.append(QLatin1String(row.name));
-        if (name == QLatin1String(row.name)) {
+        names.append(row.name);
+        if (name == row.name) {
             m_format = row.format;
             return;
         }
     }
-    setError(QStringLiteral("--format needs %1%2, not \"%3\"")
-                 .arg(names.join(QLatin1String(" or ")),
-                      QLatin1String(isOfTags ? " for explanations" : ""), name));
+    setProblem(QString("--format needs %1%2, not \"%3\"")
+                   .arg(names.join(" or "), isOfTags ? " for explanations" : "", name));
 }
 
 void PxCheckOptions::readOverrides(const QStringList &values)
 {
     for (const QString &value : values) {
-        const PxCheckTag *tag = readTag("override", value.section(QLatin1Char('='), 0, 0));
-        if (!value.contains(QLatin1Char('=')))
-            setError(QStringLiteral("--override needs TAG=SEVERITY, not \"%1\"").arg(value));
+        const PxCheckTag *tag = readTag("override", value.section('=', 0, 0));
+        if (!value.contains('='))
+            setProblem(QString("--override needs TAG=SEVERITY, not \"%1\"").arg(value));
         else if (tag)
-            m_overrides[QLatin1String(tag->name)] =
-                readSeverity("override", value.section(QLatin1Char('='), 1));
+            m_overrides[tag->name] = readSeverity("override", value.section('=', 1));
     }
 }
 
-PxSeverity PxCheckOptions::readSeverity(const char *option, const QString &name)
+PxSeverity PxCheckOptions::readSeverity(const QString &option, const QString &name)
 {
     QStringList names;
     for (const PxSeverity severity : PxCheckTags::severities()) {
-        names.append(QLatin1String(PxCheckTags::severityName(severity)));
+        names.append(PxCheckTags::severityName(severity));
         if (name == names.constLast())
             return severity;
     }
-    setError(QStringLiteral("--%1 does not know the severity \"%2\": use %3")
-                 .arg(QLatin1String(option), name, names.join(QLatin1String(", "))));
+    setProblem(QString("--%1 does not know the severity \"%2\": use %3")
+                   .arg(option, name, names.join(", ")));
     return PxSeverity::Error;
 }
 
-const PxCheckTag *PxCheckOptions::readTag(const char *option, const QString &name)
+const PxCheckTag *PxCheckOptions::readTag(const QString &option, const QString &name)
 {
     const PxCheckTag *tag = PxCheckTags::find(name);
     if (!tag) {
         const QString hint = PxSpelling::hint(name, PxCheckTags::names());
-        setError(QStringLiteral("--%1 does not know the tag \"%2\": %3")
-                     .arg(QLatin1String(option), name,
-                          hint.isEmpty() ? QStringLiteral("--list-tags shows all") : hint));
+        setProblem(QString("--%1 does not know the tag \"%2\": %3")
+                       .arg(option, name, hint.isEmpty() ? "--list-tags shows all" : hint));
     }
     return tag;
 }
 
-QStringList PxCheckOptions::readTags(const char *option, const QStringList &values)
+QStringList PxCheckOptions::readTags(const QString &option, const QStringList &values)
 {
     QStringList tags;
     for (const QString &name : partsOf(values)) {
@@ -128,8 +145,8 @@ QStringList PxCheckOptions::readTags(const char *option, const QStringList &valu
     return tags;
 }
 
-void PxCheckOptions::setError(const QString &error)
+void PxCheckOptions::setProblem(const QString &problem)
 {
-    if (m_error.isEmpty())
-        m_error = error;
+    if (!m_problem)
+        m_problem = PxProblem{problem};
 }

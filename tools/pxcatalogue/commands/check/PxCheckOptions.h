@@ -2,11 +2,16 @@
 
 #include "check/findings/PxCheckTag.h"
 #include "check/findings/PxFindings.h"
+#include "writing/PxProblem.h"
 
 #include <QMap>
 #include <QStringList>
+#include <QVector>
+
+#include <optional>
 
 class PxCommandLine;
+struct PxOption;
 
 /** The options of the command "check", understood. */
 class PxCheckOptions
@@ -14,10 +19,13 @@ class PxCheckOptions
 public:
     enum class Format { Text, Json, Sarif, Markdown };
 
-    explicit PxCheckOptions(const PxCommandLine &commandLine);
+    /** What --help says about them. */
+    static QVector<PxOption> all();
 
-    /** What is wrong with them, in one line that says what to do; empty for nothing. */
-    QString error() const { return m_error; }
+    explicit PxCheckOptions(const PxCommandLine &line);
+
+    /** What is wrong with them. */
+    std::optional<PxProblem> problem() const { return m_problem; }
 
     Format format() const { return m_format; }
     PxSeverity failOn() const { return m_failOn; }
@@ -25,20 +33,21 @@ public:
     /** The tag to explain; null for none. */
     const PxCheckTag *explainedTag() const { return m_explainedTag; }
     bool mustListTags() const { return m_mustListTags; }
-    /** Files; empty for none. */
+    /** The file to read; empty for none. */
     QString baseline() const { return m_baseline; }
+    /** The file to write; empty for none. */
     QString newBaseline() const { return m_newBaseline; }
 
-    /** Tells which findings are wanted, and how bad they are. */
+    /** Sets which findings are wanted, and how bad they are. */
     void applyTo(PxFindings *findings) const;
 
 private:
     void readFormat(const QString &name);
     void readOverrides(const QStringList &values);
-    PxSeverity readSeverity(const char *option, const QString &name);
-    const PxCheckTag *readTag(const char *option, const QString &name);
-    QStringList readTags(const char *option, const QStringList &values);
-    void setError(const QString &error);
+    PxSeverity readSeverity(const QString &option, const QString &name);
+    const PxCheckTag *readTag(const QString &option, const QString &name);
+    QStringList readTags(const QString &option, const QStringList &values);
+    void setProblem(const QString &problem);
 
     Format m_format = Format::Text;
     PxSeverity m_failOn = PxSeverity::Error;
@@ -51,5 +60,5 @@ private:
     QStringList m_skipped;
     QString m_baseline;
     QString m_newBaseline;
-    QString m_error;
+    std::optional<PxProblem> m_problem;
 };

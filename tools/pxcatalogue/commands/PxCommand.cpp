@@ -1,0 +1,36 @@
+#include "commands/PxCommand.h"
+
+#include "commands/PxCompatibleCommand.h"
+#include "commands/PxListCommand.h"
+#include "commands/PxShowCommand.h"
+#include "commands/PxThemesCommand.h"
+#include "commands/PxVariantsCommand.h"
+#include "commands/check/PxCheckCommand.h"
+#include "writing/PxTerminal.h"
+
+namespace {
+
+template <typename COMMAND>
+const PxCommand *command()
+{
+    static const COMMAND ourCommand;
+    return &ourCommand;
+}
+
+} // namespace
+
+PxCommand::~PxCommand() = default;
+
+QVector<const PxCommand *> PxCommand::all()
+{
+    return {
+        command<PxListCommand>(),   command<PxShowCommand>(),  command<PxCompatibleCommand>(),
+        command<PxThemesCommand>(), command<PxCheckCommand>(), command<PxVariantsCommand>(),
+    };
+}
+
+PxExitStatus PxCommand::fail(const PxProblem &problem)
+{
+    PxTerminal::printError(problem.text);
+    return PxExitStatus::CannotRun;
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "commands/PxReportCommand.h"
+
+/** The command "compatible": the products that are interchangeable with one. */
+class PxCompatibleCommand : public PxReportCommand
+{
+public:
+    PxCommandUsage usage() const override;
+
+protected:
+    Answer answer(const PxCommandLine &line) const override;
+};

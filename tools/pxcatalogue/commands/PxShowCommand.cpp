@@ -1,0 +1,37 @@
+#include "commands/PxShowCommand.h"
+
+#include "commands/PxCommandLine.h"
+#include "report/PxCatalogueProducts.h"
+#include "report/PxProductReport.h"
+
+#include <PxProductProperties.h>
+
+PxCommandUsage PxShowCommand::usage() const
+{
+    // clang-format off
+    return {"show",
+        "Everything that is known about one product.\n"
+        "Page numbers begin at 0 and count covers and spine; 4-28/2 means every second one\n"
+        "from 4 to 28. What the product does not have is left out.", {
+        {"pages", "N", "As a product of so many pages, 1 to 9999. Default: as many as it is sold with.", 1, PxProductReport::maximumPageCount},
+        PxOption::theme(),
+        PxOption::json(),
+    }, productName()};
+    // clang-format on
+}
+
+PxReportCommand::Answer PxShowCommand::answer(const PxCommandLine &line) const
+{
+    const QString name = line.arguments().constFirst();
+    const PxProductType type(name);
+    const QString theme = themeId(line);
+    const bool isCurrent = PxCatalogueProducts::isCurrent(type);
+    // Nobody designs a product of an earlier catalogue: none of the themes is for it.
+    if (!isCurrent && (!theme.isEmpty() || !PxCatalogueProducts::isLegacy(type)))
+        return unknownProduct(name);
+    if (!isThemeKnown(theme))
+        return unknownTheme(theme);
+    const auto *registry = isCurrent ? PxProductTypeConfigRegistry::instance()
+                                     : PxProductTypeConfigRegistry::legacyInstance();
+    return {PxProductReport(registry, type, line.value("pages").toInt(), theme).report()};
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "commands/PxReportCommand.h"
+
+/** The command "themes": a table of the design themes. */
+class PxThemesCommand : public PxReportCommand
+{
+public:
+    PxCommandUsage usage() const override;
+
+protected:
+    Answer answer(const PxCommandLine &line) const override;
+};

@@ -1,0 +1,42 @@
+#include "commands/PxVariantsCommand.h"
+
+#include "commands/PxCommandLine.h"
+#include "report/PxCatalogueProducts.h"
+
+#include <PxProductProperties.h>
+
+PxCommandUsage PxVariantsCommand::usage() const
+{
+    return {"variants",
+            "The variants of one product, as its colours, with their names.\n"
+            "Those without a name are not on offer and left out.",
+            {PxOption::json()},
+            productName()};
+}
+
+PxReportCommand::Answer PxVariantsCommand::answer(const PxCommandLine &line) const
+{
+    const PxProductType type(line.arguments().constFirst());
+    if (!PxCatalogueProducts::isCurrent(type))
+        return unknownProduct(line.arguments().constFirst());
+
+    const auto *identifiers = PxProductVariantIdentifiers::instance();
+    const QMap<QString, QString> nameOfVariant = identifiers->variants(type);
+    const QString standard = identifiers->defaultVariant(type);
+    QVector<QJsonArray> rows;
+    for (auto it = nameOfVariant.begin(); it != nameOfVariant.end(); ++it)
+        rows.append({it.key(), it.value(), it.key() == standard});
+    PxReport report;
+    report.addFields("product", "Product",
+                     {{"name", "Name", type.productName()},
+                      {"variantDescription", "Differ in", identifiers->variantDescription(type)},
+                      {"defaultVariant", "Default", standard}});
+    report.addTable("variants", "Variants",
+                    {{"identifier", "Identifier", PxReportFormat::Key},
+                     {"name", "Name"},
+                     {"isDefault", "", PxReportFormat::JsonOnly}},
+                    rows);
+    if (!rows.isEmpty())
+        return {report};
+    return {report, PxProblem{type.productName() + " has no variants that have a name"}};
+}
