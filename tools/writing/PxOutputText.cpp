@@ -6,8 +6,8 @@
 
 PxOutputText::PxOutputText(const QString &lines)
 {
-    const QString text = lines.endsWith(QLatin1Char('\n')) ? lines.chopped(1) : lines;
-    for (const QString &line : text.split(QLatin1Char('\n')))
+    const QString text = lines.endsWith('\n') ? lines.chopped(1) : lines;
+    for (const QString &line : text.split('\n'))
         addLine(line);
 }
 

@@ -22,8 +22,7 @@ bool writeOutput(const QByteArray &output)
 {
     const int error = PxOutputFile::write(STDOUT_FILENO, output);
     if (error != 0 && error != EPIPE)
-        PxTerminal::printError(QLatin1String("cannot write the output: ") +
-                               PxOutputFile::errorText(error));
+        PxTerminal::printError("cannot write the output: " + PxOutputFile::errorText(error));
     return error == 0;
 }
 
@@ -72,7 +71,7 @@ QString PxTerminal::wrapped(const QString &text, int width)
 {
     QString lines;
     int column = 0;
-    const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const QStringList words = text.split(' ', Qt::SkipEmptyParts);
     for (const QString &word : words) {
         const bool isBreak = column > 0 && column + 1 + word.size() > width;
         if (column > 0)
@@ -96,6 +95,6 @@ bool PxTerminal::write(const QJsonObject &json)
 void PxTerminal::printError(const QString &message)
 {
     PxOutputText line;
-    line.addLine(QCoreApplication::applicationName() + QLatin1String(": ") + message);
+    line.addLine(QCoreApplication::applicationName() + ": " + message);
     PxOutputFile::write(STDERR_FILENO, line.toUtf8()); // nobody is left to tell if that fails
 }

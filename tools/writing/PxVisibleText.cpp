@@ -50,21 +50,20 @@ bool isVisible(uint character)
 
 QString escape(uint unit, int digits)
 {
-    return QString::number(unit, 16).toUpper().rightJustified(digits, QLatin1Char('0'));
+    return QString::number(unit, 16).toUpper().rightJustified(digits, '0');
 }
 
 QString escapedInText(uint character)
 {
-    return character > 0xFFFF ? QLatin1String("\\U") + escape(character, 8)
-                              : QLatin1String("\\u") + escape(character, 4);
+    return character > 0xFFFF ? "\\U" + escape(character, 8) : "\\u" + escape(character, 4);
 }
 
 QString escapedInJson(uint character)
 {
     if (character <= 0xFFFF)
-        return QLatin1String("\\u") + escape(character, 4);
-    return QLatin1String("\\u") + escape(QChar::highSurrogate(character), 4) +
-           QLatin1String("\\u") + escape(QChar::lowSurrogate(character), 4);
+        return "\\u" + escape(character, 4);
+    return "\\u" + escape(QChar::highSurrogate(character), 4) + "\\u" +
+           escape(QChar::lowSurrogate(character), 4);
 }
 
 /** With `hasLines` line breaks stay. */
@@ -80,7 +79,7 @@ QString escaped(const QString &text, bool hasLines, QString (*escapeOf)(uint))
         const uint character =
             isPair ? QChar::surrogateToUcs4(unit, text[i + 1]) : uint(unit.unicode());
         const int next = i + (isPair ? 2 : 1);
-        if (!isVisible(character) && !(hasLines && unit == QLatin1Char('\n'))) {
+        if (!isVisible(character) && !(hasLines && unit == '\n')) {
             visible += text.midRef(copied, i - copied);
             visible += isHalf ? QString(QChar::ReplacementCharacter) : escapeOf(character);
             copied = next;
@@ -100,10 +99,9 @@ QString PxVisibleText::line(const QString &text)
 QString PxVisibleText::json(const QByteArray &json)
 {
     // Half a pair is the one thing that QJsonDocument escapes by itself beside controls.
-    static const QRegularExpression ourHalf(
-        QStringLiteral("(?<!\\\\)((?:\\\\\\\\)*)\\\\ud[89a-f][0-9a-f]{2}"));
+    static const QRegularExpression ourHalf("(?<!\\\\)((?:\\\\\\\\)*)\\\\ud[89a-f][0-9a-f]{2}");
     QString text = QString::fromUtf8(json);
     if (json.contains("\\ud"))
-        text.replace(ourHalf, QStringLiteral("\\1") + QChar(QChar::ReplacementCharacter));
+        text.replace(ourHalf, QString("\\1") + QChar(QChar::ReplacementCharacter));
     return escaped(text, true, escapedInJson);
 }

@@ -104,12 +104,11 @@ QByteArray PxFindingsBaseline::toJson() const
 {
     QJsonArray findings;
     for (auto it = m_counts.begin(); it != m_counts.end(); ++it)
-        findings.append(QJsonObject{{QStringLiteral("path"), it.key().path()},
-                                    {QStringLiteral("tag"), it.key().tag()},
-                                    {QStringLiteral("message"), it.key().message()},
-                                    {QStringLiteral("count"), *it}});
-    const QJsonObject json{{QStringLiteral("format"), formatVersion},
-                           {QStringLiteral("findings"), findings}};
+        findings.append(QJsonObject{{"path", it.key().path()},
+                                    {"tag", it.key().tag()},
+                                    {"message", it.key().message()},
+                                    {"count", *it}});
+    const QJsonObject json{{"format", formatVersion}, {"findings", findings}};
     return PxVisibleText::json(QJsonDocument(json).toJson()).toUtf8();
 }
 

@@ -10,18 +10,17 @@ constexpr int formatVersion = 1; // a new member keeps it, any other change rais
 
 QJsonObject jsonOf(const PxFinding &finding)
 {
-    return {
-        {QStringLiteral("path"), finding.place.path},
-        {QStringLiteral("line"), finding.place.line},
-        {QStringLiteral("column"), finding.place.column},
-        {QStringLiteral("endLine"), finding.place.endLine},
-        {QStringLiteral("endColumn"), finding.place.endColumn},
-        {QStringLiteral("severity"), QLatin1String(PxCheckTags::severityName(finding.severity))},
-        {QStringLiteral("tag"), QLatin1String(finding.tag->name)},
-        {QStringLiteral("message"), finding.text()},
-        {QStringLiteral("now"), finding.now},
-        {QStringLiteral("hint"), finding.hint},
-        {QStringLiteral("count"), finding.count()}};
+    return {{"path", finding.place.path},
+            {"line", finding.place.line},
+            {"column", finding.place.column},
+            {"endLine", finding.place.endLine},
+            {"endColumn", finding.place.endColumn},
+            {"severity", PxCheckTags::severityName(finding.severity)},
+            {"tag", finding.tag->name},
+            {"message", finding.text()},
+            {"now", finding.now},
+            {"hint", finding.hint},
+            {"count", finding.count()}};
 }
 
 } // namespace
@@ -30,15 +29,14 @@ QJsonObject PxFindingsJson::json() const
 {
     QJsonObject counts;
     for (const PxSeverity severity : PxCheckTags::severities())
-        counts.insert(QLatin1String(PxCheckTags::severityName(severity)), m_report.count(severity));
+        counts.insert(PxCheckTags::severityName(severity), m_report.count(severity));
     QJsonArray findings;
     for (const PxFinding &finding : m_report.findings)
         findings.append(jsonOf(finding));
-    return {
-        {QStringLiteral("format"), formatVersion},
-        {QStringLiteral("files"), m_report.fileCount},
-        {QStringLiteral("counts"), counts},
-        {QStringLiteral("known"), m_report.knownCount},
-        {QStringLiteral("notChecked"), QJsonArray::fromStringList(m_report.tagsNotChecked.keys())},
-        {QStringLiteral("findings"), findings}};
+    return {{"format", formatVersion},
+            {"files", m_report.fileCount},
+            {"counts", counts},
+            {"known", m_report.knownCount},
+            {"notChecked", QJsonArray::fromStringList(m_report.tagsNotChecked.keys())},
+            {"findings", findings}};
 }

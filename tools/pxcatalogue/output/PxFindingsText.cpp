@@ -19,8 +19,7 @@ constexpr struct
 
 QString counted(int count, const char *one, const char *many)
 {
-    return QStringLiteral("%1 %2").arg(QString::number(count),
-                                       QLatin1String(count == 1 ? one : many));
+    return QString("%1 %2").arg(QString::number(count), count == 1 ? one : many);
 }
 
 } // namespace
@@ -42,17 +41,16 @@ void PxFindingsText::addFinding(PxOutputText *text, const PxFinding &finding) co
         if (m_isColoured && row.severity == finding.severity)
             colour = row.colour;
     }
-    const QString place = QStringLiteral("%1:%2:%3: ")
+    const QString place = QString("%1:%2:%3: ")
                               .arg(finding.place.path, QString::number(finding.place.line),
                                    QString::number(finding.place.column));
-    text->addLine(
-        {{place},
-         {QLatin1String(PxCheckTags::severityName(finding.severity)), colour},
-         {QStringLiteral(": %1 [%2]").arg(finding.text(), QLatin1String(finding.tag->name))}});
+    text->addLine({{place},
+                   {PxCheckTags::severityName(finding.severity), colour},
+                   {QString(": %1 [%2]").arg(finding.text(), finding.tag->name)}});
     if (!finding.now.isEmpty())
-        text->addLine(QLatin1String("    now: ") + finding.now);
+        text->addLine("    now: " + finding.now);
     if (!finding.hint.isEmpty())
-        text->addLine(QLatin1String("    hint: ") + finding.hint);
+        text->addLine("    hint: " + finding.hint);
 }
 
 void PxFindingsText::addSummary(PxOutputText *text) const
@@ -61,8 +59,7 @@ void PxFindingsText::addSummary(PxOutputText *text) const
     for (auto it = m_report.tagsNotChecked.begin(); it != m_report.tagsNotChecked.end(); ++it)
         notChecked[it.value()].append(it.key());
     for (auto it = notChecked.begin(); it != notChecked.end(); ++it)
-        text->addLine(
-            QStringLiteral("not checked %1: %2").arg(it.key(), it->join(QLatin1String(", "))));
+        text->addLine(QString("not checked %1: %2").arg(it.key(), it->join(", ")));
     QStringList counts;
     for (const auto &row : severities) {
         const int count = m_report.count(row.severity);
@@ -70,10 +67,9 @@ void PxFindingsText::addSummary(PxOutputText *text) const
             counts.append(counted(count, row.one, row.many));
     }
     if (counts.isEmpty())
-        counts.append(QStringLiteral("nothing found"));
+        counts.append("nothing found");
     if (m_report.knownCount > 0)
-        counts.append(QStringLiteral("%1 known").arg(m_report.knownCount));
-    text->addLine(
-        QStringLiteral("%1 read: %2")
-            .arg(counted(m_report.fileCount, "file", "files"), counts.join(QLatin1String(", "))));
+        counts.append(QString("%1 known").arg(m_report.knownCount));
+    text->addLine(QString("%1 read: %2")
+                      .arg(counted(m_report.fileCount, "file", "files"), counts.join(", ")));
 }

@@ -59,7 +59,7 @@ bool PxCatalogueProducts::isOffered(const PxProductTypeConfigRegistry *registry,
 
 QString PxCatalogueProducts::className(const PxProductType &type)
 {
-    return keywordsOf(type.productClass(), productClassKeywords).join(QLatin1String(", "));
+    return keywordsOf(type.productClass(), productClassKeywords).join(", ");
 }
 
 PxProductTypeList PxCatalogueProducts::sorted(PxProductTypeList types)

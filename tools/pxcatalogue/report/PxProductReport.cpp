@@ -16,8 +16,7 @@ constexpr int iconWidth = 300;
 
 QString sideOf(const PxPageContext &page)
 {
-    return keywordsOf(page.alignment(), EnumHelper::globalMapPageAlignmentString)
-        .join(QLatin1String(", "));
+    return keywordsOf(page.alignment(), EnumHelper::globalMapPageAlignmentString).join(", ");
 }
 
 template <typename ENUM>
@@ -90,12 +89,12 @@ QList<int> nearestPageCounts(const QList<int> &offered, int pageCount)
 
 void warnOfPageCount(const PxProductType &type, int pageCount, const QList<int> &nearest)
 {
-    QString text = type.productName() + QStringLiteral(" is not offered with %1 ").arg(pageCount) +
-                   (pageCount == 1 ? QLatin1String("page") : QLatin1String("pages"));
+    QString text = type.productName() + QString(" is not offered with %1 ").arg(pageCount) +
+                   (pageCount == 1 ? "page" : "pages");
     if (nearest.size() == 1)
-        text += QStringLiteral(", the nearest is %1").arg(nearest[0]);
+        text += QString(", the nearest is %1").arg(nearest[0]);
     else if (!nearest.isEmpty())
-        text += QStringLiteral(", the nearest are %1 and %2")
+        text += QString(", the nearest are %1 and %2")
                     .arg(QString::number(nearest[0]), QString::number(nearest[1]));
     qWarning("%s", qUtf8Printable(text));
 }
@@ -311,8 +310,8 @@ void PxProductReport::addTemplates()
                      defaultTemplate(kind, DefaultTemplateTypeLayout),
                      defaultTemplate(kind, DefaultTemplateTypeBackground)});
     }
-    const QString heading = QStringLiteral("Default templates (theme %1, with the user's own)")
-                                .arg(m_themeId.isEmpty() ? QStringLiteral("normal") : m_themeId);
+    const QString heading = QString("Default templates (theme %1, with the user's own)")
+                                .arg(m_themeId.isEmpty() ? "normal" : m_themeId);
     // clang-format off
     m_report.addTable("templates", heading.toUtf8(), {
         {"pageType", "Page", Format::Key},
@@ -499,6 +498,5 @@ QString PxProductReport::defaultTemplate(const PxPageContext &kind, DefaultTempl
     if (!m_themeId.isEmpty()) // as the editor asks: it has a background of its own for empty pages
         return PxProductContext(m_type, m_themeId)
             .defaultTemplateForPage(type == DefaultTemplateTypeLayout, kind, true);
-    return m_product->findDefaultTemplate(
-        PxDefaultTemplateKey(QStringLiteral("normal"), kind, type), true, true);
+    return m_product->findDefaultTemplate(PxDefaultTemplateKey("normal", kind, type), true, true);
 }

@@ -30,15 +30,15 @@ void PxReport::addFields(const char *key, const char *heading, const QVector<Fie
     table.addColumn(QString(), PxTextTable::Kind::Key);
     table.addColumn(QString(), PxTextTable::Kind::Text);
     for (const Field &field : fields) {
-        json.insert(QLatin1String(field.key), field.value);
+        json.insert(field.key, field.value);
         const QString text = PxReportValue::text(field.value, field.format);
         if (text.isEmpty())
             continue;
         table.addRow({QString::fromUtf8(field.label).leftJustified(labelWidth),
                       text + PxReportValue::unit(field.format)});
     }
-    m_json.insert(QLatin1String(key), json);
-    m_sections.append({QString::fromUtf8(heading), table});
+    m_json.insert(key, json);
+    m_sections.append({heading, table});
 }
 
 void PxReport::addTable(const char *key, const char *heading, const QVector<Column> &columns,
@@ -47,7 +47,7 @@ void PxReport::addTable(const char *key, const char *heading, const QVector<Colu
     PxTextTable table;
     for (const Column &column : columns) {
         if (column.format != PxReportFormat::JsonOnly)
-            table.addColumn(QString::fromUtf8(column.label) + PxReportValue::unit(column.format),
+            table.addColumn(column.label + PxReportValue::unit(column.format),
                             kindOf(column.format));
     }
     QJsonArray json;
@@ -55,22 +55,22 @@ void PxReport::addTable(const char *key, const char *heading, const QVector<Colu
         QJsonObject object;
         QStringList texts;
         for (int i = 0; i < columns.size(); ++i) {
-            object.insert(QLatin1String(columns[i].key), row[i]);
+            object.insert(columns[i].key, row[i]);
             if (columns[i].format != PxReportFormat::JsonOnly)
                 texts.append(PxReportValue::text(row[i], columns[i].format));
         }
         json.append(object);
         table.addRow(texts);
     }
-    m_json.insert(QLatin1String(key), json);
-    m_sections.append({QString::fromUtf8(heading), table});
+    m_json.insert(key, json);
+    m_sections.append({heading, table});
 }
 
 QJsonObject PxReport::json() const
 {
     QJsonObject json = m_json;
-    json.insert(QStringLiteral("format"), formatVersion);
-    json.insert(QStringLiteral("lengthUnit"), QStringLiteral("tenths of a millimetre"));
+    json.insert("format", formatVersion);
+    json.insert("lengthUnit", "tenths of a millimetre");
     return json;
 }
 
@@ -81,7 +81,7 @@ PxOutputText PxReport::text(int width) const
     for (const Section &section : m_sections) {
         if (section.table.isEmpty())
             continue;
-        const QString indent = section.heading.isEmpty() ? QString() : QStringLiteral("  ");
+        const QString indent = section.heading.isEmpty() ? QString() : "  ";
         if (!isFirst)
             text.addLine(QString());
         isFirst = false;

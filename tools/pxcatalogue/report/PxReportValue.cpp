@@ -19,16 +19,16 @@ QString lengthText(const QJsonValue &tenths)
 
 QString sizeText(const QJsonValue &size)
 {
-    return lengthText(size[u"width"]) + QStringLiteral("×") + lengthText(size[u"height"]);
+    return lengthText(size[u"width"]) + "×" + lengthText(size[u"height"]);
 }
 
 QString marginsText(const QJsonValue &margins)
 {
     QStringList sides;
     for (const char *side : {"top", "bottom", "left", "right"})
-        sides.append(lengthText(margins[QLatin1String(side)]));
+        sides.append(lengthText(margins[side]));
     const bool areEqual = sides.count(sides.constFirst()) == sides.size();
-    return areEqual ? sides.constFirst() : sides.join(QLatin1Char('/'));
+    return areEqual ? sides.constFirst() : sides.join('/');
 }
 
 QString pageCountsText(const QJsonValue &counts)
@@ -38,8 +38,8 @@ QString pageCountsText(const QJsonValue &counts)
     if (minimum == maximum)
         return QString::number(minimum);
     if (counts[u"increment"].isNull())
-        return QStringLiteral("%1, %2").arg(minimum).arg(maximum);
-    return QStringLiteral("%1-%2/%3").arg(minimum).arg(maximum).arg(counts[u"increment"].toInt());
+        return QString("%1, %2").arg(minimum).arg(maximum);
+    return QString("%1-%2/%3").arg(minimum).arg(maximum).arg(counts[u"increment"].toInt());
 }
 
 /**
@@ -73,26 +73,25 @@ QString pageNumbersText(const QJsonArray &numbers)
             ++first;
             continue;
         }
-        const QString run =
-            QStringLiteral("%1-%2").arg(QString::number(number), QString::number(last));
-        parts.append(last - number == end - first - 1 ? run : run + QLatin1String("/2"));
+        const QString run = QString("%1-%2").arg(QString::number(number), QString::number(last));
+        parts.append(last - number == end - first - 1 ? run : run + "/2");
         first = end;
     }
-    return parts.join(QLatin1String(", "));
+    return parts.join(", ");
 }
 
 QString plainText(const QJsonValue &value)
 {
     switch (value.type()) {
     case QJsonValue::Bool:
-        return value.toBool() ? QStringLiteral("yes") : QStringLiteral("no");
+        return value.toBool() ? "yes" : "no";
     case QJsonValue::Double:
         return QString::number(value.toDouble());
     case QJsonValue::Array: {
         QStringList parts;
         for (const auto &part : value.toArray())
             parts.append(plainText(part));
-        return parts.join(QLatin1String(", "));
+        return parts.join(", ");
     }
     default:
         return value.toString();
@@ -103,7 +102,7 @@ QJsonObject object(std::initializer_list<QPair<const char *, int>> members)
 {
     QJsonObject object;
     for (const auto &[key, value] : members)
-        object.insert(QLatin1String(key), value);
+        object.insert(key, value);
     return object;
 }
 
@@ -113,8 +112,7 @@ QJsonValue PxReportValue::size(const QSizeF &size)
 {
     if (!size.isValid())
         return QJsonValue();
-    return QJsonObject{{QStringLiteral("width"), qRound64(size.width())},
-                       {QStringLiteral("height"), qRound64(size.height())}};
+    return QJsonObject{{"width", qRound64(size.width())}, {"height", qRound64(size.height())}};
 }
 
 QJsonValue PxReportValue::rect(const QRect &rect)
@@ -135,7 +133,7 @@ QJsonValue PxReportValue::name(const QString &keyword, const QString &displayNam
 {
     if (keyword.isEmpty())
         return QJsonValue();
-    return QJsonObject{{QStringLiteral("keyword"), keyword}, {QStringLiteral("name"), displayName}};
+    return QJsonObject{{"keyword", keyword}, {"name", displayName}};
 }
 
 QJsonValue PxReportValue::pageCounts(const QList<int> &offered, int increment)
@@ -145,9 +143,8 @@ QJsonValue PxReportValue::pageCounts(const QList<int> &offered, int increment)
     const QJsonValue step = offered.size() == 1   ? QJsonValue(0)
                             : offered.size() == 2 ? QJsonValue()
                                                   : QJsonValue(increment);
-    return QJsonObject{{QStringLiteral("minimum"), offered.constFirst()},
-                       {QStringLiteral("maximum"), offered.constLast()},
-                       {QStringLiteral("increment"), step}};
+    return QJsonObject{
+        {"minimum", offered.constFirst()}, {"maximum", offered.constLast()}, {"increment", step}};
 }
 
 QJsonValue PxReportValue::numbers(const QList<int> &numbers)
@@ -171,11 +168,11 @@ QString PxReportValue::text(const QJsonValue &value, PxReportFormat format)
     case PxReportFormat::Size:
         return sizeText(value);
     case PxReportFormat::Pixels:
-        return QStringLiteral("%1×%2").arg(value[u"width"].toInt()).arg(value[u"height"].toInt());
+        return QString("%1×%2").arg(value[u"width"].toInt()).arg(value[u"height"].toInt());
     case PxReportFormat::Margins:
         return marginsText(value);
     case PxReportFormat::Rect:
-        return QStringLiteral("%1 at %2, %3")
+        return QString("%1 at %2, %3")
             .arg(sizeText(value), lengthText(value[u"x"]), lengthText(value[u"y"]));
     case PxReportFormat::Area:
         return QString::number(value.toInt() / 10000.0, 'f', 0);
@@ -184,8 +181,7 @@ QString PxReportValue::text(const QJsonValue &value, PxReportFormat format)
     case PxReportFormat::PageNumbers:
         return pageNumbersText(value.toArray());
     case PxReportFormat::CountOrAll:
-        return value.toArray().isEmpty() ? QStringLiteral("all")
-                                         : QString::number(value.toArray().size());
+        return value.toArray().isEmpty() ? "all" : QString::number(value.toArray().size());
     default:
         return plainText(value);
     }
@@ -198,13 +194,13 @@ QString PxReportValue::unit(PxReportFormat format)
     case PxReportFormat::Size:
     case PxReportFormat::Margins:
     case PxReportFormat::Rect:
-        return QStringLiteral(" mm");
+        return " mm";
     case PxReportFormat::Area:
-        return QStringLiteral(" cm²");
+        return " cm²";
     case PxReportFormat::Points:
-        return QStringLiteral(" pt");
+        return " pt";
     case PxReportFormat::Pixels:
-        return QStringLiteral(" px");
+        return " px";
     default:
         return QString();
     }

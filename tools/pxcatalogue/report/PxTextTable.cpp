@@ -43,9 +43,9 @@ QStringList PxTextTable::lines(int width) const
             const bool isNumber = m_kinds[column] == Kind::Number;
             line += isNumber ? cell.rightJustified(fitting[column])
                              : cell.leftJustified(fitting[column]);
-            line += QString(gap, QLatin1Char(' '));
+            line += QString(gap, ' ');
         }
-        while (line.endsWith(QLatin1Char(' ')))
+        while (line.endsWith(' '))
             line.chop(1);
         lines.append(PxTerminal::shortened(line, width));
     }

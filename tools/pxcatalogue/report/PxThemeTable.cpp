@@ -16,7 +16,7 @@ QJsonArray row(const PxTheme &theme)
     return {theme.id(),
             theme.description(),
             keywordsOf(theme.productGroup().value(), EnumHelper::globalMapProductGroupEnumString)
-                .join(QLatin1String(", ")),
+                .join(", "),
             theme.expiryDayToOrderTxt(),
             theme.isExpired(),
             PxReportValue::numbers(theme.keyAccounts()),

@@ -1,7 +1,7 @@
 #include "commands/check/PxCheckExplanation.h"
 
-#include "check/PxCheckLimits.h"
 #include "check/findings/PxCheckTags.h"
+#include "check/PxCheckLimits.h"
 #include "report/PxTextTable.h"
 #include "writing/PxTerminal.h"
 
@@ -40,7 +40,7 @@ constexpr const char *markdownStart =
 
 QString severityOf(const PxCheckTag &tag)
 {
-    return QLatin1String(PxCheckTags::severityName(tag.severity));
+    return PxCheckTags::severityName(tag.severity);
 }
 
 /** Without the mark, which is only for the place of the finding. */
@@ -52,10 +52,9 @@ QString exampleOf(const PxCheckTag &tag)
 QString indented(const QString &text)
 {
     QString lines = text;
-    while (lines.endsWith(QLatin1Char('\n')))
+    while (lines.endsWith('\n'))
         lines.chop(1);
-    return QLatin1String("    ") + lines.replace(QLatin1Char('\n'), QLatin1String("\n    ")) +
-           QLatin1Char('\n');
+    return "    " + lines.replace('\n', "\n    ") + '\n';
 }
 
 /** The example with a line below the place of the finding that points at it. */
@@ -63,21 +62,19 @@ QString pointedExampleOf(const PxCheckTag &tag)
 {
     const QString bad = QString::fromUtf8(tag.bad);
     const int mark = bad.indexOf(QChar(0x00BB));
-    const int column = mark - 1 - bad.lastIndexOf(QLatin1Char('\n'), mark);
-    int lineEnd = bad.indexOf(QLatin1Char('\n'), mark);
+    const int column = mark - 1 - bad.lastIndexOf('\n', mark);
+    int lineEnd = bad.indexOf('\n', mark);
     lineEnd = lineEnd < 0 ? bad.size() : lineEnd;
-    return indented(QString(bad)
-                        .insert(lineEnd, QLatin1Char('\n') + QString(column, QLatin1Char(' ')) +
-                                             QLatin1Char('^'))
-                        .remove(mark, 1));
+    return indented(
+        QString(bad).insert(lineEnd, '\n' + QString(column, ' ') + '^').remove(mark, 1));
 }
 
 QString escaped(const QString &text)
 {
     QString markdown;
     for (const QChar character : text) {
-        if (QStringLiteral("\\`*_[]<>|&").contains(character))
-            markdown += QLatin1Char('\\');
+        if (QString("\\`*_[]<>|&").contains(character))
+            markdown += '\\';
         markdown += character;
     }
     return markdown;
@@ -85,23 +82,20 @@ QString escaped(const QString &text)
 
 QString codeBlock(const QString &text)
 {
-    const bool isEnded = text.endsWith(QLatin1Char('\n'));
-    return QLatin1String("```xml\n") + text + QLatin1String(isEnded ? "```\n" : "\n```\n");
+    return "```xml\n" + text + (text.endsWith('\n') ? "```\n" : "\n```\n");
 }
 
 QString sectionOf(const PxCheckTag &tag)
 {
     QString text =
-        QStringLiteral("\n## %1\n\n**%2**: %3.\n\n%4\n")
-            .arg(QLatin1String(tag.name), severityOf(tag), escaped(QString::fromUtf8(tag.summary)),
-                 escaped(QString::fromUtf8(tag.explanation)));
+        QString("\n## %1\n\n**%2**: %3.\n\n%4\n")
+            .arg(tag.name, severityOf(tag), escaped(tag.summary), escaped(tag.explanation));
     if (tag.needsCatalogue)
-        text += QLatin1String("\nOnly found when the whole catalogue is checked.\n");
+        text += "\nOnly found when the whole catalogue is checked.\n";
     if (qstrlen(tag.bad) > 0)
-        text += QStringLiteral("\nFor example in `%1`:\n\n").arg(QLatin1String(tag.file)) +
-                codeBlock(exampleOf(tag));
+        text += QString("\nFor example in `%1`:\n\n").arg(tag.file) + codeBlock(exampleOf(tag));
     if (qstrlen(tag.good) > 0)
-        text += QLatin1String("\nRepaired:\n\n") + codeBlock(QString::fromUtf8(tag.good));
+        text += "\nRepaired:\n\n" + codeBlock(tag.good);
     return text;
 }
 
@@ -109,17 +103,15 @@ QString sectionOf(const PxCheckTag &tag)
 
 QString PxCheckExplanation::of(const PxCheckTag &tag)
 {
-    QString text =
-        QStringLiteral("%1 (%2): %3\n\n%4\n")
-            .arg(QLatin1String(tag.name), severityOf(tag), QString::fromUtf8(tag.summary),
-                 PxTerminal::wrapped(QString::fromUtf8(tag.explanation), PxTerminal::columns()));
+    QString text = QString("%1 (%2): %3\n\n%4\n")
+                       .arg(tag.name, severityOf(tag), tag.summary,
+                            PxTerminal::wrapped(tag.explanation, PxTerminal::columns()));
     if (tag.needsCatalogue)
-        text += QLatin1String("\nOnly found when the whole catalogue is checked.\n");
+        text += "\nOnly found when the whole catalogue is checked.\n";
     if (qstrlen(tag.bad) > 0)
-        text += QStringLiteral("\nFor example in %1:\n\n").arg(QLatin1String(tag.file)) +
-                pointedExampleOf(tag);
+        text += QString("\nFor example in %1:\n\n").arg(tag.file) + pointedExampleOf(tag);
     if (qstrlen(tag.good) > 0)
-        text += QLatin1String("\nRepaired:\n\n") + indented(QString::fromUtf8(tag.good));
+        text += "\nRepaired:\n\n" + indented(tag.good);
     return text;
 }
 
@@ -130,8 +122,8 @@ QString PxCheckExplanation::table()
     table.addColumn(QString(), PxTextTable::Kind::Key);
     table.addColumn(QString(), PxTextTable::Kind::Text);
     for (const PxCheckTag *tag : PxCheckTags::all())
-        table.addRow({QLatin1String(tag->name), severityOf(*tag), QString::fromUtf8(tag->summary)});
-    return table.lines(PxTerminal::columns()).join(QLatin1Char('\n')) + QLatin1Char('\n');
+        table.addRow({tag->name, severityOf(*tag), tag->summary});
+    return table.lines(PxTerminal::columns()).join('\n') + '\n';
 }
 
 QString PxCheckExplanation::markdown()
@@ -140,11 +132,10 @@ QString PxCheckExplanation::markdown()
                        .arg(PxCheckLimits::findingsOfTag)
                        .arg(PxCheckLimits::messageLength)
                        .arg(PxCheckLimits::listParts) +
-                   QLatin1String("| Tag | Severity | Finding |\n|---|---|---|\n");
+                   "| Tag | Severity | Finding |\n|---|---|---|\n";
     for (const PxCheckTag *tag : PxCheckTags::all())
-        text += QStringLiteral("| [%1](#%1) | %2 | %3 |\n")
-                    .arg(QLatin1String(tag->name), severityOf(*tag),
-                         escaped(QString::fromUtf8(tag->summary)));
+        text += QString("| [%1](#%1) | %2 | %3 |\n")
+                    .arg(tag->name, severityOf(*tag), escaped(tag->summary));
     for (const PxCheckTag *tag : PxCheckTags::all())
         text += sectionOf(*tag);
     return text;
