@@ -33,5 +33,5 @@ PxReportCommand::Answer PxShowCommand::answer(const PxCommandLine &line) const
         return unknownTheme(theme);
     const auto *registry = isCurrent ? PxProductTypeConfigRegistry::instance()
                                      : PxProductTypeConfigRegistry::legacyInstance();
-    return {PxProductReport(registry, type, line.value("pages").toInt(), theme).report()};
+    return {PxProductReport::of(registry, type, line.value("pages").toInt(), theme)};
 }

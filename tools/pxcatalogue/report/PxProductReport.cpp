@@ -1,5 +1,6 @@
 #include "report/PxProductReport.h"
 
+#include "report/PxCatalogueKeywords.h"
 #include "report/PxCatalogueProducts.h"
 
 #include <PxProductProperties.h>
@@ -99,131 +100,140 @@ void warnOfPageCount(const PxProductType &type, int pageCount, const QList<int> 
     qWarning("%s", qUtf8Printable(text));
 }
 
-} // namespace
-
-PxProductReport::PxProductReport(const PxProductTypeConfigRegistry *registry,
-                                 const PxProductType &type, int pageCount, const QString &themeId)
-    : m_registry(registry)
-    , m_type(type)
-    , m_product(registry->description(type))
-    , m_offeredPageCounts(m_product->offeredPageCounts())
-    , m_pageCount(shownPageCount(*m_product, m_offeredPageCounts, pageCount))
-    , m_themeId(themeId)
+/** A product as it is shown: with so many pages, in a theme. */
+struct Shown
 {
-    if (pageCount > 0 && !m_product->isPageCountOffered(m_pageCount))
-        warnOfPageCount(type, m_pageCount, nearestPageCounts(m_offeredPageCounts, m_pageCount));
-    for (const PxPageType &pageType : m_product->pageTypes(m_pageCount)) {
-        const PxPageContext page(pageType, m_product->pageAlignment(m_pages.size()));
-        if (!m_kinds.contains(page)) {
-            m_kinds.append(page);
-            m_pagesOfKind.append(QList<int>());
+    const PxProductTypeConfigRegistry *registry;
+    PxProductType type;
+    QString themeId; // empty for none
+    const PxProductTypeDescription *product = registry->description(type);
+    QList<int> offeredPageCounts = product->offeredPageCounts();
+    int pageCount = 0;
+    QList<PxPageContext> pages = {};      // all pages in their order, covers included
+    QList<PxPageContext> kinds = {};      // each of them once
+    QVector<QList<int>> pagesOfKind = {}; // the same index
+};
+
+void addPagesTo(Shown *shown)
+{
+    for (const PxPageType &pageType : shown->product->pageTypes(shown->pageCount)) {
+        const int number = shown->pages.size();
+        const PxPageContext page(pageType, shown->product->pageAlignment(number));
+        if (!shown->kinds.contains(page)) {
+            shown->kinds.append(page);
+            shown->pagesOfKind.append(QList<int>());
         }
-        m_pagesOfKind[m_kinds.indexOf(page)].append(m_pages.size());
-        m_pages.append(page);
+        shown->pagesOfKind[shown->kinds.indexOf(page)].append(number);
+        shown->pages.append(page);
     }
-    addProduct();
-    addPages();
-    addSizes();
-    addPageKinds();
-    addSpine();
-    addSurroundings();
-    addBarcodes();
-    addTemplates();
-    addTheme();
-    addDesign();
-    addVariants();
-    addClassification();
-    addLegacy();
-    addProduction();
-    addRedirects();
 }
 
-void PxProductReport::addProduct()
+/** `pageCount` is that of the user, or 0. */
+Shown shownProduct(const PxProductTypeConfigRegistry *registry, const PxProductType &type,
+                   int pageCount, const QString &themeId)
 {
-    const bool isLegacy = m_registry != PxProductTypeConfigRegistry::instance();
+    Shown shown{registry, type, themeId};
+    shown.pageCount = shownPageCount(*shown.product, shown.offeredPageCounts, pageCount);
+    if (pageCount > 0 && !shown.product->isPageCountOffered(shown.pageCount))
+        warnOfPageCount(type, shown.pageCount,
+                        nearestPageCounts(shown.offeredPageCounts, shown.pageCount));
+    addPagesTo(&shown);
+    return shown;
+}
+
+/** `product` is the description of a product, or the product in a theme. */
+template <typename Product>
+QJsonValue pagesWithContent(const Shown &shown, const Product &product)
+{
+    QList<int> pages;
+    for (int page = 0; page < shown.pages.size(); ++page) {
+        if (product.contentAllowedOnPage(page))
+            pages.append(page);
+    }
+    return PxReportValue::numbers(pages);
+}
+
+void addProduct(const Shown &shown, PxReport *report)
+{
+    const bool isLegacy = shown.registry != PxProductTypeConfigRegistry::instance();
     // clang-format off
-    m_report.addFields("product", "Product", {
-        {"name", "Name", m_type.productName()},
-        {"shortName", "Short name", m_type.shortProductName()},
-        {"code", "Code", int(m_type.type())},
-        {"class", "Class", PxCatalogueProducts::className(m_type)},
-        {"isOffered", "Offered", PxCatalogueProducts::isOffered(m_registry, m_type)},
+    report->addFields("product", "Product", {
+        {"name", "Name", shown.type.productName()},
+        {"shortName", "Short name", shown.type.shortProductName()},
+        {"code", "Code", int(shown.type.type())},
+        {"class", "Class", PxCatalogueProducts::className(shown.type)},
+        {"isOffered", "Offered", PxCatalogueProducts::isOffered(shown.registry, shown.type)},
         {"isLegacy", "Of earlier catalogue", isLegacy},
-        {"binding", "Binding", PxReportValue::name(m_product->binding()), Format::Name},
-        {"paper", "Paper", PxReportValue::name(m_product->paperType()), Format::Name},
-        {"orientation", "Orientation", keywordOf(m_product->orientation())},
-        {"space", "Size class", PxReportValue::name(m_product->spaceMagnitude()), Format::Name},
-        {"assemblyWay", "Put together by", keywordArray(m_product->assemblyWay(), EnumHelper::globalMapAssemblyWayString)},
-        {"numberOfProducts", "Pieces per order", m_product->explicitNumberOfProducts()},
-        {"numberOfSpiralLoops", "Spiral loops", m_product->numberOfSpiralLoops()},
-        {"hasHook", "Hook", m_product->hasHook()},
-        {"hasHole", "Hole", m_product->hasHole()},
+        {"binding", "Binding", PxReportValue::name(shown.product->binding()), Format::Name},
+        {"paper", "Paper", PxReportValue::name(shown.product->paperType()), Format::Name},
+        {"orientation", "Orientation", keywordOf(shown.product->orientation())},
+        {"space", "Size class", PxReportValue::name(shown.product->spaceMagnitude()), Format::Name},
+        {"assemblyWay", "Put together by", keywordArray(shown.product->assemblyWay(), EnumHelper::globalMapAssemblyWayString)},
+        {"numberOfProducts", "Pieces per order", shown.product->explicitNumberOfProducts()},
+        {"numberOfSpiralLoops", "Spiral loops", shown.product->numberOfSpiralLoops()},
+        {"hasHook", "Hook", shown.product->hasHook()},
+        {"hasHole", "Hole", shown.product->hasHole()},
     });
     // clang-format on
 }
 
-void PxProductReport::addPages()
+void addPages(const Shown &shown, PxReport *report)
 {
-    const int sellingPages = m_product->defaultSellingPages();
-    const QList<int> nearest = nearestPageCounts(m_offeredPageCounts, m_pageCount);
-    QList<int> withContent;
-    for (int page = 0; page < m_pages.size(); ++page) {
-        if (m_product->contentAllowedOnPage(page))
-            withContent.append(page);
-    }
+    const int sellingPages = shown.product->defaultSellingPages();
+    const QList<int> nearest = nearestPageCounts(shown.offeredPageCounts, shown.pageCount);
     // clang-format off
-    m_report.addFields("pages", "Pages", {
-        {"pageCounts", "Page counts", PxReportValue::pageCounts(m_offeredPageCounts, m_product->pageIncrement()), Format::PageCounts},
+    report->addFields("pages", "Pages", {
+        {"pageCounts", "Page counts", PxReportValue::pageCounts(shown.offeredPageCounts, shown.product->pageIncrement()), Format::PageCounts},
         {"defaultSellingPages", "Sold with", sellingPages == -1 ? QJsonValue() : sellingPages},
-        {"explicitNumberOfNormalPages", "Normal pages", m_product->explicitNumberOfNormalPages()},
-        {"pageCount", "Shown with", m_pageCount},
-        {"isPageCountOffered", "Offered with these", m_product->isPageCountOffered(m_pageCount)},
+        {"explicitNumberOfNormalPages", "Normal pages", shown.product->explicitNumberOfNormalPages()},
+        {"pageCount", "Shown with", shown.pageCount},
+        {"isPageCountOffered", "Offered with these", shown.product->isPageCountOffered(shown.pageCount)},
         {"nearestPageCounts", "Nearest offered", PxReportValue::numbers(nearest)},
-        {"printedPages", "With covers and spine", m_pages.size()},
-        {"listEntries", "Entries of page list", m_product->countAbstractPages()},
-        {"hasCover", "Cover", m_product->hasCover()},
-        {"isSimplex", "Printed on one side", m_product->isSimplex()},
-        {"horizontalPages", "Pages side by side", m_product->horizontalPages()},
-        {"hasCardStyleAlignment", "Card style", m_product->hasCardStyleAlignment()},
-        {"namingStyle", "Page names", keywordArray(m_product->pageNamingStyle(), EnumHelper::globalMapPageNamingStyleString)},
-        {"editorStartDoublePage", "Editor starts at", m_product->editorStartDoublePage()},
-        {"pagesWithContent", "Pages with content", PxReportValue::numbers(withContent), Format::PageNumbers},
+        {"printedPages", "With covers and spine", shown.pages.size()},
+        {"listEntries", "Entries of page list", shown.product->countAbstractPages()},
+        {"hasCover", "Cover", shown.product->hasCover()},
+        {"isSimplex", "Printed on one side", shown.product->isSimplex()},
+        {"horizontalPages", "Pages side by side", shown.product->horizontalPages()},
+        {"hasCardStyleAlignment", "Card style", shown.product->hasCardStyleAlignment()},
+        {"namingStyle", "Page names", keywordArray(shown.product->pageNamingStyle(), EnumHelper::globalMapPageNamingStyleString)},
+        {"editorStartDoublePage", "Editor starts at", shown.product->editorStartDoublePage()},
+        {"pagesWithContent", "Pages with content", pagesWithContent(shown, *shown.product), Format::PageNumbers},
     });
     // clang-format on
 }
 
-void PxProductReport::addSizes()
+void addSizes(const Shown &shown, PxReport *report)
 {
     const auto bleed = [](const PxBleedMargin &margin) {
         return PxReportValue::margins(PxMargins(margin.vertical(), margin.vertical(),
                                                 margin.horizontal(), margin.horizontal()));
     };
     // clang-format off
-    m_report.addFields("sizes", "Sizes", {
-        {"page", "Page", PxReportValue::size(m_product->usablePrintSize(PxPageTypeNormalPage, m_pageCount)), Format::Size},
-        {"cover", "Cover", PxReportValue::size(m_product->coverSize()), Format::Size},
-        {"bleed", "Bleed", bleed(m_product->bleedMarginNormal()), Format::Margins},
-        {"coverBleed", "Bleed of the cover", bleed(m_product->bleedMarginCover()), Format::Margins},
-        {"safetyMargins", "Safety margin", PxReportValue::margins(m_product->safetyMargins()), Format::Margins},
-        {"foldMargin", "Fold margin", m_product->foldMargin(), Format::Length},
-        {"clamp", "Clamp takes", m_product->normalPageHorizontalClamp(), Format::Length},
+    report->addFields("sizes", "Sizes", {
+        {"page", "Page", PxReportValue::size(shown.product->usablePrintSize(PxPageTypeNormalPage, shown.pageCount)), Format::Size},
+        {"cover", "Cover", PxReportValue::size(shown.product->coverSize()), Format::Size},
+        {"bleed", "Bleed", bleed(shown.product->bleedMarginNormal()), Format::Margins},
+        {"coverBleed", "Bleed of the cover", bleed(shown.product->bleedMarginCover()), Format::Margins},
+        {"safetyMargins", "Safety margin", PxReportValue::margins(shown.product->safetyMargins()), Format::Margins},
+        {"foldMargin", "Fold margin", shown.product->foldMargin(), Format::Length},
+        {"clamp", "Clamp takes", shown.product->normalPageHorizontalClamp(), Format::Length},
     });
     // clang-format on
 }
 
-void PxProductReport::addPageKinds()
+void addPageKinds(const Shown &shown, PxReport *report)
 {
     QVector<QJsonArray> rows;
-    for (int i = 0; i < m_kinds.size(); ++i) {
-        const PxPageContext &kind = m_kinds[i];
-        const PxPageSizeSpec size = m_product->sizeSpec(PxPageSizeKey(kind, m_pageCount));
+    for (int i = 0; i < shown.kinds.size(); ++i) {
+        const PxPageContext &kind = shown.kinds[i];
+        const PxPageSizeSpec size = shown.product->sizeSpec(PxPageSizeKey(kind, shown.pageCount));
         rows.append(
-            {keywordOf(kind.pageType()), sideOf(kind), PxReportValue::numbers(m_pagesOfKind[i]),
+            {keywordOf(kind.pageType()), sideOf(kind), PxReportValue::numbers(shown.pagesOfKind[i]),
              PxReportValue::size(size.usableSize()), PxReportValue::margins(size.bleedMargins()),
              PxReportValue::size(size.totalSize()), size.horizontalClampExtra()});
     }
     // clang-format off
-    m_report.addTable("pageKinds", "Size of each kind of page (bleed: top/bottom/left/right)", {
+    report->addTable("pageKinds", "Size of each kind of page (bleed: top/bottom/left/right)", {
         {"pageType", "Page", Format::Key},
         {"alignment", "Side", Format::Key},
         {"pages", "Numbers", Format::PageNumbers},
@@ -235,25 +245,26 @@ void PxProductReport::addPageKinds()
     // clang-format on
 }
 
-void PxProductReport::addSpine()
+void addSpine(const Shown &shown, PxReport *report)
 {
     // clang-format off
-    m_report.addFields("spine", "Spine", {
-        {"hasSpine", "Printed", m_product->hasSpine()},
-        {"width", "Width", m_product->spineWidth(m_pageCount), Format::Length},
-        {"maxFontHeight", "Largest text height", m_product->spineMaxFontHeight(m_pageCount), Format::Length},
-        {"hasLogo", "Maker's logo", m_product->mustPaintVemoLogoOnSpine()},
+    report->addFields("spine", "Spine", {
+        {"hasSpine", "Printed", shown.product->hasSpine()},
+        {"width", "Width", shown.product->spineWidth(shown.pageCount), Format::Length},
+        {"maxFontHeight", "Largest text height", shown.product->spineMaxFontHeight(shown.pageCount), Format::Length},
+        {"hasLogo", "Maker's logo", shown.product->mustPaintVemoLogoOnSpine()},
     });
     // clang-format on
 }
 
-void PxProductReport::addSurroundings()
+/** The different surroundings, each with its pages. */
+QVector<QPair<PxSurroundingDescription, QList<int>>> surroundingsOf(const Shown &shown)
 {
     QVector<QPair<PxSurroundingDescription, QList<int>>> found;
     QMap<decltype(orderOf(PxSurroundingDescription())), int> indexes; // in `found`
-    for (int page = 0; page < m_pages.size(); ++page) {
+    for (int page = 0; page < shown.pages.size(); ++page) {
         const PxSurroundingDescription surrounding =
-            m_product->findSurrounding(PxSurroundingKey(m_pages[page], page));
+            shown.product->findSurrounding(PxSurroundingKey(shown.pages[page], page));
         if (!surrounding.isValid())
             continue;
         const auto same =
@@ -262,15 +273,20 @@ void PxProductReport::addSurroundings()
             found.append({surrounding, {}});
         found[*same].second.append(page);
     }
+    return found;
+}
+
+void addSurroundings(const Shown &shown, PxReport *report)
+{
     QVector<QJsonArray> rows;
-    for (const auto &[surrounding, pages] : qAsConst(found))
+    for (const auto &[surrounding, pages] : surroundingsOf(shown))
         rows.append({PxReportValue::numbers(pages),
                      keywordArray(surrounding.surroundingType(),
                                   EnumHelper::globalMapSurroundingTypeString),
                      PxReportValue::rect(surrounding.imageRect()), surrounding.paintOnTop(),
                      surrounding.hasBindingShade(), surrounding.image()});
     // clang-format off
-    m_report.addTable("surroundings", "Surroundings", {
+    report->addTable("surroundings", "Surroundings", {
         {"pages", "Numbers", Format::PageNumbers},
         {"type", "Type", Format::Key},
         {"rect", "Place", Format::Rect},
@@ -281,17 +297,17 @@ void PxProductReport::addSurroundings()
     // clang-format on
 }
 
-void PxProductReport::addBarcodes()
+void addBarcodes(const Shown &shown, PxReport *report)
 {
     QVector<QJsonArray> rows;
-    for (int page = 0; page < m_pages.size(); ++page) {
-        const PxBarcode barcode = m_product->barcodeOnPage(page, m_pages.size());
+    for (int page = 0; page < shown.pages.size(); ++page) {
+        const PxBarcode barcode = shown.product->barcodeOnPage(page, shown.pages.size());
         if (barcode.isValid())
             rows.append({page, PxReportValue::rect(barcode.rect()), barcode.reverseOrder(),
                          barcode.imageName()});
     }
     // clang-format off
-    m_report.addTable("barcodes", "Barcodes", {
+    report->addTable("barcodes", "Barcodes", {
         {"page", "Number", Format::Key},
         {"rect", "Place", Format::Rect},
         {"isCountedFromBack", "From the back", Format::Key},
@@ -300,20 +316,30 @@ void PxProductReport::addBarcodes()
     // clang-format on
 }
 
-void PxProductReport::addTemplates()
+QString defaultTemplate(const Shown &shown, const PxPageContext &kind, DefaultTemplateType type)
+{
+    if (!shown.themeId
+             .isEmpty()) // as the editor asks: it has a background of its own for empty pages
+        return PxProductContext(shown.type, shown.themeId)
+            .defaultTemplateForPage(type == DefaultTemplateTypeLayout, kind, true);
+    return shown.product->findDefaultTemplate(PxDefaultTemplateKey("normal", kind, type), true,
+                                              true);
+}
+
+void addTemplates(const Shown &shown, PxReport *report)
 {
     QVector<QJsonArray> rows;
-    for (int i = 0; i < m_kinds.size(); ++i) {
-        const PxPageContext &kind = m_kinds[i];
+    for (int i = 0; i < shown.kinds.size(); ++i) {
+        const PxPageContext &kind = shown.kinds[i];
         rows.append({keywordOf(kind.pageType()), sideOf(kind),
-                     PxReportValue::numbers(m_pagesOfKind[i]),
-                     defaultTemplate(kind, DefaultTemplateTypeLayout),
-                     defaultTemplate(kind, DefaultTemplateTypeBackground)});
+                     PxReportValue::numbers(shown.pagesOfKind[i]),
+                     defaultTemplate(shown, kind, DefaultTemplateTypeLayout),
+                     defaultTemplate(shown, kind, DefaultTemplateTypeBackground)});
     }
     const QString heading = QString("Default templates (theme %1, with the user's own)")
-                                .arg(m_themeId.isEmpty() ? "normal" : m_themeId);
+                                .arg(shown.themeId.isEmpty() ? "normal" : shown.themeId);
     // clang-format off
-    m_report.addTable("templates", heading.toUtf8(), {
+    report->addTable("templates", heading.toUtf8(), {
         {"pageType", "Page", Format::Key},
         {"alignment", "Side", Format::Key},
         {"pages", "Numbers", Format::PageNumbers},
@@ -323,28 +349,23 @@ void PxProductReport::addTemplates()
     // clang-format on
 }
 
-void PxProductReport::addTheme()
+void addTheme(const Shown &shown, PxReport *report)
 {
-    if (m_themeId.isEmpty())
+    if (shown.themeId.isEmpty())
         return;
-    const PxProductContext context(m_type, m_themeId);
+    const PxProductContext context(shown.type, shown.themeId);
     const PxTheme theme = context.theme();
-    const auto [logo, logoRect] = theme.vemoLogo(m_type);
+    const auto [logo, logoRect] = theme.vemoLogo(shown.type);
     const bool hasLogo = context.mustPaintVemoLogo();
-    QList<int> withContent;
-    for (int page = 0; page < m_pages.size(); ++page) {
-        if (context.contentAllowedOnPage(page))
-            withContent.append(page);
-    }
     const auto category = [&theme](PxJigTypeEnum type) {
         return theme.defaultCategory(type).name();
     };
-    const auto others = [this](PxProductTypeList products) {
-        products.removeAll(m_type);
+    const auto others = [&shown](PxProductTypeList products) {
+        products.removeAll(shown.type);
         return PxCatalogueProducts::nameArray(products);
     };
     // clang-format off
-    m_report.addFields("theme", "In this theme", {
+    report->addFields("theme", "In this theme", {
         {"id", "Theme", theme.id()},
         {"description", "Description", theme.description()},
         {"isValid", "Valid together", context.isValid()},
@@ -356,7 +377,7 @@ void PxProductReport::addTheme()
         {"logoRect", "Place of the logo", hasLogo ? PxReportValue::rect(logoRect) : QJsonValue(), Format::Rect},
         {"logoSize", "Image of the logo", PxReportValue::size(logo.isNull() ? QSize() : logo.size()), Format::Pixels},
         {"isThemeWithContent", "Content of its own", theme.isThemeWithContent()},
-        {"pagesWithContent", "Pages with content", PxReportValue::numbers(withContent), Format::PageNumbers},
+        {"pagesWithContent", "Pages with content", pagesWithContent(shown, context), Format::PageNumbers},
         {"canMoveContent", "Content movable", theme.canMoveContent()},
         {"canUseNormalBackgrounds", "Normal backgrounds", theme.canUseNormalBackgrounds()},
         {"useSpineText", "Text on the spine", theme.useSpineText()},
@@ -373,41 +394,42 @@ void PxProductReport::addTheme()
     // clang-format on
 }
 
-void PxProductReport::addDesign()
+void addDesign(const Shown &shown, PxReport *report)
 {
-    const QSizeF background = m_registry->usablePrintSizeForBackgroundTemplate(m_type, false);
+    const QSizeF background =
+        shown.registry->usablePrintSizeForBackgroundTemplate(shown.type, false);
     // clang-format off
-    m_report.addFields("design", "Design", {
-        {"designElements", "Editor offers", designElementsOf(m_product)},
-        {"hasAssistant", "Assistant", m_product->hasAssistant()},
-        {"imageEffects", "Image effects", keywordArray(m_product->imageFX(), EnumHelper::globalMapImageFXsString)},
-        {"canHaveBorder", "Borders and shadows", m_product->canHaveBorder()},
-        {"backgroundCategories", "Cover backgrounds", backgroundCategoriesOf(m_product)},
-        {"fullBackgroundOnEachPage", "One background a page", m_product->fullBackgroundOnEachPage()},
+    report->addFields("design", "Design", {
+        {"designElements", "Editor offers", designElementsOf(shown.product)},
+        {"hasAssistant", "Assistant", shown.product->hasAssistant()},
+        {"imageEffects", "Image effects", keywordArray(shown.product->imageFX(), EnumHelper::globalMapImageFXsString)},
+        {"canHaveBorder", "Borders and shadows", shown.product->canHaveBorder()},
+        {"backgroundCategories", "Cover backgrounds", backgroundCategoriesOf(shown.product)},
+        {"fullBackgroundOnEachPage", "One background a page", shown.product->fullBackgroundOnEachPage()},
         {"backgroundSize", "Background", PxReportValue::size(background), Format::Size},
-        {"backgroundRatio", "Width by height", m_registry->backgroundRatio(m_type, false)},
-        {"imagesPerPage", "Images on a page", m_product->spaceMagnitude().maxReasonableImagesPerPage()},
-        {"pointSize", "Type size", m_registry->suitablePointSize(m_type), Format::Points},
+        {"backgroundRatio", "Width by height", shown.registry->backgroundRatio(shown.type, false)},
+        {"imagesPerPage", "Images on a page", shown.product->spaceMagnitude().maxReasonableImagesPerPage()},
+        {"pointSize", "Type size", shown.registry->suitablePointSize(shown.type), Format::Points},
     });
     // clang-format on
 }
 
-void PxProductReport::addVariants()
+void addVariants(const Shown &shown, PxReport *report)
 {
     // clang-format off
-    m_report.addFields("variants", "Variants", {
-        {"description", "Differ in", m_product->variantDescription()},
-        {"identifiers", "Variants", QJsonArray::fromStringList(m_product->variants())},
+    report->addFields("variants", "Variants", {
+        {"description", "Differ in", shown.product->variantDescription()},
+        {"identifiers", "Variants", QJsonArray::fromStringList(shown.product->variants())},
     });
     // clang-format on
 }
 
-void PxProductReport::addClassification()
+void addClassification(const Shown &shown, PxReport *report)
 {
-    const PxProductClassification classification = m_product->classification();
+    const PxProductClassification classification = shown.product->classification();
     const PxProductMaterial material = classification.material();
     // clang-format off
-    m_report.addFields("classification", "In the shop", {
+    report->addFields("classification", "In the shop", {
         {"material", "Material", PxReportValue::name(material.value(), material.visibleDescription()), Format::Name},
         {"sizeCm", "Size in cm", classification.sizeName(true)},
         {"sizeInch", "Size in inches", classification.sizeName(false)},
@@ -416,15 +438,15 @@ void PxProductReport::addClassification()
     // clang-format on
 }
 
-void PxProductReport::addLegacy()
+void addLegacy(const Shown &shown, PxReport *report)
 {
-    const PxProductType legacy = m_product->legacyProduct();
+    const PxProductType legacy = shown.product->legacyProduct();
     const PxProductType successor =
-        PxProductTypeConfigRegistry::instance()->findProductForLegacy(m_type);
+        PxProductTypeConfigRegistry::instance()->findProductForLegacy(shown.type);
     const auto *sizes = PxLegacyProductTypeConfig::instance();
     const bool isKnown = PxCatalogueProducts::isLegacy(legacy);
     QList<PxPageType> cover;
-    for (const PxPageType &pageType : sizes->description(legacy)->pageTypes(m_pageCount)) {
+    for (const PxPageType &pageType : sizes->description(legacy)->pageTypes(shown.pageCount)) {
         if (pageType.matches(PxPageTypeCover))
             cover.append(pageType);
     }
@@ -432,34 +454,34 @@ void PxProductReport::addLegacy()
         return isKnown && !size.isEmpty() ? PxReportValue::size(size.toSize()) : QJsonValue();
     };
     // clang-format off
-    m_report.addFields("legacy", "Earlier and later catalogues", {
+    report->addFields("legacy", "Earlier and later catalogues", {
         {"replacedBy", "Replaced by", successor.productName()},
         {"replaces", "Replaces", legacy.productName()},
-        {"replacedPage", "Its page", sizeOf(sizes->usablePrintSize(legacy, PxPageTypeNormalPage, m_pageCount)), Format::Size},
-        {"replacedSpine", "Its spine", sizeOf(sizes->usablePrintSize(legacy, PxPageTypeSpine, m_pageCount)), Format::Size},
-        {"replacedCover", "Its open cover", sizeOf(sizes->usableSize(legacy, m_pageCount, cover)), Format::Size},
+        {"replacedPage", "Its page", sizeOf(sizes->usablePrintSize(legacy, PxPageTypeNormalPage, shown.pageCount)), Format::Size},
+        {"replacedSpine", "Its spine", sizeOf(sizes->usablePrintSize(legacy, PxPageTypeSpine, shown.pageCount)), Format::Size},
+        {"replacedCover", "Its open cover", sizeOf(sizes->usableSize(legacy, shown.pageCount, cover)), Format::Size},
     });
     // clang-format on
 }
 
-void PxProductReport::addProduction()
+void addProduction(const Shown &shown, PxReport *report)
 {
-    const QList<int> numbering = m_product->productionNumberingList(m_pages.size());
+    const QList<int> numbering = shown.product->productionNumberingList(shown.pages.size());
     // clang-format off
-    m_report.addFields("production", "Production", {
+    report->addFields("production", "Production", {
         {"numbering", "Numbers of the pages", PxReportValue::numbers(numbering), Format::PageNumbers},
-        {"pageNumberHorizontalIndent", "Page number from side", m_product->pageNumberHorizontalIndent(), Format::Length},
-        {"pageNumberVerticalIndent", "Above or below", m_product->pageNumberVerticalIndent(), Format::Length},
-        {"pageNumberFontSize", "Page number type size", m_product->pageNumberFontSize()},
+        {"pageNumberHorizontalIndent", "Page number from side", shown.product->pageNumberHorizontalIndent(), Format::Length},
+        {"pageNumberVerticalIndent", "Above or below", shown.product->pageNumberVerticalIndent(), Format::Length},
+        {"pageNumberFontSize", "Page number type size", shown.product->pageNumberFontSize()},
     });
     // clang-format on
 
     QVector<QJsonArray> rows;
-    for (const PxProductionExtraPageGroup &group : m_product->extraProductionContents())
+    for (const PxProductionExtraPageGroup &group : shown.product->extraProductionContents())
         rows.append({PxReportValue::numbers(group.targetPages()), group.content().templateType(),
                      group.content().targetLayer(), group.content().filename()});
     // clang-format off
-    m_report.addTable("extraPages", "Extra production pages", {
+    report->addTable("extraPages", "Extra production pages", {
         {"pages", "Numbers", Format::PageNumbers},
         {"type", "Type"},
         {"layer", "Layer", Format::Key},
@@ -468,24 +490,24 @@ void PxProductReport::addProduction()
     // clang-format on
 }
 
-void PxProductReport::addRedirects()
+void addRedirects(const Shown &shown, PxReport *report)
 {
     QVector<QJsonArray> contents;
     QVector<QJsonArray> rotations;
-    for (int page = -1; page < m_pages.size(); ++page) { // -1 stands for no page of the product
-        const int target = m_product->contentDropRedirect(page);
+    for (int page = -1; page < shown.pages.size(); ++page) { // -1 stands for no page of the product
+        const int target = shown.product->contentDropRedirect(page);
         if (target != page)
             contents.append({page, target});
         for (const PxPageRotationRedirect &redirect :
-             m_product->rotationRedirectForSourcePage(page))
+             shown.product->rotationRedirectForSourcePage(page))
             rotations.append({page, redirect.targetPageNr(), redirect.angleInvert()});
     }
     // clang-format off
-    m_report.addTable("contentRedirects", "Content dropped on a page goes to", {
+    report->addTable("contentRedirects", "Content dropped on a page goes to", {
         {"page", "Number", Format::Key},
         {"target", "Goes to", Format::Key},
     }, contents);
-    m_report.addTable("rotationRedirects", "Pages that change places when turned", {
+    report->addTable("rotationRedirects", "Pages that change places when turned", {
         {"page", "Number", Format::Key},
         {"target", "Goes to", Format::Key},
         {"angleInvert", "Angle by", Format::Key},
@@ -493,10 +515,16 @@ void PxProductReport::addRedirects()
     // clang-format on
 }
 
-QString PxProductReport::defaultTemplate(const PxPageContext &kind, DefaultTemplateType type) const
+} // namespace
+
+PxReport PxProductReport::of(const PxProductTypeConfigRegistry *registry, const PxProductType &type,
+                             int pageCount, const QString &themeId)
 {
-    if (!m_themeId.isEmpty()) // as the editor asks: it has a background of its own for empty pages
-        return PxProductContext(m_type, m_themeId)
-            .defaultTemplateForPage(type == DefaultTemplateTypeLayout, kind, true);
-    return m_product->findDefaultTemplate(PxDefaultTemplateKey("normal", kind, type), true, true);
+    const Shown shown = shownProduct(registry, type, pageCount, themeId);
+    PxReport report;
+    for (const auto add : {addProduct, addPages, addSizes, addPageKinds, addSpine, addSurroundings,
+                           addBarcodes, addTemplates, addTheme, addDesign, addVariants,
+                           addClassification, addLegacy, addProduction, addRedirects})
+        add(shown, &report);
+    return report;
 }
