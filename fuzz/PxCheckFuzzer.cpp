@@ -67,7 +67,7 @@ void checkPlaces(const PxCheckReport &report, const PxCheckedFile &file)
 void checkJson(const PxCheckReport &report)
 {
     QJsonParseError error{};
-    const QByteArray text = QJsonDocument(PxFindingsJson(report).json()).toJson();
+    const QByteArray text = QJsonDocument(PxFindingsJson::of(report)).toJson();
     const QJsonObject json = QJsonDocument::fromJson(text, &error).object();
     if (error.error != QJsonParseError::NoError ||
         json[QLatin1String("findings")].toArray().size() != report.findings.size())

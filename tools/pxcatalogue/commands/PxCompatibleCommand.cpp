@@ -48,6 +48,6 @@ PxReportCommand::Answer PxCompatibleCommand::answer(const PxCommandLine &line) c
     }
     PxReport report;
     report.addFields("query", "Interchangeable", query);
-    PxProductTable(registry, PxCatalogueProducts::sorted(others)).addTo(&report);
+    PxProductTable::addTo(&report, registry, PxCatalogueProducts::sorted(others));
     return {report, others.isEmpty() ? std::optional(PxProblem{reason}) : std::nullopt};
 }

@@ -36,6 +36,6 @@ PxReportCommand::Answer PxListCommand::answer(const PxCommandLine &line) const
     if (products.isEmpty() && registry != current)
         PxTerminal::printError("no product of an earlier catalogue");
     PxReport report;
-    PxProductTable(registry, products).addTo(&report);
+    PxProductTable::addTo(&report, registry, products);
     return {report};
 }

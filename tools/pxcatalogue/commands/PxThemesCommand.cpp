@@ -1,11 +1,54 @@
 #include "commands/PxThemesCommand.h"
 
 #include "commands/PxCommandLine.h"
-#include "report/PxThemeTable.h"
+#include "report/PxCatalogueKeywords.h"
+#include "report/PxCatalogueProducts.h"
 
 #include <PxProductProperties.h>
 
+#include <algorithm>
 #include <limits>
+
+namespace {
+
+using Format = PxReportFormat;
+
+QJsonArray rowOf(const PxTheme &theme)
+{
+    return {theme.id(),
+            theme.description(),
+            keywordsOf(theme.productGroup().value(), EnumHelper::globalMapProductGroupEnumString)
+                .join(", "),
+            theme.expiryDayToOrderTxt(),
+            theme.isExpired(),
+            PxReportValue::numbers(theme.keyAccounts()),
+            PxCatalogueProducts::nameArray(theme.allowedProductTypes().values())};
+}
+
+/** Below each other, with who may order them and what they allow. */
+void addTable(PxThemeList themes, PxReport *report)
+{
+    // They come in the order in which the file system lists the files; of themes with one id the
+    // first one read stays the first.
+    std::stable_sort(themes.begin(), themes.end(),
+                     [](const PxTheme &a, const PxTheme &b) { return a.id() < b.id(); });
+    QVector<QJsonArray> rows;
+    for (const PxTheme &theme : qAsConst(themes))
+        rows.append(rowOf(theme));
+    // clang-format off
+    report->addTable("themes", "", {
+        {"id", "Id", Format::Key},
+        {"description", "Description"},
+        {"group", "Group", Format::Key},
+        {"expiryDay", "Until", Format::Key},
+        {"isExpired", "Expired", Format::Key},
+        {"keyAccounts", "Key accounts"},
+        {"allowedProducts", "Products", Format::CountOrAll},
+    }, rows);
+    // clang-format on
+}
+
+} // namespace
 
 PxCommandUsage PxThemesCommand::usage() const
 {
@@ -26,7 +69,7 @@ PxReportCommand::Answer PxThemesCommand::answer(const PxCommandLine &line) const
     const PxThemeList themes =
         line.isSet("key-account") ? factory->themeList(keyAccount) : factory->themeList();
     PxReport report;
-    PxThemeTable(themes).addTo(&report);
+    addTable(themes, &report);
     if (!themes.isEmpty())
         return {report};
     if (!factory->themeList().isEmpty())

@@ -47,6 +47,30 @@ std::optional<PxProblem> load(const QString &path, QByteArray *contents)
     return std::nullopt;
 }
 
+/** Takes so many at most from a number; returns how many it took. */
+int take(int *number, int count)
+{
+    const int taken = qMin(*number, count);
+    *number -= taken;
+    return taken;
+}
+
+/** The same from all numbers of the tag and file, if there is one of findings that are not listed.
+ */
+int takeAny(QMap<PxFindingIdentity, int> *left, const PxFindingIdentity &finding, int count)
+{
+    const auto rest = left->find({finding.path(), finding.tag(), PxFindingIdentity::restMessage()});
+    if (rest == left->end())
+        return 0;
+    int taken = take(&*rest, count);
+    for (auto it = left->lowerBound({finding.path(), finding.tag(), QString()});
+         taken < count && it != left->end() && it.key().path() == finding.path() &&
+         it.key().tag() == finding.tag();
+         ++it)
+        taken += take(&*it, count - taken);
+    return taken;
+}
+
 } // namespace
 
 PxFindingsBaseline::PxFindingsBaseline(const PxCheckReport &report)
@@ -125,53 +149,36 @@ std::optional<PxProblem> PxFindingsBaseline::write(const QString &path) const
 }
 
 /**
- * Which of many findings are told one by one changes with each repair. So, where the baseline has
- * such a rest, the number counts: first what is not told one by one uses up what is left of its tag
- * and file, then the others do.
+ * A repair changes which of many findings are listed one by one. So, where the baseline has such a
+ * rest, only the number counts: the rest of the report uses up what is left of its tag and file
+ * first, then the findings that are listed do.
  */
 void PxFindingsBaseline::hide(PxCheckReport *report) const
 {
     if (m_counts.isEmpty())
         return;
     QMap<PxFindingIdentity, int> left = m_counts;
-    const auto take = [](int *known, int count) {
-        const int taken = qMin(*known, count);
-        *known -= taken;
-        return count - taken;
-    };
-    const auto takeAny = [&](const PxFinding &finding, int count) {
-        const PxFindingIdentity own(finding, report->catalogueNames);
-        const auto rest = left.find({own.path(), own.tag(), PxFindingIdentity::restMessage()});
-        if (rest == left.end())
-            return count;
-        count = take(&*rest, count);
-        for (auto it = left.lowerBound({own.path(), own.tag(), QString()});
-             count > 0 && it != left.end() && it.key().path() == own.path() &&
-             it.key().tag() == own.tag();
-             ++it)
-            count = take(&*it, count);
-        return count;
-    };
-    QVector<PxFinding> unknown;
-    for (const PxFinding &finding : qAsConst(report->findings)) {
-        const auto known = left.find(PxFindingIdentity(finding, report->catalogueNames));
-        if (finding.restCount > 0 || known == left.end() || take(&*known, 1) > 0)
-            unknown.append(finding);
-        else
-            ++report->knownCount;
+    QVector<PxFinding> findings;
+    findings.swap(report->findings);
+    QVector<PxFindingIdentity> identities;
+    QVector<int> known; // how many of each finding
+    for (const PxFinding &finding : qAsConst(findings)) {
+        identities.append(PxFindingIdentity(finding, report->catalogueNames));
+        const auto same = left.find(identities.constLast());
+        known.append(finding.restCount > 0 || same == left.end() ? 0 : take(&*same, 1));
     }
     for (const bool isRest : {true, false}) {
-        QVector<PxFinding> all;
-        all.swap(unknown);
-        for (PxFinding &finding : all) {
-            const bool isOther = (finding.restCount > 0) != isRest;
-            const int count = isOther ? finding.count() : takeAny(finding, finding.count());
-            report->knownCount += finding.count() - count;
-            if (isRest && !isOther)
-                finding.setRest(count);
-            if (count > 0)
-                unknown.append(finding);
+        for (int i = 0; i < findings.size(); ++i) {
+            if ((findings[i].restCount > 0) == isRest)
+                known[i] += takeAny(&left, identities[i], findings[i].count() - known[i]);
         }
     }
-    report->findings = unknown;
+    for (int i = 0; i < findings.size(); ++i) {
+        const int count = findings[i].count() - known[i];
+        report->knownCount += known[i];
+        if (findings[i].restCount > 0)
+            findings[i].setRest(count);
+        if (count > 0)
+            report->findings.append(findings[i]);
+    }
 }

@@ -25,18 +25,18 @@ QJsonObject jsonOf(const PxFinding &finding)
 
 } // namespace
 
-QJsonObject PxFindingsJson::json() const
+QJsonObject PxFindingsJson::of(const PxCheckReport &report)
 {
     QJsonObject counts;
     for (const PxSeverity severity : PxCheckTags::severities())
-        counts.insert(PxCheckTags::severityName(severity), m_report.count(severity));
+        counts.insert(PxCheckTags::severityName(severity), report.count(severity));
     QJsonArray findings;
-    for (const PxFinding &finding : m_report.findings)
+    for (const PxFinding &finding : report.findings)
         findings.append(jsonOf(finding));
     return {{"format", formatVersion},
-            {"files", m_report.fileCount},
+            {"files", report.fileCount},
             {"counts", counts},
-            {"known", m_report.knownCount},
-            {"notChecked", QJsonArray::fromStringList(m_report.tagsNotChecked.keys())},
+            {"known", report.knownCount},
+            {"notChecked", QJsonArray::fromStringList(report.tagsNotChecked.keys())},
             {"findings", findings}};
 }

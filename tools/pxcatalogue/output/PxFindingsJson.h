@@ -4,14 +4,9 @@
 
 #include <QJsonObject>
 
-/** Findings for programs, with all that the text tells. */
+/** Findings for programs, with everything that the text has. */
 class PxFindingsJson
 {
 public:
-    explicit PxFindingsJson(const PxCheckReport &report) : m_report(report) {}
-
-    QJsonObject json() const;
-
-private:
-    const PxCheckReport &m_report;
+    static QJsonObject of(const PxCheckReport &report);
 };

@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
+#include <QFileInfo>
+#include <QHash>
 #include <QJsonArray>
 #include <QRegularExpression>
 #include <QUrl>
@@ -75,46 +77,27 @@ QString encoded(const QString &path)
     return QString::fromLatin1(QUrl::toPercentEncoding(path, "/"));
 }
 
-} // namespace
-
-QJsonObject PxFindingsSarif::json() const
+/** Relative to where the program runs, the root of a checkout; else to the catalogue. */
+QJsonObject artifactOf(const QString &path, const PxCheckReport &report)
 {
-    QJsonArray results;
-    QHash<QString, int> occurrences;
-    for (const PxFinding &finding : m_report.findings) {
-        const QByteArray identity =
-            PxFindingIdentity(finding, m_report.catalogueNames).text().toUtf8();
-        const QString hash = QString::fromLatin1(
-            QCryptographicHash::hash(identity, QCryptographicHash::Sha256).toHex().left(32));
-        results.append(
-            result(finding, QString("%1:%2").arg(hash, QString::number(++occurrences[hash]))));
-    }
-    QJsonArray notes;
-    for (auto it = m_report.tagsNotChecked.begin(); it != m_report.tagsNotChecked.end(); ++it)
-        notes.append(QJsonObject{{"level", "note"},
-                                 {"associatedRule", QJsonObject{{"id", it.key()}}},
-                                 {"message", textOf("not checked " + it.value())}});
-    const QJsonObject catalogue{{"description", textOf("the resource directory of the catalogue")}};
-    const QJsonObject run{
-        {"tool", QJsonObject{{"driver", driver()}}},
-        {"columnKind", "unicodeCodePoints"},
-        {"originalUriBaseIds", QJsonObject{{catalogueBase, catalogue}}},
-        {"invocations", QJsonArray{QJsonObject{{"executionSuccessful", true},
-                                               {"toolConfigurationNotifications", notes}}}},
-        {"results", results}};
-    return {{"$schema", "https://json.schemastore.org/sarif-2.1.0.json"},
-            {"version", "2.1.0"},
-            {"runs", QJsonArray{run}}};
+    const QString fromHere =
+        QDir::current().relativeFilePath(QDir::cleanPath(QDir::current().absoluteFilePath(path)));
+    const QString uri = "uri";
+    if (!fromHere.startsWith("../") && QDir::isRelativePath(fromHere))
+        return {{uri, encoded(fromHere)}};
+    return {{uri, encoded(report.catalogueNames.value(path, QFileInfo(path).fileName()))},
+            {"uriBaseId", catalogueBase}};
 }
 
-QJsonObject PxFindingsSarif::result(const PxFinding &finding, const QString &fingerprint) const
+QJsonObject resultOf(const PxFinding &finding, const QString &fingerprint,
+                     const PxCheckReport &report)
 {
     QStringList texts{finding.text()};
     if (!finding.now.isEmpty())
         texts.append("now: " + finding.now);
     if (!finding.hint.isEmpty())
         texts.append("hint: " + finding.hint);
-    const QJsonObject location{{"artifactLocation", artifact(finding.place.path)},
+    const QJsonObject location{{"artifactLocation", artifactOf(finding.place.path, report)},
                                {"region", regionOf(finding.place)}};
     return {{"ruleId", finding.tag->name},
             {"ruleIndex", PxCheckTags::all().indexOf(finding.tag)},
@@ -126,14 +109,45 @@ QJsonObject PxFindingsSarif::result(const PxFinding &finding, const QString &fin
             {"properties", severityOf(finding.severity)}};
 }
 
-/** Relative to where the program runs, the root of a checkout; else to the catalogue. */
-QJsonObject PxFindingsSarif::artifact(const QString &path) const
+QJsonArray resultsOf(const PxCheckReport &report)
 {
-    const QString fromHere =
-        QDir::current().relativeFilePath(QDir::cleanPath(QDir::current().absoluteFilePath(path)));
-    const QString uri = "uri";
-    if (!fromHere.startsWith("../") && QDir::isRelativePath(fromHere))
-        return {{uri, encoded(fromHere)}};
-    return {{uri, encoded(m_report.catalogueNames.value(path, QFileInfo(path).fileName()))},
-            {"uriBaseId", catalogueBase}};
+    QJsonArray results;
+    QHash<QString, int> occurrences;
+    for (const PxFinding &finding : report.findings) {
+        const QByteArray identity =
+            PxFindingIdentity(finding, report.catalogueNames).text().toUtf8();
+        const QString hash = QString::fromLatin1(
+            QCryptographicHash::hash(identity, QCryptographicHash::Sha256).toHex().left(32));
+        const QString number = QString::number(++occurrences[hash]);
+        results.append(resultOf(finding, hash + ':' + number, report));
+    }
+    return results;
+}
+
+/** What was not checked. */
+QJsonArray notesOf(const PxCheckReport &report)
+{
+    QJsonArray notes;
+    for (auto it = report.tagsNotChecked.begin(); it != report.tagsNotChecked.end(); ++it)
+        notes.append(QJsonObject{{"level", "note"},
+                                 {"associatedRule", QJsonObject{{"id", it.key()}}},
+                                 {"message", textOf("not checked " + it.value())}});
+    return notes;
+}
+
+} // namespace
+
+QJsonObject PxFindingsSarif::of(const PxCheckReport &report)
+{
+    const QJsonObject catalogue{{"description", textOf("the resource directory of the catalogue")}};
+    const QJsonObject invocation{{"executionSuccessful", true},
+                                 {"toolConfigurationNotifications", notesOf(report)}};
+    const QJsonObject run{{"tool", QJsonObject{{"driver", driver()}}},
+                          {"columnKind", "unicodeCodePoints"},
+                          {"originalUriBaseIds", QJsonObject{{catalogueBase, catalogue}}},
+                          {"invocations", QJsonArray{invocation}},
+                          {"results", resultsOf(report)}};
+    return {{"$schema", "https://json.schemastore.org/sarif-2.1.0.json"},
+            {"version", "2.1.0"},
+            {"runs", QJsonArray{run}}};
 }

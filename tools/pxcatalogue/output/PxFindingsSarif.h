@@ -8,13 +8,5 @@
 class PxFindingsSarif
 {
 public:
-    explicit PxFindingsSarif(const PxCheckReport &report) : m_report(report) {}
-
-    QJsonObject json() const;
-
-private:
-    QJsonObject result(const PxFinding &finding, const QString &fingerprint) const;
-    QJsonObject artifact(const QString &path) const;
-
-    const PxCheckReport &m_report;
+    static QJsonObject of(const PxCheckReport &report);
 };

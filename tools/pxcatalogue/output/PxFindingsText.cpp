@@ -2,6 +2,9 @@
 
 #include "check/findings/PxCheckTags.h"
 
+#include <QMap>
+#include <QStringList>
+
 namespace {
 
 constexpr struct
@@ -22,23 +25,11 @@ QString counted(int count, const char *one, const char *many)
     return QString("%1 %2").arg(QString::number(count), count == 1 ? one : many);
 }
 
-} // namespace
-
-PxOutputText PxFindingsText::text(bool isQuiet) const
-{
-    PxOutputText text;
-    for (const PxFinding &finding : m_report.findings)
-        addFinding(&text, finding);
-    if (!isQuiet)
-        addSummary(&text);
-    return text;
-}
-
-void PxFindingsText::addFinding(PxOutputText *text, const PxFinding &finding) const
+void addFinding(PxOutputText *text, const PxFinding &finding, bool isColoured)
 {
     const char *colour = nullptr;
     for (const auto &row : severities) {
-        if (m_isColoured && row.severity == finding.severity)
+        if (isColoured && row.severity == finding.severity)
             colour = row.colour;
     }
     const QString place = QString("%1:%2:%3: ")
@@ -53,23 +44,35 @@ void PxFindingsText::addFinding(PxOutputText *text, const PxFinding &finding) co
         text->addLine("    hint: " + finding.hint);
 }
 
-void PxFindingsText::addSummary(PxOutputText *text) const
+void addSummary(PxOutputText *text, const PxCheckReport &report)
 {
     QMap<QString, QStringList> notChecked; // by what is not there
-    for (auto it = m_report.tagsNotChecked.begin(); it != m_report.tagsNotChecked.end(); ++it)
+    for (auto it = report.tagsNotChecked.begin(); it != report.tagsNotChecked.end(); ++it)
         notChecked[it.value()].append(it.key());
     for (auto it = notChecked.begin(); it != notChecked.end(); ++it)
         text->addLine(QString("not checked %1: %2").arg(it.key(), it->join(", ")));
     QStringList counts;
     for (const auto &row : severities) {
-        const int count = m_report.count(row.severity);
+        const int count = report.count(row.severity);
         if (count > 0)
             counts.append(counted(count, row.one, row.many));
     }
     if (counts.isEmpty())
         counts.append("nothing found");
-    if (m_report.knownCount > 0)
-        counts.append(QString("%1 known").arg(m_report.knownCount));
-    text->addLine(QString("%1 read: %2")
-                      .arg(counted(m_report.fileCount, "file", "files"), counts.join(", ")));
+    if (report.knownCount > 0)
+        counts.append(QString("%1 known").arg(report.knownCount));
+    text->addLine(
+        QString("%1 read: %2").arg(counted(report.fileCount, "file", "files"), counts.join(", ")));
+}
+
+} // namespace
+
+PxOutputText PxFindingsText::of(const PxCheckReport &report, bool isColoured, bool isQuiet)
+{
+    PxOutputText text;
+    for (const PxFinding &finding : report.findings)
+        addFinding(&text, finding, isColoured);
+    if (!isQuiet)
+        addSummary(&text, report);
+    return text;
 }

@@ -7,21 +7,9 @@
 class PxFindingsText
 {
 public:
-    PxFindingsText(const PxCheckReport &report, bool isColoured)
-        : m_report(report)
-        , m_isColoured(isColoured)
-    {}
-
     /**
      * Below the findings what was not checked, and the numbers, which are the last line; when it is
      * quiet only the findings.
      */
-    PxOutputText text(bool isQuiet) const;
-
-private:
-    void addFinding(PxOutputText *text, const PxFinding &finding) const;
-    void addSummary(PxOutputText *text) const;
-
-    const PxCheckReport &m_report;
-    bool m_isColoured;
+    static PxOutputText of(const PxCheckReport &report, bool isColoured, bool isQuiet);
 };

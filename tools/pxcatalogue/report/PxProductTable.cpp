@@ -26,17 +26,12 @@ QJsonArray row(const PxProductTypeConfigRegistry *registry, const PxProductType 
 
 } // namespace
 
-PxProductTable::PxProductTable(const PxProductTypeConfigRegistry *registry,
-                               const PxProductTypeList &products)
-    : m_registry(registry)
-    , m_products(products)
-{}
-
-void PxProductTable::addTo(PxReport *report) const
+void PxProductTable::addTo(PxReport *report, const PxProductTypeConfigRegistry *registry,
+                           const PxProductTypeList &products)
 {
     QVector<QJsonArray> rows;
-    for (const PxProductType &type : m_products)
-        rows.append(row(m_registry, type));
+    for (const PxProductType &type : products)
+        rows.append(row(registry, type));
     // clang-format off
     report->addTable("products", "", {
         {"name", "Name", Format::Key},

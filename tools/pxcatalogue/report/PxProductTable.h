@@ -5,15 +5,11 @@
 class PxProductTypeConfigRegistry;
 class PxReport;
 
-/** Products below each other, with what tells them apart. */
+/** Products below each other, with what distinguishes them. */
 class PxProductTable
 {
 public:
-    PxProductTable(const PxProductTypeConfigRegistry *registry, const PxProductTypeList &products);
-
-    void addTo(PxReport *report) const;
-
-private:
-    const PxProductTypeConfigRegistry *m_registry; // which describes them
-    PxProductTypeList m_products;
+    /** The registry describes them. */
+    static void addTo(PxReport *report, const PxProductTypeConfigRegistry *registry,
+                      const PxProductTypeList &products);
 };

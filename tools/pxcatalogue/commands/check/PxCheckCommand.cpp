@@ -71,11 +71,11 @@ std::optional<PxProblem> checkWithBaseline(const PxCommandLine &line, const PxCh
 PxExitStatus print(const PxCheckReport &report, const PxCheckOptions &options)
 {
     if (options.format() == Format::Json)
-        return PxCommand::printed(PxFindingsJson(report).json());
+        return PxCommand::printed(PxFindingsJson::of(report));
     if (options.format() == Format::Sarif)
-        return PxCommand::printed(PxFindingsSarif(report).json());
+        return PxCommand::printed(PxFindingsSarif::of(report));
     return PxCommand::printed(
-        PxFindingsText(report, PxTerminal::hasColours()).text(options.isQuiet()));
+        PxFindingsText::of(report, PxTerminal::hasColours(), options.isQuiet()));
 }
 
 PxExitStatus runChecks(const PxCommandLine &line, const PxCheckOptions &options)
