@@ -63,20 +63,16 @@ PxProblem problemOfTypes(const QString &path, const QString &reason)
         reason};
 }
 
-std::optional<PxProblem> findTypes(const QString &remedy)
+std::optional<PxProblem> findFiles(bool needsProducts, const QString &remedy)
 {
-    const QString path = resource("producttypes.xml");
-    if (QFileInfo(path).isReadable())
-        return std::nullopt;
-    return problemOfTypes(path, remedy);
-}
-
-std::optional<PxProblem> findProducts(const QString &remedy)
-{
-    auto problem = PxCatalogueDirectories::problemOf(resource("products"));
+    const auto problem =
+        needsProducts ? PxCatalogueDirectories::problemOf(resource("products")) : std::nullopt;
     if (problem)
-        problem->text += remedy;
-    return problem;
+        return PxProblem{problem->text + remedy};
+    const QString types = resource("producttypes.xml");
+    if (!QFileInfo(types).isReadable())
+        return problemOfTypes(types, remedy);
+    return std::nullopt;
 }
 
 std::optional<PxProblem> readTypes()
@@ -108,21 +104,17 @@ std::optional<PxProblem> PxCatalogueDirectories::apply() const
 {
     auto problem = useGivenOnes({});
     if (!problem)
-        problem = findProducts(howToNameIt);
-    if (!problem)
-        problem = findTypes(howToNameIt);
+        problem = findFiles(true, howToNameIt);
     return problem ? problem : readTypes();
 }
 
 std::optional<PxProblem> PxCatalogueDirectories::applyForCheck() const
 {
     const QStringList paths = m_line.arguments();
+    const bool areFiles = !paths.isEmpty() && !isDirectory(paths.constFirst());
+    const auto problem = useGivenOnes(paths);
     // A directory that is named as PATH is the resource directory already.
-    const QString remedy = paths.isEmpty() ? howToNameIt : QString();
-    auto problem = useGivenOnes(paths);
-    if (!problem && (paths.isEmpty() || isDirectory(paths.constFirst())))
-        problem = findProducts(remedy);
-    return problem ? problem : findTypes(remedy);
+    return problem ? problem : findFiles(!areFiles, paths.isEmpty() ? howToNameIt : "");
 }
 
 /** The resource directories that the command line names, or means by the files that it names. */

@@ -153,10 +153,12 @@ QJsonValue pagesWithContent(const Shown &shown, const Product &product)
     return PxReportValue::numbers(pages);
 }
 
+// Most of what follows are tables.
+// clang-format off
+
 void addProduct(const Shown &shown, PxReport *report)
 {
     const bool isLegacy = shown.registry != PxProductTypeConfigRegistry::instance();
-    // clang-format off
     report->addFields("product", "Product", {
         {"name", "Name", shown.type.productName()},
         {"shortName", "Short name", shown.type.shortProductName()},
@@ -174,14 +176,12 @@ void addProduct(const Shown &shown, PxReport *report)
         {"hasHook", "Hook", shown.product->hasHook()},
         {"hasHole", "Hole", shown.product->hasHole()},
     });
-    // clang-format on
 }
 
 void addPages(const Shown &shown, PxReport *report)
 {
     const int sellingPages = shown.product->defaultSellingPages();
     const QList<int> nearest = nearestPageCounts(shown.offeredPageCounts, shown.pageCount);
-    // clang-format off
     report->addFields("pages", "Pages", {
         {"pageCounts", "Page counts", PxReportValue::pageCounts(shown.offeredPageCounts, shown.product->pageIncrement()), Format::PageCounts},
         {"defaultSellingPages", "Sold with", sellingPages == -1 ? QJsonValue() : sellingPages},
@@ -199,7 +199,6 @@ void addPages(const Shown &shown, PxReport *report)
         {"editorStartDoublePage", "Editor starts at", shown.product->editorStartDoublePage()},
         {"pagesWithContent", "Pages with content", pagesWithContent(shown, *shown.product), Format::PageNumbers},
     });
-    // clang-format on
 }
 
 void addSizes(const Shown &shown, PxReport *report)
@@ -208,7 +207,6 @@ void addSizes(const Shown &shown, PxReport *report)
         return PxReportValue::margins(PxMargins(margin.vertical(), margin.vertical(),
                                                 margin.horizontal(), margin.horizontal()));
     };
-    // clang-format off
     report->addFields("sizes", "Sizes", {
         {"page", "Page", PxReportValue::size(shown.product->usablePrintSize(PxPageTypeNormalPage, shown.pageCount)), Format::Size},
         {"cover", "Cover", PxReportValue::size(shown.product->coverSize()), Format::Size},
@@ -218,7 +216,6 @@ void addSizes(const Shown &shown, PxReport *report)
         {"foldMargin", "Fold margin", shown.product->foldMargin(), Format::Length},
         {"clamp", "Clamp takes", shown.product->normalPageHorizontalClamp(), Format::Length},
     });
-    // clang-format on
 }
 
 void addPageKinds(const Shown &shown, PxReport *report)
@@ -232,7 +229,6 @@ void addPageKinds(const Shown &shown, PxReport *report)
              PxReportValue::size(size.usableSize()), PxReportValue::margins(size.bleedMargins()),
              PxReportValue::size(size.totalSize()), size.horizontalClampExtra()});
     }
-    // clang-format off
     report->addTable("pageKinds", "Size of each kind of page (bleed: top/bottom/left/right)", {
         {"pageType", "Page", Format::Key},
         {"alignment", "Side", Format::Key},
@@ -242,19 +238,16 @@ void addPageKinds(const Shown &shown, PxReport *report)
         {"totalSize", "Total", Format::Size},
         {"clamp", "Clamp", Format::Length},
     }, rows);
-    // clang-format on
 }
 
 void addSpine(const Shown &shown, PxReport *report)
 {
-    // clang-format off
     report->addFields("spine", "Spine", {
         {"hasSpine", "Printed", shown.product->hasSpine()},
         {"width", "Width", shown.product->spineWidth(shown.pageCount), Format::Length},
         {"maxFontHeight", "Largest text height", shown.product->spineMaxFontHeight(shown.pageCount), Format::Length},
         {"hasLogo", "Maker's logo", shown.product->mustPaintVemoLogoOnSpine()},
     });
-    // clang-format on
 }
 
 /** The different surroundings, each with its pages. */
@@ -285,7 +278,6 @@ void addSurroundings(const Shown &shown, PxReport *report)
                                   EnumHelper::globalMapSurroundingTypeString),
                      PxReportValue::rect(surrounding.imageRect()), surrounding.paintOnTop(),
                      surrounding.hasBindingShade(), surrounding.image()});
-    // clang-format off
     report->addTable("surroundings", "Surroundings", {
         {"pages", "Numbers", Format::PageNumbers},
         {"type", "Type", Format::Key},
@@ -294,7 +286,6 @@ void addSurroundings(const Shown &shown, PxReport *report)
         {"hasBindingShade", "Shade", Format::Key},
         {"image", "Image"},
     }, rows);
-    // clang-format on
 }
 
 void addBarcodes(const Shown &shown, PxReport *report)
@@ -306,14 +297,12 @@ void addBarcodes(const Shown &shown, PxReport *report)
             rows.append({page, PxReportValue::rect(barcode.rect()), barcode.reverseOrder(),
                          barcode.imageName()});
     }
-    // clang-format off
     report->addTable("barcodes", "Barcodes", {
         {"page", "Number", Format::Key},
         {"rect", "Place", Format::Rect},
         {"isCountedFromBack", "From the back", Format::Key},
         {"image", "Image"},
     }, rows);
-    // clang-format on
 }
 
 QString defaultTemplate(const Shown &shown, const PxPageContext &kind, DefaultTemplateType type)
@@ -338,7 +327,6 @@ void addTemplates(const Shown &shown, PxReport *report)
     }
     const QString heading = QString("Default templates (theme %1, with the user's own)")
                                 .arg(shown.themeId.isEmpty() ? "normal" : shown.themeId);
-    // clang-format off
     report->addTable("templates", heading.toUtf8(), {
         {"pageType", "Page", Format::Key},
         {"alignment", "Side", Format::Key},
@@ -346,7 +334,6 @@ void addTemplates(const Shown &shown, PxReport *report)
         {"layout", "Layout"},
         {"background", "Background"},
     }, rows);
-    // clang-format on
 }
 
 void addTheme(const Shown &shown, PxReport *report)
@@ -364,7 +351,6 @@ void addTheme(const Shown &shown, PxReport *report)
         products.removeAll(shown.type);
         return PxCatalogueProducts::nameArray(products);
     };
-    // clang-format off
     report->addFields("theme", "In this theme", {
         {"id", "Theme", theme.id()},
         {"description", "Description", theme.description()},
@@ -391,14 +377,12 @@ void addTheme(const Shown &shown, PxReport *report)
         {"compatibleProducts", "Compatible products", others(context.compatibleProducts())},
         {"compatibleProductsWithTheSameSize", "Same size", others(context.compatibleProductsWithTheSameSize())},
     });
-    // clang-format on
 }
 
 void addDesign(const Shown &shown, PxReport *report)
 {
     const QSizeF background =
         shown.registry->usablePrintSizeForBackgroundTemplate(shown.type, false);
-    // clang-format off
     report->addFields("design", "Design", {
         {"designElements", "Editor offers", designElementsOf(shown.product)},
         {"hasAssistant", "Assistant", shown.product->hasAssistant()},
@@ -411,31 +395,26 @@ void addDesign(const Shown &shown, PxReport *report)
         {"imagesPerPage", "Images on a page", shown.product->spaceMagnitude().maxReasonableImagesPerPage()},
         {"pointSize", "Type size", shown.registry->suitablePointSize(shown.type), Format::Points},
     });
-    // clang-format on
 }
 
 void addVariants(const Shown &shown, PxReport *report)
 {
-    // clang-format off
     report->addFields("variants", "Variants", {
         {"description", "Differ in", shown.product->variantDescription()},
         {"identifiers", "Variants", QJsonArray::fromStringList(shown.product->variants())},
     });
-    // clang-format on
 }
 
 void addClassification(const Shown &shown, PxReport *report)
 {
     const PxProductClassification classification = shown.product->classification();
     const PxProductMaterial material = classification.material();
-    // clang-format off
     report->addFields("classification", "In the shop", {
         {"material", "Material", PxReportValue::name(material.value(), material.visibleDescription()), Format::Name},
         {"sizeCm", "Size in cm", classification.sizeName(true)},
         {"sizeInch", "Size in inches", classification.sizeName(false)},
         {"area", "Area", classification.areaSize(), Format::Area},
     });
-    // clang-format on
 }
 
 void addLegacy(const Shown &shown, PxReport *report)
@@ -453,7 +432,6 @@ void addLegacy(const Shown &shown, PxReport *report)
     const auto sizeOf = [&](const QSizeF &size) {
         return isKnown && !size.isEmpty() ? PxReportValue::size(size.toSize()) : QJsonValue();
     };
-    // clang-format off
     report->addFields("legacy", "Earlier and later catalogues", {
         {"replacedBy", "Replaced by", successor.productName()},
         {"replaces", "Replaces", legacy.productName()},
@@ -461,33 +439,28 @@ void addLegacy(const Shown &shown, PxReport *report)
         {"replacedSpine", "Its spine", sizeOf(sizes->usablePrintSize(legacy, PxPageTypeSpine, shown.pageCount)), Format::Size},
         {"replacedCover", "Its open cover", sizeOf(sizes->usableSize(legacy, shown.pageCount, cover)), Format::Size},
     });
-    // clang-format on
 }
 
 void addProduction(const Shown &shown, PxReport *report)
 {
     const QList<int> numbering = shown.product->productionNumberingList(shown.pages.size());
-    // clang-format off
     report->addFields("production", "Production", {
         {"numbering", "Numbers of the pages", PxReportValue::numbers(numbering), Format::PageNumbers},
         {"pageNumberHorizontalIndent", "Page number from side", shown.product->pageNumberHorizontalIndent(), Format::Length},
         {"pageNumberVerticalIndent", "Above or below", shown.product->pageNumberVerticalIndent(), Format::Length},
         {"pageNumberFontSize", "Page number type size", shown.product->pageNumberFontSize()},
     });
-    // clang-format on
 
     QVector<QJsonArray> rows;
     for (const PxProductionExtraPageGroup &group : shown.product->extraProductionContents())
         rows.append({PxReportValue::numbers(group.targetPages()), group.content().templateType(),
                      group.content().targetLayer(), group.content().filename()});
-    // clang-format off
     report->addTable("extraPages", "Extra production pages", {
         {"pages", "Numbers", Format::PageNumbers},
         {"type", "Type"},
         {"layer", "Layer", Format::Key},
         {"file", "File"},
     }, rows);
-    // clang-format on
 }
 
 void addRedirects(const Shown &shown, PxReport *report)
@@ -502,7 +475,6 @@ void addRedirects(const Shown &shown, PxReport *report)
              shown.product->rotationRedirectForSourcePage(page))
             rotations.append({page, redirect.targetPageNr(), redirect.angleInvert()});
     }
-    // clang-format off
     report->addTable("contentRedirects", "Content dropped on a page goes to", {
         {"page", "Number", Format::Key},
         {"target", "Goes to", Format::Key},
@@ -512,8 +484,9 @@ void addRedirects(const Shown &shown, PxReport *report)
         {"target", "Goes to", Format::Key},
         {"angleInvert", "Angle by", Format::Key},
     }, rotations);
-    // clang-format on
 }
+
+// clang-format on
 
 } // namespace
 

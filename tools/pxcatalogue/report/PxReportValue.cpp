@@ -7,8 +7,6 @@
 #include <QRect>
 #include <QStringList>
 
-#include <initializer_list>
-
 namespace {
 
 QString lengthText(const QJsonValue &tenths)
@@ -19,7 +17,7 @@ QString lengthText(const QJsonValue &tenths)
 
 QString sizeText(const QJsonValue &size)
 {
-    return lengthText(size[u"width"]) + "×" + lengthText(size[u"height"]);
+    return lengthText(size["width"]) + "×" + lengthText(size["height"]);
 }
 
 QString marginsText(const QJsonValue &margins)
@@ -33,13 +31,13 @@ QString marginsText(const QJsonValue &margins)
 
 QString pageCountsText(const QJsonValue &counts)
 {
-    const int minimum = counts[u"minimum"].toInt();
-    const int maximum = counts[u"maximum"].toInt();
+    const int minimum = counts["minimum"].toInt();
+    const int maximum = counts["maximum"].toInt();
     if (minimum == maximum)
         return QString::number(minimum);
-    if (counts[u"increment"].isNull())
+    if (counts["increment"].isNull())
         return QString("%1, %2").arg(minimum).arg(maximum);
-    return QString("%1-%2/%3").arg(minimum).arg(maximum).arg(counts[u"increment"].toInt());
+    return QString("%1-%2/%3").arg(minimum).arg(maximum).arg(counts["increment"].toInt());
 }
 
 /**
@@ -98,14 +96,6 @@ QString plainText(const QJsonValue &value)
     }
 }
 
-QJsonObject object(std::initializer_list<QPair<const char *, int>> members)
-{
-    QJsonObject object;
-    for (const auto &[key, value] : members)
-        object.insert(key, value);
-    return object;
-}
-
 } // namespace
 
 QJsonValue PxReportValue::size(const QSizeF &size)
@@ -117,16 +107,16 @@ QJsonValue PxReportValue::size(const QSizeF &size)
 
 QJsonValue PxReportValue::rect(const QRect &rect)
 {
-    return object(
-        {{"x", rect.x()}, {"y", rect.y()}, {"width", rect.width()}, {"height", rect.height()}});
+    return QJsonObject{
+        {"x", rect.x()}, {"y", rect.y()}, {"width", rect.width()}, {"height", rect.height()}};
 }
 
 QJsonValue PxReportValue::margins(const PxMargins &margins)
 {
-    return object({{"top", margins.top()},
-                   {"bottom", margins.bottom()},
-                   {"left", margins.left()},
-                   {"right", margins.right()}});
+    return QJsonObject{{"top", margins.top()},
+                       {"bottom", margins.bottom()},
+                       {"left", margins.left()},
+                       {"right", margins.right()}};
 }
 
 QJsonValue PxReportValue::name(const QString &keyword, const QString &displayName)
@@ -161,19 +151,19 @@ QString PxReportValue::text(const QJsonValue &value, PxReportFormat format)
         return QString();
     switch (format) {
     case PxReportFormat::Name:
-        return value[u"name"].toString().isEmpty() ? value[u"keyword"].toString()
-                                                   : value[u"name"].toString();
+        return value["name"].toString().isEmpty() ? value["keyword"].toString()
+                                                  : value["name"].toString();
     case PxReportFormat::Length:
         return lengthText(value);
     case PxReportFormat::Size:
         return sizeText(value);
     case PxReportFormat::Pixels:
-        return QString("%1×%2").arg(value[u"width"].toInt()).arg(value[u"height"].toInt());
+        return QString("%1×%2").arg(value["width"].toInt()).arg(value["height"].toInt());
     case PxReportFormat::Margins:
         return marginsText(value);
     case PxReportFormat::Rect:
         return QString("%1 at %2, %3")
-            .arg(sizeText(value), lengthText(value[u"x"]), lengthText(value[u"y"]));
+            .arg(sizeText(value), lengthText(value["x"]), lengthText(value["y"]));
     case PxReportFormat::Area:
         return QString::number(value.toInt() / 10000.0, 'f', 0);
     case PxReportFormat::PageCounts:
