@@ -1,6 +1,7 @@
 #include "PxProgramRun.h"
 
 #include <QJsonArray>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -18,6 +19,7 @@ private slots:
     void showsAsManyPagesAsAsked();
     void findsCompatibleProducts();
     void fitsTheTerminal();
+    void explainsEachCommand();
     void saysWhatIsWrong();
     void needsItsProductTypes();
     void survivesBrokenProductFiles();
@@ -73,6 +75,33 @@ double secondsOf(Function runPrograms)
     getrusage(RUSAGE_CHILDREN, &after);
     return double(after.ru_utime.tv_sec - before.ru_utime.tv_sec) +
            double(after.ru_utime.tv_usec - before.ru_utime.tv_usec) / 1e6;
+}
+
+/** The lines of --help about the commands, each with a name first. */
+QStringList commandLines()
+{
+    const QStringList lines = run("--help").output();
+    const int begin = lines.indexOf(QRegularExpression("Commands .*")) + 1;
+    const int end = lines.indexOf(QRegularExpression("Exit status.*"));
+    return simplified(lines.mid(begin, end - begin));
+}
+
+/** The options that a text of --help has. */
+QStringList optionsOf(const PxProgramRun &help)
+{
+    static const QRegularExpression ourOption("--[a-z-]+");
+    QStringList options;
+    for (auto matches = ourOption.globalMatch(help.text()); matches.hasNext();)
+        options.append(matches.next().captured());
+    return options;
+}
+
+QStringList commandNames()
+{
+    QStringList names;
+    for (const QString &line : commandLines())
+        names.append(line.section(' ', 0, 0));
+    return names;
 }
 
 QString textOf(const char *path)
@@ -216,6 +245,28 @@ void PxCatalogueTest::fitsTheTerminal()
     fit("show BOOK_A4_PORTRAIT", 50);
 }
 
+void PxCatalogueTest::explainsEachCommand()
+{
+    const QString document = textOf(PX_SOURCE_DIRECTORY "/docs/pxcatalogue.md");
+    const QStringList lines = commandLines();
+    const QStringList all = optionsOf(run("--help"));
+    QVERIFY(lines.size() >= 6 && all.size() > 20);
+    for (const QString &line : lines) {
+        const QString name = line.section(' ', 0, 0);
+        const PxProgramRun help = run(name + " --help");
+        QCOMPARE(help.status(), 0);
+        QVERIFY2(help.text().startsWith("Usage: "), qPrintable(name));
+        const QString summary = help.output().value(1);
+        QVERIFY2(!summary.isEmpty() && line.endsWith(summary), qPrintable(line));
+        QVERIFY2(document.contains("| `pxcatalogue " + name), qPrintable(name));
+        for (const QString &option : optionsOf(help)) {
+            QVERIFY2(all.contains(option), qPrintable(option));
+            QVERIFY2(document.contains(QRegularExpression(option + "\\b(?!-)")),
+                     qPrintable(option));
+        }
+    }
+}
+
 void PxCatalogueTest::saysWhatIsWrong()
 {
     const auto check = [](const QString &command, int status, const QString &error) {
@@ -225,13 +276,14 @@ void PxCatalogueTest::saysWhatIsWrong()
     };
     const QString help = " (\"pxcatalogue --help\" explains everything)";
     const QString list = " (\"pxcatalogue list\" shows all)";
+    const QString commands = commandNames().join(", ");
     // clang-format off
     check("show BOK_A4", 1, "no product \"BOK_A4\": did you mean BOOK_A4_PORTRAIT, BOOK_A4_LANDSCAPE, BOOK_A4_PORTRAIT_SOFT?" + list);
     check("show collage", 1, "no product \"collage\": did you mean DEKO_COLLAGE_40X30?" + list);
     check("show \x1b[31mXYZZY", 1, "no product \"\\u001B[31mXYZZY\"" + list); // no escape sequence gets through
     check("compatible CUP1", 1, "no product \"CUP1\" any more: CUP2 replaces it" + list);
-    check("", 2, "a command is missing: use list, show, compatible, themes, check, variants" + help);
-    check("lst", 2, "unknown command \"lst\": use list, show, compatible, themes, check, variants" + help);
+    check("", 2, "a command is missing: use " + commands + help);
+    check("lst", 2, "unknown command \"lst\": use " + commands + help);
     check("show", 2, "show needs the name of a product" + help);
     check("show CUP2 PDT1", 2, "\"PDT1\" is one argument too many" + help);
     check("list --pages 26", 2, "Unknown option 'pages'." + help);

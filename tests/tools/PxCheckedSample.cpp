@@ -1,0 +1,50 @@
+#include "PxCheckedSample.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QRegularExpression>
+
+PxCheckedSample::PxCheckedSample()
+{
+    QDir::setCurrent(path());
+}
+
+PxProgramRun PxCheckedSample::check(const QString &options) const
+{
+    return PxProgramRun(PX_CATALOGUE_PROGRAM,
+                        QStringList("check") + options.split(' ', Qt::SkipEmptyParts),
+                        {{"PX_RESOURCE_DIRS", QString()}});
+}
+
+void PxCheckedSample::addFindings() const
+{
+    write("products/pendant.xml",
+          QStringLiteral("\uFEFF<!-- ü -->\r\n<p>\r\n\t<a n='\U0001F600ü>'\tm=\"1\"\r\n"
+                         "   ö='\U0001F600' ö=''/></p>"));
+    replace(cup, size, comment + size);
+    write("products/cup3.xml.b\u009B", QString());
+}
+
+QStringList findingsOf(const PxProgramRun &text)
+{
+    static const QRegularExpression ourFinding("^(\\S+:\\d+:\\d+): (\\w+): .* \\[(\\S+)\\]$");
+    QStringList findings;
+    for (const QString &line : text.output()) {
+        const QRegularExpressionMatch finding = ourFinding.match(line);
+        if (finding.hasMatch())
+            findings.append(finding.capturedTexts().mid(1).join(' '));
+    }
+    return findings;
+}
+
+QStringList findingsOf(const QJsonObject &json)
+{
+    QStringList findings;
+    for (const QJsonValue &finding : json["findings"].toArray())
+        findings.append(QString("%1:%2:%3 %4 %5")
+                            .arg(finding["path"].toString())
+                            .arg(finding["line"].toInt())
+                            .arg(finding["column"].toInt())
+                            .arg(finding["severity"].toString(), finding["tag"].toString()));
+    return findings;
+}
