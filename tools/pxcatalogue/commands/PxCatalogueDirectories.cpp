@@ -87,41 +87,11 @@ std::optional<PxProblem> readTypes()
     return std::nullopt;
 }
 
-} // namespace
-
-std::optional<PxProblem> PxCatalogueDirectories::problemOf(const QString &directory)
-{
-    const QFileInfo info(directory);
-    if (info.isDir() && info.isReadable() && info.isExecutable())
-        return std::nullopt;
-    return PxProblem{QString("the directory \"%1\" %2")
-                         .arg(directory, info.isDir()    ? "cannot be read"
-                                         : info.exists() ? "is no directory"
-                                                         : "does not exist")};
-}
-
-std::optional<PxProblem> PxCatalogueDirectories::apply() const
-{
-    auto problem = useGivenOnes({});
-    if (!problem)
-        problem = findFiles(true, howToNameIt);
-    return problem ? problem : readTypes();
-}
-
-std::optional<PxProblem> PxCatalogueDirectories::applyForCheck() const
-{
-    const QStringList paths = m_line.arguments();
-    const bool areFiles = !paths.isEmpty() && !isDirectory(paths.constFirst());
-    const auto problem = useGivenOnes(paths);
-    // A directory that is named as PATH is the resource directory already.
-    return problem ? problem : findFiles(!areFiles, paths.isEmpty() ? howToNameIt : "");
-}
-
 /** The resource directories that the command line names, or means by the files that it names. */
-std::optional<PxProblem> PxCatalogueDirectories::findResources(const QStringList &paths,
-                                                               QStringList *resources) const
+std::optional<PxProblem> findResources(const PxCommandLine &line, const QStringList &paths,
+                                       QStringList *resources)
 {
-    *resources = m_line.value("resources").split(QDir::listSeparator(), Qt::SkipEmptyParts);
+    *resources = line.value("resources").split(QDir::listSeparator(), Qt::SkipEmptyParts);
     const bool haveDirectory = std::any_of(paths.begin(), paths.end(), isDirectory);
     if (haveDirectory && paths.size() > 1)
         return PxProblem{"check takes one resource directory, or files"};
@@ -134,18 +104,19 @@ std::optional<PxProblem> PxCatalogueDirectories::findResources(const QStringList
     return areNamed ? std::nullopt : findResourcesAbove(paths, resources);
 }
 
-std::optional<PxProblem> PxCatalogueDirectories::useGivenOnes(const QStringList &paths) const
+std::optional<PxProblem> useGivenOnes(const PxCommandLine &line, const QStringList &paths)
 {
     QStringList resources;
-    if (const auto problem = findResources(paths, &resources))
+    if (const auto problem = findResources(line, paths, &resources))
         return problem;
-    const QString products = m_line.value("products");
-    const QString legacy = m_line.value("legacy");
-    const QString userDefaults = m_line.value("user-defaults");
-    const QString themes = m_line.value("themes");
+    const QString products = line.value("products");
+    const QString legacy = line.value("legacy");
+    const QString userDefaults = line.value("user-defaults");
+    const QString themes = line.value("themes");
     for (const QString &directory :
          resources + QStringList{products, legacy, userDefaults, themes}) {
-        const auto problem = directory.isEmpty() ? std::nullopt : problemOf(directory);
+        const auto problem =
+            directory.isEmpty() ? std::nullopt : PxCatalogueDirectories::problemOf(directory);
         if (problem)
             return problem;
     }
@@ -162,4 +133,34 @@ std::optional<PxProblem> PxCatalogueDirectories::useGivenOnes(const QStringList 
     config->setResource("products", products);
     config->setResource("products/legacy", legacy);
     return std::nullopt;
+}
+
+} // namespace
+
+std::optional<PxProblem> PxCatalogueDirectories::problemOf(const QString &directory)
+{
+    const QFileInfo info(directory);
+    if (info.isDir() && info.isReadable() && info.isExecutable())
+        return std::nullopt;
+    return PxProblem{QString("the directory \"%1\" %2")
+                         .arg(directory, info.isDir()    ? "cannot be read"
+                                         : info.exists() ? "is no directory"
+                                                         : "does not exist")};
+}
+
+std::optional<PxProblem> PxCatalogueDirectories::apply(const PxCommandLine &line)
+{
+    auto problem = useGivenOnes(line, {});
+    if (!problem)
+        problem = findFiles(true, howToNameIt);
+    return problem ? problem : readTypes();
+}
+
+std::optional<PxProblem> PxCatalogueDirectories::applyForCheck(const PxCommandLine &line)
+{
+    const QStringList paths = line.arguments();
+    const bool areFiles = !paths.isEmpty() && !isDirectory(paths.constFirst());
+    const auto problem = useGivenOnes(line, paths);
+    // A directory that is named as PATH is the resource directory already.
+    return problem ? problem : findFiles(!areFiles, paths.isEmpty() ? howToNameIt : "");
 }

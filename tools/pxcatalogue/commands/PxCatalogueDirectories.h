@@ -12,23 +12,15 @@ class PxCommandLine;
 class PxCatalogueDirectories
 {
 public:
-    explicit PxCatalogueDirectories(const PxCommandLine &line) : m_line(line) {}
-
     /** Sets them in the platform, for questions to the library. */
-    std::optional<PxProblem> apply() const;
+    static std::optional<PxProblem> apply(const PxCommandLine &line);
     /**
      * The same for a check of the paths of the command line, which are the resource directory, or
      * files that lie in it.
      *
      * What the check reports with its place, in producttypes.xml, is no problem here.
      */
-    std::optional<PxProblem> applyForCheck() const;
+    static std::optional<PxProblem> applyForCheck(const PxCommandLine &line);
 
     static std::optional<PxProblem> problemOf(const QString &directory);
-
-private:
-    std::optional<PxProblem> useGivenOnes(const QStringList &paths) const;
-    std::optional<PxProblem> findResources(const QStringList &paths, QStringList *resources) const;
-
-    const PxCommandLine &m_line;
 };

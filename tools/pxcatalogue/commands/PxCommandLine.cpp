@@ -30,14 +30,6 @@ QString programDescription()
     return description + exitStatus;
 }
 
-QStringList commandNames()
-{
-    QStringList names;
-    for (const PxCommand *command : PxCommand::all())
-        names.append(command->usage().name);
-    return names;
-}
-
 bool takes(const PxCommand *command, const PxOption &option)
 {
     const QVector<PxOption> options = command->usage().options;
@@ -45,16 +37,15 @@ bool takes(const PxCommand *command, const PxOption &option)
                        [&option](const PxOption &other) { return other.name == option.name; });
 }
 
-/** The option with the commands that take it before its description. */
-PxOption withOwners(PxOption option)
+/** The names of the commands, or of those that take the option. */
+QString commandNames(const PxOption *option = nullptr)
 {
-    QStringList owners;
+    QStringList names;
     for (const PxCommand *command : PxCommand::all()) {
-        if (takes(command, option))
-            owners.append(command->usage().name);
+        if (!option || takes(command, *option))
+            names.append(command->usage().name);
     }
-    option.description.prepend(owners.join(", ") + ": ");
-    return option;
+    return names.join(", ");
 }
 
 /** What neighbours share stands behind the own options of the last of them. */
@@ -69,7 +60,8 @@ QVector<PxOption> optionsOfAllCommands()
             if (isSharedWithNext || names.contains(option.name))
                 continue;
             names.append(option.name);
-            all.append(withOwners(option));
+            all.append(option);
+            all.last().description.prepend(commandNames(&option) + ": ");
         }
     }
     return all + PxOption::ofEveryCommand();
@@ -106,13 +98,12 @@ void PxCommandLine::findCommand(const QStringList &words)
     }
     if (m_command)
         return;
-    const QString names = commandNames().join(", ");
     if (!isUnderstood)
         setProblem(parser.errorText());
     else if (!name.isEmpty())
-        setProblem(QString("unknown command \"%1\": use %2").arg(name, names));
+        setProblem(QString("unknown command \"%1\": use %2").arg(name, commandNames()));
     else if (!informs(parser))
-        setProblem("a command is missing: use " + names);
+        setProblem("a command is missing: use " + commandNames());
 }
 
 void PxCommandLine::readOptions(const QStringList &words)

@@ -27,9 +27,9 @@ PxReportCommand::Answer PxCompatibleCommand::answer(const PxCommandLine &line) c
     const PxProductType type(line.arguments().constFirst());
     const QString themeId = PxReportCommand::themeId(line);
     if (!PxCatalogueProducts::isCurrent(type))
-        return unknownProduct(line.arguments().constFirst());
-    if (!isThemeKnown(themeId))
-        return unknownTheme(themeId);
+        return {std::nullopt, unknownProduct(line.arguments().constFirst())};
+    if (const auto no = problemOfTheme(themeId))
+        return {std::nullopt, no};
 
     const auto criterion = EnumHelper::decodeKeywordList(line.value("criterion"), criterionKeywords,
                                                          PxProductComparationNone);

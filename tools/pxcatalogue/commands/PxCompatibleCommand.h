@@ -7,7 +7,5 @@ class PxCompatibleCommand : public PxReportCommand
 {
 public:
     PxCommandUsage usage() const override;
-
-protected:
     Answer answer(const PxCommandLine &line) const override;
 };

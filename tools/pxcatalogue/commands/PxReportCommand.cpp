@@ -20,7 +20,7 @@ QString suggestionOf(const QStringList &names, const QString &name)
 
 PxExitStatus PxReportCommand::run(const PxCommandLine &line) const
 {
-    if (const auto problem = PxCatalogueDirectories(line).apply())
+    if (const auto problem = PxCatalogueDirectories::apply(line))
         return fail(*problem);
     PxProductPropertiesInitializer::setupModule();
     const Answer answer = this->answer(line);
@@ -46,7 +46,7 @@ QString PxReportCommand::themeId(const PxCommandLine &line)
     return line.value("theme").toLower();
 }
 
-PxReportCommand::Answer PxReportCommand::unknownProduct(const QString &name)
+PxProblem PxReportCommand::unknownProduct(const QString &name)
 {
     const PxProductType type(name);
     const PxProductType successor =
@@ -58,19 +58,14 @@ PxReportCommand::Answer PxReportCommand::unknownProduct(const QString &name)
         reason += ": its type is known, but no product file describes it";
     else
         reason += suggestionOf(PxCatalogueProducts::names(), name);
-    return {std::nullopt, PxProblem{reason + " (\"pxcatalogue list\" shows all)"}};
+    return {reason + " (\"pxcatalogue list\" shows all)"};
 }
 
-PxReportCommand::Answer PxReportCommand::unknownTheme(const QString &id)
+std::optional<PxProblem> PxReportCommand::problemOfTheme(const QString &id)
 {
-    const QString suggestion = suggestionOf(PxThemeFactory::instance()->themeNames(), id);
-    return {
-        std::nullopt,
-        PxProblem{
-            QString("no theme \"%1\"%2 (\"pxcatalogue themes\" shows all)").arg(id, suggestion)}};
-}
-
-bool PxReportCommand::isThemeKnown(const QString &id)
-{
-    return id.isEmpty() || PxThemeFactory::instance()->contains(id);
+    const auto *factory = PxThemeFactory::instance();
+    if (id.isEmpty() || factory->contains(id))
+        return std::nullopt;
+    return PxProblem{QString("no theme \"%1\"%2 (\"pxcatalogue themes\" shows all)")
+                         .arg(id, suggestionOf(factory->themeNames(), id))};
 }

@@ -24,9 +24,7 @@ protected:
     static PxCommandUsage::Arguments productName();
     /** Ids of themes are in lower case. Empty when none is given. */
     static QString themeId(const PxCommandLine &line);
-    /** The answer about a product that there is not. */
-    static Answer unknownProduct(const QString &name);
-    static Answer unknownTheme(const QString &id);
-    /** Also true of no theme at all. */
-    static bool isThemeKnown(const QString &id);
+    static PxProblem unknownProduct(const QString &name);
+    /** What is wrong with the id of a theme; an empty one is fine. */
+    static std::optional<PxProblem> problemOfTheme(const QString &id);
 };

@@ -28,9 +28,9 @@ PxReportCommand::Answer PxShowCommand::answer(const PxCommandLine &line) const
     const bool isCurrent = PxCatalogueProducts::isCurrent(type);
     // Nobody designs a product of an earlier catalogue: none of the themes is for it.
     if (!isCurrent && (!theme.isEmpty() || !PxCatalogueProducts::isLegacy(type)))
-        return unknownProduct(name);
-    if (!isThemeKnown(theme))
-        return unknownTheme(theme);
+        return {std::nullopt, unknownProduct(name)};
+    if (const auto no = problemOfTheme(theme))
+        return {std::nullopt, no};
     const auto *registry = isCurrent ? PxProductTypeConfigRegistry::instance()
                                      : PxProductTypeConfigRegistry::legacyInstance();
     return {PxProductReport::of(registry, type, line.value("pages").toInt(), theme)};

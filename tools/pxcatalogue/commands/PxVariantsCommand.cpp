@@ -18,7 +18,7 @@ PxReportCommand::Answer PxVariantsCommand::answer(const PxCommandLine &line) con
 {
     const PxProductType type(line.arguments().constFirst());
     if (!PxCatalogueProducts::isCurrent(type))
-        return unknownProduct(line.arguments().constFirst());
+        return {std::nullopt, unknownProduct(line.arguments().constFirst())};
 
     const auto *identifiers = PxProductVariantIdentifiers::instance();
     const QMap<QString, QString> nameOfVariant = identifiers->variants(type);

@@ -34,7 +34,7 @@ std::optional<PxProblem> check(const PxCommandLine &line, const PxCheckOptions &
                                PxCheckReport *report)
 {
     PxCheckFiles files(line);
-    auto problem = PxCatalogueDirectories(line).applyForCheck();
+    auto problem = PxCatalogueDirectories::applyForCheck(line);
     if (!problem)
         problem = files.find();
     if (problem)

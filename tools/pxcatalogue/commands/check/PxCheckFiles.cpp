@@ -32,12 +32,6 @@ QString resource(const char *name)
     return PxDirectoryConfig::instance()->resource(name, false);
 }
 
-/** Whether it is a copy or a version of such a file: images may well lie beside themes. */
-bool looksLikeXml(const QString &name)
-{
-    return name.contains(".xml", Qt::CaseInsensitive);
-}
-
 } // namespace
 
 PxCheckFiles::PxCheckFiles(const PxCommandLine &line) : m_given(line.arguments())
@@ -118,9 +112,11 @@ std::optional<PxProblem> PxCheckFiles::findFiles(const Directory &directory)
         const bool hasEnding = name.endsWith(".xml", directory.ending);
         // Other directories and hidden files are no files that got a wrong name.
         const bool isElsewhere = entry.isDir() || entry.isHidden();
+        // A copy or a version of such a file; other files, as images, may well lie beside themes.
+        const bool looksLikeXml = name.contains(".xml", Qt::CaseInsensitive);
         if (hasEnding && entry.isFile() && !entry.isHidden())
             directory.files->append(path);
-        else if (hasEnding || (!isElsewhere && (isOfProducts || looksLikeXml(name))))
+        else if (hasEnding || (!isElsewhere && (isOfProducts || looksLikeXml)))
             m_paths.strays.append(path);
         m_catalogueNames.insert(path, join(directory.name, name));
     }
