@@ -2,29 +2,34 @@
 
 namespace {
 
+using Type = PxValueType;
+using Set = PxKeywordSet;
+using Occurrence = PxOccurrence;
+using Text = PxTextKind;
+
 // clang-format off
 constexpr PxAttributeRow productTypeAttributes[] = {
-    {"code", PxValueType::Integer, nullptr, "the row is left out", "number of the product type in orders; never reuse one", PxKeywordSet::None, "int above 0"},
-    {"name", PxValueType::Text, nullptr, "the row is left out", "product name"},
-    {"class", PxValueType::OneKeyword, nullptr, "the row is left out", "`book`, `calendar`, `gift`, `card`, `deko` or `print`", PxKeywordSet::ProductClass, "keyword"},
-    {"shortname", PxValueType::Text, "", "the name", "display name"},
+    {"code", Type::Integer, nullptr, {"number of the product type in orders; never reuse one", nullptr, nullptr, "int above 0"}, "the row is left out", Set::None, 1},
+    {"name", Type::Text, nullptr, {"product name"}, "the row is left out"},
+    {"class", Type::OneKeyword, nullptr, {"`book`, `calendar`, `gift`, `card`, `deko` or `print`", nullptr, nullptr, "keyword"}, "the row is left out", Set::ProductClass},
+    {"shortname", Type::Text, "", {"display name"}, "the name"},
 };
 constexpr PxAttributeRow frameAttributes[] = {
-    {"id", PxValueType::Text, nullptr, "the row is left out", "identifier in orders, plain ASCII: `ue` for `ü`, `ss` for `ß`"},
-    {"name", PxValueType::Text, nullptr, "the row is left out", "display name, German"},
+    {"id", Type::Text, nullptr, {"identifier in orders, plain ASCII: `ue` for `ü`, `ss` for `ß`"}, "the row is left out"},
+    {"name", Type::Text, nullptr, {"display name, German"}, "the row is left out"},
 };
 
 constexpr PxElementRow productType[] = {
-    {"producttype", PxOccurrence::Any, PxTextKind::None, "a product type, current or older", productTypeAttributes, {}},
+    {"producttype", Occurrence::Any, Text::None, productTypeAttributes, {}, {"a product type, current or older"}},
 };
 constexpr PxElementRow frame[] = {
-    {"frame", PxOccurrence::Any, PxTextKind::None, "a frame model", frameAttributes, {}},
+    {"frame", Occurrence::Any, Text::None, frameAttributes, {}, {"a frame model"}},
 };
 // clang-format on
 
 } // namespace
 
-constexpr PxElementRow productTypesFileRow = {
-    "producttypes", PxOccurrence::First, PxTextKind::None, "the product types", {}, productType};
-constexpr PxElementRow framesFileRow = {
-    "frames", PxOccurrence::AnyName, PxTextKind::None, "the frame models", {}, frame};
+constexpr PxElementRow productTypesFileRow = {"producttypes", Occurrence::First,    Text::None, {},
+                                              productType,    {"the product types"}};
+constexpr PxElementRow framesFileRow = {"frames", Occurrence::AnyName, Text::None, {},
+                                        frame,    {"the frame models"}};

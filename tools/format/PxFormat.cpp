@@ -3,10 +3,7 @@
 #include "format/PxFormatFiles.h"
 #include "format/PxKeywordRows.h"
 
-#include <QRegularExpression>
-
 #include <algorithm>
-#include <iterator>
 
 namespace {
 
@@ -86,41 +83,6 @@ QStringList PxFormat::attributeNames(const PxElementRow &element)
     for (const PxAttributeRow &row : element.attributes)
         names.append(QLatin1String(row.name));
     return names;
-}
-
-QString PxFormat::typeName(const PxAttributeRow &attribute)
-{
-    constexpr struct
-    {
-        PxValueType type;
-        const char *name;
-    } names[] = {
-        {PxValueType::Integer, "int"},
-        {PxValueType::Boolean, "bool"},
-        {PxValueType::Text, "text"},
-        {PxValueType::TextList, "text list"},
-        {PxValueType::Path, "path, read as lower case"},
-        {PxValueType::DateTime, "date and time"},
-        {PxValueType::Keyword, "keyword"},
-        {PxValueType::KeywordList, "keyword list"},
-        {PxValueType::OneKeyword, "one keyword"},
-        {PxValueType::PageRange, "page or range"},
-        {PxValueType::RectanglePart, "rectangle"},
-        {PxValueType::ProductName, "product name, any case"},
-    };
-    if (attribute.typeText)
-        return QString::fromUtf8(attribute.typeText);
-    const auto *found = std::find_if(std::begin(names), std::end(names),
-                                     [&](const auto &row) { return row.type == attribute.type; });
-    return QLatin1String(found->name);
-}
-
-QString PxFormat::plainText(QString cell)
-{
-    static const QRegularExpression ourLink(QStringLiteral("\\[([^\\]]*)\\]\\([^)]*\\)"));
-    return cell.replace(ourLink, QStringLiteral("\\1"))
-        .remove(QStringLiteral("**"))
-        .replace(QLatin1Char('`'), QLatin1Char('"'));
 }
 
 const PxKeywordSetRow &PxFormat::keywords(PxKeywordSet set)

@@ -27,10 +27,6 @@ public:
     /** The usual names. */
     static QStringList childNames(const PxElementRow &parent);
     static QStringList attributeNames(const PxElementRow &element);
-    /** As the documentation calls it. */
-    static QString typeName(const PxAttributeRow &attribute);
-    /** A cell of the documentation without Markdown: links are their texts, names are quoted. */
-    static QString plainText(QString cell);
 
     /** The set is not None. */
     static const PxKeywordSetRow &keywords(PxKeywordSet set);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <limits>
 
 class QString;
 
@@ -49,6 +50,7 @@ enum class PxKeywordSet {
 /** What the value of an attribute is. */
 enum class PxValueType {
     Integer,
+    Length, ///< a whole number of tenths of a millimetre
     Boolean,
     Text,
     TextList,
@@ -58,31 +60,44 @@ enum class PxValueType {
     KeywordList, ///< keywords that add up
     OneKeyword,  ///< not read as a list
     PageRange,
-    RectanglePart, ///< one of x, y, width and height; a whole number
+    RectanglePart, ///< one of x, y, width and height, each a length
     ProductName,
 };
 
 /**
- * An attribute of an element.
+ * What the documentation of the file format says about an attribute, in Markdown.
  *
- * The last members are cells of the tables in the documentation of the file format, in Markdown.
+ * A missing text is derived from the facts, except the meaning.
  */
+struct PxAttributeCells
+{
+    /** Null if the attribute shares the line of the table with the one before. */
+    const char *meaning = nullptr;
+    const char *absent = nullptr; ///< what is used if it is absent or unreadable
+    /**
+     * The section that documents the attribute, if not the main table of the element does. The main
+     * table has one line for all neighbours of the same section, with this text as meaning.
+     */
+    const char *section = nullptr;
+    const char *type = nullptr;
+};
+
+/** An attribute of an element. */
 struct PxAttributeRow
 {
     const char *name;
     PxValueType type;
-    /** A value that is read like a missing attribute; null when none is. May be empty. */
+    /** A value that is read like a missing attribute; null if there is none. May be empty. */
     const char *defaultText;
-    const char *absent; ///< what is used when it is absent or unreadable
-    /** Null when the attribute shares the line of the table with the one before. */
-    const char *meaning;
-    PxKeywordSet keywords = PxKeywordSet::None;
-    const char *typeText = nullptr; ///< instead of the usual name of the type
+    PxAttributeCells cells;
     /**
-     * Where the attribute is told about, when that is not in the main table of the element. The
-     * main table has one line for all neighbours of the same section, with this text as meaning.
+     * What follows if it is absent or unreadable, beyond the default; "none" if the default is
+     * nothing. Plain text, with names in quotes.
      */
-    const char *section = nullptr;
+    const char *consequence = nullptr;
+    PxKeywordSet keywords = PxKeywordSet::None;
+    /** The smallest number that makes sense. */
+    int least = std::numeric_limits<int>::min();
 };
 
 /** How many elements of a name, or of any name, count below the same parent. */
@@ -95,17 +110,25 @@ enum class PxOccurrence {
 /** What the text between the tags of an element is. */
 enum class PxTextKind { None, Text, Integer, NumberList, PageTypes, ProductName };
 
-/** An element, with what may stand in it. The last members are cells of the documentation. */
+/** What the documentation of the file format says about an element, in Markdown. */
+struct PxElementCells
+{
+    const char *meaning;
+    const char *contents = nullptr; ///< in the columns "Contents" and "Type"
+    const char *absent = nullptr;   ///< if it says more than the fact does
+};
+
+/** An element, and what it may contain. */
 struct PxElementRow
 {
     const char *name;
     PxOccurrence occurrence;
     PxTextKind text;
-    const char *meaning;
     PxRows<PxAttributeRow> attributes;
     PxRows<PxElementRow> children;
-    const char *contents = nullptr; ///< in the columns "Contents" and "Type"
-    const char *absent = nullptr;   ///< what counts when it is absent or empty
+    PxElementCells cells;
+    /** What counts if it is absent or empty. Plain text, with names in quotes. */
+    const char *absent = nullptr;
 };
 
 /** A keyword, and what it stands for. */

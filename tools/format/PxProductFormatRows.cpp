@@ -2,186 +2,189 @@
 
 namespace {
 
+using Type = PxValueType;
+using Set = PxKeywordSet;
+using Occurrence = PxOccurrence;
+using Text = PxTextKind;
+
 // clang-format off
 constexpr const char *sizeSection = "see [Size](#size-usablesize-margins-covers)";
 
 constexpr PxAttributeRow productAttributes[] = {
-    {"name", PxValueType::ProductName, "", "empty: the file is skipped", "product name, any case; names the [user-defaults file](#user-defaults-files) letter for letter", PxKeywordSet::None, "text"},
-    {"safetymargin", PxValueType::Integer, "0", "0", "strip inside the page, on all four sides, that designs keep clear of"},
-    {"defaultSellingPages", PxValueType::Integer, "-1", "-1: none", "page count a new product starts with; should be in the `spines` table"},
-    {"numOfProducts", PxValueType::Integer, "1", "1", "copies or pieces that one product consists of; never write 0"},
-    {"numOfNormalPages", PxValueType::Integer, "1", "1", "normal pages of gifts, cards and decoration, all pieces together"},
-    {"normalpagehorizontalclamp", PxValueType::Integer, "0", "0", "width that a clamp takes from every normal page"},
-    {"imageFXs", PxValueType::KeywordList, "none", "none", "[image effects](#image-effects); `grayscale` also takes away picture borders and shadows", PxKeywordSet::ImageEffect},
-    {"assemblyWay", PxValueType::KeywordList, "factory", "`factory`", "[who puts the product together](#assembly-ways)", PxKeywordSet::AssemblyWay},
-    {"binding", PxValueType::Keyword, "GIFT", "`GIFT`", "[binding](#bindings)", PxKeywordSet::Binding},
-    {"paper", PxValueType::Keyword, "indigo", "`indigo`", "[paper](#papers); a product without paper must say `unbekanntes Papier`", PxKeywordSet::Paper},
-    {"hasContentCategoryComboBox", PxValueType::Boolean, "true", "true", "the editor offers content by category"},
-    {"showLayoutTab", PxValueType::Boolean, "true", "true", "the editor offers layouts"},
-    {"canHaveFading", PxValueType::Boolean, "true", "true", "the editor offers masks"},
-    {"canHaveClipart", PxValueType::Boolean, "true", "true", "the editor offers clipart"},
-    {"canHaveBackground", PxValueType::Boolean, "true", "true", "the editor offers backgrounds"},
-    {"hasAssistant", PxValueType::Boolean, "true", "true", "the product can be filled by the assistant"},
-    {"horizontalPages", PxValueType::Boolean, "true", "true", "pages of a spread lie side by side; false: one above the other"},
-    {"cardStyleAlignment", PxValueType::Boolean, "false", "false", "card: every page has bleed on all sides"},
-    {"varioSingleCardStyleAlignment", PxValueType::Boolean, "false", "false", "single cards: with a one-sided binding every page is in the middle"},
-    {"collegeBlockStyleAlignment", PxValueType::Boolean, "false", "false", "front and back of a block"},
-    {"numOfSpirals", PxValueType::Integer, "0", "0", "loops of a spiral binding; 0 is no spiral"},
-    {"hasHook", PxValueType::Boolean, "false", "false", "hook or hole to hang a calendar up"},
-    {"hasHole", PxValueType::Boolean, "false", "false", nullptr},
-    {"editorStartDoublePage", PxValueType::Integer, "0", "0", "double page that the editor opens first", PxKeywordSet::None, "**int**"},
-    {"hasLogoOnSpine", PxValueType::Boolean, "false", "false", "the maker's logo is painted on the spine"},
-    {"pageNamingStyle", PxValueType::KeywordList, "", "none", "[how the editor names the pages](#page-naming-styles)", PxKeywordSet::PageNamingStyle},
-    {"bleedmargin", PxValueType::Integer, "0", "0", "bleed of normal pages", PxKeywordSet::None, nullptr, sizeSection},
-    {"bleedmarginhorizontal", PxValueType::Integer, nullptr, "`bleedmargin`", "… at the left and right edge", PxKeywordSet::None, nullptr, sizeSection},
-    {"bleedmarginvertical", PxValueType::Integer, nullptr, "`bleedmargin`", "… at the top and bottom edge", PxKeywordSet::None, nullptr, sizeSection},
-    {"bleedmargincover", PxValueType::Integer, "0", "0", "bleed of covers and spine", PxKeywordSet::None, nullptr, sizeSection},
-    {"bleedmargincoverhorizontal", PxValueType::Integer, nullptr, "`bleedmargincover`", "… at the left and right edge", PxKeywordSet::None, nullptr, sizeSection},
-    {"bleedmargincoververtical", PxValueType::Integer, nullptr, "`bleedmargincover`", "… at the top and bottom edge", PxKeywordSet::None, nullptr, sizeSection},
-    {"coverextravertical", PxValueType::Integer, "0", "0", "how much higher a cover half is than a page", PxKeywordSet::None, nullptr, sizeSection},
-    {"coverextrahorizontal", PxValueType::Integer, "0", "0", "how much wider a cover half is than a page; books with a spine lose [10 of it](#page-counts-and-spines-spines)", PxKeywordSet::None, nullptr, sizeSection},
-    {"orientation", PxValueType::Keyword, "", "", sizeSection, PxKeywordSet::Orientation},
-    {"space", PxValueType::KeywordList, "", "", nullptr, PxKeywordSet::SizeClass},
-    {"fullBackgroundOnEachPage", PxValueType::Boolean, nullptr, "true for calendars, gifts and cards, else false", "one background covers one page rather than the spread"},
-    {"coverBackgroundCategories", PxValueType::TextList, nullptr, "`Einfarbig` for decoration, else empty", "categories of backgrounds that are allowed; empty allows all"},
-    {"foldmargin", PxValueType::Integer, "-1", "-1: computed", "strip lost in the fold, see [below](#surroundings-surroundings)"},
-    {"legacy", PxValueType::ProductName, "", "none", "name of the older product that this one replaces", PxKeywordSet::None, "text"},
+    {"name", Type::ProductName, "", {"product name, any case; names the [user-defaults file](#user-defaults-files) letter for letter", "empty: the file is skipped", nullptr, "text"}, "the file is skipped"},
+    {"safetymargin", Type::Length, "0", {"strip inside the page, on all four sides, that designs keep clear of"}, nullptr, Set::None, 0},
+    {"defaultSellingPages", Type::Integer, "-1", {"page count a new product starts with; should be in the `spines` table"}, "none"},
+    {"numOfProducts", Type::Integer, "1", {"copies or pieces that one product consists of; never write 0"}, nullptr, Set::None, 1},
+    {"numOfNormalPages", Type::Integer, "1", {"normal pages of gifts, cards and decoration, all pieces together"}, nullptr, Set::None, 1},
+    {"normalpagehorizontalclamp", Type::Length, "0", {"width that a clamp takes from every normal page"}, nullptr, Set::None, 0},
+    {"imageFXs", Type::KeywordList, "none", {"[image effects](#image-effects); `grayscale` also takes away picture borders and shadows", "none"}, nullptr, Set::ImageEffect},
+    {"assemblyWay", Type::KeywordList, "factory", {"[who puts the product together](#assembly-ways)"}, nullptr, Set::AssemblyWay},
+    {"binding", Type::Keyword, "GIFT", {"[binding](#bindings)"}, nullptr, Set::Binding},
+    {"paper", Type::Keyword, "indigo", {"[paper](#papers); a product without paper must say `unbekanntes Papier`"}, nullptr, Set::Paper},
+    {"hasContentCategoryComboBox", Type::Boolean, "true", {"the editor offers content by category"}},
+    {"showLayoutTab", Type::Boolean, "true", {"the editor offers layouts"}},
+    {"canHaveFading", Type::Boolean, "true", {"the editor offers masks"}},
+    {"canHaveClipart", Type::Boolean, "true", {"the editor offers clipart"}},
+    {"canHaveBackground", Type::Boolean, "true", {"the editor offers backgrounds"}},
+    {"hasAssistant", Type::Boolean, "true", {"the product can be filled by the assistant"}},
+    {"horizontalPages", Type::Boolean, "true", {"pages of a spread lie side by side; false: one above the other"}},
+    {"cardStyleAlignment", Type::Boolean, "false", {"card: every page has bleed on all sides"}},
+    {"varioSingleCardStyleAlignment", Type::Boolean, "false", {"single cards: with a one-sided binding every page is in the middle"}},
+    {"collegeBlockStyleAlignment", Type::Boolean, "false", {"front and back of a block"}},
+    {"numOfSpirals", Type::Integer, "0", {"loops of a spiral binding; 0 is no spiral"}},
+    {"hasHook", Type::Boolean, "false", {"hook or hole to hang a calendar up"}},
+    {"hasHole", Type::Boolean, "false", {}},
+    {"editorStartDoublePage", Type::Integer, "0", {"double page that the editor opens first", nullptr, nullptr, "**int**"}},
+    {"hasLogoOnSpine", Type::Boolean, "false", {"the maker's logo is painted on the spine"}},
+    {"pageNamingStyle", Type::KeywordList, "", {"[how the editor names the pages](#page-naming-styles)"}, "none", Set::PageNamingStyle},
+    {"bleedmargin", Type::Length, "0", {"bleed of normal pages", nullptr, sizeSection}, nullptr, Set::None, 0},
+    {"bleedmarginhorizontal", Type::Length, nullptr, {"… at the left and right edge", nullptr, sizeSection}, "\"bleedmargin\"", Set::None, 0},
+    {"bleedmarginvertical", Type::Length, nullptr, {"… at the top and bottom edge", nullptr, sizeSection}, "\"bleedmargin\"", Set::None, 0},
+    {"bleedmargincover", Type::Length, "0", {"bleed of covers and spine", nullptr, sizeSection}, nullptr, Set::None, 0},
+    {"bleedmargincoverhorizontal", Type::Length, nullptr, {"… at the left and right edge", nullptr, sizeSection}, "\"bleedmargincover\"", Set::None, 0},
+    {"bleedmargincoververtical", Type::Length, nullptr, {"… at the top and bottom edge", nullptr, sizeSection}, "\"bleedmargincover\"", Set::None, 0},
+    {"coverextravertical", Type::Length, "0", {"how much higher a cover half is than a page", nullptr, sizeSection}},
+    {"coverextrahorizontal", Type::Length, "0", {"how much wider a cover half is than a page; books with a spine lose [10 of it](#page-counts-and-spines-spines)", nullptr, sizeSection}},
+    {"orientation", Type::Keyword, "", {sizeSection, ""}, nullptr, Set::Orientation},
+    {"space", Type::KeywordList, "", {nullptr, ""}, nullptr, Set::SizeClass},
+    {"fullBackgroundOnEachPage", Type::Boolean, nullptr, {"one background covers one page rather than the spread"}, "true for calendars, gifts and cards, else false"},
+    {"coverBackgroundCategories", Type::TextList, nullptr, {"categories of backgrounds that are allowed; empty allows all"}, "\"Einfarbig\" for decoration, else empty"},
+    {"foldmargin", Type::Length, "-1", {"strip lost in the fold, see [below](#surroundings-surroundings)"}, "computed", Set::None, -1},
+    {"legacy", Type::ProductName, "", {"name of the older product that this one replaces", nullptr, nullptr, "text"}, "none"},
 };
 constexpr PxAttributeRow usableSizeAttributes[] = {
-    {"width", PxValueType::Integer, nullptr, "-1: the product is not offered", "size of the trimmed page, without bleed"},
-    {"height", PxValueType::Integer, nullptr, "-1: the product is not offered", nullptr},
-    {"orientation", PxValueType::Keyword, "", "`orientation` of `product`", "[orientation](#orientations)", PxKeywordSet::Orientation},
-    {"space", PxValueType::KeywordList, "", "`space` of `product`", "[size class](#size-classes), chooses layouts and type sizes", PxKeywordSet::SizeClass},
+    {"width", Type::Length, nullptr, {"size of the trimmed page, without bleed", "-1: the product is not offered"}, "the product is not offered", Set::None, 1},
+    {"height", Type::Length, nullptr, {nullptr, "-1: the product is not offered"}, "the product is not offered", Set::None, 1},
+    {"orientation", Type::Keyword, "", {"[orientation](#orientations)"}, "\"orientation\" of \"product\"", Set::Orientation},
+    {"space", Type::KeywordList, "", {"[size class](#size-classes), chooses layouts and type sizes"}, "\"space\" of \"product\"", Set::SizeClass},
 };
 constexpr PxAttributeRow spineAttributes[] = {
-    {"pages", PxValueType::Integer, "0", "0: a spine for 0 pages, and 0 becomes the smallest page count", "page count"},
-    {"width", PxValueType::Integer, "0", "0", "width of the spine"},
-    {"maxfontheight", PxValueType::Integer, "0", "0", "greatest height of type on the spine"},
+    {"pages", Type::Integer, "0", {"page count"}, "a spine for 0 pages, and 0 becomes the smallest page count"},
+    {"width", Type::Length, "0", {"width of the spine"}},
+    {"maxfontheight", Type::Length, "0", {"greatest height of type on the spine"}},
 };
 constexpr PxAttributeRow surroundingAttributes[] = {
-    {"type", PxValueType::OneKeyword, "BOOK", "`BOOK`", "[surrounding type](#surrounding-types); an unknown word makes it none, which still hides later ones", PxKeywordSet::SurroundingType},
-    {"pageType", PxValueType::KeywordList, "all", "`all`", "[page types](#page-types) it is for", PxKeywordSet::PageType},
-    {"alignment", PxValueType::KeywordList, "left,right,top,bottom,center,middle", "`left,right,top,bottom,center,middle`", "[positions](#alignments) it is for; `fullpage` only when named", PxKeywordSet::Alignment},
-    {"pageNr", PxValueType::Integer, "-1", "-1: none", "pins it to one page"},
-    {"paintOnTop", PxValueType::Boolean, "true", "true", "above the content of the page rather than below"},
-    {"hasbindingshade", PxValueType::Boolean, "false", "false", "the image carries the shade of the binding"},
-    {"image", PxValueType::Text, "", "empty", "image, as a path in the resource directory"},
-    {"x", PxValueType::RectanglePart, "0", "none", "where the image goes, seen from the upper left corner of the page"},
-    {"y", PxValueType::RectanglePart, "0", "none", nullptr},
-    {"width", PxValueType::RectanglePart, nullptr, "none", nullptr},
-    {"height", PxValueType::RectanglePart, nullptr, "none", nullptr},
+    {"type", Type::OneKeyword, "BOOK", {"[surrounding type](#surrounding-types); an unknown word makes it none, which still hides later ones"}, nullptr, Set::SurroundingType},
+    {"pageType", Type::KeywordList, "all", {"[page types](#page-types) it is for"}, nullptr, Set::PageType},
+    {"alignment", Type::KeywordList, "left,right,top,bottom,center,middle", {"[positions](#alignments) it is for; `fullpage` only when named"}, nullptr, Set::Alignment},
+    {"pageNr", Type::Integer, "-1", {"pins it to one page"}, "none"},
+    {"paintOnTop", Type::Boolean, "true", {"above the content of the page rather than below"}},
+    {"hasbindingshade", Type::Boolean, "false", {"the image carries the shade of the binding"}},
+    {"image", Type::Text, "", {"image, as a path in the resource directory"}},
+    {"x", Type::RectanglePart, "0", {"where the image goes, seen from the upper left corner of the page"}},
+    {"y", Type::RectanglePart, "0", {}},
+    {"width", Type::RectanglePart, nullptr, {}},
+    {"height", Type::RectanglePart, nullptr, {}},
 };
 constexpr PxAttributeRow defaultsAttributes[] = {
-    {"theme", PxValueType::TextList, "normal", "`normal`", "theme ids, compared exactly; ids of themes are lower case"},
-    {"pageType", PxValueType::KeywordList, "", "empty: found for no page type", "[page types](#page-types)", PxKeywordSet::PageType},
-    {"alignment", PxValueType::KeywordList, "left,right,top,bottom,center,middle", "`left,right,top,bottom,center,middle`", "[positions](#alignments); an unknown or empty entry counts as `left`", PxKeywordSet::Alignment},
-    {"templates", PxValueType::TextList, "", "empty", "short form: background, then layout"},
-    {"layout", PxValueType::Text, nullptr, "second name of `templates` when it has exactly two", "layout template"},
-    {"background", PxValueType::Text, nullptr, "first name of `templates`", "background template"},
+    {"theme", Type::TextList, "normal", {"theme ids, compared exactly; ids of themes are lower case"}},
+    {"pageType", Type::KeywordList, "", {"[page types](#page-types)", "empty: found for no page type"}, "found for no page type", Set::PageType},
+    {"alignment", Type::KeywordList, "left,right,top,bottom,center,middle", {"[positions](#alignments); an unknown or empty entry counts as `left`"}, nullptr, Set::Alignment},
+    {"templates", Type::TextList, "", {"short form: background, then layout"}},
+    {"layout", Type::Text, nullptr, {"layout template"}, "second name of \"templates\" when it has exactly two"},
+    {"background", Type::Text, nullptr, {"background template"}, "first name of \"templates\""},
 };
 constexpr PxAttributeRow rotationRedirectAttributes[] = {
-    {"from", PxValueType::Integer, nullptr, "the element is dropped", "pages; -1 is kept as it is, anything below drops the element"},
-    {"to", PxValueType::Integer, nullptr, "the element is dropped", nullptr},
-    {"angleinvert", PxValueType::Integer, "1", "1", "handed to the editor as it is"},
+    {"from", Type::Integer, nullptr, {"pages; -1 is kept as it is, anything below drops the element"}, "the element is dropped"},
+    {"to", Type::Integer, nullptr, {}, "the element is dropped"},
+    {"angleinvert", Type::Integer, "1", {"handed to the editor as it is"}},
 };
 constexpr PxAttributeRow contentRedirectAttributes[] = {
-    {"from", PxValueType::PageRange, nullptr, "dropped with a warning", "`3`, or `3-7` for pages 3 to 7"},
-    {"to", PxValueType::Integer, nullptr, "dropped with a warning", "page, 0 or more"},
+    {"from", Type::PageRange, nullptr, {"`3`, or `3-7` for pages 3 to 7"}, "dropped with a warning"},
+    {"to", Type::Integer, nullptr, {"page, 0 or more"}, "dropped with a warning"},
 };
 constexpr PxAttributeRow barcodeAttributes[] = {
-    {"x", PxValueType::RectanglePart, "0", "none: there is no barcode on that page", "place on the page"},
-    {"y", PxValueType::RectanglePart, "0", "none: there is no barcode on that page", nullptr},
-    {"width", PxValueType::RectanglePart, nullptr, "none: there is no barcode on that page", nullptr},
-    {"height", PxValueType::RectanglePart, nullptr, "none: there is no barcode on that page", nullptr},
-    {"pageNr", PxValueType::Integer, "0", "0", "page"},
-    {"reverseOrder", PxValueType::Boolean, "false", "false", "count from the back: the barcode is on page \"number of pages − `pageNr`\""},
-    {"image", PxValueType::Text, "dummy-barcode.png", "`dummy-barcode.png`", "image the editor shows in its place"},
+    {"x", Type::RectanglePart, "0", {"place on the page"}, "there is no barcode on that page"},
+    {"y", Type::RectanglePart, "0", {}, "there is no barcode on that page"},
+    {"width", Type::RectanglePart, nullptr, {}, "there is no barcode on that page"},
+    {"height", Type::RectanglePart, nullptr, {}, "there is no barcode on that page"},
+    {"pageNr", Type::Integer, "0", {"page"}},
+    {"reverseOrder", Type::Boolean, "false", {"count from the back: the barcode is on page \"number of pages − `pageNr`\""}},
+    {"image", Type::Text, "dummy-barcode.png", {"image the editor shows in its place"}},
 };
 constexpr PxAttributeRow pdfAttributes[] = {
-    {"filename", PxValueType::Text, "", "empty", "file; looked up by the production"},
-    {"type", PxValueType::Text, "", "empty", "kind of template, handed to the production as it is"},
-    {"layer", PxValueType::Integer, "0", "0", "layer to put it on"},
+    {"filename", Type::Text, "", {"file; looked up by the production"}},
+    {"type", Type::Text, "", {"kind of template, handed to the production as it is"}},
+    {"layer", Type::Integer, "0", {"layer to put it on"}},
 };
 constexpr PxAttributeRow marginAttributes[] = {
-    {"verticalMargin", PxValueType::Integer, "50", "50", "distance of the page number from the edge above or below"},
-    {"horizontalMargin", PxValueType::Integer, "50", "50", "distance from the edge at the side"},
+    {"verticalMargin", Type::Integer, "50", {"distance of the page number from the edge above or below"}, nullptr, Set::None, 0},
+    {"horizontalMargin", Type::Integer, "50", {"distance from the edge at the side"}, nullptr, Set::None, 0},
 };
 constexpr PxAttributeRow fontAttributes[] = {
-    {"fontSize", PxValueType::Integer, "24", "24", "type size"},
+    {"fontSize", Type::Integer, "24", {"type size"}},
 };
 constexpr PxAttributeRow classificationAttributes[] = {
-    {"cm", PxValueType::Text, "", "empty", "size name for display, without unit"},
-    {"inch", PxValueType::Text, "", "empty", nullptr},
-    {"group", PxValueType::OneKeyword, "", "empty: no material", "[material](#materials), exactly as in the table", PxKeywordSet::Material, "text"},
+    {"cm", Type::Text, "", {"size name for display, without unit"}},
+    {"inch", Type::Text, "", {}},
+    {"group", Type::OneKeyword, "", {"[material](#materials), exactly as in the table", "empty: no material", nullptr, "text"}, "no material", Set::Material},
 };
 constexpr PxAttributeRow variantsAttributes[] = {
-    {"type", PxValueType::Text, "", "empty", "label of the choice"},
+    {"type", Type::Text, "", {"label of the choice"}},
 };
 
 constexpr PxElementRow spine[] = {
-    {"spine", PxOccurrence::Any, PxTextKind::None, "a page count that the product is sold with", spineAttributes, {}},
+    {"spine", Occurrence::Any, Text::None, spineAttributes, {}, {"a page count that the product is sold with"}},
 };
 constexpr PxElementRow surrounding[] = {
-    {"surrounding", PxOccurrence::Any, PxTextKind::None, "an image painted round or over pages", surroundingAttributes, {}},
+    {"surrounding", Occurrence::Any, Text::None, surroundingAttributes, {}, {"an image painted round or over pages"}},
 };
 constexpr PxElementRow defaultsEntry[] = {
-    {"defaults", PxOccurrence::Any, PxTextKind::None, "the templates that a new page gets", defaultsAttributes, {}},
+    {"defaults", Occurrence::Any, Text::None, defaultsAttributes, {}, {"the templates that a new page gets"}},
 };
 constexpr PxElementRow rotationRedirect[] = {
-    {"rotationredirect", PxOccurrence::Any, PxTextKind::None, "which page takes the place of which when the product is turned", rotationRedirectAttributes, {}},
+    {"rotationredirect", Occurrence::Any, Text::None, rotationRedirectAttributes, {}, {"which page takes the place of which when the product is turned"}},
 };
 constexpr PxElementRow contentRedirect[] = {
-    {"contentredirect", PxOccurrence::Any, PxTextKind::None, "where content dropped on a page really goes", contentRedirectAttributes, {}},
+    {"contentredirect", Occurrence::Any, Text::None, contentRedirectAttributes, {}, {"where content dropped on a page really goes"}},
 };
 constexpr PxElementRow barcode[] = {
-    {"barcode", PxOccurrence::Any, PxTextKind::None, "a barcode; the first one that is on a page is used", barcodeAttributes, {}},
+    {"barcode", Occurrence::Any, Text::None, barcodeAttributes, {}, {"a barcode; the first one that is on a page is used"}},
 };
 constexpr PxElementRow itemChildren[] = {
-    {"target_pages", PxOccurrence::First, PxTextKind::NumberList, "pages where the content goes", {}, {}, "number list", "no page"},
-    {"pdf", PxOccurrence::First, PxTextKind::None, "the content", pdfAttributes, {}},
+    {"target_pages", Occurrence::First, Text::NumberList, {}, {}, {"pages where the content goes", "number list"}, "no page"},
+    {"pdf", Occurrence::First, Text::None, pdfAttributes, {}, {"the content"}},
 };
 constexpr PxElementRow item[] = {
-    {"item", PxOccurrence::Any, PxTextKind::None, "a ready-made PDF page", {}, itemChildren},
+    {"item", Occurrence::Any, Text::None, {}, itemChildren, {"a ready-made PDF page"}},
 };
 constexpr PxElementRow pageNumberConfigChildren[] = {
-    {"margin", PxOccurrence::First, PxTextKind::None, "where the page numbers are printed", marginAttributes, {}},
-    {"font", PxOccurrence::First, PxTextKind::None, "type of the page numbers", fontAttributes, {}},
+    {"margin", Occurrence::First, Text::None, marginAttributes, {}, {"where the page numbers are printed"}},
+    {"font", Occurrence::First, Text::None, fontAttributes, {}, {"type of the page numbers"}},
 };
 constexpr PxElementRow variant[] = {
-    {"variant", PxOccurrence::AnyName, PxTextKind::Text, "identifier of a variant", {}, {}},
+    {"variant", Occurrence::AnyName, Text::Text, {}, {}, {"identifier of a variant"}},
 };
 
 constexpr PxElementRow productChildren[] = {
-    {"usablesize", PxOccurrence::First, PxTextKind::None, "size of the page", usableSizeAttributes, {}},
-    {"pages", PxOccurrence::First, PxTextKind::PageTypes, "[page types](#page-types), in the order of an open book seen from the back cover", {}, {}, "keyword list", "one normal page"},
-    {"spines", PxOccurrence::First, PxTextKind::None, "the page counts that the product is sold with", {}, spine, "any number of `spine`", "no page count"},
-    {"surroundings", PxOccurrence::Any, PxTextKind::None, "images painted round or over pages", {}, surrounding, "any number of `surrounding`", "none"},
-    {"defaults", PxOccurrence::First, PxTextKind::None, "the templates that a new page gets", {}, defaultsEntry, "any number of `defaults`", "none"},
-    {"rotationredirects", PxOccurrence::First, PxTextKind::None, "which page takes the place of which when the product is turned", {}, rotationRedirect, "any number of `rotationredirect`", "none"},
-    {"contentredirects", PxOccurrence::First, PxTextKind::None, "where content dropped on a page really goes", {}, contentRedirect, "any number of `contentredirect`", "none"},
-    {"barcodes", PxOccurrence::First, PxTextKind::None, "places of barcodes", {}, barcode, "any number of `barcode`", "none"},
-    {"productionnumbering", PxOccurrence::First, PxTextKind::NumberList, "the number that production gives to each page, in page order", {}, {}, "number list", "`1`"},
-    {"pageswithcontent", PxOccurrence::First, PxTextKind::NumberList, "the only pages that take content", {}, {}, "number list", "every page"},
-    {"extra_production_pages", PxOccurrence::First, PxTextKind::None, "ready-made PDF pages that production adds", {}, item, "any number of `item`", "none"},
-    {"pageNumberConfig", PxOccurrence::First, PxTextKind::None, "page numbers on pages", {}, pageNumberConfigChildren},
-    {"classification", PxOccurrence::First, PxTextKind::None, "size names and material", classificationAttributes, {}},
-    {"variants", PxOccurrence::First, PxTextKind::None, "versions that do not change the product type", variantsAttributes, variant, "any number of elements", "none"},
+    {"usablesize", Occurrence::First, Text::None, usableSizeAttributes, {}, {"size of the page"}},
+    {"pages", Occurrence::First, Text::PageTypes, {}, {}, {"[page types](#page-types), in the order of an open book seen from the back cover", "keyword list"}, "one normal page"},
+    {"spines", Occurrence::First, Text::None, {}, spine, {"the page counts that the product is sold with", "any number of `spine`"}, "no page count"},
+    {"surroundings", Occurrence::Any, Text::None, {}, surrounding, {"images painted round or over pages", "any number of `surrounding`"}, "none"},
+    {"defaults", Occurrence::First, Text::None, {}, defaultsEntry, {"the templates that a new page gets", "any number of `defaults`"}, "none"},
+    {"rotationredirects", Occurrence::First, Text::None, {}, rotationRedirect, {"which page takes the place of which when the product is turned", "any number of `rotationredirect`"}, "none"},
+    {"contentredirects", Occurrence::First, Text::None, {}, contentRedirect, {"where content dropped on a page really goes", "any number of `contentredirect`"}, "none"},
+    {"barcodes", Occurrence::First, Text::None, {}, barcode, {"places of barcodes", "any number of `barcode`"}, "none"},
+    {"productionnumbering", Occurrence::First, Text::NumberList, {}, {}, {"the number that production gives to each page, in page order", "number list"}, "\"1\""},
+    {"pageswithcontent", Occurrence::First, Text::NumberList, {}, {}, {"the only pages that take content", "number list"}, "every page"},
+    {"extra_production_pages", Occurrence::First, Text::None, {}, item, {"ready-made PDF pages that production adds", "any number of `item`"}, "none"},
+    {"pageNumberConfig", Occurrence::First, Text::None, {}, pageNumberConfigChildren, {"page numbers on pages"}},
+    {"classification", Occurrence::First, Text::None, classificationAttributes, {}, {"size names and material"}},
+    {"variants", Occurrence::First, Text::None, variantsAttributes, variant, {"versions that do not change the product type", "any number of elements"}, "none"},
 };
 constexpr PxElementRow product[] = {
-    {"product", PxOccurrence::First, PxTextKind::None, "the product", productAttributes, productChildren},
+    {"product", Occurrence::First, Text::None, productAttributes, productChildren, {"the product"}},
 };
 constexpr PxElementRow userDefaults[] = {
-    {"defaults", PxOccurrence::First, PxTextKind::None, "the templates that the user prefers", {}, defaultsEntry, "any number of `defaults`", "none"},
+    {"defaults", Occurrence::First, Text::None, {}, defaultsEntry, {"the templates that the user prefers", "any number of `defaults`"}, "none"},
 };
 // clang-format on
 
 } // namespace
 
 constexpr PxElementRow productFileRow = {
-    "productdescription", PxOccurrence::AnyName, PxTextKind::None, "a product", {}, product};
-constexpr PxElementRow userDefaultsFileRow = {"userdefaults",
-                                              PxOccurrence::AnyName,
-                                              PxTextKind::None,
-                                              "the templates that a user prefers for a product",
-                                              {},
-                                              userDefaults};
+    "productdescription", Occurrence::AnyName, Text::None, {}, product, {"a product"}};
+constexpr PxElementRow userDefaultsFileRow = {
+    "userdefaults", Occurrence::AnyName,
+    Text::None,     {},
+    userDefaults,   {"the templates that a user prefers for a product"}};

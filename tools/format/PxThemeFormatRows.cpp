@@ -2,65 +2,70 @@
 
 namespace {
 
+using Type = PxValueType;
+using Set = PxKeywordSet;
+using Occurrence = PxOccurrence;
+using Text = PxTextKind;
+
 // clang-format off
 constexpr PxAttributeRow themeAttributes[] = {
-    {"id", PxValueType::Text, "unbekannt", "`unbekannt`", "identifier, as [`defaults`](#default-templates-defaults) name it", PxKeywordSet::None, "text, read as lower case"},
-    {"producttype", PxValueType::OneKeyword, "", "none (0): the theme is not valid", "[product group](#product-groups) it belongs to", PxKeywordSet::ProductGroup},
-    {"expiry", PxValueType::DateTime, "197612302359", "30 December 1976, 23:59: always expired", "last moment at which it can be ordered"},
-    {"thumbnail", PxValueType::Path, "", "no preview", "preview image"},
+    {"id", Type::Text, "unbekannt", {"identifier, as [`defaults`](#default-templates-defaults) name it", nullptr, nullptr, "text, read as lower case"}},
+    {"producttype", Type::OneKeyword, "", {"[product group](#product-groups) it belongs to", "none (0): the theme is not valid"}, "the theme is not valid", Set::ProductGroup},
+    {"expiry", Type::DateTime, "197612302359", {"last moment at which it can be ordered", "30 December 1976, 23:59: always expired"}},
+    {"thumbnail", Type::Path, "", {"preview image"}, "no preview"},
 };
 constexpr PxAttributeRow spineTextAttributes[] = {
-    {"use", PxValueType::Boolean, "false", "false", "text is printed on the spine"},
+    {"use", Type::Boolean, "false", {"text is printed on the spine"}},
 };
 constexpr PxAttributeRow spineLogoAttributes[] = {
-    {"use", PxValueType::Boolean, "true", "**true**", "the logo is printed on the spine"},
+    {"use", Type::Boolean, "true", {"the logo is printed on the spine", "**true**"}},
 };
 constexpr PxAttributeRow contentAttributes[] = {
-    {"movable", PxValueType::Boolean, "false", "false", "the user may move what the theme places"},
-    {"normalBackgrounds", PxValueType::Boolean, "true", "**true**", "backgrounds that belong to no theme may be used"},
+    {"movable", Type::Boolean, "false", {"the user may move what the theme places"}},
+    {"normalBackgrounds", Type::Boolean, "true", {"backgrounds that belong to no theme may be used", "**true**"}},
 };
 constexpr PxAttributeRow defaultCategoriesAttributes[] = {
-    {"background", PxValueType::Text, "", "empty", "backgrounds"},
-    {"clipart", PxValueType::Text, "", "empty", "clipart"},
-    {"fading", PxValueType::Text, "", "empty", "masks"},
-    {"content", PxValueType::Text, "", "empty", "content"},
-    {"frame", PxValueType::Text, "", "empty", "frames"},
-    {"layout", PxValueType::Text, "", "empty", "layouts"},
+    {"background", Type::Text, "", {"backgrounds"}},
+    {"clipart", Type::Text, "", {"clipart"}},
+    {"fading", Type::Text, "", {"masks"}},
+    {"content", Type::Text, "", {"content"}},
+    {"frame", Type::Text, "", {"frames"}},
+    {"layout", Type::Text, "", {"layouts"}},
 };
 constexpr PxAttributeRow logoAttributes[] = {
-    {"booktype", PxValueType::ProductName, "", "the entry belongs to no product", "product, not only a book"},
-    {"filename", PxValueType::Path, "", "a logo without image", "image, as a path in the resource directory"},
-    {"x", PxValueType::RectanglePart, "0", "none", "where the image goes"},
-    {"y", PxValueType::RectanglePart, "0", "none", nullptr},
-    {"width", PxValueType::RectanglePart, nullptr, "none", nullptr},
-    {"height", PxValueType::RectanglePart, nullptr, "none", nullptr},
+    {"booktype", Type::ProductName, "", {"product, not only a book"}, "the entry belongs to no product"},
+    {"filename", Type::Path, "", {"image, as a path in the resource directory"}, "a logo without image"},
+    {"x", Type::RectanglePart, "0", {"where the image goes"}},
+    {"y", Type::RectanglePart, "0", {}},
+    {"width", Type::RectanglePart, nullptr, {}},
+    {"height", Type::RectanglePart, nullptr, {}},
 };
 
 constexpr PxElementRow keyAccount[] = {
-    {"keyaccount", PxOccurrence::AnyName, PxTextKind::Integer, "number of a key account", {}, {}},
+    {"keyaccount", Occurrence::AnyName, Text::Integer, {}, {}, {"number of a key account"}},
 };
 constexpr PxElementRow product[] = {
-    {"product", PxOccurrence::Any, PxTextKind::ProductName, "product that the theme may be used with", {}, {}},
+    {"product", Occurrence::Any, Text::ProductName, {}, {}, {"product that the theme may be used with"}},
 };
 constexpr PxElementRow logo[] = {
-    {"logo", PxOccurrence::AnyName, PxTextKind::None, "the logo that is painted on a product", logoAttributes, {}},
+    {"logo", Occurrence::AnyName, Text::None, logoAttributes, {}, {"the logo that is painted on a product"}},
 };
 constexpr PxElementRow themeChildren[] = {
-    {"description", PxOccurrence::First, PxTextKind::Text, "display name, German", {}, {}, "text", "`unbekannt`; empty when the element is empty"},
-    {"keyaccounts", PxOccurrence::First, PxTextKind::None, "key accounts that the theme is offered to", {}, keyAccount, "any number of elements, each an int", "empty: **offered to nobody**"},
-    {"products", PxOccurrence::First, PxTextKind::None, "products it may be used with", {}, product, "any number of `product`, each a product name", "empty: every product"},
-    {"logos", PxOccurrence::First, PxTextKind::None, "see [Logos](#logos-logos)", {}, logo, "any number of elements", "none"},
-    {"spinetext", PxOccurrence::First, PxTextKind::None, "text on the spine", spineTextAttributes, {}},
-    {"spinelogo", PxOccurrence::First, PxTextKind::None, "the logo on the spine", spineLogoAttributes, {}},
-    {"content", PxOccurrence::First, PxTextKind::None, "what may be done with the content", contentAttributes, {}},
-    {"defaultcategories", PxOccurrence::First, PxTextKind::None, "see [Default categories](#default-categories-defaultcategories)", defaultCategoriesAttributes, {}, nullptr, "six empty names"},
+    {"description", Occurrence::First, Text::Text, {}, {}, {"display name, German", "text"}, "\"unbekannt\"; empty when the element is empty"},
+    {"keyaccounts", Occurrence::First, Text::None, {}, keyAccount, {"key accounts that the theme is offered to", "any number of elements, each an int", "empty: **offered to nobody**"}},
+    {"products", Occurrence::First, Text::None, {}, product, {"products it may be used with", "any number of `product`, each a product name"}, "empty: every product"},
+    {"logos", Occurrence::First, Text::None, {}, logo, {"see [Logos](#logos-logos)", "any number of elements"}, "none"},
+    {"spinetext", Occurrence::First, Text::None, spineTextAttributes, {}, {"text on the spine"}},
+    {"spinelogo", Occurrence::First, Text::None, spineLogoAttributes, {}, {"the logo on the spine"}},
+    {"content", Occurrence::First, Text::None, contentAttributes, {}, {"what may be done with the content"}},
+    {"defaultcategories", Occurrence::First, Text::None, defaultCategoriesAttributes, {}, {"see [Default categories](#default-categories-defaultcategories)"}, "six empty names"},
 };
 constexpr PxElementRow theme[] = {
-    {"theme", PxOccurrence::AnyName, PxTextKind::None, "a theme", themeAttributes, themeChildren},
+    {"theme", Occurrence::AnyName, Text::None, themeAttributes, themeChildren, {"a theme"}},
 };
 // clang-format on
 
 } // namespace
 
-constexpr PxElementRow themeFileRow = {
-    "themes", PxOccurrence::First, PxTextKind::None, "any number of themes", {}, theme};
+constexpr PxElementRow themeFileRow = {"themes", Occurrence::First,       Text::None, {},
+                                       theme,    {"any number of themes"}};

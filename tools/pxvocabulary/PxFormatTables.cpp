@@ -1,5 +1,6 @@
 #include "PxFormatTables.h"
 
+#include "PxFormatCells.h"
 #include "format/PxFormat.h"
 #include "format/PxKeywordRows.h"
 
@@ -58,9 +59,9 @@ Line attributeLine(const PxAttributeRow &row, const QString &names)
 {
     Line line;
     line.attribute = names;
-    line.type = PxFormat::typeName(row);
-    line.absent = QString::fromUtf8(row.absent);
-    line.meaning = QString::fromUtf8(row.meaning);
+    line.type = PxFormatCells::type(row);
+    line.absent = PxFormatCells::absent(row);
+    line.meaning = QString::fromUtf8(row.cells.meaning);
     return line;
 }
 
@@ -70,23 +71,23 @@ Lines attributeLines(const PxElementRow &element, Attributes which = Attributes:
     const PxAttributeRow *const end = element.attributes.end();
     for (const PxAttributeRow *row = element.attributes.begin(); row != end;) {
         const PxAttributeRow *next = row + 1;
-        if (row->section && which == Attributes::Main) {
+        if (row->cells.section && which == Attributes::Main) {
             next = std::find_if(next, end, [row](const PxAttributeRow &other) {
-                return other.section != row->section;
+                return other.cells.section != row->cells.section;
             });
             Line line =
                 attributeLine(*row, code(row->name) + QStringLiteral(" … ") + code(next[-1].name));
             line.absent.clear();
-            line.meaning = QString::fromUtf8(row->section);
+            line.meaning = QString::fromUtf8(row->cells.section);
             lines.append(line);
         } else {
-            next =
-                std::find_if(next, end, [](const PxAttributeRow &other) { return other.meaning; });
+            next = std::find_if(next, end,
+                                [](const PxAttributeRow &other) { return other.cells.meaning; });
             QStringList names;
             for (const PxAttributeRow *named = row; named != next; ++named)
                 names.append(code(named->name));
             const QLatin1String separator(row->type == PxValueType::RectanglePart ? " " : ", ");
-            if (row->section || which == Attributes::Main)
+            if (row->cells.section || which == Attributes::Main)
                 lines.append(attributeLine(*row, names.join(separator)));
         }
         row = next;
@@ -98,11 +99,11 @@ Lines attributeLines(const PxElementRow &element, Attributes which = Attributes:
 Lines elementLines(const PxElementRow &row)
 {
     Lines lines;
-    if (row.contents || row.absent) {
+    if (row.cells.contents || row.absent) {
         Line line;
-        line.type = QString::fromUtf8(row.contents);
-        line.absent = QString::fromUtf8(row.absent);
-        line.meaning = QString::fromUtf8(row.meaning);
+        line.type = QString::fromUtf8(row.cells.contents);
+        line.absent = PxFormatCells::absent(row);
+        line.meaning = QString::fromUtf8(row.cells.meaning);
         lines.append(line);
     } else {
         lines = attributeLines(row);

@@ -60,6 +60,7 @@ QString PxSchemaTypes::typesOf(const PxAttributeRow &attribute)
     const QString number = QStringLiteral("\\s*[0-9]+\\s*");
     switch (attribute.type) {
     case PxValueType::Integer:
+    case PxValueType::Length:
     case PxValueType::RectanglePart:
         return integer();
     case PxValueType::Boolean:

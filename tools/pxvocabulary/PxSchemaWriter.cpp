@@ -1,5 +1,6 @@
 #include "PxSchemaWriter.h"
 
+#include "PxFormatCells.h"
 #include "format/PxFormat.h"
 
 #include <QRegularExpression>
@@ -8,13 +9,20 @@
 
 namespace {
 
-/** Texts of the vocabulary are Markdown, with links into the documentation of the file format. */
-QString plain(const char *markdown)
+/** Without Markdown and its links into the documentation. */
+QString plain(QString markdown)
 {
     static const QRegularExpression ourReference(QStringLiteral("see \\[[^]]*\\]\\([^)]*\\)"));
-    return PxFormat::plainText(QString::fromUtf8(markdown)
-                                   .replace(ourReference, QStringLiteral("see file-format.md"))
-                                   .remove(QLatin1Char('`')));
+    static const QRegularExpression ourLink(QStringLiteral("\\[([^\\]]*)\\]\\([^)]*\\)"));
+    return markdown.replace(ourReference, QStringLiteral("see file-format.md"))
+        .replace(ourLink, QStringLiteral("\\1"))
+        .remove(QStringLiteral("**"))
+        .remove(QLatin1Char('`'));
+}
+
+QString plain(const char *markdown)
+{
+    return plain(QString::fromUtf8(markdown));
 }
 
 QString sentence(const char *subject, const QString &text)
@@ -50,8 +58,8 @@ void PxSchemaWriter::writeElement(const PxElementRow &row, bool isOptional)
         m_xml.writeAttribute("minOccurs", "0");
     if (row.text != PxTextKind::None)
         m_xml.writeAttribute("type", m_types.typeOf(row.text));
-    writeDocumentation(plain(row.meaning) + sentence("Contents", plain(row.contents)) +
-                       sentence("Absent", plain(row.absent)));
+    writeDocumentation(plain(row.cells.meaning) + sentence("Contents", plain(row.cells.contents)) +
+                       sentence("Absent", plain(PxFormatCells::absent(row))));
     if (row.text == PxTextKind::None)
         writeContents(row);
     m_xml.writeEndElement();
@@ -77,8 +85,8 @@ void PxSchemaWriter::writeContents(const PxElementRow &row)
     QString subject;
     QString meaning;
     for (const PxAttributeRow &attribute : row.attributes) {
-        if (attribute.meaning)
-            meaning = plain(attribute.meaning);
+        if (attribute.cells.meaning)
+            meaning = plain(attribute.cells.meaning);
         if (meaning.startsWith(QChar(0x2026))) // "…" goes on from a meaning above
             meaning.replace(0, 1, subject);
         else
@@ -98,8 +106,8 @@ void PxSchemaWriter::writeAttribute(const PxAttributeRow &row, const QString &me
         m_xml.writeAttribute("type", types);
     if (row.defaultText && *row.defaultText)
         m_xml.writeAttribute("default", QString::fromUtf8(row.defaultText));
-    writeDocumentation(meaning + sentence("Type", plain(PxFormat::typeName(row).toUtf8())) +
-                       sentence("Absent or unreadable", plain(row.absent)));
+    writeDocumentation(meaning + sentence("Type", plain(PxFormatCells::type(row))) +
+                       sentence("Absent or unreadable", plain(PxFormatCells::absent(row))));
     if (isUnion) {
         m_xml.writeStartElement("xs:simpleType");
         m_xml.writeEmptyElement("xs:union");

@@ -22,8 +22,7 @@ QString absence(const PxSourceElement &list)
     const QString path = list.name == QLatin1String("target_pages")
                              ? "product/extra_production_pages/item/target_pages"
                              : QLatin1String("product/") + list.name;
-    const PxElementRow &row = *PxFormat::find(PxFileKind::Product, path);
-    return PxFormat::plainText(QString::fromUtf8(row.absent));
+    return QString::fromUtf8(PxFormat::find(PxFileKind::Product, path)->absent);
 }
 
 bool isNumber(QStringView text)

@@ -93,6 +93,7 @@ bool PxElementReading::isReadable(const PxSourceElement &element,
     bool isReadable = true;
     switch (row.type) {
     case PxValueType::Integer:
+    case PxValueType::Length:
     case PxValueType::RectanglePart:
         // What is no number gives the default, whichever that is, and so below.
         return PxXMLParser::intAttribute(element.dom, name, 0) != 0 ||

@@ -59,37 +59,6 @@ QDomElement withoutLists(const QDomElement &product, const char *asked)
     return copy;
 }
 
-/** What the documentation says about a missing attribute. */
-QString absence(const PxAttributeRow &attribute)
-{
-    return PxFormat::plainText(QString::fromUtf8(attribute.absent));
-}
-
-QString integerText(const PxAttributeRow &attribute)
-{
-    const QString absent = absence(attribute);
-    const QString consequence = absent.section(QLatin1String(": "), 1);
-    if (!attribute.defaultText)
-        return consequence.isEmpty() ? absent : consequence;
-    const QString used = QString("%1 is used").arg(attribute.defaultText);
-    if (consequence.isEmpty())
-        return used;
-    return consequence == QLatin1String("none") ? used + QLatin1String(", which means none")
-                                                : used + QLatin1String(": ") + consequence;
-}
-
-/** Of an attribute whose default is nothing. */
-QString nothingText(const PxAttributeRow &attribute)
-{
-    const QString absent = absence(attribute);
-    if (absent == QLatin1String("empty"))
-        return "it counts as empty";
-    if (absent == QLatin1String("none"))
-        return "there is none";
-    const QString consequence = absent.section(QLatin1String(": "), 1);
-    return consequence.isEmpty() ? absent : consequence;
-}
-
 } // namespace
 
 QString PxMissingValue::text(const PxSourceElement &element, const PxAttributeRow &attribute)
@@ -97,19 +66,20 @@ QString PxMissingValue::text(const PxSourceElement &element, const PxAttributeRo
     const QString ofProduct = answer(element, attribute);
     if (!ofProduct.isEmpty())
         return QString("%1 is used").arg(ofProduct);
-    switch (attribute.type) {
-    case PxValueType::Integer:
-        return integerText(attribute);
-    case PxValueType::RectanglePart:
-        return attribute.defaultText ? QString("%1 is used").arg(attribute.defaultText)
-                                     : "there is no rectangle";
-    case PxValueType::PageRange:
-        return absence(attribute);
-    default:
-        if (!attribute.defaultText || !*attribute.defaultText)
-            return nothingText(attribute);
-        return QString("%1 is used").arg(attribute.defaultText);
-    }
+    const QString used = QString("%1 is used").arg(attribute.defaultText);
+    if (attribute.type == PxValueType::RectanglePart)
+        return attribute.defaultText ? used : "there is no rectangle";
+    const QString consequence = QString::fromUtf8(attribute.consequence);
+    const bool isNothing = consequence == QLatin1String("none");
+    if (!attribute.defaultText)
+        return consequence;
+    if (!*attribute.defaultText && consequence.isEmpty())
+        return "it counts as empty";
+    if (!*attribute.defaultText)
+        return isNothing ? "there is none" : consequence;
+    if (isNothing)
+        return used + QLatin1String(", which means none");
+    return consequence.isEmpty() ? used : used + QLatin1String(": ") + consequence;
 }
 
 QString PxMissingValue::answer(const PxSourceElement &element, const PxAttributeRow &attribute)

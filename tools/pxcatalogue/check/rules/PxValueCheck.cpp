@@ -12,10 +12,7 @@ namespace {
 
 bool isLength(const PxAttributeRow &row)
 {
-    static const QRegularExpression ourLengths(
-        "^(width|height|maxfontheight|\\w*margin\\w*|coverextra\\w*|\\w*clamp)$");
-    return row.type == PxValueType::RectanglePart ||
-           ourLengths.match(QLatin1String(row.name)).hasMatch();
+    return row.type == PxValueType::Length || row.type == PxValueType::RectanglePart;
 }
 
 /** For somebody who wrote another kind of number. */
@@ -51,6 +48,7 @@ void PxValueCheck::run()
 {
     switch (m_row.type) {
     case PxValueType::Integer:
+    case PxValueType::Length:
     case PxValueType::RectanglePart:
         checkInteger();
         break;
