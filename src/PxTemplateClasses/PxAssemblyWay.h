@@ -11,13 +11,15 @@ enum PxAssemblyWay : int {
 
 namespace EnumHelper {
 
+/** As files usually spell them, of several for one value the usual one first. */
+inline constexpr PxKeyword<PxAssemblyWay> globalAssemblyWayKeywords[] = {
+    {"client", PxAssemblyWayClient},
+    {"factory", PxAssemblyWayFactory},
+};
+
 inline QHash<QString, PxAssemblyWay> initGlobalAssemblyWayStringMap()
 {
-    constexpr PxKeyword<PxAssemblyWay> keywords[] = {
-        {"client", PxAssemblyWayClient},
-        {"factory", PxAssemblyWayFactory},
-    };
-    return keywordMap(keywords);
+    return keywordMap(globalAssemblyWayKeywords);
 }
 
 inline const QHash<QString, PxAssemblyWay> &globalMapAssemblyWayString =

@@ -11,14 +11,15 @@ enum PxImageFXs : int {
 
 namespace EnumHelper {
 
-inline const QHash<QString, PxImageFXs> &globalMapImageFXsString = *[] {
-    constexpr PxKeyword<PxImageFXs> keywords[] = {
-        {"grayscale", PxImageFXsGrayscale},
-        {"none", PxImageFXsNone},
-        {"preserve_alpha_channel", PxImageFXsPreserveAlphaChannel},
-    };
-    return new QHash<QString, PxImageFXs>(keywordMap(keywords));
-}();
+/** As files usually spell them. */
+inline constexpr PxKeyword<PxImageFXs> globalImageFXsKeywords[] = {
+    {"none", PxImageFXsNone},
+    {"grayscale", PxImageFXsGrayscale},
+    {"PRESERVE_ALPHA_CHANNEL", PxImageFXsPreserveAlphaChannel},
+};
+
+inline const QHash<QString, PxImageFXs> &globalMapImageFXsString =
+    *new QHash<QString, PxImageFXs>(keywordMap(globalImageFXsKeywords));
 inline const QString &globalImageFXsDefaultKey = *new QString(QStringLiteral("none"));
 inline constexpr PxImageFXs globalImageFXsDefaultValue = PxImageFXsNone;
 

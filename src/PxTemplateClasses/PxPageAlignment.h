@@ -23,17 +23,19 @@ enum PxPageAlignment : int {
 
 namespace EnumHelper {
 
+/** As files usually spell them, of several for one value the usual one first. */
+inline constexpr PxKeyword<PxPageAlignment> globalPageAlignmentKeywords[] = {
+    {"left", PxPageAlignmentLeft},     {"leftpage", PxPageAlignmentLeft},
+    {"cover", PxPageAlignmentLeft},    {"coverpage", PxPageAlignmentLeft},
+    {"right", PxPageAlignmentRight},   {"rightpage", PxPageAlignmentRight},
+    {"middle", PxPageAlignmentMiddle}, {"fullpage", PxPageAlignmentFullPage},
+    {"top", PxPageAlignmentTop},       {"bottom", PxPageAlignmentBottom},
+    {"center", PxPageAlignmentCenter},
+};
+
 inline QHash<QString, PxPageAlignment> initGlobalPageAlignmentStringMap()
 {
-    constexpr PxKeyword<PxPageAlignment> keywords[] = {
-        {"left", PxPageAlignmentLeft},         {"leftpage", PxPageAlignmentLeft},
-        {"right", PxPageAlignmentRight},       {"rightpage", PxPageAlignmentRight},
-        {"top", PxPageAlignmentTop},           {"bottom", PxPageAlignmentBottom},
-        {"center", PxPageAlignmentCenter},     {"middle", PxPageAlignmentMiddle},
-        {"fullpage", PxPageAlignmentFullPage}, {"cover", PxPageAlignmentLeft},
-        {"coverpage", PxPageAlignmentLeft},
-    };
-    return keywordMap(keywords);
+    return keywordMap(globalPageAlignmentKeywords);
 }
 
 inline const QHash<QString, PxPageAlignment> &globalMapPageAlignmentString =

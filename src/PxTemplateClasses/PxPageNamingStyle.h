@@ -20,22 +20,24 @@ enum PxPageNamingStyle : int {
 
 namespace EnumHelper {
 
+/** As files usually spell them, of several for one value the usual one first. */
+inline constexpr PxKeyword<PxPageNamingStyle> globalPageNamingStyleKeywords[] = {
+    {"BOOK", PxPageNamingStyleBook},
+    {"CALENDAR", PxPageNamingStyleCalendar},
+    {"SINGLE_SIDED_CARD", PxPageNamingStyleSingleSidedCard},
+    {"BOTH_SIDED_CARD", PxPageNamingStyleBothSidedCard},
+    {"MEMORY", PxPageNamingStyleMemory},
+    {"COLLEGE_BLOCK", PxPageNamingStyleCollegeBlock},
+    {"PREMIUM-PILLOW", PxPageNamingStylePremiumPillow},
+    {"COPYBOOK", PxPageNamingStyleCopyBook},
+    {"STICKER", PxPageNamingStyleSticker},
+    {"ADDRESSBOOK", PxPageNamingStyleAddressBook},
+    {"CALENDAR_ANNUAL_DUPLEX", PxPageNamingStyleCalendarAnnualDuplex},
+};
+
 inline QHash<QString, PxPageNamingStyle> initGlobalPageNamingStyleStringMap()
 {
-    constexpr PxKeyword<PxPageNamingStyle> keywords[] = {
-        {"book", PxPageNamingStyleBook},
-        {"calendar", PxPageNamingStyleCalendar},
-        {"single_sided_card", PxPageNamingStyleSingleSidedCard},
-        {"both_sided_card", PxPageNamingStyleBothSidedCard},
-        {"memory", PxPageNamingStyleMemory},
-        {"college_block", PxPageNamingStyleCollegeBlock},
-        {"copybook", PxPageNamingStyleCopyBook},
-        {"sticker", PxPageNamingStyleSticker},
-        {"addressbook", PxPageNamingStyleAddressBook},
-        {"premium-pillow", PxPageNamingStylePremiumPillow},
-        {"calendar_annual_duplex", PxPageNamingStyleCalendarAnnualDuplex},
-    };
-    return keywordMap(keywords);
+    return keywordMap(globalPageNamingStyleKeywords);
 }
 
 inline const QHash<QString, PxPageNamingStyle> &globalMapPageNamingStyleString =

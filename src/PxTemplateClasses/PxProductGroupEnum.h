@@ -17,26 +17,28 @@ enum PxProductGroupEnum : int {
 
 namespace EnumHelper {
 
+/** As files usually spell them, of several for one value the usual one first. */
+inline constexpr PxKeyword<PxProductGroupEnum> globalProductGroupEnumKeywords[] = {
+    {"foto", PxProductGroupFoto},
+    {"premiumfoto", PxProductGroupPremiumFoto},
+    {"product_foto", PxProductGroupPremiumFoto},
+    {"poster", PxProductGroupPoster},
+    {"product_poster", PxProductGroupPoster},
+    {"book", PxProductGroupBook},
+    {"product_fotobook", PxProductGroupBook},
+    {"calendar", PxProductGroupCalendar},
+    {"printfun", PxProductGroupCalendar},
+    {"product_calendar", PxProductGroupCalendar},
+    {"gift", PxProductGroupGift},
+    {"fun", PxProductGroupGift},
+    {"product_gift", PxProductGroupGift},
+    {"dfmfoto", PxProductGroupDfmFoto},
+    {"professionalfoto", PxProductGroupProfessionalFoto},
+};
+
 inline QHash<QString, PxProductGroupEnum> initGlobalProductGroupEnumStringMap()
 {
-    constexpr PxKeyword<PxProductGroupEnum> keywords[] = {
-        {"premiumfoto", PxProductGroupPremiumFoto},
-        {"product_foto", PxProductGroupPremiumFoto},
-        {"foto", PxProductGroupFoto},
-        {"poster", PxProductGroupPoster},
-        {"product_poster", PxProductGroupPoster},
-        {"book", PxProductGroupBook},
-        {"product_fotobook", PxProductGroupBook},
-        {"printfun", PxProductGroupCalendar},
-        {"calendar", PxProductGroupCalendar},
-        {"product_calendar", PxProductGroupCalendar},
-        {"fun", PxProductGroupGift},
-        {"gift", PxProductGroupGift},
-        {"product_gift", PxProductGroupGift},
-        {"dfmfoto", PxProductGroupDfmFoto},
-        {"professionalfoto", PxProductGroupProfessionalFoto},
-    };
-    return keywordMap(keywords);
+    return keywordMap(globalProductGroupEnumKeywords);
 }
 
 inline const QHash<QString, PxProductGroupEnum> &globalMapProductGroupEnumString =

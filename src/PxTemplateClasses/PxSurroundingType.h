@@ -18,20 +18,22 @@ enum PxSurroundingType : int {
 
 namespace EnumHelper {
 
+/** As files usually spell them, of several for one value the usual one first. */
+inline constexpr PxKeyword<PxSurroundingType> globalSurroundingTypeKeywords[] = {
+    {"BOOK", PxSurroundingTypeBook},
+    {"GIFT", PxSurroundingTypeGift},
+    {"BORDER", PxSurroundingTypeBorder},
+    {"CALENDAR", PxSurroundingTypeCalendar},
+    {"FRAME", PxSurroundingTypeFrame},
+    {"COLLEGEBLOCK", PxSurroundingTypeCollegeBlock},
+    {"PHOTOPAPERBOOK", PxSurroundingTypePhotoPaperBook},
+    {"COPYBOOK", PxSurroundingTypeCopyBook},
+    {"NOTEBOOK", PxSurroundingTypeNoteBook},
+};
+
 inline QHash<QString, PxSurroundingType> initGlobalSurroundingTypeStringMap()
 {
-    constexpr PxKeyword<PxSurroundingType> keywords[] = {
-        {"book", PxSurroundingTypeBook},
-        {"photopaperbook", PxSurroundingTypePhotoPaperBook},
-        {"gift", PxSurroundingTypeGift},
-        {"border", PxSurroundingTypeBorder},
-        {"calendar", PxSurroundingTypeCalendar},
-        {"frame", PxSurroundingTypeFrame},
-        {"collegeblock", PxSurroundingTypeCollegeBlock},
-        {"copybook", PxSurroundingTypeCopyBook},
-        {"notebook", PxSurroundingTypeNoteBook},
-    };
-    return keywordMap(keywords);
+    return keywordMap(globalSurroundingTypeKeywords);
 }
 
 inline const QHash<QString, PxSurroundingType> &globalMapSurroundingTypeString =

@@ -121,24 +121,7 @@ const PxLookUpTable<PxBindingEnum, QString> *PxBinding::bindingToolTips()
 
 void PxBinding::fillTable(PxEnumToStringTable<PxBindingEnum> *table) const
 {
-    constexpr PxKeyword<PxBindingEnum> keywords[] = {
-        {"HARDCOVER", PxBindingHardcover},
-        {"SOFTCOVER", PxBindingSoftcover},
-        {"CROMOLINEN", PxBindingCromolinen},
-        {"LEATHER", PxBindingLeather},
-        {"ARTIFICIALLEATHER", PxBindingArtificialLeather},
-        {"CLAMP", PxBindingClamp},
-        {"CLAMPCOVER", PxBindingClamp},
-        {"BOOKLET", PxBindingBooklet},
-        {"FOIL", PxBindingFoil},
-        {"CALENDAR_SIMPLEX", PxBindingCalendarSimplex},
-        {"CALENDAR_DUPLEX", PxBindingCalendarDuplex},
-        {"CALENDAR_ONE_PAGE", PxBindingCalendarOnePage},
-        {"CALENDAR_ANNUAL_SIMPLEX", PxBindingCalendarOnePage},
-        {"CALENDAR_ANNUAL_DUPLEX", PxBindingCalendarAnnualDuplex},
-        {"GIFT", PxBindingGift},
-    };
-    table->insert(keywords);
+    table->insert(ourKeywords);
     table->setDefaultValue(PxBindingGift);
     table->setDefaultString(QStringLiteral("GIFT"));
 }

@@ -63,6 +63,24 @@ public:
     static const PxLookUpTable<PxBindingEnum, QString> *bindingNames();
     static const PxLookUpTable<PxBindingEnum, QString> *bindingToolTips();
 
+    /** As files usually spell them. The first one of a value is the one that is written back. */
+    static constexpr PxKeyword<PxBindingEnum> ourKeywords[] = {
+        {"HARDCOVER", PxBindingHardcover},
+        {"SOFTCOVER", PxBindingSoftcover},
+        {"CROMOLINEN", PxBindingCromolinen},
+        {"LEATHER", PxBindingLeather},
+        {"ARTIFICIALLEATHER", PxBindingArtificialLeather},
+        {"CLAMP", PxBindingClamp},
+        {"CLAMPCOVER", PxBindingClamp},
+        {"BOOKLET", PxBindingBooklet},
+        {"FOIL", PxBindingFoil},
+        {"CALENDAR_SIMPLEX", PxBindingCalendarSimplex},
+        {"CALENDAR_DUPLEX", PxBindingCalendarDuplex},
+        {"CALENDAR_ONE_PAGE", PxBindingCalendarOnePage},
+        {"CALENDAR_ANNUAL_SIMPLEX", PxBindingCalendarOnePage},
+        {"CALENDAR_ANNUAL_DUPLEX", PxBindingCalendarAnnualDuplex},
+        {"GIFT", PxBindingGift},
+    };
     void fillTable(PxEnumToStringTable<PxBindingEnum> *table) const override;
 };
 

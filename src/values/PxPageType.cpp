@@ -23,34 +23,6 @@ void PxPageType::expandTo(const QString &keywords)
 
 void PxPageType::fillTable(PxEnumToStringTable<PxPageTypeEnum> *table) const
 {
-    // The misspelt "calender…" keywords come first, so that they are the ones written back.
-    constexpr PxKeyword<PxPageTypeEnum> keywords[] = {
-        {"clampcoverfront", PxPageTypeClampCoverFront},
-        {"clampcoverback", PxPageTypeClampCoverBack},
-        {"foilcoverfront", PxPageTypeFoilCover},
-        {"foilcoverback", PxPageTypeFoilCover},
-        {"cover", PxPageTypeCover},
-        {"foilcover", PxPageTypeFoilCover},
-        {"fullcover", PxPageTypeFullCover},
-        {"spine", PxPageTypeSpine},
-        {"emptypage", PxPageTypeEmptyPage},
-        {"empty", PxPageTypeEmptyPage},
-        {"normalpage", PxPageTypeNormalPage},
-        {"normal", PxPageTypeNormalPage},
-        {"content", PxPageTypeNormalPage},
-        {"cromolinen", PxPageTypeCromolinen},
-        {"leather", PxPageTypeLeather},
-        {"artificialleather", PxPageTypeArtificialLeather},
-        {"calendercoverback", PxPageTypeCalendarCoverBack},
-        {"calendarback", PxPageTypeCalendarCoverBack},
-        {"calendercoverfront", PxPageTypeCalendarCoverFront},
-        {"calendarfront", PxPageTypeCalendarCoverFront},
-        {"normalpages", PxPageTypeNormalPages},
-        {"simplexmonthcalendar", PxPageTypeSimplexMonthCalendar},
-        {"duplexmonthcalendar", PxPageTypeDuplexMonthCalendar},
-        {"simplexyearcalendar", PxPageTypeSimplexYearCalendar},
-        {"all", PxPageTypeAll},
-    };
-    table->insert(keywords);
+    table->insert(ourKeywords);
     table->setDefaultValue(PxPageTypeNone);
 }

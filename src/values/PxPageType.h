@@ -49,6 +49,37 @@ public:
     void expandTo(const PxPageTypeEnum &value);
     void expandTo(const QString &keywords);
 
+    /**
+     * As files usually spell them. The first one of a value is the one that is written back: of
+     * "calender…" and "calendar…" the misspelt one.
+     */
+    static constexpr PxKeyword<PxPageTypeEnum> ourKeywords[] = {
+        {"spine", PxPageTypeSpine},
+        {"clampcoverfront", PxPageTypeClampCoverFront},
+        {"clampcoverback", PxPageTypeClampCoverBack},
+        {"foilcoverfront", PxPageTypeFoilCover},
+        {"foilcoverback", PxPageTypeFoilCover},
+        {"foilcover", PxPageTypeFoilCover},
+        {"normalpage", PxPageTypeNormalPage},
+        {"normal", PxPageTypeNormalPage},
+        {"content", PxPageTypeNormalPage},
+        {"emptypage", PxPageTypeEmptyPage},
+        {"empty", PxPageTypeEmptyPage},
+        {"fullcover", PxPageTypeFullCover},
+        {"calendercoverfront", PxPageTypeCalendarCoverFront},
+        {"calendarfront", PxPageTypeCalendarCoverFront},
+        {"calendercoverback", PxPageTypeCalendarCoverBack},
+        {"calendarback", PxPageTypeCalendarCoverBack},
+        {"cromolinen", PxPageTypeCromolinen},
+        {"leather", PxPageTypeLeather},
+        {"artificialleather", PxPageTypeArtificialLeather},
+        {"duplexmonthcalendar", PxPageTypeDuplexMonthCalendar},
+        {"simplexyearcalendar", PxPageTypeSimplexYearCalendar},
+        {"normalpages", PxPageTypeNormalPages},
+        {"simplexmonthcalendar", PxPageTypeSimplexMonthCalendar},
+        {"cover", PxPageTypeCover},
+        {"all", PxPageTypeAll},
+    };
     void fillTable(PxEnumToStringTable<PxPageTypeEnum> *table) const override;
 };
 

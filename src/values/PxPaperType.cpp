@@ -57,15 +57,7 @@ const PxLookUpTable<PxPaperType, QString> *PxPaperType::paperTypeNames()
 
 void PxPaperType::fillTable(PxEnumToStringTable<PxPaperTypeEnum> *table) const
 {
-    constexpr PxKeyword<PxPaperTypeEnum> keywords[] = {
-        {"unbekanntes Papier", PxPaperTypeUnknown},
-        {"indigo", PxPaperTypeIndigo},
-        {"glossy", PxPaperTypeGlossy},
-        {"indigo-matt", PxPaperTypeIndigoMatt},
-        {"fotopaper", PxPaperTypeFotoPaper},
-        {"fotopaper-glossy", PxPaperTypeFotoPaperGlossy},
-    };
-    table->insert(keywords);
+    table->insert(ourKeywords);
     table->setDefaultValue(PxPaperTypeIndigo);
     table->setDefaultString(QStringLiteral("indigo"));
 }

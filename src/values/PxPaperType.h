@@ -38,6 +38,15 @@ public:
     /** The display table, translated when first asked for. Never null, never freed. */
     static const PxLookUpTable<PxPaperType, QString> *paperTypeNames();
 
+    /** As files usually spell them. The first one of a value is the one that is written back. */
+    static constexpr PxKeyword<PxPaperTypeEnum> ourKeywords[] = {
+        {"unbekanntes Papier", PxPaperTypeUnknown},
+        {"indigo", PxPaperTypeIndigo},
+        {"glossy", PxPaperTypeGlossy},
+        {"indigo-matt", PxPaperTypeIndigoMatt},
+        {"fotopaper", PxPaperTypeFotoPaper},
+        {"fotopaper-glossy", PxPaperTypeFotoPaperGlossy},
+    };
     void fillTable(PxEnumToStringTable<PxPaperTypeEnum> *table) const override;
 };
 

@@ -3,7 +3,7 @@
 #include "PxProductPropertiesExport.h"
 
 #include <QMetaType>
-#include <QString>
+#include <QStringList>
 
 class QDebug;
 
@@ -16,6 +16,9 @@ public:
     PxProductMaterial(const PxProductMaterial &other);
     PxProductMaterial &operator=(const PxProductMaterial &other);
     virtual ~PxProductMaterial();
+
+    /** All keywords that have a description. */
+    static QStringList keywords();
 
     /** The keyword exactly as read; empty by default. */
     QString value() const { return m_value; }

@@ -80,14 +80,7 @@ const PxLookUpTable<PxSpaceMagnitude, QString> *PxSpaceMagnitude::names()
 
 void PxSpaceMagnitude::fillTable(PxEnumToStringTable<PxSpaceMagnitudeEnum> *table) const
 {
-    constexpr PxKeyword<PxSpaceMagnitudeEnum> keywords[] = {
-        {"150cm2", PxSpaceMagnitude150},   {"200cm2", PxSpaceMagnitude200},
-        {"280cm2", PxSpaceMagnitude280},   {"310cm2", PxSpaceMagnitude310},
-        {"400cm2", PxSpaceMagnitude400},   {"600cm2", PxSpaceMagnitude600},
-        {"900cm2", PxSpaceMagnitude900},   {"xl", PxSpaceMagnitude900},
-        {"1200cm2", PxSpaceMagnitude1200}, {"normal", PxSpaceMagnitudeNormal},
-    };
-    table->insert(keywords);
+    table->insert(ourKeywords);
     table->setDefaultValue(PxSpaceMagnitudeAny);
     table->setDefaultString(QStringLiteral("any"));
 }

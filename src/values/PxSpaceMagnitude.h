@@ -46,6 +46,14 @@ public:
     /** The display table, translated when first asked for. Never null, never freed. */
     static const PxLookUpTable<PxSpaceMagnitude, QString> *names();
 
+    /** As files usually spell them. The first one of a value is the one that is written back. */
+    static constexpr PxKeyword<PxSpaceMagnitudeEnum> ourKeywords[] = {
+        {"150cm2", PxSpaceMagnitude150},   {"200cm2", PxSpaceMagnitude200},
+        {"280cm2", PxSpaceMagnitude280},   {"310cm2", PxSpaceMagnitude310},
+        {"400cm2", PxSpaceMagnitude400},   {"600cm2", PxSpaceMagnitude600},
+        {"900cm2", PxSpaceMagnitude900},   {"xl", PxSpaceMagnitude900},
+        {"1200cm2", PxSpaceMagnitude1200}, {"normal", PxSpaceMagnitudeNormal},
+    };
     void fillTable(PxEnumToStringTable<PxSpaceMagnitudeEnum> *table) const override;
 };
 
