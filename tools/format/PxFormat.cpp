@@ -96,7 +96,7 @@ QStringList PxFormat::keywordNames(PxKeywordSet set)
 {
     QStringList names;
     for (const PxKeywordTableRow &row : keywords(set).keywords)
-        names.append(QString::fromUtf8(row.keyword));
+        names.append(row.keyword);
     return names;
 }
 
@@ -123,10 +123,10 @@ QString PxFormat::encode(PxKeywordSet set, int value)
     QStringList bits;
     for (const PxKeywordTableRow &row : table.keywords) {
         if (row.value == value)
-            return QString::fromUtf8(row.keyword);
+            return row.keyword;
         const bool isBit = row.value > 0 && (row.value & (row.value - 1)) == 0;
-        if (isBit && (value & row.value) != 0 && row.meaning)
-            bits.append(QString::fromUtf8(row.keyword));
+        if (isBit && (value & row.value) != 0 && !row.meaning.isNull())
+            bits.append(row.keyword);
     }
     return bits.join(QLatin1String(", "));
 }

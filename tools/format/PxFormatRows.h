@@ -1,9 +1,10 @@
 #pragma once
 
+#include <QString>
+#include <QVector>
+
 #include <cstddef>
 #include <limits>
-
-class QString;
 
 /** The rows of a table, all of which live as long as the program. */
 template <typename ROW>
@@ -131,18 +132,24 @@ struct PxElementRow
     const char *absent = nullptr;
 };
 
-/** A keyword, and what it stands for. */
-struct PxKeywordTableRow
+/** What the documentation of the file format says about the keywords of a value. */
+struct PxKeywordCells
 {
-    const char *keyword;
-    int value; ///< 0 where keywords stand for no value
-    /**
-     * Null when the keyword shares the line of the table with the one before, as its synonym; empty
-     * when nothing is said.
-     */
+    int value;
     const char *meaning;
     const char *size = nullptr; ///< of a page of this type
     const char *note = nullptr; ///< behind the keyword
+};
+
+/** A keyword, and what it stands for. */
+struct PxKeywordTableRow
+{
+    QString keyword;
+    int value; ///< 0 where keywords stand for no value
+    /** Null if the keyword is a synonym of the one before; empty if nothing is said. */
+    QString meaning;
+    const char *size;
+    const char *note;
 };
 
 /** A keyword table. */
@@ -150,7 +157,7 @@ struct PxKeywordSetRow
 {
     PxKeywordSet set;
     const char *name; ///< of one of its members
-    PxRows<PxKeywordTableRow> keywords;
+    QVector<PxKeywordTableRow> keywords;
     int defaultValue;        ///< what an unknown word or an empty entry stands for
     const char *defaultText; ///< the same in words
     /** Asks the library whether it knows a word. */

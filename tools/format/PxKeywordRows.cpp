@@ -15,165 +15,153 @@
 namespace {
 
 // clang-format off
-constexpr PxKeywordTableRow bindings[] = {
-    {"HARDCOVER", PxBindingHardcover, "printed hard cover"},
-    {"SOFTCOVER", PxBindingSoftcover, "printed soft cover"},
-    {"CROMOLINEN", PxBindingCromolinen, "linen cover, not printed"},
-    {"LEATHER", PxBindingLeather, "leather cover, not printed"},
-    {"ARTIFICIALLEATHER", PxBindingArtificialLeather, "imitation leather, not printed"},
-    {"CLAMP", PxBindingClamp, "linen folder with clamp"},
-    {"CLAMPCOVER", PxBindingClamp, nullptr},
-    {"BOOKLET", PxBindingBooklet, "stapled"},
-    {"FOIL", PxBindingFoil, "rings and clear foil"},
-    {"CALENDAR_SIMPLEX", PxBindingCalendarSimplex, "month calendar, one side"},
-    {"CALENDAR_DUPLEX", PxBindingCalendarDuplex, "month calendar, both sides"},
-    {"CALENDAR_ONE_PAGE", PxBindingCalendarOnePage, "year on one page"},
-    {"CALENDAR_ANNUAL_SIMPLEX", PxBindingCalendarOnePage, nullptr},
-    {"CALENDAR_ANNUAL_DUPLEX", PxBindingCalendarAnnualDuplex, "year on two pages"},
-    {"GIFT", PxBindingGift, "none: gifts, cards, decoration, prints"},
+constexpr PxKeywordCells bindings[] = {
+    {PxBindingHardcover, "printed hard cover"},
+    {PxBindingSoftcover, "printed soft cover"},
+    {PxBindingCromolinen, "linen cover, not printed"},
+    {PxBindingLeather, "leather cover, not printed"},
+    {PxBindingArtificialLeather, "imitation leather, not printed"},
+    {PxBindingClamp, "linen folder with clamp"},
+    {PxBindingBooklet, "stapled"},
+    {PxBindingFoil, "rings and clear foil"},
+    {PxBindingCalendarSimplex, "month calendar, one side"},
+    {PxBindingCalendarDuplex, "month calendar, both sides"},
+    {PxBindingCalendarOnePage, "year on one page"},
+    {PxBindingCalendarAnnualDuplex, "year on two pages"},
+    {PxBindingGift, "none: gifts, cards, decoration, prints"},
 };
-constexpr PxKeywordTableRow papers[] = {
-    {"unbekanntes Papier", PxPaperTypeUnknown, "none or not of this table"},
-    {"indigo", PxPaperTypeIndigo, "digital print"},
-    {"glossy", PxPaperTypeGlossy, "digital print, varnished"},
-    {"indigo-matt", PxPaperTypeIndigoMatt, "digital print, heavy matt paper"},
-    {"fotopaper", PxPaperTypeFotoPaper, "photo paper, matt"},
-    {"fotopaper-glossy", PxPaperTypeFotoPaperGlossy, "photo paper, glossy"},
+constexpr PxKeywordCells papers[] = {
+    {PxPaperTypeUnknown, "none or not of this table"},
+    {PxPaperTypeIndigo, "digital print"},
+    {PxPaperTypeGlossy, "digital print, varnished"},
+    {PxPaperTypeIndigoMatt, "digital print, heavy matt paper"},
+    {PxPaperTypeFotoPaper, "photo paper, matt"},
+    {PxPaperTypeFotoPaperGlossy, "photo paper, glossy"},
 };
-constexpr PxKeywordTableRow sizeClasses[] = {
-    {"150cm2", PxSpaceMagnitude150, "Mini"},
-    {"200cm2", PxSpaceMagnitude200, "small"},
-    {"280cm2", PxSpaceMagnitude280, "Compact"},
-    {"310cm2", PxSpaceMagnitude310, "A5"},
-    {"400cm2", PxSpaceMagnitude400, "square"},
-    {"600cm2", PxSpaceMagnitude600, "A4"},
-    {"900cm2", PxSpaceMagnitude900, "XL"},
-    {"xl", PxSpaceMagnitude900, nullptr},
-    {"1200cm2", PxSpaceMagnitude1200, "XXL"},
-    {"normal", PxSpaceMagnitudeNormal, "all but Mini and XL"},
+constexpr PxKeywordCells sizeClasses[] = {
+    {PxSpaceMagnitude150, "Mini"},
+    {PxSpaceMagnitude200, "small"},
+    {PxSpaceMagnitude280, "Compact"},
+    {PxSpaceMagnitude310, "A5"},
+    {PxSpaceMagnitude400, "square"},
+    {PxSpaceMagnitude600, "A4"},
+    {PxSpaceMagnitude900, "XL"},
+    {PxSpaceMagnitude1200, "XXL"},
+    {PxSpaceMagnitudeNormal, "all but Mini and XL"},
 };
-constexpr PxKeywordTableRow pageTypes[] = {
-    {"spine", PxPageTypeSpine, "spine", "spine width × cover height"},
-    {"clampcoverfront", PxPageTypeClampCoverFront, "front of a clamp folder", "cover"},
-    {"clampcoverback", PxPageTypeClampCoverBack, "back of a clamp folder", "cover"},
-    {"foilcoverfront", PxPageTypeFoilCover, "clear foil; front and back are one type", "page"},
-    {"foilcoverback", PxPageTypeFoilCover, nullptr},
-    {"foilcover", PxPageTypeFoilCover, nullptr},
-    {"normalpage", PxPageTypeNormalPage, "page with content", "page"},
-    {"normal", PxPageTypeNormalPage, nullptr},
-    {"content", PxPageTypeNormalPage, nullptr},
-    {"emptypage", PxPageTypeEmptyPage, "blank page", "page"},
-    {"empty", PxPageTypeEmptyPage, nullptr},
-    {"fullcover", PxPageTypeFullCover, "half of a printed cover", "cover"},
-    {"calendercoverfront", PxPageTypeCalendarCoverFront, "front of a calendar", "page"},
-    {"calendarfront", PxPageTypeCalendarCoverFront, nullptr},
-    {"calendercoverback", PxPageTypeCalendarCoverBack, "back of a calendar", "page"},
-    {"calendarback", PxPageTypeCalendarCoverBack, nullptr},
-    {"cromolinen", PxPageTypeCromolinen, "half of a linen cover", "cover"},
-    {"leather", PxPageTypeLeather, "half of a leather cover", "cover"},
-    {"artificialleather", PxPageTypeArtificialLeather, "half of an imitation leather cover", "cover"},
-    {"duplexmonthcalendar", PxPageTypeDuplexMonthCalendar, "all pages of a month calendar, both sides", "–"},
-    {"simplexyearcalendar", PxPageTypeSimplexYearCalendar, "the page of a year calendar", "–"},
-    {"normalpages", PxPageTypeNormalPages, "all normal pages", "–"},
-    {"simplexmonthcalendar", PxPageTypeSimplexMonthCalendar, "all pages of a month calendar, one side", "–"},
-    {"cover", PxPageTypeCover, "spine and every cover type", "–"},
-    {"all", PxPageTypeAll, "`cover`, normal and blank pages", "–"},
+constexpr PxKeywordCells pageTypes[] = {
+    {PxPageTypeSpine, "spine", "spine width × cover height"},
+    {PxPageTypeClampCoverFront, "front of a clamp folder", "cover"},
+    {PxPageTypeClampCoverBack, "back of a clamp folder", "cover"},
+    {PxPageTypeFoilCover, "clear foil; front and back are one type", "page"},
+    {PxPageTypeNormalPage, "page with content", "page"},
+    {PxPageTypeEmptyPage, "blank page", "page"},
+    {PxPageTypeFullCover, "half of a printed cover", "cover"},
+    {PxPageTypeCalendarCoverFront, "front of a calendar", "page"},
+    {PxPageTypeCalendarCoverBack, "back of a calendar", "page"},
+    {PxPageTypeCromolinen, "half of a linen cover", "cover"},
+    {PxPageTypeLeather, "half of a leather cover", "cover"},
+    {PxPageTypeArtificialLeather, "half of an imitation leather cover", "cover"},
+    {PxPageTypeDuplexMonthCalendar, "all pages of a month calendar, both sides", "–"},
+    {PxPageTypeSimplexYearCalendar, "the page of a year calendar", "–"},
+    {PxPageTypeNormalPages, "all normal pages", "–"},
+    {PxPageTypeSimplexMonthCalendar, "all pages of a month calendar, one side", "–"},
+    {PxPageTypeCover, "spine and every cover type", "–"},
+    {PxPageTypeAll, "`cover`, normal and blank pages", "–"},
 };
-constexpr PxKeywordTableRow pageNamingStyles[] = {
-    {"BOOK", PxPageNamingStyleBook, ""},
-    {"CALENDAR", PxPageNamingStyleCalendar, ""},
-    {"SINGLE_SIDED_CARD", PxPageNamingStyleSingleSidedCard, ""},
-    {"BOTH_SIDED_CARD", PxPageNamingStyleBothSidedCard, ""},
-    {"MEMORY", PxPageNamingStyleMemory, ""},
-    {"COLLEGE_BLOCK", PxPageNamingStyleCollegeBlock, ""},
-    {"PREMIUM-PILLOW", PxPageNamingStylePremiumPillow, "", nullptr, "with a hyphen"},
-    {"COPYBOOK", PxPageNamingStyleCopyBook, ""},
-    {"STICKER", PxPageNamingStyleSticker, ""},
-    {"ADDRESSBOOK", PxPageNamingStyleAddressBook, ""},
-    {"CALENDAR_ANNUAL_DUPLEX", PxPageNamingStyleCalendarAnnualDuplex, ""},
+constexpr PxKeywordCells pageNamingStyles[] = {
+    {PxPageNamingStylePremiumPillow, "", nullptr, "with a hyphen"},
 };
-constexpr PxKeywordTableRow assemblyWays[] = {
-    {"client", PxAssemblyWayClient, "the customer"},
-    {"factory", PxAssemblyWayFactory, "the maker"},
+constexpr PxKeywordCells assemblyWays[] = {
+    {PxAssemblyWayClient, "the customer"},
+    {PxAssemblyWayFactory, "the maker"},
 };
-constexpr PxKeywordTableRow imageEffects[] = {
-    {"none", PxImageFXsNone, "none"},
-    {"grayscale", PxImageFXsGrayscale, "pictures are shown grey, without borders and shadows"},
-    {"PRESERVE_ALPHA_CHANNEL", PxImageFXsPreserveAlphaChannel, "transparency of pictures is kept"},
+constexpr PxKeywordCells imageEffects[] = {
+    {PxImageFXsNone, "none"},
+    {PxImageFXsGrayscale, "pictures are shown grey, without borders and shadows"},
+    {PxImageFXsPreserveAlphaChannel, "transparency of pictures is kept"},
 };
-constexpr PxKeywordTableRow surroundingTypes[] = {
-    {"BOOK", PxSurroundingTypeBook, "covers and binding shade of books"},
-    {"GIFT", PxSurroundingTypeGift, "parts of a gift: handle, flap, seam"},
-    {"BORDER", PxSurroundingTypeBorder, "a border, as where canvas folds"},
-    {"CALENDAR", PxSurroundingTypeCalendar, "spiral of a calendar"},
-    {"FRAME", PxSurroundingTypeFrame, "frame round every page"},
-    {"COLLEGEBLOCK", PxSurroundingTypeCollegeBlock, "spiral of a block"},
-    {"PHOTOPAPERBOOK", PxSurroundingTypePhotoPaperBook, "covers and fold of photo paper books"},
-    {"COPYBOOK", PxSurroundingTypeCopyBook, "exercise book"},
-    {"NOTEBOOK", PxSurroundingTypeNoteBook, "notebook"},
+constexpr PxKeywordCells surroundingTypes[] = {
+    {PxSurroundingTypeBook, "covers and binding shade of books"},
+    {PxSurroundingTypeGift, "parts of a gift: handle, flap, seam"},
+    {PxSurroundingTypeBorder, "a border, as where canvas folds"},
+    {PxSurroundingTypeCalendar, "spiral of a calendar"},
+    {PxSurroundingTypeFrame, "frame round every page"},
+    {PxSurroundingTypeCollegeBlock, "spiral of a block"},
+    {PxSurroundingTypePhotoPaperBook, "covers and fold of photo paper books"},
+    {PxSurroundingTypeCopyBook, "exercise book"},
+    {PxSurroundingTypeNoteBook, "notebook"},
 };
-constexpr PxKeywordTableRow alignments[] = {
-    {"left", PxPageAlignmentLeft, "left"},
-    {"leftpage", PxPageAlignmentLeft, nullptr},
-    {"cover", PxPageAlignmentLeft, nullptr},
-    {"coverpage", PxPageAlignmentLeft, nullptr},
-    {"right", PxPageAlignmentRight, "right"},
-    {"rightpage", PxPageAlignmentRight, nullptr},
-    {"middle", PxPageAlignmentMiddle, "spine of pages side by side"},
-    {"fullpage", PxPageAlignmentFullPage, "whole spread"},
-    {"top", PxPageAlignmentTop, "above"},
-    {"bottom", PxPageAlignmentBottom, "below"},
-    {"center", PxPageAlignmentCenter, "spine of pages above each other"},
+constexpr PxKeywordCells alignments[] = {
+    {PxPageAlignmentLeft, "left"},
+    {PxPageAlignmentRight, "right"},
+    {PxPageAlignmentMiddle, "spine of pages side by side"},
+    {PxPageAlignmentFullPage, "whole spread"},
+    {PxPageAlignmentTop, "above"},
+    {PxPageAlignmentBottom, "below"},
+    {PxPageAlignmentCenter, "spine of pages above each other"},
 };
-constexpr PxKeywordTableRow productGroups[] = {
-    {"foto", PxProductGroupFoto, "prints"},
-    {"premiumfoto", PxProductGroupPremiumFoto, "premium prints"},
-    {"product_foto", PxProductGroupPremiumFoto, nullptr},
-    {"poster", PxProductGroupPoster, "posters"},
-    {"product_poster", PxProductGroupPoster, nullptr},
-    {"book", PxProductGroupBook, "books"},
-    {"product_fotobook", PxProductGroupBook, nullptr},
-    {"calendar", PxProductGroupCalendar, "calendars"},
-    {"printfun", PxProductGroupCalendar, nullptr},
-    {"product_calendar", PxProductGroupCalendar, nullptr},
-    {"gift", PxProductGroupGift, "gifts"},
-    {"fun", PxProductGroupGift, nullptr},
-    {"product_gift", PxProductGroupGift, nullptr},
-    {"dfmfoto", PxProductGroupDfmFoto, "prints of the kind `dfm`"},
-    {"professionalfoto", PxProductGroupProfessionalFoto, "professional prints"},
+constexpr PxKeywordCells productGroups[] = {
+    {PxProductGroupFoto, "prints"},
+    {PxProductGroupPremiumFoto, "premium prints"},
+    {PxProductGroupPoster, "posters"},
+    {PxProductGroupBook, "books"},
+    {PxProductGroupCalendar, "calendars"},
+    {PxProductGroupGift, "gifts"},
+    {PxProductGroupDfmFoto, "prints of the kind `dfm`"},
+    {PxProductGroupProfessionalFoto, "professional prints"},
 };
-constexpr PxKeywordTableRow orientations[] = {
-    {"portrait", PxOrientationPortrait, ""},
-    {"landscape", PxOrientationLandscape, ""},
-    {"quadratic", PxOrientationQuadratic, ""},
-    {"square", PxOrientationQuadratic, nullptr},
-    {"panorama", PxOrientationPanorama, ""},
-    {"portraitpanorama", PxOrientationPortraitPanorama, ""},
-    {"round", PxOrientationRound, ""},
+// The platform keeps these keywords to itself; a test holds both against each other.
+constexpr PxKeyword<PxOrientationEnum> orientations[] = {
+    {"portrait", PxOrientationPortrait},
+    {"landscape", PxOrientationLandscape},
+    {"quadratic", PxOrientationQuadratic},
+    {"square", PxOrientationQuadratic},
+    {"panorama", PxOrientationPanorama},
+    {"portraitpanorama", PxOrientationPortraitPanorama},
+    {"round", PxOrientationRound},
 };
-constexpr PxKeywordTableRow materials[] = { // the meaning is the display name
-    {"Poster", 0, "Poster-Collage"},
-    {"Deko-Poster", 0, "Poster-Collage"},
-    {"Leinwand", 0, "Fotoleinwand"},
-    {"Poster auf Alu-Dibond", 0, "Poster auf Alu-Dibond"},
-    {"Poster hinter Acryl-Glas", 0, "Poster hinter Acryl-Glas"},
-    {"Poster auf Alu-Dibond digital", 0, "Poster auf Alu-Dibond (Direktdruck)"},
-    {"Poster hinter Acryl-Glas digital", 0, "Poster hinter Acryl-Glas (Direktdruck)"},
-    {"Posterdruck XXL", 0, "Posterdruck XXL"},
-    {"Posterdruck XXL quadratisch", 0, "Posterdruck XXL Quadratisch"},
-    {"Posterdruck XXL Panorama", 0, "Posterdruck XXL Panorama"},
-    {"Poster auf Hartschaumplatte digital", 0, "Poster auf Hartschaum (Direktdruck)"},
-    {"Gallery Print digital", 0, "Gallery Print"},
-};
-constexpr PxKeywordTableRow productClasses[] = {
-    {"book", PxProductClassBook, ""},
-    {"calendar", PxProductClassCalendar, ""},
-    {"gift", PxProductClassGift, ""},
-    {"card", PxProductClassCard, ""},
-    {"deko", PxProductClassDecoration, ""},
-    {"print", PxProductClassPrint, ""},
+constexpr PxKeyword<PxProductClass> productClasses[] = {
+    {"book", PxProductClassBook},
+    {"calendar", PxProductClassCalendar},
+    {"gift", PxProductClassGift},
+    {"card", PxProductClassCard},
+    {"deko", PxProductClassDecoration},
+    {"print", PxProductClassPrint},
 };
 // clang-format on
+
+/** The keywords in their order, but synonyms behind the first keyword of the value. */
+template <typename ENUM, std::size_t COUNT>
+QVector<PxKeywordTableRow> tableOf(const PxKeyword<ENUM> (&keywords)[COUNT],
+                                   PxRows<PxKeywordCells> cells = {})
+{
+    QVector<PxKeywordTableRow> table;
+    for (const PxKeyword<ENUM> &row : keywords) {
+        const QString keyword = QString::fromLatin1(row.keyword);
+        const auto isOfValue = [&row](const auto &other) { return other.value == row.value; };
+        const auto last = std::find_if(table.rbegin(), table.rend(), isOfValue);
+        if (last != table.rend()) {
+            table.insert(last.base(), {keyword, row.value, QString(), nullptr, nullptr});
+            continue;
+        }
+        const auto *found = std::find_if(cells.begin(), cells.end(), isOfValue);
+        const PxKeywordCells cell = found == cells.end() ? PxKeywordCells{row.value, ""} : *found;
+        table.append({keyword, row.value, QString::fromUtf8(cell.meaning), cell.size, cell.note});
+    }
+    return table;
+}
+
+/** The meaning is the display name. */
+QVector<PxKeywordTableRow> materials()
+{
+    QVector<PxKeywordTableRow> table;
+    const QStringList keywords = PxProductMaterial::keywords();
+    for (const QString &keyword : keywords)
+        table.append(
+            {keyword, 0, PxProductMaterial(keyword).visibleDescription(), nullptr, nullptr});
+    return table;
+}
 
 // No keyword stands for the sign bit alone.
 constexpr int noKeyword = std::numeric_limits<int>::min();
@@ -233,10 +221,11 @@ bool isMaterial(const QString &word)
 int decodeProductClass(const QString &text)
 {
     const QString keyword = text.trimmed().toUpper();
-    const auto *found = std::find_if(
-        std::begin(productClasses), std::end(productClasses), [&](const PxKeywordTableRow &row) {
-            return keyword == QString::fromLatin1(row.keyword).toUpper();
-        });
+    const auto *found =
+        std::find_if(std::begin(productClasses), std::end(productClasses),
+                     [&](const PxKeyword<PxProductClass> &row) {
+                         return keyword == QString::fromLatin1(row.keyword).toUpper();
+                     });
     return found == std::end(productClasses) ? 0 : found->value;
 }
 
@@ -251,46 +240,46 @@ PxRows<PxKeywordSetRow> keywordSetRows()
 {
     using namespace EnumHelper;
     // clang-format off
-    static constexpr PxKeywordSetRow rows[] = {
-        {PxKeywordSet::Binding, "binding", bindings, PxBindingGift, "GIFT",
+    static const PxKeywordSetRow ourRows[] = {
+        {PxKeywordSet::Binding, "binding", tableOf(PxBinding::ourKeywords, bindings), PxBindingGift, "GIFT",
          isKeywordOf<PxBinding>, decodeAs<PxBinding>},
-        {PxKeywordSet::Paper, "paper", papers, PxPaperTypeIndigo, "indigo",
+        {PxKeywordSet::Paper, "paper", tableOf(PxPaperType::ourKeywords, papers), PxPaperTypeIndigo, "indigo",
          isKeywordOf<PxPaperType>, decodeAs<PxPaperType>},
-        {PxKeywordSet::SizeClass, "size class", sizeClasses, PxSpaceMagnitudeAny, "every size class",
+        {PxKeywordSet::SizeClass, "size class", tableOf(PxSpaceMagnitude::ourKeywords, sizeClasses), PxSpaceMagnitudeAny, "every size class",
          isKeywordOf<PxSpaceMagnitude>, decodeAs<PxSpaceMagnitude>},
-        {PxKeywordSet::PageType, "page type", pageTypes, PxPageTypeNone, "no page type",
+        {PxKeywordSet::PageType, "page type", tableOf(PxPageType::ourKeywords, pageTypes), PxPageTypeNone, "no page type",
          isKeywordOf<PxPageType>, decodeAs<PxPageType>},
-        {PxKeywordSet::PageNamingStyle, "page naming style", pageNamingStyles,
+        {PxKeywordSet::PageNamingStyle, "page naming style", tableOf(globalPageNamingStyleKeywords, pageNamingStyles),
          globalPageNamingStyleDefaultValue, "no naming style",
          isKeywordIn<PxPageNamingStyle>,
          decodeList<globalPageNamingStyleDefaultValue>},
-        {PxKeywordSet::AssemblyWay, "way of assembly", assemblyWays,
+        {PxKeywordSet::AssemblyWay, "way of assembly", tableOf(globalAssemblyWayKeywords, assemblyWays),
          globalAssemblyWayDefaultValue, "factory",
          isKeywordIn<PxAssemblyWay>,
          decodeList<globalAssemblyWayDefaultValue>},
-        {PxKeywordSet::ImageEffect, "image effect", imageEffects,
+        {PxKeywordSet::ImageEffect, "image effect", tableOf(globalImageFXsKeywords, imageEffects),
          globalImageFXsDefaultValue, "none",
          isKeywordIn<PxImageFXs>,
          decodeList<globalImageFXsDefaultValue>},
-        {PxKeywordSet::SurroundingType, "surrounding type", surroundingTypes,
+        {PxKeywordSet::SurroundingType, "surrounding type", tableOf(globalSurroundingTypeKeywords, surroundingTypes),
          globalSurroundingTypeDefaultValue, "no surrounding",
          isKeywordIn<PxSurroundingType>,
          decodeWord<globalSurroundingTypeDefaultValue>},
-        {PxKeywordSet::Alignment, "alignment", alignments,
+        {PxKeywordSet::Alignment, "alignment", tableOf(globalPageAlignmentKeywords, alignments),
          globalPageAlignmentDefaultValue, "left",
          isKeywordIn<PxPageAlignment>,
          decodeList<globalPageAlignmentDefaultValue>},
-        {PxKeywordSet::ProductGroup, "product group", productGroups,
+        {PxKeywordSet::ProductGroup, "product group", tableOf(globalProductGroupEnumKeywords, productGroups),
          globalProductGroupEnumDefaultValue, "no product group",
          isKeywordIn<PxProductGroupEnum>,
          decodeWord<globalProductGroupEnumDefaultValue>},
-        {PxKeywordSet::Orientation, "orientation", orientations, 0, "no orientation",
+        {PxKeywordSet::Orientation, "orientation", tableOf(orientations), 0, "no orientation",
          isKeywordOf<PxOrientation>, decodeAs<PxOrientation>},
-        {PxKeywordSet::Material, "material", materials, 0, "no material",
+        {PxKeywordSet::Material, "material", materials(), 0, "no material",
          isMaterial, decodeNothing},
-        {PxKeywordSet::ProductClass, "product class", productClasses, 0, "no product class",
+        {PxKeywordSet::ProductClass, "product class", tableOf(productClasses), 0, "no product class",
          [](const QString &word) { return decodeProductClass(word) != 0; }, decodeProductClass},
     };
     // clang-format on
-    return rows;
+    return ourRows;
 }

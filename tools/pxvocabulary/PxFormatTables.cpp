@@ -45,9 +45,9 @@ constexpr Column absent = {"Absent", &Line::absent};
 constexpr Column absentOrUnreadable = {"Absent or unreadable", &Line::absent};
 constexpr Column meaning = {"Meaning", &Line::meaning};
 
-QString code(const char *name)
+QString code(const QString &name)
 {
-    return QStringLiteral("`%1`").arg(QString::fromUtf8(name));
+    return QStringLiteral("`%1`").arg(name);
 }
 
 const PxElementRow &at(Kind kind, const char *path)
@@ -127,7 +127,7 @@ Lines keywordLines(PxKeywordSet set)
 {
     Lines lines;
     for (const PxKeywordTableRow &row : PxFormat::keywords(set).keywords) {
-        if (!row.meaning) {
+        if (row.meaning.isNull()) {
             lines.last().keyword += QStringLiteral(", ") + code(row.keyword);
             continue;
         }
@@ -136,7 +136,7 @@ Lines keywordLines(PxKeywordSet set)
         if (row.note)
             line.keyword += QStringLiteral(" (%1)").arg(QString::fromUtf8(row.note));
         line.value = QString::number(row.value);
-        line.meaning = QString::fromUtf8(row.meaning);
+        line.meaning = row.meaning;
         line.size = QString::fromUtf8(row.size);
         lines.append(line);
     }

@@ -36,8 +36,8 @@ QString listOf(const QString &entry)
 
 QString documentation(const PxKeywordTableRow &row, const QString &synonym)
 {
-    QString text = row.meaning ? QString::fromUtf8(row.meaning).remove(QLatin1Char('`'))
-                               : QStringLiteral("the same as %1").arg(synonym);
+    QString text = row.meaning.isNull() ? QStringLiteral("the same as %1").arg(synonym)
+                                        : QString(row.meaning).remove(QLatin1Char('`'));
     if (row.size && qstrcmp(row.size, "–") != 0)
         text += QStringLiteral("; size: ") + QString::fromUtf8(row.size);
     return text;
@@ -171,10 +171,10 @@ void PxSchemaTypes::writeKeyword(QXmlStreamWriter *xml, PxKeywordSet set) const
     xml->writeAttribute("base", "xs:string");
     QString synonym;
     for (const PxKeywordTableRow &row : PxFormat::keywords(set).keywords) {
-        if (row.meaning)
-            synonym = QString::fromUtf8(row.keyword);
+        if (!row.meaning.isNull())
+            synonym = row.keyword;
         xml->writeStartElement("xs:enumeration");
-        xml->writeAttribute("value", QString::fromUtf8(row.keyword));
+        xml->writeAttribute("value", row.keyword);
         const QString text = documentation(row, synonym);
         if (!text.isEmpty()) {
             xml->writeStartElement("xs:annotation");
