@@ -1,6 +1,7 @@
 #include "PxCatalogueDirectory.h"
 #include "PxLogRecorder.h"
 #include "PxProgramRun.h"
+#include "PxReadingRecorder.h"
 
 #include <EnumHelper.h>
 #include <PxOrientation.h>
@@ -24,6 +25,7 @@ class PxFormatTest : public QObject
 
 private slots:
     void initTestCase();
+    void libraryAsksForWhatTheTableHas();
     void attributeIsReadAndHasItsDefault_data();
     void attributeIsReadAndHasItsDefault();
     void elementCountsAsOften_data();
@@ -50,6 +52,24 @@ void addPaths(PxFileKind kind, const PxElementRow &row, const QString &path,
     paths->append({kind, path});
     for (const PxElementRow &child : row.children)
         addPaths(kind, child, path + '/' + child.name, paths);
+}
+
+/** What the library asks for when it reads an element that the row describes. */
+void addNames(const PxElementRow &row, const QString &path, QSet<QString> *names)
+{
+    for (const PxAttributeRow &attribute : row.attributes)
+        names->insert(path + '@' + attribute.name);
+    for (const PxElementRow &child : row.children) {
+        names->insert(path + '/' + child.name);
+        addNames(child, path + '/' + child.name, names);
+    }
+}
+
+QStringList sorted(const QSet<QString> &names)
+{
+    QStringList list = names.values();
+    list.sort();
+    return list;
 }
 
 /** The elements of all kinds of files whose reading can be repeated, by path. */
@@ -235,6 +255,27 @@ void PxFormatTest::initTestCase()
         </theme></themes>)";
     m_files[PxFileKind::ProductTypes] = R"(<producttypes>
         <producttype code="9" name="CAN" class="gift" shortname="Dose"/></producttypes>)";
+    m_files[PxFileKind::Frames] =
+        "<any><frame id='a' name='A'/><other id='b' name='B'/><frame id='c' name=''/>"
+        "<frame id='d' name='D'/></any>";
+    m_directory.write("frames.xml", m_files[PxFileKind::Frames]);
+}
+
+/** Comes first: a process reads its product types and its frames once. */
+void PxFormatTest::libraryAsksForWhatTheTableHas()
+{
+    QSet<QString> known;
+    for (auto kind = m_files.keyBegin(); kind != m_files.keyEnd(); ++kind)
+        addNames(PxFormat::root(*kind), document(*kind).documentElement().tagName(), &known);
+
+    const PxReadingRecorder reading;
+    QVERIFY(PxProductType("CUP").isValid());
+    QCOMPARE(PxHumanReadable::instance()->frameName("a"), QString("A"));
+    for (PxFileKind kind : {PxFileKind::Product, PxFileKind::UserDefaults, PxFileKind::Theme})
+        answers(kind, document(kind));
+    QCOMPARE(sorted(reading.names() - known), QStringList());
+    const QStringList unasked = sorted(known - reading.names());
+    QCOMPARE(unasked.filter("@"), QStringList());
 }
 
 QDomDocument PxFormatTest::document(PxFileKind kind) const
@@ -260,7 +301,8 @@ QString PxFormatTest::answers(PxFileKind kind, const QDomDocument &document) con
         return describe();
     }
     if (kind == PxFileKind::UserDefaults) {
-        m_directory.write("products/a.xml", "<a><product name='PROBEBOOK'/></a>");
+        m_directory.write("products/a.xml",
+                          "<productdescription><product name='PROBEBOOK'/></productdescription>");
         m_directory.write("user/PROBEBOOK.xml", text);
         const QString found = describe();
         QFile::remove(m_directory.filePath("user/PROBEBOOK.xml"));
@@ -362,8 +404,6 @@ void PxFormatTest::elementCountsAsOften()
 /** Which can't be repeated: one file has to show it all. */
 void PxFormatTest::framesAreReadOnce()
 {
-    m_directory.write("frames.xml", "<any><frame id='a' name='A'/><other id='b' name='B'/>"
-                                    "<frame id='c' name=''/><frame id='d' name='D'/></any>");
     QStringList names;
     for (const char *id : {"a", "b", "c", "d"})
         names.append(PxHumanReadable::instance()->frameName(id));
