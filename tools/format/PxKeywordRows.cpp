@@ -14,6 +14,8 @@
 
 namespace {
 
+using Set = PxKeywordSet;
+
 // clang-format off
 constexpr PxKeywordCells bindings[] = {
     {PxBindingHardcover, "printed hard cover"},
@@ -152,86 +154,61 @@ QVector<PxKeywordTableRow> tableOf(const PxKeyword<ENUM> (&keywords)[COUNT],
     return table;
 }
 
-/** The meaning is the display name. */
-QVector<PxKeywordTableRow> materials()
-{
-    QVector<PxKeywordTableRow> table;
-    const QStringList keywords = PxProductMaterial::keywords();
-    for (const QString &keyword : keywords)
-        table.append(
-            {keyword, 0, PxProductMaterial(keyword).visibleDescription(), nullptr, nullptr});
-    return table;
-}
-
 // No keyword stands for the sign bit alone.
 constexpr int noKeyword = std::numeric_limits<int>::min();
 
+/** A set whose words the library decodes by an enumeration's table; it reads lists of them. */
 template <typename WRAPPER>
-bool isKeywordOf(const QString &word)
+PxKeywordSetRow tableSet(PxKeywordSet set, const char *name, const char *defaultText,
+                         const QVector<PxKeywordTableRow> &keywords)
 {
-    const auto *table = WRAPPER().enumToStringTable();
-    const auto none = static_cast<decltype(WRAPPER().value())>(noKeyword);
-    return table->decode(word, none) != none;
+    const auto isKeyword = [](const QString &word) {
+        const auto none = static_cast<decltype(WRAPPER().value())>(noKeyword);
+        return WRAPPER().enumToStringTable()->decode(word, none) != none;
+    };
+    const auto decode = [](const QString &text) {
+        int undecodable = pxMaximumMessages; // no message: findings report what is no keyword
+        return int(WRAPPER().enumToStringTable()->decodeCSV(text, undecodable));
+    };
+    return {set, name, keywords, decode(QString()), defaultText, isKeyword, decode};
 }
 
-/** As the wrapper does it, but without a message about what is no keyword: that is told here. */
-template <typename WRAPPER>
-int decodeAs(const QString &text)
+enum class Reading { Word, List };
+
+/** A set whose words the library decodes by a map of them. */
+template <const auto &keywords, auto fallback, Reading reading>
+PxKeywordSetRow mapSet(PxKeywordSet set, const char *name, const char *defaultText,
+                       PxRows<PxKeywordCells> cells = {})
 {
-    const auto *table = WRAPPER().enumToStringTable();
-    int undecodable = pxMaximumMessages;
-    return table->decodeCSV(text, undecodable);
+    static const auto ourMap = EnumHelper::keywordMap(keywords);
+    const auto isKeyword = [](const QString &word) {
+        const auto none = static_cast<decltype(fallback)>(noKeyword);
+        return EnumHelper::decodeKeyword(word, ourMap, none) != none;
+    };
+    const auto decode = [](const QString &text) {
+        return int(reading == Reading::List ? EnumHelper::decodeKeywordList(text, ourMap, fallback)
+                                            : EnumHelper::decodeKeyword(text, ourMap, fallback));
+    };
+    return {set, name, tableOf(keywords, cells), fallback, defaultText, isKeyword, decode};
 }
 
-// The shared map of an enumeration.
-// clang-format off
-const auto &mapOf(PxPageNamingStyle) { return EnumHelper::globalMapPageNamingStyleString; }
-const auto &mapOf(PxAssemblyWay) { return EnumHelper::globalMapAssemblyWayString; }
-const auto &mapOf(PxImageFXs) { return EnumHelper::globalMapImageFXsString; }
-const auto &mapOf(PxSurroundingType) { return EnumHelper::globalMapSurroundingTypeString; }
-const auto &mapOf(PxPageAlignment) { return EnumHelper::globalMapPageAlignmentString; }
-const auto &mapOf(PxProductGroupEnum) { return EnumHelper::globalMapProductGroupEnumString; }
-// clang-format on
-
-template <typename ENUM>
-bool isKeywordIn(const QString &word)
+/** The meaning of a material is its display name. */
+PxKeywordSetRow materialSet()
 {
-    const auto none = static_cast<ENUM>(noKeyword);
-    return EnumHelper::decodeKeyword(word, mapOf(none), none) != none;
-}
-
-template <auto fallback>
-int decodeWord(const QString &text)
-{
-    return EnumHelper::decodeKeyword(text, mapOf(fallback), fallback);
-}
-
-template <auto fallback>
-int decodeList(const QString &text)
-{
-    return EnumHelper::decodeKeywordList(text, mapOf(fallback), fallback);
-}
-
-bool isMaterial(const QString &word)
-{
-    return !PxProductMaterial(word).visibleDescription().isEmpty();
-}
-
-// The library keeps the names of the classes to itself; it compares them in upper case.
-int decodeProductClass(const QString &text)
-{
-    const QString keyword = text.trimmed().toUpper();
-    const auto *found =
-        std::find_if(std::begin(productClasses), std::end(productClasses),
-                     [&](const PxKeyword<PxProductClass> &row) {
-                         return keyword == QString::fromLatin1(row.keyword).toUpper();
-                     });
-    return found == std::end(productClasses) ? 0 : found->value;
-}
-
-constexpr int decodeNothing(const QString &)
-{
-    return 0;
+    QVector<PxKeywordTableRow> table;
+    const QStringList keywords = PxProductMaterial::keywords();
+    for (const QString &word : keywords)
+        table.append({word, 0, PxProductMaterial(word).visibleDescription(), nullptr, nullptr});
+    const auto isKeyword = [](const QString &word) {
+        return !PxProductMaterial(word).visibleDescription().isEmpty();
+    };
+    return {Set::Material,
+            "material",
+            table,
+            0,
+            "no material",
+            isKeyword,
+            [](const QString &) { return 0; }};
 }
 
 } // namespace
@@ -239,46 +216,23 @@ constexpr int decodeNothing(const QString &)
 PxRows<PxKeywordSetRow> keywordSetRows()
 {
     using namespace EnumHelper;
+    constexpr Reading word = Reading::Word;
+    constexpr Reading list = Reading::List;
     // clang-format off
     static const PxKeywordSetRow ourRows[] = {
-        {PxKeywordSet::Binding, "binding", tableOf(PxBinding::ourKeywords, bindings), PxBindingGift, "GIFT",
-         isKeywordOf<PxBinding>, decodeAs<PxBinding>},
-        {PxKeywordSet::Paper, "paper", tableOf(PxPaperType::ourKeywords, papers), PxPaperTypeIndigo, "indigo",
-         isKeywordOf<PxPaperType>, decodeAs<PxPaperType>},
-        {PxKeywordSet::SizeClass, "size class", tableOf(PxSpaceMagnitude::ourKeywords, sizeClasses), PxSpaceMagnitudeAny, "every size class",
-         isKeywordOf<PxSpaceMagnitude>, decodeAs<PxSpaceMagnitude>},
-        {PxKeywordSet::PageType, "page type", tableOf(PxPageType::ourKeywords, pageTypes), PxPageTypeNone, "no page type",
-         isKeywordOf<PxPageType>, decodeAs<PxPageType>},
-        {PxKeywordSet::PageNamingStyle, "page naming style", tableOf(globalPageNamingStyleKeywords, pageNamingStyles),
-         globalPageNamingStyleDefaultValue, "no naming style",
-         isKeywordIn<PxPageNamingStyle>,
-         decodeList<globalPageNamingStyleDefaultValue>},
-        {PxKeywordSet::AssemblyWay, "way of assembly", tableOf(globalAssemblyWayKeywords, assemblyWays),
-         globalAssemblyWayDefaultValue, "factory",
-         isKeywordIn<PxAssemblyWay>,
-         decodeList<globalAssemblyWayDefaultValue>},
-        {PxKeywordSet::ImageEffect, "image effect", tableOf(globalImageFXsKeywords, imageEffects),
-         globalImageFXsDefaultValue, "none",
-         isKeywordIn<PxImageFXs>,
-         decodeList<globalImageFXsDefaultValue>},
-        {PxKeywordSet::SurroundingType, "surrounding type", tableOf(globalSurroundingTypeKeywords, surroundingTypes),
-         globalSurroundingTypeDefaultValue, "no surrounding",
-         isKeywordIn<PxSurroundingType>,
-         decodeWord<globalSurroundingTypeDefaultValue>},
-        {PxKeywordSet::Alignment, "alignment", tableOf(globalPageAlignmentKeywords, alignments),
-         globalPageAlignmentDefaultValue, "left",
-         isKeywordIn<PxPageAlignment>,
-         decodeList<globalPageAlignmentDefaultValue>},
-        {PxKeywordSet::ProductGroup, "product group", tableOf(globalProductGroupEnumKeywords, productGroups),
-         globalProductGroupEnumDefaultValue, "no product group",
-         isKeywordIn<PxProductGroupEnum>,
-         decodeWord<globalProductGroupEnumDefaultValue>},
-        {PxKeywordSet::Orientation, "orientation", tableOf(orientations), 0, "no orientation",
-         isKeywordOf<PxOrientation>, decodeAs<PxOrientation>},
-        {PxKeywordSet::Material, "material", materials(), 0, "no material",
-         isMaterial, decodeNothing},
-        {PxKeywordSet::ProductClass, "product class", tableOf(productClasses), 0, "no product class",
-         [](const QString &word) { return decodeProductClass(word) != 0; }, decodeProductClass},
+        tableSet<PxBinding>(Set::Binding, "binding", "GIFT", tableOf(PxBinding::ourKeywords, bindings)),
+        tableSet<PxPaperType>(Set::Paper, "paper", "indigo", tableOf(PxPaperType::ourKeywords, papers)),
+        tableSet<PxSpaceMagnitude>(Set::SizeClass, "size class", "every size class", tableOf(PxSpaceMagnitude::ourKeywords, sizeClasses)),
+        tableSet<PxPageType>(Set::PageType, "page type", "no page type", tableOf(PxPageType::ourKeywords, pageTypes)),
+        mapSet<globalPageNamingStyleKeywords, globalPageNamingStyleDefaultValue, list>(Set::PageNamingStyle, "page naming style", "no naming style", pageNamingStyles),
+        mapSet<globalAssemblyWayKeywords, globalAssemblyWayDefaultValue, list>(Set::AssemblyWay, "way of assembly", "factory", assemblyWays),
+        mapSet<globalImageFXsKeywords, globalImageFXsDefaultValue, list>(Set::ImageEffect, "image effect", "none", imageEffects),
+        mapSet<globalSurroundingTypeKeywords, globalSurroundingTypeDefaultValue, word>(Set::SurroundingType, "surrounding type", "no surrounding", surroundingTypes),
+        mapSet<globalPageAlignmentKeywords, globalPageAlignmentDefaultValue, list>(Set::Alignment, "alignment", "left", alignments),
+        mapSet<globalProductGroupEnumKeywords, globalProductGroupEnumDefaultValue, word>(Set::ProductGroup, "product group", "no product group", productGroups),
+        tableSet<PxOrientation>(Set::Orientation, "orientation", "no orientation", tableOf(orientations)),
+        materialSet(),
+        mapSet<productClasses, PxProductClassUnknown, word>(Set::ProductClass, "product class", "no product class"),
     };
     // clang-format on
     return ourRows;

@@ -1,5 +1,7 @@
 #include "PxFormatCells.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <iterator>
 
@@ -15,15 +17,6 @@ bool isNumberOrFlag(PxValueType type)
 {
     return type == PxValueType::Integer || type == PxValueType::Length ||
            type == PxValueType::Boolean;
-}
-
-/** What stands for the default; empty if only the consequence matters. */
-QString defaultCell(const PxAttributeRow &row)
-{
-    if (row.type == PxValueType::RectanglePart)
-        return QStringLiteral("none");
-    const QString text = QString::fromUtf8(row.defaultText);
-    return text.isEmpty() || isNumberOrFlag(row.type) ? text : QStringLiteral("`%1`").arg(text);
 }
 
 } // namespace
@@ -60,12 +53,15 @@ QString PxFormatCells::absent(const PxAttributeRow &row)
 {
     if (row.cells.absent)
         return QString::fromUtf8(row.cells.absent);
-    const QString used = defaultCell(row);
-    const QString consequence = markdown(row.consequence);
-    if (used.isEmpty() && consequence.isEmpty())
-        return QStringLiteral("empty");
-    return used.isEmpty() || consequence.isEmpty() ? used + consequence
-                                                   : used + QLatin1String(": ") + consequence;
+    QStringList parts;
+    if (row.type == PxValueType::RectanglePart)
+        parts.append(QStringLiteral("none"));
+    else if (row.defaultText && *row.defaultText)
+        parts.append((isNumberOrFlag(row.type) ? QStringLiteral("%1") : QStringLiteral("`%1`"))
+                         .arg(QString::fromUtf8(row.defaultText)));
+    if (row.consequence)
+        parts.append(markdown(row.consequence));
+    return parts.isEmpty() ? QStringLiteral("empty") : parts.join(QLatin1String(": "));
 }
 
 QString PxFormatCells::absent(const PxElementRow &row)
