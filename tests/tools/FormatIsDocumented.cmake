@@ -1,4 +1,4 @@
-# Compares the schemas and the tables of the documentation with what the vocabulary makes of them.
+# Compares the schemas and the tables of the documentation with what pxvocabulary prints.
 
 function(compare file)
     set(written ${SCRATCH}/${file})

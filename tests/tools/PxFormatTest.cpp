@@ -18,7 +18,7 @@
 #include <QRegularExpression>
 #include <QTest>
 
-/** Holds the vocabulary against what the library really reads. */
+/** Compares the rows of the format with what the library really reads. */
 class PxFormatTest : public QObject
 {
     Q_OBJECT

@@ -7,7 +7,7 @@
 
 namespace {
 
-/** Looks at no more than it must: nearly all names differ in the first letters. */
+/** Compares letter by letter: nearly all names differ in the first ones. */
 bool isNamed(const char *rowName, const QString &name)
 {
     for (const QChar character : name) {

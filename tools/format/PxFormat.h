@@ -6,36 +6,36 @@
 #include <QStringList>
 
 /**
- * What files may say: elements, attributes and keywords, with their defaults and meanings.
+ * The file format: elements, attributes and keywords, with their defaults and meanings.
  *
- * The one table for all that tells authors about the format: checks, schemas and documentation. The
- * library reads the files by itself; a test holds the two against each other.
+ * Checks, schemas and documentation all take it from here. The library has readers of its own; a
+ * test compares them with these rows, both ways.
  */
 class PxFormat
 {
 public:
     /** The document element of a kind of file. */
     static const PxElementRow &root(PxFileKind kind);
-    /** By its path from the document element, as in "product/spines/spine"; null for no element. */
+    /** By its path from the document element, as in "product/spines/spine"; null if not read. */
     static const PxElementRow *find(PxFileKind kind, const QString &path);
-    /** Null for an element that is not read there. */
+    /** Null for an element that the library does not read there. */
     static const PxElementRow *child(const PxElementRow &parent, const QString &name);
-    /** Whether it is a usual name of such an element. */
+    /** Whether a row has this name; child() may also find rows that allow any name. */
     static bool isChildName(const PxElementRow &parent, const QString &name);
-    /** Null for an attribute that is not read. */
+    /** Null for an attribute that the library does not read. */
     static const PxAttributeRow *attribute(const PxElementRow &element, const QString &name);
-    /** The usual names. */
+    /** The names of the rows. */
     static QStringList childNames(const PxElementRow &parent);
     static QStringList attributeNames(const PxElementRow &element);
 
-    /** The set is not None. */
+    /** The set must not be None. */
     static const PxKeywordSetRow &keywords(PxKeywordSet set);
     static QStringList keywordNames(PxKeywordSet set);
-    /** Whether the library knows the word, in any case and with blanks around it. */
+    /** Whether the library knows the word, in any case and with white space around it. */
     static bool isKeyword(PxKeywordSet set, const QString &word);
-    /** What the library reads a text as: the value, and its keywords. */
+    /** The value that the library reads a text as, and the keywords of that value. */
     static int decode(PxKeywordSet set, const QString &text);
     static QString decoded(PxKeywordSet set, const QString &text);
-    /** The keyword of a value, or those of its bits. */
+    /** The keyword of a value, or the keywords of its bits. */
     static QString encode(PxKeywordSet set, int value);
 };

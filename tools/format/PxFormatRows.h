@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <limits>
 
-/** The rows of a table, all of which live as long as the program. */
+/** The rows of a table. They live as long as the program. */
 template <typename ROW>
 class PxRows
 {
@@ -57,8 +57,8 @@ enum class PxValueType {
     TextList,
     Path,
     DateTime,
-    Keyword,     ///< read as a list, but only one keyword makes sense
-    KeywordList, ///< keywords that add up
+    Keyword,     ///< read as a list, though only one keyword makes sense
+    KeywordList, ///< the values of the keywords add up
     OneKeyword,  ///< not read as a list
     PageRange,
     RectanglePart, ///< one of x, y, width and height, each a length
@@ -68,7 +68,7 @@ enum class PxValueType {
 /**
  * What the documentation of the file format says about an attribute, in Markdown.
  *
- * A missing text is derived from the facts, except the meaning.
+ * Type and absent, if they are null, are derived from the facts.
  */
 struct PxAttributeCells
 {
@@ -108,7 +108,7 @@ enum class PxOccurrence {
     AnyName, ///< all, whatever their name; the name in the row is the usual one
 };
 
-/** What the text between the tags of an element is. */
+/** What the library reads the text between the tags of an element as. */
 enum class PxTextKind { None, Text, Integer, NumberList, PageTypes, ProductName };
 
 /** What the documentation of the file format says about an element, in Markdown. */
@@ -116,7 +116,7 @@ struct PxElementCells
 {
     const char *meaning;
     const char *contents = nullptr; ///< in the columns "Contents" and "Type"
-    const char *absent = nullptr;   ///< if it says more than the fact does
+    const char *absent = nullptr;   ///< instead of the fact
 };
 
 /** An element, and what it may contain. */
@@ -128,7 +128,7 @@ struct PxElementRow
     PxRows<PxAttributeRow> attributes;
     PxRows<PxElementRow> children;
     PxElementCells cells;
-    /** What counts if it is absent or empty. Plain text, with names in quotes. */
+    /** What is used if it is absent or empty. Plain text, with names in quotes. */
     const char *absent = nullptr;
 };
 
@@ -136,17 +136,17 @@ struct PxElementRow
 struct PxKeywordCells
 {
     int value;
-    const char *meaning;
+    const char *meaning;        ///< may be empty
     const char *size = nullptr; ///< of a page of this type
     const char *note = nullptr; ///< behind the keyword
 };
 
-/** A keyword, and what it stands for. */
+/** A keyword with its value and meaning. */
 struct PxKeywordTableRow
 {
     QString keyword;
-    int value; ///< 0 where keywords stand for no value
-    /** Null if the keyword is a synonym of the one before; empty if nothing is said. */
+    int value; ///< 0 in sets whose keywords have no values
+    /** Null for a synonym of the keyword above; empty if there is nothing to say. */
     QString meaning;
     const char *size;
     const char *note;
@@ -156,12 +156,12 @@ struct PxKeywordTableRow
 struct PxKeywordSetRow
 {
     PxKeywordSet set;
-    const char *name; ///< of one of its members
+    const char *name; ///< singular
     QVector<PxKeywordTableRow> keywords;
-    int defaultValue;        ///< what an unknown word or an empty entry stands for
+    int defaultValue;        ///< the value of an unknown word or an empty entry
     const char *defaultText; ///< the same in words
     /** Asks the library whether it knows a word. */
     bool (*isKeyword)(const QString &word);
-    /** Asks the library what it reads a text as: a list where it reads lists. */
+    /** Asks the library what it reads a text as; in most sets the text may be a list. */
     int (*decode)(const QString &text);
 };

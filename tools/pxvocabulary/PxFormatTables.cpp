@@ -11,7 +11,7 @@
 
 namespace {
 
-/** The cells that tables choose from. */
+/** All cells of a line; a table shows some of them. */
 struct Line
 {
     QString element;
@@ -36,8 +36,8 @@ using Columns = QVector<Column>;
 using Kind = PxFileKind;
 
 enum class Attributes {
-    Main,      ///< with one line for each section that has a table of its own
-    OfSections ///< those that the main table leaves out
+    Main,      ///< all, with a single line for each section that has a table of its own
+    OfSections ///< only those of sections
 };
 
 constexpr Column type = {"Type", &Line::type};
@@ -95,7 +95,7 @@ Lines attributeLines(const PxElementRow &element, Attributes which = Attributes:
     return lines;
 }
 
-/** One line for an element with contents of its own, else one for each attribute. */
+/** One line for the element itself if it has cells of its own, else one for each attribute. */
 Lines elementLines(const PxElementRow &row)
 {
     Lines lines;

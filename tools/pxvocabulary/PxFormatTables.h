@@ -3,19 +3,19 @@
 #include <QStringList>
 
 /**
- * The documentation of the file format, with the tables of the vocabulary in it.
+ * The documentation of the file format, with its tables written anew.
  *
- * A table stands between the lines "<!-- table: NAME -->" and "<!-- end of table -->". Its name and
- * its headings are known here, all else is from the vocabulary.
+ * A table stands between the lines "<!-- table: NAME -->" and "<!-- end of table -->". This class
+ * knows its name and its headings; everything else comes from the rows of the format.
  */
 class PxFormatTables
 {
 public:
     explicit PxFormatTables(const QString &document);
 
-    /** With every table replaced, and all else as it was. */
+    /** The document with every table replaced and everything else unchanged. */
     QString document() const { return m_lines.join(QLatin1Char('\n')); }
-    /** Markers that do not fit, and tables that do not stand in the document exactly once. */
+    /** Markers without a partner, unknown tables, and tables that are missing or appear twice. */
     QStringList problems() const { return m_problems; }
 
 private:

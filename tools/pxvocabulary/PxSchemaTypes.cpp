@@ -6,8 +6,8 @@
 
 namespace {
 
-// Schemas cannot tell a pattern to take any case. Keywords hold nothing that patterns give a
-// meaning.
+// A pattern in a schema cannot ignore case. Keywords contain no character with a meaning in
+// patterns.
 QString inAnyCase(const QString &word)
 {
     QString expression;
@@ -20,7 +20,7 @@ QString inAnyCase(const QString &word)
     return expression;
 }
 
-/** One of the words, with blanks around it. */
+/** A pattern for one of the words, with blanks around it. */
 QString oneOf(const QStringList &words)
 {
     QStringList expressions;
@@ -82,7 +82,7 @@ QString PxSchemaTypes::typesOf(const PxAttributeRow &attribute)
     const PxKeywordSet set = attribute.keywords;
     const QString type =
         attribute.type == PxValueType::KeywordList ? keywordList(set) : keyword(set);
-    // Empty is as good as absent, unless the library reads it as something else.
+    // An empty value is allowed if the library reads it like an absent one.
     const bool mayBeEmpty = attribute.defaultText &&
                             PxFormat::decode(set, QString()) ==
                                 PxFormat::decode(set, QString::fromUtf8(attribute.defaultText));
@@ -111,7 +111,7 @@ QString PxSchemaTypes::pattern(const QString &name, const QString &expression,
     return name;
 }
 
-/** With a pattern, as libxml2 takes blanks around a number only where the type has one. */
+/** With a pattern: libxml2 accepts blanks around a number only in types that have one. */
 QString PxSchemaTypes::integer()
 {
     const QString name = QStringLiteral("int");
@@ -159,7 +159,7 @@ void PxSchemaTypes::write(QXmlStreamWriter *xml) const
     }
 }
 
-/** As an enumeration, from which editors offer the words, and as a pattern for any case. */
+/** An enumeration, from which editors offer the words, and a pattern that accepts any case. */
 void PxSchemaTypes::writeKeyword(QXmlStreamWriter *xml, PxKeywordSet set) const
 {
     const bool isExact = set == PxKeywordSet::Material;

@@ -8,20 +8,20 @@
 class QXmlStreamWriter;
 
 /**
- * The types of values in a schema, as authors may write them: with blanks and in any case where the
- * library takes that.
+ * The types of values in a schema. They accept what the library accepts: blanks around values, and
+ * keywords in any case.
  */
 class PxSchemaTypes
 {
 public:
-    /** The types that a value of the attribute may have, separated by blanks. */
+    /** The names of the types that a value of the attribute may have, separated by blanks. */
     QString typesOf(const PxAttributeRow &attribute);
     QString typeOf(PxTextKind text);
-    /** Defines all types that were asked for. */
+    /** Writes the definitions of all types that the other functions have named. */
     void write(QXmlStreamWriter *xml) const;
 
 private:
-    /** What fits the expression, or is of the other type: editors offer the values of that one. */
+    /** A value matches the expression or has the other type, whose values editors offer. */
     struct Pattern
     {
         QString expression;

@@ -9,7 +9,7 @@
 
 namespace {
 
-/** Without Markdown and its links into the documentation. */
+/** The text without Markdown; a link becomes its text, or the name of the document. */
 QString plain(QString markdown)
 {
     static const QRegularExpression ourReference(QStringLiteral("see \\[[^]]*\\]\\([^)]*\\)"));
@@ -42,7 +42,7 @@ PxSchemaWriter::PxSchemaWriter(QIODevice *device) : m_xml(device)
 void PxSchemaWriter::write(PxFileKind kind)
 {
     m_xml.writeStartDocument();
-    m_xml.writeComment(" Written by pxvocabulary: change the vocabulary, not this file. ");
+    m_xml.writeComment(" Written by pxvocabulary: change tools/format, not this file. ");
     m_xml.writeStartElement("xs:schema");
     m_xml.writeAttribute("xmlns:xs", "http://www.w3.org/2001/XMLSchema");
     writeElement(PxFormat::root(kind), false);
@@ -69,7 +69,7 @@ void PxSchemaWriter::writeContents(const PxElementRow &row)
 {
     m_xml.writeStartElement("xs:complexType");
     if (!row.children.isEmpty()) {
-        // Schemas cannot say "any order" of elements of which some may be repeated and some not.
+        // Schemas have no "any order" for elements of which some may be repeated and some not.
         const bool areSingle =
             std::all_of(row.children.begin(), row.children.end(), [](const PxElementRow &child) {
                 return child.occurrence == PxOccurrence::First;
@@ -87,7 +87,7 @@ void PxSchemaWriter::writeContents(const PxElementRow &row)
     for (const PxAttributeRow &attribute : row.attributes) {
         if (attribute.cells.meaning)
             meaning = plain(attribute.cells.meaning);
-        if (meaning.startsWith(QChar(0x2026))) // "…" goes on from a meaning above
+        if (meaning.startsWith(QChar(0x2026))) // "…" continues an earlier meaning
             meaning.replace(0, 1, subject);
         else
             subject = meaning;

@@ -1,4 +1,4 @@
-// Writes the schemas and the tables of the documentation from the vocabulary.
+// Writes the schemas and the tables of the documentation from the rows of tools/format.
 #include "PxFormatTables.h"
 #include "PxSchemaWriter.h"
 
@@ -16,7 +16,7 @@ constexpr int cannotRun = 2;
 
 constexpr char usage[] =
     "use \"xsd product\" or \"xsd theme\" for the XML schema of such files, or \"tables FILE\" for "
-    "FILE with its tables as the vocabulary has them";
+    "FILE with its tables written anew";
 
 int fail(const QString &message)
 {
