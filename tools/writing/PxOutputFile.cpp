@@ -12,7 +12,7 @@
 
 namespace {
 
-/** What happened, and what helps. */
+/** The error of the system, and what helps. */
 std::optional<PxProblem> problemOf(int error)
 {
     if (error == 0)
@@ -32,9 +32,10 @@ std::optional<PxProblem> replace(const QString &path, const QByteArray &contents
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return problemOf(file);
-    // Past the buffer of QSaveFile, which is written last and not checked, as its fsync() is not.
+    // Not through the buffer of QSaveFile, whose last write and fsync() are not checked.
     int error = PxOutputFile::write(file.handle(), contents);
-    if (error == 0 && fsync(file.handle()) != 0 && errno != EINVAL) // not every system has it
+    if (error == 0 && fsync(file.handle()) != 0 &&
+        errno != EINVAL) // which not every file system supports
         error = errno;
     if (error != 0)
         return problemOf(error);

@@ -7,16 +7,16 @@
 
 #include <optional>
 
-/** Writes the files of a program. What cannot be written harms nothing that was there before. */
+/** Writes files. If that fails, a file that existed before is unchanged. */
 class PxOutputFile
 {
 public:
     /**
-     * Makes the file, or replaces a regular one as a whole, once all of it is on the disk; of a
-     * link its target.
+     * Creates the file, or replaces a regular one as a whole once the new one is on the disk. A
+     * link leads to its target.
      *
-     * A pipe or a character device is written as it is, and so is the file that is the program's
-     * stdout or stderr. Nothing else is written. A problem comes with what helps.
+     * A pipe, a character device and the file that is the program's stdout or stderr are written in
+     * place. Anything else is refused. A problem says what helps, too.
      */
     static std::optional<PxProblem> write(const QString &path, const QByteArray &contents);
 

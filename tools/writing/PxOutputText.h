@@ -5,11 +5,11 @@
 
 #include <initializer_list>
 
-/** What a program prints for people: lines of texts of any origin, which stay lines. */
+/** A text to print. Its lines may hold texts of any origin, which cannot break them. */
 class PxOutputText
 {
 public:
-    /** A piece of a line, in a colour as terminals want it, or in none. */
+    /** A piece of a line; its colour is an escape sequence, or null. */
     struct Piece
     {
         QString text;
@@ -17,7 +17,7 @@ public:
     };
 
     PxOutputText() = default;
-    /** The lines of a text of the program, which has one at least. */
+    /** The lines of a text of the program itself, at least one. */
     explicit PxOutputText(const QString &lines);
 
     void addLine(const QString &text) { addLine({{text}}); }

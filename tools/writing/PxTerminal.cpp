@@ -31,7 +31,7 @@ bool writeOutput(const QByteArray &output)
 void PxTerminal::prepare()
 {
     std::signal(SIGXFSZ, SIG_IGN);
-    // Each takes the lowest number that is free; none can be written to.
+    // open() takes the lowest free number. The program cannot write to these.
     for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         if (fcntl(descriptor, F_GETFD) == -1 && open("/dev/null", O_RDONLY) == -1)
             return;
@@ -96,5 +96,5 @@ void PxTerminal::printError(const QString &message)
 {
     PxOutputText line;
     line.addLine(QCoreApplication::applicationName() + ": " + message);
-    PxOutputFile::write(STDERR_FILENO, line.toUtf8()); // nobody is left to tell if that fails
+    PxOutputFile::write(STDERR_FILENO, line.toUtf8()); // a failure cannot be reported
 }

@@ -5,30 +5,30 @@
 class PxOutputText;
 class QJsonObject;
 
-/** The one way from the program to its reader, on stdout and stderr, and what is known of that. */
+/** Prints to stdout and stderr; nothing else in the program does. */
 class PxTerminal
 {
 public:
     /**
-     * To be called first: a file that may not grow gives an error instead of a signal, and what the
-     * program opens never takes the place of a closed stdin, stdout or stderr.
+     * Must be called first. Then writing beyond the size limit of files is an error and no signal,
+     * and files that the program opens never become its stdin, stdout or stderr.
      */
     static void prepare();
 
-    /** From the environment or the terminal; 100 when stdout is no terminal. */
+    /** COLUMNS, else the width of the terminal, else 100. */
     static int columns();
 
-    /** Whether stdout is a terminal, and its user does not want it without colours. */
+    /** Whether stdout is a terminal whose user has not switched colours off. */
     static bool hasColours();
 
-    /** At most so many characters; an ellipsis stands for what is missing. */
+    /** Cut off with an ellipsis if it is longer than `width`. */
     static QString shortened(const QString &text, int width);
-    /** Broken into lines of at most so many characters, if its words allow. */
+    /** Broken into lines of at most `width` characters; longer words stay whole. */
     static QString wrapped(const QString &text, int width);
 
     /**
-     * To stdout. Answers false when that cannot be done, which is told on stderr, unless the reader
-     * has seen enough and closed the pipe.
+     * Writes to stdout. A failure is reported on stderr, unless the reader closed the pipe. Returns
+     * whether all was written.
      */
     static bool write(const PxOutputText &text);
     static bool write(const QJsonObject &json);

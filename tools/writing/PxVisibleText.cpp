@@ -7,7 +7,7 @@
 
 namespace {
 
-/** Characters without a picture that are neither controls nor formats by their category. */
+/** Characters without a glyph whose category is neither control nor format. */
 constexpr struct
 {
     uint first;
@@ -66,11 +66,11 @@ QString escapedInJson(uint character)
            escape(QChar::lowSurrogate(character), 4);
 }
 
-/** With `hasLines` line breaks stay. */
+/** Keeps line breaks if `hasLines`. */
 QString escaped(const QString &text, bool hasLines, QString (*escapeOf)(uint))
 {
     QString visible;
-    int copied = 0; // what is before it is in `visible`
+    int copied = 0; // so much of the text is in `visible`
     for (int i = 0; i < text.size();) {
         const QChar unit = text[i];
         const bool isPair =
@@ -98,7 +98,7 @@ QString PxVisibleText::line(const QString &text)
 
 QString PxVisibleText::json(const QByteArray &json)
 {
-    // Half a pair is the one thing that QJsonDocument escapes by itself beside controls.
+    // Beside control characters QJsonDocument escapes only half a surrogate pair.
     static const QRegularExpression ourHalf("(?<!\\\\)((?:\\\\\\\\)*)\\\\ud[89a-f][0-9a-f]{2}");
     QString text = QString::fromUtf8(json);
     if (json.contains("\\ud"))

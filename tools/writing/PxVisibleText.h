@@ -3,19 +3,19 @@
 #include <QString>
 
 /**
- * Texts of unknown origin with all that a terminal might obey, or that nobody would see, written
- * out: control characters, changes of direction, tags and other characters without a picture.
+ * Writes out what a terminal might obey or nobody would see: control characters, changes of
+ * direction, tags and other characters without a glyph.
  *
- * Half a surrogate pair becomes U+FFFD. Blanks stay, also those that do not break.
+ * Half a surrogate pair becomes U+FFFD. Blanks stay, also non-breaking ones.
  */
 class PxVisibleText
 {
 public:
     /**
-     * One line for people: \u202E stands for a character without a picture, \U000E0041 for one
-     * beyond 16 bits. A line that was made so stays as it is.
+     * As one line, with \u202E for a character without a glyph and \U000E0041 for one beyond 16
+     * bits. Does not change a line that it returned before.
      */
     static QString line(const QString &text);
-    /** JSON as QJsonDocument writes it, with the same characters as JSON escapes them. */
+    /** The same for JSON that QJsonDocument wrote, with the escapes of JSON. */
     static QString json(const QByteArray &json);
 };

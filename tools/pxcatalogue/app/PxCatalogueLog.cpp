@@ -12,8 +12,8 @@ namespace {
 auto ourShown = PxCatalogueLog::Shown::Warnings;
 
 /**
- * Whether a debug message explains a warning: it follows the warning and is of the same source. The
- * library tells so why it refused a file.
+ * Whether a debug message explains a warning: the library writes such a message right after the
+ * warning, from the same source file, to say why it refused a file.
  */
 bool isReason(QtMsgType level, const QMessageLogContext &context)
 {
@@ -28,7 +28,7 @@ void print(QtMsgType level, const QMessageLogContext &context, const QString &te
 {
     if (level == QtFatalMsg) {
         PxTerminal::printError("internal fault: " + text);
-        std::_Exit(int(PxExitStatus::InternalFault)); // Qt would abort, which says less
+        std::_Exit(int(PxExitStatus::InternalFault)); // Qt would abort without a word
     }
     if (ourShown == PxCatalogueLog::Shown::Nothing)
         return;

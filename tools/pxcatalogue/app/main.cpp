@@ -11,7 +11,7 @@
 
 namespace {
 
-/** Before the library is asked anything: it translates its tables when it builds them. */
+/** Comes before all questions to the library, which translates its tables when it builds them. */
 void installTranslation(const QString &language)
 {
     const QLocale locale = language.isEmpty() ? QLocale() : QLocale(language);

@@ -36,7 +36,7 @@ QString resourcesAbove(const QString &path)
     return directory.path();
 }
 
-/** The one catalogue that all the files lie in. */
+/** Finds the one catalogue that all the files belong to. */
 std::optional<PxProblem> findResourcesAbove(const QStringList &paths, QStringList *resources)
 {
     for (const QString &path : paths) {
@@ -87,7 +87,7 @@ std::optional<PxProblem> readTypes()
     return std::nullopt;
 }
 
-/** The resource directories that the command line names, or means by the files that it names. */
+/** Finds the resource directories that the command line names, or those of the files it names. */
 std::optional<PxProblem> findResources(const PxCommandLine &line, const QStringList &paths,
                                        QStringList *resources)
 {
@@ -121,7 +121,7 @@ std::optional<PxProblem> useGivenOnes(const PxCommandLine &line, const QStringLi
             return problem;
     }
     auto *config = PxDirectoryConfig::instance();
-    if (!resources.isEmpty()) { // a catalogue is named: with all that is in it
+    if (!resources.isEmpty()) { // naming a catalogue means its themes and defaults, too
         config->setResourceDirectories(resources);
         config->setUserDefaultsPath(config->resource("defaults", false));
         config->setThemesDirectory(QString());

@@ -12,13 +12,12 @@ class PxCommandLine;
 class PxCatalogueDirectories
 {
 public:
-    /** Sets them in the platform, for questions to the library. */
+    /** Sets them in the platform, so that the library can be asked. */
     static std::optional<PxProblem> apply(const PxCommandLine &line);
     /**
-     * The same for a check of the paths of the command line, which are the resource directory, or
-     * files that lie in it.
+     * The same for a check, whose arguments are the resource directory or files.
      *
-     * What the check reports with its place, in producttypes.xml, is no problem here.
+     * A broken producttypes.xml is no problem here: the check reports it with the place.
      */
     static std::optional<PxProblem> applyForCheck(const PxCommandLine &line);
 

@@ -6,21 +6,21 @@
 
 class PxCommandLine;
 
-/** What a command is called, takes and is for, as --help shows it. */
+/** The name, purpose, arguments and options of a command, as --help shows them. */
 struct PxCommandUsage
 {
     /** What follows the name of a command. */
     struct Arguments
     {
-        QString name;    ///< as the usage shows them
-        QString meaning; ///< a sentence
-        QString needed;  ///< what the first one is; empty if there may be none
+        QString name;    ///< as "Usage" shows them
+        QString meaning; ///< a sentence about them
+        QString needed;  ///< what is missing if there are none; empty if they are optional
         int most = 0;
     };
 
     QString name;
-    QString description; ///< lines, of which the first one is a summary
-    /** Its own ones, then those that it shares; without those of every command. */
+    QString description; ///< lines; the first one is the summary among all commands
+    /** First its own, then those that it shares; not those of every command. */
     QVector<PxOption> options;
     Arguments arguments = {};
 };
@@ -37,12 +37,12 @@ public:
     virtual PxCommandUsage usage() const = 0;
     /** Whether the user sees the warnings of the library without --verbose, too. */
     virtual bool showsWarnings() const { return true; }
-    /** Runs as this line of the usage says. */
+    /** Does what the line asks for, which fits the usage. */
     virtual PxExitStatus run(const PxCommandLine &line) const = 0;
 
-    /** Prints the problem, for which the program ends. */
+    /** Prints the problem to stderr. */
     static PxExitStatus fail(const PxProblem &problem);
-    /** Writes a text or JSON to stdout. */
+    /** Prints a text or JSON to stdout. */
     template <typename OUTPUT>
     static PxExitStatus printed(const OUTPUT &output)
     {

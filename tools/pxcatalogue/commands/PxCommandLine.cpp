@@ -48,7 +48,7 @@ QString commandNames(const PxOption *option = nullptr)
     return names.join(", ");
 }
 
-/** What neighbours share stands behind the own options of the last of them. */
+/** An option that neighbours in the table share follows the own options of the last of them. */
 QVector<PxOption> optionsOfAllCommands()
 {
     const QVector<const PxCommand *> commands = PxCommand::all();
@@ -82,7 +82,7 @@ PxCommandLine::PxCommandLine(const QStringList &words)
         readOptions(words);
 }
 
-/** Its options, which may stand before it, are read after it. */
+/** Options may precede the command; they are read once the command is known. */
 void PxCommandLine::findCommand(const QStringList &words)
 {
     QCommandLineParser parser;
@@ -123,7 +123,7 @@ void PxCommandLine::readOptions(const QStringList &words)
     }
 }
 
-/** Whether only --help or --version is wanted. */
+/** Answers --help or --version; false if neither is given. */
 bool PxCommandLine::informs(const QCommandLineParser &parser)
 {
     if (parser.isSet("help"))
@@ -162,7 +162,7 @@ void PxCommandLine::checkValues(const QVector<PxOption> &options)
         setProblem(QString("--lang needs en or de, not \"%1\"").arg(language));
 }
 
-/** The first one is told. */
+/** Only the first problem is reported. */
 void PxCommandLine::setProblem(const QString &problem)
 {
     if (!m_problem)

@@ -21,15 +21,15 @@ public:
     std::optional<PxProblem> problem() const { return m_problem; }
     /** The text of --help or --version. */
     std::optional<QString> information() const { return m_information; }
-    /** The command to run, if there is neither a problem nor an information. */
+    /** The command to run; only if there is neither a problem nor an information. */
     const PxCommand &command() const { return *m_command; }
 
     /** What follows the name of the command. */
     QStringList arguments() const { return m_parser.positionalArguments().mid(1); }
     bool isSet(const QString &option) const { return m_parser.isSet(option); }
-    /** Of an option that the command takes; empty when it is not given. */
+    /** The value of an option that the command takes; empty if it is not given. */
     QString value(const QString &option) const { return m_parser.value(option); }
-    /** The same of an option that may be given several times. */
+    /** All values of an option that may be given several times. */
     QStringList values(const QString &option) const { return m_parser.values(option); }
 
 private:

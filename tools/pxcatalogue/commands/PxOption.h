@@ -11,16 +11,16 @@
 struct PxOption
 {
     QString name;
-    QString value; ///< what --help calls its value; empty for an option without one
+    QString value; ///< the name of its value in --help; empty for an option without a value
     QString description;
-    int least = 0; ///< the bounds of a number; only if `most` is not 0
+    int least = 0; ///< bounds if the value is a number; then `most` is not 0
     int most = 0;
-    QStringList keywords = {}; ///< of a list with commas; none if it takes other texts
+    QStringList keywords = {}; ///< allowed in a list with commas; empty if any text is
 
     /** What is wrong with a value of the option. */
     std::optional<PxProblem> problemOf(const QString &text) const;
 
-    // Those that several commands take, and those that every command takes.
+    // Options of several commands, and those of every command.
     static PxOption theme();
     static PxOption json();
     static QVector<PxOption> ofEveryCommand();

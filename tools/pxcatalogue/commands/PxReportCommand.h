@@ -7,11 +7,11 @@
 class PxReportCommand : public PxCommand
 {
 public:
-    /** Only with the directories of the catalogue can the library be asked. */
+    /** Sets the library up, asks it and prints the answer. */
     PxExitStatus run(const PxCommandLine &line) const final;
 
 protected:
-    /** What is printed, and why the answer is "no". */
+    /** What is printed, and the reason if the answer is "no". */
     struct Answer
     {
         std::optional<PxReport> report;
@@ -20,11 +20,11 @@ protected:
 
     virtual Answer answer(const PxCommandLine &line) const = 0;
 
-    /** The name of a product, as what a command needs. */
+    /** The argument of commands about one product. */
     static PxCommandUsage::Arguments productName();
-    /** Ids of themes are in lower case. Empty when none is given. */
+    /** In lower case, as ids are; empty if no theme is given. */
     static QString themeId(const PxCommandLine &line);
     static PxProblem unknownProduct(const QString &name);
-    /** What is wrong with the id of a theme; an empty one is fine. */
+    /** Nothing for an empty id. */
     static std::optional<PxProblem> problemOfTheme(const QString &id);
 };

@@ -25,11 +25,11 @@ QJsonArray rowOf(const PxTheme &theme)
             PxCatalogueProducts::nameArray(theme.allowedProductTypes().values())};
 }
 
-/** Below each other, with who may order them and what they allow. */
+/** Lists the themes, with who may order them and which products they allow. */
 void addTable(PxThemeList themes, PxReport *report)
 {
-    // They come in the order in which the file system lists the files; of themes with one id the
-    // first one read stays the first.
+    // The library reads the files in the order of the file system. Among themes with the same id
+    // the first one read stays first.
     std::stable_sort(themes.begin(), themes.end(),
                      [](const PxTheme &a, const PxTheme &b) { return a.id() < b.id(); });
     QVector<QJsonArray> rows;

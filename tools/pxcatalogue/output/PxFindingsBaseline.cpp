@@ -29,7 +29,7 @@ std::optional<PxProblem> load(const QString &path, QByteArray *contents)
     const auto problem = [](const QString &reason) {
         return PxProblem{"cannot be read: " + reason};
     };
-    // Without waiting for a pipe, and what is asked is the file that was opened.
+    // Opened without waiting for a pipe; fstat() then asks about the very file that is read.
     const int descriptor =
         open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (descriptor == -1)
@@ -47,7 +47,7 @@ std::optional<PxProblem> load(const QString &path, QByteArray *contents)
     return std::nullopt;
 }
 
-/** Takes so many at most from a number; returns how many it took. */
+/** Takes `count` from a number, or what is left of it; returns how many it took. */
 int take(int *number, int count)
 {
     const int taken = qMin(*number, count);
@@ -55,8 +55,7 @@ int take(int *number, int count)
     return taken;
 }
 
-/** The same from all numbers of the tag and file, if there is one of findings that are not listed.
- */
+/** The same, from all numbers of the tag and file; only if not all of them are listed. */
 int takeAny(QMap<PxFindingIdentity, int> *left, const PxFindingIdentity &finding, int count)
 {
     const auto rest = left->find({finding.path(), finding.tag(), PxFindingIdentity::restMessage()});

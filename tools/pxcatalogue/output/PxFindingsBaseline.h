@@ -9,7 +9,7 @@
 
 #include <optional>
 
-/** The findings of an old catalogue that are known: a file that lists them hides them. */
+/** The known findings of a catalogue: a file that lists them, so that they are hidden. */
 class PxFindingsBaseline
 {
 public:
@@ -17,7 +17,7 @@ public:
     static constexpr qint64 maximumSize = qint64(8) * 1024 * 1024;
 
     PxFindingsBaseline() = default;
-    /** Of all findings of the report. */
+    /** All findings of the report are known. */
     explicit PxFindingsBaseline(const PxCheckReport &report);
 
     /** Only a regular file is read. */
@@ -26,10 +26,10 @@ public:
 
     /** Reads the contents of such a file; the problem does not name the file. */
     std::optional<PxProblem> readJson(const QByteArray &text);
-    /** What readJson() reads. */
+    /** The text for readJson(). */
     QByteArray toJson() const;
 
-    /** Takes the known findings out of the report, each as often as it is known. */
+    /** Removes the known findings from the report, each as often as it is known. */
     void hide(PxCheckReport *report) const;
 
 private:

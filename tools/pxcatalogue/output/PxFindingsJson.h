@@ -4,7 +4,7 @@
 
 #include <QJsonObject>
 
-/** Findings for programs, with everything that the text has. */
+/** Findings as JSON, with everything that the text has. */
 class PxFindingsJson
 {
 public:

@@ -16,7 +16,7 @@ namespace {
 
 constexpr const char *catalogueBase = "CATALOGUE";
 
-/** Braces would be the place of an argument, and brackets before a parenthesis a link. */
+/** Escapes what the format would read as a place for an argument or as a link. */
 QJsonObject textOf(QString text)
 {
     static const QRegularExpression ourLink("\\[(?=[^\\[\\]]*\\]\\()");
@@ -24,7 +24,7 @@ QJsonObject textOf(QString text)
     return {{"text", text}};
 }
 
-/** There is no level for matters of style. */
+/** The format has no level for matters of style. */
 QString levelOf(PxSeverity severity)
 {
     switch (severity) {
@@ -77,7 +77,7 @@ QString encoded(const QString &path)
     return QString::fromLatin1(QUrl::toPercentEncoding(path, "/"));
 }
 
-/** Relative to where the program runs, the root of a checkout; else to the catalogue. */
+/** Relative to the working directory, the root of a checkout; elsewhere to the catalogue. */
 QJsonObject artifactOf(const QString &path, const PxCheckReport &report)
 {
     const QString fromHere =
@@ -124,7 +124,7 @@ QJsonArray resultsOf(const PxCheckReport &report)
     return results;
 }
 
-/** What was not checked. */
+/** The tags that were not checked. */
 QJsonArray notesOf(const PxCheckReport &report)
 {
     QJsonArray notes;

@@ -10,7 +10,7 @@ namespace {
 constexpr struct
 {
     PxSeverity severity;
-    const char *colour; // as a terminal wants it
+    const char *colour; // an escape sequence
     const char *one;
     const char *many;
 } severities[] = {
@@ -46,7 +46,7 @@ void addFinding(PxOutputText *text, const PxFinding &finding, bool isColoured)
 
 void addSummary(PxOutputText *text, const PxCheckReport &report)
 {
-    QMap<QString, QStringList> notChecked; // by what is not there
+    QMap<QString, QStringList> notChecked; // tags, by what is missing
     for (auto it = report.tagsNotChecked.begin(); it != report.tagsNotChecked.end(); ++it)
         notChecked[it.value()].append(it.key());
     for (auto it = notChecked.begin(); it != notChecked.end(); ++it)

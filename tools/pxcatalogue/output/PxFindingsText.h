@@ -3,13 +3,13 @@
 #include "check/findings/PxCheckReport.h"
 #include "writing/PxOutputText.h"
 
-/** Findings for people: a line for each, with what the library does and a hint below it. */
+/** Findings as text: a line for each, with what the library does and a hint below it. */
 class PxFindingsText
 {
 public:
     /**
-     * Below the findings what was not checked, and the numbers, which are the last line; when it is
-     * quiet only the findings.
+     * The findings, then the tags that were not checked, then a line of numbers. If quiet, only the
+     * findings.
      */
     static PxOutputText of(const PxCheckReport &report, bool isColoured, bool isQuiet);
 };

@@ -10,7 +10,7 @@
 
 #include <cstddef>
 
-// The keywords of the command line and of the output. Those of the product files are the library's.
+// The keywords of the command line and of the output; the library has those of the product files.
 
 inline constexpr PxKeyword<PxProductClass> productClassRows[] = {
     {"book", PxProductClassBook},       {"calendar", PxProductClassCalendar},
@@ -52,7 +52,7 @@ QStringList keywordsOf(ENUM flags, const QHash<QString, ENUM> &map)
     return keywords;
 }
 
-/** The keyword of the value, or those of its bits when the value has none of its own. */
+/** The keyword of the value; if it has none, those of its bits. */
 template <typename ENUM>
 QString keywordOf(const PxEnumWrapper<ENUM> &wrapper)
 {

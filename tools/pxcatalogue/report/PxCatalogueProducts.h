@@ -7,12 +7,11 @@
 
 class PxProductTypeConfigRegistry;
 
-/** Which products there are: those of the product types that have a product file. */
+/** The products of a catalogue: the product types that have a product file. */
 class PxCatalogueProducts
 {
 public:
-    /** Those of a registry, by class, then by name; also what is not on offer, as it has no size.
-     */
+    /** By class, then by name; also those that are not on offer because they have no size. */
     static PxProductTypeList of(const PxProductTypeConfigRegistry *registry);
     /** The names of the current products and of the legacy ones. */
     static QStringList names();
@@ -22,10 +21,10 @@ public:
     /** Products of earlier catalogues are never on offer. */
     static bool isOffered(const PxProductTypeConfigRegistry *registry, const PxProductType &type);
 
-    /** The keyword of its class. */
+    /** The keyword of the product class. */
     static QString className(const PxProductType &type);
-    /** By class, then by name: the library answers in the order of a hash. */
+    /** By class, then by name. The library returns them in the order of a hash. */
     static PxProductTypeList sorted(PxProductTypeList types);
-    /** The names, in that order. */
+    /** The names in the order of sorted(). */
     static QJsonArray nameArray(const PxProductTypeList &types);
 };

@@ -46,12 +46,12 @@ QJsonArray backgroundCategoriesOf(const PxProductTypeDescription *product)
 }
 
 /**
- * `wanted`, or when that is 0 the page count with which the product is sold; lowered, with a
- * warning, when it is too large.
+ * `wanted`, or if that is 0 the page count with which the product is sold. A count that is too
+ * large is lowered with a warning.
  */
 int shownPageCount(const PxProductTypeDescription &product, const QList<int> &offered, int wanted)
 {
-    // Every entry of the page list may stand for that many pages: a million is enough for anyone.
+    // Each entry of the page list may mean that many pages, so the total is limited, too.
     const int entries = qMax(1, product.countAbstractPages());
     const int limit = qBound(1, 1000000 / entries, PxProductReport::maximumPageCount);
     const int soldWith = product.defaultSellingPages();
@@ -63,7 +63,7 @@ int shownPageCount(const PxProductTypeDescription &product, const QList<int> &of
     return limit;
 }
 
-/** All that makes a surrounding equal to another one, in an order that is strict. */
+/** All that distinguishes surroundings, as a key with a strict order. */
 auto orderOf(const PxSurroundingDescription &surrounding)
 {
     const QRect rect = surrounding.imageRect();
@@ -74,7 +74,7 @@ auto orderOf(const PxSurroundingDescription &surrounding)
                            rect.bottom());
 }
 
-/** The next smaller one and the next larger one, as far as there are any; none if it is offered. */
+/** The next smaller and the next larger one, if there are any; nothing if the count is offered. */
 QList<int> nearestPageCounts(const QList<int> &offered, int pageCount)
 {
     const auto larger = std::lower_bound(offered.begin(), offered.end(), pageCount);
@@ -100,7 +100,7 @@ void warnOfPageCount(const PxProductType &type, int pageCount, const QList<int> 
     qWarning("%s", qUtf8Printable(text));
 }
 
-/** A product as it is shown: with so many pages, in a theme. */
+/** The product with the page count and the theme in which it is shown. */
 struct Shown
 {
     const PxProductTypeConfigRegistry *registry;
@@ -110,8 +110,8 @@ struct Shown
     QList<int> offeredPageCounts = product->offeredPageCounts();
     int pageCount = 0;
     QList<PxPageContext> pages = {};      // all pages in their order, covers included
-    QList<PxPageContext> kinds = {};      // each of them once
-    QVector<QList<int>> pagesOfKind = {}; // the same index
+    QList<PxPageContext> kinds = {};      // the different ones among them
+    QVector<QList<int>> pagesOfKind = {}; // by the index of the kind
 };
 
 void addPagesTo(Shown *shown)
@@ -307,12 +307,11 @@ void addBarcodes(const Shown &shown, PxReport *report)
 
 QString defaultTemplate(const Shown &shown, const PxPageContext &kind, DefaultTemplateType type)
 {
-    if (!shown.themeId
-             .isEmpty()) // as the editor asks: it has a background of its own for empty pages
-        return PxProductContext(shown.type, shown.themeId)
-            .defaultTemplateForPage(type == DefaultTemplateTypeLayout, kind, true);
-    return shown.product->findDefaultTemplate(PxDefaultTemplateKey("normal", kind, type), true,
-                                              true);
+    if (shown.themeId.isEmpty())
+        return shown.product->findDefaultTemplate({"normal", kind, type}, true, true);
+    // As the editor asks, which has a background of its own for empty pages.
+    return PxProductContext(shown.type, shown.themeId)
+        .defaultTemplateForPage(type == DefaultTemplateTypeLayout, kind, true);
 }
 
 void addTemplates(const Shown &shown, PxReport *report)
@@ -467,7 +466,7 @@ void addRedirects(const Shown &shown, PxReport *report)
 {
     QVector<QJsonArray> contents;
     QVector<QJsonArray> rotations;
-    for (int page = -1; page < shown.pages.size(); ++page) { // -1 stands for no page of the product
+    for (int page = -1; page < shown.pages.size(); ++page) { // -1 means no page of the product
         const int target = shown.product->contentDropRedirect(page);
         if (target != page)
             contents.append({page, target});

@@ -14,11 +14,10 @@ public:
     static constexpr int maximumPageCount = 9999;
 
     /**
-     * A product of this registry, the current one or the legacy one.
+     * The product as this registry describes it, which is the current one or the legacy one.
      *
-     * With `pageCount` 0 the product has as many pages as it is sold with; any other number with
-     * which it is not offered causes a warning. With a theme, which is for current products only,
-     * it is designed in that.
+     * A `pageCount` of 0 means the one with which the product is sold; any other number that is not
+     * offered causes a warning. A theme is for current products only; its id may be empty.
      */
     static PxReport of(const PxProductTypeConfigRegistry *registry, const PxProductType &type,
                        int pageCount, const QString &themeId);

@@ -5,11 +5,11 @@
 class PxProductTypeConfigRegistry;
 class PxReport;
 
-/** Products below each other, with what distinguishes them. */
+/** A table of products. */
 class PxProductTable
 {
 public:
-    /** The registry describes them. */
+    /** The products must be those of the registry. */
     static void addTo(PxReport *report, const PxProductTypeConfigRegistry *registry,
                       const PxProductTypeList &products);
 };

@@ -5,7 +5,7 @@
 namespace {
 
 constexpr int formatVersion = 1; // a new member keeps it, any other change of JSON raises it
-constexpr int labelWidth = 22;   // one width for all sections, so that the values stand in a line
+constexpr int labelWidth = 22;   // the same in all sections, so that the values are aligned
 
 PxTextTable::Kind kindOf(PxReportFormat format)
 {

@@ -10,8 +10,8 @@
 /**
  * What a command answers: sections of single values and of tables, for people and as JSON.
  *
- * Both come from the same values. What a product does not have, an empty text, list or table, is
- * left out of the text; in JSON it is there and empty.
+ * Both come from the same values. Empty texts, lists and tables are left out of the text; JSON
+ * has them.
  */
 class PxReport
 {

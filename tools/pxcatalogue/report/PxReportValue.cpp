@@ -11,7 +11,7 @@ namespace {
 
 QString lengthText(const QJsonValue &tenths)
 {
-    const auto value = qint64(tenths.toDouble()); // an int holds all but the largest sums
+    const auto value = qint64(tenths.toDouble()); // sums of lengths may exceed an int
     return QString::number(double(value) / 10.0, 'f', value % 10 == 0 ? 0 : 1);
 }
 
@@ -41,8 +41,8 @@ QString pageCountsText(const QJsonValue &counts)
 }
 
 /**
- * The index behind a run of neighbours, or of every second number, that begins at `first`. Numbers
- * below 0 are in none: "-3--1" would be hard to read.
+ * The index behind a run that begins at `first`: of successive numbers, or of every second one.
+ * Runs have no numbers below 0, as "-3--1" is hard to read.
  */
 int endOfRun(const QJsonArray &numbers, int first)
 {

@@ -8,7 +8,7 @@
 class PxMargins;
 class QRect;
 
-/** How a value of a report is written for people. JSON has all of them as they are. */
+/** How a value of a report is written as text. JSON has the value itself. */
 enum class PxReportFormat {
     Plain,  // texts, numbers, flags and lists of them
     Key,    // the same in a column that is not shortened to fit
@@ -21,18 +21,18 @@ enum class PxReportFormat {
     Points,
     Pixels, // a size
     PageCounts,
-    PageNumbers, // a list in which runs are drawn together
-    CountOrAll,  // a list in which none stands for all
+    PageNumbers, // a list; runs are written as "3-7"
+    CountOrAll,  // a list; an empty one means all
     JsonOnly,
 };
 
-/** The values of a report: made for JSON, from which the text for people is made. */
+/** The values of a report, as JSON; the text is made from that. */
 class PxReportValue
 {
 public:
-    /** Null for a size that nobody has set. */
+    /** Null for an invalid size. */
     static QJsonValue size(const QSize &size) { return PxReportValue::size(QSizeF(size)); }
-    /** Rounded; two lengths may be more than an int holds. */
+    /** Rounded. The sum of two lengths may exceed an int. */
     static QJsonValue size(const QSizeF &size);
     static QJsonValue rect(const QRect &rect);
     static QJsonValue margins(const PxMargins &margins);
@@ -41,7 +41,7 @@ public:
     /**
      * Keyword and display name of an attribute; null for a product without it.
      *
-     * The display name is empty when the library has only its word for the unknown.
+     * The display name is empty if the library has only its word for "unknown".
      */
     template <typename Wrapper>
     static QJsonValue name(const Wrapper &attribute)
@@ -55,7 +55,7 @@ public:
     static QJsonValue pageCounts(const QList<int> &offered, int increment);
     static QJsonValue numbers(const QList<int> &numbers);
 
-    /** Without unit; empty for a value that says nothing: null, an empty text or list. */
+    /** Without unit; empty for null, an empty text and an empty list. */
     static QString text(const QJsonValue &value, PxReportFormat format);
     /** The unit of the text, with a blank before it; empty when it has none. */
     static QString unit(PxReportFormat format);

@@ -9,9 +9,9 @@
 namespace {
 
 constexpr int gap = 2;
-constexpr int legible = 3; // what a shortened text has at least
+constexpr int legible = 3; // the least width of a shortened text
 
-/** No text is longer, whatever its column: it would be repeated as blanks in each other row. */
+/** Limits every text, as all other rows are padded to the longest one. */
 constexpr int maximumWidth = 1000;
 
 } // namespace

@@ -6,15 +6,15 @@
 /**
  * Lines of aligned columns that fit a width: texts are shortened, never wrapped.
  *
- * Where that is not enough, the lines lose their ends. A text without end is shortened in any case.
+ * If that is not enough, the lines are cut off. Extremely long texts are always shortened.
  */
 class PxTextTable
 {
 public:
     enum class Kind {
-        Key,    // not shortened to fit: it is copied from the table, or too short to lose anything
-        Text,   // shortened as far as it must be
-        Number, // aligned to the right, never shortened: it would be another number
+        Key,    // not shortened to fit: users copy it, or it is short anyway
+        Text,   // shortened as far as necessary
+        Number, // aligned to the right; never shortened, which would change the number
     };
 
     void addColumn(const QString &heading, Kind kind);

@@ -50,7 +50,7 @@ std::optional<PxProblem> check(const PxCommandLine &line, const PxCheckOptions &
     return std::nullopt;
 }
 
-/** Without what a baseline hides. */
+/** Reads, writes and applies the baseline around the check. */
 std::optional<PxProblem> checkWithBaseline(const PxCommandLine &line, const PxCheckOptions &options,
                                            PxCheckReport *report)
 {

@@ -7,7 +7,7 @@ class PxCheckCommand : public PxCommand
 {
 public:
     PxCommandUsage usage() const override;
-    /** What the library complains about the checks find, too, and say better. */
+    /** No: the findings say the same, with the place. */
     bool showsWarnings() const override { return false; }
     PxExitStatus run(const PxCommandLine &line) const override;
 };

@@ -30,7 +30,7 @@ constexpr const char *markdownStart =
     "\n"
     "| Limit | Value |\n"
     "|---|---|\n"
-    "| findings of one tag that are told of a file; the last one says how many more there are | "
+    "| findings of one tag that are listed for a file; the last one says how many more there are | "
     "%1 |\n"
     "| letters of a message | %2 |\n"
     "| entries of a list that are checked | %3 |\n"
@@ -43,7 +43,7 @@ QString severityOf(const PxCheckTag &tag)
     return PxCheckTags::severityName(tag.severity);
 }
 
-/** Without the mark, which is only for the place of the finding. */
+/** Without the mark at the place of the finding. */
 QString exampleOf(const PxCheckTag &tag)
 {
     return QString::fromUtf8(tag.bad).remove(QChar(0x00BB));
@@ -57,7 +57,7 @@ QString indented(const QString &text)
     return "    " + lines.replace('\n', "\n    ") + '\n';
 }
 
-/** The example with a line below the place of the finding that points at it. */
+/** The example, with a line that points at the place of the finding. */
 QString pointedExampleOf(const PxCheckTag &tag)
 {
     const QString bad = QString::fromUtf8(tag.bad);

@@ -4,14 +4,14 @@
 
 #include <QString>
 
-/** What the tags of findings mean: one of them, or all. */
+/** Explains the tags of findings. */
 class PxCheckExplanation
 {
 public:
-    /** All that is known about one. */
+    /** One tag, with its example. */
     static QString of(const PxCheckTag &tag);
-    /** A line for each. */
+    /** A line for each tag. */
     static QString table();
-    /** All that is known about all, as the documentation has it. */
+    /** All tags with their examples: the page of the documentation. */
     static QString markdown();
 };

@@ -110,9 +110,9 @@ std::optional<PxProblem> PxCheckFiles::findFiles(const Directory &directory)
         const QString name = entry.fileName();
         const QString path = join(place, name);
         const bool hasEnding = name.endsWith(".xml", directory.ending);
-        // Other directories and hidden files are no files that got a wrong name.
+        // Directories and hidden files are not there by a wrong name.
         const bool isElsewhere = entry.isDir() || entry.isHidden();
-        // A copy or a version of such a file; other files, as images, may well lie beside themes.
+        // Such as a backup copy. Other files, for example images, may lie beside themes.
         const bool looksLikeXml = name.contains(".xml", Qt::CaseInsensitive);
         if (hasEnding && entry.isFile() && !entry.isHidden())
             directory.files->append(path);
@@ -144,14 +144,14 @@ std::optional<PxProblem> PxCheckFiles::findSingleFiles()
     return findKnownThemes(known);
 }
 
-/** The files of themes that are not checked themselves. */
+/** Finds the theme files that are not checked themselves. */
 std::optional<PxProblem> PxCheckFiles::findKnownThemes(const QSet<QString> &checked)
 {
     QStringList all;
     const auto problem = findFiles(themes(&all));
-    m_paths.strays.clear(); // nobody asked for these
+    m_paths.strays.clear(); // only what the user named is checked
     m_paths.undecodableNames.clear();
-    // A message that names both shall be the same wherever the catalogue lies.
+    // Messages that name both files must not depend on where the catalogue lies.
     const bool areRelative = std::all_of(m_given.begin(), m_given.end(), QDir::isRelativePath);
     for (const QString &path : qAsConst(all)) {
         if (checked.contains(absolute(path)))
@@ -164,8 +164,8 @@ std::optional<PxProblem> PxCheckFiles::findKnownThemes(const QSet<QString> &chec
 }
 
 /**
- * What a file is follows from the directory that it lies in, as for the library, and elsewhere from
- * its document element. Returns false for a second file of a kind of which a catalogue has one.
+ * The directory of a file decides what kind it is, as in the library; elsewhere its document
+ * element does. Returns false for a second file of a kind of which a catalogue has only one.
  */
 bool PxCheckFiles::addSingleFile(const QString &path)
 {
@@ -195,7 +195,7 @@ bool PxCheckFiles::addSingleFile(const QString &path)
     return isFirst;
 }
 
-/** As the user gave it: the directory as it was written, and what is in it. */
+/** The path as the user would write it: below the directory as it was given. */
 QString PxCheckFiles::shown(const QString &absolutePath) const
 {
     QString name;

@@ -12,26 +12,26 @@
 
 class PxCommandLine;
 
-/** Finds the files that are to be checked, in the directories that the library reads. */
+/** Finds the files to check, in the directories that the library reads. */
 class PxCheckFiles
 {
 public:
     explicit PxCheckFiles(const PxCommandLine &line);
 
-    /** A problem is one of the paths. */
+    /** Returns what is wrong with the paths. */
     std::optional<PxProblem> find();
 
     PxCheckPaths paths() const { return m_paths; }
-    /** What the files are called in the catalogue, by their path. */
+    /** The names of the files within the catalogue, by their path. */
     QHash<QString, QString> catalogueNames() const { return m_catalogueNames; }
 
 private:
     struct Directory
     {
         QString path;
-        QString name;               ///< in a catalogue
-        Qt::CaseSensitivity ending; ///< as the library finds files there
-        QStringList *files;         ///< takes those that it reads
+        QString name;               ///< within the catalogue
+        Qt::CaseSensitivity ending; ///< how the library compares the ending of files
+        QStringList *files;         ///< the list for the files that the library reads
     };
 
     std::optional<PxProblem> findCatalogue();
@@ -43,8 +43,8 @@ private:
     std::optional<PxProblem> findFiles(const Directory &directory);
     QString shown(const QString &absolutePath) const;
 
-    const QStringList m_given;         // paths
-    QHash<QString, QString> m_shownOf; // directories as they were given, by absolute path
+    const QStringList m_given;         // the paths to check
+    QHash<QString, QString> m_shownOf; // directories as the user wrote them, by absolute path
     PxCheckPaths m_paths;
     QHash<QString, QString> m_catalogueNames;
 };

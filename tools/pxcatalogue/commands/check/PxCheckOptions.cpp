@@ -22,7 +22,7 @@ constexpr struct
     {"markdown", Format::Markdown, false, true},
 };
 
-/** Each value may hold several, with commas. */
+/** Splits the values at their commas. */
 QStringList partsOf(const QStringList &values)
 {
     QStringList parts;

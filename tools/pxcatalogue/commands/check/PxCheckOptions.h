@@ -13,13 +13,13 @@
 class PxCommandLine;
 struct PxOption;
 
-/** The options of the command "check", understood. */
+/** The options of the command "check", decoded. */
 class PxCheckOptions
 {
 public:
     enum class Format { Text, Json, Sarif, Markdown };
 
-    /** What --help says about them. */
+    /** All of them, as --help shows them. */
     static QVector<PxOption> all();
 
     explicit PxCheckOptions(const PxCommandLine &line);
