@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <QString>
 #include <QTranslator>
 
 namespace {

@@ -4,6 +4,9 @@
 #include "commands/PxOption.h"
 #include "writing/PxTerminal.h"
 
+#include <QString>
+#include <QVector>
+
 class PxCommandLine;
 
 /** The name, purpose, arguments and options of a command, as --help shows them. */

@@ -7,6 +7,9 @@
 
 #include <PxProductProperties.h>
 
+#include <QJsonArray>
+#include <QVector>
+
 PxCommandUsage PxCompatibleCommand::usage() const
 {
     // clang-format off

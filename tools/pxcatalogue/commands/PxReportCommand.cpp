@@ -8,6 +8,8 @@
 
 #include <PxProductProperties.h>
 
+#include <QStringList>
+
 namespace {
 
 QString suggestionOf(const QStringList &names, const QString &name)

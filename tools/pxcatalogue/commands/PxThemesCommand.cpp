@@ -6,6 +6,9 @@
 
 #include <PxProductProperties.h>
 
+#include <QJsonArray>
+#include <QVector>
+
 #include <algorithm>
 #include <limits>
 

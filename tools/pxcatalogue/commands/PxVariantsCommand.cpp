@@ -5,6 +5,10 @@
 
 #include <PxProductProperties.h>
 
+#include <QJsonArray>
+#include <QMap>
+#include <QVector>
+
 PxCommandUsage PxVariantsCommand::usage() const
 {
     return {"variants",

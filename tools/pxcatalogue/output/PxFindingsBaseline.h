@@ -6,6 +6,7 @@
 
 #include <QJsonArray>
 #include <QMap>
+#include <QString>
 
 #include <optional>
 

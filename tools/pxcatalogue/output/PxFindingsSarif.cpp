@@ -10,6 +10,7 @@
 #include <QHash>
 #include <QJsonArray>
 #include <QRegularExpression>
+#include <QStringList>
 #include <QUrl>
 
 namespace {

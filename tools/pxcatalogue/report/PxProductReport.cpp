@@ -5,6 +5,14 @@
 
 #include <PxProductProperties.h>
 
+#include <QHash>
+#include <QJsonArray>
+#include <QList>
+#include <QMap>
+#include <QRect>
+#include <QStringList>
+#include <QVector>
+
 #include <algorithm>
 #include <iterator>
 #include <tuple>

@@ -4,6 +4,8 @@
 
 #include <PxProductType.h>
 
+#include <QString>
+
 class PxProductTypeConfigRegistry;
 
 /** Everything that the library answers about one product of a certain page count. */

@@ -5,6 +5,9 @@
 
 #include <PxProductProperties.h>
 
+#include <QJsonArray>
+#include <QVector>
+
 namespace {
 
 using Format = PxReportFormat;

@@ -2,6 +2,8 @@
 
 #include "writing/PxTerminal.h"
 
+#include <QStringList>
+
 namespace {
 
 constexpr int formatVersion = 1; // a new member keeps it, any other change of JSON raises it

@@ -6,6 +6,8 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QString>
+#include <QVector>
 
 /**
  * What a command answers: sections of single values and of tables, for people and as JSON.

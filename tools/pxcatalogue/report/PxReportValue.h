@@ -3,7 +3,9 @@
 #include "report/PxCatalogueKeywords.h"
 
 #include <QJsonValue>
+#include <QList>
 #include <QSize>
+#include <QString>
 
 class PxMargins;
 class QRect;
