@@ -2,6 +2,9 @@
 
 #include "PxKeyword.h"
 
+#include <QHash>
+#include <QString>
+
 /** Who puts the printed parts together. */
 enum PxAssemblyWay : int {
     PxAssemblyWayNone = 0,

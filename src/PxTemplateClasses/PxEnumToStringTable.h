@@ -6,8 +6,11 @@
 
 #include <QDebug>
 #include <QHash>
+#include <QList>
 #include <QSet>
+#include <QString>
 #include <QStringList>
+#include <QStringView>
 
 #include <limits>
 #include <typeinfo>

@@ -3,6 +3,12 @@
 #include "PxCreateOnce.h"
 #include "PxEnumToStringTable.h"
 
+#include <QAtomicPointer>
+#include <QDebug>
+#include <QMutex>
+#include <QSet>
+#include <QString>
+
 /**
  * The base of the value classes over one bit-flag enumeration: a value, its bit operations and the
  * keyword table of the enumeration. 0 means no value (invalid).

@@ -2,6 +2,9 @@
 
 #include "PxKeyword.h"
 
+#include <QHash>
+#include <QString>
+
 /** Effects that are applied to every image of a product; a set of flags. */
 enum PxImageFXs : int {
     PxImageFXsNone = 0,

@@ -2,7 +2,10 @@
 
 #include "PxKeyword.h"
 
+#include <QHash>
 #include <QList>
+#include <QString>
+#include <QStringView>
 
 /** Where on a spread a page lies, or something on a page; a set of flags. */
 enum PxPageAlignment : int {

@@ -2,6 +2,9 @@
 
 #include "PxKeyword.h"
 
+#include <QHash>
+#include <QString>
+
 /** How the editor names the pages of a product; a set of flags, 0 is unknown. */
 enum PxPageNamingStyle : int {
     PxPageNamingStyleUnknown = 0,

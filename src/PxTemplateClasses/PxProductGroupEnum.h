@@ -2,6 +2,9 @@
 
 #include "PxKeyword.h"
 
+#include <QHash>
+#include <QString>
+
 /** The group under which the shop offers a product; a set of flags, 0 is unknown. */
 enum PxProductGroupEnum : int {
     PxProductGroupUnknown = 0,

@@ -2,6 +2,9 @@
 
 #include "PxKeyword.h"
 
+#include <QHash>
+#include <QString>
+
 /** What the image around or over a page shows; a set of flags, 0 is no surrounding. */
 enum PxSurroundingType : int {
     PxSurroundingTypeNone = 0,

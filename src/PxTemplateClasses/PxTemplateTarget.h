@@ -2,6 +2,9 @@
 
 #include "PxKeyword.h"
 
+#include <QHash>
+#include <QString>
+
 /** The kind of product that a template is made for; a set of flags, 0 is unknown. */
 enum PxTemplateTarget : int {
     PxTemplateTargetUnknown = 0,

@@ -4,6 +4,8 @@
 
 #include <PxProductType.h>
 
+#include <QString>
+
 class QDebug;
 class QDomElement;
 

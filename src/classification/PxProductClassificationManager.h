@@ -3,6 +3,7 @@
 #include "classification/PxProductClassification.h"
 
 #include <QList>
+#include <QString>
 #include <QStringList>
 
 /**

@@ -6,6 +6,8 @@
 
 #include <QDebug>
 #include <QDomElement>
+#include <QList>
+#include <QString>
 #include <QStringList>
 
 namespace {

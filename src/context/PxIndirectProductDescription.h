@@ -6,6 +6,8 @@
 #include <PxOrientation.h>
 #include <PxTemplateTarget.h>
 
+#include <QtGlobal>
+
 class PxProductContext;
 class QDebug;
 class QDomElement;

@@ -19,9 +19,12 @@
 #include <PxPageNamingStyle.h>
 #include <PxProductTypeList.h>
 
+#include <QList>
 #include <QMetaType>
 #include <QSharedDataPointer>
+#include <QSize>
 #include <QSizeF>
+#include <QString>
 
 class QDebug;
 

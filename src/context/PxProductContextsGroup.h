@@ -5,7 +5,11 @@
 
 #include <PxProductTypeList.h>
 
+#include <QString>
+#include <QStringList>
+
 class QDebug;
+class QDomElement;
 
 /**
  * The product types and themes in which a document or an offer may be realised.

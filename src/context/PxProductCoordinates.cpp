@@ -1,5 +1,6 @@
 #include "context/PxProductCoordinates.h"
 
+#include <QRect>
 #include <QRectF>
 #include <QtMath>
 

@@ -2,6 +2,9 @@
 
 #include <PxCreateOnce.h>
 
+#include <QAtomicPointer>
+#include <QMutex>
+
 PxProductGroupPropertyManager *PxProductGroupPropertyManager::instance()
 {
     static QAtomicPointer<PxProductGroupPropertyManager> ourInstance;

@@ -4,7 +4,9 @@
 
 #include <PxProductGroup.h>
 
+#include <QColor>
 #include <QMap>
+#include <QString>
 
 /**
  * The properties of each product group, born with defaults when they are first asked for.

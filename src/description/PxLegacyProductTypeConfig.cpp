@@ -4,6 +4,9 @@
 
 #include <PxCreateOnce.h>
 
+#include <QAtomicPointer>
+#include <QMutex>
+
 PxLegacyProductTypeConfig::~PxLegacyProductTypeConfig() = default;
 
 PxLegacyProductTypeConfig *PxLegacyProductTypeConfig::instance()

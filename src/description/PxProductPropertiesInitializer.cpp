@@ -12,6 +12,8 @@
 #include <QDebug>
 #include <QDir>
 #include <QFileInfo>
+#include <QString>
+#include <QStringList>
 
 namespace {
 

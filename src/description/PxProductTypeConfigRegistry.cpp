@@ -7,7 +7,10 @@
 #include <PxDirectoryConfig.h>
 #include <PxProductCheckerRegistry.h>
 
+#include <QAtomicPointer>
 #include <QDir>
+#include <QMutex>
+#include <QPair>
 
 #include <algorithm>
 

@@ -7,7 +7,10 @@
 #include <PxProductTypeList.h>
 
 #include <QHash>
+#include <QList>
 #include <QSizeF>
+#include <QString>
+#include <QStringList>
 #include <QVector>
 
 class QDir;

@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QDomElement>
 #include <QFileInfo>
+#include <QHash>
 
 #include <algorithm>
 

@@ -23,8 +23,10 @@
 #include <PxImageFXs.h>
 #include <PxPageNamingStyle.h>
 
+#include <QList>
 #include <QPair>
 #include <QSize>
+#include <QString>
 #include <QStringList>
 #include <QVector>
 

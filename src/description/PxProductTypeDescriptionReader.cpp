@@ -9,6 +9,7 @@
 #include <QDebug>
 #include <QDomElement>
 #include <QFileInfo>
+#include <QString>
 
 #include <utility>
 

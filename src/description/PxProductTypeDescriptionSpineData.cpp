@@ -6,6 +6,7 @@
 
 #include <QDebug>
 #include <QDomElement>
+#include <QString>
 
 PxProductTypeDescriptionSpineData::PxProductTypeDescriptionSpineData(const QDomElement &spine)
     : m_width(PxXMLParser::intAttribute(spine, QStringLiteral("width"), 0))

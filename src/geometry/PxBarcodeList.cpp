@@ -3,6 +3,7 @@
 #include <PxXMLParser.h>
 
 #include <QDomElement>
+#include <QString>
 
 #include <algorithm>
 

@@ -4,6 +4,7 @@
 #include <PxXMLParser.h>
 
 #include <QDomElement>
+#include <QString>
 
 #include <algorithm>
 

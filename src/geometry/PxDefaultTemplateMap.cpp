@@ -5,6 +5,8 @@
 #include <PxListParts.h>
 
 #include <QDomElement>
+#include <QPair>
+#include <QStringView>
 
 #include <algorithm>
 #include <array>

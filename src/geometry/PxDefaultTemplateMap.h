@@ -3,6 +3,7 @@
 #include "geometry/PxDefaultTemplateKey.h"
 
 #include <QMap>
+#include <QString>
 #include <QVector>
 
 class QDomElement;

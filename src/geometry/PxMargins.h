@@ -3,7 +3,9 @@
 #include "geometry/PxMarginsImpl.h"
 
 #include <QMetaType>
+#include <QPoint>
 #include <QSharedDataPointer>
+#include <QSize>
 
 class QDebug;
 

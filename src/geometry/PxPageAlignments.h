@@ -3,6 +3,7 @@
 #include <PxPageAlignment.h>
 
 #include <QDomElement>
+#include <QString>
 
 /** The sides of the pages that an element is for: its "alignment", all single pages by default. */
 inline PxPageAlignment pxPageAlignments(const QDomElement &element)

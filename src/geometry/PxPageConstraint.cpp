@@ -4,6 +4,8 @@
 
 #include <QDebug>
 #include <QDomElement>
+#include <QList>
+#include <QString>
 
 #include <algorithm>
 

@@ -4,6 +4,8 @@
 
 #include <PxEmptyMeansAllSet.h>
 
+#include <QtGlobal>
+
 class QDebug;
 class QDomElement;
 

@@ -2,6 +2,8 @@
 
 #include "geometry/PxPageContext.h"
 
+#include <QtGlobal>
+
 class QDebug;
 
 /** Under which page sizes are looked up: a kind of page in a product of so many pages. */

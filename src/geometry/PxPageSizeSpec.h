@@ -4,6 +4,7 @@
 
 #include <PxOrientation.h>
 
+#include <QPoint>
 #include <QSize>
 
 class QDebug;

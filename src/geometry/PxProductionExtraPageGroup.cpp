@@ -5,6 +5,7 @@
 
 #include <QDebug>
 #include <QDomElement>
+#include <QString>
 
 namespace {
 

@@ -1,6 +1,7 @@
 #include "geometry/PxProductionExtraPageGroupList.h"
 
 #include <QDomElement>
+#include <QString>
 
 PxProductionExtraPageGroupList::PxProductionExtraPageGroupList(
     const QDomElement &extraProductionPages)

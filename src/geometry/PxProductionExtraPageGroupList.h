@@ -2,6 +2,10 @@
 
 #include "geometry/PxProductionExtraPageGroup.h"
 
+#include <QList>
+
+class QDomElement;
+
 /** The extra pages of a product, in the order of its file. */
 class PXPRODUCTPROPERTIES_EXPORT PxProductionExtraPageGroupList
     : public QList<PxProductionExtraPageGroup>

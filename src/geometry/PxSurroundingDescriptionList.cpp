@@ -1,6 +1,7 @@
 #include "geometry/PxSurroundingDescriptionList.h"
 
 #include <QDomElement>
+#include <QString>
 
 #include <algorithm>
 

@@ -4,6 +4,8 @@
 
 #include <QList>
 
+class QDomElement;
+
 /** The surroundings of a product, in the order of its file. */
 class PXPRODUCTPROPERTIES_EXPORT PxSurroundingDescriptionList
     : public QList<PxSurroundingDescription>

@@ -2,6 +2,8 @@
 
 #include "geometry/PxPageContext.h"
 
+#include <QtGlobal>
+
 class QDebug;
 
 /** Under which surroundings are looked up: a kind of page, and which page it is. */

@@ -3,6 +3,7 @@
 #include "themes/PxUnpackedSize.h"
 
 #include <QBuffer>
+#include <QIODevice>
 #include <QImage>
 #include <QImageReader>
 

@@ -3,8 +3,10 @@
 #include "themes/PxThematicCategory.h"
 
 #include <QSet>
+#include <QString>
 #include <QStringList>
 
+class QDebug;
 class QDomElement;
 
 /** The thematic categories that something belongs to. It may hold two spellings of one category. */

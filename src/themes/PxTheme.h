@@ -2,7 +2,14 @@
 
 #include "themes/PxThemeConfig.h"
 
+#include <QDateTime>
+#include <QExplicitlySharedDataPointer>
+#include <QImage>
+#include <QMap>
 #include <QMetaType>
+#include <QPair>
+#include <QRect>
+#include <QString>
 
 class QDebug;
 

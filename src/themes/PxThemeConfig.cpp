@@ -1,5 +1,7 @@
 #include "themes/PxThemeConfig.h"
 
+#include <QStringList>
+
 #include <algorithm>
 
 PxThemeConfig::PxThemeConfig()

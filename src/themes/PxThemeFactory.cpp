@@ -9,11 +9,18 @@
 #include <PxXMLLoader.h>
 #include <PxXMLParser.h>
 
+#include <QAtomicPointer>
+#include <QDateTime>
 #include <QDebug>
 #include <QDir>
 #include <QDomElement>
 #include <QFileInfo>
+#include <QImage>
+#include <QMutex>
+#include <QPair>
+#include <QRect>
 #include <QVarLengthArray>
+#include <QVector>
 
 #include <algorithm>
 

@@ -3,6 +3,8 @@
 #include "themes/PxThemeList.h"
 
 #include <QMap>
+#include <QString>
+#include <QStringList>
 
 class QDir;
 

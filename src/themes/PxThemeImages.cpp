@@ -4,8 +4,11 @@
 
 #include <QCoreApplication>
 #include <QDebug>
+#include <QFile>
 #include <QFileInfo>
+#include <QIODevice>
 #include <QImageReader>
+#include <QList>
 
 #include <atomic>
 #include <cstdlib>

@@ -2,6 +2,7 @@
 
 #include "PxProductPropertiesExport.h"
 
+#include <QByteArray>
 #include <QImage>
 #include <QMap>
 #include <QString>

@@ -3,6 +3,7 @@
 #include "themes/PxTheme.h"
 
 #include <QList>
+#include <QString>
 #include <QStringList>
 
 class PxThemeFactory;

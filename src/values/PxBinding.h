@@ -6,6 +6,7 @@
 #include <PxLookUpTable.h>
 
 #include <QMetaType>
+#include <QString>
 
 enum PxBindingEnum : int {
     PxBindingHardcover = 1,

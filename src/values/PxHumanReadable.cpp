@@ -5,9 +5,11 @@
 #include <PxMessageLimit.h>
 #include <PxXMLLoader.h>
 
+#include <QAtomicPointer>
 #include <QDebug>
 #include <QDomElement>
 #include <QFileInfo>
+#include <QMutex>
 
 PxHumanReadable *PxHumanReadable::instance()
 {

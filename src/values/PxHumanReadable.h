@@ -7,6 +7,7 @@
 
 #include <QMap>
 #include <QObject>
+#include <QString>
 
 /**
  * Display names of photo-paper finishes and of frame models.

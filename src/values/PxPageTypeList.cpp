@@ -1,5 +1,7 @@
 #include "values/PxPageTypeList.h"
 
+#include <QStringView>
+
 PxPageTypeList::PxPageTypeList(const QList<PxPageType> &pageTypes) : QList<PxPageType>(pageTypes) {}
 
 PxPageTypeList::PxPageTypeList(const QList<PxPageTypeEnum> &pageTypes)

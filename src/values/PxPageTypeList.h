@@ -3,6 +3,7 @@
 #include "values/PxPageType.h"
 
 #include <QList>
+#include <QString>
 
 /** The pages of a product, or the kinds of page that something is for, in order. */
 class PXPRODUCTPROPERTIES_EXPORT PxPageTypeList : public QList<PxPageType>

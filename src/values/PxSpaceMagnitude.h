@@ -6,6 +6,7 @@
 #include <PxLookUpTable.h>
 
 #include <QMetaType>
+#include <QString>
 
 enum PxSpaceMagnitudeEnum : int {
     PxSpaceMagnitudeUnknown = 0,

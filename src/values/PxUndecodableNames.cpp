@@ -1,7 +1,9 @@
 #include "values/PxUndecodableNames.h"
 
+#include <QByteArray>
 #include <QDebug>
 #include <QFile>
+#include <QString>
 
 #include <algorithm>
 

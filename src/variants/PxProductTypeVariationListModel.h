@@ -3,6 +3,7 @@
 #include "context/PxProductContext.h"
 
 #include <QAbstractListModel>
+#include <QString>
 
 /**
  * The product types that the current product can be exchanged for, for a list view: the same

@@ -4,6 +4,11 @@
 
 #include <PxCreateOnce.h>
 
+#include <QAtomicPointer>
+#include <QByteArray>
+#include <QMutex>
+#include <QStringList>
+
 #include <algorithm>
 #include <iterator>
 

@@ -10,6 +10,7 @@
 #include <QList>
 #include <QMap>
 #include <QPixmap>
+#include <QString>
 #include <QStringList>
 
 /**

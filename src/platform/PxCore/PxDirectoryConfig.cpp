@@ -2,10 +2,12 @@
 
 #include <PxCreateOnce.h>
 
+#include <QAtomicPointer>
 #include <QCoreApplication>
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
+#include <QMutex>
 #include <QStandardPaths>
 
 #include <algorithm>

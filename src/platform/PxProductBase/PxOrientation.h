@@ -5,6 +5,7 @@
 #include <PxEnumWrapper.h>
 
 #include <QMetaType>
+#include <QString>
 
 class QSizeF;
 

@@ -4,6 +4,9 @@
 
 #include <PxCreateOnce.h>
 
+#include <QAtomicPointer>
+#include <QMutex>
+
 PxPageOrganizationManager *PxPageOrganizationManager::instance()
 {
     static QAtomicPointer<PxPageOrganizationManager> ourInstance;

@@ -4,6 +4,9 @@
 
 #include <PxCreateOnce.h>
 
+#include <QAtomicPointer>
+#include <QMutex>
+
 #include <algorithm>
 
 PxProductCheckerRegistry *PxProductCheckerRegistry::instance()

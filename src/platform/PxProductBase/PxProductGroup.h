@@ -4,6 +4,8 @@
 
 #include <PxProductGroupEnum.h>
 
+#include <QString>
+
 class QDebug;
 
 /** The group under which the shop offers a product. */

@@ -7,8 +7,10 @@
 #include <PxXMLLoader.h>
 #include <PxXMLParser.h>
 
+#include <QAtomicPointer>
 #include <QDebug>
 #include <QDomElement>
+#include <QMutex>
 
 namespace {
 

@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QMap>
 #include <QPair>
+#include <QString>
 
 #include <deque>
 

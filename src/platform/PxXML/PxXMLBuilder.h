@@ -3,6 +3,7 @@
 #include "PxXMLExport.h"
 
 #include <QDomElement>
+#include <QString>
 
 /** Writes small pieces of XML. */
 class PXXML_EXPORT PxXMLBuilder

@@ -3,6 +3,8 @@
 #include "PxXMLFault.h"
 
 #include <QDomDocument>
+#include <QString>
+#include <QStringView>
 
 #include <array>
 #include <optional>

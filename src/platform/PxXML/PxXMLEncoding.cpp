@@ -1,6 +1,7 @@
 #include "PxXMLEncoding.h"
 
 #include <QRegularExpression>
+#include <QString>
 #include <QTextCodec>
 
 namespace {

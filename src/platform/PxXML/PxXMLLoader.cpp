@@ -3,6 +3,7 @@
 #include "PxXMLPlainReader.h"
 #include "PxXMLStrictReader.h"
 
+#include <QByteArray>
 #include <QDomImplementation>
 #include <QFile>
 

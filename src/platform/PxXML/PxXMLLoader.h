@@ -5,6 +5,7 @@
 
 #include <QDomDocument>
 #include <QFileInfo>
+#include <QString>
 
 /**
  * The gate through which XML files of unknown origin come in.

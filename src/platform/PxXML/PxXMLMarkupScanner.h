@@ -2,6 +2,8 @@
 
 #include "PxXMLFault.h"
 
+#include <QString>
+
 #include <optional>
 #include <string_view>
 

@@ -1,6 +1,8 @@
 #include "PxXMLParser.h"
 
+#include <QPoint>
 #include <QRegularExpression>
+#include <QStringView>
 
 #include <algorithm>
 #include <limits>

@@ -2,6 +2,8 @@
 
 #include "PxXMLLoader.h"
 
+#include <QStringView>
+
 #include <algorithm>
 #include <array>
 

@@ -3,6 +3,7 @@
 #include "PxXMLTextPool.h"
 
 #include <QDomDocument>
+#include <QString>
 
 #include <optional>
 #include <string_view>

@@ -4,6 +4,7 @@
 #include "PxXMLEncoding.h"
 #include "PxXMLMarkupScanner.h"
 
+#include <QString>
 #include <QTextCodec>
 #include <QXmlStreamReader>
 
