@@ -6,11 +6,14 @@
 #ifndef QT_NO_DEBUG
 #include <QtGlobal>
 
-/** While it exists, the thread is creating an object: none that asks for it meanwhile gets it. */
+/** Marks an object that this thread is creating, so that a second request for it is noticed. */
 class PxCreation
 {
 public:
-    /** Ends the program with a message where the thread would wait for itself. */
+    /**
+     * Ends the program with a message if this thread is already creating the object: it would wait
+     * for itself.
+     */
     explicit PxCreation(const void *object) : m_object(object), m_outer(ourInnermost)
     {
         for (const PxCreation *creation = m_outer; creation; creation = creation->m_outer) {
@@ -32,14 +35,16 @@ private:
 #endif
 
 /**
- * Answers the object that `instance` points to, and creates it when it is first asked for.
+ * Returns the object that `instance` points to, and creates it on first use.
  *
- * From several threads it is created once, under `mutex`, and published when it is complete: the
- * pointer alone tells a reader that all is there, locked or not. The object lives until the process
- * ends. Pointer and mutex are function-local statics of the caller, neither of which is destroyed:
- * that is why the mutex is no QMutex. `create` runs under the lock and must not ask for the same
- * instance, nor may a message handler that hears of it: without QT_NO_DEBUG that ends the program
- * with a message, else it waits for ever.
+ * If several threads ask at once, one of them creates the object under `mutex` and publishes the
+ * pointer when the object is complete, so that readers need no lock. The object lives until the
+ * process ends. Pointer and mutex are function-local statics of the caller and never destroyed,
+ * which is why the mutex is a QBasicMutex.
+ *
+ * `create` runs under the lock. Neither `create` nor a message handler that it calls by logging may
+ * ask for the same instance: a debug build then ends the program with a message, and a build with
+ * QT_NO_DEBUG waits forever.
  */
 template <typename T, typename Create>
 T *pxCreateOnce(QAtomicPointer<T> &instance, QBasicMutex &mutex, Create create)

@@ -14,11 +14,11 @@ class PxEmptyMeansAllSet : public QSet<T>
 {
 public:
     using QSet<T>::QSet;
-    /** As the operators of QSet answer. */
+    /** Takes the result of an operator of QSet. */
     PxEmptyMeansAllSet(const QSet<T> &set) : QSet<T>(set) {}
 
     bool sharesKey(const T &key) const { return this->isEmpty() || this->contains(key); }
-    /** Those of the keys that the set admits, in their order. */
+    /** The given keys that the set admits, in their order. */
     QList<T> sharedKeys(QList<T> keys) const
     {
         const auto isNotShared = [this](const T &key) { return !sharesKey(key); };
@@ -29,12 +29,15 @@ public:
     {
         return this->isEmpty() || other.isEmpty() || sharesRealKeysWith(other);
     }
-    /** Has an element in common; "every value" counts for nothing here. */
+    /**
+     * Has an element in common with the other set. Empty sets have none, although they admit every
+     * value.
+     */
     bool sharesRealKeysWith(const PxEmptyMeansAllSet<T> &other) const
     {
         return this->intersects(other);
     }
-    /** The elements in ascending order: that of the set itself changes from run to run. */
+    /** The elements in ascending order. The order of the set itself changes from run to run. */
     QList<T> sorted() const
     {
         QList<T> values = this->values();

@@ -18,16 +18,16 @@
 /**
  * The two-way table between the keywords of the files and the flag values of one enumeration.
  *
- * Keywords are found in any case and with white space around them. Other threads may read the table
- * at any time, so keywords are inserted before they start.
+ * Keywords are found in any case and with white space around them. Insert all keywords before other
+ * threads start: they read the table without a lock.
  */
 template <typename ENUM>
 class PxEnumToStringTable
 {
 public:
     /**
-     * Adds a keyword, without white space around it, or gives it another value. The first one of a
-     * value is the one that encoding yields, as spelled here.
+     * Adds a keyword, without white space around it, or replaces its value. Encoding writes the
+     * keyword that was inserted first for a value, as it is spelled here.
      */
     void insert(const QString &keyword, ENUM value)
     {
@@ -42,9 +42,9 @@ public:
             insert(QString::fromLatin1(row.keyword), row.value);
     }
 
-    /** What each undecodable part of a list adds; 0 unless set. */
+    /** The value that each undecodable part of a list adds; 0 by default. */
     void setDefaultValue(ENUM value) { m_defaultValue = value; }
-    /** What a value without keyword is encoded as; empty unless set. */
+    /** The text for a value without a keyword; empty by default. */
     void setDefaultString(const QString &text) { m_defaultString = text; }
 
     /** The value of one keyword, or `fallback` for any other text. */
@@ -56,9 +56,9 @@ public:
     /**
      * The union of a comma-separated list of keywords.
      *
-     * A part that is no keyword, an empty one too, adds the default value and is logged at debug
-     * level, as far as pxMaximumMessages goes; an empty text gives the default value without a
-     * word.
+     * A part that is not a keyword, even an empty one, adds the default value and is logged at
+     * debug level, at most `pxMaximumMessages` of them one by one. An empty text gives the default
+     * value and logs nothing.
      */
     ENUM decodeCSV(const QString &keywords) const
     {
@@ -68,13 +68,16 @@ public:
         return value;
     }
 
-    /** The same for one of several texts, whose parts without keyword are counted together. */
+    /**
+     * The same for one of several texts. `undecodable` counts the undecodable parts of all of them,
+     * so that together they log no more than one text.
+     */
     ENUM decodeCSV(const QString &keywords, int &undecodable) const
     {
         return decodeParts(keywords, undecodable, Q_FUNC_INFO);
     }
 
-    /** To be called after the last of several texts: how many were not logged. */
+    /** Logs how many undecodable parts were not logged one by one. Call it after the last text. */
     static void reportMoreUndecodable(int undecodable)
     {
         if (undecodable > pxMaximumMessages)
@@ -111,7 +114,7 @@ public:
     }
 
 private:
-    // The sign bit alone: no keyword can stand for it, for it splits into no bits.
+    // The sign bit alone: no keyword has this value, because it splits into no bits.
     static constexpr ENUM noValue = static_cast<ENUM>(std::numeric_limits<int>::min());
 
     ENUM decodeParts(const QString &keywords, int &undecodable, const char *function) const

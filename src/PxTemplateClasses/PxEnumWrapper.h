@@ -60,8 +60,9 @@ public:
     virtual PxEnumWrapper &expandedTo(ENUM bits) { return assign(m_value | bits); }
     virtual bool isValid() const { return !isNull(); }
     /**
-     * Inserts the keywords and sets the defaults of the enumeration. Called once in a process,
-     * while whoever else asks for the table waits: it must not decode or encode this enumeration.
+     * Inserts the keywords and sets the defaults of the enumeration. It is called once per process,
+     * while other threads that ask for the table wait, and must not decode or encode this
+     * enumeration.
      */
     virtual void fillTable(PxEnumToStringTable<ENUM> *table) const = 0;
 
@@ -106,7 +107,7 @@ PxEnumToStringTable<ENUM> *PxEnumWrapper<ENUM>::enumToStringTable() const
     });
 }
 
-/** Agrees with ==; serves every class derived from the wrapper. */
+/** Consistent with ==, for every class derived from the wrapper. */
 template <typename ENUM>
 uint qHash(const PxEnumWrapper<ENUM> &wrapper, uint seed = 0)
 {

@@ -8,7 +8,7 @@
 
 #include <cstddef>
 
-/** One row of a keyword table: a keyword of the files, in ASCII, and the value it stands for. */
+/** One row of a keyword table: a keyword of the files, in ASCII, and its value. */
 template <typename ENUM>
 struct PxKeyword
 {
@@ -29,7 +29,10 @@ QHash<QString, ENUM> keywordMap(const PxKeyword<ENUM> (&rows)[COUNT])
     return map;
 }
 
-/** The value of one keyword, in any case and with white space around it; `fallback` for others. */
+/**
+ * The value of one keyword, in any case and with white space around it; `fallback` for any other
+ * text.
+ */
 template <typename ENUM>
 ENUM decodeKeyword(const QString &keyword, const QHash<QString, ENUM> &map, ENUM fallback)
 {
@@ -39,8 +42,8 @@ ENUM decodeKeyword(const QString &keyword, const QHash<QString, ENUM> &map, ENUM
 /**
  * The union of a comma-separated list of keywords.
  *
- * Each part that is no keyword adds `fallback`, and so does an empty part: an empty text gives just
- * that.
+ * Each part that is not a keyword adds `fallback`, even an empty one, so an empty text gives
+ * `fallback`.
  */
 template <typename ENUM>
 ENUM decodeKeywordList(const QString &keywords, const QHash<QString, ENUM> &map, ENUM fallback)
@@ -52,7 +55,7 @@ ENUM decodeKeywordList(const QString &keywords, const QHash<QString, ENUM> &map,
     return static_cast<ENUM>(flags);
 }
 
-/** The keyword of a value, of several the shortest; `fallback` for a value that has none. */
+/** The shortest keyword of a value; `fallback` for a value without a keyword. */
 template <typename ENUM>
 QString encodeKeyword(ENUM value, const QHash<QString, ENUM> &map, const QString &fallback)
 {

@@ -22,20 +22,22 @@ void pxForEachPart(QStringView text, QChar separator, Function function)
     function(text.mid(start));
 }
 
-/** The same for the lists of the product files, whose only separator is the comma. */
+/** The same for the lists in product files, which are always separated by commas. */
 template <typename Function>
 void pxForEachPart(QStringView text, Function function)
 {
     pxForEachPart(text, QLatin1Char(','), function);
 }
 
-/** The whole numbers of a comma-separated list in its order; parts that are none are left out. */
+/**
+ * The whole numbers of a comma-separated list, in order; parts that are not numbers are skipped.
+ */
 inline QList<int> pxIntList(const QString &text)
 {
     QList<int> numbers;
     const QStringView whole(text);
     pxForEachPart(whole, [&](QStringView part) {
-        bool isNumber = false; // a view would make a text of each part
+        bool isNumber = false; // a QStringView would have to be copied
         const int number =
             text.midRef(int(part.data() - whole.data()), int(part.size())).toInt(&isNumber);
         if (isNumber)

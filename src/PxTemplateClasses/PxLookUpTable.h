@@ -6,7 +6,7 @@
 #include <cstddef>
 
 /**
- * Display texts by key: an ordered table with a default for what it does not hold.
+ * Display texts by key, in the order of the keys, with a default for missing ones.
  *
  * Both defaults are default-built until setDefaults() is called.
  */
@@ -15,7 +15,9 @@ class PxLookUpTable
 {
 public:
     void insert(K key, const V &value) { m_map.insert(key, value); }
-    /** Rows of a `value` and a `text`, which is translated in the context now. */
+    /**
+     * Inserts rows of a `value` and a `text`. The texts are translated now, in the given context.
+     */
     template <typename ROW, std::size_t COUNT>
     void insertTranslated(const char *context, const ROW (&rows)[COUNT])
     {

@@ -1,4 +1,4 @@
 #pragma once
 
-/** Of the messages of one kind about one file so many are logged, and then how many more there are. */
+/** How many messages of one kind are logged about one file. One more message counts the rest. */
 constexpr int pxMaximumMessages = 100;

@@ -7,7 +7,7 @@
 #include <QString>
 #include <QStringView>
 
-/** Where on a spread a page lies, or something on a page; a set of flags. */
+/** The side of a spread on which a page lies, or the place of an item on a page; a set of flags. */
 enum PxPageAlignment : int {
     PxPageAlignmentNone = 0,
     PxPageAlignmentLeft = 1,
@@ -20,7 +20,7 @@ enum PxPageAlignment : int {
     PxPageAlignmentAll = PxPageAlignmentLeft | PxPageAlignmentRight | PxPageAlignmentMiddle |
                          PxPageAlignmentFullPage | PxPageAlignmentTop | PxPageAlignmentBottom |
                          PxPageAlignmentCenter,
-    /** Where single pages lie: not the whole spread. */
+    /** Every alignment that a single page can have: all but the whole spread. */
     PxPageAlignmentSinglePages = PxPageAlignmentAll & ~PxPageAlignmentFullPage,
 };
 
@@ -50,8 +50,8 @@ inline constexpr PxPageAlignment globalPageAlignmentDefaultValue = PxPageAlignme
 /**
  * The alignments of a comma-separated list, one per part and in its order, in any case.
  *
- * A part that is no keyword, an empty one too, gives the default alignment. For applications; the
- * library itself needs only the union of such a list.
+ * A part that is not a keyword, even an empty one, gives the default alignment. For applications;
+ * the library itself needs only the union of such a list.
  */
 inline QList<PxPageAlignment> decodePageAlignmentAsList(const QString &alignments)
 {

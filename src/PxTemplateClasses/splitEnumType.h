@@ -5,7 +5,7 @@
 /**
  * The single bits of a flag value, in ascending order.
  *
- * A value below 1 has none, one with the sign bit included.
+ * A value below 1 has none, even if bits other than the sign bit are set.
  */
 template <typename E>
 QList<E> splitEnumType(E value)
