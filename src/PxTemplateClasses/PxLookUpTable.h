@@ -8,7 +8,7 @@
 /**
  * Display texts by key, in the order of the keys, with a default for missing ones.
  *
- * Both defaults are default-built until setDefaults() is called.
+ * Both defaults are default-constructed until setDefaults() is called.
  */
 template <typename K, typename V>
 class PxLookUpTable

@@ -16,19 +16,19 @@
 
 namespace {
 
-/** Empty stays empty: as a path it would mean the current directory. */
+/** An empty path stays empty; made absolute, it would become the current directory. */
 QString absolute(const QString &path)
 {
     return path.isEmpty() ? path : QDir::cleanPath(QDir(path).absolutePath());
 }
 
-/** The resources that belong to the library that this code was loaded from. */
+/** The resource directory that was installed with the library in which this code is. */
 QString installedResources()
 {
     Dl_info library{};
     dladdr(reinterpret_cast<const void *>(&installedResources), &library);
     const QFileInfo file(QFile::decodeName(library.dli_fname));
-    // A link to the library may stand anywhere; the resources are beside the library itself.
+    // The library may be reached through a link elsewhere; the resources are beside its real file.
     const QFileInfo target(file.canonicalFilePath());
     const QDir directory = target.exists() ? target.dir() : file.dir();
     return absolute(directory.absoluteFilePath(QStringLiteral(PX_RESOURCES_FROM_LIBRARY)));
@@ -36,8 +36,9 @@ QString installedResources()
 
 /**
  * Qt keeps the name of the application, which is part of a path, in an object that it creates on
- * first use and destroys in reverse order: created when this library is loaded, it outlives the
- * static objects of the program, whose destructors may still read files.
+ * first use. It destroys such objects in the reverse order of their creation: created when this
+ * library is loaded, this one outlives the static objects of the program, whose destructors may
+ * still read files.
  */
 void keepApplicationName()
 {
@@ -97,7 +98,7 @@ QDir PxDirectoryConfig::lumoThemesDirectory(bool reportMissing) const
     return themes;
 }
 
-/** Unlike a resource it is a directory: a file of this name is passed over. */
+/** Only a directory counts: a file with this name is skipped. */
 QString PxDirectoryConfig::defaultThemesDirectory() const
 {
     const auto themesOf = [](const QString &directory) {

@@ -15,7 +15,7 @@ constexpr PxKeyword<PxOrientationEnum> keywords[] = {
 
 PxOrientationEnum shapeOf(const QSizeF &size)
 {
-    // Asked for this way, a size that is not a number has no area either.
+    // Written this way, the condition also holds for sizes that are not a number (NaN).
     if (!(size.width() > 0 && size.height() > 0))
         return static_cast<PxOrientationEnum>(0);
     if (size.width() > size.height())

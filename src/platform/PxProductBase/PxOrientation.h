@@ -31,11 +31,11 @@ public:
     PxOrientation(PxOrientationEnum orientation) : PxEnumWrapper(orientation) {}
     PxOrientation(const PxOrientation &other) = default;
     PxOrientation &operator=(const PxOrientation &other) = default;
-    /** The union of a comma-separated keyword list; words that are no keyword add nothing. */
+    /** The union of a comma-separated keyword list; other words add nothing. */
     PxOrientation(const QString &keywords);
     /**
-     * The same, or, when the text gives none, the shape of the size: portrait, landscape or
-     * quadratic; 0 for a size without area.
+     * The same; if the keywords give nothing, the shape of the size: portrait, landscape or
+     * quadratic, and 0 for a size without an area.
      */
     PxOrientation(const QString &keywords, const QSizeF &size);
     ~PxOrientation() override;

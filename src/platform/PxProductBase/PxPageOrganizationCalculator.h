@@ -4,7 +4,7 @@
 
 class PxProductType;
 
-/** Knows how many pages each product type may have. Asked from any thread. */
+/** Computes how many pages a product type may have. Called from any thread. */
 class PXPRODUCTBASE_EXPORT PxPageOrganizationCalculator
 {
 public:

@@ -25,7 +25,7 @@ void PxPageOrganizationManager::addCalculator(PxPageOrganizationCalculator *calc
 PxPageCountOrganization PxPageOrganizationManager::pageCountOrganzation(
     const PxProductType &type) const
 {
-    // Asked without the lock: a calculator may use the manager itself.
+    // The calculator is called without the lock: it may use the manager itself.
     const PxPageOrganizationCalculator *last = calculator();
     return last ? last->createPageOrganization(type) : PxPageCountOrganization(1, 1, 0);
 }

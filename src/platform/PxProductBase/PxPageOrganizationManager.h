@@ -9,7 +9,7 @@ class PxPageOrganizationCalculator;
 class PxProductType;
 
 /**
- * Tells how many pages a product may have: the answer of the calculator that was added last.
+ * Answers how many pages a product may have, by asking the calculator that was added last.
  *
  * Without a calculator every product has one page. Every operation may be called from any thread.
  */
@@ -18,7 +18,7 @@ class PXPRODUCTBASE_EXPORT PxPageOrganizationManager
 public:
     static PxPageOrganizationManager *instance();
 
-    /** Null is ignored. Takes ownership; earlier calculators are kept, but not asked any more. */
+    /** Takes ownership; null is ignored. Earlier calculators are kept, but no longer asked. */
     void addCalculator(PxPageOrganizationCalculator *calculator);
 
     PxPageCountOrganization pageCountOrganzation(const PxProductType &type) const;
@@ -34,6 +34,6 @@ private:
     const PxPageOrganizationCalculator *calculator() const;
 
     mutable QReadWriteLock m_lock;
-    // Never destroyed, like the manager: another thread may still be asking an earlier one.
+    // Never destroyed, like the manager: another thread may still be using an earlier one.
     QList<PxPageOrganizationCalculator *> m_calculators;
 };

@@ -5,8 +5,8 @@
 class PxProductType;
 
 /**
- * Tells of product types whether they can be ordered, and how many pages they may have. Asked from
- * any thread.
+ * Answers whether product types can be ordered, and how many pages they may have. Called from any
+ * thread.
  */
 class PXPRODUCTBASE_EXPORT PxProductChecker
 {
@@ -18,7 +18,7 @@ public:
     // Applications are built against this order of the virtual operations: append, never reorder.
     virtual ~PxProductChecker();
     virtual bool isValid(const PxProductType &type) const = 0;
-    /** The kind of this checker, by which the registry can be asked; not 0. */
+    /** The kind of this checker, by which the registry selects checkers; never 0. */
     virtual int type() const = 0;
     virtual int minPages(const PxProductType &type) const = 0;
     virtual int maxPages(const PxProductType &type) const = 0;

@@ -27,7 +27,7 @@ bool PxProductCheckerRegistry::registerChecker(PxProductChecker *checker)
 
 bool PxProductCheckerRegistry::isValid(const PxProductType &type, int kind) const
 {
-    // Asked on a copy of the list, without the lock: a checker may use the registry itself.
+    // Works on a copy of the list, without the lock: a checker may use the registry itself.
     const QList<PxProductChecker *> all = checkers();
     return std::any_of(all.begin(), all.end(), [&type, kind](const PxProductChecker *checker) {
         return (kind == 0 || checker->type() == kind) && checker->isValid(type);

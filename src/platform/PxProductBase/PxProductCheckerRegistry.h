@@ -15,13 +15,13 @@ public:
     static PxProductCheckerRegistry *instance();
 
     /**
-     * Adds a checker, which stays the caller's and must live until the process ends.
+     * Adds a checker. The caller keeps it and must keep it alive until the process ends.
      *
-     * False for null and for a checker that is registered already.
+     * Returns false for null and for a checker that is already registered.
      */
     bool registerChecker(PxProductChecker *checker);
 
-    /** One of the checkers of this kind finds the type valid; kind 0 asks all checkers. */
+    /** Whether one of the checkers of this kind accepts the type; kind 0 asks all checkers. */
     bool isValid(const PxProductType &type, int kind) const;
 
 private:

@@ -15,21 +15,24 @@ struct PxProductTypeEntry;
 /**
  * One kind of product that can be ordered: the key of every question about products.
  *
- * A small value: its texts are in the catalogue, copies share them. The catalogue is read when the
- * first type is made, from any thread; a message handler must not make one while that logs.
+ * A small value. Its texts are in the product-type catalogue and shared by all copies. The
+ * catalogue is read when the first type is created, in any thread; a message handler must not
+ * create one while the catalogue logs.
  */
 class PXPRODUCTBASE_EXPORT PxProductType
 {
 public:
     /** The unknown type 0. */
     PxProductType() = default;
-    /** The type of this code; a code that the catalogue lacks is kept, but gives an invalid type.
+    /**
+     * The type with this code. A code that the catalogue lacks gives an invalid type, which keeps
+     * the code.
      */
     PxProductType(int code);
-    /** The type of this name, trimmed and in any case; the unknown type 0 for any other name. */
+    /** The type with this name, trimmed and in any case; the unknown type 0 for any other name. */
     PxProductType(const QString &name);
 
-    /** Is known to the catalogue. */
+    /** Whether the catalogue has this type. */
     bool isValid() const { return m_entry != nullptr; }
 
     PxProductTypeEnum type() const { return m_type; }
@@ -42,9 +45,9 @@ public:
     bool isCard() const { return isProductClass(PxProductClassCard); }
     bool isDeko() const { return isProductClass(PxProductClassDecoration); }
 
-    /** As the catalogue spells it; empty for an invalid type. */
+    /** The name as the catalogue spells it; empty for an invalid type. */
     QString productName() const;
-    /** The name where space is short; empty for an invalid type. */
+    /** A shorter name, for places with little space; empty for an invalid type. */
     QString shortProductName() const;
 
     bool operator==(const PxProductType &other) const { return m_type == other.m_type; }
@@ -56,7 +59,7 @@ private:
 
     PxProductTypeEnum m_type = PxProductTypeUnknown;
     PxProductClass m_productClass = PxProductClassUnknown;
-    const PxProductTypeEntry *m_entry = nullptr; // the catalogue's, which is never destroyed
+    const PxProductTypeEntry *m_entry = nullptr; // owned by the catalogue, which is never destroyed
 };
 
 Q_DECLARE_TYPEINFO(PxProductType, Q_MOVABLE_TYPE);

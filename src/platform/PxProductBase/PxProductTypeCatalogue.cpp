@@ -88,7 +88,7 @@ const PxProductTypeEntry *PxProductTypeCatalogue::find(int code) const
 
 const PxProductTypeEntry *PxProductTypeCatalogue::find(const QString &name) const
 {
-    // Nearly every name is written as in the catalogue, and then need not be folded.
+    // Nearly every name is written as in the catalogue and need not be case-folded.
     const auto found = m_byName.constFind(nameKey(name));
     return found == m_byName.constEnd() ? m_byName.value(foldedNameKey(name)) : *found;
 }

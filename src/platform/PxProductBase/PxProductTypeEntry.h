@@ -10,8 +10,8 @@ struct PxProductTypeEntry
 {
     PxProductTypeEnum type = PxProductTypeUnknown;
     PxProductClass productClass = PxProductClassUnknown;
-    /** As it is written in the catalogue; product types are found by it in any case. */
+    /** The name as the catalogue spells it; look-ups ignore the case. */
     QString name;
-    /** The name where space is short. */
+    /** A shorter name, for places with little space. */
     QString shortName;
 };

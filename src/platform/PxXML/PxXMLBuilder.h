@@ -10,7 +10,7 @@ class PXXML_EXPORT PxXMLBuilder
 {
 public:
     /**
-     * Appends a child element of this name, holding this text, and answers it.
+     * Appends a child element with this name and text, and returns it.
      *
      * An empty text gives an element without content. A null parent gives a null element.
      */

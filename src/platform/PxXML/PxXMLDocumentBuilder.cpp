@@ -10,8 +10,8 @@
 namespace {
 
 /**
- * Qt's reader lets them pass in document types and, behind the first character, in the names of
- * attributes.
+ * Qt's reader does not refuse control characters in document types, nor behind the first character
+ * of the name of an attribute.
  */
 bool hasControlCharacter(QStringView text)
 {
@@ -83,7 +83,7 @@ std::optional<PxXMLFault> PxXMLDocumentBuilder::addToken()
 
 std::optional<PxXMLFault> PxXMLDocumentBuilder::addElement()
 {
-    // Building takes time in proportion to the depth of each node, destroying takes stack.
+    // The time to append a node grows with its depth, and destroying a deep tree takes stack.
     if (++m_depth > PxXMLLoader::maximumDepth)
         return fault(PxXMLFault::Kind::Limit,
                      QStringLiteral("the element is nested %1 deep, no more than %2 are allowed")
@@ -138,7 +138,8 @@ std::optional<PxXMLFault> PxXMLDocumentBuilder::addDocumentType()
     if (hasControlCharacter(m_reader.text()))
         return fault(PxXMLFault::Kind::NotWellFormed,
                      QStringLiteral("the document type declaration has a control character"));
-    // A document gets its type when it is created only, so what we have so far moves over.
+    // A document gets its type only when it is created, so the nodes that exist so far move to a
+    // new document.
     QDomDocument document(QDomImplementation().createDocumentType(
         m_reader.dtdName().toString(), m_reader.dtdPublicId().toString(),
         m_reader.dtdSystemId().toString()));
@@ -157,7 +158,7 @@ PxXMLFault PxXMLDocumentBuilder::fault(PxXMLFault::Kind kind, const QString &mes
 QString PxXMLDocumentBuilder::shared(QStringView text)
 {
     if (text.isEmpty())
-        return QLatin1String(""); // not null: an empty attribute is no missing one
+        return QLatin1String(""); // not null: an empty attribute is not a missing one
     QString &slot = m_texts[qHash(text) % m_texts.size()];
     if (slot != text)
         slot = text.toString();

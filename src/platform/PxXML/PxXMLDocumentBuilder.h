@@ -12,17 +12,19 @@
 class QXmlStreamReader;
 
 /**
- * Builds a document node by node from what an XML reader reads, within the limits of the loader.
+ * Builds a document, node by node, from the tokens of an XML reader, within the limits of the
+ * loader.
  *
- * The reader has read its first token and processes no namespaces. `hasStandalone` says
- * whether its XML declaration has that part: the reader tells an absent one from "no" no more.
+ * The reader has read its first token and does not process namespaces. `hasStandalone` says whether
+ * its XML declaration has a "standalone" part, which the reader itself does not distinguish from
+ * "no".
  */
 class PxXMLDocumentBuilder
 {
 public:
     PxXMLDocumentBuilder(QXmlStreamReader &reader, bool hasStandalone);
 
-    /** After a fault there is a part of a document only. */
+    /** After a fault the document is incomplete. */
     std::optional<PxXMLFault> build();
     QDomDocument document() const { return m_document; }
 
@@ -30,7 +32,7 @@ private:
     std::optional<PxXMLFault> addToken();
     std::optional<PxXMLFault> addElement();
     std::optional<PxXMLFault> add(const QDomNode &node);
-    /** One node more. */
+    /** Counts one more node. */
     std::optional<PxXMLFault> count();
     void addDeclaration(bool hasStandalone);
     std::optional<PxXMLFault> addDocumentType();
@@ -42,7 +44,7 @@ private:
     QDomNode m_parent;
     int m_depth = 0;
     int m_nodes = 0;
-    // Names and values recur all over a file. A slot holds the last text of its hash value, so a
-    // file made of collisions costs no more than one without recurring texts.
+    // Names and values recur throughout a file. Each slot holds the last text with its hash value,
+    // so that a file full of hash collisions costs no more than one without recurring texts.
     std::array<QString, 1024> m_texts;
 };

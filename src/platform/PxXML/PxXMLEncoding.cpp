@@ -7,9 +7,9 @@
 namespace {
 
 /**
- * Qt destroys its codecs, and what it matches regular expressions with, in reverse order of their
- * first use: used when this library is loaded, they outlive the static objects of the program,
- * whose destructors may still read files.
+ * Qt destroys its codecs, and the data with which it matches regular expressions, in the reverse
+ * order of their first use. Used when this library is loaded, they outlive the static objects of
+ * the program, whose destructors may still read files.
  */
 void keepWhatQtDestroys()
 {
@@ -24,7 +24,7 @@ QTextCodec *PxXMLEncoding::codecOf(const QByteArray &bytes)
 {
     if (QTextCodec *marked = QTextCodec::codecForUtfText(bytes, nullptr))
         return marked;
-    // "<" with a zero byte beside it: the reader takes that for UTF-16, so we do, too.
+    // The reader takes "<" with a zero byte beside it for UTF-16, and so do we.
     if (bytes.startsWith('\0'))
         return QTextCodec::codecForName("UTF-16BE");
     if (bytes.size() > 1 && bytes.at(1) == '\0')

@@ -4,14 +4,18 @@
 
 class QTextCodec;
 
-/** Finds out which encoding an XML file is in. */
+/** Determines the encoding of an XML file. */
 class PxXMLEncoding
 {
 public:
     /**
-     * By byte order mark or declaration, UTF-8 without these; null for an encoding we do not know.
+     * The codec by byte order mark or else by declaration; UTF-8 without either, and null for an
+     * unknown encoding.
      */
     static QTextCodec *codecOf(const QByteArray &bytes);
-    /** The XML declaration at the start of an ASCII-compatible text, without its end; or empty. */
+    /**
+     * The XML declaration at the start of an ASCII-compatible text, without its closing "?>"; empty
+     * if there is none.
+     */
     static QByteArray declaration(const QByteArray &text);
 };

@@ -30,8 +30,8 @@ PxXMLFault cannotOpen(const QString &reason)
 }
 
 /**
- * Opens a regular file and answers its size; a pipe that has come into its place is neither waited
- * for nor read.
+ * Opens a regular file and reports its size. If a pipe has taken the place of the file meanwhile,
+ * it neither waits for the pipe nor reads it.
  */
 PxXMLFault open(QFile &file, qint64 &size)
 {
@@ -54,13 +54,13 @@ PxXMLFault open(QFile &file, qint64 &size)
     return unreadable(noRegularFile());
 }
 
-/** Reads the whole file, if it is one that ends. */
+/** Reads the whole file, if it is a regular one. */
 PxXMLFault readBytes(const QString &path, QByteArray &bytes)
 {
     if (path.isEmpty())
         return unreadable(QStringLiteral("no file name is given"));
-    const QFileInfo info(path); // a new one: the caller's may remember what was there before
-    // A pipe or a device could keep us waiting, or reading, for ever.
+    const QFileInfo info(path); // a new one: the caller's may have cached old data
+    // A pipe or a device could block forever, or never end.
     if (!info.isFile())
         return unreadable(info.exists() ? noRegularFile()
                                         : QStringLiteral("there is no such file"));
@@ -86,7 +86,7 @@ std::string_view withoutByteOrderMark(const QByteArray &utf8)
     return utf8.startsWith("\xEF\xBB\xBF") ? text.substr(3) : text;
 }
 
-/** A parser's message may quote the file. */
+/** Makes one line of a message, which may quote control characters of the file. */
 QString oneLine(QString message)
 {
     for (QChar &c : message) {
@@ -141,9 +141,10 @@ QDomElement PxXMLLoader::loadDocumentElement(const QFileInfo &file, PxXMLFault &
     const QDomElement element = document.documentElement();
     if (element.isNull())
         return element;
-    // Left in its document, the element would go on pointing to it and to its siblings there when
-    // these are destroyed; just taken out, still to the document. Only a node that was taken from a
-    // parent without document forgets all of them, and no other kind of node can be such a parent.
+    // If the element stayed in its document, or were only taken out of it, it would keep pointers
+    // to the document (and to its siblings there) after these are destroyed. A node drops all of
+    // them only when it is removed from a parent without a document, and a document type is the
+    // only kind of node that can be such a parent.
     QDomDocumentType parent =
         QDomImplementation().createDocumentType(QStringLiteral("none"), QString(), QString());
     parent.appendChild(element);

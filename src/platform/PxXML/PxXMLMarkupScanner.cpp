@@ -55,7 +55,7 @@ std::optional<PxXMLFault> PxXMLMarkupScanner::scanAttributeValue()
 {
     const char quote = m_text[m_position];
     for (++m_position; m_position < m_text.size() && m_text[m_position] != quote; ++m_position) {
-        // Most often the closing quote of an earlier value is missing.
+        // Usually the closing quote of an earlier value is missing.
         if (m_text[m_position] == '<')
             stop();
         else if (m_text[m_position] == '&' && !isOwnReference())
@@ -97,7 +97,9 @@ bool PxXMLMarkupScanner::startsWith(std::string_view token) const
     return m_text.compare(m_position, token.size(), token) == 0;
 }
 
-/** Goes behind the end; no character of the begin is part of it: "<!-->" is still open. */
+/**
+ * Moves behind the end, which may share no character with the beginning: "<!-->" is not closed yet.
+ */
 void PxXMLMarkupScanner::skip(std::string_view begin, std::string_view end)
 {
     const std::size_t found = m_text.find(end, m_position + begin.size());
@@ -107,8 +109,8 @@ void PxXMLMarkupScanner::skip(std::string_view begin, std::string_view end)
 PxXMLFault PxXMLMarkupScanner::fault(PxXMLFault::Kind kind, const QString &message) const
 {
     const std::string_view before = m_text.substr(0, m_position);
-    const std::size_t lineStart = before.rfind('\n') + 1; // npos + 1 is 0: the first line
-    // The reader counts columns in UTF-16 units, and so do we.
+    const std::size_t lineStart = before.rfind('\n') + 1; // 0 in the first line, as npos + 1 is 0
+    // Columns count UTF-16 units, as those of the reader do.
     const QString line =
         QString::fromUtf8(before.data() + lineStart, int(before.size() - lineStart));
     return {kind, message, std::count(before.begin(), before.end(), '\n') + 1, line.size() + 1};

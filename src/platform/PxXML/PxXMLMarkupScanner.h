@@ -8,17 +8,17 @@
 #include <string_view>
 
 /**
- * Looks through a text for what must not reach the XML reader: tags with too many attributes (it
- * compares them pairwise), an internal subset, which could declare entities and attribute defaults,
- * and references to entities in attribute values (it would take them as text).
+ * Scans a text for markup that must not reach the XML reader: tags with too many attributes (the
+ * reader compares them pairwise), an internal subset (it could declare entities and attribute
+ * defaults), and references to entities in attribute values (the reader would take them as text).
  *
- * Works in linear time. Otherwise malformed markup is none of its concern: where it meets some it
- * stops, as the reader will, and finds nothing.
+ * It works in linear time. Other malformed markup is not its task: it stops there without a
+ * finding, as the reader stops there with an error.
  */
 class PxXMLMarkupScanner
 {
 public:
-    /** The text is UTF-8 without byte order mark and must outlive the scanner. */
+    /** The text is UTF-8 without a byte order mark and must outlive the scanner. */
     explicit PxXMLMarkupScanner(std::string_view text) : m_text(text) {}
 
     std::optional<PxXMLFault> scan();

@@ -12,21 +12,21 @@ namespace {
 
 std::optional<int> toInt(const QString &text)
 {
-    // Ignores the white space by itself and allocates nothing for a number of sane length.
+    // This ignores white space and allocates nothing for a number of reasonable length.
     bool isNumber = false;
     const int number = text.toInt(&isNumber, 10);
     return isNumber ? std::optional<int>(number) : std::nullopt;
 }
 
-/** Of a date and a time that exist at least in the calendar; else an invalid time. */
+/** The local time for a date and a time of day; invalid if one of them is. */
 QDateTime toLocalTime(const QDate &date, const QTime &time)
 {
     if (!date.isValid() || !time.isValid())
         return QDateTime();
-    const QDateTime local(date, time); // each question about the clocks takes microseconds
+    const QDateTime local(date, time); // converted once: each conversion takes microseconds
     if (local.isValid() && local.date() == date && local.time() == time)
         return local;
-    // The clocks skip it: what they would show then if they went on as on the day before.
+    // The clocks skip this time: convert it with the offset of the day before.
     const QDateTime utc(date, time, Qt::UTC);
     return utc.addSecs(-utc.addDays(-1).toLocalTime().offsetFromUtc()).toLocalTime();
 }
@@ -42,7 +42,7 @@ QDateTime fromCompactForm(const QString &text)
 
 QDateTime fromExtendedForm(const QString &text)
 {
-    // Qt reads the numbers, but it reads many other texts, too.
+    // The pattern is needed because Qt accepts many other texts, too.
     static const auto &ourForm = *new QRegularExpression(
         QStringLiteral("\\A\\d{4}-\\d\\d-\\d\\d"
                        "(T\\d\\d:\\d\\d(:\\d\\d([.,]\\d+)?)?(Z|[+-]\\d\\d(:\\d\\d)?)?)?\\z"));
@@ -61,7 +61,7 @@ QDateTime fromExtendedForm(const QString &text)
 QDateTime toLocalTime(const QString &text)
 {
     const QString trimmed = text.trimmed();
-    if (trimmed.isEmpty()) // as for each theme without an expiry date
+    if (trimmed.isEmpty()) // as of each theme without an expiry date; saves the pattern
         return QDateTime();
     const bool isCompact =
         trimmed.size() == 12 && std::all_of(trimmed.begin(), trimmed.end(), [](QChar c) {
@@ -70,7 +70,8 @@ QDateTime toLocalTime(const QString &text)
     return isCompact ? fromCompactForm(trimmed) : fromExtendedForm(trimmed);
 }
 
-/** Whether QRect can compute with them: it stores the last edge inside and measures from the first.
+/**
+ * Whether QRect can represent them: it stores the last coordinate and computes the size from both.
  */
 bool areEdges(qint64 first, qint64 last)
 {

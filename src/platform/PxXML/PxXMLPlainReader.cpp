@@ -17,7 +17,7 @@ enum CharacterClass : unsigned char {
     Plain = 8
 };
 
-/** What each byte may be part of; a byte of none is left to the full parser. */
+/** The classes of each byte; a byte without a class is left to the full parser. */
 constexpr std::array<unsigned char, 256> characterClasses()
 {
     std::array<unsigned char, 256> classes{};
@@ -44,13 +44,13 @@ bool is(char c, CharacterClass characterClass)
     return (classes[static_cast<unsigned char>(c)] & characterClass) != 0;
 }
 
-// What real files stay below; the rest of a larger one, a hostile one above all, is not worth what
-// building its nodes twice would cost.
+// Real files have fewer nodes. A larger file, which may be hostile, is left to the full parser
+// here; building most of its nodes twice would cost too much.
 constexpr int maximumNodes = 20000;
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-/** The text with its references replaced; none when one is not of the five. */
+/** The text with its references replaced; none if it has a reference other than the five of XML. */
 std::optional<QString> resolved(QStringView text)
 {
     static const struct
@@ -62,7 +62,7 @@ std::optional<QString> resolved(QStringView text)
         {QLatin1String("&quot;"), u'"'}, {QLatin1String("&apos;"), u'\''},
         {QLatin1String("&amp;"), u'&'},
     };
-    // Appended part by part: replaced in place, a text of nothing else would take for ever.
+    // Appended part by part: replacing in place would take quadratic time.
     QString result;
     result.reserve(int(text.size()));
     for (qsizetype begin = 0; begin < text.size();) {
@@ -100,7 +100,7 @@ QDomDocument PxXMLPlainReader::read()
     return isPlain && m_hasRoot && m_open.empty() ? m_document : QDomDocument();
 }
 
-/** Only the one that all editors write. */
+/** Accepts only the declaration that all editors write. */
 bool PxXMLPlainReader::readDeclaration()
 {
     if (!startsWith("<?"))
@@ -134,7 +134,7 @@ bool PxXMLPlainReader::readText()
     m_position = end;
     if (std::all_of(text.begin(), text.end(), [](char c) { return is(c, Blank); }))
         return true;
-    // The end of a CDATA section is no text.
+    // "]]>" ends a CDATA section and is not allowed in text.
     if (m_open.empty() || text.find("]]>") != std::string_view::npos)
         return false;
     const std::optional<QString> decoded = decode(text);
@@ -158,7 +158,7 @@ bool PxXMLPlainReader::readComment()
         return false;
     const std::string_view text = m_text.substr(m_position, end - m_position);
     m_position = end + 3;
-    if (text.find('&') != std::string_view::npos) // no reference, in a comment
+    if (text.find('&') != std::string_view::npos) // a comment has no references
         return false;
     const std::optional<QString> decoded = decode(text);
     return decoded && add(m_document.createComment(*decoded));
@@ -208,7 +208,7 @@ bool PxXMLPlainReader::readAttribute(QDomElement &element)
     m_attributes.push_back(name);
     const std::string_view value = m_text.substr(begin, end - begin);
     m_position = end + 1;
-    // Line breaks and tabs would become blanks.
+    // A full parser would turn line breaks and tabs into blanks.
     if (value.find_first_of("<\n\t") != std::string_view::npos)
         return false;
     const std::optional<QString> decoded = decode(value);
@@ -256,7 +256,7 @@ bool PxXMLPlainReader::skip(char c)
     return isThere;
 }
 
-/** Whether there were any. */
+/** Returns whether there were any. */
 bool PxXMLPlainReader::skipBlanks()
 {
     const std::size_t begin = m_position;
@@ -265,7 +265,7 @@ bool PxXMLPlainReader::skipBlanks()
     return m_position > begin;
 }
 
-/** Empty when there is none. */
+/** Empty if there is no name here. */
 std::string_view PxXMLPlainReader::readName()
 {
     const std::size_t begin = m_position;
@@ -276,7 +276,7 @@ std::string_view PxXMLPlainReader::readName()
     return m_text.substr(begin, m_position - begin);
 }
 
-/** The text of a value or between tags; none when it is not plain. */
+/** The decoded text of a value or between tags; none if it is not plain. */
 std::optional<QString> PxXMLPlainReader::decode(std::string_view utf8)
 {
     bool isAscii = true;
@@ -284,15 +284,15 @@ std::optional<QString> PxXMLPlainReader::decode(std::string_view utf8)
     for (const char c : utf8) {
         isAscii = isAscii && static_cast<signed char>(c) >= 0;
         hasReferences = hasReferences || c == '&';
-        // A carriage return would become a line feed.
+        // A full parser would turn a carriage return into a line feed.
         if (!is(c, Plain) && c != '\n' && c != '\t')
             return std::nullopt;
     }
-    // A byte order mark at the start would get lost, though here it is a character like others.
+    // QString would drop a byte order mark at the start, although it is an ordinary character here.
     if (!isAscii && utf8.substr(0, byteOrderMark.size()) == byteOrderMark)
         return std::nullopt;
     QString text = m_texts->text(utf8);
-    // What is no UTF-8 becomes the replacement character, and no character has the last two codes.
+    // Invalid UTF-8 becomes the replacement character; U+FFFE and U+FFFF are not characters.
     if (!isAscii && (text.contains(QChar::ReplacementCharacter) || text.contains(QChar(0xFFFE)) ||
                      text.contains(QChar(0xFFFF))))
         return std::nullopt;

@@ -10,19 +10,20 @@
 #include <vector>
 
 /**
- * Reads the XML that nearly all files are made of, in a third of the time of a full parser.
+ * Reads the XML that nearly all files consist of, in a third of the time of a full parser.
  *
- * Elements with ASCII names, attributes, texts and comments in UTF-8, and the five entities of XML.
- * It gives no verdicts: what it does not know or is not sure of, malformed text too, it leaves to
- * the full parser. What it reads is the tree that the full parser would build.
+ * It knows elements with ASCII names, attributes, texts and comments in UTF-8, and the five
+ * entities of XML. It never reports errors: whatever it does not know or is not sure of, including
+ * malformed text, is left to the full parser. For a text that it accepts it builds the same tree as
+ * the full parser.
  */
 class PxXMLPlainReader
 {
 public:
-    /** The text is without byte order mark and must outlive the reader. */
+    /** The text has no byte order mark and must outlive the reader. */
     explicit PxXMLPlainReader(std::string_view text);
 
-    /** A null document when the text is not that plain. */
+    /** A null document if the text has anything that this reader does not know. */
     QDomDocument read();
 
 private:
@@ -48,9 +49,9 @@ private:
     const PxXMLTextPool::Loan m_texts = PxXMLTextPool::lend();
     QDomDocument m_document;
     QDomNode m_parent;
-    QDomNode m_textNode; // to be copied: copies share its name, which a new one allocates
-    std::vector<std::string_view> m_open; // names of the elements whose end tag has not come yet
-    std::vector<std::string_view> m_attributes; // names of those of the tag being read
+    QDomNode m_textNode;                  // copied, because a new text node would allocate its name
+    std::vector<std::string_view> m_open; // names of the elements that are still open
+    std::vector<std::string_view> m_attributes; // names of the attributes of the current tag
     bool m_hasRoot = false;
     int m_nodes = 0;
 };

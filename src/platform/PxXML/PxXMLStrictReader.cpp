@@ -10,7 +10,7 @@
 
 namespace {
 
-/** Decodes the first bytes; false when some are no text in this encoding. */
+/** Decodes the first bytes; false if some of them are invalid in this encoding. */
 bool decode(const QTextCodec &codec, const QByteArray &bytes, int size, QString &text)
 {
     constexpr int utf8 = 106;
@@ -22,12 +22,12 @@ bool decode(const QTextCodec &codec, const QByteArray &bytes, int size, QString 
 
     QTextCodec::ConverterState state;
     text = codec.toUnicode(bytes.constData(), size, &state);
-    // Codecs of other encodings do not count faults, they leave the character that stands for one.
+    // Codecs of other encodings do not count invalid bytes, but leave the replacement character.
     return state.invalidChars == 0 && (size < bytes.size() || state.remainingChars == 0) &&
            (isUnicode || !text.contains(QChar::ReplacementCharacter));
 }
 
-/** Where the part of the bytes ends that can be decoded. */
+/** The fault at the first place that cannot be decoded. */
 PxXMLFault undecodable(const QTextCodec &codec, const QByteArray &bytes)
 {
     int good = 0;
@@ -48,13 +48,13 @@ PxXMLFault undecodable(const QTextCodec &codec, const QByteArray &bytes)
             text.count(QLatin1Char('\n')) + 1, text.size() - text.lastIndexOf(QLatin1Char('\n'))};
 }
 
-/** Whether the text is in the encoding that it declares, if it declares one. */
+/** Whether the text is in the encoding that it declares. It may declare none if it is Unicode. */
 bool isDeclared(const QTextCodec &codec, const QString &declared)
 {
     if (declared.isEmpty())
         return codec.name().startsWith("UTF-");
     const QByteArray name = declared.toLatin1();
-    // "UTF-16" leaves the byte order to the mark.
+    // "UTF-16" leaves the byte order to the byte order mark.
     return QTextCodec::codecForName(name) == &codec ||
            (name.toUpper() == "UTF-16" && codec.name().startsWith("UTF-16"));
 }
@@ -78,8 +78,9 @@ PxXMLFault PxXMLStrictReader::readText(const QTextCodec &codec)
     if (!decode(codec, m_bytes, m_bytes.size(), text))
         return undecodable(codec, m_bytes);
 
-    // The reader gets UTF-8 as it is, which is quickest. Of any other encoding it gets the decoded
-    // text: then it reads just the characters that were scanned, whatever the file declares.
+    // UTF-8 goes to the reader unchanged, which is fastest. Text in any other encoding goes there
+    // decoded: so the reader reads exactly the characters that were scanned, whatever the file
+    // declares.
     const bool isUtf8 = &codec == QTextCodec::codecForName("UTF-8");
     if (text.startsWith(QChar::ByteOrderMark))
         text.remove(0, 1);

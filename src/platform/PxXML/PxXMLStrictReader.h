@@ -10,16 +10,16 @@ class QTextCodec;
 /**
  * Reads XML of any kind and encoding with a full parser, within the limits of the loader.
  *
- * It alone gives verdicts: what it refuses is refused, and why.
+ * It alone decides whether a file is refused, and why.
  */
 class PxXMLStrictReader
 {
 public:
     explicit PxXMLStrictReader(const QByteArray &bytes) : m_bytes(bytes) {}
 
-    /** Names the encoding also of what it reads. */
+    /** Sets the encoding of the fault even if the text is read without one. */
     PxXMLFault read();
-    /** Null unless read() found no fault. */
+    /** The document; null unless read() found no fault. */
     QDomDocument document() const { return m_document; }
 
 private:

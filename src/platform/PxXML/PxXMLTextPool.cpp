@@ -10,7 +10,7 @@ namespace {
 
 std::mutex poolMutex;
 
-/** Under the mutex. */
+/** Call this under the mutex only. */
 QVector<PxXMLTextPool *> &idlePools()
 {
     static auto &ourPools = *new QVector<PxXMLTextPool *>;

@@ -9,10 +9,11 @@
 #include <thread>
 
 /**
- * Makes texts of UTF-8, of recurring ones the same: names and values recur all over a catalogue.
+ * Converts UTF-8 to texts, and shares recurring ones: names and values recur throughout a
+ * catalogue.
  *
- * A slot holds the last short text of its hash value, so a file made of collisions costs no more
- * than one without recurring texts.
+ * Each slot holds the last short text with its hash value, so that a file full of hash collisions
+ * costs no more than one without recurring texts.
  */
 class PxXMLTextPool
 {
@@ -24,15 +25,17 @@ public:
     using Loan = std::unique_ptr<PxXMLTextPool, GiveBack>;
 
     /**
-     * A pool that nobody else uses until it is given back: the one that this thread gave back, with
-     * its texts, or a new one. Threads share no texts: each would wait for the other's counters.
+     * A pool for exclusive use until it is given back: the one that this thread gave back earlier,
+     * with its texts, or a new one. Threads share no texts, because they would contend for the
+     * reference counts.
      *
-     * Pools outlive files, and idle ones are never destroyed: the last static destructor of a
-     * process may load a file. A few are kept, whatever became of their threads.
+     * Pools outlive files. Idle ones are never destroyed, because the last static destructor of a
+     * process may load a file. Up to a fixed number of idle pools is kept, even after their threads
+     * have ended.
      */
     static Loan lend();
 
-    /** The text; not null when it is empty: an empty attribute is no missing one. */
+    /** The text. An empty one is not null: an empty attribute is not a missing one. */
     QString text(std::string_view utf8);
 
 private:
