@@ -77,7 +77,8 @@ PxBinding::~PxBinding() = default;
 
 PxBinding PxBinding::createFromHumanReadable(const QString &name)
 {
-    // Latin-1 bytes, which the translation reads as UTF-8: right for ASCII, and so for our names.
+    // The translation reads these Latin-1 bytes as UTF-8. That is right for ASCII, and so for our
+    // names.
     const QString translated =
         QCoreApplication::translate("PxBinding", name.toLatin1().constData());
     return bindingNames()->findByValue(translated);

@@ -22,7 +22,8 @@ enum PxBindingEnum : int {
     PxBindingCalendarOnePage = 1024,
     PxBindingCalendarAnnualDuplex = 2048,
     PxBindingGift = 4096,
-    // With the annual duplex planner: applications lay its pages out as those of the other two.
+    // The annual duplex planner is one, because applications lay out its pages like those of the
+    // other two.
     PxBindingAllSimplex =
         PxBindingCalendarSimplex | PxBindingCalendarOnePage | PxBindingCalendarAnnualDuplex,
     PxBindingAllFullCover = PxBindingHardcover | PxBindingSoftcover | PxBindingBooklet,
@@ -35,7 +36,7 @@ class PXPRODUCTPROPERTIES_EXPORT PxBinding : public PxEnumWrapper<PxBindingEnum>
 public:
     PxBinding() = default;
     PxBinding(PxBindingEnum value) : PxEnumWrapper(value) {}
-    /** From a keyword list; what is no keyword adds GIFT. */
+    /** From a keyword list; each word that is not a keyword adds GIFT. */
     PxBinding(const QString &keywords);
     PxBinding(const PxBinding &other);
     PxBinding &operator=(const PxBinding &other);
@@ -44,7 +45,7 @@ public:
     /**
      * The binding with this display name, in German or translated; value 0 for any other text.
      *
-     * Only names that ASCII can spell are found, as all the German ones are.
+     * Only names in ASCII are found; all German names are in ASCII.
      */
     static PxBinding createFromHumanReadable(const QString &name);
 
@@ -55,12 +56,14 @@ public:
     /** How many pages a calendar of this binding has: 12, 24 or 2; 1 for any other binding. */
     int calendarPageCount() const;
 
-    /** The translated display name; "unbekannter Bindungstyp" for a value without one. */
+    /** The translated display name; "unbekannter Bindungstyp" for a value without a name. */
     QString humanReadableName() const;
-    /** Translated, with line breaks; "unbekannter Bindungstyp" for a value without one. */
+    /**
+     * The translated tool tip, with line breaks; "unbekannter Bindungstyp" for a value without one.
+     */
     QString toolTip() const;
 
-    /** The display tables, translated when first asked for. Never null, never freed. */
+    /** The display tables, translated on the first call. Never null, never freed. */
     static const PxLookUpTable<PxBindingEnum, QString> *bindingNames();
     static const PxLookUpTable<PxBindingEnum, QString> *bindingToolTips();
 

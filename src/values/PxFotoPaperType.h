@@ -1,6 +1,6 @@
 #pragma once
 
-/** The finish of photo paper; one of them, not a set. */
+/** The finish of photo paper: a single value, not a set of flags. */
 enum PxFotoPaperType : int {
     PxFotoPaperTypeUnknown = 0,
     PxFotoPaperTypeGlossy = 1,

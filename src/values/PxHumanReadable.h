@@ -13,11 +13,11 @@
  * Display names of photo-paper finishes and of frame models.
  *
  * The frame models belong to the maker's catalogue: the optional file `frames.xml` in the resource
- * directories lists them, one `frame` element with `id` (plain ASCII) and `name` (the German text)
- * each. The two frameless variants are built in. An entry without id or name is left out; of two
- * with one id the later one counts, also over a built-in one. Of a file that cannot be read, which
- * is a warning, there are the built-in ones only. Texts are translated when the instance is
- * created.
+ * directories has one `frame` element for each, with `id` (plain ASCII) and `name` (the German
+ * text). The two frameless variants are built in. An entry without id or name is skipped. If two
+ * entries have the same id, the later one is used; a file entry also replaces a built-in one. If
+ * the file cannot be read, which is logged as a warning, only the built-in entries exist. Texts are
+ * translated when the instance is created.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxHumanReadable : public QObject
 {
@@ -26,14 +26,14 @@ class PXPRODUCTPROPERTIES_EXPORT PxHumanReadable : public QObject
 public:
     /**
      * Created on first use, from any thread; never destroyed. As a QObject it belongs to the thread
-     * that asks first: let that be the one of the user interface. Not to be asked for by a message
-     * handler while it loads, as PxProductTypeConfigRegistry::instance() says.
+     * of the first call, which should be that of the user interface. A message handler must not
+     * call this while the instance loads; see PxProductTypeConfigRegistry::instance().
      */
     static PxHumanReadable *instance();
 
-    /** Empty for a value that is no finish. */
+    /** Empty for any other value. */
     QString fotoPaperTypeName(PxFotoPaperType type) const;
-    /** The display name of a frame model; the identifier itself when it is unknown. */
+    /** The display name of a frame model; the identifier itself if the model is unknown. */
     QString frameName(const QString &id) const;
 
 private:
@@ -43,5 +43,5 @@ private:
     void initFotoPaperTypeNames();
 
     PxLookUpTable<PxFotoPaperType, QString> m_fotoPaperTypeNames;
-    QMap<QString, QString> m_templateNames; // sorted: names of a file may share one hash
+    QMap<QString, QString> m_templateNames; // no hash: a hostile file can make it slow
 };

@@ -24,7 +24,7 @@ class PXPRODUCTPROPERTIES_EXPORT PxJigType : public PxEnumWrapper<PxJigTypeEnum>
 public:
     PxJigType() = default;
     PxJigType(PxJigTypeEnum value) : PxEnumWrapper(value) {}
-    /** From a keyword list; a text that is no keyword adds nothing. */
+    /** From a keyword list; other words add nothing. */
     PxJigType(const QString &keywords);
     PxJigType(const PxJigType &other);
     PxJigType &operator=(const PxJigType &other);

@@ -29,7 +29,7 @@ enum PxPageTypeEnum : int {
                       PxPageTypeFoilCover | PxPageTypeFullCover | PxPageTypeCalendarCoverFront |
                       PxPageTypeCalendarCoverBack | PxPageTypeCromolinen | PxPageTypeLeather |
                       PxPageTypeArtificialLeather,
-    // Without the four types that stand for a range of pages: no single page is of such a type.
+    // Excludes the four types that mean a range of pages: no single page has such a type.
     PxPageTypeAll = PxPageTypeCover | PxPageTypeNormalPage | PxPageTypeEmptyPage,
 };
 extern template class PXPRODUCTPROPERTIES_EXPORT PxEnumWrapper<PxPageTypeEnum>;
@@ -40,7 +40,7 @@ class PXPRODUCTPROPERTIES_EXPORT PxPageType : public PxEnumWrapper<PxPageTypeEnu
 public:
     PxPageType() = default;
     PxPageType(PxPageTypeEnum value) : PxEnumWrapper(value) {}
-    /** From a keyword list; a text that is no keyword adds nothing. */
+    /** From a keyword list; other words add nothing. */
     PxPageType(const QString &keywords);
     PxPageType(const PxPageType &other);
     PxPageType &operator=(const PxPageType &other);

@@ -24,7 +24,7 @@ class PXPRODUCTPROPERTIES_EXPORT PxPaperType : public PxEnumWrapper<PxPaperTypeE
 public:
     PxPaperType() = default;
     PxPaperType(PxPaperTypeEnum value) : PxEnumWrapper(value) {}
-    /** From a keyword list; what is no keyword adds "indigo". */
+    /** From a keyword list; each word that is not a keyword adds "indigo". */
     PxPaperType(const QString &keywords);
     PxPaperType(const PxPaperType &other);
     PxPaperType &operator=(const PxPaperType &other);
@@ -33,10 +33,10 @@ public:
     /** The paper with this display name, in German or translated; "indigo" for any other text. */
     static PxPaperType createFromHumanReadable(const QString &name);
 
-    /** The translated display name; "unbekannter Papiertyp" for a value without one. */
+    /** The translated display name; "unbekannter Papiertyp" for a value without a name. */
     QString humanReadableName() const;
 
-    /** The display table, translated when first asked for. Never null, never freed. */
+    /** The display table, translated on the first call. Never null, never freed. */
     static const PxLookUpTable<PxPaperType, QString> *paperTypeNames();
 
     /** As files usually spell them. The first one of a value is the one that is written back. */

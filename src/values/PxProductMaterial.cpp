@@ -41,7 +41,7 @@ QStringList PxProductMaterial::keywords()
 
 QString PxProductMaterial::visibleDescription() const
 {
-    // Built anew each time: lists show few materials, and the language may have changed meanwhile.
+    // Built on each call: lists show few materials, and the language may change meanwhile.
     PxLookUpTable<QString, QString> table;
     table.insertTranslated("PxProductMaterial", descriptions);
     return table.findByKey(m_value);

@@ -22,7 +22,9 @@ public:
 
     /** The keyword exactly as read; empty by default. */
     QString value() const { return m_value; }
-    /** Its translated description; empty for an unknown keyword. Case and blanks count. */
+    /**
+     * The translated description; empty for an unknown keyword. Case and blanks are significant.
+     */
     QString visibleDescription() const;
 
     bool operator==(const PxProductMaterial &other) const { return m_value == other.m_value; }

@@ -30,7 +30,7 @@ class PXPRODUCTPROPERTIES_EXPORT PxSpaceMagnitude : public PxEnumWrapper<PxSpace
 public:
     PxSpaceMagnitude() = default;
     PxSpaceMagnitude(PxSpaceMagnitudeEnum value) : PxEnumWrapper(value) {}
-    /** From a keyword list; what is no keyword adds every size. */
+    /** From a keyword list; each word that is not a keyword adds every size. */
     PxSpaceMagnitude(const QString &keywords);
     PxSpaceMagnitude(const PxSpaceMagnitude &other);
     PxSpaceMagnitude &operator=(const PxSpaceMagnitude &other);
@@ -39,12 +39,12 @@ public:
     /** The size with this display name, in German or translated; value 0 for any other text. */
     static PxSpaceMagnitude createFromHumanReadable(const QString &name);
 
-    /** How many images a page of this size shows well; 1 unless it is one single size. */
+    /** How many images look good on a page of this size; 1 unless the value is a single size. */
     int maxReasonableImagesPerPage() const;
-    /** The translated display name; "Undefiniert" for a value without one. */
+    /** The translated display name; "Undefiniert" for a value without a name. */
     QString humanReadableName() const;
 
-    /** The display table, translated when first asked for. Never null, never freed. */
+    /** The display table, translated on the first call. Never null, never freed. */
     static const PxLookUpTable<PxSpaceMagnitude, QString> *names();
 
     /** As files usually spell them. The first one of a value is the one that is written back. */

@@ -5,13 +5,14 @@
 class QString;
 
 /**
- * XML files whose names are no text in the encoding of the locale, as an old archive leaves them.
+ * XML files whose names are not valid in the encoding of the locale; old archives may leave such
+ * files.
  *
- * QDir lists none of them, and no path leads to one, so that they would vanish without a word.
+ * QDir does not list them and no QString can name them, so they would be ignored silently.
  */
 namespace PxUndecodableNames {
 
-/** How many there are directly in a directory. */
+/** The number of such files directly in a directory. */
 PXPRODUCTPROPERTIES_EXPORT int count(const QString &directory);
 
 /** Logs one warning if there are any. */
