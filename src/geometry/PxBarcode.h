@@ -18,15 +18,15 @@ public:
     /** The rectangle is not inverted. */
     bool isValid() const;
 
-    /** On the page, in the unit of the product files. */
+    /** The place on the page, in the unit of the product files. */
     QRect rect() const { return m_rect; }
-    /** The page, counted from the front, or from the back when reverseOrder(). */
+    /** The page, counted from the front, or from the back if reverseOrder(). */
     int pageNr() const { return m_pageNr; }
     bool reverseOrder() const { return m_reverseOrder; }
     /** The placeholder image that the editor shows. */
     QString imageName() const { return m_imageName; }
 
-    /** Whether it is on this page of a product of so many pages. */
+    /** Whether the barcode is on this page of a product with this many pages. */
     bool isOnPage(int page, int pageCount) const;
 
 private:

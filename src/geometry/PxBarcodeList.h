@@ -14,6 +14,8 @@ public:
     /** Reads the "barcode" children of the "barcodes" element. */
     explicit PxBarcodeList(const QDomElement &barcodes);
 
-    /** The first one on this page of a product of so many pages; an invalid one when none is. */
+    /**
+     * The first barcode on this page of a product with this many pages; invalid if there is none.
+     */
     PxBarcode barcodeOnPage(int page, int pageCount) const;
 };

@@ -9,16 +9,17 @@ class QDebug;
 /**
  * The strip printed around the trimmed page, so that a skewed cut shows no white edge.
  *
- * Lengths are in the unit of the product files. 0 is no bleed; a negative length is kept as it is.
+ * Lengths are in the unit of the product files. 0 means no bleed; negative lengths are kept as they
+ * are.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxBleedMargin
 {
 public:
     PxBleedMargin(int horizontal, int vertical) : m_horizontal(horizontal), m_vertical(vertical) {}
 
-    /** Bleed at the left edge and at the right edge, each. */
+    /** The bleed at the left edge, and also at the right edge. */
     int horizontal() const { return m_horizontal; }
-    /** Bleed at the top edge and at the bottom edge, each. */
+    /** The bleed at the top edge, and also at the bottom edge. */
     int vertical() const { return m_vertical; }
 
     bool operator==(const PxBleedMargin &other) const;

@@ -5,7 +5,8 @@
 
 #include <limits>
 
-// Product files may hold any 32-bit number: what is computed from them stays in the int range.
+// Product files may hold any 32-bit number. Results of computations with them are kept in the int
+// range.
 
 inline int pxClampedInt(qint64 value)
 {

@@ -14,7 +14,7 @@ PxContentDropRedirectList::PxContentDropRedirectList(const QDomElement &parent)
     int unreadable = 0;
     for (QDomElement e = parent.firstChildElement(tag); !e.isNull();
          e = e.nextSiblingElement(tag)) {
-        // A negative page has a "-" too, and so an empty first part: only pages from 0 can be read.
+        // Only pages from 0 can be read: before the "-" of a negative page the first part is empty.
         const QString from = e.attribute(QStringLiteral("from"));
         bool hasFirst = false;
         bool hasLast = false;
@@ -38,7 +38,7 @@ PxContentDropRedirectList::PxContentDropRedirectList(const QDomElement &parent)
 
 int PxContentDropRedirectList::targetPage(int page) const
 {
-    // From the back: a later element wins over an earlier one.
+    // Searched from the back, because a later element overrides an earlier one.
     const auto range =
         std::find_if(m_ranges.crbegin(), m_ranges.crend(), [page](const Range &candidate) {
             return candidate.first <= page && page <= candidate.last;

@@ -6,19 +6,19 @@
 
 class QDomElement;
 
-/** Where content really goes that is dropped on a page. */
+/** For content that is dropped on a page, the page to which it really goes. */
 class PXPRODUCTPROPERTIES_EXPORT PxContentDropRedirectList
 {
 public:
     PxContentDropRedirectList() = default;
     /**
      * Reads the "contentredirect" children: "from" (a page such as "3" or a range such as "3-7")
-     * and "to". A range that ends before it begins is nothing; an unreadable element is left out
+     * and "to". A range that ends before it begins has no effect; an unreadable element is skipped
      * with a warning.
      */
     explicit PxContentDropRedirectList(const QDomElement &parent);
 
-    /** The page that takes the content; `page` itself when it is not redirected. */
+    /** The page that receives the content; `page` itself if it is not redirected. */
     int targetPage(int page) const;
 
 private:
@@ -29,6 +29,6 @@ private:
         int target;
     };
 
-    // Ranges, not pages: a file may redirect two thousand million pages at once.
+    // Ranges, not pages: one element may redirect two thousand million pages.
     QVector<Range> m_ranges;
 };

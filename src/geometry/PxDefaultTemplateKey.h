@@ -7,21 +7,24 @@
 
 class QDebug;
 
-/** Under which default templates are looked up: theme, kind of page, and which template. */
+/**
+ * The key by which default templates are found: a theme, a kind of page, and which of the two
+ * templates.
+ */
 class PXPRODUCTPROPERTIES_EXPORT PxDefaultTemplateKey
 {
 public:
     PxDefaultTemplateKey(const QString &theme, const PxPageContext &pageContext,
                          DefaultTemplateType defaultTemplateType);
 
-    /** The theme id; "normal" is the theme that the others fall back to. */
+    /** The theme id. Other themes fall back to the theme "normal". */
     QString theme() const { return m_theme; }
     PxPageContext pageContext() const { return m_pageContext; }
     PxPageType pageType() const { return m_pageContext.pageType(); }
     PxPageAlignment pageAlignment() const { return m_pageContext.alignment(); }
     DefaultTemplateType defaultTemplateType() const { return m_defaultTemplateType; }
 
-    /** Makes it the key of the theme "normal". */
+    /** Changes the theme to "normal". */
     void setDefaultTheme();
 
     bool operator==(const PxDefaultTemplateKey &other) const;

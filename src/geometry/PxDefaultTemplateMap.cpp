@@ -24,8 +24,8 @@ constexpr struct
 /**
  * The template's name without umlauts.
  *
- * Names with umlauts recur in hundreds of products: a short one is made once and shared, as the
- * reader of the file shares those without.
+ * Names with umlauts recur in hundreds of products. A short one is converted once and then shared;
+ * names without umlauts are already shared by the reader of the file.
  */
 QString templateName(const QString &text)
 {
@@ -36,7 +36,7 @@ QString templateName(const QString &text)
         return name;
     if (name.size() > maximumSharedLength)
         return PxDefaultTemplateMap::removeUmlauts(name);
-    static std::mutex ourMutex; // of the names; neither is ever destroyed
+    static std::mutex ourMutex; // protects the names; neither is ever destroyed
     static auto &ourRecentNames = *new std::array<QPair<QString, QString>, 256>;
     const std::lock_guard lock(ourMutex);
     auto &[original, replaced] = ourRecentNames[qHash(name) % ourRecentNames.size()];
@@ -67,7 +67,7 @@ QString PxDefaultTemplateMap::findTemplate(const PxDefaultTemplateKey &key, bool
 void PxDefaultTemplateMap::applyDefaultsNode(const QDomElement &parent)
 {
     const QString tag = QStringLiteral("defaults");
-    int undecodable = 0; // of the kinds of page of all elements
+    int undecodable = 0; // page types of all elements together
     for (QDomElement e = parent.firstChildElement(tag); !e.isNull();
          e = e.nextSiblingElement(tag)) {
         const int index = m_defaults.size();
@@ -113,7 +113,7 @@ bool PxDefaultTemplateMap::Defaults::isFor(const PxPageContext &page) const
     return isSingleBit(pageType) ? (pageTypes & pageType) != 0 : otherPageTypes.contains(pageType);
 }
 
-/** One part at a time: however long the list, there are few kinds of page. */
+/** Reads part by part: however long the list is, there are few different kinds of page. */
 void PxDefaultTemplateMap::readPageTypes(const QString &keywords, Defaults &defaults,
                                          int &undecodable)
 {
@@ -134,7 +134,8 @@ PxDefaultTemplateMap::Defaults PxDefaultTemplateMap::readDefaults(const QDomElem
     readPageTypes(element.attribute(QStringLiteral("pageType")), defaults, undecodable);
     defaults.alignments = pxPageAlignments(element);
 
-    // The short form: a background, or background and layout. Of more names the first still counts.
+    // The short form: a background, or a background and a layout. If there are more names, only the
+    // first is used.
     const QString shortForm = element.attribute(QStringLiteral("templates"));
     QStringView names[2];
     int count = 0;

@@ -8,7 +8,7 @@
 
 class QDomElement;
 
-/** Which template the editor puts on a new page by default, by theme, kind of page and side. */
+/** The templates that the editor puts on new pages by default, by theme, kind of page and side. */
 class PXPRODUCTPROPERTIES_EXPORT PxDefaultTemplateMap
 {
 public:
@@ -16,28 +16,29 @@ public:
     explicit PxDefaultTemplateMap(const QDomElement &parent);
 
     /**
-     * The name of the default template; empty when there is none.
+     * The name of the default template; empty if there is none.
      *
      * With `useFallback` a theme without a template of its own gets that of the theme "normal".
      */
     QString findTemplate(const PxDefaultTemplateKey &key, bool useFallback) const;
 
     /**
-     * Reads the "defaults" children of the element; a later one wins, also with an empty name.
+     * Reads the "defaults" children of the element. A later one overrides an earlier one, even with
+     * an empty name.
      *
-     * Each holds for all combinations of its "theme", "pageType" and "alignment" lists.
+     * Each child applies to all combinations of its "theme", "pageType" and "alignment" lists.
      */
     void applyDefaultsNode(const QDomElement &parent);
 
-    /** The text with lower-case ä, ö, ü and ß as ae, oe, ue and ss, and all else as it is. */
+    /** The text with lower-case ä, ö, ü and ß replaced by ae, oe, ue and ss. */
     static QString removeUmlauts(const QString &text);
 
 private:
     struct Defaults
     {
-        int pageTypes = 0;  // the union of those that are single bits, as nearly all are
-        int alignments = 0; // the alignments of a list are single bits: their union tells them all
-        QVector<PxPageTypeEnum> otherPageTypes; // 0 or a union, which is only equal to itself
+        int pageTypes = 0;  // the union of all page types that are a single bit, as nearly all are
+        int alignments = 0; // the union of the alignments, which are single bits
+        QVector<PxPageTypeEnum> otherPageTypes; // 0 and unions: a page must equal one of them
         QString templates[2];                   // by DefaultTemplateType
 
         bool isFor(const PxPageContext &page) const;
@@ -47,7 +48,8 @@ private:
     static Defaults readDefaults(const QDomElement &element, int &undecodable);
     QString findOwnTemplate(const PxDefaultTemplateKey &key) const;
 
-    // The elements as they stand, not their combinations: lists may cross into millions of pages.
+    // One entry per element, not per combination: crossed lists could give millions of
+    // combinations.
     QVector<Defaults> m_defaults;
-    QMap<QString, QVector<int>> m_defaultsOfTheme; // sorted: names of a file may share one hash
+    QMap<QString, QVector<int>> m_defaultsOfTheme; // no hash: a hostile file can make it slow
 };

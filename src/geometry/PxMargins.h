@@ -10,8 +10,8 @@
 class QDebug;
 
 /**
- * The four margins of a page, in the unit of the product files. All 0 by default; immutable, copies
- * share the record. Sums that leave the int range are clamped to it.
+ * The four margins of a page, in the unit of the product files; all 0 by default. Immutable: copies
+ * share the record. Sums outside the int range are clamped to it.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxMargins
 {
@@ -31,7 +31,7 @@ public:
     QPoint topLeft() const { return d->topLeft(); }
     /** The right margin as x, the bottom margin as y. */
     QPoint bottomRight() const { return d->bottomRight(); }
-    /** What the margins add to a width and to a height. */
+    /** The sum of left and right margin as width, and of top and bottom margin as height. */
     QSize totalMarginWH() const { return d->totalMarginWH(); }
     bool allNull() const { return d->allNull(); }
 

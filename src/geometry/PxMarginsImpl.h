@@ -6,7 +6,7 @@
 #include <QSharedData>
 #include <QSize>
 
-/** The record that PxMargins shares; applications use PxMargins. */
+/** The record that copies of PxMargins share; applications use PxMargins. */
 class PXPRODUCTPROPERTIES_EXPORT PxMarginsImpl : public QSharedData
 {
 public:

@@ -5,7 +5,10 @@
 #include <QDomElement>
 #include <QString>
 
-/** The sides of the pages that an element is for: its "alignment", all single pages by default. */
+/**
+ * The "alignment" of an element: the sides of the pages to which it applies, by default all of
+ * single pages.
+ */
 inline PxPageAlignment pxPageAlignments(const QDomElement &element)
 {
     const QString name = QStringLiteral("alignment");

@@ -10,9 +10,9 @@ class QDebug;
 class QDomElement;
 
 /**
- * On which kinds of page and on which sides of a spread a template or layout may be used.
+ * The kinds of page and the sides of a spread on which a template or layout may be used.
  *
- * Each of the two sets admits everything while it is empty, as both are by default.
+ * There is one set for each. An empty set, which is the default, admits everything.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxPageConstraint
 {
@@ -26,18 +26,18 @@ public:
 
     PxEmptyMeansAllSet<PxPageType> pageTypes() const { return m_pageTypes; }
     PxEmptyMeansAllSet<PxPageAlignment> intendetAlignments() const { return m_intendetAlignments; }
-    /** Admits one of the kinds of page in `pageType`. */
+    /** Whether it admits at least one of the kinds of page in `pageType`. */
     bool isPageType(const PxPageType &pageType) const;
-    /** Whether some page is admitted by both. */
+    /** Whether there is a page that both admit. */
     bool matches(const PxPageConstraint &other) const;
 
-    /** Admits exactly the single bits of the argument. */
+    /** Admits only the single bits of the argument. */
     void setPageTypes(const PxPageType &pageType);
-    /** Admits the argument as one element, unsplit, beside the others. */
+    /** Admits the argument in addition, as one element that is not split into bits. */
     void addPageType(const PxPageType &pageType);
-    /** Admits exactly the single bits of the argument. */
+    /** Admits only the single bits of the argument. */
     void setIntendetAlignment(const PxPageAlignment &alignment);
-    /** Admits the single bits of the argument beside the others. */
+    /** Admits the single bits of the argument in addition. */
     void addIntendetAlignment(const PxPageAlignment &alignment);
 
     /** Appends one "pagetype" or "intendetAlignment" child per element of the sets. */

@@ -8,7 +8,7 @@
 
 class QDebug;
 
-/** Which kind of page is meant, and on which side of a spread. */
+/** A kind of page and the side of a spread on which it lies. */
 class PXPRODUCTPROPERTIES_EXPORT PxPageContext
 {
 public:
@@ -18,9 +18,9 @@ public:
 
     PxPageType pageType() const { return m_pageType; }
     PxPageAlignment alignment() const { return m_alignment; }
-    /** Is exactly this page type, or this set of them; a shared bit is not enough. */
+    /** Whether it is exactly this page type, or this set of them; a common bit is not enough. */
     bool isPageType(const PxPageType &pageType) const { return m_pageType == pageType; }
-    /** Shares a page type and an alignment. */
+    /** Whether both have a page type and an alignment in common. */
     bool matchesWith(const PxPageContext &other) const;
 
     bool operator==(const PxPageContext &other) const;

@@ -7,9 +7,9 @@
 class QDebug;
 
 /**
- * Where the content of a page goes, and how it is turned, when the product is rotated.
+ * The page to which the content of a page goes, and how it is turned, when the product is rotated.
  *
- * Page numbers and angle are handed on as the product file states them.
+ * Page numbers and angle are those of the product file.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxPageRotationRedirect
 {

@@ -12,8 +12,8 @@ class PXPRODUCTPROPERTIES_EXPORT PxPageRotationRedirectList : public QList<PxPag
 public:
     PxPageRotationRedirectList() = default;
     /**
-     * Reads the "rotationredirect" children: "from", "to" (pages from -1) and "angleinvert" (1).
-     * One without a usable "from" and "to" is left out.
+     * Reads the "rotationredirect" children: "from" and "to" (pages from -1) and "angleinvert" (1
+     * by default). One without a valid "from" and "to" is skipped.
      */
     explicit PxPageRotationRedirectList(const QDomElement &parent);
 

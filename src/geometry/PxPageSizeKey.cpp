@@ -14,7 +14,7 @@ bool PxPageSizeKey::operator==(const PxPageSizeKey &other) const
 
 bool PxPageSizeKey::operator<(const PxPageSizeKey &other) const
 {
-    // Not a strict order, and applications rely on it: the page count never decides.
+    // Not a strict order: the page count never decides. Applications rely on that.
     return m_pageCount != other.m_pageCount && m_pageContext < other.m_pageContext;
 }
 

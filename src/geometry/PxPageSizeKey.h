@@ -6,7 +6,7 @@
 
 class QDebug;
 
-/** Under which page sizes are looked up: a kind of page in a product of so many pages. */
+/** The key by which page sizes are found: a kind of page in a product with a certain page count. */
 class PXPRODUCTPROPERTIES_EXPORT PxPageSizeKey
 {
 public:
@@ -22,10 +22,7 @@ public:
 
     bool operator==(const PxPageSizeKey &other) const;
     bool operator!=(const PxPageSizeKey &other) const { return !(*this == other); }
-    /**
-     * Between keys of different page counts the order of their contexts; false between keys of the
-     * same page count.
-     */
+    /** Compares the contexts if the page counts differ; false for equal page counts. */
     bool operator<(const PxPageSizeKey &other) const;
 
 private:

@@ -22,7 +22,7 @@ PxPageSizeSpec::PxPageSizeSpec(const PxPageSizeSpec &other)
     , m_orientation(other.m_orientation)
     , m_horizontalClampExtra(other.m_horizontalClampExtra)
 {
-    // Unordered: it only counts, and copies are made in any thread.
+    // No memory order is needed: this only counts, in any thread.
     static QAtomicInteger<quint32> ourCopies;
     const quint32 copies = ourCopies.fetchAndAddRelaxed(1) + 1;
     if (copies % 100 == 0)

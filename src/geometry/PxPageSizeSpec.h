@@ -9,14 +9,16 @@
 
 class QDebug;
 
-/** The size of one kind of page and what surrounds it, in the unit of the product files. */
+/** The size of one kind of page and the margins around it, in the unit of the product files. */
 class PXPRODUCTPROPERTIES_EXPORT PxPageSizeSpec
 {
 public:
     PxPageSizeSpec(const QSize &usableSize, const PxMargins &bleedMargins,
                    const PxMargins &safetyMargins, const PxOrientation &orientation,
                    int horizontalClampExtra);
-    /** Every hundredth copy in the process is logged at debug level, to show how often they happen.
+    /**
+     * Copies. Every hundredth copy in the process is logged at debug level, to show how many there
+     * are.
      */
     PxPageSizeSpec(const PxPageSizeSpec &other);
     PxPageSizeSpec &operator=(const PxPageSizeSpec &other);
@@ -25,15 +27,15 @@ public:
     /** The page after trimming, without bleed. */
     QSize usableSize() const { return m_usableSize; }
     PxMargins bleedMargins() const { return m_bleedMargins; }
-    /** The inner margins that designs keep clear of. */
+    /** The margins inside the page that designs keep free. */
     PxMargins safetyMargins() const { return m_safetyMargins; }
     PxOrientation orientation() const { return m_orientation; }
-    /** The width that a clamp binding takes of this page; no part of any size. */
+    /** The part of the width that a clamp binding takes; no size includes it. */
     int horizontalClampExtra() const { return m_horizontalClampExtra; }
 
-    /** The usable size with the bleed on all sides. */
+    /** The usable size with the bleed at all edges. */
     QSize totalSize() const;
-    /** Where the usable area starts in the total size. */
+    /** The top left corner of the usable area within the total size. */
     QPoint topLeftOffsetOfUsablePrintArea() const { return m_bleedMargins.topLeft(); }
 
 private:

@@ -15,7 +15,7 @@ public:
 
     QString filename() const { return m_filename; }
     QString templateType() const { return m_templateType; }
-    /** The layer of the page that takes the content; 0 by default. */
+    /** The layer of the target page on which this is placed; 0 by default. */
     int targetLayer() const { return m_targetLayer; }
 
     bool operator==(const PxProductionExtraPage &other) const;

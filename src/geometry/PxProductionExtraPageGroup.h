@@ -15,7 +15,7 @@ public:
     /** Reads an "item" element: the numbers of "target_pages" and the "pdf". */
     explicit PxProductionExtraPageGroup(const QDomElement &item);
 
-    /** In the order of the file, repeated ones kept. */
+    /** In the order of the file, with repetitions. */
     QList<int> targetPages() const { return m_targetPages; }
     PxProductionExtraPage content() const { return m_content; }
 

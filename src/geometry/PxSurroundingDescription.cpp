@@ -55,7 +55,7 @@ bool PxSurroundingDescription::operator==(const PxSurroundingDescription &other)
 
 bool PxSurroundingDescription::operator<(const PxSurroundingDescription &other) const
 {
-    // No strict order: a later field counts even when an earlier one is greater.
+    // Not a strict order: a later field decides even if an earlier one is greater.
     return m_surroundingType < other.m_surroundingType || m_pageTypes < other.m_pageTypes ||
            m_alignments < other.m_alignments || m_pageNr < other.m_pageNr ||
            m_paintOnTop < other.m_paintOnTop || m_imageRect.top() < other.m_imageRect.top() ||

@@ -10,18 +10,21 @@
 class QDebug;
 class QDomElement;
 
-/** An image that is painted around or over pages: a cover, a frame, a calendar rim, a shade. */
+/**
+ * An image that is painted around or over pages: a cover, a frame, the rim of a calendar or the
+ * shade of a fold.
+ */
 class PXPRODUCTPROPERTIES_EXPORT PxSurroundingDescription
 {
 public:
     /** No surrounding. */
     PxSurroundingDescription() = default;
     /**
-     * Reads a "surrounding" element.
+     * Reads a "surrounding" element. A FRAME applies to every ordinary page on any side, whatever
+     * its element says.
      *
-     * A FRAME is for every ordinary page of any side, whatever its element says. `undecodable`
-     * counts the undecodable page types of several elements, which together log no more messages
-     * than one.
+     * `undecodable` counts the undecodable page types of several elements, so that together they
+     * log no more than one.
      */
     explicit PxSurroundingDescription(const QDomElement &surrounding, int *undecodable = nullptr);
 
@@ -30,22 +33,22 @@ public:
     PxSurroundingType surroundingType() const { return m_surroundingType; }
     PxPageType pageTypes() const { return m_pageTypes; }
     PxPageAlignment alignments() const { return m_alignments; }
-    /** The one page that it is pinned to; -1 for none. */
+    /** The one page to which it is pinned; -1 for none. */
     int pageNr() const { return m_pageNr; }
-    /** Painted above the page content, not below. */
+    /** Whether it is painted above the page content, not below. */
     bool paintOnTop() const { return m_paintOnTop; }
     /** The name of the image resource. */
     QString image() const { return m_image; }
-    /** Where the image goes, in the unit of the product files; null when the file does not say. */
+    /** The place of the image, in the unit of the product files; null if the file has none. */
     QRect imageRect() const { return m_imageRect; }
-    /** The image shows the shade of the binding fold. */
+    /** Whether the image shows the shade of the binding fold. */
     bool hasBindingShade() const { return m_hasBindingShade; }
 
     bool isSuitable(const PxSurroundingKey &key) const;
 
     bool operator==(const PxSurroundingDescription &other) const;
     bool operator!=(const PxSurroundingDescription &other) const { return !(*this == other); }
-    /** True when any one field is less than the other's; no strict order. */
+    /** True if any field is less than that of the other; not a strict order. */
     bool operator<(const PxSurroundingDescription &other) const;
 
 private:

@@ -9,7 +9,7 @@ PxSurroundingDescriptionList::PxSurroundingDescriptionList(const QDomElement &pr
 {
     const QString listTag = QStringLiteral("surroundings");
     const QString tag = QStringLiteral("surrounding");
-    int undecodable = 0; // of the kinds of page of all elements
+    int undecodable = 0; // page types of all elements together
     for (QDomElement list = product.firstChildElement(listTag); !list.isNull();
          list = list.nextSiblingElement(listTag)) {
         for (QDomElement e = list.firstChildElement(tag); !e.isNull();

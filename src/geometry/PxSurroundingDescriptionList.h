@@ -15,7 +15,7 @@ public:
     /** Reads the "surrounding" children of every "surroundings" child of the product element. */
     explicit PxSurroundingDescriptionList(const QDomElement &product);
 
-    /** The first one that is suitable for the page; an invalid one when none is. */
+    /** The first one that suits the page; invalid if there is none. */
     PxSurroundingDescription findDescription(const PxSurroundingKey &key) const;
     bool hasSurroundingWithBindingShade() const;
 };

@@ -22,7 +22,7 @@ bool PxSurroundingKey::operator==(const PxSurroundingKey &other) const
 
 bool PxSurroundingKey::operator<(const PxSurroundingKey &other) const
 {
-    // Not a strict order, and applications rely on it: the page index never decides.
+    // Not a strict order: the page index never decides. Applications rely on that.
     return m_pageIndex != other.m_pageIndex && m_pageContext < other.m_pageContext;
 }
 

@@ -6,11 +6,11 @@
 
 class QDebug;
 
-/** Under which surroundings are looked up: a kind of page, and which page it is. */
+/** The key by which surroundings are found: a kind of page, and perhaps one particular page. */
 class PXPRODUCTPROPERTIES_EXPORT PxSurroundingKey
 {
 public:
-    /** A normal page on the left, whichever it is. */
+    /** A normal page on the left, without a page index. */
     PxSurroundingKey() = default;
     explicit PxSurroundingKey(const PxPageContext &pageContext, int pageIndex = -1);
 
@@ -23,13 +23,14 @@ public:
     /**
      * Whether a surrounding with this key may be painted on the page `other`.
      *
-     * Equal page indexes are enough, also two of -1; a key without one fits every matching context.
+     * Equal page indexes suffice, even if both are -1. A key with index -1 suits every page whose
+     * context matches.
      */
     bool isOkayFor(const PxSurroundingKey &other) const;
 
     bool operator==(const PxSurroundingKey &other) const;
     bool operator!=(const PxSurroundingKey &other) const { return !(*this == other); }
-    /** Between different page indexes the order of the contexts; false between equal ones. */
+    /** Compares the contexts if the page indexes differ; false for equal page indexes. */
     bool operator<(const PxSurroundingKey &other) const;
 
 private:
