@@ -13,7 +13,7 @@ class QDomElement;
 class PXPRODUCTPROPERTIES_EXPORT PxProductClassification
 {
 public:
-    /** Of no product: invalid. */
+    /** An invalid classification, of no product. */
     PxProductClassification() = default;
     /** Reads "name", "classification" and "usablesize" of the product element. */
     explicit PxProductClassification(const QDomElement &product);
@@ -23,11 +23,14 @@ public:
 
     PxProductType productType() const { return m_productType; }
     PxProductMaterial material() const { return m_material; }
-    /** Usable width times usable height, in square units of the product files; clamped to int. */
+    /**
+     * Usable width times usable height, in square units of the product files, clamped to the int
+     * range.
+     */
     int areaSize() const { return m_areaSize; }
-    /** The size in centimetres when `metric`, else in inches, as the file writes it. */
+    /** The size as the file states it, in centimetres if `metric`, else in inches. */
     QString sizeName(bool metric) const { return metric ? m_sizeNameCm : m_sizeNameInch; }
-    /** The same followed by a blank and the translated unit. */
+    /** The same with a blank and the translated unit behind it. */
     QString sizeNameWithUnit(bool metric) const;
 
 private:

@@ -7,9 +7,9 @@
 #include <QStringList>
 
 /**
- * The classifications of products, and what the shop asks about them.
+ * The classifications of products, with the questions that the shop asks about them.
  *
- * "First" is the order of the list that it was given.
+ * "First" refers to the order of the list that the constructor takes.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxProductClassificationManager
 {
@@ -17,22 +17,22 @@ public:
     PxProductClassificationManager() = default;
     explicit PxProductClassificationManager(const QList<PxProductClassification> &classifications);
 
-    /** Each material once, in order of first occurrence. */
+    /** Every material once, in order of first occurrence. */
     QList<PxProductMaterial> materials() const;
-    /** The size names of a material, each once, in order of first occurrence. */
+    /** The size names of a material, every one once, in order of first occurrence. */
     QStringList sizes(const PxProductMaterial &material, bool metric) const;
-    /** Empty for a product that is not classified. */
+    /** The size name of a product; empty if the product is not classified. */
     QString size(const PxProductType &type, bool metric) const;
-    /** An empty material for a product that is not classified. */
+    /** The material of a product; empty if the product is not classified. */
     PxProductMaterial material(const PxProductType &type) const;
-    /** The first product of this material and size; type 0 when there is none. */
+    /** The first product of this material and size; type 0 if there is none. */
     PxProductType type(const PxProductMaterial &material, const QString &sizeName,
                        bool metric) const;
     /**
-     * The product of a material whose area comes closest to that of `type`, the first of equals.
+     * The product of a material whose area is closest to that of `type`; the first one of several.
      *
-     * A product that is not classified counts as area 0. Type 0 when the material has no product
-     * whose area is less than 1000000000 away.
+     * A product that is not classified counts as area 0. Type 0 if the material has no product
+     * whose area differs by less than 1000000000.
      */
     PxProductType closestProduct(const PxProductType &type, const QString &materialName) const;
 

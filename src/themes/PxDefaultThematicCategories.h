@@ -5,5 +5,5 @@
 
 #include <QHash>
 
-/** The category that is shown first for each kind of design element. */
+/** For each kind of design element, the category that is shown first. */
 using PxDefaultThematicCategories = QHash<PxJigType, PxThematicCategory>;

@@ -2,5 +2,5 @@
 
 #include <QList>
 
-/** The numbers of the key accounts that something is offered to. */
+/** The numbers of the key accounts to which something is offered. */
 using PxKeyAccountNumberList = QList<int>;

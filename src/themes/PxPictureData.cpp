@@ -12,14 +12,17 @@
 
 namespace {
 
-/** How many samples the blocks of a JPEG hold, which are cut off at no edge of the picture. */
+/**
+ * The number of samples in the blocks of a JPEG. Blocks are complete even at the edges of the
+ * picture.
+ */
 qint64 jpegSamples(const QByteArray &frame, qint64 width, qint64 height)
 {
     constexpr qint64 blockSize = 8;
     const int components = frame.size() > 7 ? uchar(frame.at(7)) : 0;
     int mostAcross = 1;
     int mostDown = 1;
-    int blocks = 0; // of the smallest part of the picture that has some of each component
+    int blocks = 0; // in the smallest part of the picture that has all components
     for (int i = 0; i < components && 9 + 3 * i < frame.size(); ++i) {
         const int sampling = uchar(frame.at(9 + 3 * i));
         const int across = sampling >> 4;
@@ -96,13 +99,13 @@ QImage PxPictureData::decoded() const
     buffer.setData(m_bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer, m_format);
-    reader.setAutoDetectImageFormat(false); // nor is any other format tried
+    reader.setAutoDetectImageFormat(false); // try no other format
     return reader.read();
 }
 
 void PxPictureData::readPng()
 {
-    // Of the others each is there once, and none has to be.
+    // Ancillary chunks that are kept. Each occurs at most once, and none is required.
     constexpr const char *ancillaryChunks[] = {"cHRM", "gAMA", "iCCP", "oFFs",
                                                "pHYs", "sRGB", "tRNS"};
     bool isKept[std::size(ancillaryChunks)] = {};
@@ -132,7 +135,7 @@ void PxPictureData::readPng()
         m_isCutOff = type != "IEND" || end < position + 12 + length;
         position = position + 12 + length;
     }
-    // libpng insists on this one being first, too.
+    // libpng requires this chunk to be the first one, too.
     if (m_bytes.mid(8, 8) == QByteArray("\0\0\0\x0DIHDR", 8)) {
         m_width = bigEndian(16, 4);
         m_height = bigEndian(20, 4);
@@ -142,16 +145,16 @@ void PxPictureData::readPng()
 
 void PxPictureData::readJpeg()
 {
-    constexpr int mostIccSegments = 255; // their number is a byte
+    constexpr int mostIccSegments = 255; // they are numbered with a byte
     constexpr char mark = '\xFF';
     const QByteArray file = m_bytes;
     int applicationSegments[16] = {};
-    qint64 kept = 0; // up to here all bytes are handled
+    qint64 kept = 0; // all bytes before this one are handled
     qint64 position = 2;
     m_isCutOff = true;
     m_bytes.clear();
     while (m_isCutOff) {
-        // As libjpeg finds the next marker, behind a segment and in the data of a scan.
+        // Finds the next marker as libjpeg does, behind a segment and within the data of a scan.
         const qint64 begin = file.indexOf(mark, int(position));
         if (begin < 0)
             break;
@@ -184,8 +187,8 @@ void PxPictureData::readJpeg()
         } else if (marker < 0xD0 && marker != 0xC4 && marker != 0xC8 && marker != 0xCC) {
             m_isOtherJpeg = true;
         } else if (marker >= 0xE0) {
-            // Format, colour profile and colour transformation; libjpeg takes quadratic time for
-            // many of them, as for the comments.
+            // Only format, colour profile and colour transformation are needed. libjpeg takes
+            // quadratic time for many of these segments, as it does for comments.
             const bool isNeeded = marker == 0xE0 || marker == 0xE2 || marker == 0xEE;
             if (!isNeeded || ++applicationSegments[marker - 0xE0] > mostIccSegments) {
                 m_bytes.append(file.constData() + kept, int(begin - kept));
@@ -205,13 +208,14 @@ void PxPictureData::readGif()
     bool hasFrame = false;
     for (;;) {
         const int introducer = byteAt(position);
-        if (introducer == ',') { // a frame; the decoder reads the first
+        if (introducer == ',') { // a frame; decoders read the first one
             const qint64 frame = position + 1;
             position = frame + 9 + sizeOfColors(frame + 8);
             const int colorBits = byteAt(position++);
             const QByteArray codes = gifBlocks(&position);
             if (!hasFrame) {
-                // The screen may be much larger than the frame, and the frame leave it.
+                // The screen may be much larger than the frame, and the frame may reach beyond the
+                // screen.
                 m_width = std::max(littleEndian(6, 2),
                                    littleEndian(frame, 2) + littleEndian(frame + 4, 2));
                 m_height = std::max(littleEndian(8, 2),
@@ -223,7 +227,7 @@ void PxPictureData::readGif()
             position += 2;
             gifBlocks(&position);
         } else {
-            // Some end behind the frame without the mark of the end.
+            // Some files end behind the frame, without the end mark.
             m_isCutOff = introducer < 0 && !(hasFrame && position == m_bytes.size());
             return;
         }
@@ -263,13 +267,13 @@ void PxPictureData::readBmp()
             littleEndian(10, 4) + (m_width * bits + 31) / 32 * 4 * m_height > m_bytes.size();
 }
 
-/** -1 behind the end. */
+/** The byte at a position; -1 behind the end. */
 int PxPictureData::byteAt(qint64 position) const
 {
     return position < m_bytes.size() ? uchar(m_bytes.at(int(position))) : -1;
 }
 
-/** What is behind the end counts as 0. */
+/** Bytes behind the end count as 0. */
 qint64 PxPictureData::bigEndian(qint64 position, int size) const
 {
     qint64 number = 0;
@@ -286,7 +290,7 @@ qint64 PxPictureData::littleEndian(qint64 position, int size) const
     return number;
 }
 
-/** The blocks from a position on in one piece; goes behind them. */
+/** The contents of the blocks from a position on, joined. Moves the position behind them. */
 QByteArray PxPictureData::gifBlocks(qint64 *position) const
 {
     QByteArray blocks;

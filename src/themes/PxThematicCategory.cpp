@@ -72,7 +72,8 @@ bool PxThematicCategory::operator==(const PxThematicCategory &other) const
 
 uint qHash(const PxThematicCategory &category, uint seed)
 {
-    // As written, though == ignores the case: sets keep both spellings of a category.
+    // Hashes the name as written, although == ignores the case: sets keep both spellings of a
+    // category.
     return qHash(category.name(), seed);
 }
 

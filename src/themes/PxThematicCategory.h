@@ -9,7 +9,7 @@ class QDebug;
 /**
  * A name under which design material is browsed.
  *
- * Names are compared without regard to case, but hashed as they are written: a set may hold two
+ * Names are compared without regard to case, but hashed as they are written, so a set may hold two
  * spellings of one category.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxThematicCategory
@@ -17,13 +17,15 @@ class PXPRODUCTPROPERTIES_EXPORT PxThematicCategory
 public:
     PxThematicCategory(const QString &name, const QString &visibleName);
 
-    /** The special categories, which are treated apart from the ordinary ones. */
+    /** The special categories, which are treated differently from ordinary ones. */
     static PxThematicCategory recycleBin();
     static PxThematicCategory multiColor();
     static PxThematicCategory favourites();
     static PxThematicCategory passpartouts();
     static PxThematicCategory frames();
-    /** The one that shows everything. Its text is its name; translated on each call. */
+    /**
+     * The category that shows everything. Its name is its text, which is translated on each call.
+     */
     static PxThematicCategory categoryAll();
     static QString allText();
 
@@ -39,7 +41,7 @@ public:
 
     bool operator==(const PxThematicCategory &other) const;
     bool operator!=(const PxThematicCategory &other) const { return !(*this == other); }
-    /** By name, with regard to case. */
+    /** Compares the names, with regard to case. */
     bool operator<(const PxThematicCategory &other) const { return m_name < other.m_name; }
 
 private:

@@ -9,7 +9,7 @@
 class QDebug;
 class QDomElement;
 
-/** The thematic categories that something belongs to. It may hold two spellings of one category. */
+/** The thematic categories of something. A set may hold two spellings of one category. */
 class PXPRODUCTPROPERTIES_EXPORT PxThematicCategorySet : public QSet<PxThematicCategory>
 {
 public:
@@ -19,21 +19,23 @@ public:
     explicit PxThematicCategorySet(const QStringList &names);
 
     static PxThematicCategorySet createRecycleBinCategory();
-    /** All the special categories; the text of "show everything" is translated on the first call.
-     */
+    /** All special categories. The text of "show everything" is translated on the first call. */
     static PxThematicCategorySet specialCategories();
     static PxThematicCategorySet allCategorySet();
-    /** One category per part of a comma-separated list, untrimmed; empty parts give none. */
+    /**
+     * One category per part of a comma-separated list. Parts are not trimmed; empty ones are
+     * skipped.
+     */
     static PxThematicCategorySet buildFromCSV(const QString &text);
 
     bool isOnlyMultiColor() const;
     bool containsAtLeastOne(const PxThematicCategorySet &other) const;
-    /** Every member is the favourites category or in `other`; true for an empty set. */
+    /** Whether every member is the favourites category or in `other`; true for an empty set. */
     bool containsOnlyFavouritesAnd(const PxThematicCategorySet &other) const;
     PxThematicCategorySet plusFavourites() const;
     /**
-     * The category to show an item under: multicolour before any ordinary category, an ordinary one
-     * before a special one; an empty category for an empty set.
+     * The category under which an item is shown: multicolour if it is in the set, else an ordinary
+     * category, else a special one. An empty category for an empty set.
      */
     PxThematicCategory preferredCategory() const;
     QStringList toDataStringList() const;

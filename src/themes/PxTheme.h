@@ -14,9 +14,9 @@
 class QDebug;
 
 /**
- * A design theme: what a product looks like and may hold when it is designed in it.
+ * A design theme: what a product looks like and may contain if it is designed in this theme.
  *
- * Immutable; copies share the record. The void theme, with the id "unbekannt", stands for none.
+ * Immutable; copies share the record. The void theme, with the id "unbekannt", means no theme.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxTheme
 {
@@ -48,17 +48,20 @@ public:
     bool isDefaultTheme() const;
     /** The id is "design", in any case. */
     bool isDesignTheme() const;
-    /** Brings content of its own, as every theme but the default one does. */
+    /** Whether it has content of its own, as every theme but the default one does. */
     bool isThemeWithContent() const { return !isDefaultTheme(); }
 
     // Who may order it
-    /** The last moment, in local time; null for the void theme, which counts as expired. */
+    /**
+     * The last moment at which it can be ordered, in local time; null for the void theme, which
+     * counts as expired.
+     */
     QDateTime expiryDate() const { return d->expiryDate(); }
     bool isExpired() const;
     /** The day of the expiry date, as in "1976-12-30". */
     QString expiryDayToOrderTxt() const;
     PxKeyAccountNumberList keyAccounts() const { return d->keyAccounts(); }
-    /** An empty list of key accounts admits none. */
+    /** An empty list of key accounts allows none. */
     bool isValidForKeyAccount(int keyAccount) const;
     /** An empty set allows every product type. */
     PxEmptyMeansAllSet<PxProductType> allowedProductTypes() const;
@@ -71,7 +74,7 @@ public:
     /** Always false: layouts belong to their theme. */
     bool canUseNormalLayouts() const { return d->canUseNormalLayouts(); }
     bool mustPaintVemoLogo(const PxProductType &type) const { return d->hasLogo(type); }
-    /** The logo and where it goes; a null image and an invalid rectangle when there is none. */
+    /** The logo and its place; a null image and an invalid rectangle if there is none. */
     QPair<QImage, QRect> vemoLogo(const PxProductType &type) const { return d->logo(type); }
 
     // Which category is shown first; an empty one when the theme names none
@@ -82,12 +85,12 @@ public:
     PxThematicCategory defaultFadingCategory() const;
     PxThematicCategory defaultFrameCategory() const;
 
-    /** Compares all but the allowed product types. */
+    /** Compares everything but the allowed product types. */
     bool operator==(const PxTheme &other) const;
     bool operator!=(const PxTheme &other) const { return !(*this == other); }
     /**
-     * The key of a sorted table in which many themes are looked for: themes that are equal have the
-     * same, and themes that only differ in pictures. The text means nothing else.
+     * A key for sorted tables of many themes. Equal themes have the same key, as do themes that
+     * differ only in their images; the text has no other meaning.
      */
     QString sortingKey() const { return d->sortingKey(); }
 
@@ -100,6 +103,6 @@ private:
 Q_DECLARE_TYPEINFO(PxTheme, Q_MOVABLE_TYPE);
 Q_DECLARE_METATYPE(PxTheme)
 
-/** By id and expiry date, which equal themes share. */
+/** Hashes id and expiry date. */
 PXPRODUCTPROPERTIES_EXPORT uint qHash(const PxTheme &theme, uint seed = 0);
 PXPRODUCTPROPERTIES_EXPORT QDebug operator<<(QDebug debug, const PxTheme &theme);

@@ -68,6 +68,6 @@ QString PxThemeConfig::sortingKey() const
     }
     for (PxJigTypeEnum jigType : {PxJigTypeBackground, PxJigTypeClipart, PxJigTypeContent,
                                   PxJigTypeLayout, PxJigTypePassepartout, PxJigTypeFrame})
-        parts.append(defaultCategory(jigType).name().toCaseFolded()); // compared in any case
-    return parts.join(QChar(0));                                      // which no text of a file has
+        parts.append(defaultCategory(jigType).name().toCaseFolded()); // == ignores the case
+    return parts.join(QChar(0)); // no text from a file contains it
 }

@@ -19,9 +19,9 @@
 class PXPRODUCTPROPERTIES_EXPORT PxThemeConfig : public QSharedData
 {
 public:
-    /** The record of no theme. */
+    /** The record of the void theme. */
     PxThemeConfig();
-    /** The order is not that of the PxTheme constructor. */
+    /** The order of the parameters is not that of the PxTheme constructor. */
     PxThemeConfig(const QString &id, const PxProductGroup &productGroup, const QString &description,
                   const QDateTime &expiryDate, const QImage &thumbnail,
                   const PxKeyAccountNumberList &keyAccounts,
@@ -53,7 +53,7 @@ public:
     PxThematicCategory defaultCategory(const PxJigType &jigType) const;
     PxEmptyMeansAllSet<PxProductType> allowedProductTypes() const { return m_allowedProductTypes; }
 
-    /** Compares all but the allowed product types. */
+    /** Compares everything but the allowed product types. */
     bool operator==(const PxThemeConfig &other) const;
     QString sortingKey() const;
 

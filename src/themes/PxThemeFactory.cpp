@@ -88,7 +88,7 @@ PxDefaultThematicCategories readDefaultCategories(const QDomElement &defaultCate
     return categories;
 }
 
-/** The child elements of an element, which are looked at once however many are asked for. */
+/** The child elements of an element. They are visited once, even if many of them are looked up. */
 class ChildElements
 {
 public:
@@ -98,7 +98,7 @@ public:
             m_children.append({e.tagName(), e});
     }
 
-    /** Null when there is none of this name. */
+    /** Null if there is none with this name. */
     QDomElement first(const QString &name) const
     {
         for (const auto &[childName, child] : m_children) {
@@ -112,14 +112,14 @@ private:
     QVarLengthArray<QPair<QString, QDomElement>, 16> m_children; // more than a theme has
 };
 
-/** Without an expiry date a theme has always been expired: it is offered to nobody. */
+/** A theme without an expiry date has always been expired: it is offered to nobody. */
 QDateTime readExpiry(const QDomElement &theme)
 {
     const QString name = QStringLiteral("expiry");
     const auto read = [&name](const QDomElement &element) {
         return PxXMLParser::dateTimeAttribute(element, name, QStringLiteral("197612302359"));
     };
-    static const auto &ourDefault = *new QDateTime(read(QDomElement())); // it takes its time
+    static const auto &ourDefault = *new QDateTime(read(QDomElement())); // slow to convert
     return theme.hasAttribute(name) ? read(theme) : ourDefault;
 }
 
@@ -239,7 +239,7 @@ PxThemeList PxThemeFactory::loadThemeList(QDir &directory)
 {
     PxThemeList themes;
     PxThemeImages images;
-    // Patterns match in any case; a file that matches both is listed once.
+    // Patterns ignore the case, and a file that matches both is listed once.
     const QFileInfoList files = directory.entryInfoList(
         {QStringLiteral("*.XML"), QStringLiteral("*.xml")}, QDir::Files, QDir::Unsorted);
     PxUndecodableNames::warn(directory.absolutePath());

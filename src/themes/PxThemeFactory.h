@@ -11,22 +11,25 @@ class QDir;
 /**
  * All design themes, read from the theme files of the themes directory.
  *
- * The instance is created on first use, from any thread, and only read afterwards. It reads its
- * files, and logs, while other threads that ask for it wait.
+ * The instance is created on first use, from any thread, and only read afterwards. While it reads
+ * its files, and logs, other threads that ask for it wait.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxThemeFactory
 {
 public:
-    /** Of one file; with an id, a product group and an expiry date more would not fit into it. */
+    /**
+     * The most themes of one file. A file cannot hold more that have an id, a product group and an
+     * expiry date.
+     */
     static constexpr int maximumThemes = 50000;
 
-    /** Without themes until init() or loadThemeList(). Applications use instance(). */
+    /** Has no themes before init() or loadThemeList(). Applications use instance(). */
     PxThemeFactory() = default;
     Q_DISABLE_COPY(PxThemeFactory)
 
     /**
-     * The themes of the themes directory. Created on first use, from any thread; not to be asked
-     * for by a message handler while it loads, as PxProductTypeConfigRegistry::instance() says.
+     * The themes of the themes directory. Created on first use, from any thread. A message handler
+     * must not call this while the themes are loaded; see PxProductTypeConfigRegistry::instance().
      */
     static PxThemeFactory *instance();
 
@@ -36,26 +39,31 @@ public:
     PxThemeList themeList(int keyAccount) const;
     /** The ids of all themes, in the order in which they were read. */
     QStringList themeNames() const;
-    /** The theme "normal"; the first theme when there is none, the void theme when there are none.
+    /**
+     * The theme "normal"; the first theme if there is no such theme, and the void theme if there is
+     * no theme at all.
      */
     PxTheme defaultTheme() const { return m_defaultTheme; }
     bool contains(const QString &id) const;
-    /** The first theme of this id, exactly; the void theme when there is none. */
+    /** The first theme with exactly this id; the void theme if there is none. */
     PxTheme findTheme(const QString &id) const;
-    /** One theme per known id, in their order; of two themes of one id the one read last. */
+    /**
+     * One theme per known id, in the order of the ids. Of two themes with one id, the last one
+     * read.
+     */
     PxThemeList findThemes(const QStringList &ids) const;
     /** The same for a comma-separated list. Ids are not trimmed. */
     PxThemeList findThemes(const QString &ids) const;
     PxThemeList findThemesWhichAcceptNormalBackgrounds() const;
     PxThemeList findThemesWhichAcceptNormalLayouts() const;
 
-    /** Reads the themes directory; called once, by instance(). */
+    /** Reads the themes directory. Called once, by instance(). */
     void init();
     /**
-     * Reads the theme files of a directory and answers their themes.
+     * Reads the theme files of a directory and returns their themes.
      *
-     * Adds to what findThemes() and the two lists of themes that accept normal backgrounds or
-     * layouts answer; themeList() and defaultTheme() are left as they are.
+     * The themes are added to those that findThemes() and the two lists of themes that accept
+     * normal backgrounds or layouts know. themeList() and defaultTheme() do not change.
      */
     PxThemeList loadThemeList(QDir &directory);
 

@@ -23,8 +23,8 @@ namespace {
 std::atomic_bool isEnding{false};
 
 /**
- * Image formats are plugins, which Qt lets go of when the process ends. What is registered for that
- * after main() has begun runs before the destructors of the program's static objects.
+ * Image formats are plugins, which Qt releases when the process ends. A handler that is registered
+ * after main() has begun runs before the destructors of the static objects of the program.
  */
 void noticeTheEnd()
 {
@@ -39,7 +39,10 @@ bool isReadableFile(const QString &path)
     return file.isFile() && file.isReadable();
 }
 
-/** Opens a regular file, never waiting for one; answers what identifies it, empty for none. */
+/**
+ * Opens a regular file without ever waiting. Returns what identifies the file; empty if it was not
+ * opened.
+ */
 QString open(QFile *file)
 {
     const QString name = file->fileName();
@@ -49,7 +52,7 @@ QString open(QFile *file)
     if (handle < 0)
         return QString();
     struct stat status = {};
-    // What was a file when it was found may be a pipe by now.
+    // What was a regular file when it was found may be a pipe by now.
     if (fstat(handle, &status) != 0 || !S_ISREG(status.st_mode) ||
         !file->open(handle, QIODevice::ReadOnly | QIODevice::Unbuffered,
                     QFileDevice::AutoCloseHandle)) {
@@ -59,7 +62,9 @@ QString open(QFile *file)
     return QStringLiteral("%1 %2").arg(status.st_dev).arg(status.st_ino);
 }
 
-/** As QImageReader does it for a file: "logo@2x.png" has twice as many pixels as it is shown with.
+/**
+ * Sets the pixel ratio as QImageReader does it for a file: "logo@2x.png" has twice as many pixels
+ * as it is shown with.
  */
 void setPixelRatio(QImage *image, const QString &fileName)
 {
@@ -104,7 +109,7 @@ PxThemeImages::Result PxThemeImages::read(const QString &path)
     if (isEnding || path.isEmpty())
         return {};
     Result result;
-    if (path.size() >= PATH_MAX) { // long work for a name that no file can have
+    if (path.size() >= PATH_MAX) { // no file can have such a name, and searching for it is slow
         result.fault = QStringLiteral("is not there");
         return result;
     }
@@ -115,7 +120,7 @@ PxThemeImages::Result PxThemeImages::read(const QString &path)
         result.fault = !result.isThere ? QStringLiteral("is not there")
                        : info.isFile() ? QStringLiteral("cannot be read")
                                        : QStringLiteral("is no regular file");
-        // A logo that names no image leads to the resource directory.
+        // The path of a logo that names no image is the resource directory: no warning then.
         if (result.isThere && !info.isDir())
             qWarning() << "PxThemeImages::read" << path << qUtf8Printable(result.fault);
         return result;

@@ -60,7 +60,7 @@ PxTheme PxThemeList::findTheme(const QString &id) const
 PxThemeList PxThemeList::filter(int keyAccount, bool expired) const
 {
     PxThemeList themes;
-    // The flag says which themes not to keep: applications pass true for those that can be ordered.
+    // The flag names the themes to leave out: applications pass true for those that can be ordered.
     std::copy_if(begin(), end(), std::back_inserter(themes), [&](const PxTheme &theme) {
         return theme.isValidForKeyAccount(keyAccount) && theme.isExpired() != expired;
     });
@@ -90,8 +90,7 @@ QStringList PxThemeList::descriptionList() const
 
 void PxThemeList::appendUnique(const PxThemeList &other)
 {
-    // Sorted, and by nearly all that makes themes differ: ids of a file may all be one or share one
-    // hash.
+    // By sorting key, not by hash: all ids of a hostile file may be equal or share one hash.
     QMap<QString, QList<PxTheme>> known;
     for (const PxTheme &theme : qAsConst(*this))
         known[theme.sortingKey()].append(theme);

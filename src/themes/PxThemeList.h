@@ -14,7 +14,7 @@ class PXPRODUCTPROPERTIES_EXPORT PxThemeList : public QList<PxTheme>
 public:
     PxThemeList() = default;
     explicit PxThemeList(const PxTheme &theme);
-    /** The factory's themes of a comma-separated list of ids; unknown ids are left out. */
+    /** The factory's themes for a comma-separated list of ids; unknown ids are skipped. */
     explicit PxThemeList(const QString &ids);
     PxThemeList(const QList<PxTheme> &themes);
 
@@ -24,9 +24,11 @@ public:
     /** Ids are compared exactly. */
     bool contains(const QString &id) const;
     bool containsDefaultTheme() const;
-    /** The first theme of this id, exactly; the void theme when there is none. */
+    /** The first theme with exactly this id; the void theme if there is none. */
     PxTheme findTheme(const QString &id) const;
-    /** The themes for the key account: the orderable ones if `expired`, else only the expired ones.
+    /**
+     * The themes for the key account: if `expired`, those that can be ordered; else the expired
+     * ones.
      */
     PxThemeList filter(int keyAccount, bool expired) const;
     QStringList idList() const;
@@ -35,9 +37,12 @@ public:
 
     /** Appends the themes that are not in the list yet. */
     void appendUnique(const PxThemeList &other);
-    /** When the default theme is here, all that accept its backgrounds shall be here, too. */
+    /** If the default theme is in the list, appends all themes that accept its backgrounds. */
     void expandDefaultThemeToAllNormalThemes();
-    /** Moves "albfreetheme", "design" and "normal", in this order and if valid, to the front. */
+    /**
+     * Moves the themes "albfreetheme", "design" and "normal" to the front, in this order, if they
+     * are valid.
+     */
     void normalize();
 
 private:

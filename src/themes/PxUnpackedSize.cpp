@@ -7,7 +7,7 @@
 
 namespace {
 
-/** Reads bits, the lowest of each byte first. */
+/** Reads bits, starting with the lowest bit of each byte. */
 class BitReader
 {
 public:
@@ -16,7 +16,7 @@ public:
         , m_end(bytes.constData() + bytes.size())
     {}
 
-    /** Up to 16 bits; -1 when there are not so many left. */
+    /** Reads up to 16 bits; -1 if fewer are left. */
     int read(int count)
     {
         for (; m_count < count; m_count += 8) {
@@ -30,7 +30,7 @@ public:
         return int(bits);
     }
 
-    /** What is left of the byte of which bits were read. */
+    /** Skips the remaining bits of a byte that was read in part. */
     void skipRestOfByte()
     {
         m_bits >>= m_count % 8;
@@ -41,10 +41,10 @@ private:
     const char *m_next;
     const char *m_end;
     quint32 m_bits = 0;
-    int m_count = 0; // of bits
+    int m_count = 0; // number of bits
 };
 
-/** A canonical Huffman code of deflate, given by the length of each symbol's code. */
+/** A canonical Huffman code as in deflate, defined by the code length of each symbol. */
 class HuffmanCode
 {
 public:
@@ -62,7 +62,7 @@ public:
         }
     }
 
-    /** The next symbol; -1 when there is none. */
+    /** Reads the next symbol; -1 if there is none. */
     int read(BitReader &bits) const
     {
         int code = 0;
@@ -122,7 +122,7 @@ private:
     {
         m_bits.skipRestOfByte();
         const int length = m_bits.read(16);
-        m_bits.read(16); // the same for safety
+        m_bits.read(16); // the complement of the length
         for (int i = 0; i < length; ++i) {
             if (m_bits.read(8) < 0)
                 return false;
@@ -174,7 +174,7 @@ private:
                      HuffmanCode(lengths.data() + lengthCount, distanceCount));
     }
 
-    /** A block of literals, and of lengths with distances. */
+    /** Counts a block of literals and of lengths with distances. */
     bool count(const HuffmanCode &lengths, const HuffmanCode &distances)
     {
         constexpr int endOfBlock = 256;
@@ -220,7 +220,7 @@ qint64 PxUnpackedSize::ofLzw(const QByteArray &data, int colorBits, qint64 limit
     if (colorBits < 0 || colorBits >= maximumBits)
         return 0;
     const int clear = 1 << colorBits;
-    std::array<int, 1 << maximumBits> lengths; // of what each code stands for
+    std::array<int, 1 << maximumBits> lengths; // unpacked length of each code
     lengths.fill(1);
     int codeCount = clear + 2;
     int codeBits = colorBits + 1;
