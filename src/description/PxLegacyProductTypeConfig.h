@@ -9,7 +9,7 @@ class PxPageType;
 class PxProductType;
 class PxProductTypeDescription;
 
-/** Answers questions about the sizes of products of earlier catalogues. */
+/** Answers questions about the page sizes of products from earlier catalogues. */
 class PXPRODUCTPROPERTIES_EXPORT PxLegacyProductTypeConfig
 {
 public:
@@ -20,13 +20,15 @@ public:
 
     /** Never null; owned by the legacy registry. */
     const PxProductTypeDescription *description(const PxProductType &type) const;
-    /** Pages lie side by side, not one above the other. */
+    /** Whether pages lie side by side, not one above the other. */
     bool isHorizontal(const PxProductType &type) const;
     /** The page after trimming, in the unit of the product files. */
     QSizeF usablePrintSize(const PxProductType &type, const PxPageType &pageType,
                            int pageCount) const;
-    /** All the pages together, side by side or one above the other; pages without a size are left
-     * out. */
+    /**
+     * The size of all the pages together, side by side or one above the other. Pages without a size
+     * are ignored.
+     */
     QSizeF usableSize(const PxProductType &type, int pageCount,
                       const QList<PxPageType> &pageTypes) const;
 

@@ -6,7 +6,7 @@
 
 class PxProductTypeConfigRegistry;
 
-/** Tells from the product descriptions how many pages a product may have, and in which steps. */
+/** Computes from the product descriptions how many pages a product may have, and in which steps. */
 class PXPRODUCTPROPERTIES_EXPORT PxPageOrganizationCalculatorProductConfig
     : public PxPageOrganizationCalculator
 {
@@ -17,11 +17,12 @@ public:
 
     /** The registry of the current products. */
     PxProductTypeConfigRegistry *registry() const;
-    /** By the spines of the book; a book without them has the registry's limits, cast to unsigned.
+    /**
+     * The page counts of the spine table; without spines the registry's limits, cast to unsigned.
      */
     PxPageCountOrganization availableNumOfPagesBook(const PxProductType &type) const;
-    /** By the binding: 12, 24 or 2 pages, else 1. */
+    /** The page count of the binding: 12, 24 or 2, else 1. */
     PxPageCountOrganization availableNumOfPagesForCalendar(const PxProductType &type) const;
-    /** For cards and decorations, too: as many as the product file says. */
+    /** The page count in the product file, for cards and decorations, too. */
     PxPageCountOrganization availableNumOfPagesForGift(const PxProductType &type) const;
 };

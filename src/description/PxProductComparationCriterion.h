@@ -1,13 +1,16 @@
 #pragma once
 
-/** What makes two products interchangeable, beside orientation, spine and page list. Flags. */
+/**
+ * What must be equal for two products to be interchangeable, beside orientation, spine and page
+ * list. Flags.
+ */
 enum PxProductComparationCriterion : int {
     PxProductComparationNone = 0,
     PxProductComparationBinding = 1,
     PxProductComparationPaperType = 2,
     PxProductComparationSpaceMagnitude = 4,
     PxProductComparationPageIncrement = 8,
-    // What the same product in another paper, or with another binding, has in common with it.
+    // What a product has in common with itself in another paper, or with another binding.
     PxProductComparationAllButPaperType = PxProductComparationBinding |
                                           PxProductComparationSpaceMagnitude |
                                           PxProductComparationPageIncrement,

@@ -18,9 +18,9 @@
 namespace {
 
 /**
- * Qt destroys its calendars, and what it matches file names with, in reverse order of their first
- * use: used when this library is loaded, they outlive the static objects of the program, whose
- * destructors may still ask anything.
+ * Qt destroys its calendars, and the data with which it matches file names, in the reverse order of
+ * their first use. Used when this library is loaded, they outlive the static objects of the
+ * program, whose destructors may still ask any question.
  */
 void keepWhatQtDestroys()
 {
@@ -29,12 +29,12 @@ void keepWhatQtDestroys()
 }
 Q_CONSTRUCTOR_FUNCTION(keepWhatQtDestroys)
 
-/** One line: an application without products would otherwise go on in silence. */
+/** Without this warning an application without products would go on silently. */
 void warnOfMissingProducts()
 {
     const auto *config = PxDirectoryConfig::instance();
     const QString products = config->resource(QStringLiteral("products"), true);
-    if (!QFileInfo::exists(products)) // as resource() has reported
+    if (!QFileInfo::exists(products)) // resource() has reported that
         return;
     const QStringList filter = PxProductTypeDescriptionReader::fileFilter();
     if (QDir(products).entryList(filter, QDir::Files).isEmpty()) {

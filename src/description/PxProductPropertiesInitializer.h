@@ -9,13 +9,14 @@ public:
     virtual ~PxProductPropertiesInitializer();
 
     /**
-     * Reads the product files and makes the library answer the platform's questions about products.
+     * Reads the product files and connects the library to the platform, which then asks it about
+     * products.
      *
-     * The application calls it once, at its start and before any query, with the directories set
-     * and the translators installed. False when the registry was already registered. Without a
-     * product on offer, one warning names the directories that were searched.
+     * Applications call this once, at their start and before any query, after they have set the
+     * directories and installed the translators. Returns false if the registry was already
+     * registered. If no product is on offer, one warning names the directories that were searched.
      */
     static bool setupModule();
-    /** Nothing: the products live as long as the process. */
+    /** Does nothing: the products live as long as the process. */
     static void teardownModule();
 };

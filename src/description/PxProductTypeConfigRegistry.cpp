@@ -54,7 +54,7 @@ PxProductTypeConfigRegistry *PxProductTypeConfigRegistry::instance()
     static QAtomicPointer<PxProductTypeConfigRegistry> ourInstance;
     static QBasicMutex ourMutex;
     return pxCreateOnce(ourInstance, ourMutex, [] {
-        // Nobody lists these: each product opens its own by its name.
+        // Nothing lists the files of this directory: each product opens its own file by name.
         PxUndecodableNames::warn(PxDirectoryConfig::instance()->userDefaultsPath());
         return createRegistry(QStringLiteral("products"));
     });
@@ -109,7 +109,7 @@ PxProductTypeList PxProductTypeConfigRegistry::products() const
 
 PxProductType PxProductTypeConfigRegistry::findProductForLegacy(const PxProductType &legacy) const
 {
-    // A product that replaces none names the unknown type, and replaces nothing all the same.
+    // A product that replaces no other has the unknown type here, which must not match.
     if (!legacy.isValid())
         return PxProductType(0);
     for (const Product &product : m_products) {

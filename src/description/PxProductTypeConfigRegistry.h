@@ -16,43 +16,46 @@
 class QDir;
 
 /**
- * The descriptions of all products of one directory, by product type.
+ * The descriptions of all products in one directory, by product type.
  *
- * Read-only once it is built, so that any thread may ask. A type without a product file is answered
- * from a description with nothing but defaults, which is invalid.
+ * The registry never changes once it is built, so that it may be used from any thread. For a type
+ * without a product file it answers from a default description, which is invalid.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxProductTypeConfigRegistry : public PxProductChecker
 {
 public:
     /**
-     * Reads every product file of the directory, with a warning for each that cannot be read. A
-     * missing directory has no products.
+     * Reads every product file in the directory, and logs a warning for each one that cannot be
+     * read. A missing directory has no products.
      */
     explicit PxProductTypeConfigRegistry(const QDir &directory);
     Q_DISABLE_COPY(PxProductTypeConfigRegistry)
-    /** Frees no description: those handed out stay usable until the process ends. */
+    /**
+     * Does not free the descriptions: those that were handed out stay usable until the process
+     * ends.
+     */
     ~PxProductTypeConfigRegistry() override;
 
     /**
-     * The current products, of the resource directory "products". Created on first use, from any
+     * The current products, in the resource directory "products". Created on first use, from any
      * thread.
      *
-     * A message handler must not ask for it while it loads: it would wait for itself for ever. A
-     * debug build of the library ends the program with a message instead.
+     * A message handler must not call this while the registry loads: it would wait forever for
+     * itself. A debug build of the library ends the program with a message instead.
      */
     static PxProductTypeConfigRegistry *instance();
-    /** The same for the products of earlier catalogues, of "products/legacy". */
+    /** The same for the products of earlier catalogues, in "products/legacy". */
     static PxProductTypeConfigRegistry *legacyInstance();
 
     // As a product checker
     /** The same as exists(). */
     bool isValid(const PxProductType &type) const override;
-    /** The kind by which the checker registry asks for this checker. */
+    /** The kind of this checker in the checker registry. */
     int type() const override { return 4; }
     /**
-     * What the spine table says. A product without spines, as every calendar, gift or card, has
-     * 2147483647, -2147483648 and -2147483648, in this order: for the page counts to offer ask a
-     * PxProductContext, or offeredPageCounts().
+     * The limits of the spine table. A product without spines, such as every calendar, gift and
+     * card, answers 2147483647, -2147483648 and -2147483648, in this order. For the page counts to
+     * offer, ask a PxProductContext or offeredPageCounts().
      */
     int minPages(const PxProductType &type) const override;
     int maxPages(const PxProductType &type) const override;
@@ -60,10 +63,10 @@ public:
 
     /** Never null; owned by the registry. */
     const PxProductTypeDescription *description(const PxProductType &type) const;
-    /** The type has a description, and that is valid. */
+    /** Whether the type has a description and that is valid. */
     bool exists(const PxProductType &type) const;
 
-    // What the description of the type answers
+    // Answers from the description of the type
     PxProductType legacyProduct(const PxProductType &type) const;
     PxOrientation orientation(const PxProductType &type) const;
     PxBinding binding(const PxProductType &type) const;
@@ -87,11 +90,11 @@ public:
     PxBarcode barcodeOnPage(const PxProductType &type, int page, int pageCount) const;
 
     // Across products
-    /** The products on offer: those for which exists() is true, by product class, then by name. */
+    /** The products on offer, for which exists() is true, by product class and then by name. */
     PxProductTypeList products() const;
-    /** The current product that replaces a legacy one; type 0 when none does. */
+    /** The current product that replaces a legacy one; type 0 if there is none. */
     PxProductType findProductForLegacy(const PxProductType &legacy) const;
-    /** The products on offer that are interchangeable with the type, itself included. */
+    /** The products on offer that are interchangeable with the type, including the type itself. */
     PxProductTypeList findCompatibleProducts(const PxProductType &type,
                                              PxProductComparationCriterion criterion) const;
     /** The classifications of the products of a class. (The name is the one applications use.) */
@@ -99,17 +102,17 @@ public:
         const PxProductClass &productClass) const;
 
     // Computed for one product
-    /** The file names of the pages in the order in which production numbers them. */
+    /** The file names of the pages, in the order in which production numbers the pages. */
     QStringList sortPageFileNameListInInternOrder(const PxProductType &type,
                                                   const QStringList &fileNames) const;
-    /** The size of a text that reads well on a page of the product, in points. */
+    /** The font size, in points, of a text that is easy to read on a page of the product. */
     int suitablePointSize(const PxProductType &type) const;
     /**
-     * A normal page, or, unless `singlePage`, the double page of a book whose pages lie side by
-     * side. Negative for a product without a size.
+     * The size of a normal page, or, unless `singlePage`, of the double page of a book whose pages
+     * lie side by side. Negative for a product without a size.
      */
     QSizeF usablePrintSizeForBackgroundTemplate(const PxProductType &type, bool singlePage) const;
-    /** Width by height of the same; 0.0 when the height is 0 or less. */
+    /** The ratio of width to height of that size; 0.0 if the height is 0 or less. */
     double backgroundRatio(const PxProductType &type, bool singlePage) const;
 
 private:
@@ -121,19 +124,19 @@ private:
 
     QHash<PxProductType, PxProductTypeDescription *> m_descriptions;
     PxProductTypeDescription *m_defaultDescription;
-    // The table in its order, for walks: from node to node each step would wait for memory.
+    // The same products in an array: iterating over the hash would wait for memory at each node.
     QVector<Product> m_products;
 };
 
-// Inline: a product is asked while the user drags a page, and a call into the library would cost
-// half as much again as the look-up.
+// Inline: products are queried while the user drags a page, and a call into the library would cost
+// half as much as the look-up itself.
 inline const PxProductTypeDescription *PxProductTypeConfigRegistry::description(
     const PxProductType &type) const
 {
     return m_descriptions.value(type, m_defaultDescription);
 }
 
-// Forwarders: each is the query of the same name, asked of the type's description.
+// Forwarders: each calls the query of the same name of the type's description.
 // clang-format off
 inline PxProductType PxProductTypeConfigRegistry::legacyProduct(const PxProductType &type) const { return description(type)->legacyProduct(); }
 inline PxOrientation PxProductTypeConfigRegistry::orientation(const PxProductType &type) const { return description(type)->orientation(); }

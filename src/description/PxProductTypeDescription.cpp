@@ -184,15 +184,16 @@ void PxProductTypeDescription::readCardAlignment(const QDomElement &product)
 
 void PxProductTypeDescription::readUserDefaults(const QString &productName)
 {
-    // A product file may hold any name; resolved, it must still lie in the directory. Opened is the
-    // resolved path: through links, the name as it stands could lead elsewhere.
+    // The name from the product file may be any text, so the resolved path must still lie in the
+    // directory. The resolved path is the one that is opened: the unresolved name could leave the
+    // directory through links.
     QString directory = QDir::cleanPath(PxDirectoryConfig::instance()->userDefaultsPath());
     if (!directory.endsWith(QLatin1Char('/')))
         directory += QLatin1Char('/');
     const QString path = QDir::cleanPath(directory + productName + QLatin1String(".xml"));
     if (!path.startsWith(directory))
         return;
-    // A missing or damaged file is nothing to report: few users have defaults of their own.
+    // A missing or damaged file is not reported: few users have default templates of their own.
     const QDomDocument document = PxXMLLoader::loadDocument(QFileInfo(path));
     updateDefaultUserTemplatesMap(
         document.firstChild().firstChildElement(QStringLiteral("defaults")));
@@ -205,7 +206,7 @@ void PxProductTypeDescription::readVariants(const QDomElement &variants)
         m_variants.append(e.text());
 }
 
-/** A list no longer than it may be. */
+/** The list, cut off behind its first `maximumListEntries` entries. */
 QString PxProductTypeDescription::firstEntries(const QString &list, const char *method,
                                                const char *attribute, const QDomElement &product)
 {
@@ -229,7 +230,7 @@ void PxProductTypeDescription::readPages(const QDomElement &product)
     const QDomElement pages = product.firstChildElement(QStringLiteral("pages"));
     if (pages.isNull())
         return;
-    // Each entry may stand for as many pages as the product has.
+    // Each entry may give as many pages as the product has.
     m_pageTypes = PxPageTypeList(firstEntries(pages.text(), "readPages", "pages", product));
     m_abstractPageCount = m_pageTypes.size();
 }
@@ -271,7 +272,8 @@ void PxProductTypeDescription::initSpineData(const QDomElement &spines)
     for (QDomElement e = spines.firstChildElement(tag); !e.isNull(); e = e.nextSiblingElement(tag))
         m_spines.append({PxXMLParser::intAttribute(e, QStringLiteral("pages"), 0),
                          PxProductTypeDescriptionSpineData(e)});
-    // Of two with the same page count the later one counts: it comes to stand first.
+    // Of two entries with the same page count the later one is used: it comes first after
+    // reversing.
     std::reverse(m_spines.begin(), m_spines.end());
     std::stable_sort(m_spines.begin(), m_spines.end(),
                      [](const Spine &a, const Spine &b) { return a.pageCount < b.pageCount; });
@@ -287,7 +289,7 @@ void PxProductTypeDescription::adjustSpineWidth()
 {
     if (!m_classification.productType().isBook() || spineWidth(minPages()) <= 0)
         return;
-    // The spine gains on the cover what the two halves of the cover give up.
+    // The spine gains the width that the two halves of the cover lose.
     for (Spine &spine : m_spines)
         spine.data.considerExtraCoverWidth(20);
     m_coverExtraHorizontal = pxClampedSum(m_coverExtraHorizontal, -10);
@@ -314,14 +316,15 @@ void PxProductTypeDescription::initBackgroundCategories(const QDomElement &produ
     const QString categories =
         product.attribute(QStringLiteral("coverBackgroundCategories"),
                           type.isDeko() ? QStringLiteral("Einfarbig") : QString());
-    // A set of as many names that share one hash would take minutes.
+    // Inserting very many names that share one hash into a set would take minutes.
     m_allowedBackgroundCategories = PxThematicCategorySet(
         firstEntries(categories, "initBackgroundCategories", "coverBackgroundCategories", product)
             .split(QLatin1Char(','), Qt::SkipEmptyParts));
 }
 
-// Applications ask for each page of a product: what a page finds takes no longer with more entries.
-// Redirects are few, or ranges, and are gone through.
+// Applications ask these questions for every page of a product. With these indexes a look-up stays
+// fast, however many entries the file has. Other redirects are few, or ranges, and are searched one
+// by one.
 
 void PxProductTypeDescription::indexPages()
 {
@@ -342,14 +345,14 @@ void PxProductTypeDescription::indexPages()
 
 void PxProductTypeDescription::indexSurroundings()
 {
-    int alignmentsOfType[32] = {}; // of those before, by the bit of the page type
+    int alignmentsOfType[32] = {}; // of the earlier surroundings, by bit of the page type
     for (int index = 0; index < m_surroundings.size(); ++index) {
         const PxSurroundingDescription &surrounding = m_surroundings.at(index);
         if (surrounding.pageNr() != -1) {
             m_pinnedSurroundings.append({surrounding.pageNr(), index});
             continue;
         }
-        // The very first one is found for no particular page, whatever its type.
+        // The first one is the result when no particular page is asked for, whatever the page type.
         bool isFirst = m_generalSurroundings.isEmpty();
         const unsigned types = unsigned(surrounding.pageTypes().value());
         for (int type = 0; type < 32; ++type) {
@@ -370,7 +373,7 @@ int PxProductTypeDescription::decodeFoldMargin(const QDomElement &product) const
         return foldMargin;
     if (!m_surroundings.hasSurroundingWithBindingShade() || !m_usableSize.isValid())
         return 0;
-    // The part of a page's width that the binding of this product line hides.
+    // The part of a page's width that is hidden in the binding of this product line.
     switch (m_orientation.value()) {
     case PxOrientationPortrait:
         return int(m_usableSize.width() * 0.053659);

@@ -38,30 +38,30 @@ class QDomElement;
  * Everything that is known about one product type, read once from its product file.
  *
  * Lengths are in the one unit that all product files share. Page numbers count the pages of
- * pageTypes() from 0, covers included; any int may be asked. Reading never fails: what is missing
- * has its default, what is broken too. A record never changes after it was read, so that any thread
- * may ask it.
+ * pageTypes() from 0, including covers; queries accept any int. Reading never fails: a missing or
+ * invalid value gives its default. A description does not change after it was read, so that it may
+ * be used from any thread.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxProductTypeDescription
 {
 public:
     /**
-     * No list of pages or page counts has more entries, and no larger page count is offered: far
-     * more than a product has, and far less than the memory of a process.
+     * The length of the longest list of pages or page counts, and the largest page count on offer:
+     * far more than any product has, and small enough not to exhaust memory.
      */
     static constexpr int maximumListedPages = 100000;
 
-    /** The description of no product: invalid. */
+    /** The invalid description of no product. */
     PxProductTypeDescription();
     /** Reads the "product" element of a product file, and the user-defaults file of the product. */
     explicit PxProductTypeDescription(const QDomElement &product);
 
-    /** Binding, orientation and usable size are known. */
+    /** Whether binding, orientation and usable size are known. */
     bool isValid() const;
 
     // The product as a whole
     PxProductClassification classification() const { return m_classification; }
-    /** The older product that this one replaces; the unknown type when it replaces none. */
+    /** The older product that this one replaces; the unknown type if there is none. */
     PxProductType legacyProduct() const { return m_legacyProduct; }
     PxOrientation orientation() const { return m_orientation; }
     PxBinding binding() const { return m_binding; }
@@ -69,157 +69,167 @@ public:
     PxSpaceMagnitude spaceMagnitude() const { return m_spaceMagnitude; }
     PxAssemblyWay assemblyWay() const { return m_assemblyWay; }
     PxImageFXs imageFX() const { return m_imageFX; }
-    /** Images in grey have neither border nor shadow. */
+    /** Grey images have neither border nor shadow. */
     bool canHaveBorder() const { return (m_imageFX & PxImageFXsGrayscale) == 0; }
     bool canHaveShadow() const { return canHaveBorder(); }
     bool hasAssistant() const { return m_hasAssistant; }
     bool hasHook() const { return m_hasHook; }
     bool hasHole() const { return m_hasHole; }
-    /** Of a spiral binding; 0 for none. */
+    /** The number of loops of a spiral binding; 0 if there is none. */
     int numberOfSpiralLoops() const { return m_numberOfSpiralLoops; }
     /** What the variants differ in. */
     QString variantDescription() const { return m_variantDescription; }
     /** The identifiers of the variants. */
     QStringList variants() const { return m_variants; }
-    /** How many products one order of it is, 1 by default. */
+    /** The number of products in one order of it, 1 by default. */
     int explicitNumberOfProducts() const { return m_explicitNumberOfProducts; }
-    /** Whether the two are interchangeable; `criterion` names what must agree beside the rest. */
+    /** Whether the two products are interchangeable. `criterion` adds to what must be equal. */
     bool isCompatible(const PxProductTypeDescription &other,
                       PxProductComparationCriterion criterion) const;
 
     // Which design elements the editor offers for it
-    /** One of the given kinds. */
+    /** Whether one of the given kinds is supported. */
     bool supportsJigType(const PxJigType &jigType) const;
     bool hasContentCategoryBox() const { return m_jigTypes.matches(PxJigTypeContent); }
-    /** The categories to which the cover's backgrounds are limited; empty for no limit. */
+    /** The categories to which backgrounds of the cover are limited; empty for no limit. */
     PxThematicCategorySet allowedBackgroundCategories() const;
     bool limitBackgroundCategories() const { return !m_allowedBackgroundCategories.isEmpty(); }
-    /** A background fills each page, bleed included; by default so for calendars, gifts and cards.
+    /**
+     * Whether a background fills each page including the bleed; by default so for calendars, gifts
+     * and cards.
      */
     bool fullBackgroundOnEachPage() const { return m_fullBackgroundOnEachPage; }
     /**
-     * The template that the editor puts on a new page; empty for none.
+     * The template that the editor puts on a new page; empty if there is none.
      *
-     * With `useUserDefaults` the user's own choice comes first. With `useFallback` the product file
-     * answers for the theme "normal" when it has nothing for the key's theme.
+     * With `useUserDefaults` the user's own choice comes first. With `useFallback` the template of
+     * the theme "normal" is used if the product file has none for the theme of the key.
      */
     QString findDefaultTemplate(const PxDefaultTemplateKey &key, bool useFallback,
                                 bool useUserDefaults) const;
 
     // Pages
     /**
-     * The smallest page count of the spine table; the largest int, 2147483647, without spines.
+     * The smallest page count in the spine table; the largest int, 2147483647, without spines.
      *
-     * This and the next two tell of the table alone, which calendars, gifts and cards do not have:
-     * for the page counts to offer ask a PxProductContext, or offeredPageCounts().
+     * This and the next two functions describe only the spine table, which calendars, gifts and
+     * cards do not have. For the page counts to offer, ask a PxProductContext or
+     * offeredPageCounts().
      */
     int minPages() const;
-    /** The largest page count of the table; the smallest int, -2147483648, without spines. */
+    /** The largest page count in the spine table; the smallest int, -2147483648, without spines. */
     int maxPages() const;
     /**
-     * By how many pages the product grows at a time; the smallest int, -2147483648, with fewer than
-     * three spines.
+     * The number of pages by which the product grows; the smallest int, -2147483648, if there are
+     * fewer than three spines.
      */
     int pageIncrement() const { return m_pageIncrement; }
     /**
      * The page counts that customers may order, in ascending order; none for an invalid
      * description.
      *
-     * A book has those from the smallest to the largest of its spine table, in steps of the
-     * increment, and always the largest; with fewer than three entries it has only these. If the
-     * page list has a spine, page counts without an entry of their own are left out. A calendar has
-     * as many pages as its binding says, a gift, card or decoration its number of normal pages, and
-     * any other product 1. Nothing below 1 or above `maximumListedPages` is offered.
+     * For a book these go from the smallest to the largest page count of its spine table, in steps
+     * of the increment, and always include the largest. If the table has fewer than three entries,
+     * only these are offered. If the page list contains a spine, page counts without an entry in
+     * the table are left out. A calendar has the page count of its binding, a gift, card or
+     * decoration its number of normal pages, and any other product 1. Nothing below 1 or above
+     * `maximumListedPages` is offered.
      */
     QList<int> offeredPageCounts() const;
-    /** One of offeredPageCounts(). */
+    /** Whether it is one of offeredPageCounts(). */
     bool isPageCountOffered(int pageCount) const;
-    /** The page count that is offered first; -1 for none. */
+    /** The page count that is offered first; -1 if there is none. */
     int defaultSellingPages() const { return m_defaultSellingPages; }
-    /** How many normal pages a gift, card or decoration has, 1 by default. */
+    /** The number of normal pages of a gift, card or decoration, 1 by default. */
     int explicitNumberOfNormalPages() const { return m_explicitNumberOfNormalPages; }
-    /** How many entries the file's page list has; a range of pages is one. */
+    /** The number of entries in the page list of the file; a range of pages is one entry. */
     int countAbstractPages() const { return m_abstractPageCount; }
     bool hasPages() const { return !m_pageTypes.isEmpty(); }
-    /** The first page is a cover. */
+    /** Whether the first page is a cover. */
     bool hasCover() const;
     bool isSimplex() const { return m_binding.isSimplex(); }
     /**
-     * The pages of the product, in order and at least one; each range in the file's list stands for
-     * `pageCount` normal pages. An illegal entry is left out with a warning, and so is, with one
-     * warning, what is behind the first `maximumListedPages`.
+     * The pages of the product in order, at least one. Each range in the list of the file gives
+     * `pageCount` normal pages. An invalid entry is skipped with a warning. Pages beyond
+     * `maximumListedPages` are left out, with one warning.
      */
     PxPageTypeList pageTypes(int pageCount) const;
     PxPageNamingStyle pageNamingStyle() const { return m_pageNamingStyle; }
-    /** Pages lie side by side, not one above the other. */
+    /** Whether pages lie side by side, not one above the other. */
     bool horizontalPages() const { return m_horizontalPages; }
-    /** Only for the plain card style, not for single cards or college blocks. */
+    /** Whether it has the plain card style; not for single cards and college blocks. */
     bool hasCardStyleAlignment() const { return m_cardAlignment == CardAlignment::CardStyle; }
-    /** On which side of a spread a page lies. Page 1 of a product with a spine is the spine. */
+    /**
+     * The side of the spread on which a page lies. Page 1 of a product with a spine is the spine.
+     */
     PxPageAlignment pageAlignment(int page) const;
     /** The double page with which the editor starts. */
     int editorStartDoublePage() const { return m_editorStartDoublePage; }
     /**
-     * The numbers that production gives the pages: those of the file, cut off or counted on from
-     * the last (from 1 without any) to exactly `pageCount`; none for 0 or less. No more than
-     * `maximumListedPages`, with a warning for a larger page count.
+     * The numbers that production gives to the pages: those of the file, cut off or continued from
+     * the last one (from 1 if there are none) to exactly `pageCount` numbers, but no more than
+     * `maximumListedPages`; a larger page count logs a warning. None for 0 or less.
      */
     QList<int> productionNumberingList(int pageCount) const;
-    /** Always so when the file does not list the pages. */
+    /** Whether content may be put on the page; on every page if the file does not list any. */
     bool contentAllowedOnPage(int page) const;
-    /** Where content goes that is dropped on the page; the page itself by default. */
+    /** The page that receives content dropped on this page; the page itself by default. */
     int contentDropRedirect(int page) const;
     PxPageRotationRedirectList rotationRedirectForSourcePage(int page) const;
     PxPageRotationRedirectList rotationRedirectForTargetPage(int page) const;
 
     // Sizes
-    /** The usable size with the cover's extra width and height. */
+    /** The usable size plus the extra width and height of the cover. */
     QSize coverSize() const;
     /**
-     * The page after trimming; the usable size for a union of page types, too. Only the spine needs
-     * a page count: it is 0 wide for one without a spine of its own, and -1 is reported.
+     * The size of the page after trimming; the usable size for a union of page types. Only the
+     * spine needs a page count: for a page count without a spine it is 0 wide, and -1 logs a
+     * warning.
      */
     QSize usablePrintSize(const PxPageType &pageType, int pageCount) const;
     PxPageSizeSpec sizeSpec(const PxPageSizeKey &key) const;
     PxBleedMargin bleedMarginNormal() const { return m_bleedMarginNormal; }
     PxBleedMargin bleedMarginCover() const { return m_bleedMarginCover; }
-    /** The bleed of a page; pages of a bound product have none at the inner edge. */
+    /** The bleed of a page. Pages of a bound product have none at the inner edge. */
     PxMargins bleedMargins(const PxPageContext &page, int pageCount) const;
-    /** The margin in which designs put nothing that must not be cut off. */
+    /** The margin that designs keep free, because its contents could be cut off. */
     int safetyMargin() const { return m_safetyMargin; }
     PxMargins safetyMargins() const { return m_safetyMargins; }
     /** The part of a page that disappears in the fold. */
     int foldMargin() const { return m_foldMargin; }
-    /** The width that a clamp binding takes of a normal page. */
+    /** The width of a normal page that a clamp binding takes. */
     int normalPageHorizontalClamp() const { return m_normalPageHorizontalClamp; }
-    /** The same for any kind of page: 0 for all but normal pages. */
+    /** The same for any kind of page; 0 for all but normal pages. */
     int clampExtra(const PxPageType &pageType) const;
 
     // Spine
     bool hasSpine() const { return m_hasSpine; }
-    /** 0 for a page count without a spine of its own. */
+    /** 0 for a page count without a spine. */
     int spineWidth(int pageCount) const;
     int spineMaxFontHeight(int pageCount) const;
     bool mustPaintVemoLogoOnSpine() const { return m_mustPaintVemoLogoOnSpine; }
 
     // What is printed on and around the pages
-    /** Invalid when nothing surrounds the page. */
+    /** Invalid if nothing surrounds the page. */
     PxSurroundingDescription findSurrounding(const PxSurroundingKey &key) const;
-    /** Invalid when the page has none. */
+    /** Invalid if the page has none. */
     PxBarcode barcodeOnPage(int page, int pageCount) const;
     PxProductionExtraPageGroupList extraProductionContents() const;
-    /** Where page numbers are printed, 50 from the edges by default, and their size, 24. */
+    /**
+     * The distances of printed page numbers from the edges, by default 50, and their font size, by
+     * default 24.
+     */
     double pageNumberHorizontalIndent() const { return m_pageNumberHorizontalIndent; }
     double pageNumberVerticalIndent() const { return m_pageNumberVerticalIndent; }
     int pageNumberFontSize() const { return m_pageNumberFontSize; }
 
-    // Changes; for reading only, a record in the registry stays as it is
+    // Changes. Used only while reading: descriptions in a registry never change
     void setJigTypeFlag(const PxJigType &jigType, bool isSupported);
-    /** Adds the "defaults" children of the element to the user's own default templates. */
+    /** Adds the "defaults" children of the element to the default templates of the user. */
     void updateDefaultUserTemplatesMap(const QDomElement &defaults);
 
 private:
-    /** Which rule other than that of a bound book tells the side of a page. */
+    /** The rule for the side of a page, if it is not that of a bound book. */
     enum class CardAlignment { None, CardStyle, VarioSingleCardStyle, CollegeBlockStyle };
 
     struct Spine
@@ -228,10 +238,10 @@ private:
         PxProductTypeDescriptionSpineData data;
     };
 
-    // For the entries of a list: the page and the index of each, sorted.
+    // Page and index for each entry of a list, sorted.
     using PageIndexes = QVector<QPair<int, int>>;
 
-    // Of "pages" and of the background categories: far more than a product has.
+    // The most entries of "pages" and of the background categories; far more than any product has.
     static constexpr int maximumListEntries = 1000;
 
     static QString firstEntries(const QString &list, const char *method, const char *attribute,
@@ -261,8 +271,8 @@ private:
     PxOrientation m_orientation;
     bool m_hasAssistant = true;
     PxBinding m_binding;
-    QVector<Spine> m_spines; // by page count
-    // Asked of every product when compatible ones are looked for: the record itself answers.
+    QVector<Spine> m_spines; // sorted by page count
+    // Stored, because the search for compatible products queries it for every product.
     int m_pageIncrement = std::numeric_limits<int>::min();
     int m_abstractPageCount = 0;
     bool m_hasSpine = false;
@@ -295,7 +305,7 @@ private:
     QStringList m_variants;
     QString m_variantDescription;
     PxSurroundingDescriptionList m_surroundings;
-    QVector<int> m_generalSurroundings; // indexes of those that some page may find first
+    QVector<int> m_generalSurroundings; // indexes of those that may be the first match
     PageIndexes m_pinnedSurroundings;
     PxPageRotationRedirectList m_rotationRedirects;
     PageIndexes m_rotationsBySource;
@@ -306,7 +316,7 @@ private:
     PageIndexes m_barcodesFromFront;
     PageIndexes m_barcodesFromBack;
     QList<int> m_productionNumberingPages;
-    QList<int> m_pagesWithContent; // sorted, each once
+    QList<int> m_pagesWithContent; // sorted, without duplicates
     PxThematicCategorySet m_allowedBackgroundCategories;
     bool m_fullBackgroundOnEachPage = false;
     PxProductionExtraPageGroupList m_extraProductionPages;

@@ -1,4 +1,4 @@
-// The answers that are computed from the record; PxProductTypeDescription.cpp reads it.
+// The queries that compute their answers; PxProductTypeDescription.cpp reads the file.
 
 #include "description/PxProductTypeDescription.h"
 
@@ -87,7 +87,7 @@ int PxProductTypeDescription::findPageIncrement() const
     const int count = m_spines.size();
     if (count < 3)
         return std::numeric_limits<int>::min();
-    // Not the step to the last page count: that one may be irregular.
+    // Not the step to the last page count, which may be irregular.
     return pxClampedInt(qint64(m_spines.at(count - 2).pageCount) -
                         m_spines.at(count - 3).pageCount);
 }
@@ -125,7 +125,7 @@ bool PxProductTypeDescription::isPageCountOfBook(int pageCount) const
     return !m_hasSpine || findSpine(pageCount);
 }
 
-/** Of a product that is no book. */
+/** The page count of a product other than a book. */
 int PxProductTypeDescription::fixedPageCount() const
 {
     switch (m_classification.productType().productClass()) {
@@ -147,7 +147,7 @@ bool PxProductTypeDescription::hasCover() const
 
 PxPageTypeList PxProductTypeDescription::pageTypes(int pageCount) const
 {
-    constexpr int maximumReserved = 1000; // as good as any product
+    constexpr int maximumReserved = 1000; // more than any product has
     const PxPageType normalPage(PxPageTypeNormalPage);
     bool isCut = false;
     PxPageTypeList pageTypes;
@@ -294,7 +294,7 @@ PxMargins PxProductTypeDescription::bleedMargins(const PxPageContext &page, int 
     const int h = bleed.horizontal();
     if (pageType.matches(PxPageTypeSpine))
         return PxMargins(v, v, 0, 0);
-    // No bleed at the inner edge, where the page is bound.
+    // No bleed at the inner edge, where the pages are bound.
     if (pageCount > 1 && !hasCardStyleAlignment()) {
         if (page.alignment() == PxPageAlignmentLeft)
             return PxMargins(v, v, h, 0);
@@ -319,7 +319,7 @@ int PxProductTypeDescription::spineMaxFontHeight(int pageCount) const
     return spine(pageCount).maxFontHeight();
 }
 
-/** Null for a page count without one. */
+/** Null for a page count without a spine. */
 const PxProductTypeDescription::Spine *PxProductTypeDescription::findSpine(int pageCount) const
 {
     const auto found =
@@ -328,7 +328,7 @@ const PxProductTypeDescription::Spine *PxProductTypeDescription::findSpine(int p
     return found == m_spines.end() || found->pageCount != pageCount ? nullptr : found;
 }
 
-/** Of width 0 for a page count without one. */
+/** Has the width 0 for a page count without a spine. */
 PxProductTypeDescriptionSpineData PxProductTypeDescription::spine(int pageCount) const
 {
     const Spine *found = findSpine(pageCount);

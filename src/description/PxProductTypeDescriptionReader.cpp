@@ -37,7 +37,8 @@ QHash<PxProductType, PxProductTypeDescription *> PxProductTypeDescriptionReader:
     PxUndecodableNames::warn(m_directory.absolutePath());
     for (const QFileInfo &file : files) {
         const auto [type, description] = readFile(file);
-        // What nobody will ever be given is freed: an unknown product, an earlier file's product.
+        // Descriptions that cannot be reached are freed: those of unknown products, and that of an
+        // earlier file for the same product.
         if (type.isValid())
             delete std::exchange(descriptions[type], description);
         else

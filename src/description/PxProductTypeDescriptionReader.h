@@ -12,7 +12,7 @@
 class PxProductTypeDescription;
 class QFileInfo;
 
-/** Reads the product files of one directory. The caller owns the descriptions. */
+/** Reads the product files of one directory. The caller takes ownership of the descriptions. */
 class PXPRODUCTPROPERTIES_EXPORT PxProductTypeDescriptionReader
 {
 public:
@@ -25,15 +25,15 @@ public:
     static QStringList fileFilter();
 
     /**
-     * The description of every product that the directory's files name.
+     * The descriptions of all products that have a file in the directory.
      *
-     * Of two files for one product the one that the directory lists later counts; files that cannot
-     * be read, or whose product is unknown, are left out.
+     * If two files name the same product, the one that the directory lists later is used. Files
+     * that cannot be read or name an unknown product are skipped.
      */
     QHash<PxProductType, PxProductTypeDescription *> readDir();
     /**
-     * The type 0 and null, with a warning, when the file cannot be read; an invalid type beside a
-     * description when the file names no known product.
+     * Returns type 0 and null, with a warning, if the file cannot be read, and an invalid type with
+     * a description if the file names no known product.
      */
     QPair<PxProductType, PxProductTypeDescription *> readFile(const QFileInfo &file);
 

@@ -7,19 +7,19 @@
 class QDebug;
 class QDomElement;
 
-/** The spine of a book of a certain page count, in the unit of the product files. */
+/** The spine of a book with a certain page count, in the unit of the product files. */
 class PXPRODUCTPROPERTIES_EXPORT PxProductTypeDescriptionSpineData
 {
 public:
     PxProductTypeDescriptionSpineData() = default;
-    /** Reads "width" and "maxfontheight" of a "spine" element; 0 for what is no number. */
+    /** Reads "width" and "maxfontheight" of a "spine" element; each is 0 unless it is a number. */
     explicit PxProductTypeDescriptionSpineData(const QDomElement &spine);
 
     int width() const { return m_width; }
-    /** The height of the largest text that fits on the spine. */
+    /** The height of the tallest text that fits on the spine. */
     int maxFontHeight() const { return m_maxFontHeight; }
 
-    /** Makes the spine wider, but never narrower than 0 or wider than an int can tell. */
+    /** Widens the spine; the width stays within 0 and the largest int. */
     void considerExtraCoverWidth(int extra);
 
 private:
