@@ -13,13 +13,13 @@ class QDebug;
 class QDomElement;
 
 /**
- * A product described by the orientations and template targets that it accepts, so that designs and
- * templates can be matched against it. Empty sets accept everything.
+ * A description of products by the orientations and template targets that it accepts, so that
+ * designs and templates can be matched with it. An empty set accepts everything.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxIndirectProductDescription
 {
 public:
-    /** Accepts everything; invalid. */
+    /** Accepts everything, but is invalid. */
     PxIndirectProductDescription() = default;
     explicit PxIndirectProductDescription(const PxProductContext &context);
     PxIndirectProductDescription(const PxOrientation &orientation, PxTemplateTarget target);
@@ -27,14 +27,16 @@ public:
     PxIndirectProductDescription &operator=(const PxIndirectProductDescription &other);
     virtual ~PxIndirectProductDescription();
 
-    /** The single orientations, or template targets, of a set of flags. */
+    /** The single orientations, or the single template targets, of a set of flags. */
     static PxEmptyMeansAllSet<PxOrientation> orientations(const PxOrientation &orientation);
     static PxEmptyMeansAllSet<PxTemplateTarget> templateTypes(const PxTemplateTarget &target);
-    /** By the product class: book, calendar, or gift for cards and decorations too; else unknown.
+    /**
+     * The template target for the product class: book, calendar, gift (also for cards and
+     * decorations), or unknown.
      */
     static PxTemplateTarget guessTemplateTarget(const PxProductContext &context);
 
-    /** Names no template target. */
+    /** Whether it names no template target. */
     bool isEmpty() const { return m_templateTypes.isEmpty(); }
     bool isValid() const { return !isEmpty(); }
 
@@ -43,10 +45,10 @@ public:
     PxOrientation orientation() const;
     /** 0.666666 for portrait, 1.5 for landscape, 1.0 for anything else. */
     double defaultWidthHeightRatio() const;
-    /** Accepts some product that the other one accepts, too. */
+    /** Whether there are products that both descriptions accept. */
     bool matches(const PxIndirectProductDescription &other) const;
 
-    /** Appends an "orientation" and a "type" child; nothing when invalid. */
+    /** Appends an "orientation" and a "type" child; nothing if the description is invalid. */
     void toXml(QDomElement &parent) const;
 
     bool operator==(const PxIndirectProductDescription &other) const;

@@ -13,7 +13,7 @@
 
 namespace {
 
-/** Truncated; 0 when the ratio is of no use. */
+/** Truncated; 0 if the ratio is 0 or not finite. */
 int iconHeight(int width, double widthByHeight)
 {
     const double height = width / widthByHeight;

@@ -29,31 +29,33 @@
 class QDebug;
 
 /**
- * A product type together with the theme it is designed in: what the application asks about the
- * product it works on. The rest, such as sizes with bleed, barcodes, variants and background
- * categories, the registry answers by productType().
+ * A product type together with the theme in which it is designed: everything that the application
+ * asks about the product it works on. Other questions, such as sizes with bleed, barcodes, variants
+ * and background categories, are answered by the registry for productType().
  *
- * One pointer wide; copies share the record, and a setter changes only the context it is called on.
- * Copying and destroying are safe from any thread. A product type without a product file is
- * answered from the defaults of an empty one. So is a product of an earlier catalogue, which
- * PxProductTypeConfigRegistry::legacyInstance() knows and answers by product type; isValid() is
- * true for it nevertheless. Lengths are in the unit of the product files.
+ * A context is as large as one pointer. Copies share the record, and a setter changes only the
+ * context on which it is called. Copying and destroying are safe in any thread. Lengths are in the
+ * unit of the product files.
+ *
+ * A product type without a product file gets the default answers. So does a product of an earlier
+ * catalogue, although isValid() is true for it: PxProductTypeConfigRegistry::legacyInstance()
+ * answers questions about it.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxProductContext
 {
 public:
-    /** No product, in the default theme: void. */
+    /** No product, in the default theme: a void context. */
     PxProductContext();
     /** In the default theme. */
     explicit PxProductContext(const PxProductType &type);
-    /** In the theme of this id; in the void theme when there is none. */
+    /** In the theme with this id; in the void theme if there is none. */
     PxProductContext(const PxProductType &type, const QString &themeId);
     PxProductContext(const PxProductType &type, const PxTheme &theme);
     PxProductContext(const PxProductContext &other);
     PxProductContext &operator=(const PxProductContext &other);
     ~PxProductContext();
 
-    /** The product type is known, and the theme allows it. */
+    /** Whether the product type is known and the theme allows it. */
     bool isValid() const;
     /** No product, in the default theme. */
     bool isVoidContext() const;
@@ -72,24 +74,30 @@ public:
     bool isGift() const { return d->productType.isGift(); }
     bool isDeko() const { return d->productType.isDeko(); }
     bool startsWithLeftPage() const;
-    /** Interchangeable, with the same size and page increment, and allowed by the theme. */
+    /**
+     * The products that are interchangeable with this one, have the same size and page increment,
+     * and are allowed by the theme.
+     */
     PxProductTypeList compatibleProducts() const;
     /**
-     * The same with any page increment. The product itself is one of both, if it is offered and its
-     * theme allows it.
+     * The same with any page increment. Both lists include the product itself if it is offered and
+     * allowed by the theme.
      */
     PxProductTypeList compatibleProductsWithTheSameSize() const;
-    /** Theme, size class, orientation and paper are the same, whatever the product types are. */
+    /**
+     * Whether theme, size class, orientation and paper are the same; the product types may differ.
+     */
     bool isVerySimilarTo(const PxProductContext &other) const;
 
     // Page counts and pages
     /**
-     * The page counts to offer as the platform's page organization knows them: the smallest, the
-     * largest and the increment, with the last step of a book perhaps irregular.
+     * The smallest and the largest page count and the increment, as the page organization of the
+     * platform knows them. The last step of a book may be irregular.
      *
-     * What is no book has one page count, twice, and the increment 0. A book without spines has
-     * none: its smallest is above its largest. With fewer than three its increment is -2147483648.
-     * offeredPageCounts() needs no such cases.
+     * Products other than books have a single page count, which is both smallest and largest, and
+     * the increment 0. For a book without spines the smallest is above the largest. For a book with
+     * fewer than three spines the increment is -2147483648. offeredPageCounts() has no such special
+     * cases.
      */
     int minPages() const;
     int maxPages() const;
@@ -100,21 +108,21 @@ public:
     bool isPageCountOffered(int pageCount) const;
     bool isOnePage() const;
     bool isSimplex() const;
-    /** Printed on both sides, and more than a single page. */
+    /** Whether it is printed on both sides and has more than one page. */
     bool isDuplex() const;
-    /** -1 for none. */
+    /** -1 if there is none. */
     int defaultSellingPages() const;
-    /** How many products one order of it is. */
+    /** The number of products in one order of it. */
     int productCount() const;
     int numberOfPages() const;
-    /** Truncated; 0 for a product count of 0. */
+    /** Pages per product, truncated to a whole number; 0 if the product count is 0. */
     int pagesPerProduct() const;
-    /** Several products of several pages each. */
+    /** Whether it consists of several products of several pages each. */
     bool useTwoStoryBoards() const;
     int editorStartSceneIndex() const;
     PxPageTypeList pageTypes(int pageCount) const;
     PxPageAlignment pageAlignment(int page) const;
-    /** The theme brings content, and the product takes some on this page. */
+    /** Whether the theme has content and the product accepts content on this page. */
     bool contentAllowedOnPage(int page) const;
     int contentDropRedirect(int page) const;
     PxPageRotationRedirectList rotationRedirectForSourcePage(int page) const;
@@ -126,13 +134,16 @@ public:
     double pageNumberHorizontalIndent() const;
 
     // Geometry and material
-    /** The page after trimming. Not for the spine, whose width needs a page count. */
+    /** The page after trimming. Not for the spine, whose width depends on the page count. */
     QSizeF usablePrintSize(const PxPageType &pageType) const;
-    /** Of a normal page; not finite when its height is 0, and 1.0 for a product without a size. */
+    /**
+     * The ratio of a normal page; not finite if its height is 0, and 1.0 for a product without a
+     * size.
+     */
     double widthByHeight() const;
-    /** An icon of this width; its height is 0 when the ratio is 0 or not finite. */
+    /** The size of an icon with this width; its height is 0 if the ratio is 0 or not finite. */
     QSize optimumIconSizeSinglePage(int width) const;
-    /** The same for a spread: two pages of a duplex product. */
+    /** The same for a spread, which for a duplex product is two pages. */
     QSize optimumIconSize(int width) const;
     QSize minimumImageAreaSize() const;
     bool horizontalPages() const;
@@ -144,7 +155,7 @@ public:
     int foldMargin() const;
     int safetyMargin() const;
     PxBinding binding() const;
-    /** Shares at least one bit with the product's binding. */
+    /** Whether it has at least one bit in common with the product's binding. */
     bool hasBinding(const PxBinding &binding) const;
     bool hasBookletBinding() const { return hasBinding(PxBindingBooklet); }
     bool hasSpine() const;
@@ -169,9 +180,9 @@ public:
     bool mustPaintVemoLogo() const;
     bool mustPaintVemoLogoOnSpine() const;
     /**
-     * The template of a new page, by the theme or else by the theme "normal": the layout of a
-     * double page, the background of a single one; with `useUserDefaults` the user's own first.
-     * A single empty page always has "Weiss".
+     * The template for a new page: the layout of a double page, the background of a single one. It
+     * comes from the theme, or else from the theme "normal"; with `useUserDefaults` the user's own
+     * choice comes first. A single empty page always has "Weiss".
      */
     QString defaultTemplateForPage(bool doublePage, const PxPageContext &pageContext,
                                    bool useUserDefaults) const;

@@ -12,10 +12,10 @@ class QDebug;
 class QDomElement;
 
 /**
- * The product types and themes in which a document or an offer may be realised.
+ * The product types and themes in which a document or an offer can be made.
  *
- * An empty set of product types or of themes admits all of them. The indirect description says what
- * fits a document that names no product type.
+ * An empty set of product types or of themes admits all. The indirect description says what suits a
+ * document that names no product type.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxProductContextsGroup
 {
@@ -33,27 +33,32 @@ public:
     PxIndirectProductDescription indirectProductDescription() const;
     /** The explicit product types in ascending order. */
     PxProductTypeList explicitProductTypes() const;
-    /** The ids of the explicit themes; in the order of toXml() and of defaultContext(). */
+    /** The ids of the explicit themes, in the order that toXml() and defaultContext() use. */
     QStringList themeNames() const;
-    /** The id of the theme that comes first when they are normalized; null when all are admitted.
-     */
+    /** The id of the first theme after normalizing them; null if all themes are admitted. */
     QString themeName() const;
-    /** The first admitted product in the first admitted theme; void unless both sets name some. */
+    /** The first admitted product in the first admitted theme; void unless the group names both. */
     PxProductContext defaultContext() const;
-    /** Of the default context, else of the indirect description; not finite for a height of 0. */
+    /**
+     * The ratio of the default context, or else of the indirect description; not finite if the
+     * height is 0.
+     */
     double defaultWidthHeightRatio() const;
 
     // Whether something fits
     bool containsProduct(const PxProductType &type) const;
     bool containsTheme(const PxTheme &theme) const;
-    /** A context without a valid theme fits by its product alone. */
+    /** A context without a valid theme is judged by its product alone. */
     bool containsContext(const PxProductContext &context) const;
-    /** Somewhat: an empty set on either side is enough. Explicitly: both name a common member. */
+    /**
+     * "Somewhat": they have a member in common, or a set is empty. "Explicitly": both name a common
+     * member.
+     */
     bool productsMatchSomewhat(const PxProductContextsGroup &other) const;
     bool productsMatchExplicitly(const PxProductContextsGroup &other) const;
     bool themesMatchSomewhat(const PxProductContextsGroup &other) const;
     bool themesMatchExplicitly(const PxProductContextsGroup &other) const;
-    /** By common product types, or else, when either names none, by the indirect descriptions. */
+    /** Compares the product types, or, if a group names none, the indirect descriptions. */
     bool productMatches(const PxProductContextsGroup &other) const;
     bool matches(const PxProductContextsGroup &other) const;
 
@@ -63,14 +68,14 @@ public:
     void setThemes(const PxThemeList &themes);
     void setIndirectProductDescription(const PxIndirectProductDescription &description);
     /**
-     * When the default theme is admitted, admits the themes that accept its backgrounds or layouts.
+     * If the default theme is admitted, admits the themes that accept its backgrounds or layouts.
      *
-     * A group that admits every theme admits only these afterwards, if there are any.
+     * A group that admits every theme admits only these themes afterwards, unless there are none.
      */
     void expandThemesIfMyThemesContainTheDefaultTheme(bool acceptNormalBackgrounds,
                                                       bool acceptNormalLayouts);
 
-    /** Appends "product" and "theme" children and what the indirect description writes. */
+    /** Appends "product" and "theme" children and those of the indirect description. */
     void toXml(QDomElement &parent) const;
 
 private:

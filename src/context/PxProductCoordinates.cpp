@@ -22,7 +22,9 @@ int evenSize(double size)
     return qMax(2, roundHalfUp(size) & ~1);
 }
 
-/** In real numbers from the start: the width of an int rectangle may not fit an int. */
+/**
+ * Computed with real numbers from the start: the width of an int rectangle may not fit into an int.
+ */
 QRectF toReal(const QRect &rect)
 {
     return QRectF(rect.left(), rect.top(), double(rect.right()) - rect.left() + 1,

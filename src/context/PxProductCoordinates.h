@@ -6,10 +6,10 @@ class QRect;
 class QRectF;
 
 /**
- * Turns editor rectangles, in production units (tenths of a millimetre), into production positions:
- * the centre and an even size, so that the edges lie on whole units, too.
+ * Converts rectangles of the editor, in production units (tenths of a millimetre), to positions for
+ * production: the centre and an even size, so that the edges also lie on whole units.
  *
- * Halves are rounded up, also below zero; what leaves the int range is clamped to it.
+ * Halves are rounded up, even below zero. Results outside the int range are clamped to it.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxProductCoordinates
 {
@@ -17,7 +17,7 @@ public:
     /** Production units per millimetre. */
     static int productionUPM();
 
-    // In production units; a size is even and at least 2
+    // In production units. A size is even and at least 2.
     static int posX(const QRectF &rect);
     static int posY(const QRectF &rect);
     static int posWidth(const QRectF &rect);

@@ -8,11 +8,13 @@
 
 class QDebug;
 
-/** What is set once for all products of a group, for example for all photo prints of an order. */
+/**
+ * The settings that apply to all products of a group, for example to all photo prints of an order.
+ */
 class PXPRODUCTPROPERTIES_EXPORT PxProductGroupProperties
 {
 public:
-    /** With the defaults; the photo index bears today's date. */
+    /** The defaults. The name of the photo index contains today's date. */
     PxProductGroupProperties();
 
     /** The name under which the picture overview is filed. */

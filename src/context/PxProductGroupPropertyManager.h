@@ -9,7 +9,7 @@
 #include <QString>
 
 /**
- * The properties of each product group, born with defaults when they are first asked for.
+ * The properties of each product group, created with defaults on first use.
  *
  * The instance is created on first use, from any thread; the properties belong to the thread of the
  * user interface.
@@ -19,7 +19,7 @@ class PXPRODUCTPROPERTIES_EXPORT PxProductGroupPropertyManager
 public:
     static PxProductGroupPropertyManager *instance();
 
-    /** Never null; owned by the manager and valid as long as the process. */
+    /** Never null; owned by the manager and valid until the process ends. */
     PxProductGroupProperties *productGroupProperties(const PxProductGroup &group);
 
     QString fotoIndex(const PxProductGroup &group);

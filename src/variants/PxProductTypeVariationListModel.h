@@ -6,13 +6,14 @@
 #include <QString>
 
 /**
- * The product types that the current product can be exchanged for, for a list view: the same
- * product in other papers (PxProductComparationAllButPaperType) or with other bindings
+ * A list model of the product types for which the current product can be exchanged: the same
+ * product with other papers (PxProductComparationAllButPaperType) or other bindings
  * (PxProductComparationAllButBinding).
  *
- * Only what the theme of the context allows is listed. A row reads as the paper or the binding of
- * its product; by any other criterion rows have no text. Papers and bindings are sorted by these
- * texts, in an order that is the same in every locale; rows that read the same come in any order.
+ * Only products that the theme of the context allows are listed. The text of a row is the paper or
+ * the binding of its product; with other criteria rows have no text. Papers and bindings are sorted
+ * by these texts, in the same order in every locale. The order of rows with equal texts is not
+ * defined.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxProductTypeVariationListModel : public QAbstractListModel
 {
@@ -39,19 +40,21 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
     // About the products
-    /** The unknown type 0 for a row that is none. */
+    /** The unknown type 0 for a row that does not exist. */
     PxProductType productAt(int row) const;
-    /** An invalid index when the type is not listed. */
+    /** An invalid index if the type is not listed. */
     QModelIndex indexOf(const PxProductType &type) const;
     QModelIndex indexOfCurrentProduct() const;
-    /** What of the list the theme allows, sorted as the rows are. */
+    /** The products of the list that the theme allows, sorted like the rows. */
     PxProductTypeList filterAllowedByTheme(const PxProductTypeList &list) const;
 
     // Changes
-    /** Resets the model, unless the contexts are equal, which the products of a theme do not
-     * decide. */
+    /**
+     * Resets the model, unless the contexts are equal. The product list of the theme is not
+     * compared.
+     */
     void setProductContext(const PxProductContext &context);
-    /** Asks for the products again, and resets the model. */
+    /** Queries the products again and resets the model. */
     void updateContent();
 
 private:
@@ -62,9 +65,9 @@ private:
     PxProductTypeList m_products;
 };
 
-/** By character code, never by the rules of a language. */
+/** Compares character codes, independently of language. */
 PXPRODUCTPROPERTIES_EXPORT bool lessThanQString(const QString &a, const QString &b);
-/** By the display names of the bindings. */
+/** Compares the display names of the bindings. */
 PXPRODUCTPROPERTIES_EXPORT bool lessThanBinding(const PxProductType &a, const PxProductType &b);
-/** By the display names of the papers. */
+/** Compares the display names of the papers. */
 PXPRODUCTPROPERTIES_EXPORT bool lessThanPaper(const PxProductType &a, const PxProductType &b);

@@ -20,7 +20,7 @@ constexpr struct
     struct
     {
         const char *text;
-        const char *comment; // for the translator; a part of what is looked up
+        const char *comment; // for the translator, and part of the key of the translation
     } name;
 } names[] = {
     // clang-format off
@@ -55,7 +55,7 @@ constexpr struct
     // clang-format on
 };
 
-// What product files call the choice; variantDescription() translates it.
+// The descriptions that product files use; variantDescription() translates them.
 constexpr const char *descriptionLabels[] = {
     QT_TRANSLATE_NOOP("PxProductVariantIdentifiers", "Innenfarbe"),
     QT_TRANSLATE_NOOP("PxProductVariantIdentifiers", "Farbe"),
@@ -82,7 +82,8 @@ PxProductVariantIdentifiers::PxProductVariantIdentifiers()
 {
     for (const auto &row : names)
         m_nameOfKey.insert(QString::fromUtf8(row.key), tr(row.name.text, row.name.comment));
-    // Nobody needs the answers: a translator that collects what it lacks sees the labels, too.
+    // The results are not needed, but a translator that collects missing texts gets the labels this
+    // way.
     for (const char *label : descriptionLabels)
         tr(label);
 }
@@ -122,7 +123,7 @@ bool PxProductVariantIdentifiers::hasVariants(const PxProductType &type) const
 
 QString PxProductVariantIdentifiers::defaultVariant(const PxProductType &type) const
 {
-    // Not the first of the product file: its order means nothing.
+    // Not the first one in the product file, whose order has no meaning.
     const QMap<QString, QString> all = variants(type);
     return all.isEmpty() ? QString() : all.firstKey();
 }
@@ -130,8 +131,8 @@ QString PxProductVariantIdentifiers::defaultVariant(const PxProductType &type) c
 QString PxProductVariantIdentifiers::variantDescription(const PxProductType &type) const
 {
     const QString description = PxProductTypeConfigRegistry::instance()->variantDescription(type);
-    // Looked up by Latin-1 bytes, which come back read as UTF-8 when there is no translation: right
-    // for ASCII only, so that the text is answered as it was.
+    // The text is looked up as Latin-1 bytes. Without a translation these come back read as UTF-8,
+    // which is right only for ASCII; then the original text is returned.
     const QByteArray source = description.toLatin1();
     const QString translation = tr(source.constData());
     return translation == QString::fromUtf8(source) ? description : translation;

@@ -11,8 +11,8 @@
 /**
  * Display names of product variants: the colours of a mug, the rulings of a notebook.
  *
- * A product file lists the identifiers of its variants; this table names those that are on offer,
- * for each product its own. Names are translated when the instance is created.
+ * A product file lists the identifiers of its variants. This table has the names of the variants on
+ * offer, separately for each product. Names are translated when the instance is created.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxProductVariantIdentifiers : public QObject
 {
@@ -21,21 +21,21 @@ class PXPRODUCTPROPERTIES_EXPORT PxProductVariantIdentifiers : public QObject
 public:
     /**
      * Created on first use, from any thread; never destroyed. As a QObject it belongs to the thread
-     * that asks first: let that be the one of the user interface. Not to be asked for by a message
-     * handler while it loads, as PxProductTypeConfigRegistry::instance() says.
+     * of the first call, which should be that of the user interface. A message handler must not
+     * call this while the instance loads; see PxProductTypeConfigRegistry::instance().
      */
     static PxProductVariantIdentifiers *instance();
 
-    /** Whether or not the product file lists the identifier; empty for one without a name. */
+    /** The name, even if the product file does not list the identifier; empty if there is none. */
     QString variantName(const PxProductType &type, const QString &variantId) const;
-    /** The same in German, whatever the translator: colours are known by their German names. */
+    /** The same in German, without translation: colours are recognised by their German names. */
     QString untranslatedName(const PxProductType &type, const QString &variantId) const;
-    /** The identifiers of the product file that have a name, with their names. */
+    /** The identifiers in the product file that have a name, with their names. */
     QMap<QString, QString> variants(const PxProductType &type) const;
     bool hasVariants(const PxProductType &type) const;
-    /** The alphabetically first identifier of variants(); empty when there is none. */
+    /** The alphabetically first identifier of variants(); empty if there is none. */
     QString defaultVariant(const PxProductType &type) const;
-    /** What the variants differ in, as "Innenfarbe": translated if there is a translation. */
+    /** What the variants differ in, such as "Innenfarbe"; translated if there is a translation. */
     QString variantDescription(const PxProductType &type) const;
 
 private:

@@ -15,7 +15,7 @@ QMap<QString, QColor> createColors()
         {"weinrot", qRgb(175, 39, 93)},  {"gelb", qRgb(255, 209, 76)},
         {"grün", qRgb(0, 89, 92)},       {"blau", qRgb(40, 21, 119)},
         {"rot", qRgb(203, 0, 0)},        {"pink", qRgb(230, 0, 230)},
-        {"hellblau", qRgb(0, 255, 153)}, // Kept although replaced below, where the valid one is.
+        {"hellblau", qRgb(0, 255, 153)}, // Replaced by the valid one below.
         {"violett", qRgb(77, 0, 255)},   {"hellblau", qRgb(14, 166, 167)},
     };
     QMap<QString, QColor> colors;
@@ -24,7 +24,7 @@ QMap<QString, QColor> createColors()
     return colors;
 }
 
-/** Nothing for no colour: an invalid colour is black to a view that takes its name. */
+/** No value for an invalid colour: a view that uses its name would show black. */
 QVariant colorValue(const QColor &color)
 {
     return color.isValid() ? QVariant(color) : QVariant();

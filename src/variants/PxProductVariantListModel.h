@@ -14,11 +14,11 @@
 #include <QStringList>
 
 /**
- * The variants of one product type for a list view: a name a row, and a swatch where that is the
- * name of a colour, as it is shown or before it was translated.
+ * The variants of one product type for a list view: each row has a name, and a swatch if its name,
+ * as shown or before translation, is that of a colour.
  *
- * Rows are in the order of their identifiers, so that the default variant comes first. Swatches are
- * pixmaps: model and swatches need a QGuiApplication and its thread.
+ * Rows are sorted by their identifiers, so that the default variant comes first. Swatches are
+ * pixmaps: model and swatches need a QGuiApplication and must be used in its thread.
  */
 class PXPRODUCTPROPERTIES_EXPORT PxProductVariantListModel : public QAbstractListModel
 {
@@ -28,14 +28,14 @@ public:
     enum Role {
         /** The identifier of the variant, a QString; in QML "identifier". */
         IdentifierRole = Qt::UserRole,
-        /** Its colour, a QColor; no value for a variant that is no colour; in QML "color". */
+        /** Its colour, a QColor; no value if the variant is not a colour; in QML "color". */
         ColorRole,
     };
 
     explicit PxProductVariantListModel(const PxProductType &type, QObject *parent = nullptr);
 
     /**
-     * A square of 100 x 100 pixels in the colour of this German name, in any case; null for any
+     * A square of 100 x 100 pixels in the colour with this German name, in any case; null for any
      * other text. Needs a QGuiApplication.
      */
     static QPixmap colorDescriptionToPixmap(const QString &description);
@@ -46,21 +46,23 @@ public:
     QModelIndex parent(const QModelIndex &child) const override;
     using QObject::parent;
     /**
-     * Names for Qt::DisplayRole, swatches for Qt::DecorationRole (a null icon for no colour), and
-     * what the roles above say.
+     * Names for Qt::DisplayRole, swatches for Qt::DecorationRole (a null icon if the variant is not
+     * a colour), and the values of the roles above.
      */
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QHash<int, QByteArray> roleNames() const override;
 
     // About the variants
     PxProductType product() const { return m_product; }
-    /** The row of the identifier; -1 when it is not listed. */
+    /** The row of the identifier; -1 if it is not listed. */
     int indexOf(const QString &identifier) const;
-    /** The identifier of the first row with this name; empty when there is none. */
+    /** The identifier of the first row with this name; empty if there is none. */
     QString identifier(const QString &name) const;
-    /** Empty for a row that is none. */
+    /** Empty for a row that does not exist. */
     QString identifier(int row) const { return m_identifiers.value(row); }
-    /** The length of the longest name that was ever listed: a view that is wide enough stays so. */
+    /**
+     * The length of the longest name ever listed, so that a view that is wide enough need not grow.
+     */
     int sizeNeeded() const { return m_sizeNeeded; }
 
     /** Resets the model. A product without variants has no rows. */
