@@ -2,11 +2,11 @@
 
 #include <cstddef>
 
-/** Counts what this process allocates, by standing before the allocator of the C library. */
+/** Counts the allocations of this process, by replacing the functions of the C library. */
 class PxAllocations
 {
 public:
     static std::size_t count();
-    /** Bytes in use, as the allocator accounts for them. */
+    /** The number of bytes in use, as the allocator counts them. */
     static std::size_t bytesInUse();
 };

@@ -6,15 +6,19 @@
 #include <random>
 
 /**
- * Writes catalogues of any size that resemble real ones, always the same for the same size.
+ * Writes catalogues of any size that resemble real ones. The same size always gives the same
+ * catalogue.
  *
- * Product files have 2 to 8 KB; a third are books with 20 to 60 page counts, a third have comments,
- * a few are in ISO-8859-1.
+ * Product files have 2 to 8 KB. A third of them are books with 20 to 60 page counts, a third have
+ * comments, and a few are in ISO-8859-1.
  */
 class PxCatalogueGenerator
 {
 public:
-    /** Answers whether all could be written; what is in the directory is overwritten. */
+    /**
+     * Writes a catalogue over the contents of the directory. Returns whether all files could be
+     * written.
+     */
     bool generate(const QDir &directory, int productCount, int themeCount);
 
 private:
@@ -29,8 +33,8 @@ private:
     void writeVariants(QXmlStreamWriter &xml);
     void writeExtraPages(QXmlStreamWriter &xml);
     void writeTheme(QXmlStreamWriter &xml, int number, int productCount);
-    /** From the smallest to the largest, both included. */
+    /** A random number from the smallest to the largest, including both. */
     int random(int smallest, int largest);
 
-    std::mt19937 m_random; // whose numbers the standard fixes
+    std::mt19937 m_random; // gives the same numbers everywhere
 };

@@ -11,7 +11,7 @@
 
 namespace {
 
-/** Stops the program: what does not answer rightly is not measured. */
+/** Stops the program if the condition is false: only correct results are measured. */
 void require(bool isRight, const char *what)
 {
     if (!isRight)
@@ -81,7 +81,7 @@ void PxMeasuredCatalogue::readThemesWithQt() const
 
 double PxMeasuredCatalogue::bytesPerDescription() const
 {
-    qDeleteAll(read()); // what is made once, such as keyword tables
+    qDeleteAll(read()); // creates what exists once, such as keyword tables
     const std::size_t before = PxAllocations::bytesInUse();
     const auto descriptions = read();
     const std::size_t kept = PxAllocations::bytesInUse() - before;

@@ -6,13 +6,13 @@
 #include <QDir>
 #include <QHash>
 
-/** A generated catalogue and the work on it that is measured. */
+/** A generated catalogue with the operations that are measured on it. */
 class PxMeasuredCatalogue
 {
 public:
     explicit PxMeasuredCatalogue(const QString &directory);
 
-    /** S: reads each file and parses it, with Qt alone. */
+    /** S: reads and parses each file with Qt alone. */
     void readWithQt() const;
     void loadFiles() const;
     void readRegistry() const;
@@ -20,11 +20,13 @@ public:
     void loadThemes() const;
     void readThemesWithQt() const;
 
-    /** Kept bytes of a description, and allocations while a file is loaded; means. */
+    /**
+     * The mean number of bytes that a description keeps, and of allocations while a file is loaded.
+     */
     double bytesPerDescription() const;
     double allocationsPerFile() const;
 
-    /** Belongs to the caller. */
+    /** The caller owns the descriptions. */
     QHash<PxProductType, PxProductTypeDescription *> read() const;
     QDir products() const { return m_products; }
 

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int calls = 10000;
 
-/** Calls `ask(i)` often and keeps the compiler from leaving the answers out. */
+/** Calls `ask(i)` many times and keeps the compiler from removing the calls. */
 template <typename Ask>
 std::function<void()> repeat(Ask ask)
 {
@@ -58,7 +58,7 @@ std::vector<PxRatio> PxQueryRatios::ratios() const
     const PxDefaultTemplateKey key = templateKey();
     const QHash<PxDefaultTemplateKey, QString> templates{{key, QStringLiteral("Leinen beige")}};
     const QString text =
-        QString::fromLatin1("Leinen beige"); // counts its copies, as a literal does not
+        QString::fromLatin1("Leinen beige"); // has a reference count, unlike a literal
     const PxPageType normalPage(PxPageTypeNormalPage);
     const auto appendPages = [normalPage](int) {
         PxPageTypeList pages;

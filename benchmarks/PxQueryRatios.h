@@ -6,21 +6,24 @@
 
 #include <vector>
 
-/** What answers cost beside the least that each could cost. */
+/** The cost of queries in relation to the least that they could cost. */
 class PxQueryRatios
 {
 public:
-    /** The library has been told where a catalogue of generated products is. */
+    /** Set the directories of a generated catalogue in the library first. */
     PxQueryRatios();
 
     std::vector<PxRatio> ratios() const;
-    /** Compatible products, per product of a registry, beside a bare walk of the same table. */
+    /**
+     * The time per product to find compatible products in a registry, in relation to a plain loop
+     * over the same table.
+     */
     PxRatio compatibleProducts(const char *name, const PxProductTypeConfigRegistry &registry,
                                const QHash<PxProductType, PxProductTypeDescription *> &table) const;
-    /** Of a hit. */
+    /** The time for a key that has a default template. */
     double nanosecondsPerDefaultTemplate() const;
 
 private:
     PxProductType m_book;
-    const PxProductTypeDescription *m_description; // of the book
+    const PxProductTypeDescription *m_description; // of a book
 };

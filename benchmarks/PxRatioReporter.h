@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-/** Collects the times of both sides of each ratio and prints one table of the ratios. */
+/** Collects the times of both sides of each ratio and prints a table of the ratios. */
 class PxRatioReporter : public benchmark::BenchmarkReporter
 {
 public:
@@ -17,7 +17,7 @@ public:
     bool ReportContext(const Context &context) override;
     void ReportRuns(const std::vector<Run> &runs) override;
 
-    /** A line that is no time: a value and its bounds. */
+    /** Prints a line for a value other than a ratio, with its bounds. */
     void printValue(const char *name, double value, double must, double aim, const char *unit);
     void printTable();
     bool isEveryMustReached() const { return m_isEveryMustReached; }
@@ -26,6 +26,6 @@ private:
     void printLine(const char *name, double value, double must, double aim, const char *unit);
 
     const std::vector<PxRatio> &m_ratios;
-    std::map<std::string, double> m_nanoseconds; // the median by the name of the benchmark
+    std::map<std::string, double> m_nanoseconds; // medians by name of the benchmark
     bool m_isEveryMustReached = true;
 };

@@ -1,4 +1,4 @@
-// Writes a catalogue to measure with: generate DIRECTORY [PRODUCTS [THEMES]].
+// Writes a catalogue for measurements: generate DIRECTORY [PRODUCTS [THEMES]].
 #include "PxCatalogueGenerator.h"
 
 #include <QCoreApplication>

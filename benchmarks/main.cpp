@@ -1,4 +1,4 @@
-// Prints how much start-up and answers cost, beside what they cannot cost less than.
+// Prints the cost of start-up and queries, in relation to the least that they could cost.
 #include "PxCatalogueGenerator.h"
 #include "PxMeasuredCatalogue.h"
 #include "PxQueryRatios.h"
@@ -27,7 +27,9 @@ QString generated(const QTemporaryDir &directory, int productCount)
     return path;
 }
 
-/** The same products twice: behind the registry and bare. Both live as long as the process. */
+/**
+ * The same products twice, in a registry and in a plain table. Both live until the process ends.
+ */
 struct PxMeasuredRegistry
 {
     explicit PxMeasuredRegistry(const PxMeasuredCatalogue &catalogue)
@@ -39,7 +41,7 @@ struct PxMeasuredRegistry
     const QHash<PxProductType, PxProductTypeDescription *> table;
 };
 
-/** Runs the work so often that one call takes long enough to be measured. */
+/** Repeats the work within one call, so that a call takes long enough to be measured. */
 template <typename Work>
 std::function<void()> often(int times, Work work)
 {

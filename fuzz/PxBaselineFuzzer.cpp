@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 
-/** What a baseline says is the same when it is written and read again, or it is refused. */
+/** A baseline is either refused, or the same after it was written and read again. */
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const auto written = [](const QByteArray &text) {
@@ -11,7 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         return baseline.readJson(text) ? QByteArray() : baseline.toJson();
     };
     const QByteArray text(reinterpret_cast<const char *>(data), int(size));
-    // Half a surrogate pair is written as another character, so that the first time may differ.
+    // Half a surrogate pair is written as another character, so only later rounds must be equal.
     const QByteArray first = written(text);
     if (!first.isEmpty() && (written(first).isEmpty() || written(written(first)) != written(first)))
         qFatal("read otherwise: %s", first.constData());

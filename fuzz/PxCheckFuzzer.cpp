@@ -14,7 +14,7 @@
 
 namespace {
 
-/** The file alone, as what its document element says. */
+/** Checks the file alone, as the kind of file that its document element names. */
 PxCheckPaths pathsOf(const PxCheckedFile &file)
 {
     PxCheckPaths paths;
@@ -32,7 +32,7 @@ PxCheckPaths pathsOf(const PxCheckedFile &file)
     return paths;
 }
 
-/** The message handler says nothing. */
+/** Ends the program with a message, without the message handler, which ignores everything. */
 template <typename... Arguments>
 [[noreturn]] void fail(const char *format, Arguments... arguments)
 {
@@ -55,7 +55,7 @@ void checkPlaces(const PxCheckReport &report, const PxCheckedFile &file)
 {
     const QStringList lines = file.source().text().split(QLatin1Char('\n'));
     for (const PxFinding &finding : report.findings) {
-        // Of what cannot be read at all there is no text.
+        // A file that cannot be read at all has no text.
         if (finding.place.path == file.path() && !file.source().text().isEmpty() &&
             !isInside(finding.place, lines))
             fail("%s at %d:%d to %d:%d is outside of the file\n", finding.tag->name,

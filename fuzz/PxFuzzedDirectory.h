@@ -6,14 +6,14 @@
 #include <cstddef>
 #include <cstdint>
 
-/** The sample catalogue with one file that a fuzzer writes; logs nothing. */
+/** A copy of the sample catalogue in which a fuzzer replaces one file. Nothing is logged. */
 class PxFuzzedDirectory
 {
 public:
-    /** The first use decides the name of the file, in a directory of its own. */
+    /** The directory whose replaced file has this name. Only the name in the first call counts. */
     static PxFuzzedDirectory &withFile(const char *name);
 
-    /** Replaces the file. */
+    /** Replaces the contents of the file. */
     QFileInfo write(const std::uint8_t *data, std::size_t size) const;
     QString path() const { return m_directory.path(); }
 

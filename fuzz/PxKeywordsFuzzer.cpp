@@ -11,7 +11,7 @@
 #include <PxOrientation.h>
 #include <PxProductGroup.h>
 
-/** What is written back means the same when it is read again, or there is nothing to write. */
+/** A value that is written and read again is the same, unless there was nothing to write. */
 template <typename Wrapper>
 static void readTwice(const QString &keywords)
 {

@@ -3,7 +3,7 @@
 #include <QDir>
 #include <QSize>
 
-/** Writes a picture of each kind into a directory; the sample has PNGs only. */
+/** Writes a picture of each format into a directory; the sample catalogue has only PNGs. */
 int main(int, char *argv[])
 {
     using namespace PxPictures;

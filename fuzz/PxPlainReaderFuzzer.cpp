@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-/** Whatever the plain reader reads, the strict one reads as the same tree. */
+/** For every text that the plain reader accepts, the strict reader builds the same tree. */
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const char *text = reinterpret_cast<const char *>(data);

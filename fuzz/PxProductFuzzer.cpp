@@ -14,6 +14,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const std::unique_ptr<PxProductTypeDescription> description(
         reader.readFile(directory.write(data, size)).second);
     if (description)
-        pxAskEverything(*description, 1000); // the longest take long
+        pxAskEverything(*description, 1000); // larger page counts would take too long
     return 0;
 }

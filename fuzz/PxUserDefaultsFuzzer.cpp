@@ -4,7 +4,7 @@
 
 #include <QDomDocument>
 
-// Of the product only the templates depend on the file.
+// Only the default templates of the product depend on the file.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     PxFuzzedDirectory::withFile("CUP2.xml").write(data, size);

@@ -18,13 +18,13 @@ int main(int argc, char *argv[])
     QTextStream out(stdout);
     out.setCodec("UTF-8");
     out << book.shortProductName() << ", " << book.theme().description() << '\n';
-    const PxPageTypeList pageTypes = book.pageTypes(pageCount); // covers and spine, too
+    const PxPageTypeList pageTypes = book.pageTypes(pageCount); // including covers and spine
     for (int i = 0; i < pageTypes.size(); ++i) {
         const PxPageContext page(pageTypes[i], book.pageAlignment(i));
         const QSize size = PxProductTypeConfigRegistry::instance()
                                ->sizeSpec(book.productType(), PxPageSizeKey(page, pageCount))
                                .totalSize(); // with bleed, in tenths of a millimetre
-        // The user's own templates come before those of the theme.
+        // The user's own templates take precedence over those of the theme.
         const QString layout = book.defaultTemplateForPage(true, page, true);
         const QString background = book.defaultTemplateForPage(false, page, true);
         const PxSurroundingDescription around = book.findSurrounding(PxSurroundingKey(page, i));

@@ -1,5 +1,5 @@
-// Which colours does the mug come in, and which papers the photo book? With --screenshot FILE the
-// window goes to a picture instead of the screen.
+// In which colours is the mug sold, and on which papers the photo book? With --screenshot FILE the
+// program saves a picture of its window instead of showing it.
 #include <description/PxProductPropertiesInitializer.h>
 #include <variants/PxProductTypeVariationListModel.h>
 #include <variants/PxProductVariantIdentifiers.h>
