@@ -2,8 +2,8 @@
 
 /**
  * The enumerations that the library shares with the rest of the application, each with its keyword
- * map. The maps are keyed by upper-cased keywords, filled during static initialisation, only read
- * afterwards and never destroyed: static destructors may still ask for them.
+ * map. The keys of the maps are upper-cased keywords. The maps are filled during static
+ * initialisation, then only read, and never destroyed, so that static destructors can use them.
  */
 #include "PxAssemblyWay.h"
 #include "PxImageFXs.h"

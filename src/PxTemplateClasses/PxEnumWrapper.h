@@ -77,7 +77,7 @@ public:
     {
         return enumToStringTable()->decodeCSV(keywords);
     }
-    /** Takes the value of a comma-separated keyword list and returns it. */
+    /** Sets the value to that of a comma-separated keyword list, and returns it. */
     ENUM setValue(const QString &keywords) { return m_value = decodeCSV(keywords); }
     QString encodeCSV() const { return enumToStringTable()->encodeCSV(m_value); }
     QSet<ENUM> splitToBits() const { return enumToStringTable()->splitToBits(m_value); }

@@ -15,7 +15,7 @@ public:
     PxBarcode() = default;
     PxBarcode(const QRect &rect, int pageNr, bool reverseOrder, const QString &imageName);
 
-    /** The rectangle is not inverted. */
+    /** Whether the rectangle is not inverted. */
     bool isValid() const;
 
     /** The place on the page, in the unit of the product files. */

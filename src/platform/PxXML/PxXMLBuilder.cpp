@@ -5,7 +5,7 @@ QDomElement PxXMLBuilder::buildDomElement(QDomElement &parent, const QString &na
 {
     if (parent.isNull())
         return {};
-    // The parent may have outlived its document; then this one lends itself as the maker of nodes.
+    // Null if the parent has outlived its document; then createElement() makes a new one.
     QDomDocument document = parent.ownerDocument();
     QDomElement child = document.createElement(name);
     parent.appendChild(child);
