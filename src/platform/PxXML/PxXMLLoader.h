@@ -18,11 +18,11 @@
  * The tree is that of QDomDocument::setContent() without namespace processing, with these
  * differences: nodes do not know their line and column; line ends, and white space in attribute
  * values, are normalized as XML demands; references to characters beyond U+FFFF give these
- * characters; the name of a document type has no prefix; behind the first character, names of
- * attributes and document types may have any character but control characters, of which
- * setContent() refuses some; a document type declaration with control characters other than tabs
- * and line ends is refused. Documents can be loaded and destroyed in any thread with a stack of 512
- * KB or more.
+ * characters; the name of a document type has no prefix; names of attributes and document types may
+ * have characters behind the first one that setContent() refuses, but no control characters; a
+ * document type declaration with control characters other than tabs and line ends is refused.
+ *
+ * Documents can be loaded and destroyed in any thread with a stack of 512 KB or more.
  */
 class PXXML_EXPORT PxXMLLoader
 {
