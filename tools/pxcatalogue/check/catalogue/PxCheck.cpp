@@ -1,6 +1,5 @@
 #include "check/catalogue/PxCheck.h"
 
-#include "check/catalogue/PxFramesCheck.h"
 #include "check/catalogue/PxProductTypesCheck.h"
 #include "check/design/PxBackgroundCategoryCheck.h"
 #include "check/design/PxClassificationCheck.h"
@@ -20,9 +19,11 @@
 #include "check/product/PxSpineCheck.h"
 #include "check/rules/PxFormatCheck.h"
 #include "check/rules/PxReadingCheck.h"
+#include "check/rules/PxRuleCheck.h"
 #include "check/source/PxReadAhead.h"
 #include "check/themes/PxThemeFileCheck.h"
 #include "check/words/PxSpelling.h"
+#include "format/PxFormat.h"
 
 #include <QFileInfo>
 
@@ -52,20 +53,30 @@ QString hintForProductOf(const PxSourceElement &root)
 bool isUnderstood(const PxCheckedFile &file, PxFileKind kind)
 {
     const PxSourceElement *root = file.root();
-    if (!root)
+    if (!root || !PxFormatCheck::isOfKind(*root, kind))
         return false;
-    const PxSourceElement *product = root->firstChild("product");
     switch (kind) {
     case PxFileKind::Product:
-        return product && PxProductType(product->value("name")).isValid();
-    case PxFileKind::Theme:
-        return root->name.toLower() == QLatin1String("themes");
-    case PxFileKind::ProductTypes:
-        return root->name == QLatin1String("producttypes");
+        return PxProductType(root->firstChild("product")->value("name")).isValid();
     case PxFileKind::UserDefaults:
         return file.document().firstChild().isElement();
     default:
         return true;
+    }
+}
+
+/** User defaults have rules that start at their container. */
+PxRows<PxRule> rulesOf(PxFileKind kind)
+{
+    switch (kind) {
+    case PxFileKind::Product:
+        return productRules();
+    case PxFileKind::Theme:
+        return themeRules();
+    case PxFileKind::Frames:
+        return frameRules();
+    default:
+        return {};
     }
 }
 
@@ -84,8 +95,7 @@ void PxCheck::run()
     checkThemes();
     checkFiles(single(m_paths.productTypes), PxFileKind::ProductTypes,
                [this](const PxCheckedFile &file) { checkProductTypes(file); });
-    checkFiles(single(m_paths.frames), PxFileKind::Frames,
-               [this](const PxCheckedFile &file) { PxFramesCheck(reporterFor(file)).run(); });
+    checkFiles(single(m_paths.frames), PxFileKind::Frames, [](const PxCheckedFile &) {});
     checkFiles(m_paths.products, PxFileKind::Product,
                [this](const PxCheckedFile &file) { checkProduct(file, false); });
     checkFiles(m_paths.legacyProducts, PxFileKind::Product,
@@ -113,16 +123,40 @@ bool PxCheck::checkFiles(const QStringList &paths, PxFileKind kind, CheckFile ch
     for (int i = 0; i < paths.size(); ++i) {
         ++m_fileCount;
         const PxCheckedFile &file = files.next();
-        PxReadingCheck(reporterFor(file)).run();
+        const PxReporter report = reporterFor(file);
+        PxReadingCheck(report).run();
         PxAllowanceComments(file, m_findings)
             .find(isUnderstood(file, kind) ? Checked::Everything : Checked::Little);
         isEveryRead = isEveryRead && file.isRead();
         if (!file.isRead())
             continue;
-        PxFormatCheck(kind, reporterFor(file)).run();
+        if (!PxFormatCheck::isOfKind(*file.root(), kind)) {
+            addWrongRoot(kind, report);
+            continue;
+        }
+        PxFormatCheck(kind, report).run();
+        PxRuleCheck(*file.root(), PxFormat::root(kind), rulesOf(kind), report).run();
         checkFile(file);
     }
     return isEveryRead;
+}
+
+void PxCheck::addWrongRoot(PxFileKind kind, const PxReporter &report)
+{
+    const PxSourceElement &root = *report.file().root();
+    if (kind == PxFileKind::Product) {
+        report
+            .add(PxTag::ProductElementMissing, root.nameRange,
+                 "no \"product\" element below \"%1\"", root.name)
+            .now("nothing is read from this file")
+            .hint(hintForProductOf(root));
+        return;
+    }
+    const bool isTheme = kind == PxFileKind::Theme;
+    report
+        .add(isTheme ? PxTag::ThemeRootWrong : PxTag::ProductTypesRootWrong, root.nameRange,
+             "the document element is \"%1\", not \"%2\"", root.name, PxFormat::root(kind).name)
+        .now(isTheme ? "nothing is read from this file" : "no product is known");
 }
 
 void PxCheck::checkThemes()
@@ -151,16 +185,7 @@ void PxCheck::checkProductTypes(const PxCheckedFile &file)
 
 void PxCheck::checkProduct(const PxCheckedFile &file, bool isLegacy)
 {
-    const PxSourceElement &root = *file.root();
     const PxReporter report = reporterFor(file);
-    if (!root.firstChild("product")) {
-        report
-            .add(PxTag::ProductElementMissing, root.nameRange,
-                 "no \"product\" element below \"%1\"", root.name)
-            .now("nothing is read from this file")
-            .hint(hintForProductOf(root));
-        return;
-    }
     const PxCheckedProduct product(file, isLegacy);
     const PxPageEntries entries(product);
     PxProductCheck(product, m_types, report).run();

@@ -22,6 +22,7 @@ public:
 private:
     template <typename CheckFile>
     bool checkFiles(const QStringList &paths, PxFileKind kind, CheckFile checkFile);
+    static void addWrongRoot(PxFileKind kind, const PxReporter &report);
     void checkThemes();
     void checkProductTypes(const PxCheckedFile &file);
     void checkProduct(const PxCheckedFile &file, bool isLegacy);

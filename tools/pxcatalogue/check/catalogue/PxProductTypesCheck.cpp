@@ -20,17 +20,10 @@ PxElementReading readingOf(const PxSourceElement &row)
 
 void PxProductTypesCheck::run()
 {
-    const PxSourceElement *root = m_report.file().root();
-    if (root->name != QLatin1String("producttypes")) {
-        m_report
-            .add(PxTag::ProductTypesRootWrong, root->nameRange,
-                 QString("the document element is \"%1\", not \"producttypes\"").arg(root->name))
-            .now("no product is known");
-        return;
-    }
-    for (const PxSourceElement *row : root->childrenNamed("producttype"))
+    const PxSourceElement &root = *m_report.file().root();
+    for (const PxSourceElement *row : root.childrenNamed("producttype"))
         checkRow(*row);
-    checkMisspelt(*root);
+    checkMisspelt(root);
 }
 
 /** What is nearly called a row is meant for one. */

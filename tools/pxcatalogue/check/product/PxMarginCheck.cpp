@@ -27,49 +27,9 @@ PxMarginCheck::PxMarginCheck(const PxCheckedProduct &product, const PxPageEntrie
 
 void PxMarginCheck::run()
 {
-    checkNegative();
-    checkNegativeIndent();
     if (!m_size.isEmpty()) {
         checkExceeding();
         checkCover();
-    }
-}
-
-void PxMarginCheck::checkNegative() const
-{
-    static constexpr const char *ourMargins[] = {
-        "safetymargin",
-        "bleedmargin",
-        "bleedmarginhorizontal",
-        "bleedmarginvertical",
-        "bleedmargincover",
-        "bleedmargincoverhorizontal",
-        "bleedmargincoververtical",
-        "normalpagehorizontalclamp",
-        foldMargin,
-    };
-    const PxSourceElement &element = m_product.element();
-    for (const char *margin : ourMargins) {
-        const int length = PxElementReading(element).number(margin);
-        const bool isComputed = qstrcmp(margin, foldMargin) == 0 && length == -1;
-        if (length < 0 && !isComputed)
-            m_report
-                .add(PxTag::MarginNegative, element.rangeOf(margin), "\"%1\" is %2", margin, length)
-                .now("the negative length is used as it is");
-    }
-}
-
-void PxMarginCheck::checkNegativeIndent() const
-{
-    const PxSourceElement *config = m_product.element().firstChild("pageNumberConfig");
-    const PxSourceElement *margin = config ? config->firstChild("margin") : nullptr;
-    if (!margin)
-        return;
-    for (const char *name : {"verticalMargin", "horizontalMargin"}) {
-        const int length = PxElementReading(*margin).number(name);
-        if (length < 0)
-            m_report.add(PxTag::MarginNegative, margin->rangeOf(name), "\"%1\" is %2", name, length)
-                .now("the page number is printed beyond the edge");
     }
 }
 

@@ -16,8 +16,6 @@ public:
     void run();
 
 private:
-    void checkNegative() const;
-    void checkNegativeIndent() const;
     void checkExceeding() const;
     void checkCover() const;
     void checkCoverWidth() const;

@@ -1,7 +1,5 @@
 #include "check/product/PxProductCheck.h"
 
-#include "check/rules/PxElementReading.h"
-
 #include <PxXMLParser.h>
 
 #include <algorithm>
@@ -23,7 +21,7 @@ bool isUnsafeForFile(const QString &name)
 void PxProductCheck::run()
 {
     checkName();
-    checkCounts();
+    checkPageCount();
     checkAlignmentStyle();
 }
 
@@ -33,12 +31,9 @@ void PxProductCheck::checkName() const
     constexpr const char *attribute = "name";
     const QString name = element.value(attribute);
     const QString now = "the file is skipped without a word";
-    const PxMissingPart missing = PxElementReading(element).missing(attribute);
     if (name.trimmed().isEmpty())
-        m_report.add(PxTag::ProductNameMissing, missing.range, "the product has no name")
-            .now(now)
-            .hint(missing.hint);
-    else if (isUnsafeForFile(name))
+        return;
+    if (isUnsafeForFile(name))
         checkNameOfFile();
     // Without any product type there is one cause, and it is not in this file.
     else if (!m_product.type().isValid() && !m_types.isEmpty() && !m_types.isListed(name))
@@ -67,22 +62,14 @@ void PxProductCheck::checkNameOfFile() const
         .hint("use letters, digits and underscores only");
 }
 
-void PxProductCheck::checkCounts() const
+void PxProductCheck::checkPageCount() const
 {
-    const PxSourceElement &element = m_product.element();
-    const PxProductTypeDescription &description = m_product.description();
-    if (description.explicitNumberOfProducts() <= 0)
-        m_report
-            .add(PxTag::ProductCountZero, element.rangeOf("numOfProducts"),
-                 "a product that consists of %1 pieces", description.explicitNumberOfProducts())
-            .now("the pages of one piece cannot be computed")
-            .hint("leave it out for a single piece");
     constexpr auto counted = static_cast<PxProductClass>(PxProductClassGift | PxProductClassCard |
                                                          PxProductClassDecoration);
-    const int pageCount = description.explicitNumberOfNormalPages();
+    const int pageCount = m_product.description().explicitNumberOfNormalPages();
     if (pageCount <= 0 && m_product.type().isProductClass(counted))
         m_report
-            .add(PxTag::PageCountNotPositive, element.rangeOf("numOfNormalPages"),
+            .add(PxTag::PageCountNotPositive, m_product.element().rangeOf("numOfNormalPages"),
                  "a product of %1 normal pages", pageCount)
             .now("the page count is %1", unsigned(pageCount))
             .hint("leave it out for a single page");

@@ -21,7 +21,7 @@ public:
 private:
     void checkName() const;
     void checkNameOfFile() const;
-    void checkCounts() const;
+    void checkPageCount() const;
     void checkAlignmentStyle() const;
 
     const PxCheckedProduct &m_product;

@@ -89,9 +89,9 @@ PxSizeCheck::PxSizeCheck(const PxCheckedProduct &product, const PxReporter &repo
 
 void PxSizeCheck::run()
 {
-    checkPresence();
     if (!m_usableSize)
         return;
+    checkPresence();
     checkArea();
     checkShadowing();
     if (!m_size.isEmpty()) {
@@ -102,14 +102,6 @@ void PxSizeCheck::run()
 
 void PxSizeCheck::checkPresence() const
 {
-    const QString now = "the product is never offered";
-    if (!m_usableSize) {
-        const PxMissingPart size = PxElementReading(m_product.element()).missingChild("usablesize");
-        m_report.add(PxTag::SizeMissing, size.range, "the product has no \"usablesize\"")
-            .now(now)
-            .hint(size.hint);
-        return;
-    }
     QStringList missing;
     for (const char *side : {width, height}) {
         if (!m_usableSize->attribute(side))
@@ -122,7 +114,7 @@ void PxSizeCheck::checkPresence() const
     m_report
         .add(PxTag::SizeMissing, side.range, "the size has no %1",
              PxMessageText::quotedList(missing, " and no "))
-        .now(now)
+        .now("the product is never offered")
         .hint(side.hint);
 }
 

@@ -67,17 +67,13 @@ bool isMeantAsEntry(const PxSourceElement &element, const PxElementRow &row)
 
 void PxFormatCheck::run()
 {
-    const PxSourceElement *root = m_report.file().root();
-    if (!root || !isOfKind(*root))
-        return;
-    checkElement({*root, PxFormat::root(m_kind), nullptr, nullptr});
+    checkElement({*m_report.file().root(), PxFormat::root(m_kind), nullptr, nullptr});
 }
 
-/** Whether anything is read from the file; when nothing is, that is told elsewhere. */
-bool PxFormatCheck::isOfKind(const PxSourceElement &root) const
+bool PxFormatCheck::isOfKind(const PxSourceElement &root, PxFileKind kind)
 {
-    const QString name = nameOf(PxFormat::root(m_kind));
-    switch (m_kind) {
+    const QString name = nameOf(PxFormat::root(kind));
+    switch (kind) {
     case PxFileKind::Product:
         return root.firstChild("product");
     case PxFileKind::Theme:

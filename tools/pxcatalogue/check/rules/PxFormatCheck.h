@@ -10,10 +10,12 @@
 class PxFormatCheck
 {
 public:
-    /** The file has been read. */
+    /** The file has been read, and is of the kind. */
     PxFormatCheck(PxFileKind kind, const PxReporter &report) : m_kind(kind), m_report(report) {}
 
     void run();
+    /** Whether the library reads anything from a file with such a document element. */
+    static bool isOfKind(const PxSourceElement &root, PxFileKind kind);
 
 private:
     /** An element, what it may be, what its parent is, and its neighbour before; null for none. */
@@ -25,7 +27,6 @@ private:
         const PxSourceElement *before;
     };
 
-    bool isOfKind(const PxSourceElement &root) const;
     void checkElement(const Place &place) const;
     void checkAttributes(const Place &place) const;
     void checkText(const Place &place) const;

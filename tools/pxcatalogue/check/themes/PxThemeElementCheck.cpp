@@ -2,9 +2,7 @@
 
 #include "check/words/PxMessageText.h"
 #include "check/words/PxSpelling.h"
-#include "format/PxFormat.h"
 
-#include <PxProductGroup.h>
 #include <PxProductType.h>
 #include <PxXMLParser.h>
 
@@ -55,66 +53,9 @@ PxThemeElementCheck::PxThemeElementCheck(const PxSourceElement &theme, PxListedP
 
 void PxThemeElementCheck::run()
 {
-    checkId();
-    checkGroup();
     checkExpiry();
-    checkDescription();
     checkKeyAccounts();
     checkProducts();
-}
-
-void PxThemeElementCheck::checkId() const
-{
-    const QString id = m_theme.value("id");
-    const PxSourceRange range = m_theme.rangeOf("id");
-    if (id.isEmpty()) {
-        const bool isThere = m_theme.attribute("id");
-        const PxMissingPart missing = PxElementReading(m_theme, PxFileKind::Theme).missing("id");
-        m_report
-            .add(PxTag::ThemeIdMissing, missing.range,
-                 isThere ? "the \"id\" of the theme is empty" : "the theme has no \"id\"")
-            .now("its id is \"%1\"", isThere ? QString() : "unbekannt")
-            .hint(missing.hint);
-    } else if (id.contains(QLatin1Char(','))) {
-        m_report.add(PxTag::ThemeIdUnlistable, range, "the id \"%1\" holds a comma", id)
-            .now("no list of ids finds the theme");
-    } else if (id != id.trimmed()) {
-        m_report
-            .add(PxTag::ThemeIdUnlistable, range, "the id \"%1\" begins or ends with a blank", id)
-            .now("the blank belongs to the id")
-            .hint("write \"%1\"", id.trimmed().toLower());
-    }
-    if (id != id.toLower())
-        m_report.add(PxTag::ThemeIdLowered, range, "the id \"%1\" has upper-case letters", id)
-            .now("the id is \"%1\"", id.toLower());
-}
-
-void PxThemeElementCheck::checkGroup() const
-{
-    constexpr const char *attribute = "producttype";
-    const QString group = m_theme.value(attribute);
-    const QString now = "the theme is not valid";
-    if (group.trimmed().isEmpty()) {
-        const PxMissingPart missing =
-            PxElementReading(m_theme, PxFileKind::Theme).missing(attribute);
-        m_report
-            .add(PxTag::ThemeGroupMissing, missing.range,
-                 m_theme.attribute(attribute) ? "the \"producttype\" of the theme is empty"
-                                              : "the theme has no \"producttype\"")
-            .now(now)
-            .hint(missing.hintOr("name the product group, as in \"book\""));
-    } else if (!PxProductGroup(group).isValid()) {
-        m_report
-            .add(PxTag::ThemeGroupUnknown, m_theme.rangeOf(attribute), "\"%1\" is no product group",
-                 group)
-            .now(now)
-            .hint([&] {
-                return group.contains(QLatin1Char(','))
-                           ? "name one product group only"
-                           : PxSpelling::hint(group,
-                                              PxFormat::keywordNames(PxKeywordSet::ProductGroup));
-            });
-    }
 }
 
 void PxThemeElementCheck::checkExpiry() const
@@ -122,18 +63,11 @@ void PxThemeElementCheck::checkExpiry() const
     static const QRegularExpression ourDay("^\\d{4}-\\d\\d-\\d\\d$");
     const QString text = m_theme.value("expiry");
     const PxSourceRange range = m_theme.rangeOf("expiry");
-    const PxMissingPart missing = PxElementReading(m_theme, PxFileKind::Theme).missing("expiry");
-    const QString now = "the theme has expired, it is never offered";
     if (text.trimmed().isEmpty())
-        m_report
-            .add(PxTag::ThemeExpiryMissing, missing.range,
-                 m_theme.attribute("expiry") ? "the \"expiry\" of the theme is empty"
-                                             : "the theme has no \"expiry\"")
-            .now(now)
-            .hint(missing.hintOr("write year to minute, as in \"205012312359\""));
-    else if (!m_expiry.isValid())
+        return;
+    if (!m_expiry.isValid())
         m_report.add(PxTag::ThemeExpiryMalformed, range, "\"%1\" is no date and time", text)
-            .now(now)
+            .now("the theme has expired, it is never offered")
             .hint([&] { return expiryHint(text); });
     else if (m_isExpired)
         m_report
@@ -145,22 +79,6 @@ void PxThemeElementCheck::checkExpiry() const
             .now("the theme expires when the day begins, at %1", m_expiry.toString("HH:mm"))
             .hint("write \"%1\" to include the day",
                   m_expiry.date().endOfDay().toString(compactFormat));
-}
-
-void PxThemeElementCheck::checkDescription() const
-{
-    const PxSourceElement *description = m_theme.firstChild("description");
-    if (description && !description->dom.text().trimmed().isEmpty())
-        return;
-    const PxMissingPart missing =
-        description ? PxElementReading(*description, PxFileKind::Theme).missingText()
-                    : missingChild(description, "description");
-    m_report
-        .add(PxTag::ThemeDescriptionMissing, missing.range,
-             description ? "the \"description\" of the theme is empty"
-                         : "the theme has no \"description\"")
-        .now("it is shown as \"%1\"", description ? QString() : "unbekannt")
-        .hint(missing.hint);
 }
 
 void PxThemeElementCheck::checkKeyAccounts() const
@@ -177,8 +95,6 @@ void PxThemeElementCheck::checkKeyAccounts() const
                 .hint(missing.hint);
         return;
     }
-    for (const PxSourceElement *account : accounts->children)
-        checkKeyAccount(*account);
     for (const PxSourceNode &node : accounts->nodes) {
         if (node.isBlank())
             continue;
@@ -189,24 +105,6 @@ void PxThemeElementCheck::checkKeyAccounts() const
             .hint(node.isText() ? "write an element for each key account"
                                 : "move it out of \"keyaccounts\"");
     }
-}
-
-void PxThemeElementCheck::checkKeyAccount(const PxSourceElement &account) const
-{
-    const QString text = account.dom.text();
-    bool isNumber = false;
-    text.toInt(&isNumber);
-    if (isNumber)
-        return;
-    const PxMissingPart missing = PxElementReading(account, PxFileKind::Theme).missingText();
-    m_report
-        .add(PxTag::ThemeKeyAccountMalformed, missing.range,
-             text.trimmed().isEmpty()
-                 ? "the key account is empty"
-                 : QString("\"%1\" is no number of a key account").arg(text.trimmed()))
-        .now("it counts as key account 0")
-        .hint(text.contains(QLatin1Char(',')) ? "write an element for each key account"
-                                              : missing.hint);
 }
 
 void PxThemeElementCheck::checkProducts() const

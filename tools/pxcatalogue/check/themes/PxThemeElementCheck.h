@@ -18,12 +18,8 @@ public:
     void run();
 
 private:
-    void checkId() const;
-    void checkGroup() const;
     void checkExpiry() const;
-    void checkDescription() const;
     void checkKeyAccounts() const;
-    void checkKeyAccount(const PxSourceElement &account) const;
     void checkProducts() const;
     void checkMissingProducts(const PxSourceElement *products) const;
     PxMissingPart missingChild(const PxSourceElement *child, const char *name) const;

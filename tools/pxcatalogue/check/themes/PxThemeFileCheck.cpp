@@ -6,18 +6,9 @@
 
 void PxThemeFileCheck::run()
 {
-    const PxSourceElement *root = m_report.file().root();
-    if (!root)
-        return;
-    if (root->name.toLower() != QLatin1String("themes")) {
-        m_report
-            .add(PxTag::ThemeRootWrong, root->nameRange,
-                 "the document element is \"%1\", not \"themes\"", root->name)
-            .now("nothing is read from this file");
-        return;
-    }
-    checkStrayNodes(*root);
-    for (const PxSourceElement *theme : root->children) { // whatever they are called
+    const PxSourceElement &root = *m_report.file().root();
+    checkStrayNodes(root);
+    for (const PxSourceElement *theme : root.children) { // whatever they are called
         PxThemeElementCheck(*theme, m_types, m_report).run();
         if (const PxSourceElement *logos = theme->firstChild("logos"))
             PxThemeLogoCheck(*logos, m_types, m_report).run();

@@ -1,7 +1,5 @@
 #include "check/themes/PxThemeImageCheck.h"
 
-#include "check/rules/PxElementReading.h"
-
 #include <PxDirectoryConfig.h>
 
 #include <QDir>
@@ -49,17 +47,9 @@ void PxThemeImageCheck::run()
 void PxThemeImageCheck::checkLogo(const PxSourceElement &logo)
 {
     const PxSourceAttribute *name = logo.attribute("filename");
-    if (name && !name->value.isEmpty()) {
+    if (name && !name->value.isEmpty())
         checkImage(
             {name, PxDirectoryConfig::instance()->resource(name->value.toLower(), false), logoNow});
-        return;
-    }
-    const PxMissingPart missing = PxElementReading(logo, PxFileKind::Theme).missing("filename");
-    m_report
-        .add(PxTag::ThemeImageMissing, missing.range, "the logo names no image: \"filename\" is %1",
-             name ? QLatin1String("empty") : QLatin1String("missing"))
-        .now(logoNow)
-        .hint(missing.hint);
 }
 
 /** A relative one is kept until all are known. */

@@ -16,35 +16,17 @@ void PxThemeLogoCheck::run()
     }
 }
 
-void PxThemeLogoCheck::checkProduct(const PxSourceElement &logo)
+void PxThemeLogoCheck::checkProduct(const PxSourceElement &logo) const
 {
     constexpr const char *booktype = "booktype";
     const QString name = logo.value(booktype);
-    const QString now = "the logo belongs to no product";
-    const PxProductType type(name.toUpper());
-    if (name.trimmed().isEmpty()) {
-        const PxMissingPart missing = PxElementReading(logo, PxFileKind::Theme).missing(booktype);
-        m_report
-            .add(PxTag::ThemeLogoProductMissing, missing.range,
-                 "the logo names no product: \"booktype\" is %1",
-                 logo.attribute(booktype) ? QLatin1String("empty") : QLatin1String("missing"))
-            .now(now)
-            .hint(missing.hint);
-    } else if (type.isValid()) {
-        const PxSourceElement *&known = m_logos[int(type.type())];
-        if (known)
-            m_report
-                .add(PxTag::ThemeLogoTwice, logo.rangeOf(booktype), "%1 has a logo in %2, too",
-                     type.productName(), m_report.place(known->nameRange))
-                .now("the later one is used, image and place together");
-        known = &logo;
-    } else if (!m_types.isEmpty() && !m_types.isListed(name)) {
+    if (!name.trimmed().isEmpty() && !PxProductType(name.toUpper()).isValid() &&
+        !m_types.isEmpty() && !m_types.isListed(name))
         m_report
             .add(PxTag::ThemeLogoProductUnknown, logo.rangeOf(booktype),
                  "\"%1\" is no known product name", name)
-            .now(now)
+            .now("the logo belongs to no product")
             .hint([&] { return m_types.hint(name); });
-    }
 }
 
 void PxThemeLogoCheck::checkPlace(const PxSourceElement &logo) const

@@ -3,8 +3,6 @@
 #include "check/findings/PxReporter.h"
 #include "check/words/PxListedProductTypes.h"
 
-#include <QHash>
-
 /** Checks the logos of a theme: for which product each is, and where it goes. */
 class PxThemeLogoCheck
 {
@@ -20,11 +18,10 @@ public:
     void run();
 
 private:
-    void checkProduct(const PxSourceElement &logo);
+    void checkProduct(const PxSourceElement &logo) const;
     void checkPlace(const PxSourceElement &logo) const;
 
     const PxSourceElement &m_element;
     PxListedProductTypes &m_types;
     const PxReporter m_report;
-    QHash<int, const PxSourceElement *> m_logos; ///< by product type
 };

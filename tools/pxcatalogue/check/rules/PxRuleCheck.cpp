@@ -1,0 +1,124 @@
+#include "check/rules/PxRuleCheck.h"
+
+#include "format/PxFormat.h"
+
+#include <algorithm>
+
+namespace {
+
+/** Those children that the library reads for the row. */
+QVector<const PxSourceElement *> childrenRead(const PxSourceElement &parent,
+                                              const PxElementRow &row)
+{
+    if (row.occurrence == PxOccurrence::AnyName)
+        return parent.children;
+    return parent.childrenNamed(row.name).mid(0, row.occurrence == PxOccurrence::First ? 1 : -1);
+}
+
+PxMissingPart partOf(const PxRule &rule, const PxElementReading &reading)
+{
+    if (rule.test.kind == PxRuleTest::Kind::HasChild)
+        return reading.missingChild(rule.name);
+    return rule.name ? reading.missing(rule.name) : reading.missingText();
+}
+
+} // namespace
+
+void PxRuleCheck::run()
+{
+    for (const PxRule *begin = m_rules.begin(); begin != m_rules.end();) {
+        const PxRule *end = std::find_if(begin, m_rules.end(), [begin](const PxRule &rule) {
+            return qstrcmp(rule.path, begin->path) != 0;
+        });
+        checkPath(begin, end);
+        begin = end;
+    }
+}
+
+/** Element by element: of many findings the first are listed. */
+void PxRuleCheck::checkPath(const PxRule *begin, const PxRule *end)
+{
+    const PxElementRow *row = &m_startRow;
+    QVector<const PxSourceElement *> elements{&m_start};
+    for (const QString &name : QString(begin->path).split(QLatin1Char('/'), Qt::SkipEmptyParts)) {
+        row = PxFormat::child(*row, name);
+        QVector<const PxSourceElement *> below;
+        for (const PxSourceElement *element : qAsConst(elements))
+            below += childrenRead(*element, *row);
+        elements = below;
+    }
+    for (const PxSourceElement *element : qAsConst(elements))
+        checkElement(*element, *row, begin, end);
+}
+
+void PxRuleCheck::checkElement(const PxSourceElement &element, const PxElementRow &row,
+                               const PxRule *begin, const PxRule *end)
+{
+    if (m_parent != element.parent)
+        m_known.clear();
+    m_parent = element.parent;
+    const PxElementReading reading(element, row);
+    bool hasFailed = false;
+    for (const PxRule *rule = begin; rule != end; ++rule) {
+        if (hasFailed && qstrcmp(rule->name, (rule - 1)->name) == 0)
+            continue;
+        hasFailed = false;
+        if (rule->needs && element.value(rule->needs).isEmpty())
+            continue;
+        Value value{rule->name ? element.value(rule->name) : element.dom.text().trimmed()};
+        hasFailed = !holds(*rule, element, reading, &value);
+        if (hasFailed)
+            add(*rule, element, reading, value);
+    }
+}
+
+/** Makes the value what the texts of a finding name. */
+bool PxRuleCheck::holds(const PxRule &rule, const PxSourceElement &element,
+                        const PxElementReading &reading, Value *value)
+{
+    const PxRuleTest &test = rule.test;
+    const bool isGiven = !rule.name || reading.isGiven(rule.name);
+    switch (test.kind) {
+    case PxRuleTest::Kind::Given:
+        return isGiven;
+    case PxRuleTest::Kind::HasChild:
+        return element.firstChild(rule.name);
+    case PxRuleTest::Kind::NotEmpty:
+        return !value->text.isEmpty();
+    case PxRuleTest::Kind::NotBlank:
+        return !value->text.trimmed().isEmpty();
+    case PxRuleTest::Kind::AtLeast:
+        value->text = QString::number(reading.number(rule.name));
+        return !reading.isNumber(rule.name) || reading.number(rule.name) >= test.least;
+    case PxRuleTest::Kind::Matching:
+        return !isGiven || test.matches(value->text);
+    case PxRuleTest::Kind::Unique:
+        break;
+    }
+    if (test.key)
+        value->text = test.key(value->text);
+    if (value->text.isEmpty())
+        return true;
+    const PxSourceElement *&known = m_known[{&rule, value->text}];
+    value->sameBefore = known;
+    known = &element;
+    return !value->sameBefore;
+}
+
+void PxRuleCheck::add(const PxRule &rule, const PxSourceElement &element,
+                      const PxElementReading &reading, const Value &value) const
+{
+    const PxMissingPart part = partOf(rule, reading);
+    const QString needed = rule.needs ? element.value(rule.needs) : QString();
+    PxAddedFinding finding =
+        value.sameBefore ? m_report.add(rule.tag, part.range, rule.message, value.text, rule.name,
+                                        m_report.place(value.sameBefore->nameRange))
+                         : m_report.add(rule.tag, part.range, rule.message, value.text, rule.name);
+    if (rule.now.function)
+        finding.now([&] { return rule.now.function(value.text); });
+    else
+        finding.now(rule.now.text, value.text, rule.name, needed);
+    finding.hint([&] {
+        return part.hintOr(rule.hint.function ? rule.hint.function(value.text) : rule.hint.text);
+    });
+}
