@@ -1,11 +1,9 @@
 #include "check/catalogue/PxCheck.h"
 
 #include "check/catalogue/PxProductTypesCheck.h"
-#include "check/design/PxBackgroundCategoryCheck.h"
-#include "check/design/PxClassificationCheck.h"
 #include "check/design/PxDefaultsCheck.h"
+#include "check/design/PxDesignCheck.h"
 #include "check/design/PxUserDefaultsCheck.h"
-#include "check/design/PxVariantCheck.h"
 #include "check/findings/PxAllowanceComments.h"
 #include "check/layout/PxBarcodeCheck.h"
 #include "check/layout/PxNumberListCheck.h"
@@ -198,18 +196,10 @@ void PxCheck::checkProduct(const PxCheckedFile &file, bool isLegacy)
     PxSurroundingCheck(product, pages, m_images, report).run();
     PxBarcodeCheck(product, pages, m_images, report).run();
     PxNumberListCheck(product, pages, report).run();
-    checkDesign(product);
+    PxDefaultsCheck(product.element(), m_themeIds, report).run();
+    PxDesignCheck(product, report).run();
     m_productNames.insert(product.element().value("name"));
     m_catalogue.addProduct(product);
-}
-
-void PxCheck::checkDesign(const PxCheckedProduct &product)
-{
-    const PxReporter report = reporterFor(product.file());
-    PxDefaultsCheck(product.element(), m_themeIds, report).run();
-    PxVariantCheck(product, report).run();
-    PxBackgroundCategoryCheck(product, report).run();
-    PxClassificationCheck(product, report).run();
 }
 
 void PxCheck::checkStrays() const

@@ -26,7 +26,6 @@ private:
     void checkThemes();
     void checkProductTypes(const PxCheckedFile &file);
     void checkProduct(const PxCheckedFile &file, bool isLegacy);
-    void checkDesign(const PxCheckedProduct &product);
     void checkStrays() const;
     void checkStray(const QString &path) const;
     PxReporter reporterFor(const PxCheckedFile &file) const;

@@ -1,6 +1,7 @@
 #include "check/design/PxDefaultsCheck.h"
 
 #include "check/design/PxDefaultsOverrides.h"
+#include "check/rules/PxRuleCheck.h"
 #include "check/source/PxPageEntries.h"
 #include "check/source/PxSourceParts.h"
 #include "check/words/PxMessageText.h"
@@ -32,6 +33,8 @@ void PxDefaultsCheck::run()
     if (containers.isEmpty())
         return;
     checkNesting(containers);
+    PxRuleCheck(m_parent, PxFormat::root(PxFileKind::UserDefaults), defaultsRules(), m_report)
+        .run();
     PxDefaultsOverrides overrides(m_report);
     for (const auto *child : containers.constFirst()->childrenNamed("defaults")) {
         const PxDefaultsEntry entry(*child);
@@ -62,14 +65,6 @@ void PxDefaultsCheck::checkNesting(const QVector<const PxSourceElement *> &conta
 
 void PxDefaultsCheck::checkThemes(const PxDefaultsEntry &entry) const
 {
-    constexpr PxTag tag = PxTag::DefaultsThemeUnknown;
-    const QString now = "no theme finds these templates";
-    if (entry.themes().isEmpty()) {
-        m_report.add(tag, entry.element().rangeOf("theme"), "\"theme\" names no theme")
-            .now(now)
-            .hint("without the attribute they are for \"normal\"");
-        return;
-    }
     if (m_themeIds.isEmpty())
         return;
     const PxSourceList list =
@@ -79,29 +74,17 @@ void PxDefaultsCheck::checkThemes(const PxDefaultsEntry &entry) const
         // Other themes fall back to this one, whether it is there or not.
         if (id.isEmpty() || id == QLatin1String("normal") || m_themeIds.contains(id))
             continue;
-        m_report.add(tag, part.range, "there is no theme \"%1\"", id).now(now).hint([&] {
-            return m_themeIds.hint(id);
-        });
+        m_report.add(PxTag::DefaultsThemeUnknown, part.range, "there is no theme \"%1\"", id)
+            .now("no theme finds these templates")
+            .hint([&] { return m_themeIds.hint(id); });
     }
 }
 
 void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry) const
 {
-    constexpr const char *attribute = "pageType";
-    const QString now = "no page finds these templates";
-    const QVector<PxSourcePart> parts =
-        PxSourceParts::ofAttribute(m_report.file(), entry.element().attribute(attribute)).parts;
-    if (std::all_of(parts.begin(), parts.end(),
-                    [](const PxSourcePart &part) { return part.text.trimmed().isEmpty(); })) {
-        const PxMissingPart missing = entry.missing(attribute);
-        m_report
-            .add(PxTag::DefaultsPageTypeMissing, missing.range,
-                 parts.isEmpty() ? "\"pageType\" is missing" : "\"pageType\" names no type of page")
-            .now(now)
-            .hint(missing.hintOr("name the types of pages, as pageType=\"normalpage\""));
-        return;
-    }
-    for (const PxSourcePart &part : parts) {
+    const PxSourceList list =
+        PxSourceParts::ofAttribute(m_report.file(), entry.element().attribute("pageType"));
+    for (const PxSourcePart &part : list.parts) {
         const PxPageType pageType =
             static_cast<PxPageTypeEnum>(PxFormat::decode(PxKeywordSet::PageType, part.text));
         const bool isUnion = PxPageEntry::isUnion(pageType);
@@ -110,10 +93,10 @@ void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry) const
             continue;
         m_report
             .add(PxTag::DefaultsPageTypeUnion, part.range,
-                 isUnion
-                     ? QString("\"%1\" is more than one type").arg(part.text.trimmed())
-                     : QString("\"%1\" stands for pages of another type").arg(part.text.trimmed()))
-            .now(now)
+                 isUnion ? "\"%1\" is more than one type"
+                         : "\"%1\" stands for pages of another type",
+                 part.text.trimmed())
+            .now("no page finds these templates")
             .hint(isUnion ? "name each type, as \"fullcover,spine\""
                           : PxSpelling::didYouMean("normalpage"));
     }

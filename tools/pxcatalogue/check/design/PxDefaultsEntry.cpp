@@ -53,11 +53,6 @@ PxDefaultsEntry::PxDefaultsEntry(const PxSourceElement &element)
     });
 }
 
-PxMissingPart PxDefaultsEntry::missing(const char *attribute) const
-{
-    return PxElementReading(*m_element, entryRow()).missing(attribute);
-}
-
 PxDefaultsEntry::Templates PxDefaultsEntry::templates() const
 {
     // For a page that the library is sure to find.

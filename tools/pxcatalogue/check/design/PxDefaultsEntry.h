@@ -26,7 +26,6 @@ public:
     QVector<PxPageTypeEnum> pageTypes() const { return m_pageTypes; }
     /** Bits of PxPageAlignment. */
     int alignments() const { return m_alignments; }
-    PxMissingPart missing(const char *attribute) const;
     /** The library is asked each time: only few entries need it. */
     Templates templates() const;
 

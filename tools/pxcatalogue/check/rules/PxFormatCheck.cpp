@@ -2,7 +2,6 @@
 
 #include "check/PxCheckLimits.h"
 #include "check/rules/PxElementReading.h"
-#include "check/rules/PxFormatSearch.h"
 #include "check/rules/PxMissingValue.h"
 #include "check/rules/PxValueCheck.h"
 #include "check/words/PxMessageText.h"
@@ -17,6 +16,14 @@ namespace {
 QString nameOf(const PxElementRow &row)
 {
     return QLatin1String(row.name);
+}
+
+template <typename Visit>
+void forEachRow(const PxElementRow &row, Visit visit)
+{
+    visit(row);
+    for (const PxElementRow &child : row.children)
+        forEachRow(child, visit);
 }
 
 /** The name without its namespace prefix. */
@@ -110,9 +117,8 @@ void PxFormatCheck::addUnknownAttribute(const Place &place,
 {
     const QString local = localName(attribute.name);
     const bool hasPrefix = local != attribute.name;
-    const PxFormatSearch search(PxFormat::root(m_kind), place.row, place.parent);
     if (hasPrefix ? !PxFormat::attribute(place.row, local)
-                  : !place.parent && search.ownersOf(attribute.name).isEmpty())
+                  : !place.parent && ownersOf(attribute.name, place).isEmpty())
         return; // of another application, or a note about the file as a whole, as its version
 
     const QString asText = hintForText(place.element, place.row);
@@ -126,7 +132,7 @@ void PxFormatCheck::addUnknownAttribute(const Place &place,
         // The same letters are a better guess than another element, and that one than other
         // letters.
         return hasPrefix || !asText.isEmpty() ||
-                       (!isSame && !search.ownersOf(attribute.name).isEmpty())
+                       (!isSame && !ownersOf(attribute.name, place).isEmpty())
                    ? QString()
                    : meant;
     };
@@ -141,7 +147,7 @@ void PxFormatCheck::addUnknownAttribute(const Place &place,
                        : "it is passed over";
         })
         .hint([&] {
-            const QStringList owners = search.ownersOf(attribute.name);
+            const QStringList owners = ownersOf(attribute.name, place);
             const QString meant = misspelt();
             return hasPrefix           ? withoutPrefix(local)
                    : !asText.isEmpty() ? asText
@@ -228,8 +234,7 @@ void PxFormatCheck::addUnknownElement(const Place &place, int index) const
     const QString now = place.row.text == PxTextKind::None
                             ? "nothing in it is read"
                             : QString("its text counts as text of \"%1\"").arg(place.element.name);
-    const PxFormatSearch search(PxFormat::root(m_kind), place.row, place.parent);
-    const PxElementRow *owner = hasPrefix ? nullptr : search.parentOf(child.name);
+    const PxElementRow *owner = hasPrefix ? nullptr : parentOf(child.name, place);
     if (owner) {
         addMisplaced(place, index, *owner, now);
         return;
@@ -242,7 +247,7 @@ void PxFormatCheck::addUnknownElement(const Place &place, int index) const
             if (hasPrefix)
                 return withoutPrefix(local);
             const QString sibling = PxSpelling::hint(local, PxFormat::childNames(place.row));
-            return sibling.isEmpty() ? PxSpelling::hint(local, search.elementNames()) : sibling;
+            return sibling.isEmpty() ? PxSpelling::hint(local, elementNames()) : sibling;
         });
 }
 
@@ -271,4 +276,54 @@ void PxFormatCheck::addMisplaced(const Place &place, int index, const PxElementR
         .now(now)
         .hint(QString(&owner == place.parent ? "move %1 out, into %2" : "put %1 into %2")
                   .arg(what, into));
+}
+
+/** The nearest element that an element of this name belongs into; null if there is none. */
+const PxElementRow *PxFormatCheck::parentOf(const QString &element, const Place &from) const
+{
+    const auto isParent = [&element](const PxElementRow &row) {
+        return PxFormat::isChildName(row, element);
+    };
+    for (const PxElementRow &child : from.row.children) {
+        if (isParent(child))
+            return &child;
+    }
+    if (from.parent && isParent(*from.parent))
+        return from.parent;
+    const PxElementRow *first = nullptr;
+    forEachRow(PxFormat::root(m_kind), [&](const PxElementRow &row) {
+        if (!first && isParent(row))
+            first = &row;
+    });
+    return first;
+}
+
+/** The elements that have an attribute of this name; only the nearest ones. */
+QStringList PxFormatCheck::ownersOf(const QString &attribute, const Place &from) const
+{
+    QStringList below;
+    for (const PxElementRow &child : from.row.children) {
+        if (PxFormat::attribute(child, attribute))
+            below.append(QLatin1String(child.name));
+    }
+    if (!below.isEmpty())
+        return below;
+    if (from.parent && PxFormat::attribute(*from.parent, attribute))
+        return {QLatin1String(from.parent->name)};
+    QStringList all;
+    forEachRow(PxFormat::root(m_kind), [&](const PxElementRow &row) {
+        if (PxFormat::attribute(row, attribute))
+            all.append(QLatin1String(row.name));
+    });
+    all.removeDuplicates(); // elements of one name stand in several places
+    return all;
+}
+
+/** The usual names of all elements. */
+QStringList PxFormatCheck::elementNames() const
+{
+    QStringList names;
+    forEachRow(PxFormat::root(m_kind),
+               [&names](const PxElementRow &row) { names += PxFormat::childNames(row); });
+    return names;
 }

@@ -40,6 +40,11 @@ private:
     void addMisplaced(const Place &place, int index, const PxElementRow &owner,
                       const QString &now) const;
 
+    // Where an author may have meant to put a name that stands at a wrong place.
+    const PxElementRow *parentOf(const QString &element, const Place &from) const;
+    QStringList ownersOf(const QString &attribute, const Place &from) const;
+    QStringList elementNames() const;
+
     PxFileKind m_kind;
     const PxReporter m_report;
 };

@@ -1,12 +1,17 @@
 #include "check/rules/PxValueCheck.h"
 
 #include "check/rules/PxElementReading.h"
-#include "check/rules/PxKeywordCheck.h"
 #include "check/rules/PxMissingValue.h"
 #include "check/words/PxMessageText.h"
 #include "check/words/PxSpelling.h"
+#include "format/PxFormat.h"
+
+#include <PxListParts.h>
 
 #include <QRegularExpression>
+#include <QSet>
+
+#include <algorithm>
 
 namespace {
 
@@ -58,7 +63,7 @@ void PxValueCheck::run()
     case PxValueType::Keyword:
     case PxValueType::KeywordList:
     case PxValueType::OneKeyword:
-        PxKeywordCheck(m_element, m_row, m_attribute, m_report).run();
+        checkKeywords();
         break;
     default:
         break; // any text can be read
@@ -94,4 +99,188 @@ void PxValueCheck::checkBoolean() const
                  : QString("\"%1\" is neither true nor false").arg(PxMessageText::shortened(value)))
         .now([this] { return PxMissingValue::text(m_element, m_row); })
         .hint(meant.isEmpty() ? "write \"true\" or \"false\"" : meant);
+}
+
+void PxValueCheck::checkKeywords()
+{
+    switch (m_row.keywords) {
+    case PxKeywordSet::None:
+    case PxKeywordSet::Material:     // any text is a material
+    case PxKeywordSet::ProductGroup: // a matter of the whole theme
+    case PxKeywordSet::ProductClass: // a matter of the whole row
+        return;
+    default:
+        break;
+    }
+    m_list = PxSourceParts::ofAttribute(m_report.file(), &m_attribute);
+    for (PxSourcePart &entry : m_list.parts)
+        entry.text = entry.text.trimmed();
+    if (m_attribute.value.trimmed().isEmpty())
+        checkEmptyKeyword();
+    else if (m_row.type == PxValueType::OneKeyword)
+        checkOneKeyword();
+    else
+        checkKeywordList();
+}
+
+/** An empty value is the same as none, unless the library reads it as something else. */
+void PxValueCheck::checkEmptyKeyword() const
+{
+    const QString missing = QString::fromLatin1(m_row.defaultText);
+    if (!m_row.defaultText || PxFormat::decode(m_row.keywords, m_attribute.value) ==
+                                  PxFormat::decode(m_row.keywords, missing))
+        return;
+    m_report
+        .add(m_row.keywords == PxKeywordSet::Alignment ? PxTag::AlignmentUnknown
+                                                       : PxTag::KeywordUnknown,
+             m_attribute.valueRange, QString("\"%1\" is empty").arg(m_attribute.name))
+        .now(now())
+        .hint("leave it out for \"%1\"", missing);
+}
+
+void PxValueCheck::checkOneKeyword() const
+{
+    const QString word = m_attribute.value.trimmed();
+    if (isKnown(word))
+        return;
+    const QStringList words =
+        PxSpelling::words(QString(word).replace(QLatin1Char(','), QLatin1Char(' ')));
+    const bool areKeywords =
+        std::all_of(words.begin(), words.end(), [this](const QString &w) { return isKnown(w); });
+    if (words.size() > 1 && areKeywords)
+        m_report
+            .add(PxTag::KeywordSeveral, m_attribute.valueRange,
+                 "\"%1\" takes one keyword, not a list", m_attribute.name)
+            .now(now())
+            .hint("keep the one that is meant");
+    else
+        checkUnknownKeyword(
+            {word,
+             {m_list.parts.constFirst().range.begin, m_list.parts.constLast().range.end},
+             m_attribute.valueRange},
+            now());
+}
+
+void PxValueCheck::checkKeywordList() const
+{
+    bool areKnown = true;
+    QString asRead;
+    for (const PxSourcePart &entry : m_list.parts) {
+        if (entry.text.isEmpty() || isKnown(entry.text))
+            continue;
+        if (areKnown)
+            asRead = now(); // once: lists may be long
+        areKnown = false;
+        checkUnknownKeyword(entry, asRead);
+    }
+    // An author who mends a word looks at the whole list anyway.
+    if (areKnown && m_list.isWhole() && !checkGap() && !checkSeveral())
+        checkRepeated();
+}
+
+void PxValueCheck::checkUnknownKeyword(const PxSourcePart &entry, const QString &asRead) const
+{
+    const QString name = QString::fromUtf8(PxFormat::keywords(m_row.keywords).name);
+    const QStringList words = PxSpelling::words(entry.text);
+    const auto known = std::count_if(words.begin(), words.end(),
+                                     [this](const QString &word) { return isKnown(word); });
+    // Blanks belong to some keywords, so that they separate only what leaves nothing open.
+    static const QRegularExpression ourMarks("[;|/+]");
+    const bool isList =
+        words.size() > 1 && (known == words.size() || (known > 0 && entry.text.contains(ourMarks)));
+    if (isList && m_row.type != PxValueType::OneKeyword) {
+        m_report
+            .add(PxTag::KeywordListSeparator, entry.range, "\"%1\" is one word, and no %2",
+                 PxMessageText::shortened(entry.text), name)
+            .now(asRead)
+            .hint(m_row.type == PxValueType::Keyword
+                      ? "keep the one that is meant"
+                      : QString("separate with commas: \"%1\"")
+                            .arg(PxMessageText::shortened(words.join(QLatin1Char(',')))));
+        return;
+    }
+    const PxTag tag =
+        m_row.keywords == PxKeywordSet::Alignment ? PxTag::AlignmentUnknown : PxTag::KeywordUnknown;
+    m_report.add(tag, entry.range, "\"%1\" is no %2", PxMessageText::shortened(entry.text), name)
+        .now(asRead)
+        .hint([&] { return PxSpelling::hint(entry.text, PxFormat::keywordNames(m_row.keywords)); });
+}
+
+/** An entry without a word adds the default, which matters where the default is something. */
+bool PxValueCheck::checkGap() const
+{
+    const auto gap = std::find_if(m_list.parts.begin(), m_list.parts.end(),
+                                  [](const PxSourcePart &entry) { return entry.text.isEmpty(); });
+    if (gap == m_list.parts.end())
+        return false;
+    QStringList words;
+    for (const PxSourcePart &entry : m_list.parts) {
+        if (!entry.text.isEmpty())
+            words.append(entry.text);
+    }
+    const int without = PxFormat::decode(m_row.keywords, words.join(QLatin1Char(',')));
+    const int all = PxFormat::decode(m_row.keywords, m_attribute.value);
+    // Commas alone that stand for nothing are like a missing value that does.
+    const bool isMissing =
+        words.isEmpty() && all == 0 && m_row.defaultText &&
+        PxFormat::decode(m_row.keywords, QString::fromLatin1(m_row.defaultText)) == 0;
+    if (words.isEmpty() ? isMissing : all == without)
+        return false;
+    // The comma before it, or behind it when it is the first.
+    const int comma = gap == m_list.parts.begin() ? gap->whole.end : gap->whole.begin - 1;
+    m_report
+        .add(PxTag::KeywordListGap, {comma, comma + 1}, "an entry of \"%1\" is empty",
+             m_attribute.name)
+        .now("it adds %1", QString::fromUtf8(PxFormat::keywords(m_row.keywords).defaultText))
+        .hint("take the comma out");
+    return true;
+}
+
+bool PxValueCheck::checkSeveral() const
+{
+    if (m_row.type != PxValueType::Keyword)
+        return false;
+    QSet<int> values;
+    for (const PxSourcePart &entry : m_list.parts) {
+        if (!entry.text.isEmpty())
+            values.insert(PxFormat::decode(m_row.keywords, entry.text));
+    }
+    if (values.size() < 2)
+        return false;
+    m_report
+        .add(PxTag::KeywordSeveral, m_attribute.valueRange,
+             "a product has one %1, and \"%2\" names %3",
+             QString::fromUtf8(PxFormat::keywords(m_row.keywords).name), m_attribute.name,
+             values.size())
+        .now(now())
+        .hint("keep the one that is meant");
+    return true;
+}
+
+void PxValueCheck::checkRepeated() const
+{
+    QSet<QString> words;
+    for (const PxSourcePart &entry : m_list.parts) {
+        const QString word = entry.text.toLower();
+        if (words.contains(word) && !word.isEmpty()) {
+            m_report
+                .add(PxTag::KeywordRepeated, entry.range, "\"%1\" is in the list already",
+                     PxMessageText::shortened(entry.text))
+                .now("it counts once");
+            return;
+        }
+        words.insert(word);
+    }
+}
+
+bool PxValueCheck::isKnown(const QString &word) const
+{
+    return PxFormat::isKeyword(m_row.keywords, word);
+}
+
+QString PxValueCheck::now() const
+{
+    const QString answer = PxMissingValue::answer(m_element, m_row);
+    return QString("read as %1")
+        .arg(answer.isEmpty() ? PxFormat::decoded(m_row.keywords, m_attribute.value) : answer);
 }

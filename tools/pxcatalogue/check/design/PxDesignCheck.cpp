@@ -1,0 +1,135 @@
+#include "check/design/PxDesignCheck.h"
+
+#include "check/rules/PxElementReading.h"
+#include "check/source/PxSourceParts.h"
+#include "check/words/PxMessageText.h"
+#include "check/words/PxSpelling.h"
+#include "format/PxFormat.h"
+
+#include <themes/PxThematicCategory.h>
+#include <values/PxProductMaterial.h>
+#include <variants/PxProductVariantIdentifiers.h>
+
+#include <QMap>
+
+#include <algorithm>
+
+void PxDesignCheck::run()
+{
+    checkVariants();
+    checkBackgroundCategories();
+    checkClassification();
+}
+
+void PxDesignCheck::checkVariants() const
+{
+    const auto *list = m_product.element().firstChild("variants");
+    if (!list || !m_product.type().isValid())
+        return;
+    const QStringList all = m_product.description().variants();
+    const bool isAnyNamed = std::any_of(
+        all.begin(), all.end(), [this](const QString &identifier) { return isNamed(identifier); });
+    if (all.size() > 1 && !isAnyNamed) {
+        const PxMissingPart text = PxElementReading(*list->children.constFirst()).missingText();
+        m_report
+            .add(PxTag::VariantUnnamed, text.hint.isEmpty() ? list->nameRange : text.range,
+                 "none of the %1 variants has a display name for %2", all.size(),
+                 m_product.type().productName())
+            .now("the product has no variants")
+            .hint(text.hint);
+    } else {
+        checkEachVariant(*list);
+    }
+}
+
+void PxDesignCheck::checkEachVariant(const PxSourceElement &list) const
+{
+    QMap<QString, const PxSourceElement *> known;
+    for (const PxSourceElement *variant : list.children) {
+        const QString identifier = variant->dom.text();
+        const PxSourceElement *first = known.value(identifier);
+        if (first && !identifier.trimmed().isEmpty()) {
+            m_report
+                .add(PxTag::VariantTwice, variant->textRange(), "\"%1\" is also in %2", identifier,
+                     m_report.place(first->nameRange))
+                .now("it is shown once")
+                .hint("take one of them out");
+            continue;
+        }
+        known.insert(identifier, variant);
+        if (isNamed(identifier))
+            continue;
+        const QString tidy = identifier.trimmed().toLower();
+        const PxMissingPart text = PxElementReading(*variant).missingText();
+        m_report
+            .add(PxTag::VariantUnnamed, text.range,
+                 tidy.isEmpty() ? "the variant is empty"
+                                : QString("\"%1\" has no display name for %2")
+                                      .arg(identifier, m_product.type().productName()))
+            .now("this variant is hidden")
+            .hint(isNamed(tidy) ? PxSpelling::didYouMean(tidy) : text.hint);
+    }
+}
+
+bool PxDesignCheck::isNamed(const QString &identifier) const
+{
+    const auto *names = PxProductVariantIdentifiers::instance();
+    return !names->variantName(m_product.type(), identifier).isEmpty();
+}
+
+void PxDesignCheck::checkBackgroundCategories() const
+{
+    QMap<QString, QString> known; // as first written, by the name without its case
+    const PxSourceList list = PxSourceParts::ofAttribute(
+        m_product.file(), m_product.element().attribute("coverBackgroundCategories"));
+    for (const PxSourcePart &part : list.parts) {
+        const QString name = part.text.trimmed();
+        if (part.text.isEmpty())
+            continue;
+        if (name != part.text) {
+            m_report
+                .add(PxTag::CategoryBlank, part.whole,
+                     "the category \"%1\" has a blank at its edge", part.text)
+                .now("no background is of this category")
+                .hint(name.isEmpty() ? QString() : PxSpelling::didYouMean(name));
+            continue;
+        }
+        const QString first = known.value(name.toCaseFolded(), name);
+        known.insert(name.toCaseFolded(), first);
+        const PxThematicCategory category(name, QString());
+        const PxThematicCategory other(first, QString());
+        if (first == name || !(category == other))
+            continue;
+        m_report
+            .add(PxTag::CategoryCaseTwice, part.range, "the category \"%1\" is also written \"%2\"",
+                 name, first)
+            .now("both are kept")
+            .hint("keep the spelling that the backgrounds have");
+    }
+}
+
+void PxDesignCheck::checkClassification() const
+{
+    const auto *element = m_product.element().firstChild("classification");
+    if (!element || !PxElementReading(*element).hasOnlyKnown())
+        return;
+    QStringList missing;
+    for (const char *name : {"cm", "inch", "group"}) {
+        if (element->value(name).trimmed().isEmpty())
+            missing.append(name);
+    }
+    if (!missing.isEmpty())
+        m_report
+            .add(PxTag::ClassificationIncomplete, element->nameRange, "nothing is said about %1",
+                 PxMessageText::quotedList(missing))
+            .now("size name or material are empty");
+
+    const PxProductMaterial material = m_product.description().classification().material();
+    if (material.value().trimmed().isEmpty() || !material.visibleDescription().isEmpty())
+        return;
+    m_report
+        .add(PxTag::MaterialUnknown, element->rangeOf("group"), "\"%1\" is no material",
+             material.value())
+        .now("it is a material of its own, without a display name")
+        .hint(PxSpelling::hint(material.value(), PxFormat::keywordNames(PxKeywordSet::Material)));
+}

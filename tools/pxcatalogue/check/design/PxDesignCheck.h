@@ -1,0 +1,27 @@
+#pragma once
+
+#include "check/findings/PxReporter.h"
+#include "check/source/PxCheckedProduct.h"
+
+/** Checks the variants of a product, and by what it is sorted: background categories, material. */
+class PxDesignCheck
+{
+public:
+    /** The product must outlive the check. */
+    PxDesignCheck(const PxCheckedProduct &product, const PxReporter &report)
+        : m_product(product)
+        , m_report(report)
+    {}
+
+    void run();
+
+private:
+    void checkVariants() const;
+    void checkEachVariant(const PxSourceElement &list) const;
+    bool isNamed(const QString &variant) const;
+    void checkBackgroundCategories() const;
+    void checkClassification() const;
+
+    const PxCheckedProduct &m_product;
+    const PxReporter m_report;
+};
