@@ -1,7 +1,5 @@
 #include "check/catalogue/PxCatalogueCheck.h"
 
-#include "check/product/PxSizeCheck.h"
-
 #include <PxDirectoryConfig.h>
 #include <description/PxProductTypeDescriptionReader.h>
 
@@ -43,14 +41,12 @@ qint64 longerSide(const QSize &size)
 
 } // namespace
 
-void PxCatalogueCheck::addProduct(const PxCheckedProduct &product)
+void PxCatalogueCheck::addProduct(const PxCheckedProduct &product, bool isInOtherUnit)
 {
     constexpr const char *legacy = "legacy";
     const PxCheckedFile &file = product.file();
     const PxSourceElement &element = product.element();
     const PxSourceElement *size = element.firstChild("usablesize");
-    // Which is a finding already.
-    const bool isInOtherUnit = PxSizeCheck::isInOtherUnit(product.description());
     m_products.append(
         {product.type(), product.isLegacy(), file.place(element.rangeOf("name")),
          element.value(legacy), file.place(element.rangeOf(legacy)),

@@ -19,8 +19,11 @@ public:
 
     /** Where the name of each product type stands in producttypes.xml. */
     void setProductTypes(const QMap<PxProductType, PxPlace> &types) { m_types = types; }
-    /** Remembers what the others are compared with; neither file nor product is kept. */
-    void addProduct(const PxCheckedProduct &product);
+    /**
+     * Remembers what the others are compared with; neither file nor product is kept. A size in
+     * another unit is reported for the product itself.
+     */
+    void addProduct(const PxCheckedProduct &product, bool isInOtherUnit);
 
     /** After all products have been added. */
     void run();

@@ -187,19 +187,20 @@ void PxCheck::checkProduct(const PxCheckedFile &file, bool isLegacy)
     const PxCheckedProduct product(file, isLegacy);
     const PxPageEntries entries(product);
     PxProductCheck(product, m_types, report).run();
-    PxSizeCheck(product, report).run();
+    PxSizeCheck size(product, report);
+    size.run();
     PxMarginCheck(product, entries, report).run();
     PxPagesCheck(product, entries, report).run();
     PxSpineCheck(product, entries, report).run();
     const PxProductPages pages(product, entries);
     PxRedirectCheck(product, report).run();
     PxSurroundingCheck(product, pages, m_images, report).run();
-    PxBarcodeCheck(product, pages, m_images, report).run();
+    PxBarcodeCheck(product, pages, size.isInOtherUnit(), m_images, report).run();
     PxNumberListCheck(product, pages, report).run();
     PxDefaultsCheck(product.element(), m_themeIds, report).run();
     PxDesignCheck(product, report).run();
     m_productNames.insert(product.element().value("name"));
-    m_catalogue.addProduct(product);
+    m_catalogue.addProduct(product, size.isInOtherUnit());
 }
 
 void PxCheck::checkStrays() const

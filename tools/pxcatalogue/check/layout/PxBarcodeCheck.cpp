@@ -1,10 +1,7 @@
 #include "check/layout/PxBarcodeCheck.h"
 
 #include "check/PxCheckLimits.h"
-#include "check/layout/PxElementRectangle.h"
-#include "check/layout/PxImageCheck.h"
-#include "check/layout/PxProductPages.h"
-#include "check/product/PxSizeCheck.h"
+#include "check/layout/PxPlacedImage.h"
 #include "check/rules/PxElementReading.h"
 #include "check/words/PxMessageText.h"
 
@@ -22,9 +19,10 @@ bool isPageNrPlain(const PxSourceElement &barcode)
 } // namespace
 
 PxBarcodeCheck::PxBarcodeCheck(const PxCheckedProduct &product, const PxProductPages &pages,
-                               PxImageNames &images, const PxReporter &report)
+                               bool isInOtherUnit, PxImageNames &images, const PxReporter &report)
     : m_product(product)
     , m_pages(pages)
+    , m_isInOtherUnit(isInOtherUnit)
     , m_images(images)
     , m_report(report)
 {
@@ -38,7 +36,7 @@ PxBarcodeCheck::PxBarcodeCheck(const PxCheckedProduct &product, const PxProductP
 void PxBarcodeCheck::run()
 {
     for (int i = 0; i < qMin(m_elements.size(), PxCheckLimits::barcodes); ++i) {
-        PxImageCheck(*m_elements[i], m_barcodes[i].imageName(), m_images, m_report).run();
+        PxPlacedImage(*m_elements[i]).checkFile(m_barcodes[i].imageName(), m_images, m_report);
         const bool hasRect = checkRect(i);
         if (!m_pages.isKnown() || !isPageNrPlain(*m_elements[i]))
             continue;
@@ -52,12 +50,12 @@ void PxBarcodeCheck::run()
 bool PxBarcodeCheck::checkRect(int index) const
 {
     const PxSourceElement &element = *m_elements[index];
-    const PxElementRectangle rectangle(element);
-    if (!isPageNrPlain(element) || !rectangle.isPlain())
+    const PxPlacedImage image(element);
+    if (!isPageNrPlain(element) || !image.isRectanglePlain())
         return false;
     if (m_barcodes[index].isValid())
         return true;
-    m_report.add(PxTag::BarcodeEmpty, rectangle.placeOfFault(), rectangle.fault())
+    m_report.add(PxTag::BarcodeEmpty, image.placeOfFault(), image.fault())
         .now("there is no barcode on that page");
     return false;
 }
@@ -116,8 +114,8 @@ bool PxBarcodeCheck::checkReach(int index, const QVector<Place> &places) const
 void PxBarcodeCheck::checkInside(int index, const QVector<Place> &places) const
 {
     const QRect rect = m_barcodes[index].rect();
-    if (m_product.description().usablePrintSize(PxPageTypeNormalPage, 1).isEmpty() ||
-        PxSizeCheck::isInOtherUnit(m_product.description()))
+    if (m_isInOtherUnit ||
+        m_product.description().usablePrintSize(PxPageTypeNormalPage, 1).isEmpty())
         return;
     for (const Place &place : places) {
         const QSize size =

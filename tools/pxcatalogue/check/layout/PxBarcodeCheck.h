@@ -1,19 +1,17 @@
 #pragma once
 
 #include "check/findings/PxReporter.h"
-#include "check/source/PxCheckedProduct.h"
+#include "check/layout/PxProductPages.h"
+#include "check/words/PxImageNames.h"
 
 #include <geometry/PxBarcodeList.h>
-
-class PxImageNames;
-class PxProductPages;
 
 /** Checks the barcodes: whether there is something to print, and a page to print it on. */
 class PxBarcodeCheck
 {
 public:
-    /** All of them must outlive the check. */
-    PxBarcodeCheck(const PxCheckedProduct &product, const PxProductPages &pages,
+    /** All of them must outlive the check. No barcode is compared with a size in another unit. */
+    PxBarcodeCheck(const PxCheckedProduct &product, const PxProductPages &pages, bool isInOtherUnit,
                    PxImageNames &images, const PxReporter &report);
 
     void run();
@@ -36,6 +34,7 @@ private:
 
     const PxCheckedProduct &m_product;
     const PxProductPages &m_pages;
+    const bool m_isInOtherUnit;
     PxImageNames &m_images;
     const PxReporter m_report;
     QVector<const PxSourceElement *> m_elements;

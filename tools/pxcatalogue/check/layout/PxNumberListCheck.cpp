@@ -1,6 +1,5 @@
 #include "check/layout/PxNumberListCheck.h"
 
-#include "check/layout/PxProductPages.h"
 #include "check/rules/PxElementReading.h"
 #include "check/source/PxSourceParts.h"
 #include "check/words/PxMessageText.h"

@@ -1,9 +1,7 @@
 #pragma once
 
 #include "check/findings/PxReporter.h"
-#include "check/source/PxCheckedProduct.h"
-
-class PxProductPages;
+#include "check/layout/PxProductPages.h"
 
 /** Checks lists of page numbers, and what production makes of them. */
 class PxNumberListCheck

@@ -9,37 +9,21 @@
 
 namespace {
 
+constexpr const char *leftOut = "the redirect is left out";
+
 QString pagesText(int first, int last)
 {
     return first == last ? QString("page %1").arg(first)
                          : QString("pages %1 to %2").arg(first).arg(last);
 }
 
-/** Which of the attributes that it needs are not there. */
-QStringList missing(const PxSourceElement &redirect)
-{
-    QStringList names;
-    for (const char *name : {"from", "to"}) {
-        if (!redirect.attribute(name))
-            names.append(name);
-    }
-    return names;
-}
-
 /** An unknown attribute that looks like none that is missing: nobody knows what it is meant for. */
-bool isUnclear(const PxSourceElement &redirect)
+bool isUnclear(const PxElementReading &reading)
 {
-    const PxElementReading reading(redirect);
-    const QStringList names = missing(redirect);
+    const QStringList names = reading.missingOf({"from", "to"});
     return !reading.hasOnlyKnown() &&
            std::none_of(names.begin(), names.end(),
                         [&](const QString &name) { return reading.isMisspelt(qPrintable(name)); });
-}
-
-QString missingText(const QStringList &names)
-{
-    return PxMessageText::quotedList(names) +
-           (names.size() == 1 ? QLatin1String(" is missing") : QLatin1String(" are missing"));
 }
 
 } // namespace
@@ -62,30 +46,40 @@ void PxRedirectCheck::run()
 void PxRedirectCheck::checkRotation(const PxSourceElement &redirect) const
 {
     constexpr PxTag tag = PxTag::RotationRedirectIncomplete;
-    const QString now = "the redirect is left out";
     const PxElementReading reading(redirect);
-    if (isUnclear(redirect) || !reading.isReadable("from") || !reading.isReadable("to"))
+    if (isUnclear(reading) || !reading.isReadable("from") || !reading.isReadable("to"))
         return;
-    const QStringList names = missing(redirect);
-    if (!names.isEmpty()) {
-        const PxMissingPart part = reading.missing(qPrintable(names.constFirst()));
-        m_report.add(tag, part.range, missingText(names)).now(now).hint(part.hint);
+    if (checkGiven(tag, reading))
         return;
-    }
     for (const char *name : {"from", "to"}) {
         if (reading.number(name) < -1) {
             m_report.add(tag, redirect.rangeOf(name), "\"%1\" is no page", redirect.value(name))
-                .now(now)
+                .now(leftOut)
                 .hint("pages count from 0; -1 is the only number below");
             return;
         }
     }
 }
 
+/** Whether it found that "from" or "to" is missing. */
+bool PxRedirectCheck::checkGiven(PxTag tag, const PxElementReading &redirect) const
+{
+    const QStringList names = redirect.missingOf({"from", "to"});
+    if (names.isEmpty())
+        return false;
+    const PxMissingPart first = redirect.missing(qPrintable(names.constFirst()));
+    m_report
+        .add(tag, first.range, names.size() == 1 ? "%1 is missing" : "%1 are missing",
+             PxMessageText::quotedList(names))
+        .now(leftOut)
+        .hint(first.hint);
+    return true;
+}
+
 void PxRedirectCheck::checkContent(const PxSourceElement &redirect, QVector<Range> *ranges) const
 {
     const PxElementReading reading(redirect);
-    if (isUnclear(redirect) || !reading.isReadable("to"))
+    if (isUnclear(reading) || !reading.isReadable("to"))
         return;
     const QString from = redirect.value("from");
     const PxSourceRange place = redirect.rangeOf("from");
@@ -113,24 +107,19 @@ void PxRedirectCheck::checkContent(const PxSourceElement &redirect, QVector<Rang
 void PxRedirectCheck::checkIncomplete(const PxSourceElement &redirect) const
 {
     constexpr PxTag tag = PxTag::ContentRedirectIncomplete;
-    const QString now = "the redirect is left out";
-    const QString hint = "pages count from 0";
-    const QStringList names = missing(redirect);
+    const PxElementReading reading(redirect);
+    if (checkGiven(tag, reading))
+        return;
     const QString from = redirect.value("from");
-    const PxMissingPart part =
-        names.isEmpty() ? PxMissingPart()
-                        : PxElementReading(redirect).missing(qPrintable(names.constFirst()));
-    if (!names.isEmpty())
-        m_report.add(tag, part.range, missingText(names)).now(now).hint(part.hint);
-    else if (PxElementReading(redirect).number("to") < 0)
+    if (reading.number("to") < 0)
         m_report.add(tag, redirect.rangeOf("to"), "\"%1\" is no page", redirect.value("to"))
-            .now(now)
-            .hint(hint);
+            .now(leftOut)
+            .hint("pages count from 0");
     else
         m_report
             .add(tag, redirect.rangeOf("from"), "\"%1\" is neither a page nor a range of pages",
                  from)
-            .now(now)
+            .now(leftOut)
             .hint(from.contains(QLatin1Char(','))
                       ? "write one element for each page or range"
                       : "write a page such as \"3\" or a range such as \"3-7\"");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "check/findings/PxReporter.h"
+#include "check/rules/PxElementReading.h"
 #include "check/source/PxCheckedProduct.h"
 
 /** Checks which pages lead to which: when the product is turned, when content is dropped. */
@@ -26,6 +27,7 @@ private:
     };
 
     void checkRotation(const PxSourceElement &redirect) const;
+    bool checkGiven(PxTag tag, const PxElementReading &redirect) const;
     void checkContent(const PxSourceElement &redirect, QVector<Range> *ranges) const;
     void checkIncomplete(const PxSourceElement &redirect) const;
     void checkOverlaps(const QVector<Range> &ranges) const;

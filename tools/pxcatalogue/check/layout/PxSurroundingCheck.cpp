@@ -1,9 +1,7 @@
 #include "check/layout/PxSurroundingCheck.h"
 
 #include "check/PxCheckLimits.h"
-#include "check/layout/PxElementRectangle.h"
-#include "check/layout/PxImageCheck.h"
-#include "check/layout/PxProductPages.h"
+#include "check/layout/PxPlacedImage.h"
 #include "check/rules/PxElementReading.h"
 #include "check/words/PxMessageText.h"
 
@@ -50,8 +48,8 @@ PxSurroundingCheck::PxSurroundingCheck(const PxCheckedProduct &product, const Px
 void PxSurroundingCheck::run()
 {
     for (const Surrounding &surrounding : m_surroundings) {
-        PxImageCheck(*surrounding.element, surrounding.description.image(), m_images, m_report)
-            .run();
+        PxPlacedImage(*surrounding.element)
+            .checkFile(surrounding.description.image(), m_images, m_report);
         checkImage(surrounding);
         if (surrounding.description.surroundingType() == PxSurroundingTypeFrame)
             checkFrame(surrounding);
@@ -70,16 +68,14 @@ void PxSurroundingCheck::checkImage(const Surrounding &surrounding) const
     const QString now = "nothing is painted, and later surroundings of its pages are not used";
     const PxSourceElement &element = *surrounding.element;
     const PxSurroundingDescription &description = surrounding.description;
-    const PxElementRectangle rectangle(element);
+    const PxPlacedImage placed(element);
     const bool isFrame = description.surroundingType() == PxSurroundingTypeFrame;
     const bool hasImage = !description.image().isEmpty();
-    if (!surrounding.isPlain || !rectangle.isPlain() ||
+    if (!surrounding.isPlain || !placed.isRectanglePlain() ||
         hasImage == description.imageRect().isValid())
         return;
-    if (hasImage && (!isFrame || rectangle.isGiven())) {
-        m_report
-            .add(tag, rectangle.placeOfFault(), "an image without a rectangle: %1",
-                 rectangle.fault())
+    if (hasImage && (!isFrame || placed.isAnyNumberGiven())) {
+        m_report.add(tag, placed.placeOfFault(), "an image without a rectangle: %1", placed.fault())
             .now(now);
     } else if (!hasImage && !isFrame && !description.hasBindingShade()) {
         constexpr const char *image = "image";

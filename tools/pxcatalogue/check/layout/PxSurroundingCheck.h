@@ -1,10 +1,8 @@
 #pragma once
 
 #include "check/findings/PxReporter.h"
-#include "check/source/PxCheckedProduct.h"
-
-class PxImageNames;
-class PxProductPages;
+#include "check/layout/PxProductPages.h"
+#include "check/words/PxImageNames.h"
 
 /** Checks the images round the pages: whether each is ever painted, and as its element says. */
 class PxSurroundingCheck

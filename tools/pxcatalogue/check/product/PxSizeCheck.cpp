@@ -102,15 +102,11 @@ void PxSizeCheck::run()
 
 void PxSizeCheck::checkPresence() const
 {
-    QStringList missing;
-    for (const char *side : {width, height}) {
-        if (!m_usableSize->attribute(side))
-            missing.append(side);
-    }
+    const PxElementReading reading(*m_usableSize);
+    const QStringList missing = reading.missingOf({width, height});
     if (missing.isEmpty())
         return;
-    const PxMissingPart side =
-        PxElementReading(*m_usableSize).missing(qPrintable(missing.constFirst()));
+    const PxMissingPart side = reading.missing(qPrintable(missing.constFirst()));
     m_report
         .add(PxTag::SizeMissing, side.range, "the size has no %1",
              PxMessageText::quotedList(missing, " and no "))
@@ -194,7 +190,7 @@ void PxSizeCheck::checkSpace() const
     const SizeClass *named = namedClass(m_product.description());
     if (!named)
         return;
-    if (isInOtherUnit(m_product.description())) {
+    if (isInOtherUnit()) {
         addOtherUnit(named->area);
         return;
     }
@@ -215,12 +211,12 @@ void PxSizeCheck::checkSpace() const
         .hint(PxSpelling::didYouMean(PxSpaceMagnitude(nearest->value).encodeCSV()));
 }
 
-bool PxSizeCheck::isInOtherUnit(const PxProductTypeDescription &product)
+bool PxSizeCheck::isInOtherUnit() const
 {
-    const SizeClass *named = namedClass(product);
-    const QSize size = product.usablePrintSize(PxPageTypeNormalPage, 0);
+    const SizeClass *named = namedClass(m_product.description());
     // Ten times in either direction, within what the classes leave open.
-    return named && !size.isEmpty() && ratio(ratio(named->area, areaOf(size)), 100) <= roughness;
+    return named && !m_size.isEmpty() &&
+           ratio(ratio(named->area, areaOf(m_size)), 100) <= roughness;
 }
 
 void PxSizeCheck::addOtherUnit(int namedArea) const

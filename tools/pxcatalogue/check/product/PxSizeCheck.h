@@ -14,7 +14,7 @@ public:
 
     void run();
     /** Whether the page is a hundred times smaller or larger than its size class says. */
-    static bool isInOtherUnit(const PxProductTypeDescription &product);
+    bool isInOtherUnit() const;
 
 private:
     void checkPresence() const;

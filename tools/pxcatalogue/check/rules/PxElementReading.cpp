@@ -8,6 +8,7 @@
 #include <PxXMLParser.h>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -63,6 +64,14 @@ PxMissingPart PxElementReading::missing(const char *attribute) const
     const PxSourceAttribute *own = misspelling(attribute);
     return own ? PxMissingPart{own->nameRange, PxSpelling::didYouMean(attribute)}
                : PxMissingPart{m_element.rangeOf(attribute), QString()};
+}
+
+QStringList PxElementReading::missingOf(std::initializer_list<const char *> attributes) const
+{
+    QStringList names;
+    std::copy_if(attributes.begin(), attributes.end(), std::back_inserter(names),
+                 [this](const char *name) { return !isGiven(name); });
+    return names;
 }
 
 PxMissingPart PxElementReading::missingText() const

@@ -5,6 +5,7 @@
 
 #include <QStringList>
 
+#include <initializer_list>
 #include <optional>
 
 /** Something that is missing in an element, as it is told. */
@@ -43,6 +44,8 @@ public:
     PxMissingPart missing(const char *attribute) const;
     /** The text, where that is a finding; its value may have been written as an attribute. */
     PxMissingPart missingText() const;
+    /** Those of the attributes that are not given. */
+    QStringList missingOf(std::initializer_list<const char *> attributes) const;
     /** The attribute is missing, or can be read. */
     bool isReadable(const char *attribute) const;
     /** The same of an attribute that is there, and its row. */

@@ -56,6 +56,12 @@ void PxThemeElementCheck::run()
     checkExpiry();
     checkKeyAccounts();
     checkProducts();
+    if (const PxSourceElement *logos = m_theme.firstChild("logos")) {
+        for (const PxSourceElement *logo : logos->children) { // whatever they are called
+            checkLogoProduct(*logo);
+            checkLogoPlace(*logo);
+        }
+    }
 }
 
 void PxThemeElementCheck::checkExpiry() const
@@ -164,6 +170,45 @@ void PxThemeElementCheck::checkMissingProducts(const PxSourceElement *products) 
                       : "the theme has no \"products\"")
         .now("the theme is allowed for every product")
         .hint(missing.hint);
+}
+
+void PxThemeElementCheck::checkLogoProduct(const PxSourceElement &logo) const
+{
+    constexpr const char *booktype = "booktype";
+    const QString name = logo.value(booktype);
+    if (!name.trimmed().isEmpty() && !PxProductType(name.toUpper()).isValid() &&
+        !m_types.isEmpty() && !m_types.isListed(name))
+        m_report
+            .add(PxTag::ThemeLogoProductUnknown, logo.rangeOf(booktype),
+                 "\"%1\" is no known product name", name)
+            .now("the logo belongs to no product")
+            .hint([&] { return m_types.hint(name); });
+}
+
+void PxThemeElementCheck::checkLogoPlace(const PxSourceElement &logo) const
+{
+    const QRect rect = PxXMLParser::readRect(logo.dom);
+    if (!rect.isEmpty())
+        return;
+    const PxElementReading reading(logo, PxFileKind::Theme);
+    if (!reading.isReadable("width") || !reading.isReadable("height"))
+        return; // no number: the check of the value reports it
+    const QStringList missing = reading.missingOf({"width", "height"});
+    if (missing.isEmpty()) {
+        const char *culprit =
+            reading.number("width") > 0 && reading.number("height") <= 0 ? "height" : "width";
+        m_report
+            .add(PxTag::ThemeLogoWithoutPlace, logo.rangeOf(culprit),
+                 "the place of the logo is empty or too far out")
+            .now("it is %1 x %2 large", rect.width(), rect.height());
+        return;
+    }
+    const PxMissingPart side = reading.missing(qPrintable(missing.constFirst()));
+    m_report
+        .add(PxTag::ThemeLogoWithoutPlace, side.range, "the logo has no %1",
+             PxMessageText::quotedList(missing, " and no "))
+        .now("it has no place")
+        .hint(side.hint);
 }
 
 PxMissingPart PxThemeElementCheck::missingChild(const PxSourceElement *child,

@@ -7,7 +7,7 @@
 
 #include <QDateTime>
 
-/** Checks one theme: when, to whom and for which products it is offered. */
+/** Checks one theme: when, to whom and for which products it is offered, and its logos. */
 class PxThemeElementCheck
 {
 public:
@@ -22,6 +22,8 @@ private:
     void checkKeyAccounts() const;
     void checkProducts() const;
     void checkMissingProducts(const PxSourceElement *products) const;
+    void checkLogoProduct(const PxSourceElement &logo) const;
+    void checkLogoPlace(const PxSourceElement &logo) const;
     PxMissingPart missingChild(const PxSourceElement *child, const char *name) const;
 
     const PxSourceElement &m_theme;

@@ -2,17 +2,13 @@
 
 #include "check/themes/PxThemeElementCheck.h"
 #include "check/themes/PxThemeImageCheck.h"
-#include "check/themes/PxThemeLogoCheck.h"
 
 void PxThemeFileCheck::run()
 {
     const PxSourceElement &root = *m_report.file().root();
     checkStrayNodes(root);
-    for (const PxSourceElement *theme : root.children) { // whatever they are called
+    for (const PxSourceElement *theme : root.children) // whatever they are called
         PxThemeElementCheck(*theme, m_types, m_report).run();
-        if (const PxSourceElement *logos = theme->firstChild("logos"))
-            PxThemeLogoCheck(*logos, m_types, m_report).run();
-    }
     PxThemeImageCheck(m_images, m_report).run();
 }
 

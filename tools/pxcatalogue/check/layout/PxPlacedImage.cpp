@@ -1,6 +1,10 @@
-#include "check/layout/PxElementRectangle.h"
+#include "check/layout/PxPlacedImage.h"
 
 #include "check/rules/PxElementReading.h"
+
+#include <PxDirectoryConfig.h>
+
+#include <QFileInfo>
 
 #include <algorithm>
 #include <iterator>
@@ -11,7 +15,22 @@ constexpr const char *names[] = {"x", "y", "width", "height"};
 
 } // namespace
 
-bool PxElementRectangle::isPlain() const
+void PxPlacedImage::checkFile(const QString &name, PxImageNames &images,
+                              const PxReporter &report) const
+{
+    const QFileInfo file(PxDirectoryConfig::instance()->resource(name, false));
+    if (name.isEmpty() || file.isFile())
+        return;
+    report
+        .add(PxTag::ImageMissing, m_element.rangeOf("image"),
+             file.exists() ? "\"%1\" is no regular file"
+                           : "there is no image \"%1\" in the resources",
+             name)
+        .now("the name is handed on as it is, and nothing is painted")
+        .hint([&] { return images.hint(name, file); });
+}
+
+bool PxPlacedImage::isRectanglePlain() const
 {
     const PxElementReading reading(m_element);
     return std::all_of(std::begin(names), std::end(names), [&](const char *name) {
@@ -19,13 +38,13 @@ bool PxElementRectangle::isPlain() const
     });
 }
 
-bool PxElementRectangle::isGiven() const
+bool PxPlacedImage::isAnyNumberGiven() const
 {
     return std::any_of(std::begin(names), std::end(names),
                        [this](const char *name) { return m_element.attribute(name); });
 }
 
-QString PxElementRectangle::fault() const
+QString PxPlacedImage::fault() const
 {
     const char *side = sideWithFault();
     if (!side)
@@ -35,14 +54,14 @@ QString PxElementRectangle::fault() const
                      : QString("\"%1\" is missing").arg(side);
 }
 
-PxSourceRange PxElementRectangle::placeOfFault() const
+PxSourceRange PxPlacedImage::placeOfFault() const
 {
     const char *side = sideWithFault();
     return side ? m_element.rangeOf(side) : m_element.nameRange;
 }
 
 /** The first one that is missing or not above 0; null when both are well. */
-const char *PxElementRectangle::sideWithFault() const
+const char *PxPlacedImage::sideWithFault() const
 {
     for (const char *name : {"width", "height"}) {
         if (m_element.value(name).toLongLong() <= 0)
