@@ -33,8 +33,8 @@ void PxProductTypesCheck::checkMisspelt(const PxSourceElement &root) const
     for (const PxSourceElement *child : root.children) {
         if (child->name != row && PxSpelling::isNear(child->name, row))
             m_report
-                .add(PxTag::ProductTypeRowDropped, child->nameRange,
-                     QString("\"%1\" is no \"%2\"").arg(child->name, row))
+                .add(PxTag::ProductTypeRowDropped, child->nameRange, "\"%1\" is no \"%2\"",
+                     child->name, row)
                 .now("the product type is left out")
                 .hint(PxSpelling::didYouMean(row));
     }

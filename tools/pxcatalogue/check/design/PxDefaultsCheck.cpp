@@ -56,9 +56,9 @@ void PxDefaultsCheck::checkNesting(const QVector<const PxSourceElement *> &conta
     const PxSourceElement &misplaced = isFlat ? first : *containers[1];
     m_report
         .add(PxTag::DefaultsNotNested, misplaced.nameRange,
-             PxDefaultsEntry::isEntry(misplaced)
-                 ? QString("an entry directly in \"%1\"").arg(m_parent.name)
-                 : "a second container of \"defaults\"")
+             PxDefaultsEntry::isEntry(misplaced) ? "an entry directly in \"%1\""
+                                                 : "a second container of \"defaults\"",
+             m_parent.name)
         .now("only what is in the first \"defaults\" is read: %1 entries", entries)
         .hint("put all entries into one \"defaults\"");
 }
@@ -119,16 +119,13 @@ void PxDefaultsCheck::checkTemplates(const PxDefaultsEntry &entry) const
     });
     if (lost == names.end())
         return;
-    const bool isBackground = lost == names.begin();
-    const QString message =
-        names.size() > 2
-            ? QString("\"templates\" takes a background and a layout, not %1 names")
-                  .arg(names.size())
-            : QString("the %1 is given in \"templates\" and as an attribute")
-                  .arg(isBackground ? QLatin1String("background") : QLatin1String("layout"));
     m_report
         .add(PxTag::DefaultsTemplatesCount, names.size() > 2 ? names[2].range : lost->range,
-             message)
+             names.size() > 2 ? "\"templates\" takes a background and a layout, not %1 names"
+             : lost == names.begin()
+                 ? "the background is given in \"templates\" and as an attribute"
+                 : "the layout is given in \"templates\" and as an attribute",
+             names.size())
         .now(templatesText(used))
         .hint(names.size() > 2 ? QString() : "keep the one that is meant");
 }

@@ -63,9 +63,8 @@ void PxDesignCheck::checkEachVariant(const PxSourceElement &list) const
         const PxMissingPart text = PxElementReading(*variant).missingText();
         m_report
             .add(PxTag::VariantUnnamed, text.range,
-                 tidy.isEmpty() ? "the variant is empty"
-                                : QString("\"%1\" has no display name for %2")
-                                      .arg(identifier, m_product.type().productName()))
+                 tidy.isEmpty() ? "the variant is empty" : "\"%1\" has no display name for %2",
+                 identifier, m_product.type().productName())
             .now("this variant is hidden")
             .hint(isNamed(tidy) ? PxSpelling::didYouMean(tidy) : text.hint);
     }

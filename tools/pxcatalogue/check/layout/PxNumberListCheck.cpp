@@ -85,8 +85,8 @@ bool PxNumberListCheck::checkParts(const PxSourceElement &list) const
         isSound = false;
         m_report
             .add(PxTag::NumberListPartDropped, parts[i].range,
-                 text.isEmpty() ? QString("part %1 of \"%2\" is empty").arg(i + 1).arg(list.name)
-                                : QString("\"%1\" is no whole number").arg(text))
+                 text.isEmpty() ? "part %2 of \"%3\" is empty" : "\"%1\" is no whole number", text,
+                 i + 1, list.name)
             .now(now)
             .hint([&] { return separatorHint(text); });
     }
@@ -127,29 +127,25 @@ void PxNumberListCheck::checkExtraPage(const PxSourceElement &item) const
     // A list of which nothing is left has lost more than its parts.
     if (hasTarget && !checkParts(*pages))
         return;
-    constexpr PxTag tag = PxTag::ExtraPageIncomplete;
-    PxMissingPart missing;
-    QString message;
+    const auto add = [&](const PxMissingPart &missing, const char *message, const char *name = "") {
+        const int count = group.targetPages().size();
+        m_report.add(PxTag::ExtraPageIncomplete, missing.range, message, name)
+            .now(count == 1 ? "production gets the file \"%1\" for %2 target page"
+                            : "production gets the file \"%1\" for %2 target pages",
+                 group.content().filename(), count)
+            .hint(missing.hint);
+    };
     if (!pages || !pdf) {
+        using Search = PxElementReading::Search;
         const char *name = pages ? "pdf" : "target_pages";
-        missing = PxElementReading(item).missingChild(
-            name, m_report.hasRoom(tag) ? PxElementReading::Search::Everywhere
-                                        : PxElementReading::Search::Inside);
-        message = QString("no \"%1\"").arg(name);
+        const bool isListed = m_report.hasRoom(PxTag::ExtraPageIncomplete);
+        add(PxElementReading(item).missingChild(name,
+                                                isListed ? Search::Everywhere : Search::Inside),
+            "no \"%1\"", name);
     } else if (!hasTarget) {
-        missing = PxElementReading(*pages).missingText();
-        if (missing.hint.isEmpty())
-            missing.hint = "pages are whole numbers, as in \"0,2\"";
-        message = "no target page";
+        const PxMissingPart text = PxElementReading(*pages).missingText();
+        add({text.range, text.hintOr("pages are whole numbers, as in \"0,2\"")}, "no target page");
     } else if (group.content().filename().trimmed().isEmpty()) {
-        missing = PxElementReading(*pdf).missing("filename");
-        message = "no file name";
-    } else {
-        return;
+        add(PxElementReading(*pdf).missing("filename"), "no file name");
     }
-    const int count = group.targetPages().size();
-    m_report.add(tag, missing.range, message)
-        .now("production gets the file \"%1\" for %2 target %3", group.content().filename(), count,
-             count == 1 ? QLatin1String("page") : QLatin1String("pages"))
-        .hint(missing.hint);
 }

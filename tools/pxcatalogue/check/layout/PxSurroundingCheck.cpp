@@ -189,15 +189,16 @@ void PxSurroundingCheck::reportUnfit(const Surrounding &surrounding) const
     const bool hasType = surrounding.description.pageTypes().matches(m_pages.pageTypes().value());
     const char *attribute = isPinned ? "pageNr" : hasType ? "alignment" : "pageType";
     const QString value = surrounding.element->value(attribute);
-    QString message = QString("the product has no page of type \"%1\"").arg(value);
+    const char *message = "the product has no page of type \"%1\"";
     if (isPinned)
-        message = QString("the product has no page %1: its pages are 0 to %2")
-                      .arg(value, QString::number(m_pages.lastPage()));
+        message = "the product has no page %1: its pages are 0 to %2";
     else if (hasType)
         message = surrounding.element->attribute(attribute)
-                      ? QString("no page of these types lies at \"%1\"").arg(value)
+                      ? "no page of these types lies at \"%1\""
                       : "no page of these types lies on any of these sides";
-    m_report.add(PxTag::SurroundingUnreachable, surrounding.element->rangeOf(attribute), message)
+    m_report
+        .add(PxTag::SurroundingUnreachable, surrounding.element->rangeOf(attribute), message, value,
+             m_pages.lastPage())
         .now("it is never painted");
 }
 

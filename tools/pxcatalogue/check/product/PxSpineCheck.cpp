@@ -82,8 +82,8 @@ void PxSpineCheck::readPageCount(const PxSourceElement &spine)
     const PxMissingPart missing = reading.missing(pagesName);
     m_report
         .add(PxTag::SpinePagesMissing, missing.range,
-             reading.isGiven(pagesName) ? QString("a spine for %1 pages").arg(pageCount)
-                                        : "a spine without a page count")
+             reading.isGiven(pagesName) ? "a spine for %1 pages" : "a spine without a page count",
+             pageCount)
         .now("the smallest page count is %1", m_product.description().minPages())
         .hint(missing.hint);
 }
@@ -155,23 +155,11 @@ void PxSpineCheck::checkSteps() const
     for (auto it = std::next(m_spines.begin()); it != std::prev(m_spines.end()); ++it) {
         const int smaller = std::prev(it).key();
         const int step = it.key() - smaller;
-        const qint64 wanted = qint64(smaller) + usual;
         // The page count before was the wrong one, and this goes on behind it.
         const bool isBackInStep = smaller != inStep && it.key() - inStep == 2LL * usual;
         // A table may go on in other steps: that is one place, not many.
         if (step != usual && step != before && !isBackInStep)
-            m_report
-                .add(PxTag::SpineStepsIrregular, it.value()->rangeOf(pagesName),
-                     "%1 pages after %2, where most steps are %3", it.key(), smaller, usual)
-                .now(QString("the page counts go from %1 to %2 in steps of %3")
-                         .arg(m_product.description().minPages())
-                         .arg(m_product.description().maxPages())
-                         .arg(m_product.description().pageIncrement()) +
-                     nowWithoutSpine(smaller, it.key()))
-                .hint(std::next(it).key() == wanted + usual
-                          ? PxSpelling::didYouMean(QString::number(wanted))
-                      : step > usual ? QString("add a spine for %1 pages").arg(wanted)
-                                     : QString());
+            addIrregularStep(it, usual);
         isRegular = isRegular && step == usual;
         before = isBackInStep ? usual : step;
         if (isBackInStep || step == usual)
@@ -179,6 +167,30 @@ void PxSpineCheck::checkSteps() const
     }
     if (isRegular)
         checkLastStep(usual);
+}
+
+/** The step to the page count from the one before it. */
+void PxSpineCheck::addIrregularStep(Spines::const_iterator spine, int usual) const
+{
+    const int smaller = std::prev(spine).key();
+    const qint64 wanted = qint64(smaller) + usual;
+    m_report
+        .add(PxTag::SpineStepsIrregular, spine.value()->rangeOf(pagesName),
+             "%1 pages after %2, where most steps are %3", spine.key(), smaller, usual)
+        .now(nowOfSteps() + nowWithoutSpine(smaller, spine.key()))
+        .hint(std::next(spine).key() == wanted + usual
+                  ? PxSpelling::didYouMean(QString::number(wanted))
+              : wanted < spine.key() ? QString("add a spine for %1 pages").arg(wanted)
+                                     : QString());
+}
+
+QString PxSpineCheck::nowOfSteps() const
+{
+    const PxProductTypeDescription &book = m_product.description();
+    return QString("the page counts go from %1 to %2 in steps of %3")
+        .arg(book.minPages())
+        .arg(book.maxPages())
+        .arg(book.pageIncrement());
 }
 
 /** What becomes of the first page count that is offered between two of the table. */
@@ -207,10 +219,7 @@ void PxSpineCheck::checkLastStep(int usual) const
         .now(hasWidth() ? QString("the spine for %1 pages is %2 wide")
                               .arg(smaller + usual)
                               .arg(m_product.description().spineWidth(smaller + usual))
-                        : QString("the page counts go from %1 to %2 in steps of %3")
-                              .arg(m_product.description().minPages())
-                              .arg(m_product.description().maxPages())
-                              .arg(m_product.description().pageIncrement()))
+                        : nowOfSteps())
         .hint("add a spine for %1 pages", smaller + usual);
 }
 
@@ -233,8 +242,8 @@ void PxSpineCheck::checkWidths() const
         if (own <= 0) {
             m_report
                 .add(PxTag::SpineWidthMissing, spine.rangeOf(width),
-                     spine.attribute(width) ? QString("a spine of the width %1").arg(own)
-                                            : "a spine without a width")
+                     spine.attribute(width) ? "a spine of the width %1" : "a spine without a width",
+                     own)
                 .now("the spine for %1 pages is %2 wide", it.key(),
                      m_product.description().spineWidth(it.key()));
             continue;

@@ -16,12 +16,16 @@ public:
     void run();
 
 private:
+    using Spines = QMap<int, const PxSourceElement *>;
+
     void readTable();
     void readPageCount(const PxSourceElement &spine);
     void addTwice(const PxSourceElement &spine, int pageCount) const;
     void checkPresence() const;
     void checkLength() const;
     void checkSteps() const;
+    void addIrregularStep(Spines::const_iterator spine, int usual) const;
+    QString nowOfSteps() const;
     QString nowWithoutSpine(int smaller, int larger) const;
     void checkLastStep(int usual) const;
     int usualStep() const;
@@ -37,6 +41,6 @@ private:
     const PxSourceElement *m_table; // null when there is none
     int m_rowCount = 0;
     /** The rows that count, by page count. */
-    QMap<int, const PxSourceElement *> m_spines;
+    Spines m_spines;
     bool m_isComplete = true; // the page count of every row is known and its own
 };

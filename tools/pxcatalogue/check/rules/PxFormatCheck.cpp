@@ -126,36 +126,41 @@ void PxFormatCheck::addUnknownAttribute(const Place &place,
     if (!asText.isEmpty() && place.before && place.before->name == place.element.name &&
         !hintForText(*place.before, place.row).isEmpty())
         return;
-    const auto misspelt = [&] {
-        const QString meant = PxElementReading(place.element, place.row).meant(attribute.name);
-        const bool isSame = meant.compare(attribute.name, Qt::CaseInsensitive) == 0;
-        // The same letters are a better guess than another element, and that one than other
-        // letters.
-        return hasPrefix || !asText.isEmpty() ||
-                       (!isSame && !ownersOf(attribute.name, place).isEmpty())
-                   ? QString()
-                   : meant;
-    };
     m_report
         .add(PxTag::AttributeUnknown, attribute.nameRange, "\"%1\" is not read on \"%2\"",
              PxMessageText::shortened(attribute.name), PxMessageText::shortened(place.element.name))
         .now([&] {
-            const QString meant = misspelt();
+            const QString meant = meantBy(attribute, place);
             const PxAttributeRow *row = PxFormat::attribute(place.row, meant);
             return row ? QString("\"%1\" is missing: %2")
                              .arg(meant, PxMissingValue::text(place.element, *row))
                        : "it is passed over";
         })
-        .hint([&] {
-            const QStringList owners = ownersOf(attribute.name, place);
-            const QString meant = misspelt();
-            return hasPrefix           ? withoutPrefix(local)
-                   : !asText.isEmpty() ? asText
-                   : !meant.isEmpty()  ? PxSpelling::didYouMean(meant)
-                   : owners.isEmpty()
-                       ? QString()
-                       : QString("it is read on %1").arg(PxMessageText::quotedList(owners));
-        });
+        .hint([&] { return hasPrefix ? withoutPrefix(local) : hintFor(attribute, place); });
+}
+
+/** The attribute that is probably misspelt; empty if the name rather belongs elsewhere. */
+QString PxFormatCheck::meantBy(const PxSourceAttribute &unknown, const Place &place) const
+{
+    if (unknown.name.contains(QLatin1Char(':')) || !hintForText(place.element, place.row).isEmpty())
+        return QString();
+    const QString meant = PxElementReading(place.element, place.row).meant(unknown.name);
+    // The same letters are a better guess than another element, and that one than other letters.
+    const bool isSame = meant.compare(unknown.name, Qt::CaseInsensitive) == 0;
+    return isSame || ownersOf(unknown.name, place).isEmpty() ? meant : QString();
+}
+
+QString PxFormatCheck::hintFor(const PxSourceAttribute &unknown, const Place &place) const
+{
+    const QString asText = hintForText(place.element, place.row);
+    if (!asText.isEmpty())
+        return asText;
+    const QString meant = meantBy(unknown, place);
+    if (!meant.isEmpty())
+        return PxSpelling::didYouMean(meant);
+    const QStringList owners = ownersOf(unknown.name, place);
+    return owners.isEmpty() ? QString()
+                            : QString("it is read on %1").arg(PxMessageText::quotedList(owners));
 }
 
 void PxFormatCheck::checkText(const Place &place) const
@@ -268,14 +273,11 @@ void PxFormatCheck::addMisplaced(const Place &place, int index, const PxElementR
     const char *what = count == 1 ? "it" : "them";
     m_report
         .add(PxTag::ElementMisplaced, child.nameRange,
-             count == 1 ? QString("\"%1\" directly below \"%2\" is not read")
-                              .arg(child.name, place.element.name)
-                        : QString("%1 \"%2\" directly below \"%3\" are not read")
-                              .arg(count)
-                              .arg(child.name, place.element.name))
+             count == 1 ? "\"%1\" directly below \"%2\" is not read"
+                        : "%3 \"%1\" directly below \"%2\" are not read",
+             child.name, place.element.name, count)
         .now(now)
-        .hint(QString(&owner == place.parent ? "move %1 out, into %2" : "put %1 into %2")
-                  .arg(what, into));
+        .hint(&owner == place.parent ? "move %1 out, into %2" : "put %1 into %2", what, into);
 }
 
 /** The nearest element that an element of this name belongs into; null if there is none. */

@@ -40,6 +40,8 @@ private:
     void addMisplaced(const Place &place, int index, const PxElementRow &owner,
                       const QString &now) const;
 
+    QString meantBy(const PxSourceAttribute &unknown, const Place &place) const;
+    QString hintFor(const PxSourceAttribute &unknown, const Place &place) const;
     // Where an author may have meant to put a name that stands at a wrong place.
     const PxElementRow *parentOf(const QString &element, const Place &from) const;
     QStringList ownersOf(const QString &attribute, const Place &from) const;

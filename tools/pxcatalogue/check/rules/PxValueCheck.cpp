@@ -75,13 +75,13 @@ void PxValueCheck::checkInteger() const
     if (PxElementReading::isReadable(m_element, m_attribute, m_row))
         return;
     const QString value = m_attribute.value;
-    QString message = QString("\"%1\" is no whole number").arg(PxMessageText::shortened(value));
-    if (value.trimmed().isEmpty())
-        message = QString("\"%1\" is empty").arg(m_attribute.name);
-    else if (isTooLarge(value))
-        message = QString("%1 is beyond the numbers of 32 bits")
-                      .arg(PxMessageText::shortened(value.trimmed()));
-    m_report.add(PxTag::IntegerMalformed, m_attribute.valueRange, message)
+    const bool isNumber = isTooLarge(value);
+    m_report
+        .add(PxTag::IntegerMalformed, m_attribute.valueRange,
+             value.trimmed().isEmpty() ? "\"%1\" is empty"
+             : isNumber                ? "%2 is beyond the numbers of 32 bits"
+                                       : "\"%2\" is no whole number",
+             m_attribute.name, PxMessageText::shortened(isNumber ? value.trimmed() : value))
         .now([this] { return PxMissingValue::text(m_element, m_row); })
         .hint([this] { return integerHint(m_row, m_attribute); });
 }
@@ -94,9 +94,8 @@ void PxValueCheck::checkBoolean() const
     const QString meant = PxSpelling::hint(value, {"true", "false"});
     m_report
         .add(PxTag::BooleanMalformed, m_attribute.valueRange,
-             value.trimmed().isEmpty()
-                 ? QString("\"%1\" is empty").arg(m_attribute.name)
-                 : QString("\"%1\" is neither true nor false").arg(PxMessageText::shortened(value)))
+             value.trimmed().isEmpty() ? "\"%1\" is empty" : "\"%2\" is neither true nor false",
+             m_attribute.name, PxMessageText::shortened(value))
         .now([this] { return PxMissingValue::text(m_element, m_row); })
         .hint(meant.isEmpty() ? "write \"true\" or \"false\"" : meant);
 }

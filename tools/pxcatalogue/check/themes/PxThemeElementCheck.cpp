@@ -26,9 +26,12 @@ QString expiryHint(const QString &text)
                            : PxSpelling::didYouMean(meant);
 }
 
+constexpr const char *allowedForAll = "the theme is allowed for every product";
+
 /** For a name that is no known one. */
-QString productHint(const QString &name, PxListedProductTypes &types)
+QString productHint(const PxSourceElement &product, PxListedProductTypes &types)
 {
+    const QString name = product.dom.text();
     return name.contains(QLatin1Char(',')) ? "write a \"product\" element for each"
                                            : types.hint(name);
 }
@@ -130,30 +133,34 @@ void PxThemeElementCheck::checkProducts() const
         else
             unknown.append(product);
     }
-    const auto textOf = [](const PxSourceElement &product) {
-        return PxElementReading(product, PxFileKind::Theme).missingText();
-    };
-    if (!unknown.isEmpty() && !isAnyKnown) {
-        constexpr PxTag tag = PxTag::ThemeProductsAllUnknown;
-        const PxMissingPart text = textOf(*unknown.constFirst());
-        m_report
-            .add(tag, text.hint.isEmpty() ? products->nameRange : text.range,
-                 unknown.size() == 1
-                     ? QString("%1, and no other is there").arg(unknownText(*unknown.constFirst()))
-                     : QString("none of %1 names is a known product name").arg(unknown.size()))
-            .now("the theme is allowed for every product")
-            .hint([&] {
-                return text.hintOr(productHint(unknown.constFirst()->dom.text(), m_types));
-            });
-        return;
-    }
+    if (isAnyKnown)
+        addUnknownProducts(unknown);
+    else
+        addOnlyUnknownProducts(*products, unknown);
+}
+
+void PxThemeElementCheck::addUnknownProducts(const QVector<const PxSourceElement *> &unknown) const
+{
     for (const PxSourceElement *product : unknown) {
-        constexpr PxTag tag = PxTag::ThemeProductUnknown;
-        const PxMissingPart text = textOf(*product);
-        m_report.add(tag, text.range, unknownText(*product)).now("it is left out").hint([&] {
-            return text.hintOr(productHint(product->dom.text(), m_types));
-        });
+        const PxMissingPart text = PxElementReading(*product, PxFileKind::Theme).missingText();
+        m_report.add(PxTag::ThemeProductUnknown, text.range, unknownText(*product))
+            .now("it is left out")
+            .hint([&] { return text.hintOr(productHint(*product, m_types)); });
     }
+}
+
+void PxThemeElementCheck::addOnlyUnknownProducts(
+    const PxSourceElement &products, const QVector<const PxSourceElement *> &unknown) const
+{
+    const PxSourceElement &first = *unknown.constFirst();
+    const PxMissingPart text = PxElementReading(first, PxFileKind::Theme).missingText();
+    m_report
+        .add(PxTag::ThemeProductsAllUnknown, text.hint.isEmpty() ? products.nameRange : text.range,
+             unknown.size() == 1 ? "%1, and no other is there"
+                                 : "none of %2 names is a known product name",
+             unknownText(first), unknown.size())
+        .now(allowedForAll)
+        .hint([&] { return text.hintOr(productHint(first, m_types)); });
 }
 
 /** Names of products that are not where they are read. */
@@ -168,7 +175,7 @@ void PxThemeElementCheck::checkMissingProducts(const PxSourceElement *products) 
         .add(PxTag::ThemeProductsAllUnknown, missing.range,
              products ? "no \"product\" in the \"products\" of the theme"
                       : "the theme has no \"products\"")
-        .now("the theme is allowed for every product")
+        .now(allowedForAll)
         .hint(missing.hint);
 }
 

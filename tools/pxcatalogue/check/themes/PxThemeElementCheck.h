@@ -21,6 +21,9 @@ private:
     void checkExpiry() const;
     void checkKeyAccounts() const;
     void checkProducts() const;
+    void addUnknownProducts(const QVector<const PxSourceElement *> &unknown) const;
+    void addOnlyUnknownProducts(const PxSourceElement &products,
+                                const QVector<const PxSourceElement *> &unknown) const;
     void checkMissingProducts(const PxSourceElement *products) const;
     void checkLogoProduct(const PxSourceElement &logo) const;
     void checkLogoPlace(const PxSourceElement &logo) const;

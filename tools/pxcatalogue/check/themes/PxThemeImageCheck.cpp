@@ -105,14 +105,12 @@ void PxThemeImageCheck::checkImage(const Image &image)
     const QString lowered = written.toLower();
     const bool isLowered = written != lowered && !result.isThere;
     m_report
-        .add(
-            isLowered         ? PxTag::ThemeImagePathLowered
-            : result.isCutOff ? PxTag::ThemeImageCutOff
-                              : PxTag::ThemeImageMissing,
-            image.attribute->valueRange,
-            isLowered
-                ? QString("\"%1\" is looked up as \"%2\", which is not there").arg(written, lowered)
-                : QString("\"%1\" %2").arg(lowered, result.fault))
+        .add(isLowered         ? PxTag::ThemeImagePathLowered
+             : result.isCutOff ? PxTag::ThemeImageCutOff
+                               : PxTag::ThemeImageMissing,
+             image.attribute->valueRange,
+             isLowered ? "\"%1\" is looked up as \"%2\", which is not there" : "\"%2\" %3", written,
+             lowered, result.fault)
         .now(result.image.isNull() ? image.now : partNow)
         .hint([&] { return hint(image); });
 }
