@@ -9,7 +9,7 @@ bool isAscii(const QString &text)
     return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 128; });
 }
 
-using Is = PxRuleTest;
+using Is = PxRule::Test;
 
 // clang-format off
 constexpr PxRule rules[] = {

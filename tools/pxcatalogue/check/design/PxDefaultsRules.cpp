@@ -15,7 +15,7 @@ bool isList(const QString &text)
 constexpr const char *pageTypeNow = "no page finds these templates";
 constexpr const char *pageTypeHint = "name the types of pages, as pageType=\"normalpage\"";
 
-using Is = PxRuleTest;
+using Is = PxRule::Test;
 
 // clang-format off
 constexpr PxRule rules[] = {

@@ -6,7 +6,7 @@ constexpr const char *negativeMargin = "\"%2\" is %1";
 constexpr const char *negativeMarginNow = "the negative length is used as it is";
 constexpr const char *negativeIndentNow = "the page number is printed beyond the edge";
 
-using Is = PxRuleTest;
+using Is = PxRule::Test;
 
 // clang-format off
 constexpr PxRule rules[] = {

@@ -35,6 +35,7 @@ public:
         , m_row(row)
     {}
 
+    const PxSourceElement &element() const { return m_element; }
     /** There are no unknown attributes, which might be misspelt ones. */
     bool hasOnlyKnown() const;
     bool isGiven(const char *attribute) const { return m_element.attribute(attribute); }

@@ -17,7 +17,7 @@ QVector<const PxSourceElement *> childrenRead(const PxSourceElement &parent,
 
 PxMissingPart partOf(const PxRule &rule, const PxElementReading &reading)
 {
-    if (rule.test.kind == PxRuleTest::Kind::HasChild)
+    if (rule.test.kind == PxRule::Test::Kind::HasChild)
         return reading.missingChild(rule.name);
     return rule.name ? reading.missing(rule.name) : reading.missingText();
 }
@@ -66,37 +66,41 @@ void PxRuleCheck::checkElement(const PxSourceElement &element, const PxElementRo
         if (rule->needs && element.value(rule->needs).isEmpty())
             continue;
         Value value{rule->name ? element.value(rule->name) : element.dom.text().trimmed()};
-        hasFailed = !holds(*rule, element, reading, &value);
+        hasFailed = !holds(*rule, reading, &value);
         if (hasFailed)
-            add(*rule, element, reading, value);
+            add(*rule, reading, value);
     }
 }
 
-/** Makes the value what the texts of a finding name. */
-bool PxRuleCheck::holds(const PxRule &rule, const PxSourceElement &element,
-                        const PxElementReading &reading, Value *value)
+/** Sets the value to what the texts of a finding quote. */
+bool PxRuleCheck::holds(const PxRule &rule, const PxElementReading &reading, Value *value)
 {
-    const PxRuleTest &test = rule.test;
+    using Kind = PxRule::Test::Kind;
     const bool isGiven = !rule.name || reading.isGiven(rule.name);
-    switch (test.kind) {
-    case PxRuleTest::Kind::Given:
+    switch (rule.test.kind) {
+    case Kind::Given:
         return isGiven;
-    case PxRuleTest::Kind::HasChild:
-        return element.firstChild(rule.name);
-    case PxRuleTest::Kind::NotEmpty:
+    case Kind::HasChild:
+        return reading.element().firstChild(rule.name);
+    case Kind::NotEmpty:
         return !value->text.isEmpty();
-    case PxRuleTest::Kind::NotBlank:
+    case Kind::NotBlank:
         return !value->text.trimmed().isEmpty();
-    case PxRuleTest::Kind::AtLeast:
+    case Kind::AtLeast:
         value->text = QString::number(reading.number(rule.name));
-        return !reading.isNumber(rule.name) || reading.number(rule.name) >= test.least;
-    case PxRuleTest::Kind::Matching:
-        return !isGiven || test.matches(value->text);
-    case PxRuleTest::Kind::Unique:
-        break;
+        return !reading.isNumber(rule.name) || reading.number(rule.name) >= rule.test.least;
+    case Kind::Matching:
+        return !isGiven || rule.test.matches(value->text);
+    case Kind::Unique:
+        return isFirst(rule, reading.element(), value);
     }
-    if (test.key)
-        value->text = test.key(value->text);
+    return true;
+}
+
+bool PxRuleCheck::isFirst(const PxRule &rule, const PxSourceElement &element, Value *value)
+{
+    if (rule.test.key)
+        value->text = rule.test.key(value->text);
     if (value->text.isEmpty())
         return true;
     const PxSourceElement *&known = m_known[{&rule, value->text}];
@@ -105,11 +109,10 @@ bool PxRuleCheck::holds(const PxRule &rule, const PxSourceElement &element,
     return !value->sameBefore;
 }
 
-void PxRuleCheck::add(const PxRule &rule, const PxSourceElement &element,
-                      const PxElementReading &reading, const Value &value) const
+void PxRuleCheck::add(const PxRule &rule, const PxElementReading &reading, const Value &value) const
 {
     const PxMissingPart part = partOf(rule, reading);
-    const QString needed = rule.needs ? element.value(rule.needs) : QString();
+    const QString needed = rule.needs ? reading.element().value(rule.needs) : QString();
     PxAddedFinding finding =
         value.sameBefore ? m_report.add(rule.tag, part.range, rule.message, value.text, rule.name,
                                         m_report.place(value.sameBefore->nameRange))

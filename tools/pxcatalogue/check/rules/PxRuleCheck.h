@@ -32,10 +32,9 @@ private:
     void checkPath(const PxRule *begin, const PxRule *end);
     void checkElement(const PxSourceElement &element, const PxElementRow &row, const PxRule *begin,
                       const PxRule *end);
-    bool holds(const PxRule &rule, const PxSourceElement &element, const PxElementReading &reading,
-               Value *value);
-    void add(const PxRule &rule, const PxSourceElement &element, const PxElementReading &reading,
-             const Value &value) const;
+    bool holds(const PxRule &rule, const PxElementReading &reading, Value *value);
+    bool isFirst(const PxRule &rule, const PxSourceElement &element, Value *value);
+    void add(const PxRule &rule, const PxElementReading &reading, const Value &value) const;
 
     const PxSourceElement &m_start;
     const PxElementRow &m_startRow;

@@ -70,7 +70,7 @@ constexpr const char *firstKeyAccount = "it counts as key account 0";
 constexpr const char *noProduct = "the logo belongs to no product";
 constexpr const char *noImage = "the logo has no image";
 
-using Is = PxRuleTest;
+using Is = PxRule::Test;
 
 // clang-format off
 constexpr PxRule rules[] = {
