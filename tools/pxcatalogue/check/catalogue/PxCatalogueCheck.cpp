@@ -9,7 +9,7 @@
 
 namespace {
 
-/** Whether a length is far off in a sorted list that it is itself part of: in another unit. */
+/** Whether a length is probably in another unit than the others of the sorted list it is in. */
 bool isFarOff(const QVector<qint64> &lengths, qint64 length, int factor)
 {
     constexpr int minimumOthers = 8; // fewer do not show what is usual
@@ -27,8 +27,7 @@ bool isFarOff(const QVector<qint64> &lengths, qint64 length, int factor)
             (isNearlyAll(smaller(factor)) && 2 * smaller(medianFactor) >= others));
 }
 
-/** How many times a length may differ from nearly all others: gifts are anything, from pin to bag.
- */
+/** How many times a length may differ from nearly all others: gifts are of any size. */
 int usualFactor(const PxProductType &type)
 {
     return type.isGift() || type.isDeko() ? 10 : 4;
@@ -62,12 +61,12 @@ void PxCatalogueCheck::run()
     const bool isEveryNameOnce = checkNames();
     checkPredecessors();
     checkSizes();
-    // A product whose file cannot be read, or has the name of another, is a finding already.
+    // A file that cannot be read, or has the name of another, has been reported.
     if (isEveryNameOnce && isComplete())
         checkTypesHaveFiles();
 }
 
-/** Answers whether no product has a second file. */
+/** Whether no product has a second file. */
 bool PxCatalogueCheck::checkNames() const
 {
     bool isEveryNameOnce = true;

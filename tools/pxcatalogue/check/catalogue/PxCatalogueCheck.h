@@ -31,7 +31,7 @@ public:
 private:
     struct Product
     {
-        PxProductType type; ///< invalid for an unknown name, which is a finding already
+        PxProductType type; ///< invalid for an unknown name, which has been reported
         bool isLegacy;
         PxPlace name;
         QString legacyName;
@@ -49,6 +49,6 @@ private:
     PxListedProductTypes &m_names;
     const PxReporter m_report;
     QVector<Product> m_products;
-    QSet<QString> m_files; ///< canonical paths of those that the library gets a product from
+    QSet<QString> m_files; ///< canonical paths of files with a known product
     QMap<PxProductType, PxPlace> m_types;
 };

@@ -63,7 +63,7 @@ bool isUnderstood(const PxCheckedFile &file, PxFileKind kind)
     }
 }
 
-/** User defaults have rules that start at their container. */
+/** None for user defaults: their rules are those of the default templates in products, too. */
 PxRows<PxRule> rulesOf(PxFileKind kind)
 {
     switch (kind) {
@@ -109,12 +109,12 @@ void PxCheck::run()
     checkStrays();
 }
 
-/** What every file is checked for, and then `checkFile`. Answers whether all could be read. */
+/** Checks what is the same for all files, then calls `checkFile`. Whether all could be read. */
 template <typename CheckFile>
 bool PxCheck::checkFiles(const QStringList &paths, PxFileKind kind, CheckFile checkFile)
 {
     if (paths.isEmpty())
-        return true; // without a thread that has nothing to read
+        return true; // and start no thread for nothing
     using Checked = PxAllowanceComments::Checked;
     bool isEveryRead = true;
     PxReadAhead files(paths);
@@ -126,22 +126,22 @@ bool PxCheck::checkFiles(const QStringList &paths, PxFileKind kind, CheckFile ch
         PxAllowanceComments(file, m_findings)
             .find(isUnderstood(file, kind) ? Checked::Everything : Checked::Little);
         isEveryRead = isEveryRead && file.isRead();
-        if (!file.isRead())
+        const PxSourceElement *root = file.root();
+        if (!root)
             continue;
-        if (!PxFormatCheck::isOfKind(*file.root(), kind)) {
-            addWrongRoot(kind, report);
+        if (!PxFormatCheck::isOfKind(*root, kind)) {
+            addWrongRoot(*root, kind, report);
             continue;
         }
-        PxFormatCheck(kind, report).run();
-        PxRuleCheck(*file.root(), PxFormat::root(kind), rulesOf(kind), report).run();
+        PxFormatCheck(*root, kind, report).run();
+        PxRuleCheck(*root, PxFormat::root(kind), rulesOf(kind), report).run();
         checkFile(file);
     }
     return isEveryRead;
 }
 
-void PxCheck::addWrongRoot(PxFileKind kind, const PxReporter &report)
+void PxCheck::addWrongRoot(const PxSourceElement &root, PxFileKind kind, const PxReporter &report)
 {
-    const PxSourceElement &root = *report.file().root();
     if (kind == PxFileKind::Product) {
         report
             .add(PxTag::ProductElementMissing, root.nameRange,

@@ -22,7 +22,8 @@ public:
 private:
     template <typename CheckFile>
     bool checkFiles(const QStringList &paths, PxFileKind kind, CheckFile checkFile);
-    static void addWrongRoot(PxFileKind kind, const PxReporter &report);
+    static void addWrongRoot(const PxSourceElement &root, PxFileKind kind,
+                             const PxReporter &report);
     void checkThemes();
     void checkProductTypes(const PxCheckedFile &file);
     void checkProduct(const PxCheckedFile &file, bool isLegacy);
@@ -33,9 +34,9 @@ private:
     const PxCheckPaths m_paths;
     PxFindings &m_findings;
     int m_fileCount = 0;
-    // What files are compared with, and how much may be guessed about it in one run.
+    // What files are compared with. Some count the guesses that they have made in this run.
     PxListedProductTypes m_types;
-    PxKnownNames m_themeIds;      // none if they are not known
+    PxKnownNames m_themeIds;      // empty if not all are known
     QSet<QString> m_productNames; // of the products checked so far
     PxImageNames m_images{PxImageNames::Kind::Any};
     PxImageNames m_themeImages{PxImageNames::Kind::Lower};

@@ -7,8 +7,8 @@
 /** The files to check, as they are shown; each list is sorted. */
 struct PxCheckPaths
 {
-    QString productTypes; ///< empty when it is not checked, and so below
-    QString frames;
+    QString productTypes; ///< empty if it is not checked
+    QString frames;       ///< the same
     QStringList products;
     QStringList legacyProducts;
     QStringList themes;
@@ -17,8 +17,8 @@ struct PxCheckPaths
     QStringList knownThemes;
     /** Files in these directories that are not read. */
     QStringList strays;
-    /** Directories with files that no path leads to, and how many. */
+    /** How many files of a directory cannot be opened, as their names cannot be decoded. */
     QMap<QString, int> undecodableNames;
-    /** The whole catalogue, so that one file can be held against the others. */
+    /** Whether these are all files of a catalogue, which are compared with each other then. */
     bool isCatalogue = false;
 };

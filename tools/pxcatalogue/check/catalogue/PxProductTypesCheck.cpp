@@ -26,7 +26,7 @@ void PxProductTypesCheck::run()
     checkMisspelt(root);
 }
 
-/** What is nearly called a row is meant for one. */
+/** Reports elements whose name is nearly that of a row. */
 void PxProductTypesCheck::checkMisspelt(const PxSourceElement &root) const
 {
     constexpr const char *row = "producttype";
@@ -47,7 +47,7 @@ void PxProductTypesCheck::checkRow(const PxSourceElement &row)
     const QString name = row.value("name").trimmed();
     const QString key = name.toCaseFolded();
     if (!readingOf(row).isReadable("code"))
-        return; // the row is left out for it, which is reported where values are checked
+        return; // the row is left out, which the check of the value reports
     if (code < 1) {
         drop(row, "code",
              codeText.isEmpty() ? "the product type has no \"code\"" : "\"%1\" is no code above 0",

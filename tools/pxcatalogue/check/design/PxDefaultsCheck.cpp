@@ -45,7 +45,7 @@ void PxDefaultsCheck::run()
     }
 }
 
-/** One finding for all: whoever knows the container puts every entry into it. */
+/** One finding for all entries outside the container: its author does not know the container. */
 void PxDefaultsCheck::checkNesting(const QVector<const PxSourceElement *> &containers) const
 {
     const PxSourceElement &first = *containers.constFirst();
@@ -71,7 +71,7 @@ void PxDefaultsCheck::checkThemes(const PxDefaultsEntry &entry) const
         PxSourceParts::ofAttribute(m_report.file(), entry.element().attribute("theme"));
     for (const PxSourcePart &part : list.parts) {
         const QString id = part.text.trimmed();
-        // Other themes fall back to this one, whether it is there or not.
+        // Other themes fall back to "normal", even if there is no such theme.
         if (id.isEmpty() || id == QLatin1String("normal") || m_themeIds.contains(id))
             continue;
         m_report.add(PxTag::DefaultsThemeUnknown, part.range, "there is no theme \"%1\"", id)
@@ -102,7 +102,7 @@ void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry) const
     }
 }
 
-/** Only where a name is lost: giving one twice does no harm. */
+/** Reports a name that is lost; giving one twice does no harm. */
 void PxDefaultsCheck::checkTemplates(const PxDefaultsEntry &entry) const
 {
     QVector<PxSourcePart> names =

@@ -9,7 +9,7 @@
 class PxDefaultsCheck
 {
 public:
-    /** `parent` holds the container. The ids of all themes; none when they are not known. */
+    /** `parent` holds the container. The ids are those of all themes; empty if unknown. */
     PxDefaultsCheck(const PxSourceElement &parent, PxKnownNames &themeIds, const PxReporter &report)
         : m_parent(parent)
         , m_themeIds(themeIds)

@@ -19,7 +19,7 @@ const PxElementRow &entryRow()
     return ourRow;
 }
 
-/** As the library takes it: the default where the attribute is missing. */
+/** The value, or the default if the attribute is missing. */
 QString listOf(const PxSourceElement &entry, const char *attribute)
 {
     return entry.dom.attribute(
@@ -55,7 +55,7 @@ PxDefaultsEntry::PxDefaultsEntry(const PxSourceElement &element)
 
 PxDefaultsEntry::Templates PxDefaultsEntry::templates() const
 {
-    // For a page that the library is sure to find.
+    // With a theme and a page that the library finds in any case.
     QDomDocument document;
     QDomElement parent = document.createElement("defaults");
     QDomElement entry = document.importNode(m_element->dom, false).toElement();

@@ -18,15 +18,15 @@ public:
     explicit PxDefaultsEntry(const PxSourceElement &element);
 
     const PxSourceElement &element() const { return *m_element; }
-    /** All its words can be read, so that it is for the pages that it names. */
+    /** Whether all its words can be read. If not, nobody knows which pages are meant. */
     bool isPlain() const { return m_isPlain; }
     /** Each once; of a very long list the first. */
     QStringList themes() const { return m_themes; }
-    /** Each once, without those that are none. */
+    /** Each once, without unknown ones. */
     QVector<PxPageTypeEnum> pageTypes() const { return m_pageTypes; }
     /** Bits of PxPageAlignment. */
     int alignments() const { return m_alignments; }
-    /** The library is asked each time: only few entries need it. */
+    /** Asks the library each time: only few entries need it. */
     Templates templates() const;
 
     /** Whether the element has an attribute that only entries have. */

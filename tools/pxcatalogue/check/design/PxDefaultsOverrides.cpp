@@ -36,7 +36,7 @@ void PxDefaultsOverrides::add(const PxDefaultsEntry &entry)
     }
 }
 
-/** Asked of the library once, and only where entries meet. */
+/** Asks the library once per entry. */
 PxDefaultsOverrides::Templates PxDefaultsOverrides::templatesOf(int entry)
 {
     if (!m_templates.contains(entry))

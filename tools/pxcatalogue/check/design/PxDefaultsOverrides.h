@@ -9,14 +9,14 @@
 
 #include <tuple>
 
-/** Finds entries of the default templates that take away what an earlier one says. */
+/** Finds entries of the default templates that replace earlier ones. */
 class PxDefaultsOverrides
 {
 public:
     /** The file must outlive the object. */
     PxDefaultsOverrides(const PxReporter &report) : m_report(report) {}
 
-    /** Holds an entry against those that were added before it. */
+    /** Compares an entry with those added before it. */
     void add(const PxDefaultsEntry &entry);
 
 private:

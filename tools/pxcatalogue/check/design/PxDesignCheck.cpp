@@ -78,7 +78,7 @@ bool PxDesignCheck::isNamed(const QString &identifier) const
 
 void PxDesignCheck::checkBackgroundCategories() const
 {
-    QMap<QString, QString> known; // as first written, by the name without its case
+    QMap<QString, QString> known; // the first spelling, by the name without its case
     const PxSourceList list = PxSourceParts::ofAttribute(
         m_product.file(), m_product.element().attribute("coverBackgroundCategories"));
     for (const PxSourcePart &part : list.parts) {

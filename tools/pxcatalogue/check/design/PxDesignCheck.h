@@ -3,7 +3,7 @@
 #include "check/findings/PxReporter.h"
 #include "check/source/PxCheckedProduct.h"
 
-/** Checks the variants of a product, and by what it is sorted: background categories, material. */
+/** Checks the variants of a product, its background categories, size names and material. */
 class PxDesignCheck
 {
 public:

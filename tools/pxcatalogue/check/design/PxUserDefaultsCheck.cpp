@@ -39,17 +39,17 @@ void PxUserDefaultsCheck::checkName() const
         message = QString("\"%1\" is no product").arg(name);
         hint = isSuffix ? PxSpelling::hint(name, names) : "files that are read end in \".xml\"";
     } else {
-        return; // a product whose file is broken, or not among the files that are checked
+        return; // its file is broken, or is not checked
     }
     m_report.add(PxTag::UserDefaultsWithoutProduct, PxSourceRange{0, 0}, message)
         .now("the library does not look for this file")
         .hint(hint);
 }
 
-/** Whether the library gets to the entries: what stands above the first element may hide them. */
+/** Whether the library finds the entries: nothing may stand above the first element. */
 bool PxUserDefaultsCheck::checkStart() const
 {
-    // As the library does: the first node is meant to be the element that holds the container.
+    // The library takes the first node for the element that holds the container.
     const QDomNode first = m_report.file().document().firstChild();
     if (first.isElement())
         return true;

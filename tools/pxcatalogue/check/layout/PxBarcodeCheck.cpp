@@ -46,7 +46,7 @@ void PxBarcodeCheck::run()
     }
 }
 
-/** Whether there is a rectangle, and no doubt about it. */
+/** Whether there is a rectangle that can be read. */
 bool PxBarcodeCheck::checkRect(int index) const
 {
     const PxSourceElement &element = *m_elements[index];
@@ -60,7 +60,7 @@ bool PxBarcodeCheck::checkRect(int index) const
     return false;
 }
 
-/** Where the barcode is, with any page count. */
+/** The pages that the barcode is on, with each page count. */
 QVector<PxBarcodeCheck::Place> PxBarcodeCheck::places(int index) const
 {
     QVector<Place> places;
@@ -75,7 +75,7 @@ QVector<PxBarcodeCheck::Place> PxBarcodeCheck::places(int index) const
     return places;
 }
 
-/** The barcode that is before this one on all its pages; -1 when there is none such. */
+/** An earlier barcode that the library uses on all pages of this one; -1 if there is none. */
 int PxBarcodeCheck::shadowOf(int index, const QVector<Place> &places) const
 {
     for (int i = 0; i < index; ++i) {
@@ -87,7 +87,7 @@ int PxBarcodeCheck::shadowOf(int index, const QVector<Place> &places) const
     return -1;
 }
 
-/** Whether it is the barcode of some page, as far as can be told. */
+/** Whether some page may use the barcode. */
 bool PxBarcodeCheck::checkReach(int index, const QVector<Place> &places) const
 {
     constexpr PxTag tag = PxTag::BarcodeUnreachable;

@@ -17,7 +17,7 @@ public:
     void run();
 
 private:
-    /** A page of a product with so many normal pages, and pages in all. */
+    /** A page of the product with one of its page counts. */
     struct Place
     {
         int page;

@@ -15,7 +15,7 @@
 
 namespace {
 
-/** What counts instead of a list without a number. */
+/** What a list without a number means. */
 QString absence(const PxSourceElement &list)
 {
     const QString path = list.name == QLatin1String("target_pages")
@@ -31,7 +31,7 @@ bool isNumber(QStringView text)
     return isOne;
 }
 
-/** Without a list of them, which may take much memory. */
+/** Makes no list, which might take much memory. */
 int countNumbers(const QString &list)
 {
     int count = 0;
@@ -39,7 +39,7 @@ int countNumbers(const QString &list)
     return count;
 }
 
-/** For numbers with another separator than the comma. */
+/** A hint for numbers with another separator than the comma. */
 QString separatorHint(const QString &part)
 {
     const QStringList words = PxSpelling::words(part);
@@ -79,7 +79,7 @@ bool PxNumberListCheck::checkParts(const PxSourceElement &list) const
     bool isSound = true;
     for (int i = 0; i < parts.size(); ++i) {
         const QString text = parts[i].text.trimmed();
-        // Nothing is lost with an empty part at the end, and an empty text is the default.
+        // An empty part at the end loses nothing, and an empty text is the default.
         if (!pxIntList(parts[i].text).isEmpty() || (text.isEmpty() && i == source.count - 1))
             continue;
         isSound = false;
@@ -93,7 +93,7 @@ bool PxNumberListCheck::checkParts(const PxSourceElement &list) const
     return isSound;
 }
 
-/** The numbers that go on from the last one may meet those that the list has given already. */
+/** Behind the list, numbers go on from its last one and may meet earlier ones. */
 void PxNumberListCheck::checkNumbering(const PxSourceElement &list) const
 {
     const PxSourceList source = PxSourceParts::ofText(m_product.file(), list);
@@ -124,7 +124,7 @@ void PxNumberListCheck::checkExtraPage(const PxSourceElement &item) const
     const auto *pdf = item.firstChild("pdf");
     const PxProductionExtraPageGroup group(item.dom);
     const bool hasTarget = !group.targetPages().isEmpty();
-    // A list of which nothing is left has lost more than its parts.
+    // If no number is left, what follows is reported, not the parts.
     if (hasTarget && !checkParts(*pages))
         return;
     const auto add = [&](const PxMissingPart &missing, const char *message, const char *name = "") {

@@ -60,7 +60,7 @@ PxSourceRange PxPlacedImage::placeOfFault() const
     return side ? m_element.rangeOf(side) : m_element.nameRange;
 }
 
-/** The first one that is missing or not above 0; null when both are well. */
+/** The first side that is missing or not above 0; null if there is none. */
 const char *PxPlacedImage::sideWithFault() const
 {
     for (const char *name : {"width", "height"}) {

@@ -59,7 +59,7 @@ QVector<int> PxProductPages::pageCounts() const
     case PxProductClassBook:
         return pageCountsOfBook();
     case PxProductClassCalendar:
-        // The library answers this for products of its registry only, and not every file is there.
+        // The library answers this only for products of its registry, where a file may be missing.
         switch (m_product.description().binding().value()) {
         case PxBindingCalendarSimplex:
             return {12};
@@ -79,7 +79,7 @@ QVector<int> PxProductPages::pageCounts() const
     }
 }
 
-/** What the editor steps through, and what has a spine: rather one too many than one too few. */
+/** All counts that the editor offers or that have a spine; too many do less harm than too few. */
 QVector<int> PxProductPages::pageCountsOfBook() const
 {
     const PxProductTypeDescription &book = m_product.description();
@@ -99,8 +99,7 @@ QVector<int> PxProductPages::pageCountsOfBook() const
     return sorted;
 }
 
-/** As the library lists them; asked for each page count, that takes longer than all other checks.
- */
+/** The same list as that of the library, which takes too long for each page count. */
 QVector<PxPageTypeEnum> PxProductPages::pagesWith(int normalPageCount) const
 {
     QVector<PxPageTypeEnum> pages;

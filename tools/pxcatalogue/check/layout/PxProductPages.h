@@ -4,7 +4,7 @@
 
 #include <QVector>
 
-/** Which pages a product can have, with any page count that it is sold with. */
+/** The pages of a product with each page count that it is sold with. */
 class PxProductPages
 {
 public:
@@ -24,13 +24,13 @@ public:
     /** Both must outlive this. */
     PxProductPages(const PxCheckedProduct &product, const PxPageEntries &entries);
 
-    /** False where the file leaves doubt: then nothing shall be said that rests on the pages. */
+    /** False if the page list is ambiguous. Checks that depend on page numbers are skipped then. */
     bool isKnown() const { return !m_layouts.isEmpty(); }
     /** By page count, ascending. */
     const QVector<Layout> &layouts() const { return m_layouts; }
     /** The pages of all layouts, each once. */
     const QVector<Page> &pages() const { return m_pages; }
-    /** The types of all pages in one. */
+    /** The types of all pages together. */
     PxPageType pageTypes() const { return m_pageTypes; }
     /** The largest number that a page has. */
     int lastPage() const { return m_lastPage; }

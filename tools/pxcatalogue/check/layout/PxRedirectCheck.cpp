@@ -17,7 +17,7 @@ QString pagesText(int first, int last)
                          : QString("pages %1 to %2").arg(first).arg(last);
 }
 
-/** An unknown attribute that looks like none that is missing: nobody knows what it is meant for. */
+/** Whether an unknown attribute may be meant for a missing one, but looks like none. */
 bool isUnclear(const PxElementReading &reading)
 {
     const QStringList names = reading.missingOf({"from", "to"});

@@ -4,7 +4,7 @@
 #include "check/rules/PxElementReading.h"
 #include "check/source/PxCheckedProduct.h"
 
-/** Checks which pages lead to which: when the product is turned, when content is dropped. */
+/** Checks the redirects: of pages when the product is turned, of content that is dropped. */
 class PxRedirectCheck
 {
 public:

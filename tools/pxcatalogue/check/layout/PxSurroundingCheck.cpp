@@ -24,7 +24,7 @@ QVector<const PxSourceElement *> surroundingElements(const PxSourceElement &prod
     return elements.mid(0, PxCheckLimits::surroundings);
 }
 
-/** The same element with another type, which takes the settings that a frame ignores. */
+/** The same element with another type, which uses the settings that a frame ignores. */
 PxSurroundingDescription withoutFrame(const PxSourceElement &frame)
 {
     QDomElement copy = frame.dom.cloneNode(false).toElement();
@@ -59,8 +59,8 @@ void PxSurroundingCheck::run()
 }
 
 /**
- * Whether image and rectangle go together. Without both a surrounding may be there for its shade
- * alone, or to keep others from a page; and a frame is as large as its page at least.
+ * Reports an image without a rectangle, or the reverse. Without both, a surrounding may still give
+ * a shade or keep others from a page. A frame needs no rectangle: it is as large as its page.
  */
 void PxSurroundingCheck::checkImage(const Surrounding &surrounding) const
 {
@@ -95,7 +95,7 @@ void PxSurroundingCheck::checkFrame(const Surrounding &frame) const
         bool isIgnored;
     } settings[] = {
         {"pageType", meant.pageTypes() != frame.description.pageTypes()},
-        // "fullpage" is added in silence, too, but that takes nothing away from what is written.
+        // The library also adds "fullpage", but that ignores nothing in the file.
         {"alignment",
          (meant.alignments() | PxPageAlignmentFullPage) != frame.description.alignments()},
         {"pageNr", meant.pageNr() != frame.description.pageNr()},
@@ -146,7 +146,7 @@ QVector<PxSurroundingKey> PxSurroundingCheck::keys() const
     QSet<PxPageTypeEnum> doublePages;
     QSet<QPair<int, int>> contexts;
     for (const PxProductPages::Page &page : m_pages.pages()) {
-        // Pages that no surrounding names are told apart by type and side alone.
+        // Pages that no surrounding names differ in type and side only.
         const QPair<int, int> context(page.type.value(), page.alignment);
         if (!pinned.contains(page.number) && contexts.contains(context))
             continue;

@@ -4,7 +4,7 @@
 #include "check/layout/PxProductPages.h"
 #include "check/words/PxImageNames.h"
 
-/** Checks the images round the pages: whether each is ever painted, and as its element says. */
+/** Checks the images round the pages: whether each is ever painted, and where its element says. */
 class PxSurroundingCheck
 {
 public:
@@ -21,7 +21,7 @@ private:
         PxSurroundingDescription description;
         bool isPlain;
     };
-    /** What becomes of a surrounding when all pages have been asked for theirs. */
+    /** Whether a surrounding is used by any page. */
     struct Use
     {
         bool isFitting = false;

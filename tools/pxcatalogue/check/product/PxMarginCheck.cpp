@@ -56,7 +56,7 @@ void PxMarginCheck::checkExceeding() const
     }
 }
 
-/** A cover whose size is not that of the page, but less. */
+/** Whether a cover is smaller than the page. */
 bool PxMarginCheck::hasSmallCover() const
 {
     const QSize cover = m_product.description().coverSize();
@@ -103,7 +103,7 @@ void PxMarginCheck::checkCoverWidth() const
         addAdjustment(extra, now);
 }
 
-/** What is not negative in the file has been made so for the sake of the spine. */
+/** The file makes the cover larger, but the library takes more from it for the spine. */
 void PxMarginCheck::addAdjustment(int extra, const QString &now) const
 {
     const qint64 taken =

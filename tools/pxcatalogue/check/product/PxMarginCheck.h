@@ -5,7 +5,7 @@
 
 #include <QSize>
 
-/** Checks what is added to the page and taken from it: margins, bleed, the size of covers. */
+/** Compares the page with what is taken from it, and with its cover. */
 class PxMarginCheck
 {
 public:
@@ -25,5 +25,5 @@ private:
     const PxCheckedProduct &m_product;
     const PxPageEntries &m_pages;
     const PxReporter m_report;
-    QSize m_size; // as the library takes it
+    QSize m_size; // as the library reads it
 };

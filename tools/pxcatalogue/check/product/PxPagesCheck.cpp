@@ -9,8 +9,7 @@
 
 namespace {
 
-/** The type of page that is meant. Where all normal pages are missing, those are as good a guess.
- */
+/** The page type that is meant. If the normal pages are missing, they are preferred. */
 QString meant(const QString &text, bool isRangeMissing)
 {
     QStringList names = PxFormat::keywordNames(PxKeywordSet::PageType);
@@ -44,7 +43,7 @@ QString hintFor(const QString &text, bool isRangeMissing)
 
 bool isCover(const PxPageEntry &entry)
 {
-    // The back of a calendar comes last, and stands without a front, too.
+    // The back of a calendar comes last, and there need not be a front.
     return entry.type.matches(PxPageTypeCover) && !entry.isUnion() &&
            !entry.type.hasValue(PxPageTypeSpine) &&
            !entry.type.hasValue(PxPageTypeCalendarCoverBack);
@@ -61,7 +60,7 @@ void PxPagesCheck::run()
     checkCount();
     for (const PxPageEntry &entry : m_pages.read())
         checkEntry(entry);
-    // A page that is left out moves all others.
+    // If a page is left out, all others have another position.
     if (!m_pages.isSound())
         return;
     if (checkCoverPosition())
@@ -71,7 +70,7 @@ void PxPagesCheck::run()
 
 void PxPagesCheck::checkPresence() const
 {
-    // One normal page is just what many a small product has.
+    // Many small products have just one normal page, the default.
     if (!hasSeveralPages())
         return;
     const PxMissingPart pages = PxElementReading(m_product.element()).missingChild("pages");
@@ -80,14 +79,14 @@ void PxPagesCheck::checkPresence() const
         .hint(pages.hint);
 }
 
-/** What becomes of a product that lists no page. */
+/** For a product that lists no page. */
 QString PxPagesCheck::nowWithoutPages() const
 {
     return QString("the product has %1 page, and no cover")
         .arg(m_product.description().pageTypes(1).size());
 }
 
-/** What becomes of a product when this entry is left out. */
+/** For a product without this entry. */
 QString PxPagesCheck::nowWithout(const PxPageEntry &entry) const
 {
     if (!m_pages.hasPage())
@@ -178,7 +177,7 @@ void PxPagesCheck::checkSpinePosition() const
                      "a spine that is not the second of the pages")
                 .now("page 1 is the one that lies in the middle")
                 .hint("begin with back cover, spine, front cover");
-        page += entry.isRange() ? 2 : 1; // two stand for many
+        page += entry.isRange() ? 2 : 1; // a left one and a right one
     }
 }
 

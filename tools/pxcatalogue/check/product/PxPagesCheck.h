@@ -22,7 +22,7 @@ private:
     bool hasSeveralPages() const;
     QString nowWithoutPages() const;
     QString nowWithout(const PxPageEntry &entry) const;
-    /** A book has no page count then. */
+    /** A book without pages that its page count could repeat. */
     bool isRangeMissing() const;
     void checkCount() const;
     void checkEntry(const PxPageEntry &entry) const;

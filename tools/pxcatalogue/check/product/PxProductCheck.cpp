@@ -6,7 +6,7 @@
 
 namespace {
 
-/** Whether it leads to another directory, or to a file that is hidden or cannot be typed. */
+/** Whether a file of this name lies in another directory, is hidden, or cannot be typed. */
 bool isUnsafeForFile(const QString &name)
 {
     return name.startsWith(QLatin1Char('.')) ||
@@ -35,7 +35,7 @@ void PxProductCheck::checkName() const
         return;
     if (isUnsafeForFile(name))
         checkNameOfFile();
-    // Without any product type there is one cause, and it is not in this file.
+    // If no product type is known at all, the cause is not in this file.
     else if (!m_product.type().isValid() && !m_types.isEmpty() && !m_types.isListed(name))
         m_report
             .add(PxTag::ProductNameUnknown, element.rangeOf(attribute),

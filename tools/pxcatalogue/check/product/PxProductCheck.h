@@ -4,7 +4,7 @@
 #include "check/source/PxCheckedProduct.h"
 #include "check/words/PxListedProductTypes.h"
 
-/** Checks the product as a whole: its name, its counts, its style of alignment. */
+/** Checks the name of the product, its page count and its style of alignment. */
 class PxProductCheck
 {
 public:

@@ -43,7 +43,7 @@ bool contradicts(PxOrientationEnum said, const QSize &size)
     }
 }
 
-/** How much larger the larger one of the two is. */
+/** The larger number divided by the smaller one. */
 double ratio(double a, double b)
 {
     return a > b ? a / b : b / a;
@@ -156,13 +156,13 @@ void PxSizeCheck::checkShadowing() const
         add(orientation);
     const PxSpaceMagnitude ownSpace(element.value(space));
     const PxSpaceMagnitude sizeSpace(m_usableSize->value(space));
-    // Every class at once is what an unknown word gives.
+    // An unknown word is read as every class at once.
     if (element.attribute(space) && !m_usableSize->value(space).isEmpty() &&
         !ownSpace.hasValue(PxSpaceMagnitudeAny) && ownSpace != sizeSpace)
         add(space);
 }
 
-/** Whether nothing was found: a wrong size has a wrong area, too. */
+/** Whether nothing was found. If something was, the area says nothing new. */
 bool PxSizeCheck::checkOrientation() const
 {
     const PxOrientation used = m_product.description().orientation();
@@ -199,7 +199,7 @@ void PxSizeCheck::checkSpace() const
                                            [&](const SizeClass &a, const SizeClass &b) {
                                                return ratio(a.area, area) < ratio(b.area, area);
                                            });
-    // The classes are rough, and some pages lie between two of them.
+    // Classes are rough, and some pages lie between two of them.
     if (ratio(named->area, area) <= roughness || ratio(nearest->area, area) > 1.25)
         return;
     const PxSourceElement &place =

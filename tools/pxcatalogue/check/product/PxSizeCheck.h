@@ -5,7 +5,7 @@
 
 #include <QSize>
 
-/** Checks the size of the page, and what is said about it beside: orientation and size class. */
+/** Checks the size of the page, and whether orientation and size class go with it. */
 class PxSizeCheck
 {
 public:
@@ -13,7 +13,7 @@ public:
     PxSizeCheck(const PxCheckedProduct &product, const PxReporter &report);
 
     void run();
-    /** Whether the page is a hundred times smaller or larger than its size class says. */
+    /** Whether the page is ten times smaller or larger, each way, than its size class says. */
     bool isInOtherUnit() const;
 
 private:
@@ -27,5 +27,5 @@ private:
     const PxCheckedProduct &m_product;
     const PxReporter m_report;
     const PxSourceElement *m_usableSize; // null when there is none
-    QSize m_size;                        // as the library takes it
+    QSize m_size;                        // as the library reads it
 };

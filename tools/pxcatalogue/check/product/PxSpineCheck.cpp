@@ -20,7 +20,7 @@ int widthOf(const PxSourceElement &spine)
     return PxXMLParser::intAttribute(spine.dom, width, 0);
 }
 
-/** A wrong name or number is told where it stands. */
+/** If not, the check of names and values reports it. */
 bool isWidthKnown(const PxSourceElement &spine)
 {
     const PxElementReading reading(spine);
@@ -44,7 +44,7 @@ void PxSpineCheck::run()
     checkSpinePage();
     checkWidths();
     checkTextHeights();
-    // Without one of its page counts little can be said about a table.
+    // If one page count is unclear, the steps of the table are, too.
     if (!m_product.type().isBook() || m_spines.isEmpty() || !m_isComplete)
         return;
     checkLength();
@@ -60,7 +60,7 @@ void PxSpineCheck::readTable()
         ++m_rowCount;
         readPageCount(*spine);
     }
-    // What has another name was meant for a row.
+    // A child of another name was meant for a row.
     m_isComplete = m_isComplete && m_rowCount == m_table->children.size();
 }
 
@@ -127,7 +127,7 @@ void PxSpineCheck::checkLength() const
             .hint("give three page counts or more");
 }
 
-/** The step that most page counts have; of two the one that the library takes. */
+/** The most frequent step; if two are equally frequent, the one that the library takes. */
 int PxSpineCheck::usualStep() const
 {
     QHash<int, int> frequencies;
@@ -155,9 +155,9 @@ void PxSpineCheck::checkSteps() const
     for (auto it = std::next(m_spines.begin()); it != std::prev(m_spines.end()); ++it) {
         const int smaller = std::prev(it).key();
         const int step = it.key() - smaller;
-        // The page count before was the wrong one, and this goes on behind it.
+        // The page count before this one was wrong, and has been reported.
         const bool isBackInStep = smaller != inStep && it.key() - inStep == 2LL * usual;
-        // A table may go on in other steps: that is one place, not many.
+        // A table that goes on in other steps is reported once.
         if (step != usual && step != before && !isBackInStep)
             addIrregularStep(it, usual);
         isRegular = isRegular && step == usual;
@@ -193,7 +193,7 @@ QString PxSpineCheck::nowOfSteps() const
         .arg(book.pageIncrement());
 }
 
-/** What becomes of the first page count that is offered between two of the table. */
+/** For the first page count that is offered between two rows of the table. */
 QString PxSpineCheck::nowWithoutSpine(int smaller, int larger) const
 {
     const PxProductTypeDescription &book = m_product.description();
@@ -205,7 +205,7 @@ QString PxSpineCheck::nowWithoutSpine(int smaller, int larger) const
                : QString();
 }
 
-/** A last step that is longer than the others leaves out page counts as any other does. */
+/** A last step that is too long leaves out page counts. */
 void PxSpineCheck::checkLastStep(int usual) const
 {
     const auto last = std::prev(m_spines.end());
@@ -263,7 +263,7 @@ void PxSpineCheck::checkWidths() const
 void PxSpineCheck::checkTextHeights() const
 {
     for (auto it = m_spines.begin(); it != m_spines.end(); ++it) {
-        // What the library has added to the width may take type, too.
+        // The width of the library includes what it adds, where type may stand, too.
         const int spineWidth = m_product.description().spineWidth(it.key());
         const int height = m_product.description().spineMaxFontHeight(it.key());
         if (widthOf(*it.value()) > 0 && height > spineWidth)
@@ -298,7 +298,7 @@ void PxSpineCheck::checkSellingPages() const
 void PxSpineCheck::checkSpinePage() const
 {
     const bool isBookWithoutTable = m_product.type().isBook() && m_rowCount == 0;
-    // A width under another name is told with what follows from it.
+    // Says in one finding that the width has another name and what follows from it.
     const bool isEveryWidthKnown =
         m_isComplete &&
         std::all_of(m_spines.begin(), m_spines.end(), [](const PxSourceElement *spine) {

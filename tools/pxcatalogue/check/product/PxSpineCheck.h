@@ -40,7 +40,7 @@ private:
     const PxReporter m_report;
     const PxSourceElement *m_table; // null when there is none
     int m_rowCount = 0;
-    /** The rows that count, by page count. */
+    /** The rows that the library uses, by page count. */
     Spines m_spines;
     bool m_isComplete = true; // the page count of every row is known and its own
 };

@@ -19,7 +19,7 @@ const PxElementRow &rowOf(const PxSourceElement &element, PxFileKind kind)
     return row ? *row : PxFormat::root(kind);
 }
 
-/** Whether any is read between the tags. */
+/** Whether the library reads any text between the tags. */
 bool hasText(const PxSourceElement &element)
 {
     return std::any_of(element.nodes.begin(), element.nodes.end(),
@@ -104,7 +104,7 @@ bool PxElementReading::isReadable(const PxSourceElement &element,
     case PxValueType::Integer:
     case PxValueType::Length:
     case PxValueType::RectanglePart:
-        // What is no number gives the default, whichever that is, and so below.
+        // A value that cannot be read gives any default.
         return PxXMLParser::intAttribute(element.dom, name, 0) != 0 ||
                PxXMLParser::intAttribute(element.dom, name, 1) == 0;
     case PxValueType::Boolean:
@@ -148,7 +148,7 @@ const PxSourceElement *PxElementReading::misplacedChild(const char *name, Search
 {
     int left = PxCheckLimits::searchedElements;
     const PxSourceElement *own = findBelow(m_element, name, &left);
-    // The others of any name are all like this one.
+    // Its neighbours are all like it, so the child may belong to one of them.
     if (own || search == Search::Inside || m_row.occurrence == PxOccurrence::AnyName)
         return own;
     const PxSourceElement *root = &m_element;
@@ -157,7 +157,7 @@ const PxSourceElement *PxElementReading::misplacedChild(const char *name, Search
     return findBelow(*root, name, &left);
 }
 
-/** Not in others like this element: what stands there belongs to those. */
+/** Does not search in other elements of the same name: what is in them belongs to them. */
 const PxSourceElement *PxElementReading::findBelow(const PxSourceElement &parent, const char *name,
                                                    int *left) const
 {
@@ -191,7 +191,7 @@ PxMissingPart PxElementReading::missingEntries() const
 {
     const QString name = QLatin1String(m_row.children.begin()->name);
     for (const PxSourceElement *child : m_element.children) {
-        if (!child->name.contains(QLatin1Char(':'))) // else it is somebody else's
+        if (!child->name.contains(QLatin1Char(':'))) // else of another application
             return {child->nameRange, PxSpelling::didYouMean(name)};
     }
     const auto text = std::find_if(m_element.nodes.begin(), m_element.nodes.end(),

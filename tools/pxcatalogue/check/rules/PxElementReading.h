@@ -8,20 +8,20 @@
 #include <initializer_list>
 #include <optional>
 
-/** Something that is missing in an element, as it is told. */
+/** Something that is missing in an element. */
 struct PxMissingPart
 {
-    /** What was probably written for it; its empty value, or the element, when nothing was. */
+    /** What was probably written instead; if nothing was, its empty value or the element. */
     PxSourceRange range;
-    QString hint; ///< empty when nothing looks like it
+    QString hint; ///< empty if nothing looks like it
 
     QString hintOr(const QString &other) const { return hint.isEmpty() ? other : hint; }
 };
 
 /**
- * How the library reads an element, and whether that is just what is written.
+ * How the library reads an element, and whether it reads just what is written.
  *
- * Where it is not, that is a finding already, and what follows from it shall be none.
+ * If it does not, another finding already says so; do not report its consequences.
  */
 class PxElementReading
 {
@@ -41,9 +41,9 @@ public:
     bool isGiven(const char *attribute) const { return m_element.attribute(attribute); }
     /** The attribute is missing, but another one looks like a misspelling of it. */
     bool isMisspelt(const char *attribute) const { return misspelling(attribute); }
-    /** An attribute that is missing or empty, where that is a finding. */
+    /** For a finding about an attribute that is missing or empty. */
     PxMissingPart missing(const char *attribute) const;
-    /** The text, where that is a finding; its value may have been written as an attribute. */
+    /** For a finding about the text, which may have been written as an attribute. */
     PxMissingPart missingText() const;
     /** Those of the attributes that are not given. */
     QStringList missingOf(std::initializer_list<const char *> attributes) const;
@@ -59,14 +59,13 @@ public:
     }
     int number(const char *attribute, int absent = 0) const;
 
-    /** The attribute that may be meant by a name; none that is given already. */
+    /** The attribute that may be meant by a name, and is not given; empty for none. */
     QString meant(const QString &name) const;
     /** Where to look for what was meant for a child. */
     enum class Search { Everywhere, Inside };
-    /** A child that is missing, where that is a finding. */
+    /** For a finding about a child that is missing. */
     PxMissingPart missingChild(const char *name, Search search = Search::Everywhere) const;
-    /** The same of the entries in an element that holds nothing else, which may be there as text.
-     */
+    /** The same for all entries of a list, which may have been written as text. */
     PxMissingPart missingEntries() const;
 
 private:

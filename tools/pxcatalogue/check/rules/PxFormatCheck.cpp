@@ -37,7 +37,7 @@ QString withoutPrefix(const QString &local)
     return QString("names have no prefix here: \"%1\"").arg(local);
 }
 
-/** What XML itself, or a schema, has to say. */
+/** An attribute of XML itself, or of a schema. */
 bool isOfXml(const QString &attribute)
 {
     const QString prefix = attribute.section(QLatin1Char(':'), 0, 0);
@@ -60,7 +60,7 @@ QString hintForText(const PxSourceElement &element, const PxElementRow &row)
                                         : PxElementReading(element, row).missingText().hint;
 }
 
-/** A container that was taken for one of its entries: what it says is another check's matter. */
+/** Whether the author took a container for one of its entries, which another check reports. */
 bool isMeantAsEntry(const PxSourceElement &element, const PxElementRow &row)
 {
     const PxElementRow *entries = entriesOfSameName(row);
@@ -74,7 +74,7 @@ bool isMeantAsEntry(const PxSourceElement &element, const PxElementRow &row)
 
 void PxFormatCheck::run()
 {
-    checkElement({*m_report.file().root(), PxFormat::root(m_kind), nullptr, nullptr});
+    checkElement({m_root, PxFormat::root(m_kind), nullptr, nullptr});
 }
 
 bool PxFormatCheck::isOfKind(const PxSourceElement &root, PxFileKind kind)
@@ -167,7 +167,7 @@ void PxFormatCheck::checkText(const Place &place) const
 {
     if (place.row.text != PxTextKind::None)
         return;
-    // There each piece of text counts as an element, which is worse and told elsewhere.
+    // There each piece of text counts as an element, which another check reports.
     if (m_kind == PxFileKind::Theme &&
         (!place.parent || place.element.name == QLatin1String("keyaccounts")))
         return;
@@ -235,7 +235,7 @@ void PxFormatCheck::addUnknownElement(const Place &place, int index) const
     const QString local = localName(child.name);
     const bool hasPrefix = local != child.name;
     if (hasPrefix && !PxFormat::child(place.row, local))
-        return; // somebody else's
+        return; // of another application
     const QString now = place.row.text == PxTextKind::None
                             ? "nothing in it is read"
                             : QString("its text counts as text of \"%1\"").arg(place.element.name);
@@ -256,7 +256,7 @@ void PxFormatCheck::addUnknownElement(const Place &place, int index) const
         });
 }
 
-/** Once for all that stand there in a row: they lack the same container. */
+/** Reports neighbours of one name once: they lack the same container. */
 void PxFormatCheck::addMisplaced(const Place &place, int index, const PxElementRow &owner,
                                  const QString &now) const
 {

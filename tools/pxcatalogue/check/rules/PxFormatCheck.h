@@ -10,15 +10,19 @@
 class PxFormatCheck
 {
 public:
-    /** The file has been read, and is of the kind. */
-    PxFormatCheck(PxFileKind kind, const PxReporter &report) : m_kind(kind), m_report(report) {}
+    /** The document element is one of such a file. It must outlive the check. */
+    PxFormatCheck(const PxSourceElement &root, PxFileKind kind, const PxReporter &report)
+        : m_root(root)
+        , m_kind(kind)
+        , m_report(report)
+    {}
 
     void run();
     /** Whether the library reads anything from a file with such a document element. */
     static bool isOfKind(const PxSourceElement &root, PxFileKind kind);
 
 private:
-    /** An element, what it may be, what its parent is, and its neighbour before; null for none. */
+    /** An element with its row, the row of its parent and the element before it; null if none. */
     struct Place
     {
         const PxSourceElement &element;
@@ -35,7 +39,7 @@ private:
     void addUnknownAttribute(const Place &place, const PxSourceAttribute &attribute) const;
     void addRepeated(const Place &place, const PxSourceElement &child,
                      const PxSourceElement &first) const;
-    /** The child with that index, and so below. */
+    /** The child with that index, as in the next function. */
     void addUnknownElement(const Place &place, int index) const;
     void addMisplaced(const Place &place, int index, const PxElementRow &owner,
                       const QString &now) const;
@@ -47,6 +51,7 @@ private:
     QStringList ownersOf(const QString &attribute, const Place &from) const;
     QStringList elementNames() const;
 
+    const PxSourceElement &m_root;
     PxFileKind m_kind;
     const PxReporter m_report;
 };

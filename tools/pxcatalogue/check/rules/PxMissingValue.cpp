@@ -1,5 +1,6 @@
 #include "check/rules/PxMissingValue.h"
 
+#include "check/PxCheckLimits.h"
 #include "format/PxFormat.h"
 
 #include <description/PxProductTypeDescription.h>
@@ -13,7 +14,7 @@ using Description = PxProductTypeDescription;
 
 constexpr const char *foldMargin = "foldmargin"; // which depends on surroundings, too
 
-/** The attributes whose default depends on others, and who knows what became of it. */
+/** The attributes whose default depends on others, and the question that gets the default. */
 constexpr struct
 {
     const char *attribute;
@@ -41,18 +42,18 @@ constexpr struct
 };
 
 /**
- * The product with no more than the answers depend on: its attributes and its size. A file may hold
- * long lists, and reading them for each of the answers takes long.
+ * A copy of the product with no more than the answers depend on, its attributes and its size:
+ * reading long lists for each answer takes long.
  */
 QDomElement withoutLists(const QDomElement &product, const char *asked)
 {
-    constexpr int maximumLength = 1000; // letters of a value
     constexpr const char *size = "usablesize";
     QDomElement copy = product.cloneNode(false).toElement();
     const QDomNamedNodeMap attributes = product.attributes();
     for (int i = 0; i < attributes.size(); ++i) {
         const QDomAttr attribute = attributes.item(i).toAttr();
-        if (attribute.name() != QLatin1String(asked) && attribute.value().size() > maximumLength)
+        if (attribute.name() != QLatin1String(asked) &&
+            attribute.value().size() > PxCheckLimits::answeredLength)
             copy.removeAttribute(attribute.name());
     }
     copy.appendChild(product.firstChildElement(size).cloneNode(false));

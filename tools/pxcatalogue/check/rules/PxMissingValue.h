@@ -3,15 +3,15 @@
 #include "check/source/PxSourceElement.h"
 #include "format/PxFormatRows.h"
 
-/** Tells what the library uses in place of an attribute that is missing or that it cannot read. */
+/** What the library uses instead of an attribute that is missing or that it cannot read. */
 class PxMissingValue
 {
 public:
-    /** As in "0 is used"; empty when nothing of use can be said. */
+    /** As in "0 is used"; may be empty. */
     static QString text(const PxSourceElement &element, const PxAttributeRow &attribute);
     /**
-     * What the library answers for an attribute of "product" or "usablesize" that does not decide
-     * alone; empty for all others.
+     * What the library answers for an attribute of "product" or "usablesize" whose default depends
+     * on others; empty for all other attributes.
      */
     static QString answer(const PxSourceElement &element, const PxAttributeRow &attribute);
 };

@@ -6,7 +6,7 @@
 
 namespace {
 
-/** Those children that the library reads for the row. */
+/** The children with this row that the library reads. */
 QVector<const PxSourceElement *> childrenRead(const PxSourceElement &parent,
                                               const PxElementRow &row)
 {
@@ -35,7 +35,7 @@ void PxRuleCheck::run()
     }
 }
 
-/** Element by element: of many findings the first are listed. */
+/** Goes element by element, as only the first of many findings are listed. */
 void PxRuleCheck::checkPath(const PxRule *begin, const PxRule *end)
 {
     const PxElementRow *row = &m_startRow;

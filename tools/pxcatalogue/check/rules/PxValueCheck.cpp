@@ -20,7 +20,7 @@ bool isLength(const PxAttributeRow &row)
     return row.type == PxValueType::Length || row.type == PxValueType::RectanglePart;
 }
 
-/** For somebody who wrote another kind of number. */
+/** A hint for another kind of number. */
 QString integerHint(const PxAttributeRow &row, const PxSourceAttribute &attribute)
 {
     static const QRegularExpression ourHex("^0[xX][0-9a-fA-F]{1,7}$");
@@ -33,14 +33,14 @@ QString integerHint(const PxAttributeRow &row, const PxSourceAttribute &attribut
     const QRegularExpressionMatch millimetres = ourMillimetres.match(text);
     if (!isLength(row) || !millimetres.hasMatch())
         return QString();
-    // Who writes a fraction thinks of millimetres.
+    // A fraction is one of millimetres.
     const QString tenth = millimetres.captured(2);
     return QString("lengths are in tenths of a millimetre: \"%1\" for %2")
         .arg(millimetres.captured(1) + (tenth.isEmpty() ? "0" : tenth),
              millimetres.captured(3).isEmpty() ? text + QLatin1String(" mm") : text);
 }
 
-/** Digits only: what is wrong is that there are too many. */
+/** Only digits, but too many. */
 bool isTooLarge(const QString &text)
 {
     static const QRegularExpression ourDigits("^\\s*[+-]?[0-9]+\\s*$");
@@ -105,8 +105,8 @@ void PxValueCheck::checkKeywords()
     switch (m_row.keywords) {
     case PxKeywordSet::None:
     case PxKeywordSet::Material:     // any text is a material
-    case PxKeywordSet::ProductGroup: // a matter of the whole theme
-    case PxKeywordSet::ProductClass: // a matter of the whole row
+    case PxKeywordSet::ProductGroup: // reported for the whole theme
+    case PxKeywordSet::ProductClass: // reported for the whole row
         return;
     default:
         break;
@@ -172,7 +172,7 @@ void PxValueCheck::checkKeywordList() const
         areKnown = false;
         checkUnknownKeyword(entry, asRead);
     }
-    // An author who mends a word looks at the whole list anyway.
+    // One who repairs a word sees the rest of the list, too.
     if (areKnown && m_list.isWhole() && !checkGap() && !checkSeveral())
         checkRepeated();
 }
@@ -183,7 +183,7 @@ void PxValueCheck::checkUnknownKeyword(const PxSourcePart &entry, const QString 
     const QStringList words = PxSpelling::words(entry.text);
     const auto known = std::count_if(words.begin(), words.end(),
                                      [this](const QString &word) { return isKnown(word); });
-    // Blanks belong to some keywords, so that they separate only what leaves nothing open.
+    // Some keywords contain blanks, so a blank separates only if all words are keywords.
     static const QRegularExpression ourMarks("[;|/+]");
     const bool isList =
         words.size() > 1 && (known == words.size() || (known > 0 && entry.text.contains(ourMarks)));
@@ -205,7 +205,7 @@ void PxValueCheck::checkUnknownKeyword(const PxSourcePart &entry, const QString 
         .hint([&] { return PxSpelling::hint(entry.text, PxFormat::keywordNames(m_row.keywords)); });
 }
 
-/** An entry without a word adds the default, which matters where the default is something. */
+/** An empty entry adds the default, which does harm if the default is not nothing. */
 bool PxValueCheck::checkGap() const
 {
     const auto gap = std::find_if(m_list.parts.begin(), m_list.parts.end(),
@@ -219,13 +219,13 @@ bool PxValueCheck::checkGap() const
     }
     const int without = PxFormat::decode(m_row.keywords, words.join(QLatin1Char(',')));
     const int all = PxFormat::decode(m_row.keywords, m_attribute.value);
-    // Commas alone that stand for nothing are like a missing value that does.
+    // Commas alone are read like a missing value if both mean nothing.
     const bool isMissing =
         words.isEmpty() && all == 0 && m_row.defaultText &&
         PxFormat::decode(m_row.keywords, QString::fromLatin1(m_row.defaultText)) == 0;
     if (words.isEmpty() ? isMissing : all == without)
         return false;
-    // The comma before it, or behind it when it is the first.
+    // The comma before the empty entry, or behind it if it is the first.
     const int comma = gap == m_list.parts.begin() ? gap->whole.end : gap->whole.begin - 1;
     m_report
         .add(PxTag::KeywordListGap, {comma, comma + 1}, "an entry of \"%1\" is empty",

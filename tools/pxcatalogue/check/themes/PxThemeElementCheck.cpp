@@ -12,7 +12,7 @@ namespace {
 
 const auto compactFormat = QLatin1String("yyyyMMddHHmm");
 
-/** Nearly the right form, for those that authors use elsewhere. */
+/** Converts forms that authors use elsewhere. */
 QString expiryHint(const QString &text)
 {
     const QDateTime withSeconds = QDateTime::fromString(text.trimmed(), "yyyyMMddHHmmss");
@@ -28,7 +28,7 @@ QString expiryHint(const QString &text)
 
 constexpr const char *allowedForAll = "the theme is allowed for every product";
 
-/** For a name that is no known one. */
+/** A hint for an unknown name. */
 QString productHint(const PxSourceElement &product, PxListedProductTypes &types)
 {
     const QString name = product.dom.text();
@@ -163,14 +163,14 @@ void PxThemeElementCheck::addOnlyUnknownProducts(
         .hint([&] { return text.hintOr(productHint(first, m_types)); });
 }
 
-/** Names of products that are not where they are read. */
+/** Reports names of products at a place where the library does not read them. */
 void PxThemeElementCheck::checkMissingProducts(const PxSourceElement *products) const
 {
     const PxMissingPart missing =
         products ? PxElementReading(*products, PxFileKind::Theme).missingEntries()
                  : PxElementReading(m_theme, PxFileKind::Theme).missingChild("products");
     if (missing.hint.isEmpty())
-        return; // every product is meant
+        return; // the theme is for all products
     m_report
         .add(PxTag::ThemeProductsAllUnknown, missing.range,
              products ? "no \"product\" in the \"products\" of the theme"

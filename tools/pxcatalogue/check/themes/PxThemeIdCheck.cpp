@@ -61,7 +61,7 @@ void PxThemeIdCheck::reportTwice(const QString &id, const PxPlace &first,
                    "system lists the files");
 }
 
-/** A file elsewhere, say a draft of one that is known, is not read beside that one. */
+/** Not if the file lies elsewhere, as the draft of a known one may. */
 bool PxThemeIdCheck::isReadBeside(const PxPlace &known, const PxCheckedFile &file) const
 {
     return !m_knownFiles.contains(known.path) ||
@@ -88,7 +88,7 @@ QStringList PxThemeIdCheck::ids() const
 {
     if (!isComplete())
         return {};
-    // What a product names for it stands in for every other theme, whether it is there or not.
+    // Templates for the default theme are used for all others, even if there is no such theme.
     QStringList ids = m_themes.keys();
     if (!m_themes.contains(defaultThemeId()))
         ids.append(defaultThemeId());
@@ -96,7 +96,7 @@ QStringList PxThemeIdCheck::ids() const
     return ids;
 }
 
-/** Whether all ids are known that the library knows. */
+/** Whether the ids of all themes that the library reads are known. */
 bool PxThemeIdCheck::isComplete() const
 {
     const QFileInfoList files =

@@ -6,14 +6,13 @@
 #include <QSet>
 #include <QStringList>
 
-/** Checks the ids of all themes together: whether each is there once, and the default one at all.
- */
+/** Checks the ids of all themes: none occurs twice, and one is that of the default theme. */
 class PxThemeIdCheck
 {
 public:
     explicit PxThemeIdCheck(const PxReporter &report) : m_report(report) {}
 
-    /** Files that are not checked come first; their ids may be those of others. */
+    /** Adds a file that is not itself checked; all such files come first. */
     void addKnownFile(const PxCheckedFile &file);
     void addFile(const PxCheckedFile &file);
 
@@ -21,8 +20,8 @@ public:
     void run();
 
     /**
-     * The ids that product files may name, in lower case and sorted. Empty if some theme of the
-     * themes directory could not be read: then any name may be an id.
+     * The ids that product files may name, in lower case and sorted. Empty if a theme of the themes
+     * directory could not be read: any name may be its id.
      */
     QStringList ids() const;
 

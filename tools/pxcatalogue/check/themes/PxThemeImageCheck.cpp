@@ -12,7 +12,7 @@ const QLatin1String logoNow("the logo has no image");
 const QLatin1String thumbnailNow("the theme has no preview");
 const QLatin1String partNow("the part that is there is shown");
 
-/** What an application has compiled in cannot be seen from here. */
+/** An image that is compiled into an application, where it cannot be checked. */
 bool isCompiledIn(const QString &path)
 {
     return path.startsWith(QLatin1String(":/")) || path.startsWith(QLatin1String("qrc:"));
@@ -43,7 +43,7 @@ void PxThemeImageCheck::run()
     checkRelativeThumbnails();
 }
 
-/** The image is a path in the resource directories. */
+/** The name is a path in the resource directories. */
 void PxThemeImageCheck::checkLogo(const PxSourceElement &logo)
 {
     const PxSourceAttribute *name = logo.attribute("filename");
@@ -52,7 +52,7 @@ void PxThemeImageCheck::checkLogo(const PxSourceElement &logo)
             {name, PxDirectoryConfig::instance()->resource(name->value.toLower(), false), logoNow});
 }
 
-/** A relative one is kept until all are known. */
+/** Relative paths are kept until all are known. */
 void PxThemeImageCheck::checkThumbnail(const PxSourceElement &theme)
 {
     const PxSourceAttribute *name = theme.attribute("thumbnail");
@@ -65,8 +65,8 @@ void PxThemeImageCheck::checkThumbnail(const PxSourceElement &theme)
 }
 
 /**
- * Where an application will run is not known, so a relative thumbnail is judged only in a directory
- * that has proved to be the one: other thumbnails of the file are found from there.
+ * Relative paths start where the application runs, which is not known here: the directory where
+ * most images of the file are found. If none is found anywhere, nothing is reported.
  */
 void PxThemeImageCheck::checkRelativeThumbnails()
 {
@@ -122,7 +122,7 @@ QString PxThemeImageCheck::hint(const Image &image)
     const QFileInfo info(image.path);
     if (info.exists())
         return QString();
-    // The path as it is written, from the same directory: lower-casing changes what is behind it.
+    // The same directory, with the path as it is written.
     const QString asWritten =
         image.path.endsWith(lowered) ? image.path.chopped(lowered.size()) + written : QString();
     if (written != lowered && QFileInfo::exists(asWritten))

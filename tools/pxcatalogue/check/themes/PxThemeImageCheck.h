@@ -5,8 +5,7 @@
 
 #include <themes/PxThemeImages.h>
 
-/** Checks whether the images that a theme file names are there, where the library looks for them.
- */
+/** Checks whether the images that a theme file names are where the library looks for them. */
 class PxThemeImageCheck
 {
 public:

@@ -56,7 +56,7 @@ QString keyAccountHint(const QString &text)
     return hasNoComma(text) ? QString() : "write an element for each key account";
 }
 
-/** The same for all ways to write it; empty for a name that is none. */
+/** The usual spelling; empty for an unknown product. */
 QString productName(const QString &text)
 {
     const PxProductType type(text.toUpper());
@@ -81,7 +81,7 @@ constexpr PxRule rules[] = {
     {PxTag::ThemeGroupMissing, "theme", "producttype", Is::given(), "the theme has no \"producttype\"", invalidTheme, "name the product group, as in \"book\""},
     {PxTag::ThemeGroupMissing, "theme", "producttype", Is::notBlank(), "the \"producttype\" of the theme is empty", invalidTheme, "name the product group, as in \"book\""},
     {PxTag::ThemeGroupUnknown, "theme", "producttype", Is::matching(isProductGroup), "\"%1\" is no product group", invalidTheme, productGroupHint},
-    {PxTag::ThemeIdLowered, "theme", "id", Is::matching(isLower), "the id \"%1\" has upper-case letters", lowerIdNow}, // beside any other fault of an id
+    {PxTag::ThemeIdLowered, "theme", "id", Is::matching(isLower), "the id \"%1\" has upper-case letters", lowerIdNow}, // no neighbour of the other rules for ids: reported beside them
     {PxTag::ThemeExpiryMissing, "theme", "expiry", Is::given(), "the theme has no \"expiry\"", expiredTheme, expiryForm},
     {PxTag::ThemeExpiryMissing, "theme", "expiry", Is::notBlank(), "the \"expiry\" of the theme is empty", expiredTheme, expiryForm},
     {PxTag::ThemeDescriptionMissing, "theme", "description", Is::hasChild(), "the theme has no \"description\"", "it is shown as \"unbekannt\""},
