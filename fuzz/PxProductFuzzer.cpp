@@ -13,7 +13,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     PxProductTypeDescriptionReader reader{QDir(directory.path())};
     const std::unique_ptr<PxProductTypeDescription> description(
         reader.readFile(directory.write(data, size)).second);
+    PxArguments arguments;
+    arguments.longestList = 1000; // longer ones would take too long
     if (description)
-        pxAskEverything(*description, 1000); // larger page counts would take too long
+        pxAskEverything(*description, arguments);
     return 0;
 }

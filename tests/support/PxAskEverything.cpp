@@ -5,26 +5,27 @@
 
 #include <QDebug>
 
-#include <limits>
-
 namespace {
-
-constexpr int smallest = std::numeric_limits<int>::min();
-constexpr int largest = std::numeric_limits<int>::max();
 
 constexpr PxPageTypeEnum pageTypes[] = {
     PxPageTypeNone,  PxPageTypeSpine, PxPageTypeNormalPage,  PxPageTypeFullCover,
-    PxPageTypeCover, PxPageTypeAll,   PxPageTypeNormalPages, PxPageTypeEnum(smallest)};
+    PxPageTypeCover, PxPageTypeAll,   PxPageTypeNormalPages, PxPageTypeEnum(PxArguments::smallest)};
 
-constexpr PxPageAlignment alignments[] = {PxPageAlignmentNone, PxPageAlignmentLeft,
-                                          PxPageAlignmentRight, PxPageAlignmentAll,
-                                          PxPageAlignment(largest)};
+constexpr PxPageAlignment alignments[] = {PxPageAlignmentNone,
+                                          PxPageAlignmentLeft,
+                                          PxPageAlignmentRight,
+                                          PxPageAlignmentTop,
+                                          PxPageAlignmentCenter,
+                                          PxPageAlignmentAll,
+                                          PxPageAlignment(PxArguments::largest)};
 
-void askAboutThePage(const PxProductTypeDescription &description, int page, int pageCount,
-                     QDebug &answers)
+void askAboutThePage(const PxProductTypeDescription &description, int page,
+                     const QVector<int> &pageCounts, QDebug &answers)
 {
     answers << description.pageAlignment(page) << description.contentAllowedOnPage(page)
-            << description.contentDropRedirect(page) << description.barcodeOnPage(page, pageCount);
+            << description.contentDropRedirect(page);
+    for (const int pageCount : pageCounts)
+        answers << description.barcodeOnPage(page, pageCount);
     for (const PxPageRotationRedirect &redirect : description.rotationRedirectForSourcePage(page))
         answers << redirect;
     for (const PxPageRotationRedirect &redirect : description.rotationRedirectForTargetPage(page))
@@ -32,73 +33,98 @@ void askAboutThePage(const PxProductTypeDescription &description, int page, int 
 }
 
 void askAboutTheKind(const PxProductTypeDescription &description, const PxPageContext &kind,
-                     int pageCount, QDebug &answers)
+                     const PxArguments &arguments, QDebug &answers)
 {
-    const PxPageSizeSpec size = description.sizeSpec(PxPageSizeKey(kind, pageCount));
-    answers << description.usablePrintSize(kind.pageType(), pageCount) << size << size.totalSize()
-            << size.topLeftOffsetOfUsablePrintArea() << description.bleedMargins(kind, pageCount)
-            << description.clampExtra(kind.pageType())
-            << description.findSurrounding(PxSurroundingKey(kind, pageCount));
-    for (const char *theme : {"normal", "hochzeit", ""}) {
-        const PxDefaultTemplateKey key(QLatin1String(theme), kind, DefaultTemplateTypeLayout);
-        answers << description.findDefaultTemplate(key, true, true).size();
+    answers << description.clampExtra(kind.pageType());
+    for (const int pageCount : arguments.pageCounts) {
+        const PxPageSizeSpec size = description.sizeSpec(PxPageSizeKey(kind, pageCount));
+        answers << description.usablePrintSize(kind.pageType(), pageCount) << size
+                << size.totalSize() << size.topLeftOffsetOfUsablePrintArea()
+                << description.bleedMargins(kind, pageCount);
     }
+    for (const int page : arguments.pages) {
+        const PxSurroundingDescription surrounding =
+            description.findSurrounding(PxSurroundingKey(kind, page));
+        answers << surrounding << surrounding.paintOnTop() << surrounding.hasBindingShade();
+    }
+    for (const QString &theme : arguments.themes) {
+        for (auto type : {DefaultTemplateTypeLayout, DefaultTemplateTypeBackground})
+            answers << description.findDefaultTemplate({theme, kind, type}, true, true);
+    }
+}
+
+void askAboutTheProduct(const PxProductTypeDescription &description, QDebug &answers)
+{
+    const PxProductClassification classification = description.classification();
+    answers << description.isValid() << classification << classification.areaSize()
+            << classification.sizeName(true) << classification.sizeName(false)
+            << description.legacyProduct() << description.orientation() << description.binding()
+            << description.paperType() << description.spaceMagnitude() << description.assemblyWay()
+            << description.imageFX() << description.canHaveShadow() << description.hasAssistant()
+            << description.hasHook() << description.hasHole() << description.numberOfSpiralLoops()
+            << description.variantDescription() << description.variants()
+            << description.explicitNumberOfProducts() << description.explicitNumberOfNormalPages()
+            << description.isCompatible(PxProductTypeDescription(),
+                                        PxProductComparationAllButBinding)
+            << description.fullBackgroundOnEachPage() << description.minPages()
+            << description.maxPages() << description.pageIncrement()
+            << description.offeredPageCounts().size() << description.defaultSellingPages()
+            << description.hasPages() << description.hasCover() << description.hasSpine()
+            << description.pageNamingStyle() << description.horizontalPages()
+            << description.hasCardStyleAlignment() << description.editorStartDoublePage()
+            << description.coverSize() << description.bleedMarginNormal()
+            << description.bleedMarginCover() << description.safetyMargins()
+            << description.safetyMargins().totalMarginWH() << description.foldMargin()
+            << description.normalPageHorizontalClamp() << description.mustPaintVemoLogoOnSpine()
+            << description.pageNumberHorizontalIndent() << description.pageNumberVerticalIndent()
+            << description.pageNumberFontSize() << description.extraProductionContents();
+    QStringList categories = description.allowedBackgroundCategories().toDataStringList();
+    categories.sort();
+    answers << categories;
+    for (PxJigTypeEnum type : {PxJigTypeBackground, PxJigTypeClipart, PxJigTypeContent,
+                               PxJigTypeLayout, PxJigTypePassepartout})
+        answers << description.supportsJigType(type);
 }
 
 } // namespace
 
-QString pxAskEverything(const PxProductTypeDescription &description, int longestList)
+QString pxAskEverything(const PxProductTypeDescription &description, const PxArguments &arguments)
 {
     QString text; // to print the answers looks into all of them
     QDebug answers(&text);
-    answers << description.isValid() << description.classification() << description.legacyProduct()
-            << description.orientation() << description.binding() << description.paperType()
-            << description.spaceMagnitude() << description.assemblyWay() << description.imageFX()
-            << description.canHaveShadow() << description.variantDescription().size()
-            << description.variants().size() << description.explicitNumberOfProducts()
-            << description.isCompatible(PxProductTypeDescription(),
-                                        PxProductComparationAllButBinding)
-            << description.allowedBackgroundCategories().toDataStringList().size()
-            << description.minPages() << description.maxPages() << description.pageIncrement()
-            << description.offeredPageCounts().size() << description.defaultSellingPages()
-            << description.explicitNumberOfNormalPages() << description.hasCover()
-            << description.pageNamingStyle() << description.editorStartDoublePage()
-            << description.coverSize() << description.bleedMarginNormal()
-            << description.bleedMarginCover() << description.safetyMargins()
-            << description.safetyMargins().totalMarginWH() << description.foldMargin()
-            << description.normalPageHorizontalClamp() << description.pageNumberHorizontalIndent()
-            << description.pageNumberFontSize() << description.extraProductionContents().size();
-
-    for (const int pageCount : {smallest, -1, 0, 1, 26, largest, description.minPages()}) {
+    askAboutTheProduct(description, answers);
+    for (const int pageCount : arguments.pageCounts) {
+        const int listed = qMin(pageCount, arguments.longestList);
         answers << description.spineWidth(pageCount) << description.spineMaxFontHeight(pageCount)
-                << description.isPageCountOffered(pageCount);
-        for (const PxPageTypeEnum pageType : pageTypes) {
-            for (const PxPageAlignment alignment : alignments)
-                askAboutTheKind(description, PxPageContext(pageType, alignment), pageCount,
-                                answers);
-        }
-        for (const int page : {smallest, -1, 0, 1, 26, largest})
-            askAboutThePage(description, page, pageCount, answers);
+                << description.isPageCountOffered(pageCount)
+                << description.pageTypes(listed).mid(0, 100)
+                << description.productionNumberingList(listed).mid(0, 100);
     }
-    for (const int pageCount : {smallest, -1, 0, 1, 26, longestList})
-        answers << description.pageTypes(pageCount).size()
-                << description.productionNumberingList(pageCount).size();
+    for (const PxPageTypeEnum pageType : pageTypes) {
+        for (const PxPageAlignment alignment : alignments)
+            askAboutTheKind(description, PxPageContext(pageType, alignment), arguments, answers);
+    }
+    for (const int page : arguments.pages)
+        askAboutThePage(description, page, arguments.pageCounts, answers);
     return text;
 }
 
-QString pxAskEverything(const PxTheme &theme)
+QString pxAskEverything(const PxTheme &theme, const PxArguments &arguments)
 {
     QString text;
     QDebug answers(&text);
-    answers << theme << theme.isValid() << theme.description().size()
-            << theme.productGroup().isValid() << theme.thumbnail().size() << theme.isDefaultTheme()
+    const PxProductType type(arguments.productType);
+    answers << theme << theme.isValid() << theme.id() << theme.description()
+            << theme.productGroup().value() << theme.thumbnail().size() << theme.isDefaultTheme()
             << theme.isDesignTheme() << theme.expiryDate() << theme.isExpired()
-            << theme.expiryDayToOrderTxt() << theme.keyAccounts().size()
-            << theme.isValidForKeyAccount(largest) << theme.allowedProductTypes().size()
-            << theme.useSpineText() << theme.canUseNormalBackgrounds()
-            << theme.mustPaintVemoLogo(PxProductType())
-            << theme.vemoLogo(PxProductType(largest)).second
-            << theme.defaultBackgroundCategory().name() << theme.defaultFrameCategory().name()
-            << (theme == PxTheme::voidTheme()) << qHash(theme);
+            << theme.expiryDayToOrderTxt() << theme.keyAccounts()
+            << theme.isValidForKeyAccount(PxArguments::largest)
+            << theme.allowedProductTypes().values() << theme.useSpineText() << theme.useSpineLogo()
+            << theme.canMoveContent() << theme.canUseNormalBackgrounds()
+            << theme.mustPaintVemoLogo(type) << theme.vemoLogo(type).first.size()
+            << theme.vemoLogo(type).second << (theme == PxTheme::voidTheme()) << qHash(theme);
+    for (PxJigTypeEnum jig : {PxJigTypeBackground, PxJigTypeClipart, PxJigTypeContent,
+                              PxJigTypeLayout, PxJigTypePassepartout, PxJigTypeFrame})
+        answers << theme.defaultCategory(jig).name();
     return text;
 }

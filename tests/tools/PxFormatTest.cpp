@@ -1,3 +1,4 @@
+#include "PxAskEverything.h"
 #include "PxCatalogueDirectory.h"
 #include "PxLogRecorder.h"
 #include "PxProgramRun.h"
@@ -17,6 +18,8 @@
 #include <QImage>
 #include <QRegularExpression>
 #include <QTest>
+
+#include <numeric>
 
 /** Compares the rows of the format with what the library really reads. */
 class PxFormatTest : public QObject
@@ -118,87 +121,6 @@ constexpr struct
     {"/defaults/defaults", "background", nullptr, nullptr},
 };
 
-constexpr PxPageTypeEnum pageTypes[] = {PxPageTypeNone, PxPageTypeSpine, PxPageTypeNormalPage,
-                                        PxPageTypeFullCover};
-constexpr PxPageAlignment alignments[] = {PxPageAlignmentLeft, PxPageAlignmentRight,
-                                          PxPageAlignmentTop, PxPageAlignmentCenter};
-
-void tellTemplates(QDebug &out, const PxProductTypeDescription &d, const PxPageContext &page)
-{
-    for (const char *theme : {"normal", "design"}) {
-        for (auto type : {DefaultTemplateTypeLayout, DefaultTemplateTypeBackground})
-            out << d.findDefaultTemplate({theme, page, type}, false, true);
-    }
-}
-
-void tellPages(QDebug &out, const PxProductTypeDescription &d)
-{
-    for (PxPageTypeEnum type : pageTypes) {
-        for (PxPageAlignment alignment : alignments) {
-            const PxPageContext page(type, alignment);
-            out << d.sizeSpec({page, 24});
-            tellTemplates(out, d, page);
-            for (int number : {-1, 58}) {
-                const PxSurroundingDescription found =
-                    d.findSurrounding(PxSurroundingKey(page, number));
-                out << found << found.paintOnTop() << found.hasBindingShade();
-            }
-        }
-    }
-    for (int page = 0; page < 90; ++page) {
-        out << d.pageAlignment(page) << d.contentAllowedOnPage(page) << d.contentDropRedirect(page)
-            << d.rotationRedirectForSourcePage(page) << d.rotationRedirectForTargetPage(page)
-            << d.barcodeOnPage(page, 100);
-    }
-}
-
-QString answersOf(const PxProductTypeDescription &d)
-{
-    QString text;
-    QDebug out(&text);
-    const PxProductClassification c = d.classification();
-    out << d.isValid() << c << c.areaSize() << c.sizeName(true) << c.sizeName(false)
-        << d.legacyProduct() << d.orientation() << d.binding() << d.paperType()
-        << d.spaceMagnitude() << d.assemblyWay() << d.imageFX() << d.hasAssistant() << d.hasHook()
-        << d.hasHole() << d.numberOfSpiralLoops() << d.variantDescription() << d.variants()
-        << d.explicitNumberOfProducts() << d.explicitNumberOfNormalPages()
-        << d.fullBackgroundOnEachPage() << d.minPages() << d.maxPages() << d.pageIncrement()
-        << d.defaultSellingPages() << d.hasPages() << d.hasCover() << d.pageTypes(3)
-        << d.pageNamingStyle() << d.horizontalPages() << d.hasCardStyleAlignment()
-        << d.editorStartDoublePage() << d.productionNumberingList(9) << d.coverSize()
-        << d.bleedMarginNormal() << d.bleedMarginCover() << d.safetyMargins() << d.foldMargin()
-        << d.normalPageHorizontalClamp() << d.hasSpine() << d.mustPaintVemoLogoOnSpine()
-        << d.extraProductionContents() << d.pageNumberHorizontalIndent()
-        << d.pageNumberVerticalIndent() << d.pageNumberFontSize();
-    QStringList categories = d.allowedBackgroundCategories().toDataStringList();
-    categories.sort();
-    out << categories;
-    for (PxJigTypeEnum type : {PxJigTypeBackground, PxJigTypeClipart, PxJigTypeContent,
-                               PxJigTypeLayout, PxJigTypePassepartout})
-        out << d.supportsJigType(type);
-    for (int pages : {0, 24, 26, 28, 40})
-        out << d.spineWidth(pages) << d.spineMaxFontHeight(pages);
-    tellPages(out, d);
-    return text;
-}
-
-QString answersOf(const PxThemeList &themes)
-{
-    QString text;
-    QDebug out(&text);
-    for (const PxTheme &theme : themes) {
-        out << theme.id() << theme.productGroup().value() << theme.description()
-            << theme.expiryDate() << theme.thumbnail().size() << theme.keyAccounts()
-            << theme.allowedProductTypes().values() << theme.mustPaintVemoLogo(4)
-            << theme.vemoLogo(4).first.size() << theme.vemoLogo(4).second << theme.useSpineText()
-            << theme.useSpineLogo() << theme.canMoveContent() << theme.canUseNormalBackgrounds();
-        for (PxJigTypeEnum type : {PxJigTypeBackground, PxJigTypeClipart, PxJigTypeContent,
-                                   PxJigTypeLayout, PxJigTypePassepartout, PxJigTypeFrame})
-            out << theme.defaultCategory(type).name();
-    }
-    return text;
-}
-
 /**
  * All texts in the file of a library that may be keywords, in small letters: also the ends of
  * texts, as the linker keeps only the longest of those that end alike.
@@ -295,7 +217,12 @@ QString PxFormatTest::answers(PxFileKind kind, const QDomDocument &document) con
             PxProductTypeDescriptionReader(QDir())
                 .readFile(QFileInfo(m_directory.filePath("products/a.xml")))
                 .second);
-        return answersOf(*description);
+        PxArguments arguments;
+        arguments.pages.resize(90);
+        std::iota(arguments.pages.begin(), arguments.pages.end(), -1);
+        arguments.pageCounts = {0, 9, 24, 26, 28, 40, 100};
+        arguments.themes = QStringList{"normal", "design"};
+        return pxAskEverything(*description, arguments);
     };
     if (kind == PxFileKind::Product) {
         m_directory.write("products/a.xml", text);
@@ -312,7 +239,12 @@ QString PxFormatTest::answers(PxFileKind kind, const QDomDocument &document) con
     if (kind == PxFileKind::Theme) {
         m_directory.write("themes/a.xml", text);
         QDir directory(m_directory.filePath("themes"));
-        return answersOf(PxThemeFactory().loadThemeList(directory));
+        PxArguments arguments;
+        arguments.productType = 4;
+        QString answers;
+        for (const PxTheme &theme : PxThemeFactory().loadThemeList(directory))
+            answers += pxAskEverything(theme, arguments);
+        return answers;
     }
     // A process reads its product types once.
     m_directory.write("types/producttypes.xml", text);
