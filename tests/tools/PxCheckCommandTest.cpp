@@ -23,6 +23,7 @@ private slots:
     void knowsOtherThemes();
     void tellsADroppedRowOnce();
     void checksWhatItIsToldTo();
+    void tellsOneFaultOfAnAttribute();
     void findsWhatNoExampleShows();
     void findsNamesThatCannotBeDecoded();
     void saysWhatIsWrong_data();
@@ -162,6 +163,40 @@ void PxCheckCommandTest::checksWhatItIsToldTo()
                           m_sample->path() + "/products/link.xml:1:1 info file-not-read",
                           m_sample->path() + "/products/pipe.xml:1:1 info file-not-read"}));
     QCOMPARE(m_sample->check("products/pipe.xml").status(), 2);
+}
+
+/** The first that its rules find; but each attribute that is wrong, and each parent by itself. */
+void PxCheckCommandTest::tellsOneFaultOfAnAttribute()
+{
+    m_sample->write("frames.xml", "<frames>\n<frame/>\n<frame id='ä'/>\n<frame id='ä' name='b'/>\n"
+                                  "<frame id='ä' name='c'/>\n<frame id='ä' name='d'/></frames>");
+    const PxProgramRun frames = check("--pedantic frames.xml");
+    QCOMPARE(findingsOf(frames), (QStringList{"frames.xml:2:2 warning frame-incomplete",
+                                              "frames.xml:3:2 warning frame-incomplete",
+                                              "frames.xml:4:12 pedantic frame-id-not-ascii",
+                                              "frames.xml:5:12 warning frame-id-twice",
+                                              "frames.xml:6:12 warning frame-id-twice"}));
+    QVERIFY(frames.text().contains("the frame \"ä\" is in line 5, too"));
+
+    const QString margin = "safetymargin=\"30\"";
+    m_sample->replace(cup, margin, "safetymargin=\"-1\" foldmargin=\"-2\"");
+    QCOMPARE(findingsOf(check(cup)), (QStringList{cup + ":5:26 error margin-negative",
+                                                  cup + ":5:42 error margin-negative"}));
+    m_sample->restore(cup);
+    m_sample->replace(cup, margin, margin + " foldmargin=\"-1\"");
+    QCOMPARE(findingsOf(check(cup)), QStringList());
+
+    const QString logo = "<logo filename='' booktype='%1' width='9' height='9'/>";
+    m_sample->write("themes/a.xml", "<themes>\n<a id='A, '><logos>" + logo.arg("cup2") +
+                                        "</logos></a>\n<a id=' '><logos>" + logo.arg("Cup2") +
+                                        '\n' + logo.arg("CUP2") + "</logos></a></themes>");
+    QCOMPARE(findingsOf(check("--pedantic --only "
+                              "theme-id-unlistable,theme-id-lowered,theme-logo-twice "
+                              "themes/a.xml")),
+             (QStringList{"themes/a.xml:2:8 pedantic theme-id-lowered",
+                          "themes/a.xml:2:8 warning theme-id-unlistable",
+                          "themes/a.xml:3:8 warning theme-id-unlistable",
+                          "themes/a.xml:4:29 warning theme-logo-twice"}));
 }
 
 /** Of which no example in a table could tell. */

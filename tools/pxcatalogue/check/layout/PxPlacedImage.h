@@ -12,8 +12,7 @@ public:
 
     /** `name` is what the library makes of the attribute "image". */
     void checkFile(const QString &name, PxImageNames &images, const PxReporter &report) const;
-    /** Every number of the rectangle that is given can be read; if not, that is a finding already.
-     */
+    /** Whether all given numbers of the rectangle can be read; if not, that has been reported. */
     bool isRectanglePlain() const;
     bool isAnyNumberGiven() const;
     /** Why the rectangle has no area, and where that stands. */
