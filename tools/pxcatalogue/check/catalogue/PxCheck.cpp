@@ -164,7 +164,7 @@ void PxCheck::checkThemes()
     const bool isEveryRead =
         checkFiles(m_paths.themes, PxFileKind::Theme, [this](const PxCheckedFile &file) {
             m_themes.addFile(file);
-            PxThemeFileCheck(m_types, m_themeImages, reporterFor(file)).run();
+            PxThemeFileCheck(*file.root(), m_types, m_themeImages, reporterFor(file)).run();
         });
     m_themeIds = PxKnownNames(isEveryRead ? m_themes.ids() : QStringList());
     if (m_themeIds.isEmpty())

@@ -36,8 +36,7 @@ PxSurroundingDescription withoutFrame(const PxSourceElement &frame)
 
 PxSurroundingCheck::PxSurroundingCheck(const PxCheckedProduct &product, const PxProductPages &pages,
                                        PxImageNames &images, const PxReporter &report)
-    : m_product(product)
-    , m_pages(pages)
+    : m_pages(pages)
     , m_images(images)
     , m_report(report)
 {

@@ -38,7 +38,6 @@ private:
     void reportUnfit(const Surrounding &surrounding) const;
     void reportHidden(const Surrounding &surrounding, const Surrounding &by) const;
 
-    const PxCheckedProduct &m_product;
     const PxProductPages &m_pages;
     PxImageNames &m_images;
     const PxReporter m_report;
