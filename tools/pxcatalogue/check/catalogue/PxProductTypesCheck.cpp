@@ -5,8 +5,6 @@
 #include "check/words/PxSpelling.h"
 #include "format/PxFormat.h"
 
-#include <PxXMLParser.h>
-
 #include <QRegularExpression>
 
 namespace {
@@ -43,7 +41,7 @@ void PxProductTypesCheck::checkMisspelt(const PxSourceElement &root) const
 void PxProductTypesCheck::checkRow(const PxSourceElement &row)
 {
     const QString codeText = row.value("code");
-    const int code = PxXMLParser::intAttribute(row.dom, "code", 0);
+    const int code = row.number("code");
     const QString name = row.value("name").trimmed();
     const QString key = name.toCaseFolded();
     if (!readingOf(row).isReadable("code"))

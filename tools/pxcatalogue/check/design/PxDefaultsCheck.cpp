@@ -110,7 +110,11 @@ void PxDefaultsCheck::checkTemplates(const PxDefaultsEntry &entry) const
     names.erase(std::remove_if(names.begin(), names.end(),
                                [](const PxSourcePart &name) { return name.text.isEmpty(); }),
                 names.end());
-    if (names.isEmpty())
+    const bool isElsewhere =
+        entry.element().attribute("background") || entry.element().attribute("layout");
+    // Two names are background and layout. The library is asked about the others only: it takes
+    // long.
+    if (names.isEmpty() || (names.size() <= 2 && !isElsewhere))
         return;
     const PxDefaultsEntry::Templates used = entry.templates();
     const auto lost = std::find_if(names.begin(), names.end(), [&](const PxSourcePart &name) {

@@ -22,8 +22,8 @@ const PxElementRow &entryRow()
 /** The value, or the default if the attribute is missing. */
 QString listOf(const PxSourceElement &entry, const char *attribute)
 {
-    return entry.dom.attribute(
-        attribute, QLatin1String(PxFormat::attribute(entryRow(), attribute)->defaultText));
+    const PxSourceAttribute *own = entry.attribute(attribute);
+    return own ? own->value : PxFormat::attribute(entryRow(), attribute)->defaultText;
 }
 
 bool isPlainEntry(const PxSourceElement &element)
@@ -55,17 +55,17 @@ PxDefaultsEntry::PxDefaultsEntry(const PxSourceElement &element)
 
 PxDefaultsEntry::Templates PxDefaultsEntry::templates() const
 {
-    // With a theme and a page that the library finds in any case.
+    // With a theme and a page that the library finds in any case. Large files ask this often.
+    const QString theme = QStringLiteral("normal");
     QDomDocument document;
-    QDomElement parent = document.createElement("defaults");
+    QDomElement parent = document.createElement(QStringLiteral("defaults"));
     QDomElement entry = document.importNode(m_element->dom, false).toElement();
-    entry.setAttribute("theme", "normal");
-    entry.setAttribute("pageType", "normalpage");
-    entry.setAttribute("alignment", "left");
+    entry.setAttribute(QStringLiteral("theme"), theme);
+    entry.setAttribute(QStringLiteral("pageType"), QStringLiteral("normalpage"));
+    entry.setAttribute(QStringLiteral("alignment"), QStringLiteral("left"));
     parent.appendChild(entry);
     const PxDefaultTemplateMap map(parent);
     const PxPageContext page(PxPageTypeNormalPage, PxPageAlignmentLeft);
-    constexpr const char *theme = "normal";
     return {map.findTemplate({theme, page, DefaultTemplateTypeLayout}, false),
             map.findTemplate({theme, page, DefaultTemplateTypeBackground}, false)};
 }

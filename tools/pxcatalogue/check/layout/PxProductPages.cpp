@@ -3,8 +3,6 @@
 #include "check/PxCheckLimits.h"
 #include "check/rules/PxElementReading.h"
 
-#include <PxXMLParser.h>
-
 #include <QSet>
 
 #include <algorithm>
@@ -93,7 +91,7 @@ QVector<int> PxProductPages::pageCountsOfBook() const
     const auto ofTable =
         spines ? spines->childrenNamed("spine") : QVector<const PxSourceElement *>();
     for (const PxSourceElement *spine : ofTable)
-        counts.insert(PxXMLParser::intAttribute(spine->dom, "pages", 0));
+        counts.insert(spine->number("pages"));
     QVector<int> sorted(counts.begin(), counts.end());
     std::sort(sorted.begin(), sorted.end());
     return sorted;

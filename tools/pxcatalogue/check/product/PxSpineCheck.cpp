@@ -4,8 +4,6 @@
 #include "check/words/PxMessageText.h"
 #include "check/words/PxSpelling.h"
 
-#include <PxXMLParser.h>
-
 #include <algorithm>
 #include <iterator>
 
@@ -17,7 +15,7 @@ constexpr const char *maxFontHeight = "maxfontheight";
 
 int widthOf(const PxSourceElement &spine)
 {
-    return PxXMLParser::intAttribute(spine.dom, width, 0);
+    return spine.number(width);
 }
 
 /** If not, the check of names and values reports it. */

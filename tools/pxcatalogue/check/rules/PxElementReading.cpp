@@ -91,7 +91,7 @@ PxMissingPart PxElementReading::missingText() const
 bool PxElementReading::isReadable(const char *attribute) const
 {
     const PxSourceAttribute *own = m_element.attribute(attribute);
-    const PxAttributeRow *row = own ? PxFormat::attribute(m_row, attribute) : nullptr;
+    const PxAttributeRow *row = own ? PxFormat::attribute(m_row, own->name) : nullptr;
     return !row || isReadable(m_element, *own, *row);
 }
 
@@ -125,7 +125,7 @@ bool PxElementReading::isReadable(const PxSourceElement &element,
 
 int PxElementReading::number(const char *attribute, int absent) const
 {
-    return PxXMLParser::intAttribute(m_element.dom, attribute, absent);
+    return m_element.number(attribute, absent);
 }
 
 QString PxElementReading::meant(const QString &name) const

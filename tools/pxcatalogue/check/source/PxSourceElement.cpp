@@ -1,5 +1,7 @@
 #include "check/source/PxSourceElement.h"
 
+#include <PxXMLParser.h>
+
 #include <algorithm>
 
 QString PxSourceNode::kindText(Kind kind)
@@ -18,10 +20,9 @@ QString PxSourceNode::kindText(Kind kind)
 
 const PxSourceAttribute *PxSourceElement::attribute(const char *attributeName) const
 {
-    const auto found =
-        std::find_if(attributes.begin(), attributes.end(), [&](const PxSourceAttribute &a) {
-            return a.name == QLatin1String(attributeName);
-        });
+    const QLatin1String wanted(attributeName);
+    const auto found = std::find_if(attributes.begin(), attributes.end(),
+                                    [&](const PxSourceAttribute &a) { return a.name == wanted; });
     return found == attributes.end() ? nullptr : found;
 }
 
@@ -29,6 +30,12 @@ QString PxSourceElement::value(const char *attributeName) const
 {
     const PxSourceAttribute *found = attribute(attributeName);
     return found ? found->value : QString();
+}
+
+int PxSourceElement::number(const char *attributeName, int absent) const
+{
+    const PxSourceAttribute *found = attribute(attributeName);
+    return found ? PxXMLParser::intAttribute(dom, found->name, absent) : absent;
 }
 
 PxSourceRange PxSourceElement::rangeOf(const char *attributeName) const
@@ -39,20 +46,20 @@ PxSourceRange PxSourceElement::rangeOf(const char *attributeName) const
 
 const PxSourceElement *PxSourceElement::firstChild(const char *childName) const
 {
+    const QLatin1String wanted(childName);
     const auto found =
-        std::find_if(children.begin(), children.end(), [&](const PxSourceElement *child) {
-            return child->name == QLatin1String(childName);
-        });
+        std::find_if(children.begin(), children.end(),
+                     [&](const PxSourceElement *child) { return child->name == wanted; });
     return found == children.end() ? nullptr : *found;
 }
 
 QVector<const PxSourceElement *> PxSourceElement::childrenNamed(const char *childName) const
 {
-    QVector<const PxSourceElement *> named;
-    std::copy_if(
-        children.begin(), children.end(), std::back_inserter(named),
-        [&](const PxSourceElement *child) { return child->name == QLatin1String(childName); });
-    return named;
+    const QLatin1String wanted(childName);
+    QVector<const PxSourceElement *> found;
+    std::copy_if(children.begin(), children.end(), std::back_inserter(found),
+                 [&](const PxSourceElement *child) { return child->name == wanted; });
+    return found;
 }
 
 PxSourceRange PxSourceElement::textRange() const

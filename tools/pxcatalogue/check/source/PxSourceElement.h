@@ -53,6 +53,8 @@ public:
     const PxSourceAttribute *attribute(const char *attributeName) const;
     /** An empty text when there is no such attribute. */
     QString value(const char *attributeName) const;
+    /** The value of an attribute as the library reads a whole number. */
+    int number(const char *attributeName, int absent = 0) const;
     /** The value of an attribute; the name of the element when it is not there. */
     PxSourceRange rangeOf(const char *attributeName) const;
     /** Null when there is none. */
