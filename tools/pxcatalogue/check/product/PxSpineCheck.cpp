@@ -296,25 +296,8 @@ void PxSpineCheck::checkSellingPages() const
 void PxSpineCheck::checkSpinePage() const
 {
     const bool isBookWithoutTable = m_product.type().isBook() && m_rowCount == 0;
-    // Says in one finding that the width has another name and what follows from it.
-    const bool isEveryWidthKnown =
-        m_isComplete &&
-        std::all_of(m_spines.begin(), m_spines.end(), [](const PxSourceElement *spine) {
-            return PxElementReading(*spine).isReadable(width);
-        });
-    const PxElementReading product(m_product.element());
-    const PxMissingPart missing = m_spines.isEmpty()
-                                      ? product.missingChild("spines")
-                                      : PxElementReading(*m_spines.first()).missing(width);
-    const PxPageEntry *spinePage = m_pages.spine();
-    if (spinePage && !hasWidth() && isEveryWidthKnown && !isBookWithoutTable)
-        m_report
-            .add(PxTag::SpinePageWithoutTable,
-                 missing.hint.isEmpty() ? spinePage->range : missing.range,
-                 "a spine among the pages, but no width in \"spines\"")
-            .now("the spine is %1 wide",
-                 m_product.description().spineWidth(m_spines.isEmpty() ? 0 : m_spines.firstKey()))
-            .hint(missing.hintOr("give its width, or take the spine out"));
+    if (m_pages.spine() && !hasWidth() && !isBookWithoutTable && isEveryWidthReadable())
+        addPageWithoutTable(*m_pages.spine());
     if (m_pages.isGiven() && m_pages.isSound() && !m_product.description().hasSpine() && hasWidth())
         m_report
             .add(PxTag::SpineWithoutPage, m_table->nameRange,
@@ -322,4 +305,26 @@ void PxSpineCheck::checkSpinePage() const
             .now("the product has no spine; a cover half is %1 wide",
                  m_product.description().coverSize().width())
             .hint("add \"spine\" to the pages, or give the width 0");
+}
+
+bool PxSpineCheck::isEveryWidthReadable() const
+{
+    return m_isComplete &&
+           std::all_of(m_spines.begin(), m_spines.end(), [](const PxSourceElement *spine) {
+               return PxElementReading(*spine).isReadable(width);
+           });
+}
+
+/** Says in one finding that the width has another name and what follows from it. */
+void PxSpineCheck::addPageWithoutTable(const PxPageEntry &spinePage) const
+{
+    const PxMissingPart missing = m_spines.isEmpty()
+                                      ? PxElementReading(m_product.element()).missingChild("spines")
+                                      : PxElementReading(*m_spines.first()).missing(width);
+    m_report
+        .add(PxTag::SpinePageWithoutTable, missing.hint.isEmpty() ? spinePage.range : missing.range,
+             "a spine among the pages, but no width in \"spines\"")
+        .now("the spine is %1 wide",
+             m_product.description().spineWidth(m_spines.isEmpty() ? 0 : m_spines.firstKey()))
+        .hint(missing.hintOr("give its width, or take the spine out"));
 }

@@ -33,6 +33,8 @@ private:
     void checkTextHeights() const;
     void checkSellingPages() const;
     void checkSpinePage() const;
+    bool isEveryWidthReadable() const;
+    void addPageWithoutTable(const PxPageEntry &spinePage) const;
     bool hasWidth() const;
 
     const PxCheckedProduct &m_product;

@@ -65,7 +65,11 @@ void PxRuleCheck::checkElement(const PxSourceElement &element, const PxElementRo
         hasFailed = false;
         if (rule->needs && element.value(rule->needs).isEmpty())
             continue;
-        Value value{rule->name ? element.value(rule->name) : element.dom.text().trimmed()};
+        const PxSourceAttribute *attribute = rule->name ? element.attribute(rule->name) : nullptr;
+        Value value{attribute    ? attribute->value
+                    : rule->name ? QString()
+                                 : element.dom.text().trimmed(),
+                    attribute || !rule->name};
         hasFailed = !holds(*rule, reading, &value);
         if (hasFailed)
             add(*rule, reading, value);
@@ -76,10 +80,9 @@ void PxRuleCheck::checkElement(const PxSourceElement &element, const PxElementRo
 bool PxRuleCheck::holds(const PxRule &rule, const PxElementReading &reading, Value *value)
 {
     using Kind = PxRule::Test::Kind;
-    const bool isGiven = !rule.name || reading.isGiven(rule.name);
     switch (rule.test.kind) {
     case Kind::Given:
-        return isGiven;
+        return value->isGiven;
     case Kind::HasChild:
         return reading.element().firstChild(rule.name);
     case Kind::NotEmpty:
@@ -87,10 +90,12 @@ bool PxRuleCheck::holds(const PxRule &rule, const PxElementReading &reading, Val
     case Kind::NotBlank:
         return !value->text.trimmed().isEmpty();
     case Kind::AtLeast:
+        if (!value->isGiven || reading.number(rule.name, rule.test.least) >= rule.test.least)
+            return true; // also if it cannot be read
         value->text = QString::number(reading.number(rule.name));
-        return !reading.isNumber(rule.name) || reading.number(rule.name) >= rule.test.least;
+        return false;
     case Kind::Matching:
-        return !isGiven || rule.test.matches(value->text);
+        return !value->isGiven || rule.test.matches(value->text);
     case Kind::Unique:
         return isFirst(rule, reading.element(), value);
     }

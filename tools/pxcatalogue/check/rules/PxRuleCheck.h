@@ -26,6 +26,7 @@ private:
     struct Value
     {
         QString text;
+        bool isGiven;
         const PxSourceElement *sameBefore = nullptr; ///< the element that has it already
     };
 
