@@ -185,14 +185,13 @@ void PxCheck::checkProduct(const PxCheckedFile &file, bool isLegacy)
 {
     const PxReporter report = reporterFor(file);
     const PxCheckedProduct product(file, isLegacy);
-    const PxPageEntries entries(product);
     PxProductCheck(product, m_types, report).run();
     PxSizeCheck size(product, report);
     size.run();
-    PxMarginCheck(product, entries, report).run();
-    PxPagesCheck(product, entries, report).run();
-    PxSpineCheck(product, entries, report).run();
-    const PxProductPages pages(product, entries);
+    PxMarginCheck(product, report).run();
+    PxPagesCheck(product, report).run();
+    PxSpineCheck(product, report).run();
+    const PxProductPages pages(product);
     PxRedirectCheck(product, report).run();
     PxSurroundingCheck(product, pages, m_images, report).run();
     PxBarcodeCheck(product, pages, size.isInOtherUnit(), m_images, report).run();

@@ -16,9 +16,7 @@ bool isSingle(const PxPageEntry &entry)
 
 } // namespace
 
-PxProductPages::PxProductPages(const PxCheckedProduct &product, const PxPageEntries &entries)
-    : m_product(product)
-    , m_entries(entries)
+PxProductPages::PxProductPages(const PxCheckedProduct &product) : m_product(product)
 {
     if (!isPlain())
         return;
@@ -43,12 +41,13 @@ bool PxProductPages::isPlain() const
 {
     const PxSourceElement &element = m_product.element();
     const PxElementReading reading(element);
-    bool isPlain = m_entries.isGiven() && m_product.type().isValid();
+    bool isPlain = m_product.pages().isGiven() && m_product.type().isValid();
     for (const char *attribute :
          {"binding", "numOfNormalPages", "horizontalPages", "cardStyleAlignment",
           "varioSingleCardStyleAlignment", "collegeBlockStyleAlignment"})
         isPlain = isPlain && reading.isReadable(attribute) && !reading.isMisspelt(attribute);
-    return isPlain && std::all_of(m_entries.read().begin(), m_entries.read().end(), isSingle);
+    return isPlain &&
+           std::all_of(m_product.pages().read().begin(), m_product.pages().read().end(), isSingle);
 }
 
 QVector<int> PxProductPages::pageCounts() const
@@ -101,7 +100,7 @@ QVector<int> PxProductPages::pageCountsOfBook() const
 QVector<PxPageTypeEnum> PxProductPages::pagesWith(int normalPageCount) const
 {
     QVector<PxPageTypeEnum> pages;
-    for (const PxPageEntry &entry : m_entries.read()) {
+    for (const PxPageEntry &entry : m_product.pages().read()) {
         if (entry.isRange())
             pages.insert(pages.size(), normalPageCount, PxPageTypeNormalPage);
         else

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "check/source/PxPageEntries.h"
+#include "check/source/PxCheckedProduct.h"
 
 #include <QVector>
 
@@ -21,8 +21,8 @@ public:
         QVector<PxPageTypeEnum> pages;
     };
 
-    /** Both must outlive this. */
-    PxProductPages(const PxCheckedProduct &product, const PxPageEntries &entries);
+    /** The product must outlive this. */
+    explicit PxProductPages(const PxCheckedProduct &product);
 
     /** False if the page list is ambiguous. Checks that depend on page numbers are skipped then. */
     bool isKnown() const { return !m_layouts.isEmpty(); }
@@ -43,7 +43,6 @@ private:
     void collectPages();
 
     const PxCheckedProduct &m_product;
-    const PxPageEntries &m_entries;
     QVector<Layout> m_layouts;
     QVector<Page> m_pages;
     PxPageType m_pageTypes;

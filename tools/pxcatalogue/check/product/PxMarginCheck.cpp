@@ -17,10 +17,8 @@ QString sizeText(const QSize &size)
 
 } // namespace
 
-PxMarginCheck::PxMarginCheck(const PxCheckedProduct &product, const PxPageEntries &pages,
-                             const PxReporter &report)
+PxMarginCheck::PxMarginCheck(const PxCheckedProduct &product, const PxReporter &report)
     : m_product(product)
-    , m_pages(pages)
     , m_report(report)
     , m_size(product.description().usablePrintSize(PxPageTypeNormalPage, 0))
 {}
@@ -63,10 +61,11 @@ bool PxMarginCheck::hasSmallCover() const
     if (cover.width() >= m_size.width() && cover.height() >= m_size.height())
         return false;
     // Clear foils and the covers of calendars are as large as the pages, whatever is added.
-    return std::any_of(m_pages.read().begin(), m_pages.read().end(), [&](const PxPageEntry &page) {
-        return !page.type.hasValue(PxPageTypeSpine) &&
-               m_product.description().usablePrintSize(page.type, 0) != m_size;
-    });
+    return std::any_of(m_product.pages().read().begin(), m_product.pages().read().end(),
+                       [&](const PxPageEntry &page) {
+                           return !page.type.hasValue(PxPageTypeSpine) &&
+                                  m_product.description().usablePrintSize(page.type, 0) != m_size;
+                       });
 }
 
 void PxMarginCheck::checkCover() const

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "check/findings/PxReporter.h"
-#include "check/source/PxPageEntries.h"
+#include "check/source/PxCheckedProduct.h"
 
 #include <QSize>
 
@@ -9,9 +9,8 @@
 class PxMarginCheck
 {
 public:
-    /** Both must outlive the check. */
-    PxMarginCheck(const PxCheckedProduct &product, const PxPageEntries &pages,
-                  const PxReporter &report);
+    /** The product must outlive the check. */
+    PxMarginCheck(const PxCheckedProduct &product, const PxReporter &report);
 
     void run();
 
@@ -23,7 +22,6 @@ private:
     bool hasSmallCover() const;
 
     const PxCheckedProduct &m_product;
-    const PxPageEntries &m_pages;
     const PxReporter m_report;
     QSize m_size; // as the library reads it
 };

@@ -53,15 +53,15 @@ bool isCover(const PxPageEntry &entry)
 
 void PxPagesCheck::run()
 {
-    if (!m_pages.isGiven()) {
+    if (!m_product.pages().isGiven()) {
         checkPresence();
         return;
     }
     checkCount();
-    for (const PxPageEntry &entry : m_pages.read())
+    for (const PxPageEntry &entry : m_product.pages().read())
         checkEntry(entry);
     // If a page is left out, all others have another position.
-    if (!m_pages.isSound())
+    if (!m_product.pages().isSound())
         return;
     if (checkCoverPosition())
         checkSpinePosition();
@@ -89,12 +89,12 @@ QString PxPagesCheck::nowWithoutPages() const
 /** For a product without this entry. */
 QString PxPagesCheck::nowWithout(const PxPageEntry &entry) const
 {
-    if (!m_pages.hasPage())
+    if (!m_product.pages().hasPage())
         return nowWithoutPages();
     if (isRangeMissing())
         return QString("it is left out, and the book has %1 pages, whatever page count is ordered")
             .arg(m_product.description().pageTypes(1).size());
-    const bool isLast = std::all_of(&entry + 1, m_pages.read().end(),
+    const bool isLast = std::all_of(&entry + 1, m_product.pages().read().end(),
                                     [](const PxPageEntry &next) { return next.type.isNull(); });
     return isLast ? "it is left out" : "it is left out, and the pages behind it move up";
 }
@@ -102,7 +102,7 @@ QString PxPagesCheck::nowWithout(const PxPageEntry &entry) const
 bool PxPagesCheck::isRangeMissing() const
 {
     return m_product.type().isBook() &&
-           std::none_of(m_pages.read().begin(), m_pages.read().end(),
+           std::none_of(m_product.pages().read().begin(), m_product.pages().read().end(),
                         [](const PxPageEntry &entry) { return entry.isRange(); });
 }
 
@@ -118,12 +118,12 @@ bool PxPagesCheck::hasSeveralPages() const
 
 void PxPagesCheck::checkCount() const
 {
-    if (m_pages.droppedCount() == 0)
+    if (m_product.pages().droppedCount() == 0)
         return;
     m_report
-        .add(PxTag::PagesTooMany, m_pages.firstDropped(), "a list of %1 pages",
-             m_pages.read().size() + m_pages.droppedCount())
-        .now("the first %1 are used", m_pages.read().size())
+        .add(PxTag::PagesTooMany, m_product.pages().firstDropped(), "a list of %1 pages",
+             m_product.pages().read().size() + m_product.pages().droppedCount())
+        .now("the first %1 are used", m_product.pages().read().size())
         .hint("write \"normalpages\" for all normal pages");
 }
 
@@ -134,9 +134,10 @@ void PxPagesCheck::checkEntry(const PxPageEntry &entry) const
             PxElementReading(*m_product.element().firstChild("pages")).missingText();
         m_report
             .add(PxTag::PagesEntryEmpty, text.hint.isEmpty() ? entry.range : text.range,
-                 m_pages.read().size() == 1 ? "the list of pages is empty"
-                                            : "an empty entry in the list of pages")
-            .now(m_pages.hasPage() ? "it is left out, with a warning each time" : nowWithoutPages())
+                 m_product.pages().read().size() == 1 ? "the list of pages is empty"
+                                                      : "an empty entry in the list of pages")
+            .now(m_product.pages().hasPage() ? "it is left out, with a warning each time"
+                                             : nowWithoutPages())
             .hint(text.hint);
     } else if (entry.type.isNull()) {
         m_report.add(PxTag::PagesEntryUnknown, entry.range, "\"%1\" is no type of page", entry.text)
@@ -154,12 +155,13 @@ void PxPagesCheck::checkEntry(const PxPageEntry &entry) const
 /** Whether nothing was found. */
 bool PxPagesCheck::checkCoverPosition() const
 {
-    const auto cover = std::find_if(m_pages.read().begin(), m_pages.read().end(), isCover);
-    if (m_product.description().hasCover() || cover == m_pages.read().end())
+    const auto cover =
+        std::find_if(m_product.pages().read().begin(), m_product.pages().read().end(), isCover);
+    if (m_product.description().hasCover() || cover == m_product.pages().read().end())
         return true;
     m_report
         .add(PxTag::CoverNotFirst, cover->range, "a cover, but the list begins with \"%1\"",
-             m_pages.read().constFirst().text)
+             m_product.pages().read().constFirst().text)
         .now("the product counts as one without cover")
         .hint("begin with the cover");
     return false;
@@ -168,7 +170,7 @@ bool PxPagesCheck::checkCoverPosition() const
 void PxPagesCheck::checkSpinePosition() const
 {
     int page = 0;
-    for (const PxPageEntry &entry : m_pages.read()) {
+    for (const PxPageEntry &entry : m_product.pages().read()) {
         const PxPageAlignment alignment = m_product.description().pageAlignment(page);
         if (entry.type.hasValue(PxPageTypeSpine) && !m_product.description().isSimplex() &&
             alignment != PxPageAlignmentMiddle && alignment != PxPageAlignmentCenter)
@@ -186,8 +188,8 @@ void PxPagesCheck::checkRange() const
     if (!isRangeMissing())
         return;
     m_report
-        .add(PxTag::PagesRangeMissing, m_pages.read().constFirst().range,
+        .add(PxTag::PagesRangeMissing, m_product.pages().read().constFirst().range,
              "a book whose list of pages has no \"normalpages\"")
-        .now("it has %1 pages, whatever page count is ordered", m_pages.read().size())
+        .now("it has %1 pages, whatever page count is ordered", m_product.pages().read().size())
         .hint("write \"normalpages\" where the pages of the book are");
 }

@@ -1,17 +1,15 @@
 #pragma once
 
 #include "check/findings/PxReporter.h"
-#include "check/source/PxPageEntries.h"
+#include "check/source/PxCheckedProduct.h"
 
 /** Checks the list of pages. */
 class PxPagesCheck
 {
 public:
-    /** Both must outlive the check. */
-    PxPagesCheck(const PxCheckedProduct &product, const PxPageEntries &pages,
-                 const PxReporter &report)
+    /** The product must outlive the check. */
+    PxPagesCheck(const PxCheckedProduct &product, const PxReporter &report)
         : m_product(product)
-        , m_pages(pages)
         , m_report(report)
     {}
 
@@ -31,6 +29,5 @@ private:
     void checkRange() const;
 
     const PxCheckedProduct &m_product;
-    const PxPageEntries &m_pages;
     const PxReporter m_report;
 };

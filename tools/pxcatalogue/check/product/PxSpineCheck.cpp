@@ -27,10 +27,8 @@ bool isWidthKnown(const PxSourceElement &spine)
 
 } // namespace
 
-PxSpineCheck::PxSpineCheck(const PxCheckedProduct &product, const PxPageEntries &pages,
-                           const PxReporter &report)
+PxSpineCheck::PxSpineCheck(const PxCheckedProduct &product, const PxReporter &report)
     : m_product(product)
-    , m_pages(pages)
     , m_report(report)
     , m_table(product.element().firstChild("spines"))
 {}
@@ -296,9 +294,10 @@ void PxSpineCheck::checkSellingPages() const
 void PxSpineCheck::checkSpinePage() const
 {
     const bool isBookWithoutTable = m_product.type().isBook() && m_rowCount == 0;
-    if (m_pages.spine() && !hasWidth() && !isBookWithoutTable && isEveryWidthReadable())
-        addPageWithoutTable(*m_pages.spine());
-    if (m_pages.isGiven() && m_pages.isSound() && !m_product.description().hasSpine() && hasWidth())
+    if (m_product.pages().spine() && !hasWidth() && !isBookWithoutTable && isEveryWidthReadable())
+        addPageWithoutTable(*m_product.pages().spine());
+    if (m_product.pages().isGiven() && m_product.pages().isSound() &&
+        !m_product.description().hasSpine() && hasWidth())
         m_report
             .add(PxTag::SpineWithoutPage, m_table->nameRange,
                  "spines with a width, but \"pages\" lists no spine")

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "check/findings/PxReporter.h"
-#include "check/source/PxPageEntries.h"
+#include "check/source/PxCheckedProduct.h"
 
 #include <QMap>
 
@@ -9,9 +9,8 @@
 class PxSpineCheck
 {
 public:
-    /** Both must outlive the check. */
-    PxSpineCheck(const PxCheckedProduct &product, const PxPageEntries &pages,
-                 const PxReporter &report);
+    /** The product must outlive the check. */
+    PxSpineCheck(const PxCheckedProduct &product, const PxReporter &report);
 
     void run();
 
@@ -38,7 +37,6 @@ private:
     bool hasWidth() const;
 
     const PxCheckedProduct &m_product;
-    const PxPageEntries &m_pages;
     const PxReporter m_report;
     const PxSourceElement *m_table; // null when there is none
     int m_rowCount = 0;

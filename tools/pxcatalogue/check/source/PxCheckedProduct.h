@@ -1,6 +1,6 @@
 #pragma once
 
-#include "check/source/PxCheckedFile.h"
+#include "check/source/PxPageEntries.h"
 
 #include <PxProductType.h>
 #include <description/PxProductTypeDescription.h>
@@ -16,6 +16,8 @@ public:
     const PxSourceElement &element() const { return m_element; }
     PxProductType type() const { return m_type; }
     const PxProductTypeDescription &description() const { return m_description; }
+    /** The list of its pages. */
+    const PxPageEntries &pages() const { return m_pages; }
     /** Lies in the directory of older products. */
     bool isLegacy() const { return m_isLegacy; }
 
@@ -24,5 +26,6 @@ private:
     const PxSourceElement &m_element;
     PxProductType m_type;
     PxProductTypeDescription m_description;
+    PxPageEntries m_pages;
     bool m_isLegacy;
 };

@@ -11,14 +11,14 @@ bool PxPageEntry::isRange(const PxPageType &type)
     return type.matches(static_cast<PxPageTypeEnum>(ranges));
 }
 
-PxPageEntries::PxPageEntries(const PxCheckedProduct &product)
+PxPageEntries::PxPageEntries(const PxCheckedFile &file, const PxSourceElement &product, int maximum)
 {
-    const PxSourceElement *pages = product.element().firstChild("pages");
+    const PxSourceElement *pages = product.firstChild("pages");
     m_isGiven = pages != nullptr;
     if (!pages)
         return;
-    const PxSourceList list = PxSourceParts::ofText(product.file(), *pages);
-    for (const PxSourcePart &part : list.parts.mid(0, product.description().countAbstractPages()))
+    const PxSourceList list = PxSourceParts::ofText(file, *pages);
+    for (const PxSourcePart &part : list.parts.mid(0, maximum))
         m_read.append({part.text.trimmed(), PxPageType(part.text), part.range});
     m_droppedCount = list.count - m_read.size();
     if (m_droppedCount > 0)

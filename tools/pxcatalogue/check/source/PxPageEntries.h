@@ -1,6 +1,6 @@
 #pragma once
 
-#include "check/source/PxCheckedProduct.h"
+#include "check/source/PxCheckedFile.h"
 
 #include <values/PxPageTypeList.h>
 
@@ -23,7 +23,8 @@ struct PxPageEntry
 class PxPageEntries
 {
 public:
-    explicit PxPageEntries(const PxCheckedProduct &product);
+    /** Of the first element "pages" in the product; so many entries are read. */
+    PxPageEntries(const PxCheckedFile &file, const PxSourceElement &product, int maximum);
 
     /** The product has a page list, be it empty. */
     bool isGiven() const { return m_isGiven; }
