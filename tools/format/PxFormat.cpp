@@ -7,7 +7,7 @@
 
 namespace {
 
-/** Compares letter by letter: nearly all names differ in the first ones. */
+/** Compares letter by letter, because nearly all names differ within the first few. */
 bool isNamed(const char *rowName, const QString &name)
 {
     for (const QChar character : name) {

@@ -2,7 +2,7 @@
 
 #include "format/PxFormatRows.h"
 
-// The document elements with everything below them; each kind is defined in the file of its name.
+// The document element of each kind of file, with everything below it.
 extern const PxElementRow productFileRow;
 extern const PxElementRow userDefaultsFileRow;
 extern const PxElementRow themeFileRow;

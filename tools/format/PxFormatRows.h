@@ -68,16 +68,17 @@ enum class PxValueType {
 /**
  * What the documentation of the file format says about an attribute, in Markdown.
  *
- * Type and absent, if they are null, are derived from the facts.
+ * If `type` or `absent` is null, the cell is derived from the other fields of the row.
  */
 struct PxAttributeCells
 {
-    /** Null if the attribute shares the line of the table with the one before. */
+    /** Null if the attribute shares the table line of the attribute before it. */
     const char *meaning = nullptr;
     const char *absent = nullptr; ///< what is used if it is absent or unreadable
     /**
-     * The section that documents the attribute, if not the main table of the element does. The main
-     * table has one line for all neighbours of the same section, with this text as meaning.
+     * A reference to the section that documents the attribute, if the main table of the element
+     * does not. That table has one line for adjacent attributes with the same reference, which is
+     * then the meaning.
      */
     const char *section = nullptr;
     const char *type = nullptr;
@@ -88,12 +89,12 @@ struct PxAttributeRow
 {
     const char *name;
     PxValueType type;
-    /** A value that is read like a missing attribute; null if there is none. May be empty. */
+    /** The text that the library reads like a missing attribute, or null if no text does that. */
     const char *defaultText;
     PxAttributeCells cells;
     /**
-     * What follows if it is absent or unreadable, beyond the default; "none" if the default is
-     * nothing. Plain text, with names in quotes.
+     * What happens if the attribute is absent or unreadable, apart from using the default; "none"
+     * if the default means that there is no value. Plain text, with names in quotes.
      */
     const char *consequence = nullptr;
     PxKeywordSet keywords = PxKeywordSet::None;
@@ -101,14 +102,14 @@ struct PxAttributeRow
     int least = std::numeric_limits<int>::min();
 };
 
-/** How many elements of a name, or of any name, count below the same parent. */
+/** Which of the children of an element the library reads. */
 enum class PxOccurrence {
-    First,   ///< the first of the name
-    Any,     ///< all of the name
-    AnyName, ///< all, whatever their name; the name in the row is the usual one
+    First,   ///< the first with the name
+    Any,     ///< all with the name
+    AnyName, ///< all, whatever their names; the row has the usual name
 };
 
-/** What the library reads the text between the tags of an element as. */
+/** How the library reads the text between the tags of an element. */
 enum class PxTextKind { None, Text, Integer, NumberList, PageTypes, ProductName };
 
 /** What the documentation of the file format says about an element, in Markdown. */
@@ -116,7 +117,7 @@ struct PxElementCells
 {
     const char *meaning;
     const char *contents = nullptr; ///< in the columns "Contents" and "Type"
-    const char *absent = nullptr;   ///< instead of the fact
+    const char *absent = nullptr;   ///< replaces PxElementRow::absent
 };
 
 /** An element, and what it may contain. */
@@ -138,7 +139,7 @@ struct PxKeywordCells
     int value;
     const char *meaning;        ///< may be empty
     const char *size = nullptr; ///< of a page of this type
-    const char *note = nullptr; ///< behind the keyword
+    const char *note = nullptr; ///< in parentheses after the keyword
 };
 
 /** A keyword with its value and meaning. */
@@ -162,6 +163,6 @@ struct PxKeywordSetRow
     const char *defaultText; ///< the same in words
     /** Asks the library whether it knows a word. */
     bool (*isKeyword)(const QString &word);
-    /** Asks the library what it reads a text as; in most sets the text may be a list. */
+    /** Asks the library which value it reads from a text; in most sets this may be a list. */
     int (*decode)(const QString &text);
 };

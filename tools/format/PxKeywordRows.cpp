@@ -113,7 +113,7 @@ constexpr PxKeywordCells productGroups[] = {
     {PxProductGroupDfmFoto, "prints of the kind `dfm`"},
     {PxProductGroupProfessionalFoto, "professional prints"},
 };
-// The platform keeps these keywords to itself; a test holds both against each other.
+// The platform does not publish these keywords; a test checks that it decodes them like this.
 constexpr PxKeyword<PxOrientationEnum> orientations[] = {
     {"portrait", PxOrientationPortrait},
     {"landscape", PxOrientationLandscape},
@@ -133,7 +133,7 @@ constexpr PxKeyword<PxProductClass> productClasses[] = {
 };
 // clang-format on
 
-/** The keywords in their order, but synonyms behind the first keyword of the value. */
+/** Keeps the order of the keywords, but puts synonyms behind the first keyword of their value. */
 template <typename ENUM, std::size_t COUNT>
 QVector<PxKeywordTableRow> tableOf(const PxKeyword<ENUM> (&keywords)[COUNT],
                                    PxRows<PxKeywordCells> cells = {})
@@ -154,10 +154,10 @@ QVector<PxKeywordTableRow> tableOf(const PxKeyword<ENUM> (&keywords)[COUNT],
     return table;
 }
 
-// No keyword stands for the sign bit alone.
+// The sign bit alone, which is the value of no keyword.
 constexpr int noKeyword = std::numeric_limits<int>::min();
 
-/** A set whose words the library decodes by an enumeration's table; it reads lists of them. */
+/** A set that the library decodes with the table of an enumeration, as lists. */
 template <typename WRAPPER>
 PxKeywordSetRow tableSet(PxKeywordSet set, const char *name, const char *defaultText,
                          const QVector<PxKeywordTableRow> &keywords)
@@ -167,7 +167,7 @@ PxKeywordSetRow tableSet(PxKeywordSet set, const char *name, const char *default
         return WRAPPER().enumToStringTable()->decode(word, none) != none;
     };
     const auto decode = [](const QString &text) {
-        int undecodable = pxMaximumMessages; // no message: findings report what is no keyword
+        int undecodable = pxMaximumMessages; // logs nothing: findings report unknown keywords
         return int(WRAPPER().enumToStringTable()->decodeCSV(text, undecodable));
     };
     return {set, name, keywords, decode(QString()), defaultText, isKeyword, decode};
@@ -175,7 +175,7 @@ PxKeywordSetRow tableSet(PxKeywordSet set, const char *name, const char *default
 
 enum class Reading { Word, List };
 
-/** A set whose words the library decodes by a map of them. */
+/** A set that the library decodes with a map of keywords. */
 template <const auto &keywords, auto fallback, Reading reading>
 PxKeywordSetRow mapSet(PxKeywordSet set, const char *name, const char *defaultText,
                        PxRows<PxKeywordCells> cells = {})

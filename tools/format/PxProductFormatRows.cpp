@@ -78,7 +78,7 @@ constexpr PxAttributeRow surroundingAttributes[] = {
 };
 constexpr PxAttributeRow defaultsAttributes[] = {
     {"theme", Type::TextList, "normal", {"theme ids, compared exactly; ids of themes are lower case"}},
-    {"pageType", Type::KeywordList, "", {"[page types](#page-types)", "empty: found for no page type"}, "found for no page type", Set::PageType},
+    {"pageType", Type::KeywordList, "", {"[page types](#page-types)", "empty: no page finds the entry"}, "no page finds the entry", Set::PageType},
     {"alignment", Type::KeywordList, "left,right,top,bottom,center,middle", {"[positions](#alignments); an unknown or empty entry counts as `left`"}, nullptr, Set::Alignment},
     {"templates", Type::TextList, "", {"short form: background, then layout"}},
     {"layout", Type::Text, nullptr, {"layout template"}, "second name of \"templates\" when it has exactly two"},
