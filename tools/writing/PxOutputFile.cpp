@@ -12,7 +12,7 @@
 
 namespace {
 
-/** The error of the system, and what helps. */
+/** The error of the system, and what the user can do. */
 std::optional<PxProblem> problemOf(int error)
 {
     if (error == 0)
@@ -32,10 +32,10 @@ std::optional<PxProblem> replace(const QString &path, const QByteArray &contents
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return problemOf(file);
-    // Not through the buffer of QSaveFile, whose last write and fsync() are not checked.
+    // Bypasses the buffer of QSaveFile, which does not check its last write nor its fsync().
     int error = PxOutputFile::write(file.handle(), contents);
     if (error == 0 && fsync(file.handle()) != 0 &&
-        errno != EINVAL) // which not every file system supports
+        errno != EINVAL) // some file systems do not support fsync()
         error = errno;
     if (error != 0)
         return problemOf(error);

@@ -7,16 +7,16 @@
 
 #include <optional>
 
-/** Writes files. If that fails, a file that existed before is unchanged. */
+/** Writes files. */
 class PxOutputFile
 {
 public:
     /**
-     * Creates the file, or replaces a regular one as a whole once the new one is on the disk. A
-     * link leads to its target.
+     * Creates the file, or replaces a regular file as a whole once the new contents are on the
+     * disk: if that fails, the old file is unchanged. Symbolic links are followed.
      *
      * A pipe, a character device and the file that is the program's stdout or stderr are written in
-     * place. Anything else is refused. A problem says what helps, too.
+     * place. Anything else is refused. The problem also says what the user can do.
      */
     static std::optional<PxProblem> write(const QString &path, const QByteArray &contents);
 

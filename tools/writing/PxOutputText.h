@@ -5,7 +5,7 @@
 
 #include <initializer_list>
 
-/** A text to print. Its lines may hold texts of any origin, which cannot break them. */
+/** A text to print. Control characters are escaped, so no text from a file can break a line. */
 class PxOutputText
 {
 public:
@@ -17,7 +17,7 @@ public:
     };
 
     PxOutputText() = default;
-    /** The lines of a text of the program itself, at least one. */
+    /** Splits a text of the program itself into lines, at least one. */
     explicit PxOutputText(const QString &lines);
 
     void addLine(const QString &text) { addLine({{text}}); }

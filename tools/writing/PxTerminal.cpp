@@ -31,7 +31,7 @@ bool writeOutput(const QByteArray &output)
 void PxTerminal::prepare()
 {
     std::signal(SIGXFSZ, SIG_IGN);
-    // open() takes the lowest free number. The program cannot write to these.
+    // open() takes the lowest free descriptor. Writing to one that was closed still fails.
     for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         if (fcntl(descriptor, F_GETFD) == -1 && open("/dev/null", O_RDONLY) == -1)
             return;

@@ -10,12 +10,12 @@ class PxTerminal
 {
 public:
     /**
-     * Must be called first. Then writing beyond the size limit of files is an error and no signal,
-     * and files that the program opens never become its stdin, stdout or stderr.
+     * Must be called first. Afterwards, exceeding the file size limit is an error instead of a
+     * signal, and a file that the program opens never becomes its stdin, stdout or stderr.
      */
     static void prepare();
 
-    /** COLUMNS, else the width of the terminal, else 100. */
+    /** The value of COLUMNS, else the width of the terminal, else 100. */
     static int columns();
 
     /** Whether stdout is a terminal whose user has not switched colours off. */

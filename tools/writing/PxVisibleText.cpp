@@ -13,15 +13,15 @@ constexpr struct
     uint first;
     uint last;
 } invisible[] = {
-    {0x034F, 0x034F},   // joins graphemes
-    {0x115F, 0x1160},   // fillers of Hangul
-    {0x17B4, 0x17B5},   // vowels of Khmer that are not written
-    {0x180B, 0x180F},   // choose variants
-    {0x2800, 0x2800},   // a pattern of no dots
-    {0x3164, 0x3164},   // filler
-    {0xFE00, 0xFE0F},   // choose variants
-    {0xFFA0, 0xFFA0},   // filler
-    {0xE0000, 0xE0FFF}, // tags, and what chooses variants
+    {0x034F, 0x034F},   // grapheme joiner
+    {0x115F, 0x1160},   // Hangul fillers
+    {0x17B4, 0x17B5},   // inherent vowels of Khmer
+    {0x180B, 0x180F},   // variation selectors
+    {0x2800, 0x2800},   // blank Braille pattern
+    {0x3164, 0x3164},   // Hangul filler
+    {0xFE00, 0xFE0F},   // variation selectors
+    {0xFFA0, 0xFFA0},   // Hangul filler
+    {0xE0000, 0xE0FFF}, // tags and variation selectors
 };
 
 bool isVisible(uint character)
@@ -70,7 +70,7 @@ QString escapedInJson(uint character)
 QString escaped(const QString &text, bool hasLines, QString (*escapeOf)(uint))
 {
     QString visible;
-    int copied = 0; // so much of the text is in `visible`
+    int copied = 0; // how much of the text is already in `visible`
     for (int i = 0; i < text.size();) {
         const QChar unit = text[i];
         const bool isPair =
@@ -98,7 +98,7 @@ QString PxVisibleText::line(const QString &text)
 
 QString PxVisibleText::json(const QByteArray &json)
 {
-    // Beside control characters QJsonDocument escapes only half a surrogate pair.
+    // Apart from control characters, QJsonDocument escapes only unpaired surrogates.
     static const QRegularExpression ourHalf("(?<!\\\\)((?:\\\\\\\\)*)\\\\ud[89a-f][0-9a-f]{2}");
     QString text = QString::fromUtf8(json);
     if (json.contains("\\ud"))

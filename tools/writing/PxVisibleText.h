@@ -3,19 +3,19 @@
 #include <QString>
 
 /**
- * Writes out what a terminal might obey or nobody would see: control characters, changes of
- * direction, tags and other characters without a glyph.
+ * Escapes the characters that a terminal might obey or that are invisible: control characters,
+ * direction marks, tags and others without a glyph.
  *
- * Half a surrogate pair becomes U+FFFD. Blanks stay, also non-breaking ones.
+ * An unpaired surrogate becomes U+FFFD. Spaces are kept, non-breaking ones too.
  */
 class PxVisibleText
 {
 public:
     /**
-     * As one line, with \u202E for a character without a glyph and \U000E0041 for one beyond 16
-     * bits. Does not change a line that it returned before.
+     * Returns a single line. Escapes look like \u202E, or \U000E0041 for characters beyond 16 bits.
+     * Escaping a line again does not change it.
      */
     static QString line(const QString &text);
-    /** The same for JSON that QJsonDocument wrote, with the escapes of JSON. */
+    /** The same for JSON from QJsonDocument, with the escapes of JSON; line breaks are kept. */
     static QString json(const QByteArray &json);
 };
