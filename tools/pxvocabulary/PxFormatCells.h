@@ -4,8 +4,7 @@
 
 #include <QString>
 
-/** Cells of the tables in the documentation, in Markdown: as written in the row, or from its facts.
- */
+/** Table cells of the documentation, in Markdown, as the row states them or derived from it. */
 class PxFormatCells
 {
 public:

@@ -36,8 +36,8 @@ using Columns = QVector<Column>;
 using Kind = PxFileKind;
 
 enum class Attributes {
-    Main,      ///< all, with a single line for each section that has a table of its own
-    OfSections ///< only those of sections
+    Main,      ///< all, with a single line for those that another section documents
+    OfSections ///< only those that another section documents
 };
 
 constexpr Column type = {"Type", &Line::type};
@@ -277,14 +277,15 @@ PxFormatTables::PxFormatTables(const QString &document)
     for (const QString &line : document.split(QLatin1Char('\n'))) {
         if (line == end) {
             if (!isInTable)
-                m_problems.append(QStringLiteral("an end of table without a table"));
+                m_problems.append(QStringLiteral("an \"end of table\" without a table"));
             isInTable = false;
         } else if (line.startsWith(start)) {
             const QString name = line.mid(start.size()).section(QStringLiteral(" -->"), 0, 0);
             if (isInTable)
-                m_problems.append(QStringLiteral("no end of table before \"%1\"").arg(name));
+                m_problems.append(QStringLiteral("no \"end of table\" before \"%1\"").arg(name));
             if (!tables.contains(name))
-                m_problems.append(QStringLiteral("table \"%1\" is not known, or twice").arg(name));
+                m_problems.append(
+                    QStringLiteral("table \"%1\" is unknown or appears twice").arg(name));
             m_lines.append(line);
             m_lines += tables.take(name);
             isInTable = true;
@@ -294,7 +295,7 @@ PxFormatTables::PxFormatTables(const QString &document)
             m_lines.append(line);
     }
     if (isInTable)
-        m_problems.append(QStringLiteral("no end of the last table"));
+        m_problems.append(QStringLiteral("no \"end of table\" for the last table"));
     for (auto left = tables.keyBegin(); left != tables.keyEnd(); ++left)
         m_problems.append(QStringLiteral("no table \"%1\"").arg(*left));
 }

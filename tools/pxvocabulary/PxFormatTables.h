@@ -3,10 +3,10 @@
 #include <QStringList>
 
 /**
- * The documentation of the file format, with its tables written anew.
+ * The documentation of the file format, with its tables regenerated.
  *
- * A table stands between the lines "<!-- table: NAME -->" and "<!-- end of table -->". This class
- * knows its name and its headings; everything else comes from the rows of the format.
+ * A table stands between the lines "<!-- table: NAME -->" and "<!-- end of table -->". The names of
+ * the tables and their headings are defined here; the rest comes from the rows of the format.
  */
 class PxFormatTables
 {

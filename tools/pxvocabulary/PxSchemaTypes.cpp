@@ -6,8 +6,7 @@
 
 namespace {
 
-// A pattern in a schema cannot ignore case. Keywords contain no character with a meaning in
-// patterns.
+// A pattern in a schema cannot ignore case. Keywords contain no special characters of patterns.
 QString inAnyCase(const QString &word)
 {
     QString expression;
@@ -82,7 +81,7 @@ QString PxSchemaTypes::typesOf(const PxAttributeRow &attribute)
     const PxKeywordSet set = attribute.keywords;
     const QString type =
         attribute.type == PxValueType::KeywordList ? keywordList(set) : keyword(set);
-    // An empty value is allowed if the library reads it like an absent one.
+    // An empty value is allowed if the library reads it like an absent attribute.
     const bool mayBeEmpty = attribute.defaultText &&
                             PxFormat::decode(set, QString()) ==
                                 PxFormat::decode(set, QString::fromUtf8(attribute.defaultText));
@@ -111,7 +110,7 @@ QString PxSchemaTypes::pattern(const QString &name, const QString &expression,
     return name;
 }
 
-/** With a pattern: libxml2 accepts blanks around a number only in types that have one. */
+/** Has a pattern, because libxml2 accepts blanks around a number only in types with a pattern. */
 QString PxSchemaTypes::integer()
 {
     const QString name = QStringLiteral("int");
@@ -159,7 +158,7 @@ void PxSchemaTypes::write(QXmlStreamWriter *xml) const
     }
 }
 
-/** An enumeration, from which editors offer the words, and a pattern that accepts any case. */
+/** Writes an enumeration, so that editors offer the words, and a pattern that accepts any case. */
 void PxSchemaTypes::writeKeyword(QXmlStreamWriter *xml, PxKeywordSet set) const
 {
     const bool isExact = set == PxKeywordSet::Material;

@@ -8,8 +8,8 @@
 class QXmlStreamWriter;
 
 /**
- * The types of values in a schema. They accept what the library accepts: blanks around values, and
- * keywords in any case.
+ * The types of values in a schema. They accept what the library accepts, such as blanks around
+ * values and keywords in any case.
  */
 class PxSchemaTypes
 {
@@ -21,12 +21,12 @@ public:
     void write(QXmlStreamWriter *xml) const;
 
 private:
-    /** A value matches the expression or has the other type, whose values editors offer. */
+    /** A type whose values match the expression, or are of the other type, if it is not empty. */
     struct Pattern
     {
         QString expression;
         QString otherType;
-        QString base; ///< what the expression restricts
+        QString base; ///< the type that the expression restricts
     };
 
     QString pattern(const QString &name, const QString &expression,

@@ -9,7 +9,7 @@
 
 namespace {
 
-/** The text without Markdown; a link becomes its text, or the name of the document. */
+/** Removes Markdown. A link becomes its text; after "see", it becomes the name of the document. */
 QString plain(QString markdown)
 {
     static const QRegularExpression ourReference(QStringLiteral("see \\[[^]]*\\]\\([^)]*\\)"));
@@ -69,7 +69,7 @@ void PxSchemaWriter::writeContents(const PxElementRow &row)
 {
     m_xml.writeStartElement("xs:complexType");
     if (!row.children.isEmpty()) {
-        // Schemas have no "any order" for elements of which some may be repeated and some not.
+        // A schema cannot allow any order if some elements may be repeated and others may not.
         const bool areSingle =
             std::all_of(row.children.begin(), row.children.end(), [](const PxElementRow &child) {
                 return child.occurrence == PxOccurrence::First;

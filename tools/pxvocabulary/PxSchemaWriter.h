@@ -9,7 +9,7 @@ class QIODevice;
 /**
  * The XML schema of a kind of file, for editors and validators.
  *
- * Where the library takes any name of an element, the schema has the usual one.
+ * Where the library accepts an element of any name, the schema accepts only the usual name.
  */
 class PxSchemaWriter
 {
@@ -21,7 +21,7 @@ public:
 private:
     void writeElement(const PxElementRow &row, bool isOptional);
     void writeContents(const PxElementRow &row);
-    /** Neighbours may share a meaning. */
+    /** Gets the meaning separately, because adjacent attributes may share one. */
     void writeAttribute(const PxAttributeRow &row, const QString &meaning);
     void writeDocumentation(const QString &text);
 

@@ -15,8 +15,8 @@ constexpr int done = 0;
 constexpr int cannotRun = 2;
 
 constexpr char usage[] =
-    "use \"xsd product\" or \"xsd theme\" for the XML schema of such files, or \"tables FILE\" for "
-    "FILE with its tables written anew";
+    "use \"xsd product\" or \"xsd theme\" to print the XML schema of these files, or "
+    "\"tables FILE\" to print FILE with its tables regenerated";
 
 int fail(const QString &message)
 {
