@@ -1,7 +1,7 @@
 #include "commands/check/PxCheckExplanation.h"
 
-#include "check/findings/PxCheckTags.h"
 #include "check/PxCheckLimits.h"
+#include "check/findings/PxCheckTags.h"
 #include "report/PxTextTable.h"
 #include "writing/PxTerminal.h"
 
@@ -22,20 +22,21 @@ constexpr const char *markdownStart =
     "| Severity | Means |\n"
     "|---|---|\n"
     "| error | a product or theme is lost, ambiguous, or can break a caller |\n"
-    "| warning | data is dropped or changed in silence |\n"
+    "| warning | data is dropped or changed without a message |\n"
     "| info | surprising but legal |\n"
     "| pedantic | a matter of style; only found with `--pedantic` |\n"
     "\n"
-    "Some files have thousands of findings, most of them by accident. So these are bounded:\n"
+    "A single mistake may cause thousands of findings. So these are bounded:\n"
     "\n"
     "| Limit | Value |\n"
     "|---|---|\n"
     "| findings of one tag that are listed for a file; the last one says how many more there are | "
     "%1 |\n"
-    "| letters of a message | %2 |\n"
+    "| characters of a message | %2 |\n"
     "| entries of a list that are checked | %3 |\n"
     "\n"
-    "Hints are guesses, which take time: of many thousands of names not every one gets a hint.\n"
+    "Hints are guesses, which take time: if thousands of names are wrong, not all of them get a "
+    "hint.\n"
     "\n";
 
 QString severityOf(const PxCheckTag &tag)
@@ -43,7 +44,7 @@ QString severityOf(const PxCheckTag &tag)
     return PxCheckTags::severityName(tag.severity);
 }
 
-/** Without the mark at the place of the finding. */
+/** The example without the mark at the place of the finding. */
 QString exampleOf(const PxCheckTag &tag)
 {
     return QString::fromUtf8(tag.bad).remove(QChar(0x00BB));

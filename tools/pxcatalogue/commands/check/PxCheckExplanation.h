@@ -12,6 +12,6 @@ public:
     static QString of(const PxCheckTag &tag);
     /** A line for each tag. */
     static QString table();
-    /** All tags with their examples: the page of the documentation. */
+    /** All tags with their examples: the contents of docs/checks.md. */
     static QString markdown();
 };
