@@ -6,11 +6,11 @@
 
 #include <limits>
 
-static constexpr int maximumLength = 500; // letters of a comment: by then it has named its tag
+static constexpr int maximumLength = 500; // of a comment; the tag is among its first characters
 
 void PxAllowanceComments::find(Checked checked)
 {
-    // What cannot be read is not checked, so that every allowance in it would seem to be unused.
+    // A file that cannot be read is not checked, so all its allowances would seem to be unused.
     if (!m_file.root())
         return;
     const PxSourceDocument &source = m_file.source();
@@ -18,14 +18,14 @@ void PxAllowanceComments::find(Checked checked)
     source.forEachElement([&](const PxSourceElement &element) {
         others += findIn(element.nodes, element.children, checked);
     });
-    // Afterwards: what only seems to be an allowance is a finding, which a later one may silence.
+    // Last, because an allowance that comes later in the file may silence these findings.
     for (const PxSourceNode &node : qAsConst(others))
         checkNoAllowance(node);
 }
 
 /**
- * Each node is for the first of the elements behind it; both are in their order. Answers the
- * comments and instructions that are no allowance.
+ * Registers the allowances among `nodes`. Each applies to the next of `elements`; both are in the
+ * order of the file. Returns the comments and instructions that are no allowances.
  */
 QVector<PxSourceNode> PxAllowanceComments::findIn(const QVector<PxSourceNode> &nodes,
                                                   const QVector<const PxSourceElement *> &elements,
@@ -48,7 +48,7 @@ QVector<PxSourceNode> PxAllowanceComments::findIn(const QVector<PxSourceNode> &n
         const bool isLast = element == elements.end();
         PxPlace part = m_file.place(isLast ? node.range : (*element)->range);
         if (!isLast && *element == m_file.source().root()) {
-            part.line = part.column = 1; // with what stands around the document element
+            part.line = part.column = 1; // the whole file
             part.endLine = std::numeric_limits<int>::max();
         }
         m_findings.allow(allowance.captured(1), m_file.place(node.range), part,
@@ -57,7 +57,7 @@ QVector<PxSourceNode> PxAllowanceComments::findIn(const QVector<PxSourceNode> &n
     return others;
 }
 
-/** A comment that names a tag in nearly the words that allow it. */
+/** Reports a comment that names a tag but misspells the words that allow it. */
 void PxAllowanceComments::checkNoAllowance(const PxSourceNode &node) const
 {
     static const QRegularExpression ourWords("^\\s*check\\s*:?\\s*([a-z]+)\\s*:?\\s+(\\S+)",

@@ -4,11 +4,11 @@
 
 #include <QVector>
 
-/** Finds the comments of a file that silence a tag, and those that only seem to. */
+/** Finds the comments of a file that silence a tag, and reports those that nearly do. */
 class PxAllowanceComments
 {
 public:
-    /** What a file is checked for: an allowance in it may be for a tag that could not be found. */
+    /** Whether all checks run on the file. If not, an unused allowance is not reported. */
     enum class Checked { Everything, Little };
 
     /** Both must outlive this. */
@@ -18,7 +18,7 @@ public:
         , m_report(findings, file)
     {}
 
-    /** Before any other check of the file. */
+    /** Must be called before any other check of the file. */
     void find(Checked checked);
 
 private:

@@ -6,7 +6,7 @@
 #include <QPair>
 #include <QVector>
 
-/** The comments in the files that silence a tag for the element behind them. */
+/** The comments that silence a tag for the element after them. */
 class PxAllowances
 {
 public:
@@ -14,17 +14,17 @@ public:
     {
         QString tag;
         PxPlace comment;
-        PxPlace part;         ///< of the file; two parts lie apart, or one inside the other
-        bool isOfUse = false; ///< for all that is known, also when it allows nothing now
+        PxPlace part;         ///< what it covers: parts of a file are nested or do not overlap
+        bool isOfUse = false; ///< has silenced a finding, or nobody knows whether it would
     };
 
     void add(const Allowance &allowance);
     /**
-     * Whether what is found at the place is allowed; the allowance is used then. Where parts lie
-     * inside each other the innermost counts. All allowances of the file have been added.
+     * Whether an allowance silences a finding at the place; it then counts as used. If several do,
+     * that is the innermost one. Call it when all allowances of the file have been added.
      */
     bool allows(const QString &tag, const PxPlace &place);
-    /** Those that have allowed nothing. */
+    /** The allowances that silenced nothing. */
     QVector<Allowance> unused() const;
 
 private:
@@ -35,12 +35,12 @@ private:
     };
     struct OfTag
     {
-        QVector<Nested> nested; // by begin of their parts, when they are sorted
+        QVector<Nested> nested; // sorted by where their parts begin if `isSorted`
         bool isSorted = false;
     };
 
     static void sort(OfTag *allowances);
 
-    // By path and tag. No hash: files may hold thousands of tags that are none.
+    // By path and tag. No hash: names of tags in files can be made to collide.
     QMap<QPair<QString, QString>, OfTag> m_allowances;
 };

@@ -10,11 +10,11 @@
 struct PxCheckReport
 {
     QVector<PxFinding> findings; ///< sorted
-    /** What was not there for them, by tag; as in "without the whole catalogue". */
+    /** By tag, what the check lacked, such as "without the whole catalogue". */
     QMap<QString, QString> tagsNotChecked;
     int fileCount = 0;
-    int knownCount = 0; ///< findings that are left out because they are known
-    /** What the files are called in the catalogue, by their path: the same wherever it lies. */
+    int knownCount = 0; ///< findings that the baseline hides
+    /** By path, the names of files relative to the catalogue, which do not change if it moves. */
     QHash<QString, QString> catalogueNames;
 
     int count(PxSeverity severity) const

@@ -6,11 +6,11 @@
 enum class PxSeverity {
     Pedantic, ///< a matter of style
     Info,     ///< surprising but legal
-    Warning,  ///< data is dropped or changed in silence
+    Warning,  ///< data is dropped or changed without a message
     Error,    ///< a product or theme is lost, ambiguous, or can break a caller
 };
 
-/** One kind of finding: what the explanation, the documentation and the tests are made from. */
+/** One kind of finding. Explanations, documentation and tests are made from these rows. */
 struct PxCheckTag
 {
     PxTag tag;
@@ -18,11 +18,11 @@ struct PxCheckTag
     PxSeverity severity;
     const char *summary;     ///< one line, without a full stop
     const char *explanation; ///< what happens, why, and what to do: sentences, one line
-    const char *file;        ///< of the example: a file of the small catalogue, or one beside them
-    /** What stands there when the finding is due, "»" before the place of the finding. */
+    const char *file;        ///< of the example: a file of the sample catalogue, or a new one
+    /** A part of the file that causes the finding, with "»" before its place. */
     const char *bad;
-    /** What stands there when all is well. Empty when there is no such file in the catalogue. */
+    /** The part of the catalogue's file that `bad` replaces. Empty for a new file. */
     const char *good;
-    /** Found only when all files of a catalogue are checked together. */
+    /** Only found when all files of a catalogue are checked together. */
     bool needsCatalogue = false;
 };

@@ -3,7 +3,7 @@
 #include "check/findings/PxCheckTag.h"
 #include "format/PxFormatRows.h"
 
-// One table, in parts by subject; each in the file of its name.
+// The table of tags, in one part for each subject.
 PxRows<PxCheckTag> fileTagRows();
 PxRows<PxCheckTag> formatTagRows();
 PxRows<PxCheckTag> productTagRows();

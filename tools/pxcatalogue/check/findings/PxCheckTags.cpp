@@ -39,7 +39,7 @@ QStringList PxCheckTags::names()
     return names;
 }
 
-/** The tags are enumerated by name, too. */
+/** PxTag and all() have the same order. */
 const PxCheckTag &PxCheckTags::of(PxTag tag)
 {
     return *all().at(int(tag));

@@ -13,10 +13,10 @@ public:
     static const QVector<const PxCheckTag *> &all();
     static QStringList names();
     static const PxCheckTag &of(PxTag tag);
-    /** Null when there is none. */
+    /** Null if there is no such tag. */
     static const PxCheckTag *find(const QString &name);
 
-    /** The worst first. */
+    /** All severities, the worst first. */
     static QVector<PxSeverity> severities();
     static const char *severityName(PxSeverity severity);
 };

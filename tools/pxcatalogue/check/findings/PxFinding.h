@@ -5,10 +5,10 @@
 
 #include <QString>
 
-/** A place where a file and the library disagree: what the file says, and what becomes of it. */
+/** A place where the library does something else than the file says. */
 struct PxFinding
 {
-    /** Stands in a message for `otherPlace`. No XML file can hold this character. */
+    /** Marks where a message names `otherPlace`. No XML file can contain this character. */
     static constexpr QChar otherPlaceMark = QChar(0xffff);
 
     const PxCheckTag *tag = nullptr;
@@ -18,13 +18,13 @@ struct PxFinding
     PxPlace otherPlace; ///< another place that the message names
     QString now;        ///< what the library does with it; may be empty
     QString hint;       ///< what to do about it; may be empty
-    /** Of a summary: how many findings of its tag and file it counts, the first at its place. */
+    /** How many findings of the same tag and file this one sums up; 0 if it is no summary. */
     int restCount = 0;
 
-    /** Makes it the summary of so many findings. */
+    /** Makes this finding the summary of `count` findings. */
     void setRest(int count);
-    /** The message with the other place in it. */
+    /** The message, which names the other place instead of its mark. */
     QString text() const;
-    /** How many findings it is. */
+    /** As how many findings this one counts. */
     int count() const { return restCount > 0 ? restCount : 1; }
 };

@@ -4,7 +4,7 @@
 
 namespace {
 
-/** The message as it is in another run: lines change, and a catalogue may be moved. */
+/** The message without what changes between runs: line numbers and the path of the catalogue. */
 QString withoutLine(const PxFinding &finding, const QHash<QString, QString> &catalogueNames)
 {
     const QString other = finding.otherPlace.path;

@@ -5,14 +5,14 @@
 #include <QHash>
 
 /**
- * What makes a finding the same one as in another run: file, tag and message.
+ * Identifies a finding across runs: file, tag and message.
  *
- * Not the line, which changes with each line above it, and not where the catalogue lies.
+ * The line and the directory of the catalogue are not part of it, because both may change.
  */
 class PxFindingIdentity
 {
 public:
-    /** `catalogueNames` tells what the files are called in the catalogue, by their path. */
+    /** `catalogueNames` are the names of files relative to the catalogue, by path. */
     PxFindingIdentity(const PxFinding &finding, const QHash<QString, QString> &catalogueNames);
     PxFindingIdentity(const QString &path, const QString &tag, const QString &message)
         : m_path(path)
@@ -20,13 +20,13 @@ public:
         , m_message(message)
     {}
 
-    /** The message of those that are not told one by one, however many they are. */
+    /** The message of a summary, for any number of findings. */
     static QString restMessage();
 
     QString path() const { return m_path; }
     QString tag() const { return m_tag; }
     QString message() const { return m_message; }
-    /** All three. */
+    /** Path, tag and message. */
     QString text() const
     {
         return m_path + QLatin1Char('\n') + m_tag + QLatin1Char('\n') + m_message;

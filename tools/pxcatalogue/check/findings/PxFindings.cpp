@@ -22,14 +22,14 @@ bool isBefore(const PxFinding &a, const PxFinding &b)
     return key(a) < key(b);
 }
 
-/** Says that something is not read, and not what the product or theme lacks for it. */
+/** Whether the tag only says that something is not read, not what is missing as a consequence. */
 bool isOfNameOnly(const PxCheckTag *tag)
 {
     return std::find(std::begin(tagsOfNamesOnly), std::end(tagsOfNamesOnly), tag->tag) !=
            std::end(tagsOfNamesOnly);
 }
 
-/** For an allowance that silences nothing. */
+/** The hint for an allowance that silences nothing. */
 QString hintFor(const QString &tag)
 {
     if (tag.isEmpty())
@@ -75,7 +75,7 @@ PxFinding *PxFindings::append(const PxCheckTag &tag, const PxPlace &place)
 void PxFindings::allow(const QString &tag, const PxPlace &comment, const PxPlace &part,
                        bool isChecked)
 {
-    // One for no tag at all is of no use anywhere.
+    // In a file that is not checked for everything, an allowance may silence any tag that exists.
     m_allowances.add({tag, comment, part, !isChecked && PxCheckTags::find(tag)});
 }
 
@@ -101,7 +101,7 @@ QVector<PxFinding> PxFindings::sorted() const
         if (isOfNameOnly(it.key().second))
             paths.insert(it.key().first);
     }
-    // Last: a finding that nobody wants to see hides no other, though an allowance may silence it.
+    // Last, because findings that the user does not want to see must not hide others.
     for (const QString &path : qAsConst(paths))
         left.removeCauses(path);
     QVector<PxFinding> sorted;
@@ -133,8 +133,8 @@ void PxFindings::removeUnwanted()
 }
 
 /**
- * A name that is not read, and what is missing for it, are one mistake and stand at one place: the
- * consequence is listed, unless it matters less.
+ * An unknown name and what is missing because of it are one mistake with findings at the same
+ * place. Keeps only the consequence, unless the unknown name is more severe.
  */
 void PxFindings::removeCauses(const QString &path)
 {
@@ -160,7 +160,7 @@ void PxFindings::removeCauses(const QString &path)
         }
     }
     std::sort(marks.begin(), marks.end(), isBefore);
-    QVector<Mark> places; // each once
+    QVector<Mark> places; // each place once
     for (const Mark &mark : qAsConst(marks)) {
         if (places.isEmpty() || isBefore(places.constLast(), mark))
             places.append(mark);
@@ -185,12 +185,12 @@ void PxFindings::removeCauses(const QString &path)
     }
 }
 
-/** Appended, not added: no allowance silences itself or another one. */
+/** Appends the finding without asking the allowances, so that none silences itself or another. */
 void PxFindings::addUnused(const PxAllowances::Allowance &allowance)
 {
     const PxCheckTag *tag = PxCheckTags::find(allowance.tag);
     if (tag && (m_excluded.contains(allowance.tag) || !lack(*tag).isEmpty()))
-        return; // nobody knows what it would silence
+        return; // what it would silence was not checked
     const char *message = allowance.tag.isEmpty() ? "the allowance names no tag"
                           : tag                   ? "nothing here is \"%1\""
                                                   : "there is no tag \"%1\" to allow";

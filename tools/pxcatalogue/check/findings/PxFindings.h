@@ -8,37 +8,37 @@
 #include <QSet>
 #include <QVector>
 
-/** Collects findings and keeps those that the author wants to see. */
+/** Collects findings and filters out those that the user does not want to see. */
 class PxFindings
 {
 public:
     /**
-     * Silences a tag in a part of a file, as the comment at `comment` says, for what is added after
-     * it. When there is nothing to silence, that is a finding of its own, unless the file cannot be
-     * checked for all tags.
+     * Silences a tag in a part of a file for all findings that are added later. `comment` is the
+     * place of the comment that asks for it. An allowance that silences nothing becomes a finding
+     * if `isChecked`, which means that all checks run on the file.
      */
     void allow(const QString &tag, const PxPlace &comment, const PxPlace &part, bool isChecked);
-    /** Not all files of the catalogue are checked. */
+    /** Whether only some files of the catalogue are checked. */
     void setPartial(bool isPartial) { m_isPartial = isPartial; }
-    /** A tag cannot be checked; `lack` is what is not there for it, as in "without themes". */
+    /** The tag cannot be checked. `lack` says what is missing, such as "without themes". */
     void setNotChecked(PxTag tag, const QString &lack)
     {
         m_notChecked[&PxCheckTags::of(tag)] = lack;
     }
 
     void setSeverity(const QString &tag, PxSeverity severity) { m_severities[tag] = severity; }
-    /** Only these tags; all when none are named. */
+    /** Reports only these tags, or all if the list is empty. */
     void setOnly(const QStringList &tags) { m_only = QSet<QString>(tags.begin(), tags.end()); }
     void setSkipped(const QStringList &tags)
     {
         m_excluded = QSet<QString>(tags.begin(), tags.end());
     }
-    /** Matters of style are left out unless asked for. */
+    /** Reports matters of style, too. */
     void setPedantic(bool isPedantic) { m_isPedantic = isPedantic; }
 
-    /** What is left, by path, line, column and tag. */
+    /** The findings to report, sorted by path, line, column and tag. */
     QVector<PxFinding> sorted() const;
-    /** By tag, those that could be wanted, and what is not there for them. */
+    /** The tags that were wanted but not checked, and what their checks lacked. */
     QMap<QString, QString> tagsNotChecked() const;
 
 private:
@@ -63,12 +63,12 @@ private:
     };
     using Key = QPair<QString, const PxCheckTag *>; // path and tag
 
-    /** Null if an allowance silences it, or there are so many that it is only counted. */
+    /** Null if an allowance silences the finding, or if it is only counted. */
     PxFinding *add(PxTag tag, const PxPlace &place);
     bool hasRoom(PxTag tag, const QString &path) const;
     PxFinding *append(const PxCheckTag &tag, const PxPlace &place);
     bool isWanted(const QString &tag) const;
-    /** Empty for a tag that is checked. */
+    /** What the check for the tag lacks; empty if the tag is checked. */
     QString lack(const PxCheckTag &tag) const;
     void addUnused(const PxAllowances::Allowance &allowance);
     void removeUnwanted();

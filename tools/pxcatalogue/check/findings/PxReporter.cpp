@@ -4,7 +4,7 @@
 
 namespace {
 
-/** With all arguments at once: what a file says may look like the next place. */
+/** Inserts all arguments at once, because a text from a file may itself contain "%1". */
 QString filled(const QString &text, const QStringList &arguments)
 {
     QString filled;
@@ -29,7 +29,7 @@ void PxAddedFinding::setText(Member member, const QString &text, const QStringLi
                              : whole.left(PxCheckLimits::messageLength) + "…";
 }
 
-/** The message keeps the place as a place: it changes from run to run. */
+/** A message gets a mark instead of the place, because lines and paths change from run to run. */
 QString PxAddedFinding::textOf(const PxPlace &place, Member member)
 {
     if (member != &PxFinding::message)

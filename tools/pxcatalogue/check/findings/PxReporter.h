@@ -6,16 +6,16 @@
 #include <type_traits>
 
 /**
- * A finding that has just been added: takes what more there is to say about it.
+ * A finding that has just been added, for setting its texts.
  *
- * A text may have places %1, %2 …, and as many arguments: texts, numbers, or other places in files.
- * Instead of a text there may be a function that finds it, if that takes long: it is called only
- * for a finding that is listed.
+ * A text may contain %1, %2 … and be followed by as many arguments: texts, numbers, or other places
+ * in files. A text that takes long to find may be given as a function instead, which is called only
+ * if the finding is listed.
  */
 class PxAddedFinding
 {
 public:
-    /** Null for a finding that is silenced or only counted: its texts are dropped. */
+    /** `finding` is null if it is silenced or only counted; its texts are dropped then. */
     explicit PxAddedFinding(PxFinding *finding) : m_finding(finding) {}
 
     /** What is wrong with the file. */
@@ -30,7 +30,7 @@ public:
     {
         return set(&PxFinding::now, text, arguments...);
     }
-    /** What to do about it; nothing if the text is empty. */
+    /** What to do about it. The text may be empty. */
     template <typename Text, typename... Arguments>
     PxAddedFinding &hint(const Text &text, const Arguments &...arguments)
     {
@@ -59,11 +59,11 @@ private:
     PxFinding *m_finding;
 };
 
-/** The one way to add a finding: a file, and where its findings go. */
+/** Adds the findings of a file. There is no other way to add one. */
 class PxReporter
 {
 public:
-    /** For findings in no file under check, or in several. */
+    /** For findings outside the checked files, or in several of them. */
     explicit PxReporter(PxFindings &findings) : m_findings(findings) {}
     /** Both must outlive the reporter. */
     PxReporter(PxFindings &findings, const PxCheckedFile &file)
@@ -78,14 +78,14 @@ public:
     {
         return PxAddedFinding(m_findings.add(tag, place)).message(message, arguments...);
     }
-    /** In the file of the reporter, as all below. */
+    /** The same, with a place in the file of the reporter. */
     template <typename... Arguments>
     PxAddedFinding add(PxTag tag, const PxSourceRange &range, const QString &message,
                        const Arguments &...arguments) const
     {
         return add(tag, place(range), message, arguments...);
     }
-    /** Whether one more finding of the tag would be listed, and not only counted. */
+    /** Whether another finding of the tag in this file would be listed rather than counted. */
     bool hasRoom(PxTag tag) const { return m_findings.hasRoom(tag, m_file->path()); }
 
     const PxCheckedFile &file() const { return *m_file; }

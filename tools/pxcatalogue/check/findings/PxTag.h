@@ -1,6 +1,6 @@
 #pragma once
 
-/** The kinds of findings. The rows of each folder say what its own mean. */
+/** The kinds of findings, in the order of their names. The rows of tags explain them. */
 enum class PxTag {
     AlignmentStyleShadowed,
     AlignmentUnknown,
