@@ -8,7 +8,7 @@
 
 namespace {
 
-/** The text up to a place and some more, so that a fault at that place can be seen. */
+/** The text up to a place, and enough text after it to recognise a fault there. */
 QString textUpTo(const QString &text, qint64 line, qint64 column)
 {
     constexpr int more = 1024;
@@ -34,13 +34,13 @@ void PxCheckedFile::readSource()
 {
     QString text;
     QFile file(m_path);
-    // Where the library gives up without a place, there is no text, or too much of it.
+    // If the library gives up without a place, the file has no text, or too much.
     if ((isRead() || m_fault.line > 0) && file.open(QIODevice::ReadOnly)) {
         if (const QTextCodec *codec = QTextCodec::codecForName(m_fault.encoding.toLatin1()))
             text = codec->toUnicode(file.read(file.size()));
         if (text.startsWith(QChar::ByteOrderMark))
             text.remove(0, 1);
-        // Behind a limit, reading on could take very long.
+        // Reading on after the fault could take very long if it is an exceeded limit.
         const int size = text.size();
         if (!isRead())
             text = textUpTo(text, m_fault.line, m_fault.column);

@@ -9,17 +9,17 @@
 
 #include <memory>
 
-/** A file under check: what the library reads of it, and where each thing stands. */
+/** A file to check: the document as the library reads it, and the place of each part of it. */
 class PxCheckedFile
 {
 public:
-    /** Reads the file. `path` is how it is shown, and leads to it. */
+    /** Reads the file. Findings show `path` as it is given here. */
     explicit PxCheckedFile(const QString &path);
 
     QString path() const { return m_path; }
-    /** Null if the library cannot read the file, or there is no document element. */
+    /** Null if the library cannot read the file. */
     const PxSourceElement *root() const { return isRead() ? m_source->root() : nullptr; }
-    /** Whether the library can read it. */
+    /** Whether the library can read the file. */
     bool isRead() const { return m_fault.kind == PxXMLFault::Kind::None; }
     const PxSourceDocument &source() const { return *m_source; }
     /** The document as the library reads it. */
@@ -28,9 +28,9 @@ public:
 
     /** Why the library cannot read the file. */
     const PxXMLFault &fault() const { return m_fault; }
-    /** Where, or the start of the file. */
+    /** The place of the fault; if it has none, the start of the file. */
     PxPlace faultPlace() const;
-    /** The source is the whole text: of a file with a fault, it may end soon after the fault. */
+    /** Whether source() has the whole text; in a file with a fault it may end soon after that. */
     bool isSourceWhole() const { return m_isSourceWhole; }
 
 private:

@@ -9,7 +9,7 @@
 class PxCheckedProduct
 {
 public:
-    /** The file has been read and has a product element. It must outlive the product. */
+    /** The file must have a product element and must outlive the product. */
     PxCheckedProduct(const PxCheckedFile &file, bool isLegacy);
 
     const PxCheckedFile &file() const { return m_file; }
@@ -18,7 +18,7 @@ public:
     const PxProductTypeDescription &description() const { return m_description; }
     /** The list of its pages. */
     const PxPageEntries &pages() const { return m_pages; }
-    /** Lies in the directory of older products. */
+    /** Whether the file lies in the directory of the legacy products. */
     bool isLegacy() const { return m_isLegacy; }
 
 private:

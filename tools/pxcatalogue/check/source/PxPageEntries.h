@@ -4,17 +4,17 @@
 
 #include <values/PxPageTypeList.h>
 
-/** An entry of the page list and where it stands. */
+/** An entry of the page list, with its place. */
 struct PxPageEntry
 {
     QString text; ///< without blanks around it
     PxPageType type;
     PxSourceRange range;
 
-    /** Stands for as many pages as the product has. */
+    /** Whether the entry becomes as many pages as the product has. */
     bool isRange() const { return isRange(type); }
     static bool isRange(const PxPageType &type);
-    /** Is several types at once. */
+    /** Whether the entry has several page types at once. */
     bool isUnion() const { return isUnion(type); }
     static bool isUnion(const PxPageType &type) { return (type.value() & (type.value() - 1)) != 0; }
 };
@@ -26,18 +26,18 @@ public:
     /** Of the first element "pages" in the product; so many entries are read. */
     PxPageEntries(const PxCheckedFile &file, const PxSourceElement &product, int maximum);
 
-    /** The product has a page list, be it empty. */
+    /** Whether the product has a page list, even an empty one. */
     bool isGiven() const { return m_isGiven; }
-    /** Some entry that is read is a page. */
+    /** Whether at least one entry that is read is a page. */
     bool hasPage() const;
-    /** Every entry that is read is a page. */
+    /** Whether every entry that is read is a page. */
     bool isSound() const;
-    /** Those that the library reads. */
+    /** The entries that the library reads, up to its limit. */
     const QVector<PxPageEntry> &read() const { return m_read; }
-    /** How many more there are, and where the first of these stands. */
+    /** How many entries the library ignores after that, and where the first of them is. */
     int droppedCount() const { return m_droppedCount; }
     PxSourceRange firstDropped() const { return m_firstDropped; }
-    /** Null when there is none. */
+    /** The first spine; null if there is none. */
     const PxPageEntry *spine() const;
 
 private:

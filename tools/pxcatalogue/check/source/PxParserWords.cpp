@@ -10,7 +10,7 @@ namespace {
 enum Where { Anywhere, InComment, BehindName, BehindEqualSign, BehindValue };
 
 // clang-format off
-/** How the text ends; the group is the place. */
+/** Patterns for the end of the text; the group is the place of the finding. */
 constexpr struct { Where where; const char *end; const char *words; const char *hint; } rows[] = {
     {Anywhere, "(&)#?\\w*[^\\w;#]$", "a \"&\" that names no character", "write \"&amp;\" for \"&\" itself"},
     {Anywhere, "(<)(?:\\d|[^\\w/!?:])$", "a \"<\" that begins no tag", "let a name follow it at once, or write \"&lt;\" for \"<\" itself"},

@@ -4,17 +4,17 @@
 
 #include <QString>
 
-/** Says in the words of an author what a parser stumbles over. */
+/** Describes, in words that authors understand, what stopped an XML parser. */
 class PxParserWords
 {
 public:
     /**
-     * The parser has stopped at the last character of the text, in what begins with `token`: a tag,
-     * a comment, or a text.
+     * The parser has stopped at the last character of the text. `token` is where the tag, comment
+     * or text begins in which it stopped.
      */
     PxParserWords(const QString &textUpToFault, int token);
 
-    /** Empty when there is nothing better to say; then there is neither hint nor range. */
+    /** Empty if the parser's own message is not improved; hint and range are then empty, too. */
     QString message() const { return m_message; }
     QString hint() const { return m_hint; }
     PxSourceRange range() const { return m_range; }

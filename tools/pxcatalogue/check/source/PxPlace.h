@@ -11,7 +11,7 @@ struct PxPlace
     int endLine = 1;
     int endColumn = 1;
 
-    /** As in "line 5"; with the path in another file than `file`. */
+    /** For example "line 5", or with the path "a.xml:5" if the place is not in `file`. */
     QString seenFrom(const QString &file) const
     {
         return path == file ? QString("line %1").arg(line)

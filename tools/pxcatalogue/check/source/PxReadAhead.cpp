@@ -21,12 +21,12 @@ void PxReadAhead::read()
             });
             if (isCancelled)
                 return;
-            slot(i).reset(); // before the next one takes memory
+            slot(i).reset(); // first, so that the next file can use the memory
             slot(i) = std::make_unique<PxCheckedFile>(m_paths[i]);
             change([this] { ++m_readCount; });
         }
     } catch (...) {
-        change([this] { ++m_readCount; }); // nobody shall wait for what does not come
+        change([this] { ++m_readCount; }); // ends the wait of next() for this file
         throw;
     }
 }
@@ -37,7 +37,7 @@ const PxCheckedFile &PxReadAhead::next()
     wait([this] { return m_readCount > m_askedCount; });
     const std::unique_ptr<PxCheckedFile> &file = slot(m_askedCount++);
     if (!file)
-        m_reader.get(); // throws what has kept the file from being read
+        m_reader.get(); // throws the exception that ended the thread
     return *file;
 }
 

@@ -10,11 +10,11 @@
 #include <mutex>
 
 /**
- * Reads files in a thread of its own, a few ahead of the one that is looked at, and destroys there
- * those whose place is needed again.
+ * Reads files in a separate thread, a few ahead of the one being checked. That thread also destroys
+ * the files that have been checked.
  *
- * Reading takes about as long as checking. Checks themselves run in one thread: some count what
- * they have done so far, and findings shall not depend on who was first.
+ * Reading takes about as long as checking. The checks all run in one thread, because some count how
+ * much they have done, and findings must not depend on the order in which threads run.
  */
 class PxReadAhead
 {
@@ -24,8 +24,8 @@ public:
     Q_DISABLE_COPY(PxReadAhead)
 
     /**
-     * The next file in the order of the paths; to be asked once for each of them. The one before
-     * may be gone then.
+     * The next file in the order of the paths. Call it once for each path. It may destroy the file
+     * that it returned before.
      */
     const PxCheckedFile &next();
 
@@ -46,7 +46,7 @@ private:
     const QStringList m_paths;
     std::array<std::unique_ptr<PxCheckedFile>, maximumAhead> m_files;
     int m_askedCount = 0;
-    std::mutex m_mutex; // of the next four
+    std::mutex m_mutex; // guards the next four members
     std::condition_variable m_changed;
     int m_readCount = 0;
     int m_doneCount = 0;

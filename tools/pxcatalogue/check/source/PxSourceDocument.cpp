@@ -59,7 +59,7 @@ void PxSourceDocument::readText(int begin, int end)
     addNode({PxSourceNode::Kind::Text, decoded(text.toString()), range});
 }
 
-/** As below, answers where it ends: with the text, when its own end is missing. */
+/** Returns where the markup ends, or the end of the text if its end is missing; so do all below. */
 int PxSourceDocument::readMarkup(int begin)
 {
     const QStringView markup = QStringView(m_text).mid(begin);
@@ -144,7 +144,7 @@ int PxSourceDocument::behind(const char *token, int from) const
 
 bool PxSourceDocument::connectTo(const QDomElement &root)
 {
-    // Both hold the same elements, and here they stand in the order of their start tags.
+    // Walks through the tree of the library in the order of start tags, which m_elements has, too.
     QDomElement dom = root;
     for (PxSourceElement &element : m_elements) {
         if (dom.tagName() != element.name)
@@ -182,7 +182,7 @@ QPair<int, int> PxSourceDocument::lineAndColumn(int index) const
     const auto next = std::upper_bound(m_lineStarts.begin(), m_lineStarts.end(), index);
     const int line = int(next - m_lineStarts.begin());
     const int begin = m_lineStarts.at(line - 1);
-    // A character beyond the first plane is two in the text and one to who counts them.
+    // A surrogate pair is two units of the text, but one character.
     const auto first = std::lower_bound(m_secondHalves.begin(), m_secondHalves.end(), begin);
     const auto last = std::lower_bound(first, m_secondHalves.end(), index);
     return {line, index - begin - int(last - first) + 1};

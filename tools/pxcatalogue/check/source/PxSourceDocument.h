@@ -6,10 +6,10 @@
 #include <deque>
 
 /**
- * The text of an XML file, its elements and where each thing stands.
+ * The text of an XML file and its elements, each with its place.
  *
- * Looks for markup only: whether the text is well-formed is for others to say. Of a text that is
- * not, some elements are found.
+ * It only looks for markup and does not check whether the text is well-formed. If it is not, some
+ * of the elements may be missing.
  */
 class PxSourceDocument
 {
@@ -18,7 +18,7 @@ public:
     Q_DISABLE_COPY(PxSourceDocument)
 
     QString text() const { return m_text; }
-    /** Null when there is no document element. */
+    /** Null if there is no document element. */
     const PxSourceElement *root() const { return m_root; }
     /** Comments and processing instructions before the document element. */
     QVector<PxSourceNode> prolog() const { return m_prolog; }
@@ -30,14 +30,17 @@ public:
             visit(element);
     }
     /**
-     * Connects the elements with those of the same file as the library reads them, and takes the
-     * values of their attributes from there. Answers false when it is not the same file.
+     * Connects each element with the one that the library has read from the same file, and takes
+     * the values of attributes from there. Returns false if the elements do not match.
      */
     bool connectTo(const QDomElement &root);
 
-    /** In characters, as editors count them; without a path. */
+    /** The place of a range, without a path. Columns count characters, like editors. */
     PxPlace place(const PxSourceRange &range) const;
-    /** Of one character, or the end of the text; line and column, in UTF-16 units, count from 1. */
+    /**
+     * The place of one character, or of the end of the text. `line` and `column` count from 1, the
+     * column in UTF-16 units.
+     */
     PxPlace place(int line, int column) const;
 
 private:
@@ -55,9 +58,9 @@ private:
 
     QString m_text;
     QVector<int> m_lineStarts;
-    QVector<int> m_secondHalves;            // of the characters that are two in the text
-    std::deque<PxSourceElement> m_elements; // whose addresses stay
+    QVector<int> m_secondHalves;            // indexes of low surrogates
+    std::deque<PxSourceElement> m_elements; // a deque, because addresses must not change
     const PxSourceElement *m_root = nullptr;
-    QVector<PxSourceElement *> m_open; // elements whose end tag has not come yet
+    QVector<PxSourceElement *> m_open; // elements without an end tag so far
     QVector<PxSourceNode> m_prolog;
 };

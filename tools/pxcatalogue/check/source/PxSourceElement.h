@@ -6,7 +6,7 @@
 #include <QString>
 #include <QVector>
 
-/** An attribute and where it stands. */
+/** An attribute with its place. */
 struct PxSourceAttribute
 {
     QString name;
@@ -25,15 +25,15 @@ struct PxSourceNode
     QString text;
     PxSourceRange range;
 
-    /** As in "a comment". */
+    /** For example "a comment". */
     static QString kindText(Kind kind);
     bool isText() const { return kind == Kind::Text || kind == Kind::CharacterData; }
-    /** A text of nothing but blanks, which the library does not count as a node. */
+    /** Whether this is a text of blanks only, which the library does not count as a node. */
     bool isBlank() const { return kind == Kind::Text && text.trimmed().isEmpty(); }
 };
 
 /**
- * An element and where it stands: what the reading of files does not tell.
+ * An element with its place, which the library's reader does not provide.
  *
  * Elements live as long as their PxSourceDocument.
  */
@@ -46,20 +46,20 @@ public:
     QVector<PxSourceAttribute> attributes;
     const PxSourceElement *parent = nullptr;
     QVector<const PxSourceElement *> children;
-    QVector<PxSourceNode> nodes; ///< all that is no element, but blank texts
+    QVector<PxSourceNode> nodes; ///< all other child nodes, except blank texts
     QDomElement dom;             ///< the same element as the library reads it
 
-    /** Null when there is none. */
+    /** Null if there is none. */
     const PxSourceAttribute *attribute(const char *attributeName) const;
-    /** An empty text when there is no such attribute. */
+    /** Empty if there is no such attribute. */
     QString value(const char *attributeName) const;
     /** The value of an attribute as the library reads a whole number. */
     int number(const char *attributeName, int absent = 0) const;
-    /** The value of an attribute; the name of the element when it is not there. */
+    /** The range of an attribute's value, or of the element's name if the attribute is missing. */
     PxSourceRange rangeOf(const char *attributeName) const;
-    /** Null when there is none. */
+    /** Null if there is none. */
     const PxSourceElement *firstChild(const char *childName) const;
     QVector<const PxSourceElement *> childrenNamed(const char *childName) const;
-    /** The text inside, from the first character that is no blank to behind the last one. */
+    /** The range of the text inside, without the blanks around it. */
     PxSourceRange textRange() const;
 };

@@ -30,12 +30,12 @@ PxSourceFault::PxSourceFault(const QString &text) : m_text(text)
 
 void PxSourceFault::open(const QString &name, int begin)
 {
-    // Behind blanks outside the document element.
+    // Outside the document element, blanks may come first.
     const int nameBegin = m_text.indexOf(QLatin1Char('<'), begin) + 1;
     m_open.append({name, {nameBegin, nameBegin + name.size()}});
 }
 
-/** Where the next token begins: the reader takes more than a token to know that it has ended. */
+/** Where the next token begins. After a text, the reader has already consumed the "<" behind it. */
 int PxSourceFault::nextBegin(QXmlStreamReader::TokenType token, int end) const
 {
     if (token == QXmlStreamReader::StartDocument && !m_text.startsWith(QLatin1String("<?xml")))
@@ -45,7 +45,7 @@ int PxSourceFault::nextBegin(QXmlStreamReader::TokenType token, int end) const
     return hasTakenBracket ? end - 1 : end;
 }
 
-/** Finds what can be said better than the parser says it; any other fault is told in its words. */
+/** Finds a better message than the parser's; keeps the parser's if there is none. */
 void PxSourceFault::classify(const QXmlStreamReader &reader, int begin)
 {
     const int end = qMin(int(reader.characterOffset()), m_text.size());
@@ -71,7 +71,7 @@ void PxSourceFault::classify(const QXmlStreamReader &reader, int begin)
     }
 }
 
-/** The reader stops behind an entity that it does not know. */
+/** The reader stops behind the name of an unknown entity. */
 bool PxSourceFault::findUndeclaredEntity(int end)
 {
     constexpr int maximumLength = 256;
@@ -90,7 +90,7 @@ bool PxSourceFault::findUndeclaredEntity(int end)
     return true;
 }
 
-/** The fault is in the tag itself: what looks like one further on may be within another tag. */
+/** Examines only the tag where the reader stopped: text that looks like a tag need not be one. */
 bool PxSourceFault::findWrongEndTag(int begin, int end)
 {
     static const QRegularExpression ourEndTag("\\G</([^\\s<>/]{1,256})");
@@ -143,14 +143,14 @@ bool PxSourceFault::findSecondAttribute(int begin, int end)
     return false;
 }
 
-/** The next tag begins within a start tag: one of its marks is missing. */
+/** Another tag begins inside a start tag, so a quote or a ">" of the start tag is missing. */
 void PxSourceFault::findUnfinishedTag(int begin, int end)
 {
     static const QRegularExpression ourTag("\\G<([^\\s<>/!?\"'=]+)");
     const QRegularExpressionMatch tag = ourTag.match(m_text, begin);
     if (!tag.hasMatch() || m_text.at(end - 1) != QLatin1Char('<') || end - 1 == begin)
         return;
-    int quote = -1; // that is open
+    int quote = -1; // where an open quote begins
     for (int i = begin; i < end - 1; ++i) {
         const QChar next = m_text.at(i);
         if (quote >= 0 && next == m_text.at(quote))
@@ -171,7 +171,7 @@ void PxSourceFault::findUnfinishedTag(int begin, int end)
     }
 }
 
-/** The text ends within a comment, or within other markup, and not behind an element's. */
+/** The text ends inside a comment or other markup, not between tags. */
 void PxSourceFault::findMarkupWithoutEnd(int begin)
 {
     constexpr struct
@@ -194,7 +194,7 @@ void PxSourceFault::findMarkupWithoutEnd(int begin)
         m_isUnclosed = false;
         m_range = {begin, begin + mark.size()};
         m_message = QString("this %1 has no end").arg(QLatin1String(row.name));
-        // What looks like the end of a tag is within a value.
+        // The tag has a ">", so that must be inside a value without an end.
         const bool isInValue = mark.size() == 1 && m_text.indexOf(QLatin1Char('>'), begin) >= 0 &&
                                m_text.at(begin + 1) != QLatin1Char('!');
         m_hint = isInValue ? "end the value with the quote that it begins with"

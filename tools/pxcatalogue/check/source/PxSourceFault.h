@@ -6,7 +6,7 @@
 #include <QVector>
 #include <QXmlStreamReader>
 
-/** What keeps a text from being well-formed, and where: the first fault of a strict reader. */
+/** The first fault that keeps a text from being well-formed XML, and its place. */
 class PxSourceFault
 {
 public:
@@ -27,11 +27,11 @@ public:
     explicit PxSourceFault(const QString &text);
 
     Kind kind() const { return m_kind; }
-    /** The element that lacks its end tag, when that is the fault; else null. */
+    /** The element whose end tag is missing, if that is the fault; else null. */
     const Element *unclosed() const { return m_isUnclosed ? &m_open.constLast() : nullptr; }
-    /** What is wrong, in the parser's words where we have no better ones; at `range()`. */
+    /** What is wrong at range(), in the parser's words if the program has no better ones. */
     QString message() const { return m_message; }
-    /** What to do, when more can be said than the message says; else empty. */
+    /** What the author can do; empty if the message says enough. */
     QString hint() const { return m_hint; }
     PxSourceRange range() const { return m_range; }
 
@@ -47,9 +47,9 @@ private:
     void findMarkupWithoutEnd(int begin);
 
     const QString m_text;
-    QVector<Element> m_open; // elements whose end tag has not come yet
+    QVector<Element> m_open; // elements without an end tag so far
     Kind m_kind = Kind::None;
-    bool m_isUnclosed = false; // the last of them, when that is the fault
+    bool m_isUnclosed = false; // whether the fault is that the last of them is not closed
     QString m_message;
     QString m_hint;
     PxSourceRange m_range;

@@ -6,7 +6,7 @@
 
 namespace {
 
-/** Goes through a list as it is written in a file, and finds the place of each part. */
+/** Scans the source text of a list and finds the place of each part. */
 class ListScanner
 {
 public:
@@ -22,7 +22,7 @@ public:
             m_list.parts.last().whole.end = m_end;
     }
 
-    /** Without their texts. */
+    /** The parts, without their texts. */
     PxSourceList list() const { return m_list; }
 
 private:
@@ -30,7 +30,7 @@ private:
     {
         return QStringView(m_source).mid(m_position).startsWith(QLatin1String(mark));
     }
-    /** Where what begins with one mark ends with the other. */
+    /** The end of markup that begins here with `opening` and ends with `mark`. */
     int behind(const char *opening, const char *mark) const
     {
         const QLatin1String text(mark);
@@ -42,7 +42,7 @@ private:
         if (m_list.count++ < PxCheckLimits::listParts)
             m_list.parts.append({QString(), {begin, begin}, {begin, begin}});
     }
-    /** Whether the last part is there. */
+    /** Whether the last part is kept, not only counted. */
     bool isKept() const { return m_list.isWhole(); }
 
     void readNext();
@@ -53,7 +53,7 @@ private:
     const QString &m_source;
     int m_position;
     int m_end;
-    bool m_isBlank = true; // the last part, so far
+    bool m_isBlank = true; // whether the last part has only blanks so far
     PxSourceList m_list;
 };
 
@@ -85,7 +85,7 @@ void ListScanner::readReference()
 {
     const int end = behind("&", ";");
     const QStringView name = QStringView(m_source).mid(m_position + 1, end - m_position - 2);
-    uint code = 'x'; // what has a name is neither a comma nor a blank
+    uint code = 'x'; // entities with names are neither commas nor blanks
     if (name.startsWith(QLatin1String("#x")))
         code = name.mid(2).toUInt(nullptr, 16);
     else if (name.startsWith(QLatin1Char('#')))
@@ -93,7 +93,7 @@ void ListScanner::readReference()
     add(code <= 0xffff ? QChar(code) : QLatin1Char('x'), end);
 }
 
-/** `end` is behind what stands for the character. */
+/** `end` is where the source text of the character ends. */
 void ListScanner::add(QChar character, int end)
 {
     PxSourcePart &part = m_list.parts.last();
@@ -111,7 +111,7 @@ void ListScanner::add(QChar character, int end)
     m_position = end;
 }
 
-/** `value` is what the library reads of the source text in `range`. */
+/** `value` is what the library reads from the source text in `range`. */
 PxSourceList split(const PxCheckedFile &file, const PxSourceRange &range, const QString &value)
 {
     const QString source = file.source().text();

@@ -2,15 +2,15 @@
 
 #include "check/source/PxCheckedFile.h"
 
-/** A part of a comma-separated list and where it stands. */
+/** A part of a comma-separated list, with its place. */
 struct PxSourcePart
 {
-    QString text;        ///< as the library reads it, with the blanks around it
-    PxSourceRange range; ///< without the blanks; where nothing else is there, the place for it
-    PxSourceRange whole; ///< with them
+    QString text;        ///< as the library reads it, with blanks around it
+    PxSourceRange range; ///< without blanks around it; empty for an empty part
+    PxSourceRange whole; ///< with blanks around it
 };
 
-/** The parts of a list; of a very long one the first. */
+/** The parts of a list, or only the first ones of a very long list. */
 struct PxSourceList
 {
     QVector<PxSourcePart> parts;
@@ -22,14 +22,14 @@ struct PxSourceList
 /**
  * The parts of the lists in files.
  *
- * Where the places cannot be told, as of what an entity of the file's own stands for, all parts
- * have the place of the whole list.
+ * If the places cannot be determined, for example because an entity contains several parts, all
+ * parts have the place of the whole list.
  */
 class PxSourceParts
 {
 public:
-    /** Of the value of an attribute; none if it is null. */
+    /** The parts of an attribute's value; none if the attribute is null. */
     static PxSourceList ofAttribute(const PxCheckedFile &file, const PxSourceAttribute *attribute);
-    /** Of the text in an element. */
+    /** The parts of the text in an element. */
     static PxSourceList ofText(const PxCheckedFile &file, const PxSourceElement &element);
 };

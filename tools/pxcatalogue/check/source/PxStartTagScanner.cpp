@@ -31,10 +31,10 @@ PxSourceRange PxStartTagScanner::readName()
     return {m_offset + begin, m_offset + m_position};
 }
 
-/** Answers whether there is one, and all of it. */
+/** Returns whether there is another attribute and it is complete. */
 bool PxStartTagScanner::readAttribute()
 {
-    const int end = m_position; // of the value before
+    const int end = m_position; // of the previous value
     skipBlanks();
     const bool hasBlank = m_position > end;
     PxSourceAttribute attribute;

@@ -7,25 +7,25 @@
 /**
  * Finds the names and values of a start tag's attributes in the text of the tag.
  *
- * The tag may be damaged: what is found before the damage is answered.
+ * The tag may be damaged; everything before the damage is found.
  */
 class PxStartTagScanner
 {
 public:
-    /** What comes next where the scan has stopped. */
+    /** What is missing where the scan stopped. */
     enum class Lack { Nothing, EqualSign, Quote, EndOfValue, Blank };
 
     /**
-     * `offset` is where the tag, beginning with "<", stands in the document. More text may follow
-     * behind it.
+     * `tag` begins with "<" and may continue after the end of the tag. `offset` is its index in the
+     * document.
      */
     PxStartTagScanner(QStringView tag, int offset);
 
-    /** Where it has stopped: in a sound tag at its ">" or "/>". */
+    /** Where the scan stopped; in an undamaged tag, that is at its ">" or "/>". */
     int end() const { return m_offset + m_position; }
     Lack lack() const { return m_lack; }
     PxSourceRange nameRange() const { return m_nameRange; }
-    /** In their order, without values. */
+    /** The attributes in the order of the tag, without values. */
     const QVector<PxSourceAttribute> &attributes() const { return m_attributes; }
 
 private:
