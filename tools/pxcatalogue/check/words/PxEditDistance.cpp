@@ -20,11 +20,11 @@ int PxEditDistance::distance(const QString &from, const QString &to, Swap swap, 
 {
     using Row = QVarLengthArray<int, 128>;
     Row row(to.size() + 1);
-    std::fill(row.begin(), row.end(), 0); // a part may begin anywhere at no cost
+    std::fill(row.begin(), row.end(), 0); // a part may begin anywhere without cost
     if (!isToPart)
         std::iota(row.begin(), row.end(), 0);
     Row above = row;
-    Row before = row; // two rows back, for swapped neighbours
+    Row before = row; // two rows back, for swapped characters
     for (int i = 0; i < from.size(); ++i) {
         std::copy(above.begin(), above.end(), before.begin());
         std::copy(row.begin(), row.end(), above.begin());
@@ -36,7 +36,7 @@ int PxEditDistance::distance(const QString &from, const QString &to, Swap swap, 
                 from[i - 1] == to[j])
                 row[j + 1] = std::min(row[j + 1], before[j - 1] + 1);
         }
-        // No row falls below the least of the two above it.
+        // No value falls below the smallest one in the two rows above it.
         if (*std::min_element(row.begin(), row.end()) > atMost &&
             *std::min_element(above.begin(), above.end()) > atMost)
             return std::numeric_limits<int>::max();

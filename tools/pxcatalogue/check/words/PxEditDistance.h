@@ -4,16 +4,16 @@
 
 #include <limits>
 
-/** How many characters must be added, removed or replaced to make one text of another. */
+/** How many characters must be added, removed or replaced to turn one text into another. */
 class PxEditDistance
 {
 public:
-    enum class Swap { IsTwoChanges, IsOneChange }; ///< two neighbours that changed their places
+    enum class Swap { IsTwoChanges, IsOneChange }; ///< of two adjacent characters
 
-    /** Above `atMost` the answer is only some greater number, which is found sooner. */
+    /** Stops early if the distance exceeds `atMost`; the result is then just some larger number. */
     static int between(const QString &from, const QString &to, Swap swap = Swap::IsTwoChanges,
                        int atMost = std::numeric_limits<int>::max());
-    /** To make that part of `whole` of it which is most like it. */
+    /** The distance between `part` and the part of `whole` that is most similar to it. */
     static int toPartOf(const QString &whole, const QString &part);
 
 private:

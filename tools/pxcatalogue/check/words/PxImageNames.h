@@ -4,18 +4,21 @@
 #include <QHash>
 #include <QStringList>
 
-/** Guesses which image was meant by the name of one that is not there. */
+/** Guesses which image the author meant by the name of a missing one. */
 class PxImageNames
 {
 public:
     enum class Kind {
         Any,
-        Lower, ///< without upper-case letters, because others are not found
+        Lower, ///< names without upper-case letters, the only ones that the library finds
     };
 
     explicit PxImageNames(Kind kind) : m_kind(kind) {}
 
-    /** Another one beside the missing file, with the directory that `name` has. */
+    /**
+     * Suggests a name from the directory of the missing `file`, with the same directory as `name`;
+     * empty if none is similar.
+     */
     QString hint(const QString &name, const QFileInfo &file);
 
 private:

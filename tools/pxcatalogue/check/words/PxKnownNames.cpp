@@ -17,7 +17,7 @@ bool PxKnownNames::contains(const QString &name) const
 
 QString PxKnownNames::hint(const QString &name)
 {
-    // Names that are compared are about as long as each other.
+    // Estimated: names that are compared have about the same length.
     const qint64 length = qMin(name.size(), PxCheckLimits::comparedLength);
     m_compared += qMax<qint64>(1, length * length) * m_names.size();
     return m_compared <= PxCheckLimits::comparedLetters ? PxSpelling::hint(name, m_names)

@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-/** All names of a kind, and which of them somebody meant who wrote another. */
+/** All names of a kind, for guessing which one the author meant by an unknown name. */
 class PxKnownNames
 {
 public:
@@ -10,15 +10,15 @@ public:
     explicit PxKnownNames(const QStringList &names);
 
     bool isEmpty() const { return m_names.isEmpty(); }
-    /** In exactly these letters. */
+    /** Compares exactly, case included. */
     bool contains(const QString &name) const;
     /**
-     * Which of them is meant, as a question to the author; empty when none is near, or when names
-     * have been guessed too often.
+     * The name that was probably meant, as a question to the author. Empty if none is similar, or
+     * if the limit for guesses is reached.
      */
     QString hint(const QString &name);
 
 private:
     QStringList m_names;   // sorted
-    qint64 m_compared = 0; // pairs of letters
+    qint64 m_compared = 0; // pairs of characters
 };

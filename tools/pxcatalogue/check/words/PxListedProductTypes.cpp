@@ -20,7 +20,7 @@ PxListedProductTypes::PxListedProductTypes(bool isChecked) : m_isChecked(isCheck
         if (row.tagName() == tag && type.isValid())
             m_types.append(type);
     }
-    // A name that stands there twice is the same type both times.
+    // A name that occurs twice is the same type both times.
     std::sort(m_types.begin(), m_types.end());
     m_types.erase(std::unique(m_types.begin(), m_types.end()), m_types.end());
     QStringList names;
@@ -29,7 +29,7 @@ PxListedProductTypes::PxListedProductTypes(bool isChecked) : m_isChecked(isCheck
     m_names = PxKnownNames(names);
 }
 
-/** The name may stand in any attribute, when that of the name is misspelt. */
+/** Adds the values of all attributes, because the attribute "name" itself may be misspelt. */
 void PxListedProductTypes::addKeysOf(const QDomElement &row)
 {
     const QDomNamedNodeMap attributes = row.attributes();

@@ -8,18 +8,18 @@
 
 #include <set>
 
-/** The product types of producttypes.xml, which the library finds by name, but does not list. */
+/** Lists the product types of producttypes.xml, which the library itself only finds by name. */
 class PxListedProductTypes
 {
 public:
-    /** Reads the file that the library reads. `isChecked`: it is one of the checked files, too. */
+    /** Reads the file that the library reads. `isChecked`: the run checks this file, too. */
     explicit PxListedProductTypes(bool isChecked);
 
-    /** A row that the library rejects is reported there. */
+    /** Whether rows that the library rejects are reported in producttypes.xml itself. */
     bool isChecked() const { return m_isChecked; }
-    /** Those that the library takes, each once. */
+    /** The product types that the library accepts, each once. */
     const PxProductTypeList &types() const { return m_types; }
-    /** Names cannot be checked then: each would be unknown. */
+    /** If so, names cannot be checked, because each would be unknown. */
     bool isEmpty() const { return m_types.isEmpty(); }
     /** The row exists in the file, even if the library rejects it: the row itself reports why. */
     bool isListed(const QString &name) const

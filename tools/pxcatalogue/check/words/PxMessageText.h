@@ -8,8 +8,8 @@ class PxMessageText
 {
 public:
     static QString quoted(const QString &name);
-    /** Each name quoted, and `last` before the last one. */
+    /** Quotes each name, and writes `last` before the last one. */
     static QString quotedList(const QStringList &names, const QString &last = " and ");
-    /** Cut off where it is too long for a message. */
+    /** Cuts off a value that is too long for a message. */
     static QString shortened(const QString &value);
 };

@@ -15,7 +15,7 @@ QString PxSpelling::nearest(const QString &word, const QStringList &candidates)
     const QString wanted = word.trimmed().toUpper();
     if (wanted.isEmpty() || wanted.size() > PxCheckLimits::comparedLength)
         return QString();
-    int best = wanted.size() / 3 + 1; // a third of the letters may be wrong
+    int best = wanted.size() / 3 + 1; // up to a third of the characters may be wrong
     QString nearest;
     for (const QString &candidate : candidates) {
         if (std::abs(candidate.size() - wanted.size()) > best ||

@@ -2,23 +2,24 @@
 
 #include <QStringList>
 
-/** Guesses what somebody meant who misspelt a name. */
+/** Guesses what the author meant by a misspelt name. Case does not matter. */
 class PxSpelling
 {
 public:
-    /** The one candidate that is nearest and near; empty when none is. Case does not count. */
+    /** The most similar candidate; empty if none is similar. */
     static QString nearest(const QString &word, const QStringList &candidates);
-    /** The same as a question to the author; empty when none is near. */
+    /** The same as a question to the author; empty if there is none. */
     static QString hint(const QString &word, const QStringList &candidates);
     /**
-     * The three candidates at most that are nearest to the word, or have a part that is near to it;
-     * the best first. Case does not count.
+     * At most three candidates that are similar to the word or have a part that is, the most
+     * similar first.
      */
     static QStringList nearestThree(const QString &word, const QStringList &candidates);
-    /** Whether the name is near to the word. */
+    /** Whether the name is similar to the word. */
     static bool isNear(const QString &word, const QString &name);
-    /** The question for a name that is known to be near. */
+    /** The question for a name that is known to be similar. */
     static QString didYouMean(const QString &name);
-    /** Those of a list that uses another separator than the comma; a very long one is a word. */
+    /** The words of a list with separators other than commas. A very long list counts as one word.
+     */
     static QStringList words(const QString &list);
 };
