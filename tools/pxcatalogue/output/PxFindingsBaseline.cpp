@@ -20,7 +20,7 @@ constexpr const char *keys[] = {"path", "tag", "message"};
 
 QString tooLarge(qint64 size)
 {
-    return QString("it has %1 bytes, no more than %2 are read")
+    return QString("it has %1 bytes, but the limit is %2")
         .arg(QString::number(size), QString::number(PxFindingsBaseline::maximumSize));
 }
 
@@ -30,7 +30,8 @@ std::optional<PxProblem> load(const QString &path, QByteArray *contents)
     const auto problem = [](const QString &reason) {
         return PxProblem{"cannot be read: " + reason};
     };
-    // Opened without waiting for a pipe; fstat() then asks about the very file that is read.
+    // Opening a pipe must not block. fstat() checks the file that is open, whatever its path is
+    // now.
     const int descriptor =
         open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (descriptor == -1)
@@ -48,7 +49,7 @@ std::optional<PxProblem> load(const QString &path, QByteArray *contents)
     return std::nullopt;
 }
 
-/** Takes `count` from a number, or what is left of it; returns how many it took. */
+/** Subtracts `count` from a number, but not below 0; returns how much it subtracted. */
 int take(int *number, int count)
 {
     const int taken = qMin(*number, count);
@@ -56,7 +57,7 @@ int take(int *number, int count)
     return taken;
 }
 
-/** The same, from all numbers of the tag and file; only if not all of them are listed. */
+/** Does that with all entries of the tag and file; only if the baseline has a rest for them. */
 int takeAny(QMap<PxFindingIdentity, int> *left, const PxFindingIdentity &finding, int count)
 {
     const auto rest = left->find({finding.path(), finding.tag(), PxFindingIdentity::restMessage()});
@@ -98,7 +99,7 @@ std::optional<PxProblem> PxFindingsBaseline::readJson(const QByteArray &text)
     if (error.error != QJsonParseError::NoError)
         problem = PxProblem{"is no JSON: " + error.errorString()};
     else if (json["format"].toInt() != formatVersion)
-        problem = PxProblem{QString("has another format than %1").arg(formatVersion)};
+        problem = PxProblem{QString("does not have format %1").arg(formatVersion)};
     else if (!json["findings"].isArray())
         problem = PxProblem{"has no \"findings\""};
     else
@@ -149,9 +150,10 @@ std::optional<PxProblem> PxFindingsBaseline::write(const QString &path) const
 }
 
 /**
- * A repair changes which of many findings are listed one by one. So, where the baseline has such a
- * rest, only the number counts: the rest of the report uses up what is left of its tag and file
- * first, then the findings that are listed do.
+ * Of many findings with the same tag in the same file, only the first are listed; the rest is
+ * counted. A repair changes which ones are listed. So, if the baseline has such a rest, only the
+ * total of tag and file matters: after the findings that match exactly, it hides those in the rest
+ * of the report, then listed ones.
  */
 void PxFindingsBaseline::hide(PxCheckReport *report) const
 {
@@ -161,7 +163,7 @@ void PxFindingsBaseline::hide(PxCheckReport *report) const
     QVector<PxFinding> findings;
     findings.swap(report->findings);
     QVector<PxFindingIdentity> identities;
-    QVector<int> known; // how many of each finding
+    QVector<int> known; // for each finding, how many the baseline hides
     for (const PxFinding &finding : qAsConst(findings)) {
         identities.append(PxFindingIdentity(finding, report->catalogueNames));
         const auto same = left.find(identities.constLast());

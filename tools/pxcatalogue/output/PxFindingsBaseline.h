@@ -10,27 +10,27 @@
 
 #include <optional>
 
-/** The known findings of a catalogue: a file that lists them, so that they are hidden. */
+/** The known findings of a catalogue, which a file lists so that reports hide them. */
 class PxFindingsBaseline
 {
 public:
-    /** In bytes, about 30 000 findings: reading more would take seconds. */
+    /** In bytes; enough for about 30 000 findings. Reading more would take seconds. */
     static constexpr qint64 maximumSize = qint64(8) * 1024 * 1024;
 
     PxFindingsBaseline() = default;
-    /** All findings of the report are known. */
+    /** Makes all findings of the report known. */
     explicit PxFindingsBaseline(const PxCheckReport &report);
 
-    /** Only a regular file is read. */
+    /** Reads a regular file; refuses any other. */
     std::optional<PxProblem> read(const QString &path);
     std::optional<PxProblem> write(const QString &path) const;
 
-    /** Reads the contents of such a file; the problem does not name the file. */
+    /** Reads the contents of such a file. A problem does not name the file. */
     std::optional<PxProblem> readJson(const QByteArray &text);
     /** The text for readJson(). */
     QByteArray toJson() const;
 
-    /** Removes the known findings from the report, each as often as it is known. */
+    /** Removes each known finding from the report as many times as the baseline counts it. */
     void hide(PxCheckReport *report) const;
 
 private:

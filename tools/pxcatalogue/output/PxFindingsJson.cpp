@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int formatVersion = 1; // a new member keeps it, any other change raises it
+constexpr int formatVersion = 1; // raise it when JSON changes, except for new members
 
 QJsonObject jsonOf(const PxFinding &finding)
 {

@@ -4,7 +4,7 @@
 
 #include <QJsonObject>
 
-/** Findings as JSON, with everything that the text has. */
+/** Findings as JSON, with everything that the text contains. */
 class PxFindingsJson
 {
 public:

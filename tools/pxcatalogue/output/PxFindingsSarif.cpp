@@ -17,7 +17,7 @@ namespace {
 
 constexpr const char *catalogueBase = "CATALOGUE";
 
-/** Escapes what the format would read as a place for an argument or as a link. */
+/** Escapes what the format would read as a placeholder or as a link. */
 QJsonObject textOf(QString text)
 {
     static const QRegularExpression ourLink("\\[(?=[^\\[\\]]*\\]\\()");
@@ -25,7 +25,7 @@ QJsonObject textOf(QString text)
     return {{"text", text}};
 }
 
-/** The format has no level for matters of style. */
+/** SARIF has fewer levels: info and pedantic are both notes. */
 QString levelOf(PxSeverity severity)
 {
     switch (severity) {
@@ -78,7 +78,10 @@ QString encoded(const QString &path)
     return QString::fromLatin1(QUrl::toPercentEncoding(path, "/"));
 }
 
-/** Relative to the working directory, the root of a checkout; elsewhere to the catalogue. */
+/**
+ * The location of a file: relative to the working directory, which is usually the root of a
+ * checkout, or to the catalogue if the file lies outside of it.
+ */
 QJsonObject artifactOf(const QString &path, const PxCheckReport &report)
 {
     const QString fromHere =

@@ -46,7 +46,7 @@ void addFinding(PxOutputText *text, const PxFinding &finding, bool isColoured)
 
 void addSummary(PxOutputText *text, const PxCheckReport &report)
 {
-    QMap<QString, QStringList> notChecked; // tags, by what is missing
+    QMap<QString, QStringList> notChecked; // tags, by what the check lacked
     for (auto it = report.tagsNotChecked.begin(); it != report.tagsNotChecked.end(); ++it)
         notChecked[it.value()].append(it.key());
     for (auto it = notChecked.begin(); it != notChecked.end(); ++it)
