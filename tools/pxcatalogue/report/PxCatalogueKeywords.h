@@ -10,7 +10,7 @@
 
 #include <cstddef>
 
-// The keywords of the command line and of the output; the library has those of the product files.
+// Keywords that only the program uses; those of the product files belong to the library.
 
 inline constexpr PxKeyword<PxProductClass> productClassRows[] = {
     {"book", PxProductClassBook},       {"calendar", PxProductClassCalendar},
@@ -39,7 +39,7 @@ QStringList keywordList(const PxKeyword<ENUM> (&rows)[COUNT])
     return keywords;
 }
 
-/** The lower-case keyword of each bit, lowest bit first; of several the shortest. */
+/** The lower-case keyword of each bit, lowest bit first; the shortest if a bit has several. */
 template <typename ENUM>
 QStringList keywordsOf(ENUM flags, const QHash<QString, ENUM> &map)
 {

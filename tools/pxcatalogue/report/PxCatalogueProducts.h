@@ -11,9 +11,9 @@ class PxProductTypeConfigRegistry;
 class PxCatalogueProducts
 {
 public:
-    /** By class, then by name; also those that are not on offer because they have no size. */
+    /** Sorted by class and name, including those not on offer because they have no size. */
     static PxProductTypeList of(const PxProductTypeConfigRegistry *registry);
-    /** The names of the current products and of the legacy ones. */
+    /** The names of all current and legacy products. */
     static QStringList names();
 
     static bool isCurrent(const PxProductType &type);
@@ -23,7 +23,7 @@ public:
 
     /** The keyword of the product class. */
     static QString className(const PxProductType &type);
-    /** By class, then by name. The library returns them in the order of a hash. */
+    /** Sorts by class and name, because the library returns products in the order of a hash. */
     static PxProductTypeList sorted(PxProductTypeList types);
     /** The names in the order of sorted(). */
     static QJsonArray nameArray(const PxProductTypeList &types);

@@ -49,17 +49,17 @@ QJsonArray designElementsOf(const PxProductTypeDescription *product)
 QJsonArray backgroundCategoriesOf(const PxProductTypeDescription *product)
 {
     QStringList categories = product->allowedBackgroundCategories().toDataStringList();
-    categories.sort(); // they come in the order of a hash
+    categories.sort(); // the library returns them in the order of a hash
     return QJsonArray::fromStringList(categories);
 }
 
 /**
- * `wanted`, or if that is 0 the page count with which the product is sold. A count that is too
- * large is lowered with a warning.
+ * Returns `wanted`, or the page count with which the product is sold if `wanted` is 0. Lowers a
+ * count that is too large, with a warning.
  */
 int shownPageCount(const PxProductTypeDescription &product, const QList<int> &offered, int wanted)
 {
-    // Each entry of the page list may mean that many pages, so the total is limited, too.
+    // Each entry of the page list may stand for that many pages, so the total is limited, too.
     const int entries = qMax(1, product.countAbstractPages());
     const int limit = qBound(1, 1000000 / entries, PxProductReport::maximumPageCount);
     const int soldWith = product.defaultSellingPages();
@@ -71,7 +71,7 @@ int shownPageCount(const PxProductTypeDescription &product, const QList<int> &of
     return limit;
 }
 
-/** All that distinguishes surroundings, as a key with a strict order. */
+/** All properties of a surrounding, as a key that can be sorted. */
 auto orderOf(const PxSurroundingDescription &surrounding)
 {
     const QRect rect = surrounding.imageRect();
@@ -82,7 +82,7 @@ auto orderOf(const PxSurroundingDescription &surrounding)
                            rect.bottom());
 }
 
-/** The next smaller and the next larger one, if there are any; nothing if the count is offered. */
+/** The next smaller and next larger count that exist; nothing if the count itself is offered. */
 QList<int> nearestPageCounts(const QList<int> &offered, int pageCount)
 {
     const auto larger = std::lower_bound(offered.begin(), offered.end(), pageCount);
@@ -118,8 +118,8 @@ struct Shown
     QList<int> offeredPageCounts = product->offeredPageCounts();
     int pageCount = 0;
     QList<PxPageContext> pages = {};      // all pages in their order, covers included
-    QList<PxPageContext> kinds = {};      // the different ones among them
-    QVector<QList<int>> pagesOfKind = {}; // by the index of the kind
+    QList<PxPageContext> kinds = {};      // each different page once
+    QVector<QList<int>> pagesOfKind = {}; // page numbers, by the index of the kind
 };
 
 void addPagesTo(Shown *shown)
@@ -136,7 +136,7 @@ void addPagesTo(Shown *shown)
     }
 }
 
-/** `pageCount` is that of the user, or 0. */
+/** `pageCount` is what the user asked for, or 0. */
 Shown shownProduct(const PxProductTypeConfigRegistry *registry, const PxProductType &type,
                    int pageCount, const QString &themeId)
 {
@@ -149,7 +149,7 @@ Shown shownProduct(const PxProductTypeConfigRegistry *registry, const PxProductT
     return shown;
 }
 
-/** `product` is the description of a product, or the product in a theme. */
+/** `product` is a product description, or the context of the product and a theme. */
 template <typename Product>
 QJsonValue pagesWithContent(const Shown &shown, const Product &product)
 {
@@ -161,7 +161,7 @@ QJsonValue pagesWithContent(const Shown &shown, const Product &product)
     return PxReportValue::numbers(pages);
 }
 
-// Most of what follows are tables.
+// Most of the following code consists of tables.
 // clang-format off
 
 void addProduct(const Shown &shown, PxReport *report)
@@ -258,7 +258,7 @@ void addSpine(const Shown &shown, PxReport *report)
     });
 }
 
-/** The different surroundings, each with its pages. */
+/** Each different surrounding, with the numbers of its pages. */
 QVector<QPair<PxSurroundingDescription, QList<int>>> surroundingsOf(const Shown &shown)
 {
     QVector<QPair<PxSurroundingDescription, QList<int>>> found;
@@ -317,7 +317,7 @@ QString defaultTemplate(const Shown &shown, const PxPageContext &kind, DefaultTe
 {
     if (shown.themeId.isEmpty())
         return shown.product->findDefaultTemplate({"normal", kind, type}, true, true);
-    // As the editor asks, which has a background of its own for empty pages.
+    // Asks like the editor, which has its own background for empty pages.
     return PxProductContext(shown.type, shown.themeId)
         .defaultTemplateForPage(type == DefaultTemplateTypeLayout, kind, true);
 }

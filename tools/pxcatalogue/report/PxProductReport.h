@@ -8,18 +8,18 @@
 
 class PxProductTypeConfigRegistry;
 
-/** Everything that the library answers about one product of a certain page count. */
+/** Everything that the library knows about one product with a certain page count. */
 class PxProductReport
 {
 public:
-    /** The largest page count that is shown: pages are shown one by one. */
+    /** The largest page count that can be shown, because each page is asked for separately. */
     static constexpr int maximumPageCount = 9999;
 
     /**
-     * The product as this registry describes it, which is the current one or the legacy one.
+     * Reports the product as `registry`, the current or the legacy one, describes it.
      *
-     * A `pageCount` of 0 means the one with which the product is sold; any other number that is not
-     * offered causes a warning. A theme is for current products only; its id may be empty.
+     * A `pageCount` of 0 means the one with which the product is sold. A warning is logged if the
+     * product is not offered with another `pageCount`. `themeId` must be empty for legacy products.
      */
     static PxReport of(const PxProductTypeConfigRegistry *registry, const PxProductType &type,
                        int pageCount, const QString &themeId);

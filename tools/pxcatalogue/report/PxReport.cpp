@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int formatVersion = 1; // a new member keeps it, any other change of JSON raises it
+constexpr int formatVersion = 1; // raise it when JSON changes, except for new members
 constexpr int labelWidth = 22;   // the same in all sections, so that the values are aligned
 
 PxTextTable::Kind kindOf(PxReportFormat format)

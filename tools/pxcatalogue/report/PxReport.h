@@ -10,10 +10,9 @@
 #include <QVector>
 
 /**
- * What a command answers: sections of single values and of tables, for people and as JSON.
+ * The report of a command: sections with single values or a table, printed as text or as JSON.
  *
- * Both come from the same values. Empty texts, lists and tables are left out of the text; JSON
- * has them.
+ * Both have the same values. Empty texts, lists and tables appear only in JSON.
  */
 class PxReport
 {
@@ -32,9 +31,9 @@ public:
         PxReportFormat format = PxReportFormat::Plain;
     };
 
-    /** In JSON a member that is an object. */
+    /** Adds a section of single values; in JSON an object. */
     void addFields(const char *key, const char *heading, const QVector<Field> &fields);
-    /** In JSON a member that is an array of objects. A row has one value for each column. */
+    /** Adds a table; in JSON an array of objects. Each row has one value for each column. */
     void addTable(const char *key, const char *heading, const QVector<Column> &columns,
                   const QVector<QJsonArray> &rows);
 

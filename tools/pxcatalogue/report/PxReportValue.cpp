@@ -41,8 +41,8 @@ QString pageCountsText(const QJsonValue &counts)
 }
 
 /**
- * The index behind a run that begins at `first`: of successive numbers, or of every second one.
- * Runs have no numbers below 0, as "-3--1" is hard to read.
+ * The index behind the run that begins at `first`, in steps of 1 or 2. Negative numbers begin no
+ * run, because "-3--1" is hard to read.
  */
 int endOfRun(const QJsonArray &numbers, int first)
 {

@@ -10,12 +10,12 @@
 class PxMargins;
 class QRect;
 
-/** How a value of a report is written as text. JSON has the value itself. */
+/** How a value of a report is written as text. JSON contains the value itself. */
 enum class PxReportFormat {
     Plain,  // texts, numbers, flags and lists of them
     Key,    // the same in a column that is not shortened to fit
-    Name,   // a keyword of the files with its display name, when the library has one
-    Length, // tenths of a millimetre, like all of the next three
+    Name,   // a keyword of the files with its display name, if the library has one
+    Length, // in tenths of a millimetre, like the next three
     Size,
     Margins, // top, bottom, left, right
     Rect,
@@ -28,22 +28,22 @@ enum class PxReportFormat {
     JsonOnly,
 };
 
-/** The values of a report, as JSON; the text is made from that. */
+/** Makes the values of a report, as JSON, and the texts for them. */
 class PxReportValue
 {
 public:
     /** Null for an invalid size. */
     static QJsonValue size(const QSize &size) { return PxReportValue::size(QSizeF(size)); }
-    /** Rounded. The sum of two lengths may exceed an int. */
+    /** Rounds to whole numbers. The sum of two lengths may exceed an int. */
     static QJsonValue size(const QSizeF &size);
     static QJsonValue rect(const QRect &rect);
     static QJsonValue margins(const PxMargins &margins);
-    /** Null without a keyword. */
+    /** Null if the keyword is empty. */
     static QJsonValue name(const QString &keyword, const QString &displayName);
     /**
-     * Keyword and display name of an attribute; null for a product without it.
+     * The keyword and display name of an attribute; null if the product does not have it.
      *
-     * The display name is empty if the library has only its word for "unknown".
+     * The display name is empty if the library only has its text for unknown values.
      */
     template <typename Wrapper>
     static QJsonValue name(const Wrapper &attribute)
@@ -53,12 +53,12 @@ public:
         return attribute.isNull() ? QJsonValue()
                                   : name(keywordOf(attribute), isUnknown ? QString() : displayName);
     }
-    /** Null when none is offered. The increment is 0 with one page count, and null with two. */
+    /** Null if none is offered. The increment is 0 for one page count, and null for two. */
     static QJsonValue pageCounts(const QList<int> &offered, int increment);
     static QJsonValue numbers(const QList<int> &numbers);
 
-    /** Without unit; empty for null, an empty text and an empty list. */
+    /** The text of a value, without unit; empty for null, an empty text or an empty list. */
     static QString text(const QJsonValue &value, PxReportFormat format);
-    /** The unit of the text, with a blank before it; empty when it has none. */
+    /** The unit of the text, after a blank; empty if it has none. */
     static QString unit(PxReportFormat format);
 };

@@ -9,9 +9,9 @@
 namespace {
 
 constexpr int gap = 2;
-constexpr int legible = 3; // the least width of a shortened text
+constexpr int legible = 3; // the smallest width of a shortened text
 
-/** Limits every text, as all other rows are padded to the longest one. */
+/** Limits the length of every text, because all rows are padded to the longest one. */
 constexpr int maximumWidth = 1000;
 
 } // namespace

@@ -4,9 +4,9 @@
 #include <QVector>
 
 /**
- * Lines of aligned columns that fit a width: texts are shortened, never wrapped.
+ * Formats rows as aligned columns that fit a width: texts are shortened, never wrapped.
  *
- * If that is not enough, the lines are cut off. Extremely long texts are always shortened.
+ * Lines that are still too long are cut off. Extremely long texts are always shortened.
  */
 class PxTextTable
 {
@@ -22,7 +22,7 @@ public:
     void addRow(const QStringList &texts);
 
     bool isEmpty() const { return m_rows.size() == 1; }
-    /** The headings, unless all are empty, and the rows. */
+    /** The line of headings, unless all are empty, and the rows. */
     QStringList lines(int width) const;
 
 private:
