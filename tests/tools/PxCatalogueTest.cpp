@@ -226,7 +226,7 @@ void PxCatalogueTest::findsCompatibleProducts()
     find(" --criterion paper", 0, {"_SOFT"});
     find(" --criterion binding,paper", 1, {});
     const QString help = run("compatible --help").text();
-    QVERIFY(help.contains("as many entries (a range of pages is one)") &&
+    QVERIFY(help.contains("of entries (a range of pages is one entry)") &&
             !help.contains("and number of pages"));
 }
 

@@ -28,7 +28,7 @@ void print(QtMsgType level, const QMessageLogContext &context, const QString &te
 {
     if (level == QtFatalMsg) {
         PxTerminal::printError("internal fault: " + text);
-        std::_Exit(int(PxExitStatus::InternalFault)); // Qt would abort without a word
+        std::_Exit(int(PxExitStatus::InternalFault)); // Qt would call abort()
     }
     if (ourShown == PxCatalogueLog::Shown::Nothing)
         return;

@@ -1,12 +1,12 @@
 #pragma once
 
-/** Keeps the library's log apart from the output: each message is a line of its own on stderr. */
+/** Prints the log of the library to stderr, one line for each message. */
 class PxCatalogueLog
 {
 public:
     enum class Shown {
         Nothing,
-        /** Also the debug message that explains a warning: why a file could not be read. */
+        /** Includes the debug message after a warning that says why a file could not be read. */
         Warnings,
         Everything,
     };

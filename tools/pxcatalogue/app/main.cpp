@@ -12,12 +12,12 @@
 
 namespace {
 
-/** Comes before all questions to the library, which translates its tables when it builds them. */
+/** Must be called before the library is used, which translates its tables when it builds them. */
 void installTranslation(const QString &language)
 {
     const QLocale locale = language.isEmpty() ? QLocale() : QLocale(language);
-    // The texts are German, so there is no catalogue for it: where German is the first choice, the
-    // catalogue of the second one would be found.
+    // There is no translation into German, the language of the source texts: a user who prefers
+    // German would get the translation into the second choice.
     if (locale.uiLanguages().value(0).startsWith("de"))
         return;
     auto *translator = new QTranslator(QCoreApplication::instance());

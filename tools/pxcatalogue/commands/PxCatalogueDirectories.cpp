@@ -25,7 +25,7 @@ QString resource(const char *name)
     return PxDirectoryConfig::instance()->resource(name, false);
 }
 
-/** The nearest directory around a file that has product types; empty when there is none. */
+/** The nearest directory above a file with a producttypes.xml; empty if there is none. */
 QString resourcesAbove(const QString &path)
 {
     QDir directory = QFileInfo(path).absoluteDir();
@@ -49,7 +49,7 @@ std::optional<PxProblem> findResourcesAbove(const QStringList &paths, QStringLis
                 howToNameIt};
         if (!resources->isEmpty() && resources->constFirst() != directory)
             return PxProblem{
-                QString("\"%1\" and \"%2\" are of different catalogues: check them one by one")
+                QString("\"%1\" and \"%2\" belong to different catalogues: check them one by one")
                     .arg(paths.constFirst(), path)};
         *resources = QStringList{directory};
     }
@@ -87,7 +87,7 @@ std::optional<PxProblem> readTypes()
     return std::nullopt;
 }
 
-/** Finds the resource directories that the command line names, or those of the files it names. */
+/** Finds the resource directories: those of the command line, else those above its files. */
 std::optional<PxProblem> findResources(const PxCommandLine &line, const QStringList &paths,
                                        QStringList *resources)
 {
@@ -121,7 +121,7 @@ std::optional<PxProblem> useGivenOnes(const PxCommandLine &line, const QStringLi
             return problem;
     }
     auto *config = PxDirectoryConfig::instance();
-    if (!resources.isEmpty()) { // naming a catalogue means its themes and defaults, too
+    if (!resources.isEmpty()) { // a named catalogue comes with its own themes and defaults
         config->setResourceDirectories(resources);
         config->setUserDefaultsPath(config->resource("defaults", false));
         config->setThemesDirectory(QString());

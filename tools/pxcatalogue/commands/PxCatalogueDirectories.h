@@ -8,18 +8,19 @@
 
 class PxCommandLine;
 
-/** Where the catalogue is: the directories of the command line, else those of the platform. */
+/** Finds the catalogue: in the directories of the command line, else in those of the platform. */
 class PxCatalogueDirectories
 {
 public:
-    /** Sets them in the platform, so that the library can be asked. */
+    /** Sets the directories in the platform, where the library looks for them. */
     static std::optional<PxProblem> apply(const PxCommandLine &line);
     /**
      * The same for a check, whose arguments are the resource directory or files.
      *
-     * A broken producttypes.xml is no problem here: the check reports it with the place.
+     * A broken producttypes.xml is not a problem here: the check reports it with its place.
      */
     static std::optional<PxProblem> applyForCheck(const PxCommandLine &line);
 
+    /** Returns a problem unless the path is a directory that can be read. */
     static std::optional<PxProblem> problemOf(const QString &directory);
 };

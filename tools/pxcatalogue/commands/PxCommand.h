@@ -15,15 +15,15 @@ struct PxCommandUsage
     /** What follows the name of a command. */
     struct Arguments
     {
-        QString name;    ///< as "Usage" shows them
+        QString name;    ///< as the line "Usage" shows them
         QString meaning; ///< a sentence about them
-        QString needed;  ///< what is missing if there are none; empty if they are optional
-        int most = 0;
+        QString needed;  ///< what to call them if they are missing; empty if they are optional
+        int most = 0;    ///< how many there may be
     };
 
     QString name;
-    QString description; ///< lines; the first one is the summary among all commands
-    /** First its own, then those that it shares; not those of every command. */
+    QString description; ///< the list of commands shows only its first line
+    /** First its own, then those that other commands have, too; without those of every command. */
     QVector<PxOption> options;
     Arguments arguments = {};
 };
@@ -40,7 +40,7 @@ public:
     virtual PxCommandUsage usage() const = 0;
     /** Whether the user sees the warnings of the library without --verbose, too. */
     virtual bool showsWarnings() const { return true; }
-    /** Does what the line asks for, which fits the usage. */
+    /** Runs the command. The line has been checked against usage(). */
     virtual PxExitStatus run(const PxCommandLine &line) const = 0;
 
     /** Prints the problem to stderr. */

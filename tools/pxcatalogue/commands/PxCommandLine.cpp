@@ -10,14 +10,14 @@ namespace {
 
 constexpr const char *introduction =
     "Shows the products of a catalogue as the product properties library understands\n"
-    "their files. Tables fit the terminal (COLUMNS), texts that do not are shortened.\n"
-    "\nCommands (--help after a command tells its options):\n";
+    "their files. Tables fit the terminal (COLUMNS): texts that are too long are shortened.\n"
+    "\nCommands (--help after a command shows its options):\n";
 constexpr const char *exitStatus =
     "\nExit status: 0 done; 1 the answer is \"no\": there is no such product or\n"
     "theme, no other product that is interchangeable, no theme to order, or no variant;\n"
     "2 wrong usage, a directory or a producttypes.xml that cannot be read, or output that\n"
     "cannot be written.\n"
-    "\"check --help\" tells that of check.";
+    "\"check --help\" shows the exit status of check.";
 
 QString programDescription()
 {
@@ -48,7 +48,7 @@ QString commandNames(const PxOption *option = nullptr)
     return names.join(", ");
 }
 
-/** An option that neighbours in the table share follows the own options of the last of them. */
+/** An option shared by adjacent commands comes after the own options of the last of them. */
 QVector<PxOption> optionsOfAllCommands()
 {
     const QVector<const PxCommand *> commands = PxCommand::all();

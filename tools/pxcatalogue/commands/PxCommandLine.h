@@ -11,18 +11,18 @@
 class PxCommand;
 struct PxOption;
 
-/** What the user wants: a command with its options, or only a text about the program. */
+/** The command line, parsed: a command with its options, or a request for --help or --version. */
 class PxCommandLine
 {
 public:
-    /** The words of the command line, of which the first one is the program. */
+    /** The words of the command line; the first one is the program. */
     explicit PxCommandLine(const QStringList &words);
 
-    /** Why nothing can be done. */
+    /** Why the command line cannot be understood. */
     std::optional<PxProblem> problem() const { return m_problem; }
     /** The text of --help or --version. */
     std::optional<QString> information() const { return m_information; }
-    /** The command to run; only if there is neither a problem nor an information. */
+    /** The command to run. Call it only if there is neither a problem nor an information. */
     const PxCommand &command() const { return *m_command; }
 
     /** What follows the name of the command. */

@@ -15,10 +15,10 @@ PxCommandUsage PxCompatibleCommand::usage() const
     // clang-format off
     return {"compatible",
         "The other products that are interchangeable with this one.\n"
-        "Those of its class with the same orientation and a page list of as many entries (a range of\n"
-        "pages is one), both lists with a spine or both without. Page counts are not compared.\n"
-        "--criterion names what must agree beside these.", {
-        {"criterion", "KEYWORDS", "What must agree, too: binding, paper, space and increment, with commas. Default: none.", 0, 0, keywordList(criterionRows)},
+        "These have the same class and the same orientation, and their page lists have the same number\n"
+        "of entries (a range of pages is one entry), all with a spine or all without. Page counts are\n"
+        "not compared. --criterion names further properties that must be the same.", {
+        {"criterion", "KEYWORDS", "What else must be the same: binding, paper, space, increment; several with commas. Default: nothing.", 0, 0, keywordList(criterionRows)},
         PxOption::theme(),
         PxOption::json(),
     }, productName()};

@@ -2,7 +2,7 @@
 
 #include "commands/PxReportCommand.h"
 
-/** The command "compatible": the products that are interchangeable with one. */
+/** The command "compatible": the products that are interchangeable with a given one. */
 class PxCompatibleCommand : public PxReportCommand
 {
 public:

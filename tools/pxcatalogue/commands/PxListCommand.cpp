@@ -15,7 +15,7 @@ PxCommandUsage PxListCommand::usage() const
         "A table of the products, by class and name.\n"
         "Pages 26-154/2 means from 26 to 154 in steps of 2; 26, 30 means these two.", {
         {"class", "KEYWORD", "Only these products: book, calendar, gift, card, deko or print; several with commas.", 0, 0, keywordList(productClassRows)},
-        {"earlier", "", "The products of earlier catalogues, those of --legacy, instead of the current ones."},
+        {"earlier", "", "The products of earlier catalogues, in the directory of --legacy, instead of the current ones."},
         PxOption::json(),
     }};
     // clang-format on

@@ -19,7 +19,7 @@ std::optional<PxProblem> PxOption::problemOf(const QString &text) const
 // clang-format off
 PxOption PxOption::theme()
 {
-    return {"theme", "ID", "As designed in this theme. Default: default templates of the theme normal, products whatever their themes."};
+    return {"theme", "ID", "Show the product in this theme, or only the products that it allows. Default: no theme, with the default templates of the theme normal."};
 }
 
 PxOption PxOption::json()
@@ -30,13 +30,13 @@ PxOption PxOption::json()
 QVector<PxOption> PxOption::ofEveryCommand()
 {
     return {
-        {"resources", "DIR[:DIR]", "The resource directories of a catalogue, with the themes and the defaults in them. Default: PX_RESOURCE_DIRS, else the catalogue installed with the library."},
+        {"resources", "DIR[:DIR]", "The resource directories of a catalogue, whose themes and defaults are used, too. Default: PX_RESOURCE_DIRS, else the catalogue installed with the library."},
         {"products", "DIR", "The directory of the product files. Default: products in the resource directories."},
-        {"legacy", "DIR", "The directory of the legacy product files. Default: products/legacy in the same."},
-        {"user-defaults", "DIR", "The user's default templates. Default: defaults in a catalogue that is named, else PX_USER_DEFAULTS_DIR, else defaults in the data directory of the user."},
-        {"themes", "DIR", "The directory of the theme files. Default: themes in a catalogue that is named, else PX_THEMES_DIR, else themes in the resource directories."},
+        {"legacy", "DIR", "The directory of the legacy product files. Default: products/legacy in the resource directories."},
+        {"user-defaults", "DIR", "The directory of the user's default templates. Default: defaults in the catalogue that the command line names, else PX_USER_DEFAULTS_DIR, else defaults in the data directory of the user."},
+        {"themes", "DIR", "The directory of the theme files. Default: themes in the catalogue that the command line names, else PX_THEMES_DIR, else themes in the resource directories."},
         {"lang", "LANGUAGE", "The language of display names: en or de. Default: that of the locale, else German."},
-        {"verbose", "", "Also the debug messages of the library. Why a product or theme file could not be read is always told; check tells no messages without this."},
+        {"verbose", "", "Print the debug messages of the library, too. The reason why a product or theme file could not be read is printed anyway, except by check, which prints no messages of the library without this."},
         {"help", "", "This text."},
         {"version", "", "The version of the program."},
     };

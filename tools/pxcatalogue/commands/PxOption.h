@@ -13,14 +13,14 @@ struct PxOption
     QString name;
     QString value; ///< the name of its value in --help; empty for an option without a value
     QString description;
-    int least = 0; ///< bounds if the value is a number; then `most` is not 0
-    int most = 0;
-    QStringList keywords = {}; ///< allowed in a list with commas; empty if any text is
+    int least = 0;             ///< smallest number allowed
+    int most = 0;              ///< largest number allowed; 0 if the value is not a number
+    QStringList keywords = {}; ///< allowed in a comma-separated list; empty if any text is allowed
 
     /** What is wrong with a value of the option. */
     std::optional<PxProblem> problemOf(const QString &text) const;
 
-    // Options of several commands, and those of every command.
+    // Options that several commands have, and those that every command has.
     static PxOption theme();
     static PxOption json();
     static QVector<PxOption> ofEveryCommand();

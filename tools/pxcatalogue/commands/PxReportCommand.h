@@ -3,15 +3,15 @@
 #include "commands/PxCommand.h"
 #include "report/PxReport.h"
 
-/** A command that asks the library and prints what it answers, as a text or as JSON. */
+/** A command that queries the library and prints a report, as text or as JSON. */
 class PxReportCommand : public PxCommand
 {
 public:
-    /** Sets the library up, asks it and prints the answer. */
+    /** Sets up the library, calls answer() and prints the result. */
     PxExitStatus run(const PxCommandLine &line) const final;
 
 protected:
-    /** What is printed, and the reason if the answer is "no". */
+    /** The report to print, if any, and the reason if the answer is "no". */
     struct Answer
     {
         std::optional<PxReport> report;
@@ -20,11 +20,11 @@ protected:
 
     virtual Answer answer(const PxCommandLine &line) const = 0;
 
-    /** The argument of commands about one product. */
+    /** The argument of a command about one product. */
     static PxCommandUsage::Arguments productName();
-    /** In lower case, as ids are; empty if no theme is given. */
+    /** The id in --theme, in lower case like all ids; empty if no theme is given. */
     static QString themeId(const PxCommandLine &line);
     static PxProblem unknownProduct(const QString &name);
-    /** Nothing for an empty id. */
+    /** Returns a problem if no theme has this id; an empty id is not a problem. */
     static std::optional<PxProblem> problemOfTheme(const QString &id);
 };

@@ -11,9 +11,9 @@ PxCommandUsage PxShowCommand::usage() const
     // clang-format off
     return {"show",
         "Everything that is known about one product.\n"
-        "Page numbers begin at 0 and count covers and spine; 4-28/2 means every second one\n"
-        "from 4 to 28. What the product does not have is left out.", {
-        {"pages", "N", "As a product of so many pages, 1 to 9999. Default: as many as it is sold with.", 1, PxProductReport::maximumPageCount},
+        "Page numbers begin at 0 and count covers and spine; 4-28/2 means every second page\n"
+        "from 4 to 28. Empty values are left out.", {
+        {"pages", "N", "Show the product with this many pages, 1 to 9999. Default: as many as it is sold with.", 1, PxProductReport::maximumPageCount},
         PxOption::theme(),
         PxOption::json(),
     }, productName()};
@@ -26,7 +26,7 @@ PxReportCommand::Answer PxShowCommand::answer(const PxCommandLine &line) const
     const PxProductType type(name);
     const QString theme = themeId(line);
     const bool isCurrent = PxCatalogueProducts::isCurrent(type);
-    // Nobody designs a product of an earlier catalogue: none of the themes is for it.
+    // No theme applies to a product of an earlier catalogue.
     if (!isCurrent && (!theme.isEmpty() || !PxCatalogueProducts::isLegacy(type)))
         return {std::nullopt, unknownProduct(name)};
     if (const auto no = problemOfTheme(theme))

@@ -12,8 +12,8 @@
 PxCommandUsage PxVariantsCommand::usage() const
 {
     return {"variants",
-            "The variants of one product, as its colours, with their names.\n"
-            "Those without a name are not on offer and left out.",
+            "The variants of one product, such as its colours, with their names.\n"
+            "Variants without a name are not on offer and are left out.",
             {PxOption::json()},
             productName()};
 }

@@ -50,7 +50,8 @@ std::optional<PxProblem> check(const PxCommandLine &line, const PxCheckOptions &
     return std::nullopt;
 }
 
-/** Reads, writes and applies the baseline around the check. */
+/** Reads the known findings before the check; afterwards writes the new ones, or hides the known.
+ */
 std::optional<PxProblem> checkWithBaseline(const PxCommandLine &line, const PxCheckOptions &options,
                                            PxCheckReport *report)
 {
@@ -96,12 +97,12 @@ PxCommandUsage PxCheckCommand::usage() const
     // clang-format off
     return {"check",
         "What authors should know about the files of a catalogue.\n"
-        "Each place where what a file says and what the library does part ways, with the line and the\n"
-        "column, what the library does now, and what was probably meant. PATH is a resource directory,\n"
-        "or single files, which are checked each by itself; default: the resource directories. The\n"
-        "comment <!-- check: allow TAG reason --> silences a tag for the element behind it.\n"
-        "Exit status: 0 nothing found that is as bad as --fail-on says; 1 something is; 2 wrong usage,\n"
-        "or what cannot be read or written; 3 a fault of the program.",
+        "Shows each place where the library does something else than the file says, with line and\n"
+        "column, what the library does now, and what the author probably meant. PATH is a resource\n"
+        "directory, or single files, each of which is checked by itself; default: the resource\n"
+        "directories. The comment <!-- check: allow TAG reason --> silences a tag for the next element.\n"
+        "Exit status: 0 no finding is as bad as --fail-on says; 1 at least one is; 2 wrong usage, or\n"
+        "something cannot be read or written; 3 a fault of the program.",
         PxCheckOptions::all(),
         {"[PATH…]", "A resource directory, or files.", {}, std::numeric_limits<int>::max()}};
     // clang-format on

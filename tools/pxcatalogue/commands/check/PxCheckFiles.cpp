@@ -110,9 +110,9 @@ std::optional<PxProblem> PxCheckFiles::findFiles(const Directory &directory)
         const QString name = entry.fileName();
         const QString path = join(place, name);
         const bool hasEnding = name.endsWith(".xml", directory.ending);
-        // Directories and hidden files are not there by a wrong name.
+        // Directories and hidden files are no product files with a wrong name.
         const bool isElsewhere = entry.isDir() || entry.isHidden();
-        // Such as a backup copy. Other files, for example images, may lie beside themes.
+        // True for backup copies, for example. Images and other files may lie beside themes.
         const bool looksLikeXml = name.contains(".xml", Qt::CaseInsensitive);
         if (hasEnding && entry.isFile() && !entry.isHidden())
             directory.files->append(path);
@@ -144,14 +144,14 @@ std::optional<PxProblem> PxCheckFiles::findSingleFiles()
     return findKnownThemes(known);
 }
 
-/** Finds the theme files that are not checked themselves. */
+/** Finds the theme files that are only read for their ids, because they are not to be checked. */
 std::optional<PxProblem> PxCheckFiles::findKnownThemes(const QSet<QString> &checked)
 {
     QStringList all;
     const auto problem = findFiles(themes(&all));
-    m_paths.strays.clear(); // only what the user named is checked
+    m_paths.strays.clear(); // only files that the user named are checked
     m_paths.undecodableNames.clear();
-    // Messages that name both files must not depend on where the catalogue lies.
+    // Messages that name two files must not depend on where the catalogue lies.
     const bool areRelative = std::all_of(m_given.begin(), m_given.end(), QDir::isRelativePath);
     for (const QString &path : qAsConst(all)) {
         if (checked.contains(absolute(path)))
@@ -195,7 +195,7 @@ bool PxCheckFiles::addSingleFile(const QString &path)
     return isFirst;
 }
 
-/** The path as the user would write it: below the directory as it was given. */
+/** The path as the user would write it: starting with the directory as the user wrote it. */
 QString PxCheckFiles::shown(const QString &absolutePath) const
 {
     QString name;

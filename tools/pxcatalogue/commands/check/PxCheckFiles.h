@@ -22,14 +22,14 @@ public:
     std::optional<PxProblem> find();
 
     PxCheckPaths paths() const { return m_paths; }
-    /** The names of the files within the catalogue, by their path. */
+    /** By path: the name of each file relative to the catalogue. */
     QHash<QString, QString> catalogueNames() const { return m_catalogueNames; }
 
 private:
     struct Directory
     {
         QString path;
-        QString name;               ///< within the catalogue
+        QString name;               ///< relative to the catalogue
         Qt::CaseSensitivity ending; ///< how the library compares the ending of files
         QStringList *files;         ///< the list for the files that the library reads
     };
@@ -44,7 +44,7 @@ private:
     QString shown(const QString &absolutePath) const;
 
     const QStringList m_given;         // the paths to check
-    QHash<QString, QString> m_shownOf; // directories as the user wrote them, by absolute path
+    QHash<QString, QString> m_shownOf; // by absolute path: directories as the user wrote them
     PxCheckPaths m_paths;
     QHash<QString, QString> m_catalogueNames;
 };

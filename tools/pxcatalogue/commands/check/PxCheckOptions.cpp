@@ -40,16 +40,16 @@ QVector<PxOption> PxCheckOptions::all()
     // clang-format off
     return {
         {"format", "FORMAT", "text, json or sarif (2.1.0). Default: text."},
-        {"quiet", "", "As text, the findings only: nothing at all when there is none."},
-        {"pedantic", "", "Also matters of style."},
+        {"quiet", "", "Text without a summary: prints nothing at all if there are no findings."},
+        {"pedantic", "", "Report matters of style, too."},
         {"fail-on", "SEVERITY", "How bad a finding must be for exit status 1: error, warning, info or pedantic. Default: error."},
         {"override", "TAG=SEVERITY", "Another severity for this tag; several with commas."},
         {"only", "TAGS", "Only findings with these tags; several with commas."},
         {"skip", "TAGS", "No findings with these tags; several with commas."},
-        {"baseline", "FILE", "No findings that are listed in this file."},
+        {"baseline", "FILE", "Hide the findings that are listed in this file."},
         {"write-baseline", "FILE", "List all findings in this file instead of printing them."},
         {"explain", "TAG", "What a tag means, with an example. Nothing is checked."},
-        {"list-tags", "", "A table of all tags. Nothing is checked. --format markdown: with their explanations."},
+        {"list-tags", "", "A table of all tags, with --format markdown also their explanations. Nothing is checked."},
     };
     // clang-format on
 }

@@ -19,12 +19,12 @@ class PxCheckOptions
 public:
     enum class Format { Text, Json, Sarif, Markdown };
 
-    /** All of them, as --help shows them. */
+    /** All options, in the order of --help. */
     static QVector<PxOption> all();
 
     explicit PxCheckOptions(const PxCommandLine &line);
 
-    /** What is wrong with them. */
+    /** What is wrong with the options. */
     std::optional<PxProblem> problem() const { return m_problem; }
 
     Format format() const { return m_format; }
@@ -33,12 +33,12 @@ public:
     /** The tag to explain; null for none. */
     const PxCheckTag *explainedTag() const { return m_explainedTag; }
     bool mustListTags() const { return m_mustListTags; }
-    /** The file to read; empty for none. */
+    /** The file of known findings to read; empty for none. */
     QString baseline() const { return m_baseline; }
-    /** The file to write; empty for none. */
+    /** The file of known findings to write; empty for none. */
     QString newBaseline() const { return m_newBaseline; }
 
-    /** Sets which findings are wanted, and how bad they are. */
+    /** Sets which findings are reported, and the severities of their tags. */
     void applyTo(PxFindings *findings) const;
 
 private:
