@@ -14,7 +14,7 @@ enum PxAssemblyWay : int {
 
 namespace EnumHelper {
 
-/** As files usually spell them, of several for one value the usual one first. */
+/** Spelled as in most files; if a value has several keywords, the usual one comes first. */
 inline constexpr PxKeyword<PxAssemblyWay> globalAssemblyWayKeywords[] = {
     {"client", PxAssemblyWayClient},
     {"factory", PxAssemblyWayFactory},

@@ -26,7 +26,7 @@ enum PxPageAlignment : int {
 
 namespace EnumHelper {
 
-/** As files usually spell them, of several for one value the usual one first. */
+/** Spelled as in most files; if a value has several keywords, the usual one comes first. */
 inline constexpr PxKeyword<PxPageAlignment> globalPageAlignmentKeywords[] = {
     {"left", PxPageAlignmentLeft},     {"leftpage", PxPageAlignmentLeft},
     {"cover", PxPageAlignmentLeft},    {"coverpage", PxPageAlignmentLeft},

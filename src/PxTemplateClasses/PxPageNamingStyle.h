@@ -23,7 +23,7 @@ enum PxPageNamingStyle : int {
 
 namespace EnumHelper {
 
-/** As files usually spell them, of several for one value the usual one first. */
+/** Spelled as in most files; if a value has several keywords, the usual one comes first. */
 inline constexpr PxKeyword<PxPageNamingStyle> globalPageNamingStyleKeywords[] = {
     {"BOOK", PxPageNamingStyleBook},
     {"CALENDAR", PxPageNamingStyleCalendar},

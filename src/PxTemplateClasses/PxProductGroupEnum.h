@@ -20,7 +20,7 @@ enum PxProductGroupEnum : int {
 
 namespace EnumHelper {
 
-/** As files usually spell them, of several for one value the usual one first. */
+/** Spelled as in most files; if a value has several keywords, the usual one comes first. */
 inline constexpr PxKeyword<PxProductGroupEnum> globalProductGroupEnumKeywords[] = {
     {"foto", PxProductGroupFoto},
     {"premiumfoto", PxProductGroupPremiumFoto},

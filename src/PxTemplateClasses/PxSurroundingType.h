@@ -21,7 +21,7 @@ enum PxSurroundingType : int {
 
 namespace EnumHelper {
 
-/** As files usually spell them, of several for one value the usual one first. */
+/** Spelled as in most files; if a value has several keywords, the usual one comes first. */
 inline constexpr PxKeyword<PxSurroundingType> globalSurroundingTypeKeywords[] = {
     {"BOOK", PxSurroundingTypeBook},
     {"GIFT", PxSurroundingTypeGift},
