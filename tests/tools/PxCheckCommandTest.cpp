@@ -170,7 +170,7 @@ void PxCheckCommandTest::tellsOneFaultOfAnAttribute()
 {
     m_sample->write("frames.xml", "<frames>\n<frame/>\n<frame id='ä'/>\n<frame id='ä' name='b'/>\n"
                                   "<frame id='ä' name='c'/>\n<frame id='ä' name='d'/></frames>");
-    const PxProgramRun frames = check("--pedantic frames.xml");
+    const PxProgramRun frames = m_sample->check("--pedantic frames.xml");
     QCOMPARE(findingsOf(frames), (QStringList{"frames.xml:2:2 warning frame-incomplete",
                                               "frames.xml:3:2 warning frame-incomplete",
                                               "frames.xml:4:12 pedantic frame-id-not-ascii",
@@ -180,19 +180,19 @@ void PxCheckCommandTest::tellsOneFaultOfAnAttribute()
 
     const QString margin = "safetymargin=\"30\"";
     m_sample->replace(cup, margin, "safetymargin=\"-1\" foldmargin=\"-2\"");
-    QCOMPARE(findingsOf(check(cup)), (QStringList{cup + ":5:26 error margin-negative",
-                                                  cup + ":5:42 error margin-negative"}));
+    QCOMPARE(findingsOf(m_sample->check(cup)), (QStringList{cup + ":5:26 error margin-negative",
+                                                            cup + ":5:42 error margin-negative"}));
     m_sample->restore(cup);
     m_sample->replace(cup, margin, margin + " foldmargin=\"-1\"");
-    QCOMPARE(findingsOf(check(cup)), QStringList());
+    QCOMPARE(findingsOf(m_sample->check(cup)), QStringList());
 
     const QString logo = "<logo filename='' booktype='%1' width='9' height='9'/>";
     m_sample->write("themes/a.xml", "<themes>\n<a id='A, '><logos>" + logo.arg("cup2") +
                                         "</logos></a>\n<a id=' '><logos>" + logo.arg("Cup2") +
                                         '\n' + logo.arg("CUP2") + "</logos></a></themes>");
-    QCOMPARE(findingsOf(check("--pedantic --only "
-                              "theme-id-unlistable,theme-id-lowered,theme-logo-twice "
-                              "themes/a.xml")),
+    QCOMPARE(findingsOf(m_sample->check("--pedantic --only "
+                                        "theme-id-unlistable,theme-id-lowered,theme-logo-twice "
+                                        "themes/a.xml")),
              (QStringList{"themes/a.xml:2:8 pedantic theme-id-lowered",
                           "themes/a.xml:2:8 warning theme-id-unlistable",
                           "themes/a.xml:3:8 warning theme-id-unlistable",

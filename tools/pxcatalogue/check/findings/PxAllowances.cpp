@@ -41,7 +41,7 @@ bool PxAllowances::allows(const QString &tag, const PxPlace &place)
         index = nested[index].outer;
     if (index < 0)
         return false;
-    nested[index].allowance.isOfUse = true;
+    nested[index].allowance.silencesSomething = true;
     return true;
 }
 
@@ -67,7 +67,7 @@ QVector<PxAllowances::Allowance> PxAllowances::unused() const
     QVector<Allowance> unused;
     for (const OfTag &ofTag : m_allowances) {
         for (const Nested &nested : ofTag.nested) {
-            if (!nested.allowance.isOfUse)
+            if (!nested.allowance.silencesSomething)
                 unused.append(nested.allowance);
         }
     }

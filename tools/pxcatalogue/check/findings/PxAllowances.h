@@ -14,8 +14,9 @@ public:
     {
         QString tag;
         PxPlace comment;
-        PxPlace part;         ///< what it covers: parts of a file are nested or do not overlap
-        bool isOfUse = false; ///< has silenced a finding, or nobody knows whether it would
+        PxPlace part; ///< what it covers: parts of a file are nested or do not overlap
+        bool silencesSomething =
+            false; ///< has silenced a finding, or nobody knows whether it would
     };
 
     void add(const Allowance &allowance);
