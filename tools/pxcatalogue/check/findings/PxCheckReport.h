@@ -6,7 +6,7 @@
 #include <QMap>
 #include <QVector>
 
-/** What a check has found, as it is told in any format. */
+/** What a check has found, as any format prints it. */
 struct PxCheckReport
 {
     QVector<PxFinding> findings; ///< sorted

@@ -23,9 +23,9 @@ bool isBefore(const PxFinding &a, const PxFinding &b)
 }
 
 /** Whether the tag only says that something is not read, not what is missing as a consequence. */
-bool isOfNameOnly(const PxCheckTag *tag)
+bool isOfNameOnly(PxTag tag)
 {
-    return std::find(std::begin(tagsOfNamesOnly), std::end(tagsOfNamesOnly), tag->tag) !=
+    return std::find(std::begin(tagsOfNamesOnly), std::end(tagsOfNamesOnly), tag) !=
            std::end(tagsOfNamesOnly);
 }
 
@@ -46,26 +46,26 @@ QString hintFor(const QString &tag)
 
 PxFinding *PxFindings::add(PxTag tag, const PxPlace &place)
 {
-    const PxCheckTag &row = PxCheckTags::of(tag);
-    return m_allowances.allows(QLatin1String(row.name), place) ? nullptr : append(row, place);
+    const QString name = PxCheckTags::of(tag).name;
+    return m_allowances.allows(name, place) ? nullptr : append(tag, place);
 }
 
 bool PxFindings::hasRoom(PxTag tag, const QString &path) const
 {
-    return m_findings.value({path, &PxCheckTags::of(tag)}).listed.size() <
-           PxCheckLimits::findingsOfTag;
+    return m_files.value(path).value(tag).listed.size() < PxCheckLimits::findingsOfTag;
 }
 
-PxFinding *PxFindings::append(const PxCheckTag &tag, const PxPlace &place)
+PxFinding *PxFindings::append(PxTag tag, const PxPlace &place)
 {
-    OfTag &ofTag = m_findings[{place.path, &tag}];
-    ofTag.severity = m_severities.value(QLatin1String(tag.name), tag.severity);
+    const PxCheckTag &row = PxCheckTags::of(tag);
+    OfTag &ofTag = m_files[place.path][tag];
+    ofTag.severity = m_settings.severities.value(tag, row.severity);
     if (ofTag.listed.size() >= PxCheckLimits::findingsOfTag) {
         ofTag.rest.append({place.line, place.column});
         return nullptr;
     }
     PxFinding finding;
-    finding.tag = &tag;
+    finding.tag = &row;
     finding.severity = ofTag.severity;
     finding.place = place;
     ofTag.listed.append(finding);
@@ -79,15 +79,16 @@ void PxFindings::allow(const QString &tag, const PxPlace &comment, const PxPlace
     m_allowances.add({tag, comment, part, !isChecked && PxCheckTags::find(tag)});
 }
 
-bool PxFindings::isWanted(const QString &tag) const
+bool PxFindings::isWanted(PxTag tag) const
 {
-    return (m_only.isEmpty() || m_only.contains(tag)) && !m_excluded.contains(tag);
+    return (m_settings.only.isEmpty() || m_settings.only.contains(tag)) &&
+           !m_settings.skipped.contains(tag);
 }
 
-QString PxFindings::lack(const PxCheckTag &tag) const
+QString PxFindings::lack(PxTag tag) const
 {
-    return m_isPartial && tag.needsCatalogue ? "without the whole catalogue"
-                                             : m_notChecked.value(&tag);
+    return m_isPartial && PxCheckTags::of(tag).needsCatalogue ? "without the whole catalogue"
+                                                              : m_notChecked.value(tag);
 }
 
 QVector<PxFinding> PxFindings::sorted() const
@@ -95,106 +96,105 @@ QVector<PxFinding> PxFindings::sorted() const
     PxFindings left = *this;
     for (const PxAllowances::Allowance &allowance : m_allowances.unused())
         left.addUnused(allowance);
-    left.removeUnwanted();
-    QSet<QString> paths;
-    for (auto it = left.m_findings.constBegin(); it != left.m_findings.constEnd(); ++it) {
-        if (isOfNameOnly(it.key().second))
-            paths.insert(it.key().first);
-    }
-    // Last, because findings that the user does not want to see must not hide others.
-    for (const QString &path : qAsConst(paths))
-        left.removeCauses(path);
     QVector<PxFinding> sorted;
-    for (auto it = left.m_findings.constBegin(); it != left.m_findings.constEnd(); ++it) {
-        sorted += it->listed;
-        if (it->rest.isEmpty())
-            continue;
-        const Spot first = *std::min_element(it->rest.begin(), it->rest.end());
-        PxFinding rest;
-        rest.tag = it.key().second;
-        rest.severity = it->severity;
-        rest.place = {it.key().first, first.line, first.column, first.line, first.column};
-        rest.setRest(it->rest.size());
-        sorted.append(rest);
+    for (auto file = left.m_files.begin(); file != left.m_files.end(); ++file) {
+        removeUnwanted(&*file);
+        // Last: a finding that nobody wants to see hides no other, though an allowance may.
+        removeCauses(&*file);
+        for (auto it = file->constBegin(); it != file->constEnd(); ++it) {
+            sorted += it->listed;
+            if (!it->rest.isEmpty())
+                sorted.append(summary(file.key(), it.key(), *it));
+        }
     }
     std::sort(sorted.begin(), sorted.end(), isBefore);
     return sorted;
 }
 
-void PxFindings::removeUnwanted()
+PxFinding PxFindings::summary(const QString &path, PxTag tag, const OfTag &findings)
 {
-    for (auto it = m_findings.begin(); it != m_findings.end();) {
-        if (isWanted(QLatin1String(it.key().second->name)) &&
-            (m_isPedantic || it->severity != PxSeverity::Pedantic))
-            ++it;
-        else
-            it = m_findings.erase(it);
+    const Spot first = *std::min_element(findings.rest.begin(), findings.rest.end());
+    PxFinding summary;
+    summary.tag = &PxCheckTags::of(tag);
+    summary.severity = findings.severity;
+    summary.place = {path, first.line, first.column, first.line, first.column};
+    summary.setRest(findings.rest.size());
+    return summary;
+}
+
+void PxFindings::removeUnwanted(OfFile *file) const
+{
+    for (auto it = file->begin(); it != file->end();) {
+        const bool isSeen = m_settings.isPedantic || it->severity != PxSeverity::Pedantic;
+        it = isWanted(it.key()) && isSeen ? std::next(it) : file->erase(it);
     }
 }
 
 /**
- * An unknown name and what is missing because of it are one mistake with findings at the same
- * place. Keeps only the consequence, unless the unknown name is more severe.
+ * A name that is not read, and what is missing because of it, are one mistake at one place: only
+ * the consequence is reported, unless it matters less.
  */
-void PxFindings::removeCauses(const QString &path)
+void PxFindings::removeCauses(OfFile *file)
 {
-    struct Mark
-    {
-        Spot spot;
-        int worst[2] = {-1, -1}; // severity of the consequences, and of the names
-    };
-    const auto isBefore = [](const Mark &a, const Mark &b) { return a.spot < b.spot; };
-    QVector<Mark> marks;
-    for (auto it = m_findings.constBegin(); it != m_findings.constEnd(); ++it) {
-        if (it.key().first != path)
-            continue;
-        Mark mark;
-        mark.worst[isOfNameOnly(it.key().second)] = int(it->severity);
-        for (const PxFinding &finding : it->listed) {
-            mark.spot = {finding.place.line, finding.place.column};
-            marks.append(mark);
-        }
-        for (const Spot &spot : it->rest) {
-            mark.spot = spot;
-            marks.append(mark);
-        }
-    }
-    std::sort(marks.begin(), marks.end(), isBefore);
-    QVector<Mark> places; // each place once
-    for (const Mark &mark : qAsConst(marks)) {
-        if (places.isEmpty() || isBefore(places.constLast(), mark))
-            places.append(mark);
-        for (int i = 0; i < 2; ++i)
-            places.last().worst[i] = qMax(places.constLast().worst[i], mark.worst[i]);
-    }
-    for (auto it = m_findings.begin(); it != m_findings.end(); ++it) {
-        if (it.key().first != path)
-            continue;
-        const bool isOfName = isOfNameOnly(it.key().second);
+    if (std::none_of(file->keyBegin(), file->keyEnd(), isOfNameOnly))
+        return;
+    const QVector<Worst> worst = worstOf(*file);
+    for (auto it = file->begin(); it != file->end(); ++it) {
+        const bool isOfName = isOfNameOnly(it.key());
         const auto isLeftOut = [&](const Spot &spot) {
-            const auto place = std::lower_bound(places.begin(), places.end(), Mark{spot}, isBefore);
-            return place->worst[1] >= 0 && (place->worst[1] > place->worst[0]) != isOfName;
+            const auto at =
+                std::lower_bound(worst.begin(), worst.end(), spot,
+                                 [](const Worst &w, const Spot &s) { return w.spot < s; });
+            return at->name >= 0 && (at->name > at->consequence) != isOfName;
         };
-        it->listed.erase(
-            std::remove_if(it->listed.begin(), it->listed.end(),
-                           [&](const PxFinding &finding) {
-                               return isLeftOut({finding.place.line, finding.place.column});
-                           }),
-            it->listed.end());
+        const auto isFindingLeftOut = [&](const PxFinding &finding) {
+            return isLeftOut({finding.place.line, finding.place.column});
+        };
+        it->listed.erase(std::remove_if(it->listed.begin(), it->listed.end(), isFindingLeftOut),
+                         it->listed.end());
         it->rest.erase(std::remove_if(it->rest.begin(), it->rest.end(), isLeftOut), it->rest.end());
     }
 }
 
-/** Appends the finding without asking the allowances, so that none silences itself or another. */
+/** Each spot once, sorted. */
+QVector<PxFindings::Worst> PxFindings::worstOf(const OfFile &file)
+{
+    QVector<Worst> all;
+    for (auto it = file.begin(); it != file.end(); ++it) {
+        Worst worst;
+        (isOfNameOnly(it.key()) ? worst.name : worst.consequence) = int(it->severity);
+        for (const PxFinding &finding : it->listed) {
+            worst.spot = {finding.place.line, finding.place.column};
+            all.append(worst);
+        }
+        for (const Spot &spot : it->rest) {
+            worst.spot = spot;
+            all.append(worst);
+        }
+    }
+    std::sort(all.begin(), all.end(),
+              [](const Worst &a, const Worst &b) { return a.spot < b.spot; });
+    QVector<Worst> merged;
+    for (const Worst &worst : qAsConst(all)) {
+        if (merged.isEmpty() || merged.constLast().spot < worst.spot)
+            merged.append(worst);
+        Worst &last = merged.last();
+        last.name = qMax(last.name, worst.name);
+        last.consequence = qMax(last.consequence, worst.consequence);
+    }
+    return merged;
+}
+
+/** Appended, not added: no allowance silences itself or another one. */
 void PxFindings::addUnused(const PxAllowances::Allowance &allowance)
 {
     const PxCheckTag *tag = PxCheckTags::find(allowance.tag);
-    if (tag && (m_excluded.contains(allowance.tag) || !lack(*tag).isEmpty()))
-        return; // what it would silence was not checked
+    if (tag && (m_settings.skipped.contains(tag->tag) || !lack(tag->tag).isEmpty()))
+        return; // nobody knows what it would silence
     const char *message = allowance.tag.isEmpty() ? "the allowance names no tag"
                           : tag                   ? "nothing here is \"%1\""
                                                   : "there is no tag \"%1\" to allow";
-    PxAddedFinding(append(PxCheckTags::of(PxTag::AllowanceUnused), allowance.comment))
+    PxAddedFinding(append(PxTag::AllowanceUnused, allowance.comment))
         .message(message, allowance.tag)
         .now("the comment silences nothing")
         .hint([&] { return hintFor(allowance.tag); });
@@ -204,8 +204,8 @@ QMap<QString, QString> PxFindings::tagsNotChecked() const
 {
     QMap<QString, QString> tags;
     for (const PxCheckTag *tag : PxCheckTags::all()) {
-        if (!lack(*tag).isEmpty() && isWanted(QLatin1String(tag->name)))
-            tags.insert(QLatin1String(tag->name), lack(*tag));
+        if (!lack(tag->tag).isEmpty() && isWanted(tag->tag))
+            tags.insert(tag->name, lack(tag->tag));
     }
     return tags;
 }

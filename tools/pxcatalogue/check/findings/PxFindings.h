@@ -3,15 +3,24 @@
 #include "check/findings/PxAllowances.h"
 #include "check/findings/PxCheckTags.h"
 
-#include <QHash>
 #include <QMap>
-#include <QSet>
 #include <QVector>
+
+/** What the user wants to see. */
+struct PxFindingSettings
+{
+    QMap<PxTag, PxSeverity> severities; ///< instead of those in the rows of the tags
+    QVector<PxTag> only;                ///< reports only these; all if there are none
+    QVector<PxTag> skipped;             ///< reports none of these
+    bool isPedantic = false;            ///< reports matters of style, too
+};
 
 /** Collects findings and filters out those that the user does not want to see. */
 class PxFindings
 {
 public:
+    explicit PxFindings(const PxFindingSettings &settings = {}) : m_settings(settings) {}
+
     /**
      * Silences a tag in a part of a file for all findings that are added later. `comment` is the
      * place of the comment that asks for it. An allowance that silences nothing becomes a finding
@@ -21,20 +30,7 @@ public:
     /** Whether only some files of the catalogue are checked. */
     void setPartial(bool isPartial) { m_isPartial = isPartial; }
     /** The tag cannot be checked. `lack` says what is missing, such as "without themes". */
-    void setNotChecked(PxTag tag, const QString &lack)
-    {
-        m_notChecked[&PxCheckTags::of(tag)] = lack;
-    }
-
-    void setSeverity(const QString &tag, PxSeverity severity) { m_severities[tag] = severity; }
-    /** Reports only these tags, or all if the list is empty. */
-    void setOnly(const QStringList &tags) { m_only = QSet<QString>(tags.begin(), tags.end()); }
-    void setSkipped(const QStringList &tags)
-    {
-        m_excluded = QSet<QString>(tags.begin(), tags.end());
-    }
-    /** Reports matters of style, too. */
-    void setPedantic(bool isPedantic) { m_isPedantic = isPedantic; }
+    void setNotChecked(PxTag tag, const QString &lack) { m_notChecked[tag] = lack; }
 
     /** The findings to report, sorted by path, line, column and tag. */
     QVector<PxFinding> sorted() const;
@@ -54,6 +50,13 @@ private:
             return line < other.line || (line == other.line && column < other.column);
         }
     };
+    /** How bad the worst findings at a spot are; -1 if there are none. */
+    struct Worst
+    {
+        Spot spot;
+        int name = -1;        ///< of those that only say that something is not read
+        int consequence = -1; ///< of all others
+    };
     /** The findings of one tag in one file. */
     struct OfTag
     {
@@ -61,25 +64,24 @@ private:
         QVector<PxFinding> listed;
         QVector<Spot> rest; ///< those that are only counted
     };
-    using Key = QPair<QString, const PxCheckTag *>; // path and tag
+    using OfFile = QMap<PxTag, OfTag>;
 
     /** Null if an allowance silences the finding, or if it is only counted. */
     PxFinding *add(PxTag tag, const PxPlace &place);
     bool hasRoom(PxTag tag, const QString &path) const;
-    PxFinding *append(const PxCheckTag &tag, const PxPlace &place);
-    bool isWanted(const QString &tag) const;
+    PxFinding *append(PxTag tag, const PxPlace &place);
+    bool isWanted(PxTag tag) const;
     /** What the check for the tag lacks; empty if the tag is checked. */
-    QString lack(const PxCheckTag &tag) const;
+    QString lack(PxTag tag) const;
     void addUnused(const PxAllowances::Allowance &allowance);
-    void removeUnwanted();
-    void removeCauses(const QString &path);
+    void removeUnwanted(OfFile *file) const;
+    static void removeCauses(OfFile *file);
+    static QVector<Worst> worstOf(const OfFile &file);
+    static PxFinding summary(const QString &path, PxTag tag, const OfTag &findings);
 
-    QHash<Key, OfTag> m_findings;
+    PxFindingSettings m_settings;
+    QMap<QString, OfFile> m_files; // by path
     PxAllowances m_allowances;
-    QHash<QString, PxSeverity> m_severities;
-    QSet<QString> m_only;
-    QSet<QString> m_excluded;
-    QHash<const PxCheckTag *, QString> m_notChecked;
-    bool m_isPedantic = false;
+    QMap<PxTag, QString> m_notChecked;
     bool m_isPartial = false;
 };

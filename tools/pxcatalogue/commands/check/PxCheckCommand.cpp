@@ -39,8 +39,7 @@ std::optional<PxProblem> check(const PxCommandLine &line, const PxCheckOptions &
         problem = files.find();
     if (problem)
         return problem;
-    PxFindings findings;
-    options.applyTo(&findings);
+    PxFindings findings(options.settings());
     PxCheck check(files.paths(), findings);
     check.run();
     report->findings = findings.sorted();

@@ -56,11 +56,11 @@ QVector<PxOption> PxCheckOptions::all()
 
 PxCheckOptions::PxCheckOptions(const PxCommandLine &line)
     : m_isQuiet(line.isSet("quiet"))
-    , m_isPedantic(line.isSet("pedantic"))
     , m_mustListTags(line.isSet("list-tags"))
     , m_baseline(line.value("baseline"))
     , m_newBaseline(line.value("write-baseline"))
 {
+    m_settings.isPedantic = line.isSet("pedantic");
     if (line.isSet("explain"))
         m_explainedTag = readTag("explain", line.value("explain"));
     if (line.isSet("format"))
@@ -68,19 +68,10 @@ PxCheckOptions::PxCheckOptions(const PxCommandLine &line)
     if (line.isSet("fail-on"))
         m_failOn = readSeverity("fail-on", line.value("fail-on"));
     readOverrides(partsOf(line.values("override")));
-    m_only = readTags("only", line.values("only"));
-    m_skipped = readTags("skip", line.values("skip"));
+    m_settings.only = readTags("only", line.values("only"));
+    m_settings.skipped = readTags("skip", line.values("skip"));
     if (!m_baseline.isEmpty() && !m_newBaseline.isEmpty())
         setProblem("--baseline and --write-baseline do not go together");
-}
-
-void PxCheckOptions::applyTo(PxFindings *findings) const
-{
-    for (auto it = m_overrides.begin(); it != m_overrides.end(); ++it)
-        findings->setSeverity(it.key(), *it);
-    findings->setOnly(m_only);
-    findings->setSkipped(m_skipped);
-    findings->setPedantic(m_isPedantic);
 }
 
 void PxCheckOptions::readFormat(const QString &name)
@@ -107,7 +98,7 @@ void PxCheckOptions::readOverrides(const QStringList &values)
         if (!value.contains('='))
             setProblem(QString("--override needs TAG=SEVERITY, not \"%1\"").arg(value));
         else if (tag)
-            m_overrides[tag->name] = readSeverity("override", value.section('=', 1));
+            m_settings.severities[tag->tag] = readSeverity("override", value.section('=', 1));
     }
 }
 
@@ -135,12 +126,12 @@ const PxCheckTag *PxCheckOptions::readTag(const QString &option, const QString &
     return tag;
 }
 
-QStringList PxCheckOptions::readTags(const QString &option, const QStringList &values)
+QVector<PxTag> PxCheckOptions::readTags(const QString &option, const QStringList &values)
 {
-    QStringList tags;
+    QVector<PxTag> tags;
     for (const QString &name : partsOf(values)) {
-        if (readTag(option, name))
-            tags.append(name);
+        if (const PxCheckTag *tag = readTag(option, name))
+            tags.append(tag->tag);
     }
     return tags;
 }

@@ -38,26 +38,23 @@ public:
     /** The file of known findings to write; empty for none. */
     QString newBaseline() const { return m_newBaseline; }
 
-    /** Sets which findings are reported, and the severities of their tags. */
-    void applyTo(PxFindings *findings) const;
+    /** Which findings are reported, and the severities of their tags. */
+    PxFindingSettings settings() const { return m_settings; }
 
 private:
     void readFormat(const QString &name);
     void readOverrides(const QStringList &values);
     PxSeverity readSeverity(const QString &option, const QString &name);
     const PxCheckTag *readTag(const QString &option, const QString &name);
-    QStringList readTags(const QString &option, const QStringList &values);
+    QVector<PxTag> readTags(const QString &option, const QStringList &values);
     void setProblem(const QString &problem);
 
     Format m_format = Format::Text;
     PxSeverity m_failOn = PxSeverity::Error;
     bool m_isQuiet;
-    bool m_isPedantic;
     bool m_mustListTags;
     const PxCheckTag *m_explainedTag = nullptr;
-    QMap<QString, PxSeverity> m_overrides;
-    QStringList m_only;
-    QStringList m_skipped;
+    PxFindingSettings m_settings;
     QString m_baseline;
     QString m_newBaseline;
     std::optional<PxProblem> m_problem;
