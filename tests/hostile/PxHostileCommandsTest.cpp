@@ -1,11 +1,14 @@
 #include "PxHostileFiles.h"
 
 #include <PxCatalogueDirectory.h>
+#include <PxProgramRun.h>
 #include <PxSampleCopy.h>
 
 #include <QJsonDocument>
 #include <QProcess>
 #include <QTest>
+
+#include <algorithm>
 
 #include <sys/resource.h>
 
@@ -221,6 +224,17 @@ void PxHostileCommandsTest::commandIsBounded_data()
     };
     for (const auto &row : rows)
         QTest::newRow(row.command) << row.status;
+
+    // Without a command, the program says which ones there are.
+    const QString names =
+        PxProgramRun(PX_CATALOGUE_PROGRAM, {}).errors().value(0).section(": use ", 1);
+    for (const QString &name : names.section(" (", 0, 0).split(", ")) {
+        QVERIFY2(std::any_of(std::begin(rows), std::end(rows),
+                             [&name](const auto &row) {
+                                 return QString(row.command).section(' ', 0, 0) == name;
+                             }),
+                 qPrintable("no row runs " + name));
+    }
 }
 
 void PxHostileCommandsTest::commandIsBounded()
