@@ -2,6 +2,7 @@
 
 #include <PxCollidingNames.h>
 #include <PxPictures.h>
+#include <format/PxFormat.h>
 
 #include <QSize>
 #include <QTextCodec>
@@ -95,13 +96,10 @@ QList<File> unreadable()
 static QByteArray productOfNumbers(const QByteArray &name, const QByteArray &number)
 {
     QByteArray attributes;
-    for (const char *attribute :
-         {"safetymargin", "defaultSellingPages", "numOfProducts", "numOfNormalPages",
-          "normalpagehorizontalclamp", "numOfSpirals", "editorStartDoublePage", "bleedmargin",
-          "bleedmarginhorizontal", "bleedmarginvertical", "bleedmargincover",
-          "bleedmargincoverhorizontal", "bleedmargincoververtical", "coverextravertical",
-          "coverextrahorizontal", "foldmargin"})
-        attributes += QByteArray(attribute) + "='N' ";
+    for (const PxAttributeRow &row : PxFormat::find(PxFileKind::Product, "product")->attributes) {
+        if (row.type == PxValueType::Integer || row.type == PxValueType::Length)
+            attributes += QByteArray(row.name) + "='N' ";
+    }
     QByteArray xml = product(
         name, attributes + "binding='HARDCOVER' orientation='portrait'",
         "<spines><spine pages='N' width='N' maxfontheight='N'/><spine pages='-N' width='N'/>"
