@@ -282,6 +282,7 @@ void PxFormatTest::attributeIsReadAndHasItsDefault()
         else
             adapted.removeAttribute(adaptation.attribute);
     }
+    QVERIFY2(!probe.isNull(), "the fixture does not have it");
     if (row.type == PxValueType::Boolean && row.defaultText)
         probe = row.defaultText == QByteArray("true") ? "false" : "true";
 
@@ -365,6 +366,7 @@ void PxFormatTest::keywordsAreThoseOfTheLibrary()
 /** Only for these two are the words repeated. */
 void PxFormatTest::platformKnowsTheSameKeywords()
 {
+    const PxLogRecorder log; // of words that are no keyword
     const QStringList orientations = PxFormat::keywordNames(PxKeywordSet::Orientation);
     const QStringList classes = PxFormat::keywordNames(PxKeywordSet::ProductClass);
     for (const QString &word : orientations + classes)
