@@ -9,7 +9,7 @@ using Text = PxTextKind;
 
 // clang-format off
 constexpr PxAttributeRow productTypeAttributes[] = {
-    {"code", Type::Integer, nullptr, {"number of the product type in orders; never reuse one", nullptr, nullptr, "int above 0"}, "the row is left out", Set::None, 1},
+    {"code", Type::Integer, nullptr, {"number of the product type in orders; never reuse one", nullptr, nullptr, "int above 0"}, "the row is left out"},
     {"name", Type::Text, nullptr, {"product name"}, "the row is left out"},
     {"class", Type::OneKeyword, nullptr, {"`book`, `calendar`, `gift`, `card`, `deko` or `print`", nullptr, nullptr, "keyword"}, "the row is left out", Set::ProductClass},
     {"shortname", Type::Text, "", {"display name"}, "the name"},

@@ -4,7 +4,6 @@
 #include <QVector>
 
 #include <cstddef>
-#include <limits>
 
 /** The rows of a table. They live as long as the program. */
 template <typename ROW>
@@ -98,8 +97,6 @@ struct PxAttributeRow
      */
     const char *consequence = nullptr;
     PxKeywordSet keywords = PxKeywordSet::None;
-    /** The smallest number that makes sense. */
-    int least = std::numeric_limits<int>::min();
 };
 
 /** Which of the children of an element the library reads. */

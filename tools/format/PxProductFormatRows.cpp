@@ -12,11 +12,11 @@ constexpr const char *sizeSection = "see [Size](#size-usablesize-margins-covers)
 
 constexpr PxAttributeRow productAttributes[] = {
     {"name", Type::ProductName, "", {"product name, any case; names the [user-defaults file](#user-defaults-files) letter for letter", "empty: the file is skipped", nullptr, "text"}, "the file is skipped"},
-    {"safetymargin", Type::Length, "0", {"strip inside the page, on all four sides, that designs keep clear of"}, nullptr, Set::None, 0},
+    {"safetymargin", Type::Length, "0", {"strip inside the page, on all four sides, that designs keep clear of"}},
     {"defaultSellingPages", Type::Integer, "-1", {"page count a new product starts with; should be in the `spines` table"}, "none"},
-    {"numOfProducts", Type::Integer, "1", {"copies or pieces that one product consists of; never write 0"}, nullptr, Set::None, 1},
-    {"numOfNormalPages", Type::Integer, "1", {"normal pages of gifts, cards and decoration, all pieces together"}, nullptr, Set::None, 1},
-    {"normalpagehorizontalclamp", Type::Length, "0", {"width that a clamp takes from every normal page"}, nullptr, Set::None, 0},
+    {"numOfProducts", Type::Integer, "1", {"copies or pieces that one product consists of; never write 0"}},
+    {"numOfNormalPages", Type::Integer, "1", {"normal pages of gifts, cards and decoration, all pieces together"}},
+    {"normalpagehorizontalclamp", Type::Length, "0", {"width that a clamp takes from every normal page"}},
     {"imageFXs", Type::KeywordList, "none", {"[image effects](#image-effects); `grayscale` also takes away picture borders and shadows", "none"}, nullptr, Set::ImageEffect},
     {"assemblyWay", Type::KeywordList, "factory", {"[who puts the product together](#assembly-ways)"}, nullptr, Set::AssemblyWay},
     {"binding", Type::Keyword, "GIFT", {"[binding](#bindings)"}, nullptr, Set::Binding},
@@ -37,24 +37,24 @@ constexpr PxAttributeRow productAttributes[] = {
     {"editorStartDoublePage", Type::Integer, "0", {"double page that the editor opens first", nullptr, nullptr, "**int**"}},
     {"hasLogoOnSpine", Type::Boolean, "false", {"the maker's logo is painted on the spine"}},
     {"pageNamingStyle", Type::KeywordList, "", {"[how the editor names the pages](#page-naming-styles)"}, "none", Set::PageNamingStyle},
-    {"bleedmargin", Type::Length, "0", {"bleed of normal pages", nullptr, sizeSection}, nullptr, Set::None, 0},
-    {"bleedmarginhorizontal", Type::Length, nullptr, {"… at the left and right edge", nullptr, sizeSection}, "\"bleedmargin\"", Set::None, 0},
-    {"bleedmarginvertical", Type::Length, nullptr, {"… at the top and bottom edge", nullptr, sizeSection}, "\"bleedmargin\"", Set::None, 0},
-    {"bleedmargincover", Type::Length, "0", {"bleed of covers and spine", nullptr, sizeSection}, nullptr, Set::None, 0},
-    {"bleedmargincoverhorizontal", Type::Length, nullptr, {"… at the left and right edge", nullptr, sizeSection}, "\"bleedmargincover\"", Set::None, 0},
-    {"bleedmargincoververtical", Type::Length, nullptr, {"… at the top and bottom edge", nullptr, sizeSection}, "\"bleedmargincover\"", Set::None, 0},
+    {"bleedmargin", Type::Length, "0", {"bleed of normal pages", nullptr, sizeSection}},
+    {"bleedmarginhorizontal", Type::Length, nullptr, {"… at the left and right edge", nullptr, sizeSection}, "\"bleedmargin\""},
+    {"bleedmarginvertical", Type::Length, nullptr, {"… at the top and bottom edge", nullptr, sizeSection}, "\"bleedmargin\""},
+    {"bleedmargincover", Type::Length, "0", {"bleed of covers and spine", nullptr, sizeSection}},
+    {"bleedmargincoverhorizontal", Type::Length, nullptr, {"… at the left and right edge", nullptr, sizeSection}, "\"bleedmargincover\""},
+    {"bleedmargincoververtical", Type::Length, nullptr, {"… at the top and bottom edge", nullptr, sizeSection}, "\"bleedmargincover\""},
     {"coverextravertical", Type::Length, "0", {"how much higher a cover half is than a page", nullptr, sizeSection}},
     {"coverextrahorizontal", Type::Length, "0", {"how much wider a cover half is than a page; books with a spine lose [10 of it](#page-counts-and-spines-spines)", nullptr, sizeSection}},
     {"orientation", Type::Keyword, "", {sizeSection, ""}, nullptr, Set::Orientation},
     {"space", Type::KeywordList, "", {nullptr, ""}, nullptr, Set::SizeClass},
     {"fullBackgroundOnEachPage", Type::Boolean, nullptr, {"one background covers one page rather than the spread"}, "true for calendars, gifts and cards, else false"},
     {"coverBackgroundCategories", Type::TextList, nullptr, {"categories of backgrounds that are allowed; empty allows all"}, "\"Einfarbig\" for decoration, else empty"},
-    {"foldmargin", Type::Length, "-1", {"strip lost in the fold, see [below](#surroundings-surroundings)"}, "computed", Set::None, -1},
+    {"foldmargin", Type::Length, "-1", {"strip lost in the fold, see [below](#surroundings-surroundings)"}, "computed"},
     {"legacy", Type::ProductName, "", {"name of the older product that this one replaces", nullptr, nullptr, "text"}, "none"},
 };
 constexpr PxAttributeRow usableSizeAttributes[] = {
-    {"width", Type::Length, nullptr, {"size of the trimmed page, without bleed", "-1: the product is not offered"}, "the product is not offered", Set::None, 1},
-    {"height", Type::Length, nullptr, {nullptr, "-1: the product is not offered"}, "the product is not offered", Set::None, 1},
+    {"width", Type::Length, nullptr, {"size of the trimmed page, without bleed", "-1: the product is not offered"}, "the product is not offered"},
+    {"height", Type::Length, nullptr, {nullptr, "-1: the product is not offered"}, "the product is not offered"},
     {"orientation", Type::Keyword, "", {"[orientation](#orientations)"}, "\"orientation\" of \"product\"", Set::Orientation},
     {"space", Type::KeywordList, "", {"[size class](#size-classes), chooses layouts and type sizes"}, "\"space\" of \"product\"", Set::SizeClass},
 };
@@ -108,8 +108,8 @@ constexpr PxAttributeRow pdfAttributes[] = {
     {"layer", Type::Integer, "0", {"layer to put it on"}},
 };
 constexpr PxAttributeRow marginAttributes[] = {
-    {"verticalMargin", Type::Integer, "50", {"distance of the page number from the edge above or below"}, nullptr, Set::None, 0},
-    {"horizontalMargin", Type::Integer, "50", {"distance from the edge at the side"}, nullptr, Set::None, 0},
+    {"verticalMargin", Type::Integer, "50", {"distance of the page number from the edge above or below"}},
+    {"horizontalMargin", Type::Integer, "50", {"distance from the edge at the side"}},
 };
 constexpr PxAttributeRow fontAttributes[] = {
     {"fontSize", Type::Integer, "24", {"type size"}},
