@@ -91,10 +91,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const QString path =
         PxFuzzedDirectory::withFile("checked.xml").write(data, size).absoluteFilePath();
     const PxCheckedFile file(path);
-    PxFindings findings;
-    findings.setPedantic(true);
-    PxCheck check(pathsOf(file));
-    check.run(&findings);
+    PxFindingSettings settings;
+    settings.isPedantic = true;
+    PxFindings findings(settings);
+    PxCheck check(pathsOf(file), findings);
+    check.run();
     PxCheckReport report;
     report.findings = findings.sorted();
     report.fileCount = check.fileCount();
