@@ -23,7 +23,6 @@ class PxProductContextTest : public QObject
 
 private slots:
     void initTestCase();
-    void everyQuestionHasItsOwnAnswer();
     void defaultContextIsVoid();
     void settersLeaveOtherHoldersAlone();
     void validityAsksTheThemesProducts();
@@ -42,116 +41,14 @@ private:
     PxCatalogueDirectory m_directory;
 };
 
-namespace {
-
-using Type = const PxProductType &;
-
-const PxProductTypeConfigRegistry *registry()
-{
-    return PxProductTypeConfigRegistry::instance();
-}
-
-/** What a product file says, and a question that only this product answers so. */
-const struct
-{
-    const char *product;
-    int answer;
-    int (*question)(Type type);
-} questions[] = {
-    // clang-format off
-    {"defaultSellingPages='2'>", 2, [](Type t) { return int(PxProductContext(t).defaultSellingPages()); }},
-    {"numOfProducts='3'>", 3, [](Type t) { return int(PxProductContext(t).productCount()); }},
-    {"numOfNormalPages='4'>", 4, [](Type t) { return int(PxProductContext(t).numberOfPages()); }},
-    {"editorStartDoublePage='5'>", 5, [](Type t) { return int(PxProductContext(t).editorStartSceneIndex()); }},
-    {"foldmargin='6'>", 6, [](Type t) { return int(PxProductContext(t).foldMargin()); }},
-    {"safetymargin='7'>", 7, [](Type t) { return int(PxProductContext(t).safetyMargin()); }},
-    {"numOfSpirals='8'>", 8, [](Type t) { return int(PxProductContext(t).numberOfSpiralLoops()); }},
-    {"numOfSpirals='8'>", 1, [](Type t) { return int(PxProductContext(t).hasSpiral()); }},
-    {"binding='CALENDAR_SIMPLEX'>", 1, [](Type t) { return int(PxProductContext(t).isSimplex()); }},
-    {"binding='clampcover'>", PxBindingClamp, [](Type t) { return int(PxProductContext(t).binding().value()); }},
-    {"binding='booklet'>", 1, [](Type t) { return int(PxProductContext(t).hasBookletBinding()); }},
-    {"pageNamingStyle='memory'>", PxPageNamingStyleMemory, [](Type t) { return int(PxProductContext(t).pageNamingStyle()); }},
-    {"assemblyWay='client'>", PxAssemblyWayClient, [](Type t) { return int(PxProductContext(t).assemblyWay()); }},
-    {"orientation='round'>", PxOrientationRound, [](Type t) { return int(PxProductContext(t).orientation().value()); }},
-    {"paper='fotopaper-glossy'>", PxPaperTypeFotoPaperGlossy, [](Type t) { return int(PxProductContext(t).paperType().value()); }},
-    {"space='600cm2'>", PxSpaceMagnitude600, [](Type t) { return int(PxProductContext(t).spaceMagnitude().value()); }},
-    {"imageFXs='grayscale'>", PxImageFXsGrayscale, [](Type t) { return int(PxProductContext(t).productImageFXs()); }},
-    {"imageFXs='grayscale'>", 0, [](Type t) { return int(PxProductContext(t).canHaveShadow()); }},
-    {"imageFXs='grayscale'>", 0, [](Type t) { return int(PxProductContext(t).canHaveBorder()); }},
-    {"hasHole='1'>", 1, [](Type t) { return int(PxProductContext(t).hasHole()); }},
-    {"hasHook='1'>", 1, [](Type t) { return int(PxProductContext(t).hasHook()); }},
-    {"hasLogoOnSpine='1'>", 1, [](Type t) { return int(PxProductContext(t).mustPaintVemoLogoOnSpine()); }},
-    {"fullBackgroundOnEachPage='1'>", 1, [](Type t) { return int(PxProductContext(t).putFullBackgroundOnEachPage()); }},
-    {"hasAssistant='0'>", 0, [](Type t) { return int(PxProductContext(t).hasAssistant()); }},
-    {"hasContentCategoryComboBox='0'>", 0, [](Type t) { return int(PxProductContext(t).hasContentCategoryComboBox()); }},
-    {"canHaveClipart='0'>", 0, [](Type t) { return int(PxProductContext(t).supportsJigType(PxJigTypeClipart)); }},
-    {"horizontalPages='0'>", 0, [](Type t) { return int(PxProductContext(t).hasHorizontalPages()); }},
-    {"><pages>spine,normalpages</pages>", 10, [](Type t) { return int(PxProductContext(t).pageTypes(9).size()); }},
-    {"><pages>spine,normalpages</pages>", PxPageAlignmentMiddle, [](Type t) { return int(PxProductContext(t).pageAlignment(1)); }},
-    {"><pages>spine,normalpages</pages>", 1, [](Type t) { return int(PxProductContext(t).hasSpine()); }},
-    {"><contentredirects><contentredirect from='1' to='9'/></contentredirects>", 9, [](Type t) { return int(PxProductContext(t).contentDropRedirect(1)); }},
-    {"><rotationredirects><rotationredirect from='1' to='2'/></rotationredirects>", 1, [](Type t) { return int(PxProductContext(t).rotationRedirectForSourcePage(1).size()); }},
-    {"><rotationredirects><rotationredirect from='1' to='2'/></rotationredirects>", 1, [](Type t) { return int(PxProductContext(t).rotationRedirectForTargetPage(2).size()); }},
-    {"><pageNumberConfig><font fontSize='3'/></pageNumberConfig>", 3, [](Type t) { return int(PxProductContext(t).pageNumberFontSize()); }},
-    {"><pageNumberConfig><margin verticalMargin='3'/></pageNumberConfig>", 3, [](Type t) { return int(PxProductContext(t).pageNumberVerticalIndent()); }},
-    {"><pageNumberConfig><margin horizontalMargin='3'/></pageNumberConfig>", 3, [](Type t) { return int(PxProductContext(t).pageNumberHorizontalIndent()); }},
-    {"><usablesize width='5' height='6'/>", 5, [](Type t) { return int(PxProductContext(t).usablePrintSize(PxPageTypeNormalPage).width()); }},
-    {"><spines><spine pages='24' width='5' maxfontheight='6'/></spines>", 5, [](Type t) { return int(PxProductContext(t).spineWidth(24)); }},
-    {"><spines><spine pages='24' width='5' maxfontheight='6'/></spines>", 6, [](Type t) { return int(PxProductContext(t).spineMaxFontHeight(24)); }},
-    {"><surroundings><surrounding image='a'/></surroundings>", 1, [](Type t) { return int(PxProductContext(t).findSurrounding(PxSurroundingKey(PxPageContext(), 1)).image().size()); }},
-    {"><extra_production_pages><item><target_pages>1</target_pages></item></extra_production_pages>", 1, [](Type t) { return int(PxProductContext(t).extraProductionContents().size()); }},
-    {"legacy='BOOK'>", 1, [](Type t) { return int(registry()->legacyProduct(t).type()); }},
-    {"orientation='round'>", PxOrientationRound, [](Type t) { return int(registry()->orientation(t).value()); }},
-    {"binding='clampcover'>", PxBindingClamp, [](Type t) { return int(registry()->binding(t).value()); }},
-    {"paper='fotopaper-glossy'>", PxPaperTypeFotoPaperGlossy, [](Type t) { return int(registry()->paperType(t).value()); }},
-    {"space='600cm2'>", PxSpaceMagnitude600, [](Type t) { return int(registry()->spaceMagnitude(t).value()); }},
-    {"><variants type='colour'><v>a</v><v>b</v></variants>", 6, [](Type t) { return int(registry()->variantDescription(t).size()); }},
-    {"><variants type='colour'><v>a</v><v>b</v></variants>", 2, [](Type t) { return int(registry()->variants(t).size()); }},
-    {"coverBackgroundCategories='a,b'>", 2, [](Type t) { return int(registry()->allowedBackgroundCategories(t).toDataStringList().size()); }},
-    {"coverBackgroundCategories='a,b'>", 1, [](Type t) { return int(registry()->limitBackgroundCategories(t)); }},
-    {"fullBackgroundOnEachPage='1'>", 1, [](Type t) { return int(registry()->fullBackgroundOnEachPage(t)); }},
-    {"numOfNormalPages='4'>", 4, [](Type t) { return int(registry()->explicitNumberOfNormalPages(t)); }},
-    {"horizontalPages='0'>", 0, [](Type t) { return int(registry()->horizontalPages(t)); }},
-    {"><pages>spine,normalpages</pages>", 10, [](Type t) { return int(registry()->pageTypes(t, 9).size()); }},
-    {"><pages>spine,normalpages</pages>", PxPageAlignmentMiddle, [](Type t) { return int(registry()->pageAlignment(t, 1)); }},
-    {"><productionnumbering>9</productionnumbering>", 9, [](Type t) { return int(registry()->productionNumberingList(t, 1).value(0)); }},
-    {"><usablesize width='5' height='6'/>", 6, [](Type t) { return int(registry()->usablePrintSize(t, PxPageTypeNormalPage, 1).height()); }},
-    {"><usablesize width='5' height='6'/>", 5, [](Type t) { return int(registry()->sizeSpec(t, PxPageSizeKey(PxPageContext(), 1)).usableSize().width()); }},
-    {"><usablesize width='5' height='6'/>", 1, [](Type t) { return int(registry()->offeredPageCounts(t).size()); }},
-    {"><usablesize width='5' height='6'/>", 1, [](Type t) { return int(registry()->isPageCountOffered(t, 1)); }},
-    {"><barcodes><barcode pageNr='1' image='b'/></barcodes>", 1, [](Type t) { return int(registry()->barcodeOnPage(t, 1, 1).imageName().size()); }},
-    // clang-format on
-};
-
-/** The products of the rows, each once; their codes begin at `firstCode`. */
-QList<QByteArray> askedProducts()
-{
-    QList<QByteArray> products;
-    for (const auto &row : questions) {
-        if (!products.contains(row.product))
-            products.append(row.product);
-    }
-    return products;
-}
-
-constexpr int firstCode = 100;
-
-} // namespace
-
 void PxProductContextTest::initTestCase()
 {
-    QByteArray types = "1 book BOOK\n2 book TWIN\n3 book BIG\n4 calendar CAL\n5 gift CUP\n"
-                       "8 gift ODD\n6 gift SET\n7 card FLAT\n13 book LEFT";
-    const QList<QByteArray> asked = askedProducts();
-    for (int i = 0; i < asked.size(); ++i)
-        types += '\n' + QByteArray::number(firstCode + i) + " print P" + QByteArray::number(i);
-    m_directory.writeProductTypes(types);
+    m_directory.writeProductTypes(
+        "1 book BOOK\n2 book TWIN\n3 book BIG\n4 calendar CAL\n5 gift CUP\n"
+        "8 gift ODD\n6 gift SET\n7 card FLAT\n13 book LEFT");
     const auto product = [this](const QByteArray &file, const QByteArray &content) {
         m_directory.write(file, "<d><product " + content + "</product></d>");
     };
-    for (int i = 0; i < asked.size(); ++i)
-        product("products/p" + QByteArray::number(i) + ".xml",
-                "name='P" + QByteArray::number(i) + "' " + asked[i]);
     const QByteArray size = "<usablesize width='300' height='200'/>";
     const QByteArray spines = "<spines><spine pages='4'/><spine pages='6'/><spine pages='8'/>"
                               "</spines>";
@@ -173,16 +70,6 @@ void PxProductContextTest::initTestCase()
                       "</products></t><t id='normal' producttype='book'/></themes>");
     PxDirectoryConfig::instance()->setThemesDirectory(m_directory.filePath("themes"));
     QVERIFY(PxProductPropertiesInitializer::setupModule());
-}
-
-void PxProductContextTest::everyQuestionHasItsOwnAnswer()
-{
-    const QList<QByteArray> products = askedProducts();
-    for (const auto &row : questions) {
-        for (int i = 0; i < products.size(); ++i)
-            QVERIFY2((row.question(firstCode + i) == row.answer) == (products[i] == row.product),
-                     QByteArray(row.product) + " asked of " + products[i]);
-    }
 }
 
 void PxProductContextTest::defaultContextIsVoid()

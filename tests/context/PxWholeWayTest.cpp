@@ -15,15 +15,19 @@ namespace {
 /** Hashes of what all themes and products answer; asks through copies of the context. */
 QVector<uint> askTheCatalogue(const PxProductContext &shared)
 {
+    PxArguments arguments;
+    arguments.pages = {1, 26};
+    arguments.pageCounts = {26};
     QVector<uint> answers;
     const PxThemeList themes = PxThemeFactory::instance()->themeList();
     for (const PxTheme &theme : themes)
-        answers.append(qHash(pxAskEverything(theme)));
+        answers.append(qHash(pxAskEverything(theme, arguments)));
     const auto *registry = PxProductTypeConfigRegistry::instance();
     for (int code = 0; code < 1000; ++code) {
         if (code > 0 && registry->description(code) == registry->description(0))
             continue;
-        QString answer = pxAskEverything(*registry->description(code));
+        QString answer = pxAskEverything(*registry->description(code), arguments) +
+                         pxAskEverything(*registry, code, arguments);
         PxProductContext own = shared;
         own.setProductType(code);
         const QVector<PxProductContext> copies(10, own);
@@ -33,11 +37,10 @@ QVector<uint> askTheCatalogue(const PxProductContext &shared)
         PxProductContextsGroup(own).toXml(root);
         QTextStream stream(&answer);
         root.save(stream, 0);
-        QDebug(&answer) << copies << own << own.compatibleProducts() << own.pageCountOrganization()
-                        << own.offeredPageCounts() << own.isPageCountOffered(26)
-                        << own.defaultTemplateForPage(true, PxPageContext(), true)
-                        << own.binding().humanReadableName() << own.paperType().humanReadableName()
+        QDebug(&answer) << copies << own << own.binding().humanReadableName()
+                        << own.paperType().humanReadableName()
                         << PxProductVariantIdentifiers::instance()->variants(code);
+        answer += pxAskEverything(own, arguments);
         answers.append(qHash(answer));
     }
     return answers;

@@ -19,7 +19,6 @@ class PxProductTypeDescriptionTest : public QObject
 private slots:
     void initTestCase();
     void emptyElementGetsTheKeywordTablesDefaults();
-    void everyAttributeReachesItsOwnField();
     void specialAttributesReplaceTheCommonOnes();
     void foldMarginFollowsTheOrientation();
     void bookSpinesGrowAtTheCostOfTheCover();
@@ -112,75 +111,6 @@ void PxProductTypeDescriptionTest::emptyElementGetsTheKeywordTablesDefaults()
         QCOMPARE(d.pageNumberHorizontalIndent() + d.pageNumberVerticalIndent(), 100.0);
     }
     QCOMPARE(log.texts(), QStringList());
-}
-
-void PxProductTypeDescriptionTest::everyAttributeReachesItsOwnField()
-{
-    const QFileInfo file(PX_TEST_DATA_DIRECTORY "/distinct-values.xml");
-    const PxProductTypeDescription d(
-        PxXMLLoader::loadDocumentElement(file).firstChildElement("product"));
-
-    QVERIFY(d.isValid());
-    QCOMPARE(Ints({d.safetyMargin(), d.defaultSellingPages(), d.explicitNumberOfProducts(),
-                   d.explicitNumberOfNormalPages(), d.normalPageHorizontalClamp(),
-                   d.numberOfSpiralLoops(), d.editorStartDoublePage(), d.foldMargin()}),
-             Ints({31, 32, 33, 34, 35, 36, 37, 38}));
-    QCOMPARE(Ints({d.hasContentCategoryBox(), d.supportsJigType(PxJigTypeContent),
-                   d.supportsJigType(PxJigTypeLayout), d.supportsJigType(PxJigTypePassepartout),
-                   d.supportsJigType(PxJigTypeClipart), d.supportsJigType(PxJigTypeBackground)}),
-             Ints({1, 1, 0, 1, 0, 1}));
-    QCOMPARE(Ints({d.hasAssistant(), d.horizontalPages(), d.hasCardStyleAlignment(), d.hasHook(),
-                   d.hasHole(), d.mustPaintVemoLogoOnSpine(), d.fullBackgroundOnEachPage(),
-                   d.canHaveBorder(), d.canHaveShadow(), d.hasSpine(), d.hasCover()}),
-             Ints({0, 0, 0, 1, 1, 1, 1, 0, 0, 1, 1}));
-    QCOMPARE(
-        Ints({int(d.imageFX()), int(d.assemblyWay()), d.binding().value(), d.paperType().value(),
-              int(d.pageNamingStyle()), d.orientation().value(), d.spaceMagnitude().value()}),
-        Ints({5, PxAssemblyWayClient, PxBindingClamp, PxPaperTypeFotoPaperGlossy, 32 + 16,
-              PxOrientationPortrait, PxSpaceMagnitude600}));
-    QCOMPARE(d.legacyProduct(), PxProductType(2));
-    QCOMPARE(d.safetyMargins().totalMarginWH(), QSize(62, 62));
-    QCOMPARE(d.bleedMarginNormal(), PxBleedMargin(40, 41));
-    QCOMPARE(d.bleedMarginCover(), PxBleedMargin(43, 44));
-    QCOMPARE(d.coverSize(), QSize(2050 + 56 - 10, 2700 + 45));
-    const PxPageSizeSpec normalPage = d.sizeSpec(PxPageSizeKey({}, 20));
-    QCOMPARE(normalPage.totalSize(), QSize(2050 + 40, 2700 + 2 * 41));
-    const PxPageContext cover(PxPageTypeFullCover, PxPageAlignmentLeft);
-    QCOMPARE(Ints({normalPage.horizontalClampExtra(), normalPage.safetyMargins().left(),
-                   normalPage.orientation().value(),
-                   d.sizeSpec(PxPageSizeKey(cover, 20)).horizontalClampExtra()}),
-             Ints({35, 31, PxOrientationPortrait, 0}));
-    QCOMPARE(Ints({d.spineWidth(24), d.spineMaxFontHeight(24), d.spineWidth(28),
-                   d.spineMaxFontHeight(28), d.minPages(), d.maxPages(), d.countAbstractPages(),
-                   d.classification().areaSize(), d.contentDropRedirect(67),
-                   int(d.pageNumberVerticalIndent()), int(d.pageNumberHorizontalIndent()),
-                   d.pageNumberFontSize()}),
-             Ints({47 + 20, 48, 55 + 20, 57, 24, 40, 3, 2050 * 2700, 68, 79, 80, 81}));
-
-    const auto surrounding = d.findSurrounding(PxSurroundingKey(PxPageContext(), 58));
-    QCOMPARE(surrounding.surroundingType(), PxSurroundingTypePhotoPaperBook);
-    QCOMPARE(surrounding.imageRect(), QRect(59, 60, 61, 62));
-    QCOMPARE(d.rotationRedirectForSourcePage(63).value(0), PxPageRotationRedirect(63, 64, 65));
-    QCOMPARE(d.rotationRedirectForTargetPage(64).value(0), PxPageRotationRedirect(63, 64, 65));
-    const PxDefaultTemplateKey key("normal", {}, DefaultTemplateTypeLayout);
-    QStringList categories = d.allowedBackgroundCategories().toDataStringList();
-    categories.sort();
-    QCOMPARE(categories, QStringList({" Stadt", "Einfarbig", "Natur"}));
-    const PxBarcode barcode = d.barcodeOnPage(100 - 73, 100);
-    QCOMPARE(barcode.rect(), QRect(69, 70, 71, 72));
-    QCOMPARE(
-        QStringList({d.classification().sizeName(true), d.classification().sizeName(false),
-                     d.findDefaultTemplate(key, false, false), barcode.imageName(),
-                     d.variantDescription()}) +
-            d.variants(),
-        QStringList({"20x27", "8x11", "layoutÄss", "bar.png", "color", "color:red", "color:blue"}));
-    QCOMPARE(d.classification().material(), PxProductMaterial("Leinwand"));
-    QCOMPARE(d.productionNumberingList(3), Ints({74, 76, 77}));
-    QVERIFY(!d.contentAllowedOnPage(76) && d.contentAllowedOnPage(77) &&
-            d.contentAllowedOnPage(78));
-    const PxProductionExtraPageGroup extra = d.extraProductionContents().value(0);
-    QCOMPARE(extra.targetPages(), Ints({82, 83}));
-    QCOMPARE(extra.content(), PxProductionExtraPage("sheet.pdf", "back", 84));
 }
 
 void PxProductTypeDescriptionTest::specialAttributesReplaceTheCommonOnes()

@@ -4,6 +4,7 @@
 #include <PxCatalogueDirectory.h>
 #include <PxLogRecorder.h>
 
+#include <context/PxProductContext.h>
 #include <description/PxProductTypeConfigRegistry.h>
 #include <description/PxProductTypeDescriptionReader.h>
 #include <themes/PxThemeFactory.h>
@@ -130,9 +131,11 @@ void loadProducts(const QString &directory, QTextStream &report)
     for (const QString &text : log.texts().filter(QStringLiteral("could not open")))
         report << "warning " << QFileInfo(text.section('"', 1, 1)).completeBaseName() << '\n';
     for (int code = 0; code < 100; ++code) {
-        if (registry->description(code) != registry->description(0))
-            report << "product " << PxProductType(code).productName() << '\n';
+        if (registry->description(code) == registry->description(0))
+            continue;
+        report << "product " << PxProductType(code).productName() << '\n';
         pxAskEverything(*registry->description(code));
+        pxAskEverything(*registry, code);
     }
 }
 
@@ -157,6 +160,8 @@ void loadThemes(const QString &directory, QTextStream &report)
         report << "warning " << QFileInfo(text).completeBaseName() << '\n';
     for (const QString &id : ids)
         report << "theme " << id << '\n';
+    for (const PxProductType &type : PxProductTypeConfigRegistry::instance()->products())
+        pxAskEverything(PxProductContext(type));
 }
 
 void load(const QString &directory)

@@ -221,6 +221,13 @@ QString PxFormatTest::answers(PxFileKind kind, const QDomDocument &document) con
         arguments.pages.resize(90);
         std::iota(arguments.pages.begin(), arguments.pages.end(), -1);
         arguments.pageCounts = {0, 9, 24, 26, 28, 40, 100};
+        arguments.kinds.clear();
+        for (const PxPageTypeEnum pageType :
+             {PxPageTypeNormalPage, PxPageTypeFullCover, PxPageTypeNone}) {
+            for (const PxPageAlignment side :
+                 {PxPageAlignmentLeft, PxPageAlignmentTop, PxPageAlignmentNone})
+                arguments.kinds.append(PxPageContext(pageType, side));
+        }
         arguments.themes = QStringList{"normal", "design"};
         return pxAskEverything(*description, arguments);
     };
