@@ -13,6 +13,7 @@
 #include <QPair>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -101,8 +102,8 @@ PxProductTypeList PxProductTypeConfigRegistry::products() const
             types.append(product.type);
     }
     std::sort(types.begin(), types.end(), [](const PxProductType &a, const PxProductType &b) {
-        return a.productClass() != b.productClass() ? a.productClass() < b.productClass()
-                                                    : a.productName() < b.productName();
+        return std::make_pair(a.productClass(), a.productName()) <
+               std::make_pair(b.productClass(), b.productName());
     });
     return types;
 }

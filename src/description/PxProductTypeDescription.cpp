@@ -14,6 +14,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -85,8 +86,7 @@ PxProductTypeDescription::PxProductTypeDescription(const QDomElement &product)
     m_extraProductionPages = PxProductionExtraPageGroupList(
         product.firstChildElement(QStringLiteral("extra_production_pages")));
     m_foldMargin = decodeFoldMargin(product);
-    m_legacyProduct =
-        PxProductType(PxXMLParser::attribute(product, QStringLiteral("legacy"), QString(), true));
+    m_legacyProduct = PxProductType(product.attribute(QStringLiteral("legacy")));
 }
 
 void PxProductTypeDescription::setJigTypeFlag(const PxJigType &jigType, bool isSupported)
@@ -217,7 +217,7 @@ QString PxProductTypeDescription::firstEntries(const QString &list, const char *
         if (entries++ == maximumListEntries)
             end = i;
     }
-    if (end >= 0)
+    if (end != -1)
         qWarning().nospace() << "PxProductTypeDescription::" << method << ' ' << entries
                              << " entries in \"" << attribute << "\" of "
                              << product.attribute(QStringLiteral("name"))
@@ -345,7 +345,7 @@ void PxProductTypeDescription::indexPages()
 
 void PxProductTypeDescription::indexSurroundings()
 {
-    int alignmentsOfType[32] = {}; // of the earlier surroundings, by bit of the page type
+    std::array<int, 32> alignmentsOfType{}; // of the earlier surroundings, by bit of the page type
     for (int index = 0; index < m_surroundings.size(); ++index) {
         const PxSurroundingDescription &surrounding = m_surroundings.at(index);
         if (surrounding.pageNr() != -1) {
@@ -354,12 +354,13 @@ void PxProductTypeDescription::indexSurroundings()
         }
         // The first one is the result when no particular page is asked for, whatever the page type.
         bool isFirst = m_generalSurroundings.isEmpty();
-        const unsigned types = unsigned(surrounding.pageTypes().value());
-        for (int type = 0; type < 32; ++type) {
-            if ((types >> type & 1U) == 0)
-                continue;
-            isFirst = isFirst || (surrounding.alignments() & ~alignmentsOfType[type]) != 0;
-            alignmentsOfType[type] |= surrounding.alignments();
+        unsigned types = unsigned(surrounding.pageTypes().value());
+        for (int &earlier : alignmentsOfType) {
+            if ((types & 1U) != 0) {
+                isFirst = isFirst || (surrounding.alignments() & ~earlier) != 0;
+                earlier |= surrounding.alignments();
+            }
+            types >>= 1U;
         }
         if (isFirst)
             m_generalSurroundings.append(index);

@@ -7,6 +7,7 @@
 #include <QDebug>
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 
 namespace {
@@ -147,35 +148,31 @@ bool PxProductTypeDescription::hasCover() const
 
 PxPageTypeList PxProductTypeDescription::pageTypes(int pageCount) const
 {
-    constexpr int maximumReserved = 1000; // more than any product has
-    const PxPageType normalPage(PxPageTypeNormalPage);
-    bool isCut = false;
+    qint64 wanted = 0;
     PxPageTypeList pageTypes;
-    for (const PxPageType &pageType : m_pageTypes) {
-        const int room = maximumListedPages - pageTypes.size();
+    for (PxPageType pageType : m_pageTypes) {
+        int count = 1;
         switch (pageType.value()) {
         case PxPageTypeNone:
             QMessageLogger("PxProductTypeDescription", 459,
                            "PxPageTypeList PxProductTypeDescription::pageTypes(int) const")
                 .warning("Illegaler Seitentyp in fotobook.xml");
-            break;
+            continue;
         case PxPageTypeDuplexMonthCalendar:
         case PxPageTypeSimplexYearCalendar:
         case PxPageTypeNormalPages:
         case PxPageTypeSimplexMonthCalendar:
-            pageTypes.reserve(pageTypes.size() + qBound(0, pageCount, maximumReserved) +
-                              m_pageTypes.size());
-            for (int page = 0; page < qMin(pageCount, room); ++page)
-                pageTypes.append(normalPage);
-            isCut = isCut || pageCount > room;
+            count = qMax(0, pageCount);
+            pageType = PxPageTypeNormalPage;
             break;
         default:
-            if (room > 0)
-                pageTypes.append(pageType);
-            isCut = isCut || room == 0;
+            break;
         }
+        wanted += count;
+        const int room = maximumListedPages - pageTypes.size();
+        std::fill_n(std::back_inserter(pageTypes), qMin(count, room), pageType);
     }
-    if (isCut)
+    if (wanted > maximumListedPages)
         warnOfTooManyPages("pageTypes", pageCount);
     if (pageTypes.isEmpty())
         pageTypes.append(PxPageTypeNormalPage);

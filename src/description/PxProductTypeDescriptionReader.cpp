@@ -4,7 +4,6 @@
 #include "values/PxUndecodableNames.h"
 
 #include <PxXMLLoader.h>
-#include <PxXMLParser.h>
 
 #include <QDebug>
 #include <QDomElement>
@@ -31,7 +30,6 @@ QStringList PxProductTypeDescriptionReader::fileFilter()
 QHash<PxProductType, PxProductTypeDescription *> PxProductTypeDescriptionReader::readDir()
 {
     QHash<PxProductType, PxProductTypeDescription *> descriptions;
-    descriptions.reserve(1000);
     const QFileInfoList files =
         m_directory.entryInfoList(fileFilter(), QDir::Files, QDir::Unsorted);
     PxUndecodableNames::warn(m_directory.absolutePath());
@@ -64,7 +62,6 @@ QPair<PxProductType, PxProductTypeDescription *> PxProductTypeDescriptionReader:
         return qMakePair(PxProductType(), static_cast<PxProductTypeDescription *>(nullptr));
     }
     const QDomElement product = root.firstChildElement(QStringLiteral("product"));
-    const PxProductType type(
-        PxXMLParser::attribute(product, QStringLiteral("name"), QString(), true));
+    const PxProductType type(product.attribute(QStringLiteral("name")));
     return qMakePair(type, new PxProductTypeDescription(product));
 }

@@ -52,8 +52,12 @@ void PxProductContextsGroupTest::emptySetsAdmitEverything()
     const PxProductContextsGroup all;
     QVERIFY(all.containsContext(PxProductContext(1, QString("a"))));
     QVERIFY(all.themeName().isNull() && all.defaultContext().isVoidContext());
-    QVERIFY(all.matches(PxProductContextsGroup({1}, themes("a"))));
-    QVERIFY(!all.productsMatchExplicitly(all) && all.themesMatchSomewhat(all));
+    const PxProductContextsGroup a({1}, themes("a"));
+    QVERIFY(all.matches(a));
+    QVERIFY(!a.matches(PxProductContextsGroup({1}, themes("b"))));
+    QVERIFY(!a.matches(PxProductContextsGroup({2}, themes("a"))));
+    QVERIFY(!all.productsMatchExplicitly(all));
+    QVERIFY(all.themesMatchSomewhat(all));
     QVERIFY(PxProductContextsGroup({1}, {}).defaultContext().isVoidContext());
     QCOMPARE(PxProductContextsGroup({1}, themes("a")).defaultWidthHeightRatio(), 3.0);
     QCOMPARE(all.defaultWidthHeightRatio(), 1.0);

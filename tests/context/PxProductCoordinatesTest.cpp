@@ -46,7 +46,7 @@ void PxProductCoordinatesTest::millimetresAreTenthsOfUnits()
     QCOMPARE(PxProductCoordinates::posXMM(QRect(0, 0, 10, 10)), 0.5);
     QCOMPARE(PxProductCoordinates::posYMM(QRect(0, -7, 10, 1)), -0.6);
     QCOMPARE(PxProductCoordinates::posWidthMM(QRect(0, 0, 33, 1)), 3.2);
-    QCOMPARE(PxProductCoordinates::posHeightMM(QRect(0, 0, 1, 1)), 0.2);
+    QCOMPARE(PxProductCoordinates::posHeightMM(QRect(0, 0, 1, 33)), 3.2);
 }
 
 void PxProductCoordinatesTest::extremesAreClamped()

@@ -81,7 +81,8 @@ void PxPageOrganizationTest::registryIsTheCheckerOfKind4()
 void PxPageOrganizationTest::legacyPagesAreLaidSideBySide()
 {
     const auto *config = PxLegacyProductTypeConfig::instance();
-    QVERIFY(config->isHorizontal(1) && !config->isHorizontal(7));
+    QVERIFY(config->isHorizontal(1));
+    QVERIFY(!config->isHorizontal(7));
     const QList<PxPageType> pages{PxPageTypeNormalPage, PxPageTypeFullCover};
     QCOMPARE(config->usablePrintSize(1, PxPageTypeFullCover, 1), QSizeF(150, 180));
     QCOMPARE(config->usableSize(1, 1, pages), QSizeF(250, 200));

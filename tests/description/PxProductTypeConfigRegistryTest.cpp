@@ -113,14 +113,12 @@ void PxProductTypeConfigRegistryTest::ofTwoFilesOfOneProductOneIsKept()
 
 void PxProductTypeConfigRegistryTest::unknownTypeIsAnsweredFromDefaults()
 {
-    QVERIFY(m_registry->exists(1) && m_registry->isValid(1));
+    QVERIFY(m_registry->exists(1));
     QVERIFY(!m_registry->exists(5)); // has a file without a size
     QVERIFY(!m_registry->exists(3)); // has no file
     QVERIFY(!m_registry->exists(99));
     QCOMPARE(m_registry->description(99), m_registry->description(PxProductType()));
     QVERIFY(m_registry->description(5) != m_registry->description(99));
-    QCOMPARE(m_registry->minPages(99), 2147483647);
-    QCOMPARE(m_registry->type(), 4);
 }
 
 void PxProductTypeConfigRegistryTest::listsTheProductsOnOffer()
@@ -178,9 +176,6 @@ void PxProductTypeConfigRegistryTest::pointSizeFollowsSpaceOrArea()
         ourRegistries->append(new PxProductTypeConfigRegistry(directory("point")));
         return ourRegistries->constLast()->suitablePointSize(1);
     };
-    QCOMPARE(pointSize("310cm2", "9", "9"), 12);
-    QCOMPARE(pointSize("400cm2", "9", "9"), 16);
-    QCOMPARE(pointSize("1200cm2", "9", "9"), 24);
     QCOMPARE(pointSize("", "2999", "1000"), 10);
     QCOMPARE(pointSize("150cm2", "2000", "1500"), 16);
     QCOMPARE(pointSize("", "5999", "1000"), 16);

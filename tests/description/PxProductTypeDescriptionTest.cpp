@@ -18,7 +18,6 @@ class PxProductTypeDescriptionTest : public QObject
 
 private slots:
     void initTestCase();
-    void emptyElementGetsTheKeywordTablesDefaults();
     void specialAttributesReplaceTheCommonOnes();
     void foldMarginFollowsTheOrientation();
     void bookSpinesGrowAtTheCostOfTheCover();
@@ -84,35 +83,6 @@ void PxProductTypeDescriptionTest::initTestCase()
                                   "5 card CARD\n6 deko CANVAS\n7 print PRINT");
 }
 
-void PxProductTypeDescriptionTest::emptyElementGetsTheKeywordTablesDefaults()
-{
-    const auto numbers = [](const PxProductTypeDescription &d) {
-        return Ints{d.binding().value(), d.paperType().value(), d.spaceMagnitude().value(),
-                    int(d.assemblyWay()), int(d.pageNamingStyle())};
-    };
-    const PxProductTypeDescription none;
-    QVERIFY(!none.isValid() && !none.legacyProduct().isValid() && !none.hasCover());
-    QVERIFY(!none.supportsJigType(PxJigType("background,layout,content")));
-    QCOMPARE(numbers(none), Ints({0, 0, 0, 0, 0}));
-    QCOMPARE(none.coverSize(), QSize(-1, -1));
-
-    const PxLogRecorder log;
-    const PxProductTypeDescription empty = describe("");
-    QCOMPARE(numbers(empty), Ints({PxBindingGift, PxPaperTypeIndigo, PxSpaceMagnitudeAny, 2, 0}));
-    for (const char *jigType : {"background", "clipart", "content", "layout", "passepartout"})
-        QVERIFY2(empty.supportsJigType(PxJigType(jigType)), jigType);
-    QVERIFY(!empty.supportsJigType(PxJigType("style,frame")));
-    for (const PxProductTypeDescription &d : {none, empty}) {
-        QVERIFY(d.canHaveBorder() && d.canHaveShadow() && d.hasAssistant() && d.horizontalPages());
-        QVERIFY(!d.limitBackgroundCategories() && !d.fullBackgroundOnEachPage() && !d.hasPages());
-        QCOMPARE(Ints({d.defaultSellingPages(), d.explicitNumberOfProducts(),
-                       d.explicitNumberOfNormalPages(), d.pageNumberFontSize(), d.foldMargin()}),
-                 Ints({-1, 1, 1, 24, 0}));
-        QCOMPARE(d.pageNumberHorizontalIndent() + d.pageNumberVerticalIndent(), 100.0);
-    }
-    QCOMPARE(log.texts(), QStringList());
-}
-
 void PxProductTypeDescriptionTest::specialAttributesReplaceTheCommonOnes()
 {
     const PxProductTypeDescription bleed =
@@ -142,7 +112,7 @@ void PxProductTypeDescriptionTest::foldMarginFollowsTheOrientation()
     QCOMPARE(foldMargin(2050, 2050, shade), 91);
     QCOMPARE(foldMargin(2050, 2050, shade, "orientation='round'"), 0);
     QCOMPARE(foldMargin(2050, 2050, shade, "foldmargin='7'"), 7);
-    QCOMPARE(foldMargin(-5, 9, shade, "orientation='portrait'"), 0);
+    QCOMPARE(foldMargin(-500, 9, shade, "orientation='portrait'"), 0);
     QCOMPARE(foldMargin(2050, 2050, ""), 0);
 }
 
@@ -191,11 +161,15 @@ void PxProductTypeDescriptionTest::userDefaultsComeFirst()
                             "../user-other/OUTSIDE"}) {
         const PxProductTypeDescription d =
             describe("name='" + name + "'", "<defaults><defaults pageType='normalpage' "
-                                            "alignment='left' background='file'/></defaults>");
+                                            "alignment='left' background='file'/>"
+                                            "<defaults theme='other' pageType='normalpage' "
+                                            "alignment='left' background='other'/></defaults>");
         const PxDefaultTemplateKey key("normal", {}, DefaultTemplateTypeBackground);
         QCOMPARE(name + d.findDefaultTemplate(key, true, true),
                  name + (read.contains(name) ? "mine" : "file"));
         QCOMPARE(d.findDefaultTemplate(key, true, false), QString("file"));
+        const PxDefaultTemplateKey themed("other", {}, DefaultTemplateTypeBackground);
+        QCOMPARE(d.findDefaultTemplate(themed, true, true), QString("other"));
     }
     QCOMPARE(log.texts(), QStringList());
 }
@@ -269,6 +243,7 @@ void PxProductTypeDescriptionTest::offeredPageCountsFollowTheProduct_data()
     QTest::newRow("step without a spine") << book << spine + spines({20, 26, 28, 29, 30}) << Ints{20, 26, 28, 29, 30};
     QTest::newRow("spine beside the steps") << book << spine + spines({20, 23, 24, 26, 30}) << Ints{20, 24, 26, 30};
     QTest::newRow("steps without printed spine") << book << ourSize + spines({20, 26, 28, 31}) << Ints{20, 22, 24, 26, 28, 30, 31};
+    QTest::newRow("steps of an odd count") << book << ourSize + spines({5, 11, 14, 18}) << Ints{5, 8, 11, 14, 17, 18};
     QTest::newRow("two page counts") << book << spine + spines({26, 30}) << Ints{26, 30};
     QTest::newRow("one page count") << book << spine + spines({26}) << Ints{26};
     QTest::newRow("counts below 1") << book << ourSize + spines({-3, -1, 1, 3, 5}) << Ints{1, 3, 5};
@@ -377,9 +352,14 @@ void PxProductTypeDescriptionTest::listsOfPagesAreBounded()
     QCOMPARE(book.pageTypes(101).size(), most);
     QCOMPARE(book.pageTypes(max).constLast().value(), PxPageTypeNormalPage);
     QCOMPARE(book.productionNumberingList(max).constLast(), 8 + most - 2);
+    const PxProductTypeDescription twice =
+        describe("name='PROBEBOOK'", pages("normalpages,normalpages"));
+    QCOMPARE(twice.pageTypes(most / 2).size(), most);
+    QCOMPARE(twice.pageTypes(most / 2 + 1).size(), most);
     QCOMPARE(log.texts(),
              QStringList({warning.arg("pageTypes").arg(101), warning.arg("pageTypes").arg(max),
-                          warning.arg("productionNumberingList").arg(max)}));
+                          warning.arg("productionNumberingList").arg(max),
+                          warning.arg("pageTypes").arg(most / 2 + 1)}));
 }
 
 void PxProductTypeDescriptionTest::pageRangesExpandToThePageCount()
@@ -411,8 +391,8 @@ void PxProductTypeDescriptionTest::wrongQuestionsAreReported()
 {
     const PxProductTypeDescription d = describe("", ourSize);
     const PxLogRecorder log;
-    QCOMPARE(pageTypes(pages(""), 4), Ints({16}));
     QCOMPARE(d.usablePrintSize(PxPageTypeSpine, 27), QSize(0, 2000));
+    QCOMPARE(pageTypes(pages(""), 4), Ints({16}));
     QCOMPARE(d.usablePrintSize(PxPageTypeSpine, -1), QSize(0, 2000));
     QStringList messages;
     for (const PxLogRecorder::Entry &e : log.entries())
@@ -489,6 +469,7 @@ void PxProductTypeDescriptionTest::productionNumberingIsCutAndContinued()
     QCOMPARE(numbering("5, 9", 4), Ints({5, 9, 10, 11}));
     QCOMPARE(numbering("5,9", 1), Ints({5}));
     QCOMPARE(numbering("", 3), Ints({1, 2, 3}));
+    QCOMPARE(numbering("", 1), Ints({1}));
     QCOMPARE(numbering("5,9", 0), Ints());
     QCOMPARE(numbering("", -1), Ints());
 }
