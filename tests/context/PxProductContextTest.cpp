@@ -28,9 +28,6 @@ private slots:
     void validityAsksTheThemesProducts();
     void similarProductsMayDiffer();
     void compatibleProductsAreThoseOfTheTheme();
-    void iconsShowASpread_data();
-    void iconsShowASpread();
-    void storyBoardsNeedSeveralProducts();
     void templatesFollowTheme();
     void printsReadably();
 
@@ -40,9 +37,8 @@ private:
 
 void PxProductContextTest::initTestCase()
 {
-    m_directory.writeProductTypes(
-        "1 book BOOK\n2 book TWIN\n3 book BIG\n4 calendar CAL\n5 gift CUP\n"
-        "8 gift ODD\n6 gift SET\n7 card FLAT\n13 book LEFT");
+    m_directory.writeProductTypes("1 book BOOK\n2 book TWIN\n3 book BIG\n13 book LEFT"
+                                  "8 gift ODD\n6 gift SET\n7 card FLAT\n13 book LEFT");
     const auto product = [this](const QByteArray &file, const QByteArray &content) {
         m_directory.write(file, "<d><product " + content + "</product></d>");
     };
@@ -56,12 +52,6 @@ void PxProductContextTest::initTestCase()
                                   "</defaults>");
     product("products/2.xml", "name='TWIN' space='xl' binding='FOIL'>" + size + spines);
     product("products/3.xml", "name='BIG' space='600cm2'>" + size + spines);
-    product("products/4.xml", "name='CAL' binding='CALENDAR_DUPLEX' horizontalPages='0'>" + size);
-    product("products/5.xml", "name='CUP' numOfProducts='0' numOfNormalPages='4'>" + size);
-    product("products/8.xml", "name='ODD' numOfProducts='-1' numOfNormalPages='-2147483648'>");
-    product("products/6.xml", "name='SET' numOfProducts='2' numOfNormalPages='5'>" + size);
-    product("products/7.xml", "name='FLAT' numOfNormalPages='2'><usablesize width='9' height='0' "
-                              "orientation='round'/>");
     m_directory.write("themes/a.xml",
                       "<themes><t id='a' producttype='book'><products><product>TWIN</product>"
                       "</products></t><t id='normal' producttype='book'/></themes>");
@@ -120,35 +110,6 @@ void PxProductContextTest::compatibleProductsAreThoseOfTheTheme()
     QCOMPARE(products, PxProductTypeList({1, 2}));
     QCOMPARE(PxProductContext(1, QString("a")).compatibleProductsWithTheSameSize(),
              PxProductTypeList({2}));
-}
-
-void PxProductContextTest::iconsShowASpread_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QSize>("single");
-    QTest::addColumn<QSize>("spread");
-    QTest::newRow("two pages side by side") << 1 << QSize(300, 200) << QSize(300, 100);
-    QTest::newRow("two pages of a calendar") << 4 << QSize(300, 200) << QSize(300, 400);
-    QTest::newRow("page without height") << 7 << QSize(300, 0) << QSize(300, 0);
-    QTest::newRow("no product") << 0 << QSize(300, 300) << QSize(300, 300);
-}
-
-void PxProductContextTest::iconsShowASpread()
-{
-    QFETCH(int, type);
-    const PxProductContext context(type);
-    QTEST(context.optimumIconSizeSinglePage(300), "single");
-    QTEST(context.optimumIconSize(300), "spread");
-    QCOMPARE(PxProductContext(1).optimumIconSizeSinglePage(100), QSize(100, 66)); // truncated
-}
-
-void PxProductContextTest::storyBoardsNeedSeveralProducts()
-{
-    QVERIFY(!PxProductContext(5).useTwoStoryBoards()); // no products at all: nothing to divide by
-    QCOMPARE(PxProductContext(5).pagesPerProduct(), 0);
-    QCOMPARE(PxProductContext(8).pagesPerProduct(), 2147483647);
-    QVERIFY(PxProductContext(6).useTwoStoryBoards());
-    QVERIFY(!PxProductContext(7).useTwoStoryBoards());
 }
 
 void PxProductContextTest::templatesFollowTheme()

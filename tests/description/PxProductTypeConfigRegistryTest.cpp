@@ -25,8 +25,6 @@ private slots:
     void findsSuccessorsOfLegacyProducts();
     void findsOfferedProductsOfTheSameClass();
     void pageFilesAreSortedByTheirNumbers();
-    void pointSizeFollowsSpaceOrArea();
-    void backgroundOfABookIsADoublePage();
 
 private:
     void write(const char *file, const QByteArray &xml) const { m_directory.write(file, xml); }
@@ -162,41 +160,6 @@ void PxProductTypeConfigRegistryTest::pageFilesAreSortedByTheirNumbers()
     // Continued as 3,1,2,3,4: of equal numbers the earlier position comes first.
     QCOMPARE(sorted("abcde"), QString("bcade"));
     QCOMPARE(sorted(""), QString());
-}
-
-void PxProductTypeConfigRegistryTest::pointSizeFollowsSpaceOrArea()
-{
-    // Kept for good, as every registry: see its destructor.
-    static auto *ourRegistries = new QList<PxProductTypeConfigRegistry *>;
-    const auto pointSize = [this](const QByteArray &space, const QByteArray &width,
-                                  const QByteArray &height) {
-        write("point/a.xml",
-              product("name='BOOK' space='" + space + "'",
-                      "<usablesize width='" + width + "' height='" + height + "'/>"));
-        ourRegistries->append(new PxProductTypeConfigRegistry(directory("point")));
-        return ourRegistries->constLast()->suitablePointSize(1);
-    };
-    QCOMPARE(pointSize("", "2999", "1000"), 10);
-    QCOMPARE(pointSize("150cm2", "2000", "1500"), 16);
-    QCOMPARE(pointSize("", "5999", "1000"), 16);
-    QCOMPARE(pointSize("", "6000", "1000"), 24);
-    QCOMPARE(pointSize("", "11999", "1000"), 24);
-    QCOMPARE(pointSize("", "12000", "1000"), 36);
-    QCOMPARE(pointSize("", "24000", "1000"), 72);
-    QCOMPARE(pointSize("", "2147483647", "2147483647"), 72);
-}
-
-void PxProductTypeConfigRegistryTest::backgroundOfABookIsADoublePage()
-{
-    const auto size = [this](int type, bool singlePage) {
-        return m_registry->usablePrintSizeForBackgroundTemplate(type, singlePage);
-    };
-    QCOMPARE(size(4, false), QSizeF(2000, 2000));
-    QCOMPARE(size(4, true), QSizeF(1000, 2000));
-    QCOMPARE(size(6, false), QSizeF(2000, 3000));
-    QCOMPARE(m_registry->backgroundRatio(4, false), 1.0);
-    QCOMPARE(m_registry->backgroundRatio(4, true), 0.5);
-    QCOMPARE(m_registry->backgroundRatio(99, false), 0.0);
 }
 
 QTEST_GUILESS_MAIN(PxProductTypeConfigRegistryTest)

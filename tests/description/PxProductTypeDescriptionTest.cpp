@@ -18,14 +18,9 @@ class PxProductTypeDescriptionTest : public QObject
 
 private slots:
     void initTestCase();
-    void specialAttributesReplaceTheCommonOnes();
-    void foldMarginFollowsTheOrientation();
-    void bookSpinesGrowAtTheCostOfTheCover();
-    void backgroundDefaultsFollowTheProductClass();
     void userDefaultsComeFirst();
     void extremeNumbersAreClamped();
     void millionsOfCombinationsAnswerAtOnce();
-    void pageCountsComeFromTheSpines();
     void offeredPageCountsFollowTheProduct_data();
     void offeredPageCountsFollowTheProduct();
     void findsTheFirstOfManyEntries();
@@ -38,7 +33,6 @@ private slots:
     void pageAlignmentFollowsSpineAndCardStyle();
     void productionNumberingIsCutAndContinued();
     void compatibilityAsksWhatTheCriterionNames();
-    void validityNeedsBindingOrientationAndSize();
 
 private:
     PxCatalogueDirectory m_directory;
@@ -83,66 +77,6 @@ void PxProductTypeDescriptionTest::initTestCase()
                                   "5 card CARD\n6 deko CANVAS\n7 print PRINT");
 }
 
-void PxProductTypeDescriptionTest::specialAttributesReplaceTheCommonOnes()
-{
-    const PxProductTypeDescription bleed =
-        describe("bleedmargin='30' bleedmarginvertical='10' bleedmargincoverhorizontal='7'");
-    QCOMPARE(bleed.bleedMarginNormal(), PxBleedMargin(30, 10));
-    QCOMPARE(bleed.bleedMarginCover(), PxBleedMargin(7, 0));
-
-    const QString size = "<usablesize width='1' height='2' space=''/>";
-    QCOMPARE(describe("", size).orientation().value(), PxOrientationPortrait);
-    const PxProductTypeDescription panorama = describe("orientation='panorama' space='xl'", size);
-    QCOMPARE(panorama.orientation().value(), PxOrientationPanorama);
-    QCOMPARE(panorama.spaceMagnitude().value(), PxSpaceMagnitude900);
-}
-
-void PxProductTypeDescriptionTest::foldMarginFollowsTheOrientation()
-{
-    const QString shade = "<surroundings><surrounding hasbindingshade='true'/></surroundings>";
-    const auto foldMargin = [](int width, int height, const QString &more,
-                               const QString &attributes = "") {
-        return describe(attributes,
-                        QString("<usablesize width='%1' height='%2'/>").arg(width).arg(height) +
-                            more)
-            .foldMargin();
-    };
-    QCOMPARE(foldMargin(2050, 2700, shade), 110);
-    QCOMPARE(foldMargin(2700, 2050, shade), 110);
-    QCOMPARE(foldMargin(2050, 2050, shade), 91);
-    QCOMPARE(foldMargin(2050, 2050, shade, "orientation='round'"), 0);
-    QCOMPARE(foldMargin(2050, 2050, shade, "foldmargin='7'"), 7);
-    QCOMPARE(foldMargin(-500, 9, shade, "orientation='portrait'"), 0);
-    QCOMPARE(foldMargin(2050, 2050, ""), 0);
-}
-
-void PxProductTypeDescriptionTest::bookSpinesGrowAtTheCostOfTheCover()
-{
-    const auto widths = [](const QString &name, const QString &spines) {
-        const PxProductTypeDescription d =
-            describe("coverextrahorizontal='100' name='" + name + "'",
-                     "<spines>" + spines + "</spines><usablesize width='1000' height='900'/>");
-        return Ints{d.spineWidth(24), d.coverSize().width()};
-    };
-    const QString spine = "<spine pages='24' width='40'/>";
-    QCOMPARE(widths("PROBEBOOK", spine), Ints({60, 1090}));
-    QCOMPARE(widths("CARD", spine), Ints({40, 1100}));
-    QCOMPARE(widths("PROBEBOOK", ""), Ints({0, 1100}));
-    QCOMPARE(widths("PROBEBOOK", spine + "<spine pages='22'/>"), Ints({40, 1100}));
-}
-
-void PxProductTypeDescriptionTest::backgroundDefaultsFollowTheProductClass()
-{
-    QStringList answers;
-    for (const char *name : {"PROBEBOOK", "CAL", "CUP", "CARD", "CANVAS", "PRINT"}) {
-        const PxProductTypeDescription d = describe(QString("name='%1'").arg(name));
-        answers += QString::number(d.fullBackgroundOnEachPage()) +
-                   d.allowedBackgroundCategories().toDataStringList().join(",");
-        QCOMPARE(d.limitBackgroundCategories(), answers.last() == "0Einfarbig");
-    }
-    QCOMPARE(answers, QStringList({"0", "1", "1", "1", "0Einfarbig", "0"}));
-}
-
 void PxProductTypeDescriptionTest::userDefaultsComeFirst()
 {
     const QByteArray defaults = "<u><defaults><defaults pageType='normalpage' alignment='left' "
@@ -185,6 +119,9 @@ void PxProductTypeDescriptionTest::extremeNumbersAreClamped()
         "<spine pages='2147483647'/></spines>"
         "<productionnumbering>2147483647</productionnumbering>");
     QCOMPARE(d.coverSize(), QSize(max, -1));
+    PxProductTypeDescriptionSpineData spine(pxElement("<spine width='9'/>"));
+    spine.considerExtraCoverWidth(-10);
+    QCOMPARE(spine.width(), 0);
     QCOMPARE(d.sizeSpec(PxPageSizeKey()).totalSize(), QSize(max, max));
     QCOMPARE(d.safetyMargins().totalMarginWH(), QSize(max, max));
     QCOMPARE(d.productionNumberingList(2), Ints({max, max}));
@@ -217,18 +154,6 @@ void PxProductTypeDescriptionTest::millionsOfCombinationsAnswerAtOnce()
     QCOMPARE(log.texts(), QStringList("PxProductTypeDescription::readPages 20001 entries in "
                                       "\"pages\" of \"CUP2\" - used are the first 1000"));
     QVERIFY2(timer.elapsed() < 10000, "the lists must not be multiplied out");
-}
-
-void PxProductTypeDescriptionTest::pageCountsComeFromTheSpines()
-{
-    const auto counts = [](const Ints &pageCounts) {
-        const PxProductTypeDescription d = describe("", spines(pageCounts));
-        return Ints{d.minPages(), d.maxPages(), d.pageIncrement()};
-    };
-    const int max = 2147483647;
-    QCOMPARE(counts({40, 24, 30, 28, 26}), Ints({24, 40, 2})); // the last step is no increment
-    QCOMPARE(counts({24, 26}), Ints({24, 26, -max - 1}));
-    QCOMPARE(counts({}), Ints({max, -max - 1, -max - 1}));
 }
 
 void PxProductTypeDescriptionTest::offeredPageCountsFollowTheProduct_data()
@@ -497,14 +422,6 @@ void PxProductTypeDescriptionTest::compatibilityAsksWhatTheCriterionNames()
     check("paper", 2, ourSize + list + counts, "paper='glossy'");
     check("space", 4, ourSize + list + counts, "space='xl'");
     check("increment", 8, ourSize + list + spines({2, 6, 10}));
-}
-
-void PxProductTypeDescriptionTest::validityNeedsBindingOrientationAndSize()
-{
-    const QString noSize = "<usablesize width='0' height='0'/>";
-    QVERIFY(describe("orientation='round'", noSize).isValid());
-    QVERIFY(!describe("", noSize).isValid());
-    QVERIFY(!describe("orientation='round'", "<usablesize width='5'/>").isValid());
 }
 
 QTEST_GUILESS_MAIN(PxProductTypeDescriptionTest)
