@@ -5,12 +5,21 @@
 #include <QFile>
 #include <QTest>
 
+/** Of all files and directories, relative to it. */
+static QStringList namesIn(const QString &directory)
+{
+    QStringList names;
+    QDirIterator entries(directory,
+                         QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+    while (entries.hasNext())
+        names.append(entries.next().mid(directory.size() + 1));
+    return names;
+}
+
 PxSampleCopy::PxSampleCopy()
 {
-    const QDir sample(PX_SAMPLE_DIRECTORY);
-    QDirIterator files(sample.path(), QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext())
-        restore(sample.relativeFilePath(files.next()));
+    restore();
 }
 
 QString PxSampleCopy::read(const QString &name) const
@@ -34,11 +43,29 @@ void PxSampleCopy::replace(const QString &name, const QString &old, const QStrin
 
 void PxSampleCopy::restore(const QString &name) const
 {
-    QFile::remove(filePath(name));
-    QFile sample(QDir(PX_SAMPLE_DIRECTORY).filePath(name));
+    QFile sample(PX_SAMPLE_DIRECTORY "/" + name);
+    QFile file(filePath(name));
+    const bool isFile = QFileInfo(file).isFile();
+    if (!isFile || !QFileInfo(sample).isFile())
+        file.remove();
     if (!sample.open(QIODevice::ReadOnly))
         return;
-    QDir().mkpath(QFileInfo(filePath(name)).path());
-    QFile file(filePath(name)); // QFile::copy() would wait for the disk, a hundred times
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(sample.readAll()) >= 0);
+    // Only what has changed: to make and remove many files again and again is slow on some disks.
+    const QByteArray content = sample.readAll();
+    if (isFile && file.open(QIODevice::ReadOnly) && file.readAll() == content)
+        return;
+    file.close();
+    QDir().mkpath(QFileInfo(file).path());
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) >= 0);
+}
+
+void PxSampleCopy::restore() const
+{
+    const QStringList names = namesIn(PX_SAMPLE_DIRECTORY);
+    for (const QString &name : namesIn(path())) {
+        if (!names.contains(name) && !QFile::remove(filePath(name)))
+            QDir(filePath(name)).removeRecursively();
+    }
+    for (const QString &name : names)
+        restore(name);
 }

@@ -18,6 +18,8 @@ public:
     void replace(const QString &name, const QString &old, const QString &text) const;
     /** Makes a file what it is in the sample, if it is there at all. */
     void restore(const QString &name) const;
+    /** Makes the whole copy what the sample is. */
+    void restore() const;
 
 private:
     QTemporaryDir m_directory;

@@ -4,11 +4,6 @@
 #include <QJsonArray>
 #include <QRegularExpression>
 
-PxCheckedSample::PxCheckedSample()
-{
-    QDir::setCurrent(path());
-}
-
 PxProgramRun PxCheckedSample::check(const QString &options) const
 {
     return PxProgramRun(PX_CATALOGUE_PROGRAM,

@@ -3,12 +3,10 @@
 #include "PxProgramRun.h"
 #include "PxSampleCopy.h"
 
-/** A copy of the sample, in which the program runs: "." is its catalogue. */
+/** A copy of the sample, which tests make the current directory: "." is its catalogue. */
 class PxCheckedSample : public PxSampleCopy
 {
 public:
-    PxCheckedSample();
-
     /** Runs "check" with the words of its options. */
     PxProgramRun check(const QString &options) const;
     /** An error, a warning and an info. */
