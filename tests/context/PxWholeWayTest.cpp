@@ -129,7 +129,7 @@ void PxWholeWayTest::manyThreadsAskAtOnce()
     // Silent, and without a lock, which would make the threads wait for each other.
     const QtMessageHandler previous =
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    std::vector<QVector<uint>> answers(16);
+    std::vector<QVector<uint>> answers(8);
     std::atomic<int> missing{int(answers.size())};
     std::vector<std::thread> threads;
     for (QVector<uint> &answer : answers) {

@@ -19,8 +19,6 @@
 #include <QRegularExpression>
 #include <QTest>
 
-#include <numeric>
-
 /** Compares the rows of the format with what the library really reads. */
 class PxFormatTest : public QObject
 {
@@ -218,8 +216,8 @@ QString PxFormatTest::answers(PxFileKind kind, const QDomDocument &document) con
                 .readFile(QFileInfo(m_directory.filePath("products/a.xml")))
                 .second);
         PxArguments arguments;
-        arguments.pages.resize(90);
-        std::iota(arguments.pages.begin(), arguments.pages.end(), -1);
+        // Those of the fixture (27 of 100 is the 73rd from the back), and those it says nothing of.
+        arguments.pages = {-1, 0, 1, 2, 27, 58, 63, 64, 65, 66, 67, 68, 73, 74, 76, 77, 78, 82, 83};
         arguments.pageCounts = {0, 9, 24, 26, 28, 40, 100};
         arguments.kinds.clear();
         for (const PxPageTypeEnum pageType :
