@@ -2,9 +2,10 @@
 
 # Qt's resource compiler takes the translations away again, which applications load at their start.
 list(FILTER OBJECTS EXCLUDE REGEX "/qrc_")
-foreach(object IN LISTS OBJECTS)
-    execute_process(COMMAND ${NM} --undefined-only ${object} OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
-    if(symbols MATCHES "__cxa_(thread_)?atexit")
-        message(SEND_ERROR "${object} registers a destructor")
-    endif()
-endforeach()
+execute_process(COMMAND ${NM} --undefined-only --print-file-name ${OBJECTS}
+    OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
+string(REGEX MATCHALL "[^\n]*__cxa_(thread_)?atexit" destroyed "${symbols}")
+if(destroyed)
+    list(JOIN destroyed "\n" lines)
+    message(FATAL_ERROR "These object files register a destructor:\n${lines}")
+endif()
