@@ -26,10 +26,9 @@ function(px_set_defaults target)
     endif()
 endfunction()
 
-# Its public headers are compiled one by one, each alone, by the target all_verify_interface_header_sets.
 function(px_install_library target name)
     add_library(Px::${name} ALIAS ${target})
-    set_target_properties(${target} PROPERTIES EXPORT_NAME ${name} VERIFY_INTERFACE_HEADER_SETS ON)
+    set_target_properties(${target} PROPERTIES EXPORT_NAME ${name})
     install(TARGETS ${target} EXPORT ${PROJECT_NAME}Targets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
         FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${PROJECT_NAME})
