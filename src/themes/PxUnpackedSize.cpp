@@ -4,8 +4,12 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
+#include <numeric>
 
 namespace {
+
+constexpr int none = -1;
 
 /** Reads bits, starting with the lowest bit of each byte. */
 class BitReader
@@ -16,12 +20,12 @@ public:
         , m_end(bytes.constData() + bytes.size())
     {}
 
-    /** Reads up to 16 bits; -1 if fewer are left. */
+    /** Reads up to 16 bits; none if fewer are left, and from then on. */
     int read(int count)
     {
         for (; m_count < count; m_count += 8) {
             if (m_next == m_end)
-                return -1;
+                return stop();
             m_bits |= quint32(uchar(*m_next++)) << m_count;
         }
         const quint32 bits = m_bits & ((1U << count) - 1);
@@ -33,15 +37,31 @@ public:
     /** Skips the remaining bits of a byte that was read in part. */
     void skipRestOfByte()
     {
-        m_bits >>= m_count % 8;
-        m_count -= m_count % 8;
+        m_bits = 0;
+        m_count = 0;
+    }
+
+    /** Skips bytes; returns how many of them there were. Only behind the rest of a byte. */
+    int skipBytes(int count)
+    {
+        const int skipped = std::min(count, int(m_end - m_next));
+        m_next += skipped;
+        return skipped;
+    }
+
+    /** Ends the data here. */
+    int stop()
+    {
+        skipRestOfByte();
+        m_next = m_end;
+        return none;
     }
 
 private:
     const char *m_next;
     const char *m_end;
     quint32 m_bits = 0;
-    int m_count = 0; // number of bits
+    int m_count = 0; // number of bits, which are less than a byte
 };
 
 /** A canonical Huffman code as in deflate, defined by the code length of each symbol. */
@@ -53,34 +73,29 @@ public:
         for (int i = 0; i < count; ++i)
             ++m_countOfLength[lengths[i]];
         m_countOfLength[0] = 0;
-        std::array<int, 16> next{};
-        for (int length = 1; length < 15; ++length)
-            next[length + 1] = next[length] + m_countOfLength[length];
+        std::array<int, 17> next{};
+        std::partial_sum(m_countOfLength.begin(), m_countOfLength.end(), next.begin() + 1);
         for (int i = 0; i < count; ++i) {
             if (lengths[i] != 0)
                 m_symbols[next[lengths[i]]++] = quint16(i);
         }
     }
 
-    /** Reads the next symbol; -1 if there is none. */
+    /** Reads the next symbol. If there is none, the data end here. */
     int read(BitReader &bits) const
     {
-        int code = 0;
-        int first = 0;
-        int index = 0;
-        for (int length = 1; length <= 15; ++length) {
-            const int bit = bits.read(1);
-            if (bit < 0)
-                return -1;
-            code |= bit;
-            const int count = m_countOfLength[length];
-            if (code - first < count)
-                return m_symbols[index + code - first];
+        int code = 0;  // less the first code of the same length
+        int index = 0; // of the symbol with that first code
+        for (const int count : m_countOfLength) {
+            if (code < count)
+                return m_symbols[index + code];
             index += count;
-            first = (first + count) * 2;
-            code *= 2;
+            const int bit = bits.read(1);
+            if (bit == none)
+                return none;
+            code = (code - count) * 2 + bit;
         }
-        return -1;
+        return bits.stop();
     }
 
 private:
@@ -97,96 +112,86 @@ public:
     {
         m_bits.read(16); // the header of zlib
         bool isLast = false;
-        bool isGood = true;
-        while (isGood && !isLast && m_size <= m_limit) {
+        while (!isLast && m_size <= m_limit) {
             isLast = m_bits.read(1) != 0;
             switch (m_bits.read(2)) {
             case 0:
-                isGood = countStored();
+                countStored();
                 break;
             case 1:
-                isGood = countFixed();
+                countFixed();
                 break;
             case 2:
-                isGood = countDynamic();
+                countDynamic();
                 break;
             default:
-                isGood = false;
+                return m_size;
             }
         }
         return m_size;
     }
 
 private:
-    bool countStored()
+    void countStored()
     {
         m_bits.skipRestOfByte();
         const int length = m_bits.read(16);
         m_bits.read(16); // the complement of the length
-        for (int i = 0; i < length; ++i) {
-            if (m_bits.read(8) < 0)
-                return false;
-            ++m_size;
-        }
-        return length >= 0;
+        m_size += m_bits.skipBytes(std::max(length, 0));
     }
 
-    bool countFixed()
+    void countFixed()
     {
         std::array<quint8, 288> lengths;
-        std::fill(lengths.begin(), lengths.begin() + 144, 8);
-        std::fill(lengths.begin() + 144, lengths.begin() + 256, 9);
+        lengths.fill(8);
         std::fill(lengths.begin() + 256, lengths.begin() + 280, 7);
-        std::fill(lengths.begin() + 280, lengths.end(), 8);
+        std::fill(lengths.begin() + 144, lengths.begin() + 256, 9);
         std::array<quint8, 30> distances;
         distances.fill(5);
-        return count(HuffmanCode(lengths.data(), 288), HuffmanCode(distances.data(), 30));
+        count(HuffmanCode(lengths.data(), int(lengths.size())),
+              HuffmanCode(distances.data(), int(distances.size())));
     }
 
-    bool countDynamic()
+    void countDynamic()
     {
         constexpr int order[] = {16, 17, 18, 0, 8, 7, 9, 6, 10, 5, 11, 4, 12, 3, 13, 2, 14, 1, 15};
         const int lengthCount = m_bits.read(5) + 257;
         const int distanceCount = m_bits.read(5) + 1;
         const int orderCount = m_bits.read(4) + 4;
-        std::array<quint8, 320> lengths{};
+        std::array<quint8, 320 + 138> lengths{}; // the last repetition may go too far
         for (int i = 0; i < orderCount; ++i)
             lengths[order[i]] = quint8(std::max(m_bits.read(3), 0));
-        const HuffmanCode codeOfLengths(lengths.data(), 19);
-        lengths.fill(0);
-        const int all = lengthCount + distanceCount;
-        for (int i = 0; i < all;) {
+        const HuffmanCode codeOfLengths(lengths.data(), int(std::size(order)));
+        quint8 length{};
+        for (int i = 0; i < lengthCount + distanceCount;) {
             const int symbol = codeOfLengths.read(m_bits);
-            if (symbol < 0)
-                return false;
-            if (symbol < 16) {
-                lengths[i++] = quint8(symbol);
-                continue;
-            }
-            const quint8 repeated = symbol == 16 && i > 0 ? lengths[i - 1] : 0;
-            const int times = symbol == 16   ? 3 + m_bits.read(2)
+            if (symbol == none)
+                return;
+            length = symbol < 16 ? quint8(symbol) : symbol == 16 ? length : 0;
+            const int times = symbol < 16    ? 1
+                              : symbol == 16 ? 3 + m_bits.read(2)
                               : symbol == 17 ? 3 + m_bits.read(3)
                                              : 11 + m_bits.read(7);
-            for (int k = 0; k < times && i < all; ++k)
-                lengths[i++] = repeated;
+            std::fill_n(lengths.begin() + i, times, length);
+            i += times;
         }
-        return count(HuffmanCode(lengths.data(), lengthCount),
-                     HuffmanCode(lengths.data() + lengthCount, distanceCount));
+        count(HuffmanCode(lengths.data(), lengthCount),
+              HuffmanCode(lengths.data() + lengthCount, distanceCount));
     }
 
     /** Counts a block of literals and of lengths with distances. */
-    bool count(const HuffmanCode &lengths, const HuffmanCode &distances)
+    void count(const HuffmanCode &lengths, const HuffmanCode &distances)
     {
         constexpr int endOfBlock = 256;
         while (m_size <= m_limit) {
             const int symbol = lengths.read(m_bits);
-            if (symbol <= endOfBlock) {
-                if (symbol < 0 || symbol == endOfBlock)
-                    return symbol == endOfBlock;
+            if (symbol == none || symbol == endOfBlock)
+                return;
+            const int step = symbol - endOfBlock - 1;
+            if (step < 0) { // a literal
                 ++m_size;
                 continue;
             }
-            const int step = symbol - endOfBlock - 1;
             if (step < 8) {
                 m_size += 3 + step;
             } else if (step == 28) {
@@ -196,10 +201,8 @@ private:
                 m_size += 3 + ((4 + step % 4) << extraBits) + m_bits.read(extraBits);
             }
             const int distance = distances.read(m_bits);
-            if (distance < 0 || (distance >= 4 && m_bits.read(distance / 2 - 1) < 0))
-                return false;
+            m_bits.read(std::max(distance / 2 - 1, 0));
         }
-        return true;
     }
 
     BitReader m_bits;
@@ -220,31 +223,33 @@ qint64 PxUnpackedSize::ofLzw(const QByteArray &data, int colorBits, qint64 limit
     if (colorBits < 0 || colorBits >= maximumBits)
         return 0;
     const int clear = 1 << colorBits;
-    std::array<int, 1 << maximumBits> lengths; // unpacked length of each code
+    // Unpacked length of each code. It outlives a clear code, as in decoders, which unpack any
+    // code.
+    std::array<int, 1 << maximumBits> lengths;
     lengths.fill(1);
     int codeCount = clear + 2;
     int codeBits = colorBits + 1;
-    int previous = -1; // none, after a clear code
+    int previous = none; // after a clear code
     qint64 size = 0;
     BitReader bits(data);
     while (size <= limit) {
         const int code = bits.read(codeBits);
-        if (code < 0 || code == clear + 1)
+        if (code == none || code == clear + 1)
             break;
         if (code == clear) {
             codeCount = clear + 2;
             codeBits = colorBits + 1;
-            previous = -1;
+            previous = none;
             continue;
         }
-        if (previous < 0) {
+        if (previous == none) {
             ++size;
             previous = code;
             continue;
         }
         const int lengthOfNext = lengths[previous] + 1;
         size += code < codeCount ? lengths[code] : lengthOfNext;
-        if (codeCount < int(lengths.size())) {
+        if (codeCount != int(lengths.size())) {
             lengths[codeCount++] = lengthOfNext;
             if (codeCount == 1 << codeBits && codeBits < maximumBits)
                 ++codeBits;

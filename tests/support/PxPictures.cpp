@@ -7,6 +7,8 @@
 #include <QtEndian>
 
 #include <array>
+#include <map>
+#include <utility>
 
 namespace {
 
@@ -131,6 +133,41 @@ QByteArray PxPictures::jpegWithScans(const QSize &size, int scans)
 QByteArray PxPictures::withSegments(const QByteArray &jpeg, const QByteArray &segments)
 {
     return jpeg.left(2) + segments + jpeg.mid(2);
+}
+
+QByteArray PxPictures::lzwCodes(const QByteArray &colors, int colorBits, int clearAfter)
+{
+    const int clear = 1 << colorBits;
+    Codes codes;
+    std::map<std::pair<int, char>, int> table; // by code and colour behind it
+    int bits = colorBits + 1;
+    int known = uchar(colors.at(0));
+    const auto append = [&](int code, char next) {
+        codes.append(code, bits);
+        const int added = clear + 2 + int(table.size());
+        if (added == 1 << bits && bits < 12)
+            ++bits;
+        if (added < 4096)
+            table[{code, next}] = added;
+    };
+    for (int i = 1; i < colors.size(); ++i) {
+        const char next = colors.at(i);
+        const auto longer = table.find({known, next});
+        if (longer != table.end()) {
+            known = longer->second;
+            continue;
+        }
+        append(known, next);
+        known = uchar(next);
+        if (int(table.size()) == clearAfter) {
+            codes.append(clear, bits);
+            table.clear();
+            bits = colorBits + 1;
+        }
+    }
+    append(known, 0);
+    codes.append(clear + 1, bits);
+    return codes.bytes();
 }
 
 QByteArray PxPictures::gif(const QSize &screen, const QSize &frame, qint64 colors)

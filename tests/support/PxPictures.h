@@ -23,6 +23,11 @@ QByteArray jpegWithScans(const QSize &size, int scans);
 /** Puts segments behind the start of a JPEG. */
 QByteArray withSegments(const QByteArray &jpeg, const QByteArray &segments);
 
+/**
+ * The codes of a GIF for these colours, as encoders write them; a clear code whenever the table
+ * has so many codes of its own.
+ */
+QByteArray lzwCodes(const QByteArray &colors, int colorBits, int clearAfter);
 /** A GIF with a screen and a frame; its codes stand for so many colours. */
 QByteArray gif(const QSize &screen, const QSize &frame, qint64 colors);
 
