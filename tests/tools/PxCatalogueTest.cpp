@@ -14,13 +14,11 @@ class PxCatalogueTest : public QObject
 private slots:
     void listsTheProductsByClassAndName();
     void listsTheProductsOfEarlierCatalogues();
-    void showsSizesInMillimetres();
     void showsSizesAsTheyAreInJson();
     void showsAsManyPagesAsAsked();
     void findsCompatibleProducts();
     void fitsTheTerminal();
     void explainsEachCommand();
-    void saysWhatIsWrong();
     void needsItsProductTypes();
     void survivesBrokenProductFiles();
     void hasNoIncrementOfTwoPageCounts();
@@ -96,14 +94,6 @@ QStringList optionsOf(const PxProgramRun &help)
     return options;
 }
 
-QStringList commandNames()
-{
-    QStringList names;
-    for (const QString &line : commandLines())
-        names.append(line.section(' ', 0, 0));
-    return names;
-}
-
 QString textOf(const char *path)
 {
     QFile file(path);
@@ -151,18 +141,6 @@ void PxCatalogueTest::listsTheProductsOfEarlierCatalogues()
     QCOMPARE(list.json()["products"][3]["pageCounts"]["maximum"].toInt(), 12);
     const PxProgramRun none = run("list --earlier --json --legacy " PX_SAMPLE_DIRECTORY "/images");
     QVERIFY(none.status() == 0 && namesOf(none).isEmpty());
-}
-
-void PxCatalogueTest::showsSizesInMillimetres()
-{
-    const QStringList lines = simplified(run("show book_a4_portrait").output());
-    for (const char *line :
-         {"Name BOOK_A4_PORTRAIT", "Page counts 26-154/2", "Sold with 26", "Shown with 26",
-          "With covers and spine 31", "Fold margin 11.2 mm", "Replaces BOOK_CLASSIC_A4",
-          "3-29/2 book 9×297 at 201, 0 yes yes images/book-binding-shade-left.png",
-          "29 24×6 at 170, 288 yes images/barcode-small.png", "Its open cover 425×296 mm",
-          "Numbers of the pages 3, 2, 1, 4-31"})
-        QVERIFY2(lines.contains(line), line);
 }
 
 void PxCatalogueTest::showsSizesAsTheyAreInJson()
@@ -265,35 +243,6 @@ void PxCatalogueTest::explainsEachCommand()
                      qPrintable(option));
         }
     }
-}
-
-void PxCatalogueTest::saysWhatIsWrong()
-{
-    const auto check = [](const QString &command, int status, const QString &error) {
-        const PxProgramRun wrong = run(command);
-        QCOMPARE(wrong.errors(), QStringList{"pxcatalogue: " + error});
-        QVERIFY2(wrong.status() == status && wrong.output().isEmpty(), qPrintable(command));
-    };
-    const QString help = " (\"pxcatalogue --help\" explains everything)";
-    const QString list = " (\"pxcatalogue list\" shows all)";
-    const QString commands = commandNames().join(", ");
-    // clang-format off
-    check("show BOK_A4", 1, "no product \"BOK_A4\": did you mean BOOK_A4_PORTRAIT, BOOK_A4_LANDSCAPE, BOOK_A4_PORTRAIT_SOFT?" + list);
-    check("show collage", 1, "no product \"collage\": did you mean DEKO_COLLAGE_40X30?" + list);
-    check("show \x1b[31mXYZZY", 1, "no product \"\\u001B[31mXYZZY\"" + list); // no escape sequence gets through
-    check("compatible CUP1", 1, "no product \"CUP1\" any more: CUP2 replaces it" + list);
-    check("", 2, "a command is missing: use " + commands + help);
-    check("lst", 2, "unknown command \"lst\": use " + commands + help);
-    check("show", 2, "show needs the name of a product" + help);
-    check("show CUP2 PDT1", 2, "\"PDT1\" is one argument too many" + help);
-    check("list --pages 26", 2, "Unknown option 'pages'." + help);
-    for (const QString pages : {"0", "10000", "x", "99999999999"})
-        check("show CUP2 --pages " + pages, 2, "--pages needs a number from 1 to 9999, not \"" + pages + '"' + help);
-    check("list --class book,buch", 2, "--class does not know \"buch\": use book, calendar, gift, card, deko, print" + help);
-    check("list --products=", 2, "--products needs a value" + help);
-    check("list --legacy /no/such", 2, "the directory \"/no/such\" does not exist");
-    check("list --user-defaults /dev/null", 2, "the directory \"/dev/null\" is no directory");
-    // clang-format on
 }
 
 void PxCatalogueTest::needsItsProductTypes()

@@ -21,13 +21,10 @@ private slots:
     void answersTheWorstFinding();
     void checksSingleFiles();
     void knowsOtherThemes();
-    void tellsADroppedRowOnce();
     void checksWhatItIsToldTo();
     void tellsOneFaultOfAnAttribute();
     void findsWhatNoExampleShows();
     void findsNamesThatCannotBeDecoded();
-    void saysWhatIsWrong_data();
-    void saysWhatIsWrong();
     void keepsQuiet();
     void explains();
 
@@ -124,21 +121,6 @@ void PxCheckCommandTest::knowsOtherThemes()
         "not checked without the id of every theme: defaults-theme-unknown"));
 }
 
-/** Where the row is checked, too, it is told there and not once more at the product. */
-void PxCheckCommandTest::tellsADroppedRowOnce()
-{
-    m_sample.replace("producttypes.xml", "code=\"907\"", "code=\"4x1\"");
-    QCOMPARE(findingsOf(m_sample.check(".")),
-             QStringList("./producttypes.xml:68:22 error integer-malformed"));
-    m_sample.restore("producttypes.xml");
-    m_sample.replace("producttypes.xml", "name=\"CUP1\"", "nam=\"CUP1\"");
-    QCOMPARE(findingsOf(m_sample.check(".")).size(), 1);
-    const PxProgramRun alone = m_sample.check("products/legacy/cup1.xml");
-    QCOMPARE(findingsOf(alone),
-             QStringList("products/legacy/cup1.xml:4:18 error product-name-unknown"));
-    QVERIFY(!alone.text().contains("did you mean"));
-}
-
 void PxCheckCommandTest::checksWhatItIsToldTo()
 {
     m_sample.addFindings();
@@ -176,14 +158,6 @@ void PxCheckCommandTest::tellsOneFaultOfAnAttribute()
                                               "frames.xml:6:12 warning frame-id-twice"}));
     QVERIFY(frames.text().contains("the frame \"ä\" is in line 5, too"));
 
-    const QString margin = "safetymargin=\"30\"";
-    m_sample.replace(cup, margin, "safetymargin=\"-1\" foldmargin=\"-2\"");
-    QCOMPARE(findingsOf(m_sample.check(cup)), (QStringList{cup + ":5:26 error margin-negative",
-                                                            cup + ":5:42 error margin-negative"}));
-    m_sample.restore(cup);
-    m_sample.replace(cup, margin, margin + " foldmargin=\"-1\"");
-    QCOMPARE(findingsOf(m_sample.check(cup)), QStringList());
-
     const QString logo = "<logo filename='' booktype='%1' width='9' height='9'/>";
     m_sample.write("themes/a.xml", "<themes>\n<a id='A, '><logos>" + logo.arg("cup2") +
                                         "</logos></a>\n<a id=' '><logos>" + logo.arg("Cup2") +
@@ -209,13 +183,6 @@ void PxCheckCommandTest::findsWhatNoExampleShows()
     m_sample.restore(cup);
 
     const QString pillow = "products/pillow_premium.xml";
-    const QString image = "image=\"images/pillow-seam.png\"";
-    m_sample.replace(pillow, image, QString());
-    QCOMPARE(findingsOf(m_sample.check(".")),
-             QStringList("./products/pillow_premium.xml:11:8 warning surrounding-empty"));
-    m_sample.restore(pillow);
-    m_sample.replace(pillow, image, "hasbindingshade=\"true\"");
-    QCOMPARE(findingsOf(m_sample.check(".")), QStringList());
     m_sample.write(pillow, "<p><products><product name='PILLOW_PREMIUM'/></products></p>");
     QVERIFY(m_sample.check(pillow).text().contains("hint: move \"product\" out of \"products\""));
     m_sample.restore(pillow);
@@ -279,54 +246,6 @@ void PxCheckCommandTest::findsNamesThatCannotBeDecoded()
                  qPrintable(warnings));
     for (const QByteArray &file : files)
         unlink(file); // Qt cannot
-}
-
-void PxCheckCommandTest::saysWhatIsWrong_data()
-{
-    QTest::addColumn<QString>("options");
-    QTest::addColumn<QString>("error");
-    QTest::newRow("tag") << "--only xml-limit-exceded ."
-                         << "did you mean \"xml-limit-exceeded\"?";
-    QTest::newRow("list") << "--skip file-not-read,,x ."
-                          << "--skip does not know the tag \"\"";
-    QTest::newRow("severity") << "--override file-not-read=fatal ."
-                              << "use error, warning, info";
-    QTest::newRow("override") << "--override file-not-read ."
-                              << "needs TAG=SEVERITY";
-    QTest::newRow("format") << "--format xml ."
-                            << "text or json or sarif, not \"xml\"";
-    QTest::newRow("format of tags") << "--list-tags --format json"
-                                    << "text or markdown";
-    QTest::newRow("explain") << "--explain nothing"
-                             << "--list-tags shows all";
-    QTest::newRow("baselines") << "--baseline a --write-baseline b ."
-                               << "do not go together";
-    QTest::newRow("mixed") << "products/cup2.xml ."
-                           << "one resource directory, or files";
-    QTest::newRow("two resources") << "--resources . ."
-                                   << "both name the resource directory";
-    QTest::newRow("missing") << "products/nothing.xml"
-                             << "does not exist";
-    QTest::newRow("no catalogue") << "products"
-                                  << "producttypes.xml";
-    QTest::newRow("no catalogue above") << "/etc/passwd"
-                                        << "with --resources";
-    QTest::newRow("no baseline") << "--baseline nothing.json ."
-                                 << "cannot be read";
-    QTest::newRow("baseline nowhere") << "--write-baseline no/where ."
-                                      << "cannot be written";
-}
-
-void PxCheckCommandTest::saysWhatIsWrong()
-{
-    QFETCH(QString, options);
-    QFETCH(QString, error);
-    QDir().mkpath(m_sample.filePath("products/products"));
-    const PxProgramRun run = m_sample.check(options);
-    QCOMPARE(run.status(), 2);
-    QCOMPARE(run.output(), QStringList());
-    QCOMPARE(run.errors().size(), 1);
-    QVERIFY2(run.errors().constFirst().contains(error), qPrintable(run.errors().constFirst()));
 }
 
 void PxCheckCommandTest::keepsQuiet()

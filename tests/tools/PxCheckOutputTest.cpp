@@ -23,9 +23,6 @@ private slots:
     void readsOnlyFilesAsBaselines();
     void tellsAHundredOfAKind();
     void hidesWhatIsKnownOfMany();
-    void tellsWhatFollowsFromNames_data();
-    void tellsWhatFollowsFromNames();
-    void tellsNamesWhenNothingFollows();
     void countsCharacters();
     void printsWhatTheDocumentShows();
 
@@ -251,100 +248,6 @@ void PxCheckOutputTest::hidesWhatIsKnownOfMany()
     QCOMPARE(three["counts"]["warning"].toInt(), 3);
     QCOMPARE(three["known"].toInt(), 150);
     QCOMPARE(three["findings"][1]["message"].toString(), QString("and 2 more in this file"));
-}
-
-void PxCheckOutputTest::tellsWhatFollowsFromNames_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("good");
-    QTest::addColumn<QString>("bad"); // "»" before the place of the only finding
-    QTest::addColumn<QString>("finding");
-    const auto row = [](const QString &file, const char *good, const char *bad,
-                        const char *finding) {
-        QTest::newRow(qPrintable(QString(bad).remove('\n')))
-            << file << good << QString::fromUtf8(bad) << finding;
-    };
-    const char *book = "products/book_a4_portrait.xml";
-    const char *theme = "themes/JAHRESZEITEN.XML";
-    row(book, "<spine pages=\"26\"", "<spine »page=\"26\"", "error spine-pages-missing");
-    row(book, "<pdf filename=\"extra/imp", "<pdf »filname=\"extra/imp",
-        "error extra-page-incomplete");
-    row(book, "<target_pages>3</target_pages>", "<target_pages>»x;y</target_pages>",
-        "error extra-page-incomplete");
-    row(cup, "<usablesize", "<»usablesise", "error size-missing");
-    row(cup, "<usablesize width", "<usablesize »widht", "error size-missing");
-    row(cup, "product name=", "product »nam=", "error product-name-missing");
-    row(cup, "\"urlaub\" pageType", "\"urlaub\" »pagetype", "error defaults-page-type-missing");
-    row(cup, "\"urlaub\" pageType=\"normalpage", "\"urlaub\" pageType=\"», ",
-        "error defaults-page-type-missing");
-    const char *spring = "<defaultcategories background=\"Blumenwiese\" clipart=\"Blüten\"/>";
-    row(theme, spring, "<products>»CUP2, CUP1</products>", "error theme-products-all-unknown");
-    row(theme, spring, "<products><»produkt>CUP2</produkt></products>",
-        "error theme-products-all-unknown");
-    row(theme, spring, "<»product>CUP2</product><product>BA7</product>",
-        "error theme-products-all-unknown");
-    row(theme, "\"fruehling\" producttype", "\"fruehling\" »productype",
-        "error theme-group-missing");
-    row("producttypes.xml", "code=\"907\"", "»cod=\"907\"", "error product-type-row-dropped");
-    row("producttypes.xml", "code=\"907\"", "code=\"»9x7\"", "error integer-malformed");
-    row("producttypes.xml", "<producttype code=\"907\"",
-        "<producttype code=\"907\" name=\"CUP1\" class=\"»gifts\"/><producttype code=\"907\"",
-        "error product-type-row-dropped");
-    row(theme, "erwachen</description>\n    <keyaccounts>",
-        "erwachen</description>\n    <keyaccounts>&#32;»<![CDATA[]]>",
-        "warning theme-key-account-malformed");
-    row(cup, "<pages>normalpage", "<pages><!--> a, -->normalpage,»x", "error pages-entry-unknown");
-    // A value that was written as an attribute.
-    row(cup, "<variant>color:black</variant>", "<variant »name=\"color:black\"/>",
-        "warning variant-unnamed");
-    row(cup, "<pages>normalpage</pages>", "<pages »value=\"normalpage\"/>",
-        "error pages-entry-empty");
-    row(theme, spring, "<products><product »name=\"CUP2\"/><product name=\"BA7\"/></products>",
-        "error theme-products-all-unknown");
-    // Nothing follows, or less than is told of the name.
-    row(cup, "<usablesize width", "<usablesize »color=\"\" width", "warning attribute-unknown");
-    row(theme, "<description>Goldener Herbst</description>", "<»descripton>Herbst</descripton>",
-        "warning element-unknown");
-    row(cup, "</variants>", "</variants><»variant>a</variant><variant>b</variant>",
-        "warning element-misplaced");
-}
-
-/** One mistake is one finding: the one that says what the product or theme lacks for it. */
-void PxCheckOutputTest::tellsWhatFollowsFromNames()
-{
-    QFETCH(QString, file);
-    QFETCH(QString, good);
-    QFETCH(QString, bad);
-    QFETCH(QString, finding);
-    m_sample.replace(file, good, bad);
-    const QString before = m_sample.read(file).section(QChar(u'»'), 0, 0);
-    m_sample.write(file, m_sample.read(file).remove(QChar(u'»')));
-    const QString place = QString("%1:%2:%3 ")
-                              .arg(file)
-                              .arg(before.count('\n') + 1)
-                              .arg(before.size() - before.lastIndexOf('\n'));
-    QCOMPARE(findingsOf(m_sample.check("--pedantic " + file)), QStringList(place + finding));
-}
-
-/** Nothing that is told, or that matters as much. */
-void PxCheckOutputTest::tellsNamesWhenNothingFollows()
-{
-    const QString consequence = "defaults-page-type-missing";
-    const QStringList name("products/cup2.xml:20:32 warning attribute-unknown");
-    const auto findings = [&](const QString &options = QString()) {
-        return findingsOf(m_sample.check(options + ' ' + cup));
-    };
-    m_sample.replace(cup, "\"urlaub\" pageType", "\"urlaub\" pagetype");
-    QCOMPARE(findings("--only attribute-unknown"), name);
-    QCOMPARE(findings("--skip " + consequence), name);
-    QCOMPARE(findings("--override " + consequence + "=info"), name);
-
-    // An allowance for one of the two is of use, and leaves the other.
-    m_sample.replace(cup, "<productdescription>",
-                      "<!-- check: allow attribute-unknown --><productdescription>");
-    QCOMPARE(findings(), QStringList("products/cup2.xml:20:32 error " + consequence));
-    m_sample.replace(cup, "allow attribute-unknown", "allow " + consequence);
-    QCOMPARE(findings(), name);
 }
 
 /** Also where the loader gives up, which counts otherwise. */

@@ -1,0 +1,122 @@
+#include "PxCheckedSample.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+namespace {
+
+struct Session
+{
+    QString name;
+    QStringList edits; ///< of the sample: "FILE: OLD -> NEW"
+    QString command;
+    QStringList texts; ///< that the output contains, whatever its line breaks
+    QStringList answer;
+};
+
+QList<Session> readSessions()
+{
+    QFile file(PX_TEST_DATA_DIRECTORY "/sessions.txt");
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read the sessions");
+    QList<Session> sessions;
+    for (const QString &line : QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts)) {
+        if (line.startsWith("== "))
+            sessions.append({line.mid(3), {}, {}, {}, {}});
+        else if (line.startsWith("$"))
+            sessions.last().command = line.mid(2);
+        else if (line.startsWith("  "))
+            sessions.last().texts.append(line.mid(2));
+        else if (line.startsWith("> ") || line.startsWith("! ") || line.startsWith("= "))
+            sessions.last().answer.append(line);
+        else if (!line.startsWith('#'))
+            sessions.last().edits.append(line);
+    }
+    return sessions;
+}
+
+QString unescaped(QString text)
+{
+    return text.replace("\\n", "\n").replace("\\x1b", "\x1b");
+}
+
+/** Findings, errors, and the exit status unless it is 0. */
+QStringList answerOf(const PxProgramRun &run)
+{
+    QStringList answer;
+    for (const QString &finding : findingsOf(run))
+        answer.append("> " + finding);
+    for (const QString &error : run.errors())
+        answer.append("! " + error);
+    if (run.status() != 0)
+        answer.append(QString("= %1").arg(run.status()));
+    return answer;
+}
+
+} // namespace
+
+/** What users type, and what they read: in a table that is a text as they see it. */
+class PxSessionsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void isAnswered_data();
+    void isAnswered();
+    void cleanupTestCase();
+
+private:
+    QList<Session> m_sessions = readSessions();
+    QByteArray m_found;
+    const QString m_workingDirectory = QDir::currentPath();
+    PxSampleCopy m_sample;
+};
+
+void PxSessionsTest::isAnswered_data()
+{
+    QTest::addColumn<int>("index");
+    for (int i = 0; i < m_sessions.size(); ++i)
+        QTest::newRow(qPrintable(m_sessions[i].name)) << i;
+}
+
+void PxSessionsTest::isAnswered()
+{
+    QFETCH(int, index);
+    const Session &session = m_sessions[index];
+    QVERIFY(QDir::setCurrent(m_sample.path()));
+    for (const QString &edit : session.edits) {
+        const QString change = unescaped(edit.section(": ", 1));
+        m_sample.replace(edit.section(": ", 0, 0), change.section(" -> ", 0, 0),
+                         change.section(" -> ", 1));
+    }
+    // "check" finds the catalogue by itself.
+    const bool isCheck = session.command.startsWith("check ");
+    const QString command = unescaped(session.command).replace("DATA/", PX_TEST_DATA_DIRECTORY "/");
+    const PxProgramRun run(PX_CATALOGUE_PROGRAM, command.split(' ', Qt::SkipEmptyParts),
+                           {{"PX_RESOURCE_DIRS", isCheck ? QString() : m_sample.path()}});
+    for (const QString &edit : session.edits)
+        m_sample.restore(edit.section(": ", 0, 0));
+    const QStringList answer = answerOf(run)
+                                   .replaceInStrings(m_sample.path(), "SAMPLE")
+                                   .replaceInStrings(PX_TEST_DATA_DIRECTORY, "DATA");
+    QStringList lines = QStringList("== " + session.name) + session.edits;
+    lines.append(QString("$ " + session.command).trimmed());
+    for (const QString &text : session.texts)
+        lines.append("  " + text);
+    m_found += (lines + answer).join('\n').toUtf8() + '\n';
+    for (const QString &text : session.texts)
+        QVERIFY2(run.text().contains(text), qPrintable(run.text()));
+    QCOMPARE(answer.join('\n'), session.answer.join('\n'));
+}
+
+/** Writes the sessions with the answers as they are: for new ones, and to see what has changed. */
+void PxSessionsTest::cleanupTestCase()
+{
+    QVERIFY(QDir::setCurrent(m_workingDirectory));
+    QFile file("sessions.txt");
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(m_found) > 0);
+}
+
+QTEST_GUILESS_MAIN(PxSessionsTest)
+#include "PxSessionsTest.moc"
