@@ -12,11 +12,6 @@ class PxCatalogueTest : public QObject
     Q_OBJECT
 
 private slots:
-    void listsTheProductsByClassAndName();
-    void listsTheProductsOfEarlierCatalogues();
-    void showsSizesAsTheyAreInJson();
-    void showsAsManyPagesAsAsked();
-    void findsCompatibleProducts();
     void fitsTheTerminal();
     void explainsEachCommand();
     void needsItsProductTypes();
@@ -101,112 +96,6 @@ QString textOf(const char *path)
 }
 
 } // namespace
-
-void PxCatalogueTest::listsTheProductsByClassAndName()
-{
-    const PxProgramRun text = run("list");
-    QCOMPARE(text.status(), 0);
-    QCOMPARE(text.errors(), QStringList());
-    const QStringList rows = simplified(text.output());
-    const QString print = "PRINT_10X15 print 152.4×101.6 GIFT Fotopapier glänzend 1 landscape yes";
-    QVERIFY(rows.contains(print)); // books: see the readme
-    const PxProgramRun json = run("list --json");
-    const QStringList names = namesOf(json);
-    QCOMPARE(names.size() + 1, rows.size());
-    for (int i = 0; i < names.size(); ++i)
-        QVERIFY(rows[i + 1].startsWith(names[i] + ' '));
-    QVERIFY(names.indexOf("BOOK_MINI") < names.indexOf("BOOK_XL_SQUARE"));
-    QVERIFY(names.indexOf("BOOK_XL_SQUARE") < names.indexOf("ADDRESSBOOK_A6"));
-    QVERIFY(!names.contains("CUP1")); // a legacy product
-    const QJsonValue cup = json.json()["products"].toArray().at(names.indexOf("CUP2"));
-    QCOMPARE(cup["code"].toInt(), 401);
-    QCOMPARE(cup["size"]["height"].toInt(), 950);
-    QVERIFY(cup["paper"].isNull());
-
-    QCOMPARE(namesOf(run("list --class print --json")), QStringList{"PRINT_10X15"});
-    QCOMPARE(namesOf(run("--json --class PRINT list")), QStringList{"PRINT_10X15"});
-    QCOMPARE(namesOf(run("list --class print,calendar --json")).size(), 6);
-}
-
-void PxCatalogueTest::listsTheProductsOfEarlierCatalogues()
-{
-    const PxProgramRun list = run("list --earlier --class book,calendar --json");
-    QCOMPARE(list.status(), 0);
-    QCOMPARE(namesOf(list).join(','),
-             QString("BOOK_CLASSIC_A4,BOOK_CLASSIC_A4_LANDSCAPE,BOOK_CLASSIC_SQUARE,"
-                     "CALENDAR_CLASSIC_WALL"));
-    const QJsonValue book = list.json()["products"][0];
-    QCOMPARE(book["isOffered"], QJsonValue(false)); // as "show" says
-    QCOMPARE(book["pageCounts"]["increment"].toInt(), 4);
-    QCOMPARE(list.json()["products"][3]["pageCounts"]["maximum"].toInt(), 12);
-    const PxProgramRun none = run("list --earlier --json --legacy " PX_SAMPLE_DIRECTORY "/images");
-    QVERIFY(none.status() == 0 && namesOf(none).isEmpty());
-}
-
-void PxCatalogueTest::showsSizesAsTheyAreInJson()
-{
-    const QJsonObject cup = run("show CUP2 --json").json();
-    QCOMPARE(cup["format"].toInt(), 1);
-    QCOMPARE(cup["lengthUnit"].toString(), QString("tenths of a millimetre"));
-    QCOMPARE(cup["sizes"]["safetyMargins"]["left"].toInt(), 30);
-    QCOMPARE(cup["pageKinds"][0]["totalSize"]["width"].toInt(), 2040);
-    QCOMPARE(cup["surroundings"][0]["rect"]["height"].toInt(), 950);
-    QCOMPARE(cup["variants"]["identifiers"].toArray().size(), 5);
-    QVERIFY(cup["barcodes"].isArray() && cup["barcodes"].toArray().isEmpty());
-    QCOMPARE(cup["legacy"]["replacedPage"]["width"].toInt(), 1950);
-    const QJsonObject calendar = run("show CALENDAR_DESK_A5 --json").json();
-    QCOMPARE(calendar["rotationRedirects"][1]["target"].toInt(), -1);
-    QCOMPARE(calendar["pages"]["isSimplex"], QJsonValue(false));
-
-    const PxProgramRun legacy = run("show BOOK_CLASSIC_A4 --json");
-    QCOMPARE(legacy.status(), 0);
-    QCOMPARE(legacy.json()["legacy"]["replacedBy"].toString(), QString("BOOK_A4_PORTRAIT"));
-    QCOMPARE(legacy.json()["product"]["isOffered"], QJsonValue(false));
-    QCOMPARE(legacy.json()["pages"]["pageCounts"]["increment"].toInt(), 4);
-    QCOMPARE(legacy.json()["pages"]["pageCount"].toInt(), 26);
-    QCOMPARE(legacy.json()["pageKinds"][1]["usableSize"]["width"].toInt(), 90);
-}
-
-void PxCatalogueTest::showsAsManyPagesAsAsked()
-{
-    const auto show = [](int count, const QJsonArray &nearest, int spine, const QString &warning) {
-        const PxProgramRun book =
-            run(QString("show BOOK_A4_PORTRAIT --json --pages %1").arg(count));
-        const QJsonValue pages = book.json()["pages"];
-        QCOMPARE(pages["pageCount"].toInt(), count);
-        QCOMPARE(pages["printedPages"].toInt(), count + 5);
-        QCOMPARE(pages["isPageCountOffered"], QJsonValue(warning.isEmpty()));
-        QCOMPARE(pages["nearestPageCounts"].toArray(), nearest);
-        QCOMPARE(book.json()["spine"]["width"].toInt(), spine);
-        QCOMPARE(book.status(), 0);
-        QCOMPARE(book.errors().join('\n').remove(
-                     "pxcatalogue: warning: BOOK_A4_PORTRAIT is not offered with "),
-                 warning);
-    };
-    show(26, {}, 94, "");
-    show(154, {}, 203, "");
-    show(27, {26, 28}, 0, "27 pages, the nearest are 26 and 28");
-    show(1, {26}, 0, "1 page, the nearest is 26");
-    show(9999, {154}, 0, "9999 pages, the nearest is 154");
-}
-
-void PxCatalogueTest::findsCompatibleProducts()
-{
-    const auto find = [](const QString &criterion, int status, const QStringList &endings) {
-        const QString book = "BOOK_A4_PORTRAIT";
-        const PxProgramRun found = run("compatible --json " + book + criterion);
-        QCOMPARE(found.status(), status);
-        QCOMPARE(found.errors().size(), status);
-        QCOMPARE(namesOf(found).join(' ').remove(book), endings.join(' '));
-        QCOMPARE(found.json()["query"]["product"].toString(), book);
-    };
-    find("", 0, {"_GLOSSY", "_PHOTO", "_SOFT", "BOOK_XXL_PORTRAIT"});
-    find(" --criterion paper", 0, {"_SOFT"});
-    find(" --criterion binding,paper", 1, {});
-    const QString help = run("compatible --help").text();
-    QVERIFY(help.contains("of entries (a range of pages is one entry)") &&
-            !help.contains("and number of pages"));
-}
 
 void PxCatalogueTest::fitsTheTerminal()
 {

@@ -28,7 +28,7 @@ QList<Session> readSessions()
             sessions.last().command = line.mid(2);
         else if (line.startsWith("  "))
             sessions.last().texts.append(line.mid(2));
-        else if (line.startsWith("> ") || line.startsWith("! ") || line.startsWith("= "))
+        else if (QString("|>!=").contains(line.front()))
             sessions.last().answer.append(line);
         else if (!line.startsWith('#'))
             sessions.last().edits.append(line);
@@ -41,10 +41,12 @@ QString unescaped(QString text)
     return text.replace("\\n", "\n").replace("\\x1b", "\x1b");
 }
 
-/** Findings, errors, and the exit status unless it is 0. */
-QStringList answerOf(const PxProgramRun &run)
+/** Perhaps the output, then findings, errors, and the exit status unless it is 0. */
+QStringList answerOf(const PxProgramRun &run, bool withOutput)
 {
     QStringList answer;
+    for (const QString &line : withOutput ? run.output() : QStringList())
+        answer.append("| " + line);
     for (const QString &finding : findingsOf(run))
         answer.append("> " + finding);
     for (const QString &error : run.errors())
@@ -97,7 +99,7 @@ void PxSessionsTest::isAnswered()
                            {{"PX_RESOURCE_DIRS", isCheck ? QString() : m_sample.path()}});
     for (const QString &edit : session.edits)
         m_sample.restore(edit.section(": ", 0, 0));
-    const QStringList answer = answerOf(run)
+    const QStringList answer = answerOf(run, session.answer.value(0).startsWith('|'))
                                    .replaceInStrings(m_sample.path(), "SAMPLE")
                                    .replaceInStrings(PX_TEST_DATA_DIRECTORY, "DATA");
     QStringList lines = QStringList("== " + session.name) + session.edits;
