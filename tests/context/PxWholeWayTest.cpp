@@ -2,6 +2,7 @@
 
 #include <PxProductProperties.h>
 
+#include <QDir>
 #include <QDomDocument>
 #include <QTest>
 #include <QTextStream>
@@ -11,6 +12,21 @@
 #include <vector>
 
 namespace {
+
+/** Of them there is one, whoever asks first. */
+QVector<quintptr> instances()
+{
+    QVector<quintptr> instances;
+    for (const void *instance : std::initializer_list<const void *>{
+             PxDirectoryConfig::instance(), PxProductCheckerRegistry::instance(),
+             PxPageOrganizationManager::instance(), PxLegacyProductTypeConfig::instance(),
+             PxProductTypeConfigRegistry::instance(), PxProductTypeConfigRegistry::legacyInstance(),
+             PxHumanReadable::instance(), PxThemeFactory::instance(),
+             PxProductGroupPropertyManager::instance(), PxProductVariantIdentifiers::instance(),
+             PxBinding().enumToStringTable(), PxOrientation().enumToStringTable()})
+        instances.append(quintptr(instance));
+    return instances;
+}
 
 /** Hashes of what all themes and products answer; asks through copies of the context. */
 QVector<uint> askTheCatalogue(const PxProductContext &shared)
@@ -55,18 +71,43 @@ class PxWholeWayTest : public QObject
 
 private slots:
     void initTestCase();
-    void manyThreadsAskAtOnce(); // first, while nothing but the registry is created
+    void manyThreadsAskAtOnce(); // the first to use anything
+    void everyProductIsOfferedAndEveryLegacyProductReplaced();
     void fromProductToOrder();
     void productsOfEarlierCataloguesAreElsewhere();
 };
 
 void PxWholeWayTest::initTestCase()
 {
-    auto *config = PxDirectoryConfig::instance();
-    config->setResourceDirectories({PX_SAMPLE_DIRECTORY});
-    config->setThemesDirectory(PX_SAMPLE_DIRECTORY "/themes");
-    config->setUserDefaultsPath(PX_SAMPLE_DIRECTORY "/defaults");
-    QVERIFY(PxProductPropertiesInitializer::setupModule());
+    qputenv("PX_RESOURCE_DIRS", PX_SAMPLE_DIRECTORY);
+    qputenv("PX_USER_DEFAULTS_DIR", PX_SAMPLE_DIRECTORY "/defaults");
+    qputenv("PX_THEMES_DIR", PX_SAMPLE_DIRECTORY "/themes");
+}
+
+/** The products of a directory; files bear their product's name. */
+static QStringList productsOf(const char *directory)
+{
+    return QDir(directory).entryList({"*.xml"}, QDir::Files).replaceInStrings(".xml", "");
+}
+
+void PxWholeWayTest::everyProductIsOfferedAndEveryLegacyProductReplaced()
+{
+    const auto *registry = PxProductTypeConfigRegistry::instance();
+    const QStringList products = productsOf(PX_SAMPLE_DIRECTORY "/products");
+    QVERIFY(products.size() > 1);
+    QCOMPARE(registry->products().size(), products.size());
+    for (const QString &name : products) {
+        const PxProductContext product{PxProductType(name)};
+        QVERIFY2(registry->exists(product.productType()), qPrintable(name));
+        QCOMPARE(product.offeredPageCounts().value(0), product.minPages());
+        QCOMPARE(product.offeredPageCounts().constLast(), product.maxPages());
+    }
+    const QStringList legacyProducts = productsOf(PX_SAMPLE_DIRECTORY "/products/legacy");
+    QVERIFY(legacyProducts.size() > 1);
+    QCOMPARE(PxProductTypeConfigRegistry::legacyInstance()->products().size(),
+             legacyProducts.size());
+    for (const QString &name : legacyProducts)
+        QVERIFY2(registry->findProductForLegacy(PxProductType(name)).isValid(), qPrintable(name));
 }
 
 void PxWholeWayTest::productsOfEarlierCataloguesAreElsewhere()
@@ -126,17 +167,28 @@ void PxWholeWayTest::manyThreadsAskAtOnce()
 {
     // In a theme that needs no factory, so that the threads race to create it, and all the tables.
     const PxProductContext shared{PxProductType(), PxTheme()};
-    // Silent, and without a lock, which would make the threads wait for each other.
+    // Without a lock, which would make the threads wait for each other.
+    static std::atomic<int> ofThemes{0};
+    static std::atomic<int> others{0};
     const QtMessageHandler previous =
-        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &text) {
+            if (text.contains("PxThemeFactory::"))
+                ++ofThemes;
+            else if (!text.contains("usablePrintSize")) // the question was wrong
+                ++others;
+        });
+    QVector<QVector<quintptr>> singletons(8);
     std::vector<QVector<uint>> answers(8);
     std::atomic<int> missing{int(answers.size())};
     std::vector<std::thread> threads;
-    for (QVector<uint> &answer : answers) {
-        threads.emplace_back([&answer, &missing, &shared] {
+    for (std::size_t i = 0; i < answers.size(); ++i) {
+        QVector<uint> &answer = answers[i];
+        QVector<quintptr> &own = singletons[int(i)];
+        threads.emplace_back([&answer, &own, &missing, &shared] {
             --missing;
             while (missing > 0)
                 std::this_thread::yield();
+            own = instances();
             for (int round = 0; round < 2; ++round)
                 answer += askTheCatalogue(shared);
         });
@@ -147,7 +199,14 @@ void PxWholeWayTest::manyThreadsAskAtOnce()
     QVERIFY(answers[0].size() > 2 * 50);
     for (const QVector<uint> &answer : answers)
         QCOMPARE(answer, answers[0]);
-    QVERIFY(shared.theme() == PxTheme() && shared.productType() == PxProductType());
+    QCOMPARE(singletons, QVector<QVector<quintptr>>(singletons.size(), instances()));
+    QVERIFY(!instances().contains(0));
+    QVERIFY(shared.theme() == PxTheme());
+    QCOMPARE(shared.productType(), PxProductType());
+    const int files = QDir(PX_SAMPLE_DIRECTORY "/themes").entryList({"*.xml"}, QDir::Files).size();
+    QCOMPARE(ofThemes.load(), 1 + files); // the directory and its files, read once
+    QCOMPARE(others.load(), 0);
+    QVERIFY(PxProductPropertiesInitializer::setupModule());
 }
 
 QTEST_GUILESS_MAIN(PxWholeWayTest)
