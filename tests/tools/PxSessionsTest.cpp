@@ -15,7 +15,7 @@ struct Session
     QStringList answer;
 };
 
-QList<Session> readSessions()
+QList<Session> readSessions(QByteArray *comments)
 {
     QFile file(PX_TEST_DATA_DIRECTORY "/sessions.txt");
     if (!file.open(QIODevice::ReadOnly))
@@ -30,7 +30,9 @@ QList<Session> readSessions()
             sessions.last().texts.append(line.mid(2));
         else if (QString("|>!=").contains(line.front()))
             sessions.last().answer.append(line);
-        else if (!line.startsWith('#'))
+        else if (line.startsWith('#'))
+            *comments += line.toUtf8() + '\n';
+        else
             sessions.last().edits.append(line);
     }
     return sessions;
@@ -69,8 +71,8 @@ private slots:
     void cleanupTestCase();
 
 private:
-    QList<Session> m_sessions = readSessions();
-    QByteArray m_found;
+    QByteArray m_found; // begins with the comments
+    QList<Session> m_sessions = readSessions(&m_found);
     const QString m_workingDirectory = QDir::currentPath();
     PxSampleCopy m_sample;
 };
