@@ -354,6 +354,17 @@ void PxProductTypeDescriptionTest::bleedIsLeftOutAtTheBinding()
     QCOMPARE(bleed(card, 16, PxPageAlignmentLeft, 20), Ints({20, 20, 30, 30}));
     QCOMPARE(bleed(book, 64, PxPageAlignmentRight, 20), Ints({5, 5, 0, 6})); // cover
     QCOMPARE(bleed(book, 1, PxPageAlignmentRight, 20), Ints({5, 5, 0, 0}));  // spine
+    QCOMPARE(bleed(book, 16, PxPageAlignmentNone, 20), Ints({20, 20, 30, 30}));
+    // A page of several types is a spine or a cover if one of them is.
+    QCOMPARE(bleed(book, 64 | 16, PxPageAlignmentRight, 20), Ints({5, 5, 0, 6}));
+    QCOMPARE(bleed(book, 1 | 64 | 16, PxPageAlignmentRight, 20), Ints({5, 5, 0, 0}));
+    QCOMPARE(bleed(book, 0, PxPageAlignmentRight, 20), Ints({20, 20, 0, 30}));
+    const PxProductTypeDescription clamp = describe("normalpagehorizontalclamp='9'");
+    QCOMPARE(clamp.clampExtra(PxPageTypeEnum(64 | 16)), 9);
+    QCOMPARE(clamp.clampExtra(PxPageTypeFullCover), 0);
+    const PxProductTypeDescription plain = describe("canHaveClipart='0'");
+    QVERIFY(plain.supportsJigType(PxJigType("style,clipart,layout")));
+    QVERIFY(!plain.supportsJigType(PxJigType("style,clipart")));
 }
 
 void PxProductTypeDescriptionTest::pageAlignmentFollowsSpineAndCardStyle()
@@ -382,7 +393,10 @@ void PxProductTypeDescriptionTest::pageAlignmentFollowsSpineAndCardStyle()
     QCOMPARE(alignments("", simplex + vario + block + vertical), Ints({4, 4, 4, 4, 4, 4, 4}));
     QCOMPARE(alignments("", simplex + block), Ints({1, 2, 1, 2, 1, 2, 1}));
     QCOMPARE(alignments("", simplex + card + vario + vertical), Ints({16, 32, 16, 32, 16, 32, 16}));
-    QVERIFY(describe(card).hasCardStyleAlignment() && !describe(vario).hasCardStyleAlignment());
+    QCOMPARE(alignments("spine", simplex + card), Ints({1, 2, 1, 2, 1, 2, 1}));
+    QCOMPARE(alignments("spine", simplex + vario), Ints({4, 4, 4, 4, 4, 4, 4}));
+    QCOMPARE(alignments("spine", simplex + block), Ints({1, 2, 1, 2, 1, 2, 1}));
+    QCOMPARE(alignments("spine", card), Ints({2, 1, 1, 4, 2, 1, 2}));
 }
 
 void PxProductTypeDescriptionTest::productionNumberingIsCutAndContinued()
