@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTest>
 
 namespace {
@@ -109,8 +110,10 @@ void PxSessionsTest::isAnswered()
     for (const QString &text : session.texts)
         lines.append("  " + text);
     m_found += (lines + answer).join('\n').toUtf8() + '\n';
+    static const QRegularExpression ourFiles("\\d+ files read");
+    const QString output = run.text().replace(ourFiles, "FILES files read");
     for (const QString &text : session.texts)
-        QVERIFY2(run.text().contains(text), qPrintable(run.text()));
+        QVERIFY2(output.contains(text), qPrintable(output));
     QCOMPARE(answer.join('\n'), session.answer.join('\n'));
 }
 
