@@ -73,7 +73,8 @@ void PxProductCoordinatesTest::groupsHavePropertiesOfTheirOwn()
     const auto *foto = manager->productGroupProperties(PxProductGroupFoto);
     QCOMPARE(foto->borderColor(), QColor(Qt::red));
     QCOMPARE(foto->paperType(), PxFotoPaperTypeMatt);
-    QVERIFY(!foto->copyToWebAlbum() && foto->fotoIndex() != "A");
+    QVERIFY(!foto->copyToWebAlbum());
+    QVERIFY(foto->fotoIndex() != "A");
     QCOMPARE(manager->paperType(PxProductGroupPoster), PxFotoPaperTypeUnknown);
 }
 

@@ -114,8 +114,9 @@ void PxWholeWayTest::productsOfEarlierCataloguesAreElsewhere()
 {
     const PxProductType earlier(QString("BOOK_CLASSIC_A4"));
     const PxProductContext context(earlier);
-    QVERIFY(context.isValid() && context.binding().isNull() &&
-            context.offeredPageCounts().isEmpty());
+    QVERIFY(context.isValid());
+    QVERIFY(context.binding().isNull());
+    QVERIFY(context.offeredPageCounts().isEmpty());
     QVERIFY(context.minPages() > context.maxPages());
     const auto *registry = PxProductTypeConfigRegistry::legacyInstance();
     QVERIFY(registry->products().contains(earlier));
@@ -126,11 +127,14 @@ void PxWholeWayTest::productsOfEarlierCataloguesAreElsewhere()
 void PxWholeWayTest::fromProductToOrder()
 {
     PxProductContext context(PxProductType(QString("BOOK_A4_PORTRAIT")));
-    QVERIFY(context.isValid() && context.isBook() && context.isDefaultTheme());
+    QVERIFY(context.isValid());
+    QVERIFY(context.isBook());
+    QVERIFY(context.isDefaultTheme());
     QCOMPARE(context.minPages(), 26);
     const PxProductContext plain = context;
     context.setTheme(PxThemeFactory::instance()->findTheme("hochzeit"));
-    QVERIFY(context.isValid() && context != plain);
+    QVERIFY(context.isValid());
+    QVERIFY(context != plain);
 
     const PxPageTypeList pages = context.pageTypes(26);
     int different = 0;
@@ -146,13 +150,15 @@ void PxWholeWayTest::fromProductToOrder()
     QVERIFY(different > 20); // nearly every page has a background of the theme
 
     const PxProductTypeList compatible = context.compatibleProducts();
-    QVERIFY(compatible.contains(context.productType()) && compatible.size() > 1);
+    QVERIFY(compatible.contains(context.productType()));
+    QVERIFY(compatible.size() > 1);
     const PxProductType cup(QString("CUP2"));
     QCOMPARE(PxProductVariantIdentifiers::instance()->variantName(cup, "color:black"),
              QString("Schwarz"));
 
     PxProductContextsGroup group(context);
-    QVERIFY(group.containsContext(context) && !group.containsContext(plain));
+    QVERIFY(group.containsContext(context));
+    QVERIFY(!group.containsContext(plain));
     QDomDocument document;
     QDomElement root = document.createElement("offer");
     document.appendChild(root);

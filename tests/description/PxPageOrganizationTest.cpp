@@ -45,7 +45,9 @@ void PxPageOrganizationTest::initTestCase()
 void PxPageOrganizationTest::registryIsTheCheckerOfKind4()
 {
     const auto *checkers = PxProductCheckerRegistry::instance();
-    QVERIFY(checkers->isValid(1, 0) && checkers->isValid(1, 4) && !checkers->isValid(1, 5));
+    QVERIFY(checkers->isValid(1, 0));
+    QVERIFY(checkers->isValid(1, 4));
+    QVERIFY(!checkers->isValid(1, 5));
     QVERIFY(!checkers->isValid(2, 0)); // has no size
 }
 

@@ -254,9 +254,12 @@ void PxProductTypeDescriptionTest::hostilePageCountsAreBounded()
     const PxProductTypeDescription book =
         describe("name='PROBEBOOK'", ourSize + spines({-max - 1, -max, max}));
     QCOMPARE(book.offeredPageCounts().size(), most);
-    QVERIFY(book.isPageCountOffered(1) && book.isPageCountOffered(most));
-    QVERIFY(!book.isPageCountOffered(0) && !book.isPageCountOffered(most + 1));
-    QVERIFY(!book.isPageCountOffered(max) && !book.isPageCountOffered(-max - 1));
+    QVERIFY(book.isPageCountOffered(1));
+    QVERIFY(book.isPageCountOffered(most));
+    QVERIFY(!book.isPageCountOffered(0));
+    QVERIFY(!book.isPageCountOffered(most + 1));
+    QVERIFY(!book.isPageCountOffered(max));
+    QVERIFY(!book.isPageCountOffered(-max - 1));
     QCOMPARE(describe("name='CUP' numOfNormalPages='2147483647'", ourSize).offeredPageCounts(),
              Ints());
 }

@@ -117,7 +117,8 @@ void PxCatalogueTest::explainsEachCommand()
     const QString document = textOf(PX_SOURCE_DIRECTORY "/docs/pxcatalogue.md");
     const QStringList lines = commandLines();
     const QStringList all = optionsOf(run("--help"));
-    QVERIFY(lines.size() >= 6 && all.size() > 20);
+    QVERIFY(lines.size() >= 6);
+    QVERIFY(all.size() > 20);
     for (const QString &line : lines) {
         const QString name = line.section(' ', 0, 0);
         const PxProgramRun help = run(name + " --help");
@@ -149,7 +150,8 @@ void PxCatalogueTest::needsItsProductTypes()
             QCOMPARE(wrong.errors().size(), 1);
             QVERIFY2(wrong.errors()[0].startsWith("pxcatalogue: " + error),
                      qPrintable(wrong.errors()[0]));
-            QVERIFY(wrong.status() == 2 && wrong.output().isEmpty());
+            QVERIFY(wrong.status() == 2);
+            QVERIFY(wrong.output().isEmpty());
         }
     };
     const QString types =
@@ -179,8 +181,8 @@ void PxCatalogueTest::survivesBrokenProductFiles()
     QVERIFY(rows[3].startsWith("CB6 "));
     const QString file = directory.filePath("product1.xml");
     QCOMPARE(list.errors().size(), 2);
-    QVERIFY(list.errors()[0].startsWith("pxcatalogue: warning: ") &&
-            list.errors()[0].endsWith("could not open \"" + file + '"'));
+    QVERIFY(list.errors()[0].startsWith("pxcatalogue: warning: "));
+    QVERIFY(list.errors()[0].endsWith("could not open \"" + file + '"'));
     QVERIFY(list.errors()[1].startsWith(
         "pxcatalogue: warning: PxProductTypeDescriptionReader::readFile the reason: " + file +
         ":1:"));
@@ -212,7 +214,8 @@ void PxCatalogueTest::hasNoIncrementOfTwoPageCounts()
     const PxProgramRun list = run("list", products);
     QVERIFY2(list.text().contains("Digitaldruck 26, 30 portrait"), qPrintable(list.text()));
     const QJsonValue cup = run("list --json", products).json()["products"][1]["pageCounts"];
-    QVERIFY(cup["minimum"].toInt() == 1 && cup["increment"] == 0);
+    QVERIFY(cup["minimum"].toInt() == 1);
+    QVERIFY(cup["increment"] == 0);
 }
 
 void PxCatalogueTest::showsTheLargestNumbers()
@@ -315,7 +318,8 @@ void PxCatalogueTest::printsWhatTheReadmeShows()
             QVERIFY2(output.contains(group.trimmed()), qPrintable(group));
     }
     const QString example = textOf(PX_SOURCE_DIRECTORY "/examples/spine/main.cpp");
-    QVERIFY(!example.isEmpty() && readme.contains(example));
+    QVERIFY(!example.isEmpty());
+    QVERIFY(readme.contains(example));
 }
 
 QTEST_GUILESS_MAIN(PxCatalogueTest)

@@ -48,7 +48,8 @@ void PxCatalogueThemesTest::listsTheThemes()
     QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("<themes>"));
     broken.close();
     const QStringList errors = run("themes --themes " + directory.path()).errors();
-    QVERIFY(errors.size() == 2 && errors[0].contains("Could not open config file"));
+    QVERIFY(errors.size() == 2);
+    QVERIFY(errors[0].contains("Could not open config file"));
     QVERIFY(errors[1].startsWith(
         "pxcatalogue: warning: PxThemeFactory::loadThemeList the reason: " + broken.fileName() +
         ":1:"));

@@ -81,17 +81,16 @@ void PxCheckCommandTest::checksSingleFiles()
     QVERIFY(!json["notChecked"].toArray().contains("file-not-read"));
 
     // Each is of another kind, and clean as such.
-    const PxProgramRun clean =
-        m_sample.check("--pedantic producttypes.xml frames.xml "
-                        "themes/JAHRESZEITEN.XML defaults/CARD_FOLDED_A6.xml "
-                        "products/legacy/cup1.xml products/book_mini.xml");
+    const PxProgramRun clean = m_sample.check("--pedantic producttypes.xml frames.xml "
+                                              "themes/JAHRESZEITEN.XML defaults/CARD_FOLDED_A6.xml "
+                                              "products/legacy/cup1.xml products/book_mini.xml");
     QCOMPARE(findingsOf(clean), QStringList());
     QCOMPARE(clean.output().constLast(), QString("6 files read: nothing found"));
 
     // An allowance for what is not checked may well be of use.
     const QString mini = "products/book_mini.xml";
     m_sample.replace(mini, "<productdescription>",
-                      "<!-- check: allow file-not-read --><productdescription>");
+                     "<!-- check: allow file-not-read --><productdescription>");
     QCOMPARE(findingsOf(m_sample.check(mini)), QStringList());
     m_sample.replace(mini, "check: allow file-not-read", "check: allow spine-pages-twice");
     QCOMPARE(findingsOf(m_sample.check(mini)).size(), 1);
@@ -134,7 +133,7 @@ void PxCheckCommandTest::checksWhatItIsToldTo()
     QVERIFY(QFile::link("nowhere.xml", m_sample.filePath("products/link.xml")));
     m_sample.write("designs/preview.png", QString());
     const PxProgramRun run = m_sample.check("--resources " + m_sample.path() +
-                                             "/ --themes ./designs --only file-not-read");
+                                            "/ --themes ./designs --only file-not-read");
     QCOMPARE(findingsOf(run),
              (QStringList{"./designs/lost.xml~:1:1 info file-not-read",
                           "./designs/old.xml:1:1 info file-not-read",
@@ -149,7 +148,7 @@ void PxCheckCommandTest::checksWhatItIsToldTo()
 void PxCheckCommandTest::tellsOneFaultOfAnAttribute()
 {
     m_sample.write("frames.xml", "<frames>\n<frame/>\n<frame id='ä'/>\n<frame id='ä' name='b'/>\n"
-                                  "<frame id='ä' name='c'/>\n<frame id='ä' name='d'/></frames>");
+                                 "<frame id='ä' name='c'/>\n<frame id='ä' name='d'/></frames>");
     const PxProgramRun frames = m_sample.check("--pedantic frames.xml");
     QCOMPARE(findingsOf(frames), (QStringList{"frames.xml:2:2 warning frame-incomplete",
                                               "frames.xml:3:2 warning frame-incomplete",
@@ -160,11 +159,11 @@ void PxCheckCommandTest::tellsOneFaultOfAnAttribute()
 
     const QString logo = "<logo filename='' booktype='%1' width='9' height='9'/>";
     m_sample.write("themes/a.xml", "<themes>\n<a id='A, '><logos>" + logo.arg("cup2") +
-                                        "</logos></a>\n<a id=' '><logos>" + logo.arg("Cup2") +
-                                        '\n' + logo.arg("CUP2") + "</logos></a></themes>");
+                                       "</logos></a>\n<a id=' '><logos>" + logo.arg("Cup2") + '\n' +
+                                       logo.arg("CUP2") + "</logos></a></themes>");
     QCOMPARE(findingsOf(m_sample.check("--pedantic --only "
-                                        "theme-id-unlistable,theme-id-lowered,theme-logo-twice "
-                                        "themes/a.xml")),
+                                       "theme-id-unlistable,theme-id-lowered,theme-logo-twice "
+                                       "themes/a.xml")),
              (QStringList{"themes/a.xml:2:8 pedantic theme-id-lowered",
                           "themes/a.xml:2:8 warning theme-id-unlistable",
                           "themes/a.xml:3:8 warning theme-id-unlistable",
@@ -189,7 +188,7 @@ void PxCheckCommandTest::findsWhatNoExampleShows()
 
     const QString themes = "themes/grundthemen.xml";
     m_sample.write(themes,
-                    m_sample.read(themes).replace("images/logo-schule.png", "images/logo-schule"));
+                   m_sample.read(themes).replace("images/logo-schule.png", "images/logo-schule"));
     QCOMPARE(findingsOf(m_sample.check(".")),
              QStringList()); // found by the suffix of an image format
 

@@ -115,11 +115,11 @@ void PxCheckOutputTest::silencesWhatIsAllowed()
     const auto findings = [&](const QString &allowed, const QString &options = QString()) {
         m_sample.restore(cup);
         m_sample.replace(cup, "<productdescription>",
-                          "<!-- check: allow " + allowed + " --><productdescription>");
+                         "<!-- check: allow " + allowed + " --><productdescription>");
         return findingsOf(m_sample.check(options + " --pedantic .")).size();
     };
     m_sample.replace("products/addressbook_a6.xml", "<productdescription>",
-                      comment + "<productdescription>");
+                     comment + "<productdescription>");
     QCOMPARE(findings("allowance-unused"), 2); // not in another file, and not itself
     QCOMPARE(findings("xml-limit-exceeded", "--skip xml-limit-exceeded"), 0);
     QCOMPARE(findings(""), 2);
@@ -133,7 +133,7 @@ void PxCheckOutputTest::hidesWhatIsKnown()
     m_sample.addFindings();
     const QString themes = "themes/grundthemen.xml";
     m_sample.write("themes/twice.xml",
-                    m_sample.read(themes)); // found with the place of the other
+                   m_sample.read(themes)); // found with the place of the other
     const PxProgramRun first = m_sample.check("--write-baseline known.json .");
     QCOMPARE(first.status(), 0);
     QCOMPARE(first.output().size(), 1);
@@ -177,8 +177,8 @@ void PxCheckOutputTest::readsOnlyFilesAsBaselines()
     QVERIFY(problemOf("deep.json").startsWith("is no JSON: "));
     for (const QString count : {"1e300", "-1", "0.5", "\"1\"", "null"}) {
         m_sample.write("count.json", "{\"format\":1,\"findings\":[{\"path\":\"\\ud800\",\"tag\":"
-                                      "\"\",\"message\":\"\",\"count\":" +
-                                          count + "}]}");
+                                     "\"\",\"message\":\"\",\"count\":" +
+                                         count + "}]}");
         QVERIFY2(problemOf("count.json").startsWith("has a finding without \"count\""),
                  qPrintable(count));
     }
@@ -189,9 +189,9 @@ void PxCheckOutputTest::tellsAHundredOfAKind()
 {
     const QString element = "<" + QString("x").repeated(2000) + "/>";
     m_sample.replace(cup, size,
-                      size + "\n<!-- check: allow element-unknown --><barcodes>" +
-                          QString("<y/>").repeated(120) + "</barcodes>\n" +
-                          QString("<t/>\n").repeated(129) + element);
+                     size + "\n<!-- check: allow element-unknown --><barcodes>" +
+                         QString("<y/>").repeated(120) + "</barcodes>\n" +
+                         QString("<t/>\n").repeated(129) + element);
     const PxProgramRun text = m_sample.check(". --fail-on warning");
     QCOMPARE(findingsOf(text).size(), 101);
     QCOMPARE(findingsOf(text)[100], QString("./products/cup2.xml:132:2 warning element-unknown"));
@@ -211,10 +211,10 @@ void PxCheckOutputTest::tellsAHundredOfAKind()
 
     // What follows from a name is told for it, also where neither is told one by one.
     m_sample.write("themes/many.xml", "<themes>" +
-                                           QString("<theme ID='a' producttype='book' "
-                                                   "expiry='205012312359'/>")
-                                               .repeated(130) +
-                                           "</themes>");
+                                          QString("<theme ID='a' producttype='book' "
+                                                  "expiry='205012312359'/>")
+                                              .repeated(130) +
+                                          "</themes>");
     const QJsonObject counts =
         m_sample.check("--format json --only theme-id-missing,attribute-unknown .")
             .json()["counts"]

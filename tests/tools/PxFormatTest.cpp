@@ -351,7 +351,8 @@ void PxFormatTest::framesAreReadOnce()
     const PxElementRow &root = PxFormat::root(PxFileKind::Frames);
     const PxElementRow &frame = *PxFormat::child(root, "frame");
     QCOMPARE(PxFormat::attributeNames(frame), QStringList({"id", "name"}));
-    QVERIFY(root.occurrence == PxOccurrence::AnyName && frame.occurrence == PxOccurrence::Any);
+    QVERIFY(root.occurrence == PxOccurrence::AnyName);
+    QVERIFY(frame.occurrence == PxOccurrence::Any);
 }
 
 void PxFormatTest::keywordsAreThoseOfTheLibrary()

@@ -107,7 +107,8 @@ void PxOutputTest::writesToWhatIsThere()
     const QString check = "\"$0\" check --quiet --write-baseline ";
 
     const PxProgramRun pipe = write("mkfifo pipe; cat pipe & " + check + "pipe; wait");
-    QVERIFY(pipe.status() == 0 && isBaseline(pipe.output().join("")));
+    QVERIFY(pipe.status() == 0);
+    QVERIFY(isBaseline(pipe.output().join("")));
     struct stat info = {};
     QVERIFY(stat(QFile::encodeName(directory.filePath("pipe")), &info) == 0 &&
             S_ISFIFO(info.st_mode));
@@ -160,7 +161,8 @@ void PxOutputTest::endsQuietlyWhenTheReaderIsGone()
     close(ends[1]);
     const PxProgramRun run = runScript("trap '' PIPE; exec \"$0\" list >&9", {});
     close(inherited);
-    QVERIFY(run.status() == 2 && run.errors().isEmpty());
+    QVERIFY(run.status() == 2);
+    QVERIFY(run.errors().isEmpty());
 }
 
 void PxOutputTest::writesOutWhatNobodySees_data()
