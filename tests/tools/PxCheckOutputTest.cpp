@@ -18,7 +18,6 @@ private slots:
     void init();
     void tellsTheSameInEveryFormat();
     void declaresAllRulesInSarif();
-    void silencesWhatIsAllowed();
     void hidesWhatIsKnown();
     void readsOnlyFilesAsBaselines();
     void tellsAHundredOfAKind();
@@ -108,24 +107,6 @@ void PxCheckOutputTest::declaresAllRulesInSarif()
     QVERIFY(run(path)["results"].toArray().last()["message"]["text"].toString().startsWith(
         "there is no product type \"{{0}} \\[a](b) [c]\"\n"));
     QVERIFY(there["originalUriBaseIds"].toObject().contains(file["uriBaseId"].toString()));
-}
-
-void PxCheckOutputTest::silencesWhatIsAllowed()
-{
-    const auto findings = [&](const QString &allowed, const QString &options = QString()) {
-        m_sample.restore(cup);
-        m_sample.replace(cup, "<productdescription>",
-                         "<!-- check: allow " + allowed + " --><productdescription>");
-        return findingsOf(m_sample.check(options + " --pedantic .")).size();
-    };
-    m_sample.replace("products/addressbook_a6.xml", "<productdescription>",
-                     comment + "<productdescription>");
-    QCOMPARE(findings("allowance-unused"), 2); // not in another file, and not itself
-    QCOMPARE(findings("xml-limit-exceeded", "--skip xml-limit-exceeded"), 0);
-    QCOMPARE(findings(""), 2);
-    findings("xml-limit-exceded because");
-    QVERIFY(
-        m_sample.check(".").output().contains("    hint: did you mean \"xml-limit-exceeded\"?"));
 }
 
 void PxCheckOutputTest::hidesWhatIsKnown()

@@ -10,7 +10,7 @@ namespace {
 struct Session
 {
     QString name;
-    QStringList edits; ///< of the sample: "FILE: OLD -> NEW"
+    QStringList edits; ///< of the sample: "FILE: OLD -> NEW", or "FILE:  -> NEW" for a new file
     QString command;
     QStringList texts; ///< that the output contains, whatever its line breaks
     QStringList answer;
@@ -39,17 +39,21 @@ QList<Session> readSessions(QByteArray *comments)
     return sessions;
 }
 
+/** Characters are written "\\u001b" where nobody would see them. */
 QString unescaped(QString text)
 {
-    return text.replace("\\n", "\n").replace("\\x1b", "\x1b");
+    static const QRegularExpression ourEscape("\\\\u([0-9a-f]{4})");
+    for (auto match = ourEscape.match(text); match.hasMatch(); match = ourEscape.match(text))
+        text.replace(match.captured(), QChar(match.captured(1).toUShort(nullptr, 16)));
+    return text;
 }
 
 /** Perhaps the output, then findings, errors, and the exit status unless it is 0. */
 QStringList answerOf(const PxProgramRun &run, bool withOutput)
 {
     QStringList answer;
-    for (const QString &line : withOutput ? run.output() : QStringList())
-        answer.append("| " + line);
+    if (withOutput)
+        answer.append("| " + run.output().join("\n| "));
     for (const QString &finding : findingsOf(run))
         answer.append("> " + finding);
     for (const QString &error : run.errors())
@@ -92,8 +96,12 @@ void PxSessionsTest::isAnswered()
     QVERIFY(QDir::setCurrent(m_sample.path()));
     for (const QString &edit : session.edits) {
         const QString change = unescaped(edit.section(": ", 1));
-        m_sample.replace(edit.section(": ", 0, 0), change.section(" -> ", 0, 0),
-                         change.section(" -> ", 1));
+        const QString old = change.section("-> ", 0, 0).chopped(1);
+        const QString text = change.section("-> ", 1);
+        if (old.isEmpty())
+            m_sample.write(unescaped(edit.section(": ", 0, 0)), text);
+        else
+            m_sample.replace(edit.section(": ", 0, 0), old, text);
     }
     // "check" finds the catalogue by itself.
     const bool isCheck = session.command.startsWith("check ");
@@ -101,7 +109,7 @@ void PxSessionsTest::isAnswered()
     const PxProgramRun run(PX_CATALOGUE_PROGRAM, command.split(' ', Qt::SkipEmptyParts),
                            {{"PX_RESOURCE_DIRS", isCheck ? QString() : m_sample.path()}});
     for (const QString &edit : session.edits)
-        m_sample.restore(edit.section(": ", 0, 0));
+        m_sample.restore(unescaped(edit.section(": ", 0, 0)));
     const QStringList answer = answerOf(run, session.answer.value(0).startsWith('|'))
                                    .replaceInStrings(m_sample.path(), "SAMPLE")
                                    .replaceInStrings(PX_TEST_DATA_DIRECTORY, "DATA");
@@ -110,7 +118,7 @@ void PxSessionsTest::isAnswered()
     for (const QString &text : session.texts)
         lines.append("  " + text);
     m_found += (lines + answer).join('\n').toUtf8() + '\n';
-    static const QRegularExpression ourFiles("\\d+ files read");
+    static const QRegularExpression ourFiles("\\d\\d+ files read");
     const QString output = run.text().replace(ourFiles, "FILES files read");
     for (const QString &text : session.texts)
         QVERIFY2(output.contains(text), qPrintable(output));
