@@ -1,6 +1,7 @@
 #include "PxProgramRun.h"
 
-#include <QJsonArray>
+#include <QDir>
+#include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
@@ -15,13 +16,9 @@ private slots:
     void fitsTheTerminal();
     void explainsEachCommand();
     void needsItsProductTypes();
-    void survivesBrokenProductFiles();
-    void hasNoIncrementOfTwoPageCounts();
-    void showsTheLargestNumbers();
     void showsManyEntriesInLittleTime();
     void namingACatalogueMeansItsThemesAndDefaults();
     void warnsOnceWithoutProducts();
-    void keepsTheLogOffTheOutput();
     void printsWhatTheReadmeShows();
 };
 
@@ -32,11 +29,6 @@ PxProgramRun run(const QString &command, const QStringList &more = {}, int colum
 {
     return PxProgramRun(PX_CATALOGUE_PROGRAM, command.split(' ', Qt::SkipEmptyParts) + more,
                         {{"COLUMNS", QString::number(columns)}, {"LC_ALL", "C.UTF-8"}});
-}
-
-QStringList namesOf(const PxProgramRun &products)
-{
-    return products.jsonColumn("products", "name");
 }
 
 /** The lines without their alignment. */
@@ -161,79 +153,6 @@ void PxCatalogueTest::needsItsProductTypes()
     check("<producttypes>", types + path + ":1:");
 }
 
-void PxCatalogueTest::survivesBrokenProductFiles()
-{
-    const QTemporaryDir directory;
-    writeProducts(directory,
-                  {"name='CUP2'><usablesize width='1' height='1'/>", "name='BOOK_XL_SQUARE'/>",
-                   "name='CB6' numOfNormalPages='50000'><pages>normalpages</pages>"
-                   "<usablesize width='2147483647' height='5'/>"
-                   "<defaults><defaults pageType='normalpage' "
-                   "layout='a&#10;b&#x9b;1m'/></defaults></product>",
-                   "name='BOOK_MINI'><usablesize width='10' height='20'/></product>"});
-    const QStringList products{"--products", directory.path()};
-    const PxProgramRun list = run("list", products);
-    QCOMPARE(list.status(), 0);
-    const QStringList rows = simplified(list.output());
-    QCOMPARE(rows.size(), 4);
-    QCOMPARE(rows[1], QString("BOOK_MINI book 1×2 GIFT Digitaldruck portrait yes"));
-    QCOMPARE(rows[2], QString("BOOK_XL_SQUARE book GIFT Digitaldruck no"));
-    QVERIFY(rows[3].startsWith("CB6 "));
-    const QString file = directory.filePath("product1.xml");
-    QCOMPARE(list.errors().size(), 2);
-    QVERIFY(list.errors()[0].startsWith("pxcatalogue: warning: "));
-    QVERIFY(list.errors()[0].endsWith("could not open \"" + file + '"'));
-    QVERIFY(list.errors()[1].startsWith(
-        "pxcatalogue: warning: PxProductTypeDescriptionReader::readFile the reason: " + file +
-        ":1:"));
-
-    const PxProgramRun block = run("show CB6", products);
-    QCOMPARE(block.status(), 0);
-    QVERIFY(block.errors().contains(
-        "pxcatalogue: warning: 50000 pages are too many to show: 9999 are shown"));
-    QVERIFY(block.output().join('\n').contains("a\\u000Ab\\u009B1m"));
-    QVERIFY(block.output().join('\n').contains("214748364.7×0.5 mm"));
-
-    const QJsonValue pages = run("show BOOK_MINI --json", products).json()["pages"];
-    QVERIFY(pages["pageCounts"].isNull());
-    QCOMPARE(pages["pageCount"].toInt(), 1);
-    QCOMPARE(pages["isPageCountOffered"], QJsonValue(false));
-    QCOMPARE(pages["nearestPageCounts"], QJsonValue(QJsonArray()));
-}
-
-void PxCatalogueTest::hasNoIncrementOfTwoPageCounts()
-{
-    const QTemporaryDir directory;
-    writeProducts(directory, {"name='BOOK_MINI'><usablesize width='10' height='20'/><spines>"
-                              "<spine pages='26'/><spine pages='30'/></spines></product>",
-                              "name='CUP2'><usablesize width='10' height='20'/></product>"});
-    const QStringList products{"--products", directory.path()};
-    const QJsonObject book = run("show BOOK_MINI --json", products).json();
-    const QJsonObject counts{{"minimum", 26}, {"maximum", 30}, {"increment", QJsonValue()}};
-    QCOMPARE(book["pages"]["pageCounts"].toObject(), counts);
-    const PxProgramRun list = run("list", products);
-    QVERIFY2(list.text().contains("Digitaldruck 26, 30 portrait"), qPrintable(list.text()));
-    const QJsonValue cup = run("list --json", products).json()["products"][1]["pageCounts"];
-    QVERIFY(cup["minimum"].toInt() == 1);
-    QVERIFY(cup["increment"] == 0);
-}
-
-void PxCatalogueTest::showsTheLargestNumbers()
-{
-    const QTemporaryDir directory;
-    writeProducts(directory, {"name='BOOK_MINI'><usablesize width='2147483647' height='5'/>"
-                              "<extra_production_pages><item><target_pages>2147483647,"
-                              "-2147483648,-2147483647,-3,-2,-1,4,6,8</target_pages></item>"
-                              "</extra_production_pages></product>"});
-    const QStringList products{"--products", directory.path()};
-    const QString text = run("show BOOK_MINI", products).text();
-    QVERIFY2(text.contains("Background 429496729.4×0.5 mm"), qPrintable(text));
-    QVERIFY(text.contains("2147483647, -2147483648, -2147483647, -3, -2, -1, 4-8/2"));
-    const QJsonValue size =
-        run("show BOOK_MINI --json", products).json()["design"]["backgroundSize"];
-    QCOMPARE(size["width"].toDouble(), 4294967294.0);
-}
-
 void PxCatalogueTest::showsManyEntriesInLittleTime()
 {
     const QTemporaryDir directory;
@@ -289,19 +208,6 @@ void PxCatalogueTest::warnsOnceWithoutProducts()
                          "no product file in \"" +
                          empty.path() + '"'});
     QCOMPARE(list.status(), 0);
-}
-
-void PxCatalogueTest::keepsTheLogOffTheOutput()
-{
-    const QTemporaryDir directory;
-    writeProducts(directory,
-                  {"name='CUP2' binding='TASSE'><usablesize width='1' height='1'/></product>"});
-    const PxProgramRun quiet = run("list --json --products", {directory.path()});
-    const PxProgramRun verbose = run("list --json --verbose --products", {directory.path()});
-    QCOMPARE(quiet.errors(), QStringList());
-    QVERIFY(verbose.errors().value(0).startsWith("pxcatalogue: debug: undecodable: "));
-    QCOMPARE(verbose.output(), quiet.output());
-    QCOMPARE(namesOf(quiet), QStringList{"CUP2"});
 }
 
 void PxCatalogueTest::printsWhatTheReadmeShows()
