@@ -52,11 +52,6 @@ private:
     void readGif();
     void readBmp();
 
-    int byteAt(qint64 position) const;
-    qint64 bigEndian(qint64 position, int size) const;
-    qint64 littleEndian(qint64 position, int size) const;
-    QByteArray gifBlocks(qint64 *position) const;
-
     QByteArray m_bytes;
     QByteArray m_format; ///< as QImageReader names it; empty for none of the four
     qint64 m_width = 0;

@@ -49,13 +49,11 @@ QString open(QFile *file)
     if (name.startsWith(QLatin1Char(':'))) // compiled in
         return file->open(QIODevice::ReadOnly) ? name : QString();
     const int handle = ::open(QFile::encodeName(name), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (handle < 0)
-        return QString();
-    struct stat status = {};
+    struct stat status = {}; // is that of no regular file if there is no handle
+    fstat(handle, &status);
     // What was a regular file when it was found may be a pipe by now.
-    if (fstat(handle, &status) != 0 || !S_ISREG(status.st_mode) ||
-        !file->open(handle, QIODevice::ReadOnly | QIODevice::Unbuffered,
-                    QFileDevice::AutoCloseHandle)) {
+    if (!S_ISREG(status.st_mode) || !file->open(handle, QIODevice::ReadOnly | QIODevice::Unbuffered,
+                                                QFileDevice::AutoCloseHandle)) {
         close(handle);
         return QString();
     }
@@ -69,7 +67,7 @@ QString open(QFile *file)
 void setPixelRatio(QImage *image, const QString &fileName)
 {
     const QString suffix = QFileInfo(fileName).baseName().right(3);
-    const int ratio = suffix.size() == 3 ? suffix.at(1).digitValue() : 0;
+    const int ratio = suffix.mid(1, 1).toInt();
     if (ratio >= 2 && suffix.startsWith(QLatin1Char('@')) && suffix.endsWith(QLatin1Char('x')))
         image->setDevicePixelRatio(ratio);
 }

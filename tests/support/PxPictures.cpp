@@ -99,16 +99,17 @@ QByteArray PxPictures::slowPng(const QSize &size)
     return ::png(size, QByteArray("\x10\6\0\0\1", 5), {}, qCompress(pixels, 1).mid(4));
 }
 
-QByteArray PxPictures::endlessPixels(int size)
+QByteArray PxPictures::endlessPixels(int size, int literals)
 {
-    // A block of deflate's fixed code: a zero, and copies of 258 bytes, eight of them in 13 bytes.
+    // A block of deflate's fixed code: zeros, and copies of 258 bytes, eight of them in 13 bytes.
     Codes codes;
     codes.append(2, 3);
-    codes.append(0x0C, 8);
+    for (int i = 0; i < literals; ++i)
+        codes.append(0x0C, 8);
     for (int i = 0; i < 16; ++i)
         codes.append(0xA3, 13);
     const QByteArray bytes = codes.bytes();
-    return "\x78\x01" + bytes.left(2) + bytes.mid(2, 13).repeated(size / 13);
+    return "\x78\x01" + bytes.left(literals + 1) + bytes.mid(literals + 1, 13).repeated(size / 13);
 }
 
 QByteArray PxPictures::jpeg(const QSize &size)
@@ -128,6 +129,22 @@ QByteArray PxPictures::jpegWithScans(const QSize &size, int scans)
     const QByteArray good = jpeg(size);
     const int last = good.lastIndexOf("\xFF\xDA");
     return good.chopped(2) + good.mid(last).chopped(2).repeated(scans) + "\xFF\xD9";
+}
+
+QByteArray PxPictures::jpegSegment(char marker, const QByteArray &data)
+{
+    return QByteArray("\xFF") + marker + bigEndian(quint32(data.size() + 2)).mid(2) + data;
+}
+
+QByteArray PxPictures::emptyJpeg(char marker, const QSize &size, const QByteArray &samplings,
+                                 int scans)
+{
+    QByteArray frame = '\x08' + bigEndian(quint32(size.height())).mid(2) +
+                       bigEndian(quint32(size.width())).mid(2) + char(samplings.size());
+    for (const char sampling : samplings)
+        frame += QByteArray("\1") + sampling + '\1';
+    return "\xFF\xD8" + jpegSegment(marker, frame) + jpegSegment('\xDA', "").repeated(scans) +
+           "\xFF\xD9";
 }
 
 QByteArray PxPictures::withSegments(const QByteArray &jpeg, const QByteArray &segments)

@@ -13,13 +13,17 @@ QByteArray chunk(const QByteArray &type, const QByteArray &data);
 QByteArray png(const QSize &size, const QByteArray &chunks = {}, const QByteArray &pixels = {});
 /** The interlaced PNG of 16 bits for each of four colours, which takes longest. */
 QByteArray slowPng(const QSize &size);
-/** Pixels that take 159 times as much without end as these bytes. */
-QByteArray endlessPixels(int size);
+/** Pixels of which 13 of these bytes unpack to 2064, behind a byte for each literal. */
+QByteArray endlessPixels(int size, int literals = 1);
 
 /** A progressive JPEG that is blank. */
 QByteArray jpeg(const QSize &size);
 /** The same, with its last scan, which is the slowest, as often again. */
 QByteArray jpegWithScans(const QSize &size, int scans);
+/** A segment of a JPEG. */
+QByteArray jpegSegment(char marker, const QByteArray &data);
+/** A JPEG without data, whose frame has components with these sampling factors. */
+QByteArray emptyJpeg(char marker, const QSize &size, const QByteArray &samplings, int scans);
 /** Puts segments behind the start of a JPEG. */
 QByteArray withSegments(const QByteArray &jpeg, const QByteArray &segments);
 

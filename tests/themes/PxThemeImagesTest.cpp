@@ -2,9 +2,11 @@
 #include <PxLogRecorder.h>
 #include <PxPictures.h>
 
+#include <themes/PxPictureData.h>
 #include <themes/PxThemeImages.h>
 
 #include <QBuffer>
+#include <QColorSpace>
 #include <QDir>
 #include <QFile>
 #include <QImageReader>
@@ -21,11 +23,15 @@ private slots:
     void showsWhatQImageShows_data();
     void showsWhatQImageShows();
     void keepsThePixelRatioInAName();
+    void keepsTheLimits_data();
+    void keepsTheLimits();
     void namesTheReason_data();
     void namesTheReason();
     void opensRegularFilesOnly();
-    void cutOffPicturesAreNamed_data();
-    void cutOffPicturesAreNamed();
+    void searchesForFewMissingFiles();
+    void noticesEachMissingByte_data();
+    void noticesEachMissingByte();
+    void showsWhatIsThereOfACutOffPicture();
     void filesAreCountedOnceAndOnlyIfDecoded();
 
 private:
@@ -44,10 +50,11 @@ static QByteArray saved(const char *format, QImage::Format imageFormat = QImage:
 {
     QImage image(31, 17, imageFormat);
     if (imageFormat == QImage::Format_Indexed8)
-        image.setColorTable({0xFF112233, 0xFFAABBCC});
+        image.setColorTable({0xFF112233, 0x80AABBCC});
     image.fill(1);
     image.setText("Title", QString("wide ").repeated(1000));
     image.setDotsPerMeterX(3000);
+    image.setColorSpace(QColorSpace::AdobeRgb);
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     if (!image.save(&buffer, format))
@@ -55,46 +62,165 @@ static QByteArray saved(const char *format, QImage::Format imageFormat = QImage:
     return buffer.data();
 }
 
+/** A GIF with an extension, whose screen or frame has a table of colours. */
+static QByteArray gifWithColors(int bits, bool isOfFrame)
+{
+    const QByteArray gif = PxPictures::gif({8, 6}, {8, 6}, 48);
+    const QByteArray none(3, '\0');
+    const QByteArray colors =
+        char(0x80 | bits) + none.left(isOfFrame ? 0 : 2) + QByteArray(3 << (bits + 1), '\x55');
+    return gif.left(10) + (isOfFrame ? none : colors) + "!\xFE\3abc" + none.left(1) +
+           gif.mid(781, 9) + (isOfFrame ? colors : none.left(1)) + gif.mid(791);
+}
+
 void PxThemeImagesTest::showsWhatQImageShows_data()
 {
+    using namespace PxPictures;
     QTest::addColumn<QByteArray>("picture");
-    QTest::newRow("PNG") << saved("PNG");
-    QTest::newRow("PNG with alpha") << saved("PNG", QImage::Format_ARGB32);
-    QTest::newRow("PNG with a palette") << saved("PNG", QImage::Format_Indexed8);
-    QTest::newRow("interlaced PNG") << PxPictures::slowPng({9, 5});
-    QTest::newRow("JPEG") << saved("JPG");
-    QTest::newRow("grey JPEG") << saved("JPG", QImage::Format_Grayscale8);
-    QTest::newRow("progressive JPEG") << PxPictures::jpegWithScans({40, 30}, 20);
-    QTest::newRow("JPEG with comments") << PxPictures::withSegments(
-        PxPictures::jpeg({40, 30}), QByteArray("\xFF\xFF\xFF\xFE\0\4\xFF\xDA\xFF\xE1\0\2", 12));
-    QTest::newRow("GIF") << PxPictures::gif({8, 6}, {8, 6}, 48);
-    QTest::newRow("GIF with a larger screen") << PxPictures::gif({80, 60}, {8, 6}, 48);
-    QTest::newRow("GIF without an end") << PxPictures::gif({8, 6}, {8, 6}, 48).chopped(1);
-    QTest::newRow("BMP") << saved("BMP");
-    QTest::newRow("BMP from top to bottom")
-        << PxPictures::bmp({2, -3}, 24, 0, "abcdef..ghijkl..mnopqr..");
-    QTest::newRow("packed BMP") << PxPictures::bmp({4, 2}, 8, 1, QByteArray("\4\1\0\0\4\2\0\1", 8));
+    QTest::addColumn<QByteArray>("same"); // which QImage shows
+    const auto row = [](const char *name, const QByteArray &picture, const QByteArray &same = {}) {
+        QTest::newRow(name) << picture << (same.isEmpty() ? picture : same);
+    };
+    row("PNG", saved("PNG"));
+    row("PNG with alpha", saved("PNG", QImage::Format_ARGB32));
+    row("PNG with a palette", saved("PNG", QImage::Format_Indexed8));
+    row("interlaced PNG", slowPng({9, 5}));
+    const QByteArray chunks = chunk("gAMA", QByteArray("\0\0\xB1\x8F", 4)) +
+                              chunk("tRNS", QByteArray("\0\0", 2)) +
+                              chunk("oFFs", QByteArray("\0\0\0\7\0\0\0\x9\0", 9)) +
+                              chunk("pHYs", QByteArray("\0\0\7\0\0\0\x9\0\1", 9));
+    row("PNG with chunks twice", png({8, 8}, chunks + chunks), png({8, 8}, chunks));
+    const QByteArray space = chunk("sRGB", QByteArray(1, '\0'));
+    row("PNG with a chunk of no kind", png({8, 8}, chunk("1abc", "")), png({8, 8}));
+    row("PNG of most bytes", png({8, 8}) + QByteArray(8388608 - png({8, 8}).size(), ' '));
+    row("PNG with a colour space twice", png({8, 8}, space + space), png({8, 8}, space));
+    row("JPEG", saved("JPG"));
+    row("grey JPEG", saved("JPG", QImage::Format_Grayscale8));
+    row("progressive JPEG", jpegWithScans({40, 30}, 20));
+    const QByteArray blank = jpeg({40, 30});
+    const QByteArray format = jpegSegment('\xE0', QByteArray("JFIF\0\1\1\1\0\x22\0\x33\0\0", 14));
+    row("JPEG with comments", withSegments(blank, QByteArray("\xFF\xFF\xFF\xFE\0\4\xFF\xDA", 8) +
+                                                      format + QByteArray("\xFF\xE1\0\2", 4)));
+    row("JPEG with 255 formats", withSegments(blank, format.repeated(254)));
+    row("JPEG with 256 formats", withSegments(blank, format.repeated(255)),
+        withSegments(blank.left(2) + blank.mid(20), format));
+    row("JPEG of red, green and blue",
+        withSegments(QByteArray(blank).replace("JFIF", "none"),
+                     jpegSegment('\xEE', QByteArray("Adobe\0\x64\0\0\0\0\0", 12))));
+    row("GIF with a larger screen", gif({80, 60}, {8, 6}, 48));
+    row("GIF without an end", gif({8, 6}, {8, 6}, 48).chopped(1));
+    row("GIF of two frames",
+        gif({8, 6}, {8, 6}, 48).chopped(1) + gif({8, 6}, {9000, 9000}, 48).mid(781));
+    for (int bits = 0; bits < 8; ++bits) {
+        row(QByteArray("GIF with colours 2^") + char('1' + bits), gifWithColors(bits, false));
+        row(QByteArray("GIF with colours of its frame 2^") + char('1' + bits),
+            gifWithColors(bits, true));
+    }
+    row("BMP", saved("BMP"));
+    row("BMP from top to bottom", bmp({2, -3}, 24, 0, "abcdef..ghijkl..mnopqr.."));
+    row("packed BMP", bmp({4, 2}, 8, 1, QByteArray("\4\1\0\0\4\2\0\1", 8)));
 }
 
 void PxThemeImagesTest::showsWhatQImageShows()
 {
     QFETCH(QByteArray, picture);
-    const QString path = write(picture);
-    const PxThemeImages::Result result = PxThemeImages().find(path);
-    const QImage expected(path);
+    QFETCH(QByteArray, same);
+    const PxLogRecorder log;
+    const QImage expected(write(same));
+    const QStringList logged = log.texts();
+    const PxThemeImages::Result result = PxThemeImages().find(write(picture));
+    QCOMPARE(log.texts().mid(logged.size()), logged); // by the decoder alone
     QCOMPARE(result.fault, QString());
     QVERIFY(!expected.isNull());
     QCOMPARE(result.image, expected);
     QCOMPARE(result.image.format(), expected.format());
     QCOMPARE(result.image.dotsPerMeterX(), expected.dotsPerMeterX());
+    QCOMPARE(result.image.offset(), expected.offset());
+    QCOMPARE(result.image.colorSpace(), expected.colorSpace());
+    QCOMPARE(result.image.textKeys(), QStringList());
 }
 
 void PxThemeImagesTest::keepsThePixelRatioInAName()
 {
-    m_directory.write("logo@3x.png", saved("PNG"));
-    const QString path = m_directory.filePath("logo@3x.png");
-    QCOMPARE(PxThemeImages().image(path).devicePixelRatio(), QImage(path).devicePixelRatio());
-    QCOMPARE(QImage(path).devicePixelRatio(), 3.0);
+    for (const char *name : {"logo@3x.png", "logo@2x.png", "logo@1x.png", "logo@3y.png",
+                             "logo-3x.png", "@4x.png", "3x.png"}) {
+        m_directory.write(name, saved("PNG"));
+        const QString path = m_directory.filePath(name);
+        QVERIFY2(PxThemeImages().image(path).devicePixelRatio() == QImage(path).devicePixelRatio(),
+                 name);
+    }
+    QCOMPARE(QImage(m_directory.filePath("logo@3x.png")).devicePixelRatio(), 3.0);
+}
+
+void PxThemeImagesTest::keepsTheLimits_data()
+{
+    using namespace PxPictures;
+    QTest::addColumn<QByteArray>("picture");
+    QTest::addColumn<QString>("fault"); // none for what is just allowed, or not decided here
+    const auto row = [](const char *name, const QByteArray &picture, const QString &fault = {}) {
+        QTest::newRow(name) << picture << fault;
+    };
+    const QString size = "is too large: %1 pixels, no more than 16777216 are allowed";
+    const QString bytes = "is too large: its pixels take more than 83886080 bytes, for 8 x 8";
+    const QString scans = "is too slow: a JPEG of %1 samples, no more than 402653184 together are "
+                          "allowed";
+    const QString kind = "is a JPEG that is neither baseline nor progressive";
+
+    row("PNG without a column", png({0, 8}, {}, "x"), "is damaged");
+    row("PNG without a row", png({8, 0}, {}, "x"), "is damaged");
+    row("largest PNG", png({4096, 4096}, {}, "x"));
+    row("PNG with a row more", png({4096, 4097}, {}, "x"), size.arg("4096 x 4097"));
+    row("PNG beyond 32 bits", png({65536, 65537}, {}, "x"), size.arg("65536 x 65537"));
+    row("PNG of most bytes", png({8, 8}, {}, endlessPixels(528346, 992)));
+    row("PNG with a byte more", png({8, 8}, {}, endlessPixels(528346, 993)), bytes);
+
+    const QByteArray three("\x11\x11\x11");
+    row("baseline JPEG of one scan", emptyJpeg('\xC0', {4096, 4096}, three, 1));
+    row("baseline JPEG of two scans", emptyJpeg('\xC1', {4096, 4096}, three, 2),
+        scans.arg("2 scans over 50331648"));
+    row("JPEG of fewer scans than are usual", emptyJpeg('\xC2', {4096, 3136}, three, 1));
+    row("most scans", emptyJpeg('\xC2', {4096, 4096}, "\x11", 24));
+    row("a scan more", emptyJpeg('\xC2', {4096, 4096}, "\x11", 25),
+        scans.arg("25 scans over 16777216"));
+    row("most small scans", emptyJpeg('\xC2', {8, 8}, "\x11", 3072));
+    row("a small scan more", emptyJpeg('\xC2', {8, 8}, "\x11", 3073),
+        scans.arg("3073 scans over 131072"));
+    row("thin JPEG", emptyJpeg('\xC2', {1, 65500}, "\x41\x21\x11", 110),
+        scans.arg("110 scans over 3668224"));
+    row("low JPEG", emptyJpeg('\xC2', {65500, 9}, "\x14\x11\x12", 110),
+        scans.arg("110 scans over 3668224"));
+    for (int marker = 0xC3; marker <= 0xCF; ++marker) {
+        const bool isTable = marker == 0xC4 || marker == 0xC8 || marker == 0xCC;
+        row("JPEG of kind " + QByteArray::number(marker, 16),
+            emptyJpeg(char(marker), {8, 8}, three, 1), isTable ? "is damaged" : kind);
+    }
+
+    row("GIF without a frame", QByteArray("GIF89a\x8\0\x8\0\0\0\0;", 14), "is damaged");
+    row("GIF with a large screen", gif({65535, 257}, {8, 8}, 64), size.arg("65535 x 257"));
+    row("GIF with a large frame",
+        gif({8, 8}, {4097, 4096}, 64).replace(782, 4, QByteArray("\2\1\4\3", 4)),
+        size.arg("4355 x 4868"));
+    row("endless GIF", gif({8, 8}, {8, 8}, 83886081), bytes);
+
+    for (const char header : {40, 64, 108, 124})
+        row("BMP with a header of " + QByteArray::number(header),
+            bmp({40000, -1000}, 24, 0, "").replace(14, 1, QByteArray(1, header)),
+            size.arg("40000 x 1000"));
+    row("BMP with a header of 12",
+        bmp({12345 * 65536 + 12345, -1}, 24, 0, "")
+            .replace(14, 6, QByteArray("\x0C\0\0\0\x44\x33", 6)),
+        size.arg("13124 x 12345"));
+    row("BMP beyond 32 bits", bmp({2147483647, -2147483647 - 1}, 1, 0, ""),
+        size.arg("2147483647 x 2147483648"));
+    row("BMP of negative width", bmp({-8, 8}, 24, 0, QByteArray(192, 'x')), "is damaged");
+    row("BMP with another header", "BM" + QByteArray(16, '\0'), "is damaged");
+    row("BMP without a header", "BM" + QByteArray(15, '\0'), "is cut off");
+}
+
+void PxThemeImagesTest::keepsTheLimits()
+{
+    QFETCH(QByteArray, picture);
+    QTEST(PxPictureData(picture).fault(), "fault");
 }
 
 void PxThemeImagesTest::namesTheReason_data()
@@ -102,44 +228,20 @@ void PxThemeImagesTest::namesTheReason_data()
     using namespace PxPictures;
     QTest::addColumn<QByteArray>("picture");
     QTest::addColumn<QString>("fault");
-    const QString size = "is too large: %1 pixels, no more than 16777216 are allowed";
-    const QString bytes = "is too large: its pixels take more than 83886080 bytes, for %1";
     const QString kind = "is no PNG, JPEG, GIF or BMP picture";
     QTest::newRow("empty") << QByteArray() << kind;
     QTest::newRow("text") << QByteArray("no picture") << kind;
     QTest::newRow("another format") << saved("PPM") << kind;
     QTest::newRow("icon") << ico(png({8, 8})) << kind;
-    QTest::newRow("bytes") << png({8, 8}).append(QByteArray(8 << 20, ' '))
-                           << "is too large: 8388677 bytes, no more than 8388608 are allowed";
-    QTest::newRow("large PNG") << png({65536, 65537}, {}, "x") << size.arg("65536 x 65537");
-    QTest::newRow("one row more") << png({4096, 4097}) << size.arg("4096 x 4097");
-    QTest::newRow("endless PNG") << png({8, 8}, {}, endlessPixels(700000)) << bytes.arg("8 x 8");
-    QTest::newRow("large JPEG") << jpeg({5000, 3400}) << size.arg("5000 x 3400");
-    const QString scans = "is too slow: a JPEG of %1 samples, no more than 402653184 together are "
-                          "allowed";
-    QTest::newRow("slow JPEG") << jpegWithScans({2048, 2048}, 55)
-                               << scans.arg("65 scans over 6291456");
-    QTest::newRow("slow small JPEG")
-        << jpegWithScans({8, 8}, 3063) << scans.arg("3073 scans over 131072");
-    const QByteArray thin("\x08\xFF\xDC\0\1\3\1\x41\0\2\x41\1\3\x11\1", 15); // four blocks a row
-    QTest::newRow("thin JPEG")
-        << jpegWithScans({8, 8}, 80)
-               .replace(QByteArray("\x08\0\x08\0\x08\3\1\x22\0\2\x11\1\3\x11\1", 15), thin)
-        << scans.arg("90 scans over 4716288");
-    QTest::newRow("arithmetic JPEG") << jpeg({8, 8}).replace("\xFF\xC2", "\xFF\xCA")
-                                     << "is a JPEG that is neither baseline nor progressive";
-    QTest::newRow("GIF with a large screen")
-        << gif({65535, 257}, {8, 8}, 64) << size.arg("65535 x 257");
-    QTest::newRow("GIF with a large frame")
-        << gif({8, 8}, {4097, 4096}, 64) << size.arg("4097 x 4096");
-    QTest::newRow("endless GIF") << gif({8, 8}, {8, 8}, 83886081) << bytes.arg("8 x 8");
-    QTest::newRow("large BMP") << bmp({40000, -1000}, 24, 0, "") << size.arg("40000 x 1000");
-    QTest::newRow("BMP beyond 32 bits")
-        << bmp({2147483647, -2147483647 - 1}, 1, 0, "") << size.arg("2147483647 x 2147483648");
-    QTest::newRow("BMP of negative width")
-        << bmp({-8, 8}, 24, 0, QByteArray(192, 'x')) << "is damaged";
+    QTest::newRow("bytes") << png({8, 8}).append(QByteArray(8388608 + 1 - png({8, 8}).size(), ' '))
+                           << "is too large: 8388609 bytes, no more than 8388608 are allowed";
+    QTest::newRow("pixels")
+        << png({4096, 4097}, {}, "x")
+        << "is too large: 4096 x 4097 pixels, no more than 16777216 are allowed";
     QTest::newRow("PNG without size") << png({8, 8}).replace("IHDR", "IHDX") << "is damaged";
     QTest::newRow("damaged PNG") << png({8, 8}, {}, "no zlib stream") << "is damaged";
+    for (const char *unknown : {"Aabc", "Zabc"})
+        QTest::newRow(unknown) << png({8, 8}, chunk(unknown, "")) << "is damaged";
 }
 
 void PxThemeImagesTest::namesTheReason()
@@ -150,7 +252,9 @@ void PxThemeImagesTest::namesTheReason()
     const PxLogRecorder log;
     const PxThemeImages::Result result = PxThemeImages().find(path);
     QCOMPARE(result.fault, fault);
-    QVERIFY(result.image.isNull() && result.isThere && !result.isCutOff);
+    QVERIFY(result.image.isNull());
+    QVERIFY(result.isThere);
+    QVERIFY(!result.isCutOff);
     QCOMPARE(log.texts().filter("PxThemeImages"),
              QStringList("PxThemeImages::read \"" + path + "\" " + fault));
     QCOMPARE(log.entries().constLast().level, QtWarningMsg);
@@ -169,34 +273,82 @@ void PxThemeImagesTest::opensRegularFilesOnly()
     QCOMPARE(images.find(m_directory.filePath("missing")).fault, QString("is not there"));
     QVERIFY(!images.find(m_directory.filePath("missing")).isThere);
     QCOMPARE(images.find("").fault, QString());
+    QVERIFY(!images.find("").isThere);
     QCOMPARE(log.texts().size(), 2); // nobody has to give a theme an image
 }
 
-void PxThemeImagesTest::cutOffPicturesAreNamed_data()
+void PxThemeImagesTest::searchesForFewMissingFiles()
 {
-    QTest::addColumn<QByteArray>("picture");
-    QTest::addColumn<bool>("isShown");
-    QTest::newRow("PNG") << saved("PNG").chopped(1) << true;
-    QTest::newRow("PNG without all pixels") << saved("PNG").chopped(40) << false;
-    QTest::newRow("PNG without size") << saved("PNG").left(14) << false;
-    QTest::newRow("JPEG") << saved("JPG").chopped(3) << true;
-    QTest::newRow("JPEG without pixels") << saved("JPG").left(30) << false;
-    QTest::newRow("GIF") << PxPictures::gif({8, 8}, {8, 8}, 64).chopped(3) << true;
-    QTest::newRow("BMP") << saved("BMP").chopped(50) << true;
-    QTest::newRow("packed BMP") << PxPictures::bmp({4, 2}, 8, 1, "\4\1").chopped(1) << true;
+    m_directory.write("known.png", saved("PNG"));
+    PxThemeImages images;
+    const PxLogRecorder log;
+    for (int i = 1; i < 2000; ++i)
+        images.find(m_directory.filePath(QString::number(i)));
+    QVERIFY(!images.image(m_directory.filePath("known")).isNull());
+    QCOMPARE(log.texts(), QStringList());
+    images.find(m_directory.filePath("last"));
+    QCOMPARE(log.texts().filter("too many images are missing").size(), 1);
+    QVERIFY(images.image(m_directory.filePath("./known")).isNull());
+    QVERIFY(!images.image(m_directory.filePath("known.png")).isNull());
+    QCOMPARE(log.texts().size(), 1);
 }
 
-void PxThemeImagesTest::cutOffPicturesAreNamed()
+void PxThemeImagesTest::noticesEachMissingByte_data()
+{
+    using namespace PxPictures;
+    QTest::addColumn<QByteArray>("picture"); // complete
+    QTest::addColumn<int>("from");           // so many bytes, shorter ones are damaged
+    QTest::addColumn<int>("spare");          // bytes at its end that nobody misses
+    QTest::newRow("PNG") << saved("PNG").chopped(12) + chunk("IEND", "data") << 8 << 0;
+    QTest::newRow("JPEG") << saved("JPG") << 2 << 0;
+    QTest::newRow("JPEG with restarts")
+        << emptyJpeg('\xC0', {8, 8}, "\x11", 1).replace("\xFF\xD9", "\xFF\xD0\xFF\xBF\xFF\xFF\xD9")
+        << 2 << 0;
+    QTest::newRow("JPEG with a segment of no length")
+        << QByteArray("\xFF\xD8\xFF\xE0\0\0\xFF\xD9", 8) << 2 << 0;
+    QTest::newRow("GIF") << gifWithColors(1, false) << 6 << 1;
+    QTest::newRow("BMP") << bmp({3, -3}, 24, 0, QByteArray(36, 'x')) << 54 << 0;
+    QTest::newRow("BMP of full words") << bmp({4, 2}, 8, 0, QByteArray(8, 'x')) << 54 << 0;
+    QTest::newRow("BMP with bit fields") << bmp({3, 2}, 16, 3, QByteArray(16, 'x')) << 54 << 0;
+    QTest::newRow("BMP with a header of 12")
+        << "BM" + QByteArray(8, '\0') + QByteArray("\x1A\0\0\0\x0C\0\0\0\3\0\2\0\1\0\x18\0", 16) +
+               QByteArray(24, 'x')
+        << 26 << 0;
+    QTest::newRow("packed BMP") << bmp({64, 2}, 8, 1, QByteArray("\4\1\0\0\4\2\0\1", 8)) << 34 << 0;
+    QTest::newRow("packed BMP without an end") << bmp({4, 1}, 8, 1, "\4\1\4\2") << 34 << 0;
+    QTest::newRow("packed BMP of a wrong size")
+        << bmp({4, 1}, 8, 1, QByteArray("\4\1\0\1", 4)).replace(3, 1, "\7") << 34 << 0;
+}
+
+void PxThemeImagesTest::noticesEachMissingByte()
 {
     QFETCH(QByteArray, picture);
-    QFETCH(bool, isShown);
-    const QString path = write(picture);
-    const PxLogRecorder log;
-    const PxThemeImages::Result result = PxThemeImages().find(path);
-    QCOMPARE(result.fault, QString("is cut off"));
-    QVERIFY(result.isCutOff);
-    QCOMPARE(!result.image.isNull(), isShown);
-    QCOMPARE(log.texts().constLast(), "PxThemeImages::read \"" + path + "\" is cut off");
+    QFETCH(int, from);
+    QFETCH(int, spare);
+    for (int size = from; size <= picture.size(); ++size)
+        QVERIFY2(PxPictureData(picture.left(size)).isCutOff() == (size < picture.size() - spare),
+                 QByteArray::number(size));
+}
+
+void PxThemeImagesTest::showsWhatIsThereOfACutOffPicture()
+{
+    const struct
+    {
+        QByteArray picture;
+        bool isShown;
+    } rows[] = {{saved("PNG").chopped(1), true},  {saved("PNG").left(100), false},
+                {saved("PNG").left(14), false},   {saved("JPG").chopped(3), true},
+                {saved("JPG").left(30), false},   {gifWithColors(7, false).chopped(3), true},
+                {saved("BMP").chopped(50), true}, {saved("BMP").left(14), false}};
+    for (const auto &row : rows) {
+        const QString path = write(row.picture);
+        const PxLogRecorder log;
+        const PxThemeImages::Result result = PxThemeImages().find(path);
+        QCOMPARE(result.fault, QString("is cut off"));
+        QVERIFY(result.isCutOff);
+        QCOMPARE(!result.image.isNull(), row.isShown);
+        QCOMPARE(log.texts().constLast(), "PxThemeImages::read \"" + path + "\" is cut off");
+    }
 }
 
 void PxThemeImagesTest::filesAreCountedOnceAndOnlyIfDecoded()
