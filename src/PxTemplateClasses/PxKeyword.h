@@ -4,8 +4,10 @@
 
 #include <QHash>
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
+#include <algorithm>
 #include <cstddef>
 
 /** One row of a keyword table: a keyword of the files, in ASCII, and its value. */
@@ -55,18 +57,19 @@ ENUM decodeKeywordList(const QString &keywords, const QHash<QString, ENUM> &map,
     return static_cast<ENUM>(flags);
 }
 
-/** The shortest keyword of a value; `fallback` for a value without a keyword. */
+/**
+ * The shortest keyword of a value, the first one in alphabetical order of several; `fallback` for a
+ * value without a keyword.
+ */
 template <typename ENUM>
 QString encodeKeyword(ENUM value, const QHash<QString, ENUM> &map, const QString &fallback)
 {
-    QString shortest;
-    for (auto it = map.begin(); it != map.end(); ++it) {
-        const QString &keyword = it.key();
-        if (it.value() == value && (shortest.isNull() || keyword.size() < shortest.size() ||
-                                    (keyword.size() == shortest.size() && keyword < shortest)))
-            shortest = keyword;
-    }
-    return shortest.isNull() ? fallback : shortest;
+    QStringList keywords = map.keys(value);
+    keywords.sort();
+    const auto shortest =
+        std::min_element(keywords.cbegin(), keywords.cend(),
+                         [](const QString &a, const QString &b) { return a.size() < b.size(); });
+    return shortest == keywords.cend() ? fallback : *shortest;
 }
 
 } // namespace EnumHelper

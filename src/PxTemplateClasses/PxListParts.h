@@ -13,11 +13,9 @@ template <typename Function>
 void pxForEachPart(QStringView text, QChar separator, Function function)
 {
     qsizetype start = 0;
-    for (qsizetype end = 0; end < text.size(); ++end) {
-        if (text[end] == separator) {
-            function(text.mid(start, end - start));
-            start = end + 1;
-        }
+    for (qsizetype end = text.indexOf(separator); end >= 0; end = text.indexOf(separator, start)) {
+        function(text.mid(start, end - start));
+        start = end + 1;
     }
     function(text.mid(start));
 }
@@ -37,8 +35,8 @@ inline QList<int> pxIntList(const QString &text)
     QList<int> numbers;
     const QStringView whole(text);
     pxForEachPart(whole, [&](QStringView part) {
-        bool isNumber = false; // a QStringView would have to be copied
-        const int number =
+        bool isNumber;
+        const int number = // a QStringView would have to be copied
             text.midRef(int(part.data() - whole.data()), int(part.size())).toInt(&isNumber);
         if (isNumber)
             numbers.append(number);
