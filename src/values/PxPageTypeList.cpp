@@ -25,7 +25,6 @@ PxPageTypeList::~PxPageTypeList() = default;
 
 void PxPageTypeList::appendEnum(const QList<PxPageTypeEnum> &pageTypes)
 {
-    reserve(size() + pageTypes.size());
     for (PxPageTypeEnum pageType : pageTypes)
         append(PxPageType(pageType));
 }

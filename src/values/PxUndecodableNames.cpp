@@ -12,7 +12,7 @@
 static bool isUndecodable(const QByteArray &name)
 {
     // Nearly all names are ASCII.
-    return std::any_of(name.begin(), name.end(), [](char c) { return uchar(c) >= 0x80; }) &&
+    return std::any_of(name.begin(), name.end(), [](char c) { return c & 0x80; }) &&
            name.right(4).toLower() == ".xml" && QFile::encodeName(QFile::decodeName(name)) != name;
 }
 

@@ -1,11 +1,11 @@
 #include <PxDirectoryConfig.h>
 #include <PxLogRecorder.h>
+#include <PxRows.h>
 #include <values/PxHumanReadable.h>
 #include <values/PxProductMaterial.h>
 
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <cstdio>
 
@@ -23,9 +23,9 @@ static int printNames(const QString &directory)
     PxDirectoryConfig::instance()->setResourceDirectories({directory});
     const PxLogRecorder log;
     const PxHumanReadable *names = PxHumanReadable::instance();
-    const QStringList answers{names->frameName("Duene"), names->frameName("Poster Ohne Rahmen"),
-                              names->fotoPaperTypeName(PxFotoPaperTypeGlossy),
-                              names->fotoPaperTypeName(static_cast<PxFotoPaperType>(4))};
+    QStringList answers{names->frameName("Duene"), names->frameName("Poster Ohne Rahmen")};
+    for (int paper = 0; paper <= 4; ++paper)
+        answers.append(names->fotoPaperTypeName(static_cast<PxFotoPaperType>(paper)));
     fputs((answers + log.texts()).join('|').toUtf8().constData(), stdout);
     return 0;
 }
@@ -47,14 +47,20 @@ static QString namesOf(const QByteArray &frames)
 void PxHumanReadableTest::readsFrameModels()
 {
     const QByteArray frames = "<frames><frame id='Duene' name='Düne'/>";
-    const QString unread = "Duene|Poster Ohne Rahmen|Glänzend|";
-    const QString read = "Düne|Poster Ohne Rahmen|Glänzend|";
+    const QString papers = "|Unbekanntes Fotopapier|Glänzend|Matt|Seidenraster|";
+    const QString unread = "Duene|Poster Ohne Rahmen" + papers;
+    const QString read = "Düne|Poster Ohne Rahmen" + papers;
     const QString warning = "|PxHumanReadable::initTemplateNames ";
+    const QString incomplete = warning + "frame without id or name \"\" \"\"";
     QCOMPARE(namesOf(""), unread);
     QCOMPARE(namesOf(frames + "</frames>"), read);
     QCOMPARE(namesOf(frames + "<frame id='Duene'/><frame name='Wald'/></frames>"),
              read + warning + "frame without id or name \"Duene\" \"\"" + warning +
                  "frame without id or name \"\" \"Wald\"");
+    QCOMPARE(namesOf("<frames>" + QByteArray("<frame/>").repeated(100) + "</frames>"),
+             unread + incomplete.repeated(100));
+    QCOMPARE(namesOf("<frames>" + QByteArray("<frame/>").repeated(101) + "</frames>"),
+             unread + incomplete.repeated(100) + warning + "1 more frames without id or name");
     QVERIFY(namesOf(frames).startsWith(unread + warning + "could not open \"/frames.xml:1:"));
 }
 
@@ -66,6 +72,8 @@ void PxHumanReadableTest::describesMaterials()
     QCOMPARE(describe("Deko-Poster"), QString("Poster-Collage"));
     QCOMPARE(describe("Posterdruck XXL quadratisch"), QString("Posterdruck XXL Quadratisch"));
     QCOMPARE(describe("poster") + describe("Poster "), QString());
+    pxCheckComparison("PxProductMaterial", "Leinwand leinwand",
+                      [](const QString &keyword) { return PxProductMaterial(keyword); });
 }
 
 int main(int argc, char *argv[])
