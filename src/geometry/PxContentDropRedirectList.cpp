@@ -16,8 +16,8 @@ PxContentDropRedirectList::PxContentDropRedirectList(const QDomElement &parent)
          e = e.nextSiblingElement(tag)) {
         // Only pages from 0 can be read: before the "-" of a negative page the first part is empty.
         const QString from = e.attribute(QStringLiteral("from"));
-        bool hasFirst = false;
-        bool hasLast = false;
+        bool hasFirst;
+        bool hasLast;
         const int first = from.leftRef(from.indexOf(QLatin1Char('-'))).toInt(&hasFirst);
         const int last = from.midRef(from.lastIndexOf(QLatin1Char('-')) + 1).toInt(&hasLast);
         const int target = PxXMLParser::intAttribute(e, QStringLiteral("to"), -1);

@@ -36,10 +36,10 @@ public:
 private:
     struct Defaults
     {
-        int pageTypes = 0;  // the union of all page types that are a single bit, as nearly all are
-        int alignments = 0; // the union of the alignments, which are single bits
+        int pageTypes = 0; // the union of all page types that are a single bit, as nearly all are
         QVector<PxPageTypeEnum> otherPageTypes; // 0 and unions: a page must equal one of them
-        QString templates[2];                   // by DefaultTemplateType
+        PxPageAlignment alignments = PxPageAlignmentNone; // the union; each is a single bit
+        QString templates[2];                             // by DefaultTemplateType
 
         bool isFor(const PxPageContext &page) const;
     };

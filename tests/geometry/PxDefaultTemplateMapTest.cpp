@@ -1,7 +1,7 @@
 #include <PxElement.h>
+#include <PxLogRecorder.h>
+#include <PxRows.h>
 #include <geometry/PxDefaultTemplateMap.h>
-
-#include <QTest>
 
 class PxDefaultTemplateMapTest : public QObject
 {
@@ -10,18 +10,21 @@ class PxDefaultTemplateMapTest : public QObject
 private slots:
     void readsNames();
     void findsByThemeTypeAndAlignment();
-    void hashMixesAllParts();
+    void comparesKeys();
 };
+
+static QString nameIn(const QString &attributes, DefaultTemplateType type)
+{
+    const PxDefaultTemplateMap map(
+        pxElement("<product><defaults pageType='normal' " + attributes + "/></product>"));
+    return map.findTemplate(PxDefaultTemplateKey("normal", PxPageContext(), type), false);
+}
 
 void PxDefaultTemplateMapTest::readsNames()
 {
     const auto names = [](const QString &attributes) {
-        const PxDefaultTemplateMap map(
-            pxElement("<product><defaults pageType='normal' " + attributes + "/></product>"));
-        const auto find = [&map](DefaultTemplateType type) {
-            return map.findTemplate(PxDefaultTemplateKey("normal", PxPageContext(), type), false);
-        };
-        return find(DefaultTemplateTypeLayout) + '/' + find(DefaultTemplateTypeBackground);
+        return nameIn(attributes, DefaultTemplateTypeLayout) + '/' +
+               nameIn(attributes, DefaultTemplateTypeBackground);
     };
     QCOMPARE(names("templates='bg_a,lay_a'"), QString("lay_a/bg_a"));
     QCOMPARE(names("templates=',bg_a,'"), QString("/bg_a"));
@@ -33,6 +36,17 @@ void PxDefaultTemplateMapTest::readsNames()
         const QString number = QString::number(i % 600);
         QCOMPARE(names("layout='Tür " + number + "'"), "Tuer " + number + '/');
     }
+    pxCheckAnswers("short ones are", "64=true 65=false", [](const QList<int> &length) {
+        const QString layout = "layout='" + QString(length[0], QChar(u'ü')) + "'";
+        return nameIn(layout, DefaultTemplateTypeLayout).constData() ==
+               nameIn(layout, DefaultTemplateTypeLayout).constData();
+    });
+}
+
+static PxDefaultTemplateKey keyOf(const QStringList &words)
+{
+    const PxPageContext page(words[1], static_cast<PxPageAlignment>(words[2].toInt()));
+    return PxDefaultTemplateKey(words[0], page, static_cast<DefaultTemplateType>(words[3].toInt()));
 }
 
 void PxDefaultTemplateMapTest::findsByThemeTypeAndAlignment()
@@ -42,35 +56,32 @@ void PxDefaultTemplateMapTest::findsByThemeTypeAndAlignment()
                   "<defaults theme='sea,, lake' pageType='spine,normal' layout='wave'/>"
                   "<defaults theme='sea' pageType='cover' layout='shore'/>"
                   "<defaults theme='sea' pageType='spine' alignment='Center' layout='foam'/>"
-                  "<defaults theme='sea' pageType='spine' alignment='askew'/></product>"));
-    // Without the theme "normal" to fall back to, and with it.
-    const auto find = [&map](const char *theme, const char *pageType, int alignment) {
-        const PxPageContext page(PxPageType(pageType), static_cast<PxPageAlignment>(alignment));
-        const PxDefaultTemplateKey key(theme, page, DefaultTemplateTypeLayout);
-        return map.findTemplate(key, false) + '/' + map.findTemplate(key, true);
-    };
-    QCOMPARE(find("sea", "spine", PxPageAlignmentRight), QString("wave/wave"));
-    QCOMPARE(find("lake", "normal", PxPageAlignmentBottom), QString("wave/wave"));
-    QCOMPARE(find("city", "spine", PxPageAlignmentRight), QString("/plain"));
-    // A later element wins, also with an empty name, which then counts as none.
-    QCOMPARE(find("sea", "spine", PxPageAlignmentCenter), QString("foam/foam"));
-    QCOMPARE(find("sea", "spine", PxPageAlignmentLeft), QString("/plain"));
-    // Page types match as they stand, alignments one by one; "fullpage" is no default.
-    QCOMPARE(find("sea", "cover", PxPageAlignmentRight), QString("shore/shore"));
-    QCOMPARE(find("sea", "fullcover", PxPageAlignmentRight), QString("/plain"));
-    QCOMPARE(find("sea", "spine", PxPageAlignmentTop | PxPageAlignmentRight), QString("/"));
-    QCOMPARE(find("sea", "spine", PxPageAlignmentFullPage), QString("/"));
-
-    const PxPageContext spine(PxPageTypeSpine, PxPageAlignmentRight);
-    const auto noType = static_cast<DefaultTemplateType>(12);
-    QCOMPARE(map.findTemplate(PxDefaultTemplateKey("sea", spine, noType), true), QString());
+                  "<defaults theme='sea' pageType='spine' alignment='askew'/>"
+                  "<defaults theme='sky' pageType='normal,attic' layout='cloud' "
+                  "background='blue'/></product>"));
+    // Without the theme "normal" to fall back to, and with it. Page types match as they stand,
+    // alignments one by one. A later element wins, also with an empty name, which counts as none.
+    pxCheckAnswers("template",
+                   "sea;spine;2=wave/wave lake;normal;32=wave/wave city;spine;2=/plain "
+                   "sea;spine;64=foam/foam sea;spine;1=/plain sea;cover;2=shore/shore "
+                   "sea;fullcover;2=/plain sea;spine;18=/ sea;spine;8=/ sky;attic;2=cloud/cloud "
+                   "sky;normal;0=/ sky;spine;2=/plain",
+                   [&map](const QStringList &page) {
+                       const PxDefaultTemplateKey key = keyOf(page + QStringList("0"));
+                       return map.findTemplate(key, false) + '/' + map.findTemplate(key, true);
+                   });
+    pxCheckAnswers("type", "sky;normal;2;0=cloud sky;normal;2;1=blue sky;normal;2;2=",
+                   [&map](const QStringList &key) { return map.findTemplate(keyOf(key), true); });
 }
 
-void PxDefaultTemplateMapTest::hashMixesAllParts()
+void PxDefaultTemplateMapTest::comparesKeys()
 {
-    const PxDefaultTemplateKey key("sea", PxPageContext(PxPageTypeFullCover, PxPageAlignmentTop),
-                                   DefaultTemplateTypeBackground);
+    pxCheckComparison("PxDefaultTemplateKey",
+                      "sea;cover;2;0 lake;cover;2;0 sea;spine;2;0 sea;cover;1;0 sea;cover;2;1",
+                      keyOf);
+    const PxDefaultTemplateKey key = keyOf({"sea", "fullcover", "16", "1"});
     QCOMPARE(qHash(key, 1024), qHash(QString("sea")) ^ 1024 ^ 1 ^ 64 ^ 16);
+    QCOMPARE(pxShown(key).section(", ", -1), QString("background)"));
 }
 
 QTEST_GUILESS_MAIN(PxDefaultTemplateMapTest)

@@ -1,7 +1,6 @@
 #include <PxElement.h>
+#include <PxRows.h>
 #include <geometry/PxPageConstraint.h>
-
-#include <QTest>
 
 class PxPageConstraintTest : public QObject
 {
@@ -21,29 +20,30 @@ void PxPageConstraintTest::setsSplitAndAddsDoNot()
     constraint.setPageTypes(PxPageTypeNone);
     constraint.setIntendetAlignment(PxPageAlignmentTop);
     QCOMPARE(constraint.intendetAlignments().size(), 1);
-    const auto negative = static_cast<PxPageTypeEnum>(-1);
-    QVERIFY(constraint.isPageType(PxPageType())); // none set means all
-    QVERIFY(constraint.isPageType(negative));
+    const auto isPageType = [&constraint](const QList<int> &type) {
+        return constraint.isPageType(static_cast<PxPageTypeEnum>(type[0]));
+    };
+    pxCheckAnswers("none set means all", "0=true -1=true", isPageType);
     constraint.addPageType(PxPageTypeCover);
     QCOMPARE(constraint.pageTypes().size(), 1);
-    QVERIFY(constraint.isPageType(PxPageTypeSpine) && constraint.isPageType(PxPageTypeAll));
-    QVERIFY(!constraint.isPageType(PxPageTypeEmptyPage));
-    // What has no bits shares none, though it has the spine's.
-    QVERIFY(!constraint.isPageType(negative));
-    QVERIFY(!constraint.isPageType(static_cast<PxPageTypeEnum>(0x80000001)));
-    QVERIFY(!constraint.isPageType(PxPageTypeNone));
+    // A negative number shares no bits, though it has that of the spine.
+    pxCheckAnswers("cover", "1=true 69503=true 32=false 0=false -1=false -2147483647=false",
+                   isPageType);
 }
 
 void PxPageConstraintTest::matchesWhatItSharesOrLeavesOpen()
 {
-    const PxPageConstraint open;
-    const PxPageConstraint left(PxPageTypeCover, PxPageAlignmentLeft);
-    const PxPageConstraint right(PxPageTypeSpine, PxPageAlignmentRight);
-    const PxPageConstraint spine(PxPageTypeSpine, PxPageAlignmentNone);
-    QVERIFY(open.matches(left) && left.matches(open));
-    QVERIFY(spine.matches(left) && right.matches(spine));
-    QVERIFY(!left.matches(right));
-    QVERIFY(!right.matches(PxPageConstraint(PxPageTypeFullCover, PxPageAlignmentRight)));
+    QHash<QString, PxPageConstraint> constraints{
+        {"left", PxPageConstraint(PxPageTypeCover, PxPageAlignmentLeft)},
+        {"right", PxPageConstraint(PxPageTypeSpine, PxPageAlignmentRight)},
+        {"front", PxPageConstraint(PxPageTypeFullCover, PxPageAlignmentRight)},
+        {"spine", PxPageConstraint(PxPageTypeSpine, PxPageAlignmentNone)}};
+    constraints["whole"].addPageType(PxPageTypeCover); // its bits are not shared
+    pxCheckAnswers(
+        "matches",
+        "open;left=true left;open=true left;spine=true spine;right=true left;right=false "
+        "right;front=false whole;spine=false whole;open=true",
+        [&](const QStringList &c) { return constraints[c[0]].matches(constraints[c[1]]); });
 }
 
 void PxPageConstraintTest::writesOneChildPerElement()

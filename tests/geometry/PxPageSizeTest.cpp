@@ -1,9 +1,9 @@
 #include <PxLogRecorder.h>
+#include <PxRows.h>
+#include <geometry/PxBleedMargin.h>
 #include <geometry/PxPageSizeKey.h>
 #include <geometry/PxPageSizeSpec.h>
 #include <geometry/PxSurroundingKey.h>
-
-#include <QTest>
 
 #include <limits>
 
@@ -15,7 +15,7 @@ private slots:
     void addsMargins();
     void logsEveryHundredthCopy();
     void contextsMatchByBits();
-    void keysAreOrderedByContextUnlessTheirNumbersAgree();
+    void comparesFields();
 };
 
 static PxPageSizeSpec pageSize(const PxMargins &bleed)
@@ -26,8 +26,18 @@ static PxPageSizeSpec pageSize(const PxMargins &bleed)
 void PxPageSizeTest::addsMargins()
 {
     const PxMargins margins(1, 2, 3, 4);
+    QCOMPARE(pxShown(margins), QString("PxMargins(top 1, bottom 2, left 3, right 4)"));
+    QCOMPARE(pxShown(PxMargins()), QString("PxMargins(top 0, bottom 0, left 0, right 0)"));
+    pxCheckAnswers("allNull",
+                   "0,0,0,0=true 1,0,0,0=false 0,1,0,0=false 0,0,1,0=false 0,0,0,1=false",
+                   [](const QList<int> &m) { return PxMargins(m[0], m[1], m[2], m[3]).allNull(); });
     QCOMPARE(margins.topLeft(), QPoint(3, 1));
     QCOMPARE(margins.bottomRight(), QPoint(4, 2));
+    QCOMPARE(
+        pxShown(pageSize(margins)),
+        QString(
+            "PxPageSizeSpec(QSize(100, 200), bleed PxMargins(top 1, bottom 2, left 3, right 4), "
+            "safety PxMargins(top 5, bottom 6, left 7, right 8), portrait(1), clamp 9)"));
     QCOMPARE(pageSize(margins).totalSize(), QSize(107, 203)); // without the clamp
     QCOMPARE(pageSize(margins).topLeftOffsetOfUsablePrintArea(), QPoint(3, 1));
 
@@ -48,11 +58,10 @@ void PxPageSizeTest::logsEveryHundredthCopy()
     const PxLogRecorder log;
     copy(99);
     QCOMPARE(log.texts(), QStringList());
-    copy(100);
-    QCOMPARE(log.texts(), QStringList("PxPageSizeSpec__CC  counts  100"));
-    copy(1);
+    copy(101);
+    const QString text("PxPageSizeSpec__CC  counts  %1");
+    QCOMPARE(log.texts(), QStringList({text.arg(100), text.arg(200)}));
     const PxLogRecorder::Entry entry = log.entries().constLast();
-    QCOMPARE(entry.text, QString("PxPageSizeSpec__CC  counts  200"));
     QCOMPARE(entry.level, QtDebugMsg);
     QCOMPARE(entry.file, QString("PxPageSizeSpec"));
     QCOMPARE(entry.line, 45);
@@ -61,31 +70,35 @@ void PxPageSizeTest::logsEveryHundredthCopy()
     QCOMPARE(entry.category, QString("default"));
 }
 
+static PxPageContext page(const QList<int> &numbers)
+{
+    return PxPageContext(static_cast<PxPageTypeEnum>(numbers[0]),
+                         static_cast<PxPageAlignment>(numbers[1]));
+}
+
 void PxPageSizeTest::contextsMatchByBits()
 {
-    const PxPageContext page;
-    const auto leftAndRight = static_cast<PxPageAlignment>(3);
-    QVERIFY(page.matchesWith(PxPageContext(PxPageTypeAll, leftAndRight)));
-    QVERIFY(!page.matchesWith(PxPageContext(PxPageTypeAll, PxPageAlignmentRight)));
-    QVERIFY(!page.matchesWith(PxPageContext(PxPageTypeCover, leftAndRight)));
-    QVERIFY(page.isPageType(PxPageTypeNormalPage) && !page.isPageType(PxPageTypeAll));
+    const PxPageContext normal; // on the left
+    pxCheckAnswers("matchesWith", "69503,3=true 69503,2=false 1,3=false",
+                   [&](const QList<int> &other) { return normal.matchesWith(page(other)); });
+    pxCheckAnswers("isPageType", "normal=true normal,spine=false all=false",
+                   [&](const QString &type) { return normal.isPageType(type); });
 }
 
-template <typename KEY>
-static bool isOrderedAsKept()
+void PxPageSizeTest::comparesFields()
 {
-    const PxPageContext lesser(PxPageTypeSpine, PxPageAlignmentRight);
-    const PxPageContext greater(PxPageTypeNormalPage, PxPageAlignmentLeft);
-    return lesser < greater && KEY(lesser, 6) < KEY(greater, 4) &&
-           !(KEY(lesser, 4) < KEY(greater, 4)) && !(KEY(lesser, 4) < KEY(lesser, 6)) &&
-           !(KEY(greater, 4) < KEY(lesser, 6)) && KEY(lesser, 4) != KEY(greater, 4) &&
-           KEY(lesser, 4) != KEY(lesser, 6) && KEY() == KEY(greater, -1);
-}
-
-void PxPageSizeTest::keysAreOrderedByContextUnlessTheirNumbersAgree()
-{
-    QVERIFY(isOrderedAsKept<PxPageSizeKey>());
-    QVERIFY(isOrderedAsKept<PxSurroundingKey>());
+    pxCheckComparison("PxBleedMargin", "1,2 2,2 1,1",
+                      [](const QList<int> &m) { return PxBleedMargin(m[0], m[1]); });
+    pxCheckComparison("PxPageContext", "8,2 8,16 16,2 16,1", page);
+    // The context decides, but not if the numbers are equal.
+    const char *keys = "16,1,4 16,2,6 16,2,2 ~16,1,6 ~16,2,4";
+    pxCheckComparison("PxPageSizeKey", keys,
+                      [](const QList<int> &key) { return PxPageSizeKey(page(key), key[2]); });
+    pxCheckComparison("PxSurroundingKey", keys,
+                      [](const QList<int> &key) { return PxSurroundingKey(page(key), key[2]); });
+    QVERIFY(PxPageSizeKey() == PxPageSizeKey(page({16, 1}), -1));
+    QVERIFY(PxSurroundingKey() == PxSurroundingKey(page({16, 1})));
+    QCOMPARE(PxSurroundingKey().pageIndex(), -1);
 }
 
 QTEST_GUILESS_MAIN(PxPageSizeTest)

@@ -1,9 +1,8 @@
 #include <PxElement.h>
 #include <PxLogRecorder.h>
+#include <PxRows.h>
 #include <geometry/PxContentDropRedirectList.h>
 #include <geometry/PxPageRotationRedirectList.h>
-
-#include <QTest>
 
 class PxRedirectsTest : public QObject
 {
@@ -27,6 +26,9 @@ void PxRedirectsTest::readsRotationRedirects()
     QCOMPARE(list, (QList<PxPageRotationRedirect>{first, second}));
     QCOMPARE(list.filterBySourcePage(-1), QList<PxPageRotationRedirect>{second});
     QCOMPARE(list.filterByTargetPage(-1), QList<PxPageRotationRedirect>{first});
+    pxCheckComparison("PxPageRotationRedirect", "0,0,0 1,0,0 0,1,0 0,0,1",
+                      [](const QList<int> &n) { return PxPageRotationRedirect(n[0], n[1], n[2]); });
+    QVERIFY(PxPageRotationRedirect() == PxPageRotationRedirect(0, 0, 0));
 }
 
 void PxRedirectsTest::readsContentRedirects()
@@ -35,10 +37,8 @@ void PxRedirectsTest::readsContentRedirects()
     const PxContentDropRedirectList list(
         pxElement("<r><contentredirect from='2-4' to='10'/><contentredirect from='3' to='0'/>"
                   "<contentredirect from='10' to='11'/><contentredirect from='7-5' to='12'/></r>"));
-    QList<int> targets;
-    for (int page = 1; page <= 6; ++page)
-        targets.append(list.targetPage(page));
-    QCOMPARE(targets, QList<int>({1, 10, 0, 10, 5, 6}));
+    pxCheckAnswers("target", "1=1 2=10 3=0 4=10 5=5 6=6",
+                   [&list](const QList<int> &page) { return list.targetPage(page[0]); });
     // So many pages have no place in the memory one by one.
     const PxContentDropRedirectList all(
         pxElement("<r><contentredirect from='0-2147483647' to='1'/></r>"));
@@ -49,19 +49,24 @@ void PxRedirectsTest::readsContentRedirects()
 
 void PxRedirectsTest::reportsUnreadableContentRedirects()
 {
-    const QStringList unreadable{"from='x' to='10'", "from='3-' to='10'", "from='-3' to='10'",
-                                 "from='3-2147483648' to='10'", "from='3'"};
-    for (const QString &attributes : unreadable) {
+    const auto messages = [](const QStringList &pages, int times) {
         const PxLogRecorder log;
-        const PxContentDropRedirectList list(pxElement("<r><contentredirect " + attributes +
-                                                       "/><contentredirect from='5' to='6'/></r>"));
-        QCOMPARE(log.texts(),
-                 QStringList("PxContentDropRedirectList::PxContentDropRedirectList parse error"));
-        QCOMPARE(log.entries().constFirst().level, QtWarningMsg);
-        QCOMPARE(log.entries().constFirst().file, QString("PxContentDropRedirectList"));
-        QCOMPARE(list.targetPage(3), 3);
-        QCOMPARE(list.targetPage(5), 6);
-    }
+        const QString element("<contentredirect from='%1' to='%2'/>");
+        const QString unreadable = element.arg(pages[0], pages[1]).repeated(times);
+        const PxContentDropRedirectList list(
+            pxElement("<r>" + unreadable + element.arg(5).arg(6) + "</r>"));
+        return list.targetPage(5) == 6 ? log.entries() : QList<PxLogRecorder::Entry>();
+    };
+    pxCheckAnswers("from;to", "x;10=1 3-;10=1 -3;10=1 3-2147483648;10=1 3;=1 3;-1=1 3;0=0 0;3=0",
+                   [&](const QStringList &pages) { return messages(pages, 1).size(); });
+    QCOMPARE(messages({"x", "1"}, 100).size(), 100);
+    const QList<PxLogRecorder::Entry> log = messages({"x", "1"}, 101);
+    QCOMPARE(log.size(), 101);
+    const QString text("PxContentDropRedirectList::PxContentDropRedirectList ");
+    QCOMPARE(log.constFirst().text, text + "parse error");
+    QCOMPARE(log.constFirst().level, QtWarningMsg);
+    QCOMPARE(log.constFirst().file, QString("PxContentDropRedirectList"));
+    QCOMPARE(log.constLast().text, text + "1 more parse errors");
 }
 
 QTEST_GUILESS_MAIN(PxRedirectsTest)

@@ -1,7 +1,8 @@
 #include <PxElement.h>
+#include <PxLogRecorder.h>
+#include <PxRows.h>
+#include <geometry/PxDefaultTemplateMap.h>
 #include <geometry/PxSurroundingDescriptionList.h>
-
-#include <QTest>
 
 class PxSurroundingsTest : public QObject
 {
@@ -11,7 +12,8 @@ private slots:
     void readsAttributes();
     void frameIsForEveryPage();
     void findsTheFirstSuitable();
-    void isLessByAnyField();
+    void comparesEveryField();
+    void limitsMessagesOfAllElements();
 };
 
 static PxSurroundingDescription surrounding(const QString &attributes)
@@ -24,17 +26,15 @@ void PxSurroundingsTest::readsAttributes()
     const PxSurroundingDescription read = surrounding(
         "type=' calendar ' pageType='spine,fullcover' alignment='Top, right' pageNr='3' "
         "paintOnTop='no' hasbindingshade='yes' image='rim.png' x='4' y='5' width='6' height='7'");
-    QCOMPARE(read.surroundingType(), PxSurroundingTypeCalendar);
-    QCOMPARE(int(read.pageTypes().value()), 0x41);
-    QCOMPARE(int(read.alignments()), 18);
-    QCOMPARE(read.pageNr(), 3);
-    QVERIFY(!read.paintOnTop() && read.hasBindingShade());
-    QCOMPARE(read.image(), QString("rim.png"));
-    QCOMPARE(read.imageRect(), QRect(4, 5, 6, 7));
+    QCOMPARE(pxShown(read), QString("PxSurroundingDescription(type 8, spine, fullcover(65), "
+                                    "alignments 18, page 3, \"rim.png\", QRect(4,5 6x7))"));
+    QVERIFY(!read.paintOnTop());
+    QVERIFY(read.hasBindingShade());
     QVERIFY(surrounding("") ==
             surrounding("type='book' pageType='all' pageNr='-1' alignment='top,"
                         "bottom,left,right,center,middle' hasbindingshade='no'"));
     QVERIFY(surrounding("").paintOnTop());
+    QVERIFY(surrounding("").isValid());
     QVERIFY(!surrounding("type='fog'").isValid());
     QCOMPARE(int(surrounding("alignment='bottom,askew'").alignments()), 33);
 }
@@ -55,36 +55,53 @@ void PxSurroundingsTest::findsTheFirstSuitable()
                   "<surrounding image='first' pageType='normal'/>"
                   "<surrounding image='next' pageType='normal'/></surroundings><surroundings>"
                   "<surrounding image='cover' pageType='fullcover'/></surroundings></product>"));
-    const auto find = [&list](PxPageTypeEnum pageType, int page) {
-        const PxPageContext context(pageType, PxPageAlignmentRight);
-        return list.findDescription(PxSurroundingKey(context, page)).image();
-    };
-    QCOMPARE(find(PxPageTypeEmptyPage, 7), QString("pinned")); // whatever its type
-    QCOMPARE(find(PxPageTypeNormalPage, 8), QString("first"));
-    QCOMPARE(find(PxPageTypeEmptyPage, -1), QString("first")); // -1 is equal to -1
-    QCOMPARE(find(PxPageTypeFullCover, 8), QString("cover"));
-    QCOMPARE(find(PxPageTypeEmptyPage, 8), QString());
-    QVERIFY(!PxSurroundingDescriptionList().findDescription(PxSurroundingKey()).isValid());
+    // A pinned one is for its page, whatever its type; -1 is equal to -1.
+    pxCheckAnswers("page type;page",
+                   "emptypage;7=pinned normal;8=first emptypage;-1=first normal,spine;8=first "
+                   "fullcover;8=cover emptypage;8=",
+                   [&list](const QStringList &page) {
+                       const PxPageContext context(page[0], PxPageAlignmentRight);
+                       const PxSurroundingKey key(context, page[1].toInt());
+                       return list.findDescription(key).image();
+                   });
+    QVERIFY(PxSurroundingDescriptionList().findDescription(PxSurroundingKey()) ==
+            PxSurroundingDescription());
 }
 
-void PxSurroundingsTest::isLessByAnyField()
+void PxSurroundingsTest::comparesEveryField()
 {
-    // clang-format off
-    const QStringList fields{
-        "type='book'|type='gift'", "pageType='spine'|pageType='leather'",
-        "alignment='left'|alignment='top'", "pageNr='1'|pageNr='2'", "paintOnTop='0'|paintOnTop='1'",
-        "width='5' height='6' y='1'|width='5' height='5' y='2'",
-        "width='6' height='5' x='1'|width='5' height='5' x='2'",
-        "width='5' height='5'|width='5' height='6'", "width='5' height='5'|width='6' height='5'",
-        "hasbindingshade='0'|hasbindingshade='1'", "image='a'|image='b'"};
-    // clang-format on
-    for (const QString &field : fields) {
-        const PxSurroundingDescription lesser = surrounding(field.section('|', 0, 0));
-        const PxSurroundingDescription greater = surrounding(field.section('|', 1));
-        QVERIFY2(lesser < greater && !(greater < lesser) && lesser != greater, qPrintable(field));
-    }
-    QVERIFY(surrounding("type='book' image='b'") < surrounding("type='gift' image='a'"));
-    QVERIFY(surrounding("type='gift' image='a'") < surrounding("type='book' image='b'"));
+    const auto with = [](const QString &changes) {
+        QDomElement e = pxElement("<s type='book' pageType='spine' alignment='left' pageNr='1' "
+                                  "paintOnTop='0' x='1' y='1' width='5' height='5' image='a'/>");
+        for (const QString &change : changes.split(','))
+            e.setAttribute(change.section(':', 0, 0), change.section(':', 1));
+        return PxSurroundingDescription(e);
+    };
+    pxCheckComparison("PxSurroundingDescription",
+                      "image:a image:b type:gift pageType:leather alignment:top pageNr:2 "
+                      "paintOnTop:1 y:2,height:4 x:2,width:4 height:6 width:6 hasbindingshade:1",
+                      with);
+    // Not a strict order: each of them is less than the other.
+    QVERIFY(with("image:b") < with("type:gift"));
+    QVERIFY(with("type:gift") < with("image:b"));
+    const PxSurroundingDescription none;
+    QCOMPARE(none.pageNr(), -1);
+    QVERIFY(none.paintOnTop());
+    QVERIFY(!none.hasBindingShade());
+}
+
+void PxSurroundingsTest::limitsMessagesOfAllElements()
+{
+    const QString xml("<p><surroundings><surrounding %1/><surrounding %1/></surroundings>"
+                      "<defaults %1/><defaults %1/></p>"); // of each two with 51 words
+    const QDomElement product =
+        pxElement(xml.arg("pageType='x" + QString(",x").repeated(50) + "'"));
+    const QStringList last("undecodable: (using default in  14PxPageTypeEnum ) 2 more");
+    const PxLogRecorder log;
+    const PxSurroundingDescriptionList surroundings(product);
+    QCOMPARE(log.texts().mid(100), last);
+    const PxDefaultTemplateMap defaults(product);
+    QCOMPARE(log.texts().mid(201), last);
 }
 
 QTEST_GUILESS_MAIN(PxSurroundingsTest)
