@@ -45,7 +45,7 @@ PxProductType PxProductClassificationManager::type(const PxProductMaterial &mate
         if (entry.material() == material && entry.sizeName(metric) == sizeName)
             return entry.productType();
     }
-    return PxProductType(0);
+    return PxProductType();
 }
 
 PxProductType PxProductClassificationManager::closestProduct(const PxProductType &type,
@@ -58,7 +58,7 @@ PxProductType PxProductClassificationManager::closestProduct(const PxProductType
     }
 
     const PxProductMaterial material(materialName);
-    PxProductType closest(0);
+    PxProductType closest;
     qint64 smallestDistance = 1000000000;
     for (const PxProductClassification &entry : m_classifications) {
         if (entry.material() != material)
