@@ -1,5 +1,6 @@
 #include <PxCatalogueDirectory.h>
 #include <PxDirectoryConfig.h>
+#include <PxRows.h>
 #include <description/PxProductPropertiesInitializer.h>
 #include <variants/PxProductTypeVariationListModel.h>
 #include <variants/PxProductVariantIdentifiers.h>
@@ -8,7 +9,6 @@
 #include <QAbstractItemModelTester>
 #include <QFile>
 #include <QProcess>
-#include <QTest>
 #include <QTranslator>
 
 /** Knows two names, by their comments too, and one label. */
@@ -35,7 +35,6 @@ class PxVariantModelsTest : public QObject
 private slots:
     void initTestCase();
     void namesVariantsOfTheirOwnProduct();
-    void translatesNamesAndLabels();
     void listsVariants();
     void translatedNamesKeepTheirColours();
     void rolesTellWhatARowStandsFor();
@@ -95,24 +94,17 @@ void PxVariantModelsTest::initTestCase()
 void PxVariantModelsTest::namesVariantsOfTheirOwnProduct()
 {
     const auto *identifiers = PxProductVariantIdentifiers::instance();
-    QCOMPARE(identifiers->variantName(type("CUP2"), "color:blue"), QString("Blau"));
-    QCOMPARE(identifiers->variantName(type("BA7"), "color:blue"), QString());
-    QCOMPARE(identifiers->defaultVariant(type("CB14")), QString("ruling:blank")); // last in file
-    QCOMPARE(identifiers->defaultVariant(type("BA7")), QString("color:black"));
-    QVERIFY(identifiers->hasVariants(type("BA7")));
-    for (const char *none : {"GAME_MEMORY", "BOOK_MINI"}) {
-        QCOMPARE(identifiers->defaultVariant(type(none)), QString());
-        QVERIFY(!identifiers->hasVariants(type(none)));
-    }
-}
-
-void PxVariantModelsTest::translatesNamesAndLabels()
-{
-    const auto *identifiers = PxProductVariantIdentifiers::instance();
-    QCOMPARE(identifiers->variantName(type("PDT1"), "figure:monkey"), QString("Monkey"));
-    QCOMPARE(identifiers->variantDescription(type("PDT1")), QString("Kind"));
-    QCOMPARE(identifiers->variantDescription(type("CUP2")), QString("Innenfarbe"));
-    QCOMPARE(identifiers->variantDescription(type("BA7")), QString("Größe"));
+    pxCheckAnswers(
+        "variantName", "CUP2;color:blue=Blau BA7;color:blue= PDT1;figure:monkey=Monkey",
+        [=](const QStringList &w) { return identifiers->variantName(PxProductType(w[0]), w[1]); });
+    pxCheckAnswers( // the first one of CB14 is the last one in its file
+        "defaultVariant", "CB14=ruling:blank BA7=color:black GAME_MEMORY= BOOK_MINI=",
+        [=](const QString &product) { return identifiers->defaultVariant(product); });
+    pxCheckAnswers("hasVariants", "BA7=true GAME_MEMORY=false BOOK_MINI=false",
+                   [=](const QString &product) { return identifiers->hasVariants(product); });
+    pxCheckAnswers(
+        "variantDescription", "PDT1=Kind CUP2=Innenfarbe BA7=Größe",
+        [=](const QString &product) { return identifiers->variantDescription(product); });
 }
 
 void PxVariantModelsTest::listsVariants()
@@ -122,8 +114,12 @@ void PxVariantModelsTest::listsVariants()
     model.setProduct(type("CUP2"));
     QCOMPARE(textsOf(model), QStringList({"Schwarz", "Blau", "Grün", "Rot", "Gelb"}));
     QCOMPARE(model.indexOf("color:red"), 3);
-    QCOMPARE(model.identifier("Grün"), QString("color:green"));
-    QCOMPARE(model.identifier("Lila"), QString());
+    pxCheckAnswers("identifier", "Grün=color:green Lila=", [&](const QString &name) {
+        return model.identifier(name);
+    });
+    pxCheckAnswers("identifier", "1=color:blue -1= 5=", [&](const QList<int> &row) {
+        return model.identifier(row[0]);
+    });
     const QPixmap red = model.index(3).data(Qt::DecorationRole).value<QIcon>().pixmap(1);
     QCOMPARE(red.toImage().pixelColor(0, 0), QColor(203, 0, 0));
     QVERIFY(!model.index(3).data(Qt::EditRole).isValid());
@@ -133,39 +129,36 @@ void PxVariantModelsTest::translatedNamesKeepTheirColours()
 {
     const PxProductVariantListModel model(type("BA7"));
     QCOMPARE(textsOf(model), QStringList("Black"));
-    const QPixmap black = model.index(0).data(Qt::DecorationRole).value<QIcon>().pixmap(1);
-    QCOMPARE(black.toImage().pixelColor(0, 0), QColor(0, 0, 0));
+    QCOMPARE(model.index(0).data(PxProductVariantListModel::ColorRole), QVariant(QColor(0, 0, 0)));
     QVERIFY(PxProductVariantListModel::colorDescriptionToPixmap("Black").isNull());
 }
 
 void PxVariantModelsTest::rolesTellWhatARowStandsFor()
 {
     PxProductVariantListModel variants(type("CUP2"));
-    const auto role = [](const QAbstractItemModel &model, const char *name) {
-        return model.index(1, 0).data(model.roleNames().key(name));
+    const PxProductTypeVariationListModel papers(book({}), PxProductComparationAllButPaperType);
+    const auto role = [](const QAbstractItemModel &model, const QString &name) {
+        return model.index(1, 0).data(model.roleNames().key(name.toLatin1()));
     };
-    QCOMPARE(role(variants, "display"), QVariant("Blau"));
-    QCOMPARE(role(variants, "identifier"), QVariant("color:blue"));
-    QCOMPARE(role(variants, "color").value<QColor>(), QColor(40, 21, 119));
-    QCOMPARE(variants.identifier(1), QString("color:blue"));
-    QCOMPARE(variants.identifier(-1) + variants.identifier(5), QString());
+    pxCheckAnswers("variant", "display=Blau identifier=color:blue color=#281577",
+                   [&](const QString &name) { return role(variants, name); });
+    pxCheckAnswers("product", "productName=BOOK_A4_PORTRAIT_GLOSSY productCode=102",
+                   [&](const QString &name) { return role(papers, name); });
+    QCOMPARE(role(papers, "productType").value<PxProductType>(), type("BOOK_A4_PORTRAIT_GLOSSY"));
     variants.setProduct(type("CB14"));
     QVERIFY(!role(variants, "color").isValid());
-
-    const PxProductTypeVariationListModel papers(book({}), PxProductComparationAllButPaperType);
-    const PxProductType glossy = type("BOOK_A4_PORTRAIT_GLOSSY");
-    QCOMPARE(role(papers, "productType").value<PxProductType>(), glossy);
-    QCOMPARE(role(papers, "productName"), QVariant("BOOK_A4_PORTRAIT_GLOSSY"));
-    QCOMPARE(role(papers, "productCode"), QVariant(102));
 }
 
 void PxVariantModelsTest::paintsSwatches()
 {
-    const QImage swatch = PxProductVariantListModel::colorDescriptionToPixmap("HellBlau").toImage();
-    QCOMPARE(swatch.size(), QSize(100, 100));
-    QCOMPARE(swatch.pixelColor(99, 0), QColor(14, 166, 167));
-    QVERIFY(!PxProductVariantListModel::colorDescriptionToPixmap("WEIß").isNull());
-    QVERIFY(PxProductVariantListModel::colorDescriptionToPixmap("liniert").isNull());
+    const auto swatch = &PxProductVariantListModel::colorDescriptionToPixmap;
+    pxCheckAnswers(
+        "colour",
+        "schwarz=#000000 WEIß=#ffffff weinrot=#af275d gelb=#ffd14c grün=#00595c "
+        "blau=#281577 rot=#cb0000 pink=#e600e6 HellBlau=#0ea6a7 violett=#4d00ff",
+        [&](const QString &name) { return swatch(name).toImage().pixelColor(99, 0).name(); });
+    QCOMPARE(swatch("rot").size(), QSize(100, 100));
+    QVERIFY(swatch("liniert").isNull());
 }
 
 void PxVariantModelsTest::listsCompatibleProducts()
@@ -174,16 +167,18 @@ void PxVariantModelsTest::listsCompatibleProducts()
     QCOMPARE(textsOf(papers), QStringList({"Digitaldruck", "Digitaldruck mit Hochglanz-Veredelung",
                                            "Fotopapier glänzend"}));
     QCOMPARE(papers.indexOfCurrentProduct(), papers.index(0));
-    QCOMPARE(papers.columnCount(papers.index(0)), 0);
     QVERIFY(!papers.productAt(3).isValid());
     // By code point "Premium-Matt", which is CB14, stands before "mit Hochglanz-Veredelung".
     const PxProductTypeList sorted{type("CB14"), type("BOOK_A4_PORTRAIT_GLOSSY")};
     QCOMPARE(papers.filterAllowedByTheme({sorted[1], sorted[0]}), sorted);
+    QVERIFY(!lessThanQString("a", "a"));
 
     const PxProductTypeVariationListModel bindings(book({}), PxProductComparationAllButBinding);
     QCOMPARE(textsOf(bindings), QStringList({"Hardcover", "Softcover"}));
+    const PxProductTypeList unsorted{bindings.productAt(1), bindings.productAt(0)};
+    QCOMPARE(bindings.filterAllowedByTheme(unsorted)[1], unsorted[0]);
     const PxProductTypeVariationListModel sizes(book({}), PxProductComparationSpaceMagnitude);
-    QCOMPARE(sizes.filterAllowedByTheme({sorted[1], sorted[0]})[0], sorted[1]);
+    QCOMPARE(sizes.filterAllowedByTheme(unsorted), unsorted);
     QVERIFY(!sizes.index(0).data().isValid());
 }
 
@@ -207,17 +202,25 @@ void PxVariantModelsTest::changesRowsBetweenTheResetSignals()
         const auto record = [&rows, model] { rows.append(model->rowCount()); };
         connect(model, &QAbstractItemModel::modelAboutToBeReset, record);
         connect(model, &QAbstractItemModel::modelReset, record);
+        QCOMPARE(model->columnCount(), 1);
+        QCOMPARE(model->columnCount(model->index(0, 0)), 0);
+        QCOMPARE(model->rowCount(model->index(0, 0)), 0);
+        QVERIFY(!model->data(QModelIndex()).isValid());
     }
     variants.setProduct(type("CUP2"));
     QCOMPARE(variants.sizeNeeded(), 7);
+    const QList<QModelIndex> gone{variants.index(0), papers.index(1)};
     variants.setProduct(type("BOOK_MINI"));
     QCOMPARE(variants.sizeNeeded(), 7); // as wide as it was
+    QCOMPARE(PxProductVariantListModel(type("BOOK_MINI")).sizeNeeded(), 0);
     QCOMPARE(rows, QList<int>({3, 5, 5, 0}));
     papers.setProductContext(book({})); // equal
     QCOMPARE(rows.size(), 4);
     papers.setProductContext(book({type("BOOK_A4_PORTRAIT_GLOSSY")}, "other"));
     papers.updateContent();
     QCOMPARE(rows.mid(4), QList<int>({3, 1, 1, 1}));
+    for (const QModelIndex &index : gone)
+        QVERIFY(!index.data().isValid());
 }
 
 void PxVariantModelsTest::exampleShowsTheSwatches()
