@@ -1,4 +1,5 @@
 #include "PxCatalogueDirectory.h"
+#include "PxRows.h"
 
 #include <context/PxProductContext.h>
 #include <context/PxProductContextsGroup.h>
@@ -6,7 +7,6 @@
 #include <PxDirectoryConfig.h>
 
 #include <QDomDocument>
-#include <QTest>
 
 namespace {
 
@@ -30,6 +30,7 @@ private slots:
     void defaultThemeBringsTheOthers();
     void namesAndXmlGoTogether();
     void indirectDescription();
+    void comparesFields();
 
 private:
     PxCatalogueDirectory m_directory;
@@ -156,6 +157,18 @@ void PxProductContextsGroupTest::indirectDescription()
     const PxIndirectProductDescription portrait(PxOrientationPortrait, PxTemplateTargetUnknown);
     QCOMPARE(portrait.defaultWidthHeightRatio(), 0.666666);
     QVERIFY(!portrait.isValid() && !portrait.matches(book));
+}
+
+void PxProductContextsGroupTest::comparesFields()
+{
+    pxCheckComparison("PxProductContext", "1;a 2;a 1;b", [](const QStringList &words) {
+        return PxProductContext(words[0].toInt(), words[1]);
+    });
+    pxCheckComparison(
+        "PxIndirectProductDescription", "3,4 2,4 0,4 3,12 3,0", [](const QList<int> &n) {
+            const auto orientation = static_cast<PxOrientationEnum>(n[0]);
+            return PxIndirectProductDescription(orientation, static_cast<PxTemplateTarget>(n[1]));
+        });
 }
 
 QTEST_GUILESS_MAIN(PxProductContextsGroupTest)
