@@ -64,8 +64,7 @@ void PxSurroundingsTest::findsTheFirstSuitable()
                        const PxSurroundingKey key(context, page[1].toInt());
                        return list.findDescription(key).image();
                    });
-    QVERIFY(PxSurroundingDescriptionList().findDescription(PxSurroundingKey()) ==
-            PxSurroundingDescription());
+    QVERIFY(!PxSurroundingDescriptionList().findDescription(PxSurroundingKey()).isValid());
 }
 
 void PxSurroundingsTest::comparesEveryField()
