@@ -137,13 +137,20 @@ PxDefaultTemplateMap::Defaults PxDefaultTemplateMap::readDefaults(const QDomElem
     // The short form: a background, or a background and a layout. If there are more names, only the
     // first is used.
     const QString shortForm = element.attribute(QStringLiteral("templates"));
-    const auto names = shortForm.splitRef(QLatin1Char(','), Qt::SkipEmptyParts);
-    const QString background = names.isEmpty() ? QString() : names.constFirst().toString();
-    const QString layout = names.size() == 2 ? names.constLast().toString() : QString();
+    QStringView names[2]; // of perhaps a million
+    int count = 0;
+    pxForEachPart(shortForm, [&](QStringView name) {
+        if (name.isEmpty())
+            return;
+        if (count < 2)
+            names[count] = name;
+        ++count;
+    });
+    const QString layout = count == 2 ? names[1].toString() : QString();
     defaults.templates[DefaultTemplateTypeLayout] =
         templateName(element.attribute(QStringLiteral("layout"), layout));
     defaults.templates[DefaultTemplateTypeBackground] =
-        templateName(element.attribute(QStringLiteral("background"), background));
+        templateName(element.attribute(QStringLiteral("background"), names[0].toString()));
     return defaults;
 }
 
