@@ -6,8 +6,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <sys/resource.h>
-
 class PxCatalogueTest : public QObject
 {
     Q_OBJECT
@@ -15,8 +13,6 @@ class PxCatalogueTest : public QObject
 private slots:
     void fitsTheTerminal();
     void explainsEachCommand();
-    void needsItsProductTypes();
-    void showsManyEntriesInLittleTime();
     void namingACatalogueMeansItsThemesAndDefaults();
     void warnsOnceWithoutProducts();
     void printsWhatTheReadmeShows();
@@ -37,29 +33,6 @@ QStringList simplified(QStringList lines)
     for (QString &line : lines)
         line = line.simplified();
     return lines;
-}
-
-/** Writes product1.xml and so on, one for each text. */
-void writeProducts(const QTemporaryDir &directory, const QVector<QByteArray> &products)
-{
-    for (int i = 0; i < products.size(); ++i) {
-        QFile file(directory.filePath(QString("product%1.xml").arg(i + 1)));
-        QVERIFY(file.open(QIODevice::WriteOnly) &&
-                file.write("<p><product " + products[i] + "</p>"));
-    }
-}
-
-/** How long the programs computed that were run, whatever else the machine did. */
-template <typename Function>
-double secondsOf(Function runPrograms)
-{
-    rusage before = {};
-    rusage after = {};
-    getrusage(RUSAGE_CHILDREN, &before);
-    runPrograms();
-    getrusage(RUSAGE_CHILDREN, &after);
-    return double(after.ru_utime.tv_sec - before.ru_utime.tv_sec) +
-           double(after.ru_utime.tv_usec - before.ru_utime.tv_usec) / 1e6;
 }
 
 /** The lines of --help about the commands, each with a name first. */
@@ -127,51 +100,6 @@ void PxCatalogueTest::explainsEachCommand()
     }
 }
 
-void PxCatalogueTest::needsItsProductTypes()
-{
-    const QTemporaryDir directory;
-    QVERIFY(QDir(directory.path()).mkdir("products"));
-    const QString path = directory.filePath("producttypes.xml");
-    const auto check = [&](const char *content, const QString &error) {
-        if (content) {
-            QFile file(path);
-            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) >= 0);
-        }
-        for (const QString command : {"list", "show CUP2", "themes"}) {
-            const PxProgramRun wrong = run(command, {"--resources", directory.path()});
-            QCOMPARE(wrong.errors().size(), 1);
-            QVERIFY2(wrong.errors()[0].startsWith("pxcatalogue: " + error),
-                     qPrintable(wrong.errors()[0]));
-            QVERIFY(wrong.status() == 2);
-            QVERIFY(wrong.output().isEmpty());
-        }
-    };
-    const QString types =
-        "the file \"" + path + "\", without which no product is known, cannot be read: ";
-    check(nullptr, types + "name the resource directory with --resources");
-    check("<products/>", types + "the document element is not producttypes");
-    check("<producttypes>", types + path + ":1:");
-}
-
-void PxCatalogueTest::showsManyEntriesInLittleTime()
-{
-    const QTemporaryDir directory;
-    writeProducts(directory,
-                  {"name='BOOK_MINI'><usablesize width='5' height='5'/><pages>normalpages</pages>"
-                   "<pageswithcontent>" +
-                   QByteArray("7,").repeated(1000000) + "</pageswithcontent><surroundings>" +
-                   QByteArray("<surrounding pageType='spine'/>").repeated(30000) +
-                   "</surroundings><barcodes>" +
-                   QByteArray("<barcode pageNr='12345'/>").repeated(30000) +
-                   "</barcodes></product>"});
-    const QStringList products{"--products", directory.path()};
-    const double reading = secondsOf([&] { QCOMPARE(run("list", products).status(), 0); });
-    const double showing =
-        secondsOf([&] { QCOMPARE(run("show BOOK_MINI --pages 9999", products).status(), 0); });
-    QVERIFY2(showing < 6 * reading,
-             qPrintable(QString("%1 s, read in %2 s").arg(showing).arg(reading)));
-}
-
 void PxCatalogueTest::namingACatalogueMeansItsThemesAndDefaults()
 {
     const QTemporaryDir empty;
@@ -208,6 +136,12 @@ void PxCatalogueTest::warnsOnceWithoutProducts()
                          "no product file in \"" +
                          empty.path() + '"'});
     QCOMPARE(list.status(), 0);
+    QVERIFY(QDir(empty.path()).mkdir("products"));
+    const PxProgramRun none = run("list", {"--resources", empty.path()});
+    QVERIFY(none.errors().value(0).endsWith(
+        "producttypes.xml\", without which no product is known, cannot be read: name the resource "
+        "directory with --resources"));
+    QCOMPARE(none.status(), 2);
 }
 
 void PxCatalogueTest::printsWhatTheReadmeShows()
