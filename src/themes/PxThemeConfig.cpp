@@ -69,5 +69,5 @@ QString PxThemeConfig::sortingKey() const
     for (PxJigTypeEnum jigType : {PxJigTypeBackground, PxJigTypeClipart, PxJigTypeContent,
                                   PxJigTypeLayout, PxJigTypePassepartout, PxJigTypeFrame})
         parts.append(defaultCategory(jigType).name().toCaseFolded()); // == ignores the case
-    return parts.join(QChar(0)); // no text from a file contains it
+    return parts.join(QChar::Null); // no text from a file contains it
 }

@@ -53,11 +53,9 @@ QMap<PxProductTypeEnum, QPair<QImage, QRect>> readLogos(const QDomElement &logos
     QMap<PxProductTypeEnum, QPair<QImage, QRect>> logoOfType;
     for (QDomNode node = logos.firstChild(); !node.isNull(); node = node.nextSibling()) {
         const QDomElement logo = node.toElement();
-        const QString fileName =
-            PxXMLParser::attribute(logo, QStringLiteral("filename"), QString(), true).toLower();
+        const QString fileName = logo.attribute(QStringLiteral("filename")).toLower();
         const QImage image = images.image(PxDirectoryConfig::instance()->resource(fileName, false));
-        const PxProductType type(
-            PxXMLParser::attribute(logo, QStringLiteral("booktype"), QString(), true).toUpper());
+        const PxProductType type(logo.attribute(QStringLiteral("booktype")).toUpper());
         logoOfType.insert(type.type(), qMakePair(image, PxXMLParser::readRect(logo.attributes())));
     }
     return logoOfType;
@@ -81,10 +79,8 @@ PxDefaultThematicCategories readDefaultCategories(const QDomElement &defaultCate
     PxDefaultThematicCategories categories;
     categories.reserve(ourRows.size());
     for (const Row &row : ourRows)
-        categories.insert(row.jigType,
-                          PxThematicCategory(PxXMLParser::attribute(defaultCategories,
-                                                                    row.attribute, QString(), true),
-                                             QString()));
+        categories.insert(
+            row.jigType, PxThematicCategory(defaultCategories.attribute(row.attribute), QString()));
     return categories;
 }
 
@@ -125,14 +121,10 @@ QDateTime readExpiry(const QDomElement &theme)
 
 PxTheme readTheme(const QDomElement &theme, PxThemeImages &images)
 {
-    const QString id =
-        PxXMLParser::attribute(theme, QStringLiteral("id"), QStringLiteral("unbekannt"), true)
-            .toLower();
-    const PxProductGroup productGroup(
-        PxXMLParser::attribute(theme, QStringLiteral("producttype"), QString(), true));
+    const QString id = theme.attribute(QStringLiteral("id"), QStringLiteral("unbekannt")).toLower();
+    const PxProductGroup productGroup(theme.attribute(QStringLiteral("producttype")));
     const QDateTime expiry = readExpiry(theme);
-    const QImage thumbnail = images.image(
-        PxXMLParser::attribute(theme, QStringLiteral("thumbnail"), QString(), true).toLower());
+    const QImage thumbnail = images.image(theme.attribute(QStringLiteral("thumbnail")).toLower());
 
     const ChildElements children(theme);
     const QDomElement text = children.first(QStringLiteral("description"));

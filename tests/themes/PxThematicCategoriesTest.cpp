@@ -23,7 +23,12 @@ private slots:
 void PxThematicCategoriesTest::comparesWithoutCaseButHashesAsWritten()
 {
     const PxThematicCategory bin("papierkorb", "Abfall");
-    QVERIFY(bin == PxThematicCategory::recycleBin() && bin.isRecycleBin() && !bin.isFavourite());
+    QCOMPARE(bin, PxThematicCategory::recycleBin());
+    QVERIFY(bin != PxThematicCategory::favourites());
+    QVERIFY(bin.isRecycleBin());
+    QVERIFY(!bin.isFavourite());
+    QVERIFY(PxThematicCategory::favourites().isFavourite());
+    QCOMPARE(qHash(bin), qHash(QString("papierkorb"), 0));
     QVERIFY(PxThematicCategory("Tiere", "") < PxThematicCategory("tiere", ""));
     QVERIFY(!PxThematicCategorySet(bin).contains(PxThematicCategory::recycleBin()));
     QCOMPARE(PxThematicCategorySet(QStringList{"Tiere", "tiere", "Tiere"}).size(), 2);
@@ -55,12 +60,14 @@ void PxThematicCategoriesTest::comparesSets()
     const PxThematicCategorySet none;
     const PxThematicCategorySet sea(QStringList{"Meer"});
     const PxThematicCategorySet colour(PxThematicCategory::multiColor());
-    QVERIFY(colour.isOnlyMultiColor() && !sea.isOnlyMultiColor());
+    QVERIFY(colour.isOnlyMultiColor());
+    QVERIFY(!sea.isOnlyMultiColor());
     QVERIFY(!colour.plusFavourites().isOnlyMultiColor());
     QVERIFY(none.plusFavourites().containsOnlyFavouritesAnd(none));
     QVERIFY(sea.plusFavourites().containsOnlyFavouritesAnd(sea));
     QVERIFY(!sea.containsOnlyFavouritesAnd(colour));
-    QVERIFY(sea.containsAtLeastOne(sea.plusFavourites()) && !sea.containsAtLeastOne(colour));
+    QVERIFY(sea.containsAtLeastOne(sea.plusFavourites()));
+    QVERIFY(!sea.containsAtLeastOne(colour));
 }
 
 void PxThematicCategoriesTest::writesMembers()

@@ -51,6 +51,7 @@ PxThemeList PxThemeFactoryTest::load(const char *file, const QByteArray &themes)
 void PxThemeFactoryTest::readsEveryItemOfATheme()
 {
     const QByteArray thumbnail = m_directory.filePath("logo.png").toUtf8();
+    const PxLogRecorder log;
     const PxThemeList themes =
         load("full/a.xml", R"(<Themes><any id="Hochzeit" producttype="fotobuch,"
         /><any id="Reise" producttype=" book" expiry="205001022304" thumbnail=")" +
@@ -64,6 +65,7 @@ void PxThemeFactoryTest::readsEveryItemOfATheme()
         <content movable="true" normalBackgrounds="false"/>
         <defaultcategories background="B" clipart="C" fading="F" content="I" frame="R" layout="L"/>
         </any></Themes>)");
+    QCOMPARE(log.texts(), QStringList("PxThemeFactory::loadThemeList() 2")); // no missing image
     QCOMPARE(themes.size(), 2);
     QVERIFY(!themes[0].isValid());
     const PxTheme theme = themes[1];
@@ -76,7 +78,9 @@ void PxThemeFactoryTest::readsEveryItemOfATheme()
     QCOMPARE(theme.allowedProductTypes().values(), QList<PxProductType>{8});
     QCOMPARE(theme.vemoLogo(7).first.size(), QSize(5, 6));
     QCOMPARE(theme.vemoLogo(7).second, QRect(1, 2, 3, 4));
-    QVERIFY(theme.useSpineText() && !theme.useSpineLogo() && theme.canMoveContent());
+    QVERIFY(theme.useSpineText());
+    QVERIFY(!theme.useSpineLogo());
+    QVERIFY(theme.canMoveContent());
     QVERIFY(!theme.canUseNormalBackgrounds());
     QString categories;
     for (const char *jigType : {"background", "clipart", "fading", "content", "frame", "layout"})
@@ -91,8 +95,13 @@ void PxThemeFactoryTest::missingItemsGetDefaults()
     const PxTheme theme = load("bare/a.xml", "<themes><t/></themes>").value(0);
     QCOMPARE(theme.id() + theme.description(), QString("unbekanntunbekannt"));
     QCOMPARE(theme.expiryDayToOrderTxt(), QString("1976-12-30"));
-    QVERIFY(theme.isExpired() && theme.useSpineLogo() && !theme.useSpineText());
-    QVERIFY(theme.thumbnail().isNull() && theme.allowedProductTypes().isEmpty());
+    QVERIFY(theme.useSpineLogo());
+    QVERIFY(!theme.useSpineText());
+    QVERIFY(!theme.canMoveContent());
+    QVERIFY(theme.canUseNormalBackgrounds());
+    QVERIFY(theme.thumbnail().isNull());
+    QVERIFY(theme.allowedProductTypes().isEmpty());
+    QCOMPARE(load("bare/a.xml", "<themes><t id=''/></themes>").value(0).id(), QString());
 }
 
 void PxThemeFactoryTest::strayNodesAreThemesButBlanksAreNot()
@@ -128,7 +137,8 @@ void PxThemeFactoryTest::damagedAndForeignFilesAreLeftOut()
     QVERIFY(log.texts().constLast().startsWith("PxThemeFactory::loadThemeList the reason: " +
                                                m_directory.filePath("broken/a.xml:1:")));
     QVERIFY(log.entries().constLast().function.contains("loadThemeList"));
-    QVERIFY(log.entries().constLast().line > 0 && !log.entries().constLast().file.isEmpty());
+    QVERIFY(log.entries().constLast().line > 0);
+    QVERIFY(!log.entries().constLast().file.isEmpty());
 }
 
 void PxThemeFactoryTest::bothEndingsAreReadAndTheIndexTakesTheLast()
@@ -185,7 +195,8 @@ void PxThemeFactoryTest::imagesAreReadOnceAndWithinBounds()
         <l filename="vast.bmp" booktype="BOOK"/><l filename="VAST.BMP" booktype="CUP"/></logos></t>
         <t><logos><l filename="folder.png" booktype="CUP"/></logos></t></themes>)")
                               .value(0);
-    QVERIFY(theme.mustPaintVemoLogo(7) && theme.vemoLogo(7).first.isNull());
+    QVERIFY(theme.mustPaintVemoLogo(7));
+    QVERIFY(theme.vemoLogo(7).first.isNull());
     QCOMPARE(log.texts().filter("too large").size(), 1);
     QCOMPARE(log.entries().constLast().level, QtWarningMsg);
     QVERIFY(log.texts().constLast().contains("vast.bmp\" is too large: 40000 x 1000 pixels"));
@@ -206,8 +217,12 @@ void PxThemeFactoryTest::warnsOfNamesThatCannotBeDecoded()
     const PxLogRecorder log;
     QCOMPARE(PxThemeFactory().loadThemeList(directory).idList(), QStringList("green"));
     QCOMPARE(log.entries().constFirst().level, QtWarningMsg);
-    QVERIFY(log.texts().constFirst().endsWith("locale: 2 in \"" + directory.path() + '"'));
-    QCOMPARE(log.texts().size(), 2); // and how many themes there are
+    QCOMPARE(log.texts(),
+             QStringList({"PxUndecodableNames::warn files are not read, for their names are not "
+                          "in the encoding of the locale: 2 in \"" +
+                              directory.path() + '"',
+                          "PxThemeFactory::loadThemeList() 1"}));
+    QVERIFY(log.entries().constFirst().function.contains("PxUndecodableNames::warn("));
     for (const QByteArray &file : files)
         unlink(file); // Qt cannot
 }
@@ -220,10 +235,18 @@ void PxThemeFactoryTest::defaultThemeFallsBackToTheFirst()
         directories->setThemesDirectory(m_directory.filePath("fallback"));
         PxThemeFactory factory;
         factory.init();
-        return factory.defaultTheme();
+        return factory.defaultTheme().id() + factory.defaultTheme().description();
     };
-    QCOMPARE(defaultTheme("<t id='a' producttype='book'/><t id='normal'/>").id(), QString("a"));
-    QCOMPARE(defaultTheme(""), PxTheme::voidTheme());
+    const QByteArray normal = "<t id='normal' producttype='book'><description>1</description></t>";
+    const QByteArray last = "<t id='Normal' producttype='gift'><description>2</description></t>";
+    QCOMPARE(defaultTheme("<t id='a' producttype='book'/><t id='normal'/>" + last),
+             QString("aunbekannt"));
+    QCOMPARE(defaultTheme("<t id='a' producttype='book'/>" + normal + last), QString("normal1"));
+    QCOMPARE(defaultTheme(""), QString("unbekanntunbekannt"));
+    directories->setThemesDirectory(m_directory.filePath("none"));
+    const PxLogRecorder log;
+    PxThemeFactory().init();
+    QCOMPARE(log.texts().size(), 1); // the directory
 }
 
 void PxThemeFactoryTest::instanceChoosesTheDefaultTheme()

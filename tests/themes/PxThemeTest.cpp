@@ -1,25 +1,102 @@
+#include <PxDirectoryConfig.h>
+#include <PxLogRecorder.h>
 #include <themes/PxThemeList.h>
 
 #include <QTest>
+#include <QVariant>
 
 namespace {
 
 const QDateTime farFuture(QDate(2999, 12, 31), QTime(23, 59));
+const QDateTime past(QDate(1976, 12, 30), QTime(23, 59));
 
-QImage logo()
+struct Parts
 {
-    QImage image(2, 3, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    return image;
+    QString id = "a";
+    PxProductGroup group = PxProductGroupBook;
+    QString description = "text";
+    QDateTime expiry = farFuture;
+    int thumbnailWidth = 3;
+    PxKeyAccountNumberList keyAccounts{1, 2};
+    PxProductTypeEnum typeOfLogo = PxProductTypeEnum(7);
+    int logoWidth = 4;
+    QRect placeOfLogo{5, 6, 7, 8};
+    bool useSpineText = true;
+    bool canMoveContent = false;
+    bool canUseNormalBackgrounds = true;
+    QMap<PxJigTypeEnum, QString> categories{
+        {PxJigTypeBackground, "Meer"},    {PxJigTypeClipart, "Herz"}, {PxJigTypeContent, "Reise"},
+        {PxJigTypePassepartout, "Nebel"}, {PxJigTypeFrame, "Holz"},   {PxJigTypeLayout, "Raster"}};
+    bool useSpineLogo = false;
+    QList<int> products = {};
+};
+
+PxTheme themeOf(const Parts &p)
+{
+    const auto image = [](int width) {
+        QImage blank(width, 3, QImage::Format_RGB32);
+        blank.fill(Qt::red);
+        return blank;
+    };
+    PxDefaultThematicCategories categories;
+    for (auto it = p.categories.begin(); it != p.categories.end(); ++it)
+        categories.insert(it.key(), PxThematicCategory(*it, ""));
+    PxEmptyMeansAllSet<PxProductType> products;
+    for (int type : p.products)
+        products.insert(type);
+    return PxTheme(p.id, p.group, p.description, p.expiry, image(p.thumbnailWidth), p.keyAccounts,
+                   {{p.typeOfLogo, {image(p.logoWidth), p.placeOfLogo}}}, p.useSpineText,
+                   p.canMoveContent, p.canUseNormalBackgrounds, categories, p.useSpineLogo,
+                   products);
 }
 
-PxTheme createTheme(const QString &id, const QDateTime &expiry = farFuture,
-                    const PxEmptyMeansAllSet<PxProductType> &products = {})
+PxTheme createTheme(const QString &id, const QDateTime &expiry = farFuture)
 {
-    return PxTheme(id, PxProductGroupBook, "text of " + id, expiry, QImage(), {1, 2},
-                   {{PxProductTypeEnum(7), {logo(), QRect(1, 2, 3, 4)}}}, true, false, true,
-                   {{PxJigTypeFrame, PxThematicCategory("Holz", "")}}, false, products);
+    Parts parts;
+    parts.id = id;
+    parts.description += " of " + id;
+    parts.expiry = expiry;
+    return themeOf(parts);
 }
+
+/** Each question with its answer; no two answers are the same text. */
+QStringList answersOf(const PxTheme &t)
+{
+    const auto a = [](const char *question, const QVariant &answer) {
+        return QString("%1 %2").arg(question, answer.toString());
+    };
+    const auto [logo, place] = t.vemoLogo(7);
+    return {a("id", t.id()),
+            a("description", t.description()),
+            a("isValid", t.isValid()),
+            a("group", int(t.productGroup().value())),
+            a("thumbnail", t.thumbnail().width()),
+            a("isDefault", t.isDefaultTheme()),
+            a("isDesign", t.isDesignTheme()),
+            a("hasContent", t.isThemeWithContent()),
+            a("expiry", t.expiryDate().toString("HH:mm")),
+            a("expiryDay", t.expiryDayToOrderTxt()),
+            a("isExpired", t.isExpired()),
+            a("keyAccounts", t.keyAccounts().value(1)),
+            a("isForKeyAccount", t.isValidForKeyAccount(2)),
+            a("products", t.allowedProductTypes().size()),
+            a("useSpineText", t.useSpineText()),
+            a("useSpineLogo", t.useSpineLogo()),
+            a("canMove", t.canMoveContent()),
+            a("backgrounds", t.canUseNormalBackgrounds()),
+            a("layouts", t.canUseNormalLayouts()),
+            a("mustPaintLogo", t.mustPaintVemoLogo(7)),
+            a("logo", logo.width()),
+            a("place", QString("%1,%2").arg(place.x()).arg(place.height())),
+            a("background", t.defaultBackgroundCategory().name()),
+            a("clipart", t.defaultClipartCategory().name()),
+            a("content", t.defaultContentCategory().name()),
+            a("fading", t.defaultFadingCategory().name()),
+            a("frame", t.defaultFrameCategory().name()),
+            a("layout", t.defaultCategory(PxJigTypeLayout).name())};
+}
+
+enum Sameness { Equal = 1, Hash = 2, Key = 4 };
 
 } // namespace
 
@@ -28,69 +105,101 @@ class PxThemeTest : public QObject
     Q_OBJECT
 
 private slots:
-    void voidThemeIsNoTheme();
-    void namesDecideInAnyCase();
-    void flagsAreNotCrossed();
-    void comparisonLeavesTheProductsOut();
-    void expiryAndKeyAccounts();
+    void answersEachQuestion();
+    void differsInOnePart_data();
+    void differsInOnePart();
+    void missingCatalogueIsNotReported();
     void listFindsFiltersAndOrders();
 };
 
-void PxThemeTest::voidThemeIsNoTheme()
+void PxThemeTest::answersEachQuestion()
 {
-    const PxTheme theme = PxTheme::voidTheme();
-    QVERIFY(!theme.isValid() && !theme.isDefaultTheme() && theme.isThemeWithContent());
-    QCOMPARE(theme.id() + theme.description(), QString("unbekanntunbekannt"));
-    QVERIFY(theme.canUseNormalBackgrounds() && !theme.useSpineLogo() && theme.isExpired());
-    QVERIFY(theme.defaultContentCategory().isEmpty());
-    QVERIFY(theme.vemoLogo(7).first.isNull() && !theme.vemoLogo(7).second.isValid());
-    QVERIFY(theme == PxTheme());
+    QCOMPARE(answersOf(themeOf({})),
+             QString("id a; description text; isValid true; group 8; thumbnail 3; isDefault false; "
+                     "isDesign false; hasContent true; expiry 23:59; expiryDay 2999-12-31; "
+                     "isExpired false; keyAccounts 2; isForKeyAccount true; products 0; "
+                     "useSpineText true; useSpineLogo false; canMove false; backgrounds true; "
+                     "layouts false; mustPaintLogo true; logo 4; place 5,8; background Meer; "
+                     "clipart Herz; content Reise; fading Nebel; frame Holz; layout Raster")
+                 .split("; "));
+    QCOMPARE(answersOf(PxTheme::voidTheme()),
+             QString("id unbekannt; description unbekannt; isValid false; group 0; thumbnail 0; "
+                     "isDefault false; isDesign false; hasContent true; expiry ; expiryDay ; "
+                     "isExpired true; keyAccounts 0; isForKeyAccount false; products 0; "
+                     "useSpineText false; useSpineLogo false; canMove false; backgrounds true; "
+                     "layouts false; mustPaintLogo false; logo 0; place 0,0; background ; "
+                     "clipart ; content ; fading ; frame ; layout ")
+                 .split("; "));
+    QCOMPARE(PxTheme::voidTheme(), PxTheme());
+    QVERIFY(!PxTheme().vemoLogo(7).second.isValid());
 }
 
-void PxThemeTest::namesDecideInAnyCase()
+void PxThemeTest::differsInOnePart_data()
 {
-    QVERIFY(createTheme("NORMAL").isDefaultTheme() && !createTheme("NORMAL").isThemeWithContent());
-    QVERIFY(createTheme("Design").isDesignTheme() && createTheme("Design").isThemeWithContent());
+    QTest::addColumn<PxTheme>("theme");
+    QTest::addColumn<int>("same"); // in spite of the difference
+    // Its name is the questions whose answers differ.
+    const auto row = [](const char *questions, int same, void (*change)(Parts &)) {
+        Parts parts;
+        change(parts);
+        QTest::newRow(questions) << themeOf(parts) << same;
+    };
+    row("id", 0, [](Parts &p) { p.id = "A"; });
+    row("id isDefault hasContent", 0, [](Parts &p) { p.id = "NORMAL"; });
+    row("id isDesign", 0, [](Parts &p) { p.id = "Design"; });
+    row("description", Hash, [](Parts &p) { p.description = "Text"; });
+    row("isValid group", Hash, [](Parts &p) { p.group = PxProductGroupUnknown; });
+    row("thumbnail", Hash | Key, [](Parts &p) { p.thumbnailWidth = 9; });
+    row("expiry", 0, [](Parts &p) { p.expiry = farFuture.addSecs(-60); });
+    row("expiryDay isExpired", 0, [](Parts &p) { p.expiry = past; });
+    row("keyAccounts isForKeyAccount", Hash, [](Parts &p) { p.keyAccounts = {1, 3}; });
+    row("products", Equal | Hash | Key, [](Parts &p) { p.products = {7}; });
+    row("useSpineText", Hash, [](Parts &p) { p.useSpineText = false; });
+    row("useSpineLogo", Hash, [](Parts &p) { p.useSpineLogo = true; });
+    row("canMove", Hash, [](Parts &p) { p.canMoveContent = true; });
+    row("backgrounds", Hash, [](Parts &p) { p.canUseNormalBackgrounds = false; });
+    row("mustPaintLogo logo place", Hash, [](Parts &p) { p.typeOfLogo = PxProductTypeEnum(8); });
+    row("logo", Hash | Key, [](Parts &p) { p.logoWidth = 9; });
+    row("place", Hash, [](Parts &p) { p.placeOfLogo.setHeight(9); });
+    row("background", Hash, [](Parts &p) { p.categories[PxJigTypeBackground] = "Wald"; });
+    row("frame", Hash | Key | Equal, [](Parts &p) { p.categories[PxJigTypeFrame] = "HOLZ"; });
+    row("layout", Hash, [](Parts &p) { p.categories[PxJigTypeLayout] = "Wald"; });
 }
 
-void PxThemeTest::flagsAreNotCrossed()
+void PxThemeTest::differsInOnePart()
 {
-    const PxTheme theme = createTheme("a");
-    QVERIFY(theme.useSpineText() && !theme.canMoveContent() && theme.canUseNormalBackgrounds());
-    QVERIFY(!theme.useSpineLogo() && !theme.canUseNormalLayouts());
-    QVERIFY(theme.mustPaintVemoLogo(PxProductType(7)) && !theme.mustPaintVemoLogo(8));
-    QCOMPARE(theme.vemoLogo(7).second, QRect(1, 2, 3, 4));
-    QCOMPARE(theme.defaultFrameCategory().name(), QString("Holz"));
-    QVERIFY(theme.defaultFadingCategory().isEmpty());
+    QFETCH(PxTheme, theme);
+    QFETCH(int, same);
+    const PxTheme base = themeOf({});
+    const QStringList answers = answersOf(theme);
+    QStringList different;
+    for (const QString &answer : answersOf(base)) {
+        if (!answers.contains(answer))
+            different.append(answer.section(' ', 0, 0));
+    }
+    QCOMPARE(different.join(' '), QString(QTest::currentDataTag()));
+    QCOMPARE(theme == base, (same & Equal) != 0);
+    QCOMPARE(theme != base, (same & Equal) == 0);
+    QCOMPARE(qHash(theme, 5) == qHash(base, 5), (same & Hash) != 0);
+    QCOMPARE(theme.sortingKey() == base.sortingKey(), (same & Key) != 0);
+    QCOMPARE(qHash(theme), qHash(theme, 0));
 }
 
-void PxThemeTest::comparisonLeavesTheProductsOut()
+void PxThemeTest::missingCatalogueIsNotReported()
 {
-    PxEmptyMeansAllSet<PxProductType> products;
-    products.insert(PxProductType(7));
-    const PxTheme all = createTheme("a");
-    const PxTheme few = createTheme("a", farFuture, products);
-    QVERIFY(all == few);
-    QCOMPARE(qHash(all, 5), qHash(few, 5));
-    QVERIFY(all != createTheme("b") && all != createTheme("a", farFuture.addSecs(1)));
-}
-
-void PxThemeTest::expiryAndKeyAccounts()
-{
-    const PxTheme old = createTheme("a", QDateTime(QDate(1976, 12, 30), QTime(23, 59)));
-    QCOMPARE(old.expiryDayToOrderTxt(), QString("1976-12-30"));
-    QVERIFY(old.isExpired() && !createTheme("a").isExpired());
-    QVERIFY(old.isValidForKeyAccount(2) && !old.isValidForKeyAccount(3));
-    QVERIFY(!PxTheme().isValidForKeyAccount(0));
+    PxDirectoryConfig::instance()->setResourceDirectories({QDir::tempPath() + "/none"});
+    const PxLogRecorder log;
+    QVERIFY(!PxProductType(7).isValid());
+    QCOMPARE(log.texts(), QStringList());
 }
 
 void PxThemeTest::listFindsFiltersAndOrders()
 {
-    const QDateTime past(QDate(2001, 1, 1), QTime(0, 0));
     PxThemeList list({createTheme("a"), createTheme("normal"), createTheme("b", past),
                       createTheme("design"), createTheme("a", past)});
     QCOMPARE(list.findTheme("a").expiryDate(), farFuture);
-    QVERIFY(!list.contains(QString("A")) && !list.findTheme("A").isValid());
+    QVERIFY(!list.contains(QString("A")));
+    QVERIFY(!list.findTheme("A").isValid());
     QCOMPARE(list.filter(2, true).asCommaSeparatedIDList(), QString("a,normal,design"));
     QCOMPARE(list.filter(2, false).asCommaSeparatedIDList(), QString("b,a"));
     QVERIFY(list.filter(3, true).isEmpty());
