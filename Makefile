@@ -9,11 +9,12 @@ BUILD = build/$(PRESET)
 PACKAGES = ccache cmake g++ libxml2-utils ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools tzdata
 ROOT = $(if $(filter 0,$(shell id -u)),,sudo)
 
-.PHONY: help demo check platform bench benchmarks fuzz valgrind clang tidy build setup clean
+.PHONY: help demo check quick platform bench benchmarks fuzz valgrind clang tidy build setup clean
 
 help:
 	@echo "make demo       set up, build, and show what the library answers about the sample catalogue"
 	@echo "make check      set up, build, and run every test (PRESET=debug|release|asan|tsan, WERROR=ON)"
+	@echo "make quick      the same without the tests that take long (hostile files, headers alone)"
 	@echo "make platform   the same tests against the platform as a package of its own, all built with clang"
 	@echo "make valgrind   the demo under valgrind, which must find nothing"
 	@echo "make bench      build Release and print what start-up and answers cost, beside what they may cost"
@@ -38,6 +39,9 @@ valgrind: demo
 
 check: build
 	ctest --preset $(PRESET) -j $(JOBS)
+
+quick: build
+	ctest --preset $(PRESET) -j $(JOBS) --label-exclude '^slow$$'
 
 # What is built here sees of the editions only what they install. With clang, as C++20, so that this is tried as well.
 platform: PACKAGES += clang libbenchmark-dev
