@@ -143,8 +143,10 @@ void PxAnswersTest::writeFiles() const
     }
     m_directory.writeProductTypes(types);
     QByteArray themes;
-    for (const Block &block : m_themes)
-        themes += "<theme " + block.file.toUtf8() + "</theme>";
+    for (const Block &block : m_themes) {
+        if (block.file.contains('>')) // else it is an id that no theme has
+            themes += "<theme " + block.file.toUtf8() + "</theme>";
+    }
     m_directory.write("themes/a.xml", "<themes>" + themes + "</themes>");
     m_directory.write("preview.png", PxPictures::png({7, 5}));
 }
