@@ -5,16 +5,20 @@ WERROR ?= OFF
 JOBS ?= 2
 FUZZ_SECONDS ?= 600
 FUZZ_SEED ?= 0
+COUNT ?= 60
+SEED ?= 1
+FOLDER ?= src
 BUILD = build/$(PRESET)
 PACKAGES = ccache cmake g++ libxml2-utils ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools tzdata
 ROOT = $(if $(filter 0,$(shell id -u)),,sudo)
 
-.PHONY: help demo check quick platform bench benchmarks fuzz valgrind clang tidy build setup clean
+.PHONY: help demo check quick mutants platform bench benchmarks fuzz valgrind clang tidy build setup clean
 
 help:
 	@echo "make demo       set up, build, and show what the library answers about the sample catalogue"
 	@echo "make check      set up, build, and run every test (PRESET=debug|release|asan|tsan, WERROR=ON)"
 	@echo "make quick      the same without the tests that take long (hostile files, headers alone)"
+	@echo "make mutants    put COUNT=60 small faults into the code, and list those that no test notices (SEED=1, FOLDER=src)"
 	@echo "make platform   the same tests against the platform as a package of its own, all built with clang"
 	@echo "make valgrind   the demo under valgrind, which must find nothing"
 	@echo "make bench      build Release and print what start-up and answers cost, beside what they may cost"
@@ -42,6 +46,10 @@ check: build
 
 quick: build
 	ctest --preset $(PRESET) -j $(JOBS) --label-exclude '^slow$$'
+
+mutants: PACKAGES += python3
+mutants: setup
+	JOBS=$(JOBS) tests/mutants/mutants.py $(COUNT) $(SEED) $(FOLDER)
 
 # What is built here sees of the editions only what they install. With clang, as C++20, so that this is tried as well.
 platform: PACKAGES += clang libbenchmark-dev
