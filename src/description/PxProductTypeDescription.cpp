@@ -212,7 +212,7 @@ QString PxProductTypeDescription::firstEntries(const QString &list, const char *
 {
     int entries = 1;
     int end = -1;
-    for (int i = list.indexOf(QLatin1Char(',')); i >= 0;
+    for (int i = list.indexOf(QLatin1Char(',')); i != -1;
          i = list.indexOf(QLatin1Char(','), i + 1)) {
         if (entries++ == maximumListEntries)
             end = i;

@@ -215,10 +215,9 @@ QList<int> PxProductTypeDescription::productionNumberingList(int pageCount) cons
     if (count < pageCount)
         warnOfTooManyPages("productionNumberingList", pageCount);
     QList<int> numbers = m_productionNumberingPages.mid(0, count);
-    if (count > 0 && numbers.isEmpty())
-        numbers.append(1);
+    int last = numbers.isEmpty() ? 0 : numbers.constLast();
     while (numbers.size() < count)
-        numbers.append(pxClampedSum(numbers.constLast(), 1));
+        numbers.append(last = pxClampedSum(last, 1));
     return numbers;
 }
 
