@@ -1,5 +1,6 @@
 #include <PxDirectoryConfig.h>
 #include <PxLogRecorder.h>
+#include <PxProductType.h>
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -44,6 +45,7 @@ void PxDirectoryConfigTest::takesTheDirectoriesOfTheEnvironment()
 void PxDirectoryConfigTest::reportsWhatIsMissing()
 {
     const PxLogRecorder log;
+    QVERIFY(!PxProductType(7).isValid()); // nobody has to have a catalogue
     for (bool isNeeded : {false, true}) {
         QCOMPARE(log.texts(), QStringList());
         PxDirectoryConfig::instance()->resource("logo.png", isNeeded);
@@ -63,6 +65,14 @@ void PxDirectoryConfigTest::answersOneNameWithAPathOfItsOwn()
     config->setResource("products", "elsewhere");
     QCOMPARE(config->resource("products", false), QDir::current().filePath("elsewhere"));
     QCOMPARE(config->resource("products/legacy", false), m_root.filePath("second/products/legacy"));
+    const PxLogRecorder log;
+    config->resource("products", false);
+    config->setResource("products", "first");
+    config->resource("products", true);
+    QCOMPARE(log.texts(), QStringList());
+    config->setResource("products", "elsewhere");
+    config->resource("products", true);
+    QCOMPARE(log.texts().filter("\"products\" is missing, set to").size(), 1);
     config->setResource("products", QString());
     QCOMPARE(config->resource("products", false), before);
 }

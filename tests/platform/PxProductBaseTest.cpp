@@ -20,9 +20,11 @@ class PxProductBaseTest : public QObject
 private slots:
     void initTestCase();
     void findsByCodeAndName();
+    void isOfOneClass();
     void keepsAnUnknownCode();
     void isAKeyByCodeAlone();
     void leavesOutBadRows();
+    void countsFurtherBadRows();
     void saysWhyItCannotBeRead();
     void orientationIsReadFromTextBeforeSize();
     void groupIsReadFromOneKeyword();
@@ -48,31 +50,53 @@ void PxProductBaseTest::initTestCase()
     write("<producttypes><!-- all -->"
           "<producttype code='11' name=' Book_A4 ' class='book' shortname='BA4'/>"
           "<other/><producttype code='12' name='Foil\u00C4' class=' Deko ' shortname=''/>"
-          "</producttypes>");
+          "<producttype code='13' name='C' class='calendar'/>"
+          "<producttype code='14' name='D' class='gift'/>"
+          "<producttype code='15' name='E' class='card'/>"
+          "<producttype code='16' name='F' class='print'/></producttypes>");
     PxDirectoryConfig::instance()->setResourceDirectories({m_directory.path()});
 }
 
 void PxProductBaseTest::findsByCodeAndName()
 {
     const PxProductType book("  bOOk_a4\n");
-    QVERIFY(book.isValid() && book.isBook());
+    QVERIFY(book.isValid());
     QCOMPARE(book, PxProductType(11));
+    QVERIFY(book != PxProductType(12));
     QCOMPARE(book.productName() + book.shortProductName(), QString("Book_A4BA4"));
-
     const PxProductType foil("FOIL\u00E4");
     QCOMPARE(foil, PxProductType(12));
-    QVERIFY(foil.isDeko() && !foil.isBook() && !foil.isCalendar() && !foil.isGift());
-    QVERIFY(foil.isProductClass(PxProductClass(PxProductClassDecoration | PxProductClassCard)));
     QCOMPARE(foil.shortProductName(), QString("Foil\u00C4"));
+    QVERIFY(foil.isProductClass(PxProductClass(PxProductClassDecoration | PxProductClassCard)));
+}
+
+void PxProductBaseTest::isOfOneClass()
+{
+    const auto classes = [](int code) {
+        const PxProductType t(code);
+        QByteArray all;
+        for (bool is : {t.isBook(), t.isCalendar(), t.isGift(), t.isCard(), t.isDeko()})
+            all += is ? '1' : '0';
+        return all;
+    };
+    QCOMPARE(classes(11), QByteArray("10000"));
+    QCOMPARE(classes(13), QByteArray("01000"));
+    QCOMPARE(classes(14), QByteArray("00100"));
+    QCOMPARE(classes(15), QByteArray("00010"));
+    QCOMPARE(classes(12), QByteArray("00001"));
+    QCOMPARE(classes(16), QByteArray("00000"));
 }
 
 void PxProductBaseTest::keepsAnUnknownCode()
 {
     const PxProductType unknown(99);
-    QVERIFY(!unknown.isValid() && !unknown.isProductClass(PxProductClass(-1)));
-    QVERIFY(unknown.type() == 99 && unknown.productName().isEmpty());
+    QVERIFY(!unknown.isValid());
+    QVERIFY(!unknown.isProductClass(PxProductClass(-1)));
+    QCOMPARE(int(unknown.type()), 99);
+    QCOMPARE(unknown.productName() + unknown.shortProductName(), QString());
     QCOMPARE(int(PxProductType("no such book").type()), 0);
-    QVERIFY(!PxProductType(QString()).isValid() && !PxProductType(0).isValid());
+    QVERIFY(!PxProductType(QString()).isValid());
+    QVERIFY(!PxProductType(0).isValid());
 }
 
 void PxProductBaseTest::isAKeyByCodeAlone()
@@ -81,6 +105,7 @@ void PxProductBaseTest::isAKeyByCodeAlone()
     std::sort(list.begin(), list.end());
     QCOMPARE(list, PxProductTypeList({PxProductType("book_a4"), 12, 99}));
     QCOMPARE(qHash(PxProductType("book_a4"), 5), qHash(PxProductType(11), 5));
+    QCOMPARE(qHash(PxProductType(11)), qHash(PxProductType(11), 0));
 }
 
 void PxProductBaseTest::leavesOutBadRows()
@@ -110,7 +135,21 @@ void PxProductBaseTest::leavesOutBadRows()
                                           file.filePath() + "\": " + row.reason));
         QCOMPARE(catalogue.find(1)->productClass, PxProductClassCard);
         QCOMPARE(catalogue.find("c")->type, PxProductTypeEnum(3));
-        QVERIFY(!catalogue.find(7) && !catalogue.find("B"));
+        QVERIFY(!catalogue.find(7));
+        QVERIFY(!catalogue.find("B"));
+    }
+}
+
+void PxProductBaseTest::countsFurtherBadRows()
+{
+    for (const int bad : {100, 102}) {
+        const QFileInfo file =
+            write("<producttypes>" + QString("<producttype/>").repeated(bad) + "</producttypes>");
+        const PxLogRecorder log;
+        PxProductTypeCatalogue{file};
+        QCOMPARE(log.texts().size(), qMin(bad, 101));
+        QCOMPARE(log.texts().filter("leaves out 2 more rows of \"" + file.filePath()).size(),
+                 bad > 100 ? 1 : 0);
     }
 }
 
@@ -135,12 +174,15 @@ void PxProductBaseTest::orientationIsReadFromTextBeforeSize()
     };
     QCOMPARE(orientation(" Round, panorama ", 1, 2), 40);
     QCOMPARE(int(PxOrientation(" Round, panorama ").value()), 40);
+    QCOMPARE(int(PxOrientation("portraitpanorama").value()), 16);
     QCOMPARE(orientation("square", 1, 2), 4);
     QCOMPARE(orientation("", 2.1, 2), 2);
     QCOMPARE(orientation("", 2, 2.1), 1);
     QCOMPARE(orientation("", 3, 3), 4);
     QCOMPARE(orientation("", -1, -1), 0);
     QCOMPARE(orientation("", 3, 0), 0);
+    QCOMPARE(orientation("", 0, 3), 0);
+    QCOMPARE(orientation("", 0.5, 0.75), 1);
     QCOMPARE(orientation("", qQNaN(), qQNaN()), 0);
 }
 
@@ -182,6 +224,9 @@ void PxProductBaseTest::asksTheCalculatorAddedLast()
 {
     PxPageOrganizationManager *manager = PxPageOrganizationManager::instance();
     QVERIFY(manager->pageCountOrganzation(70) == PxPageCountOrganization(1, 1, 0));
+    for (const auto &[minimum, maximum, increment] : {std::array{2, 1, 0}, {1, 2, 0}, {1, 1, 1}})
+        QVERIFY(!(PxPageCountOrganization(1, 1, 0) ==
+                  PxPageCountOrganization(minimum, maximum, increment)));
 
     manager->addCalculator(new Calculator(5));
     manager->addCalculator(new Calculator(unsigned(-1))); // how a missing number arrives here
@@ -198,11 +243,18 @@ void PxProductBaseTest::asksTheCheckersOfAKind()
     static Checker four(40, 4); // registered for the life of the process
     static Checker five(50, 5);
     QVERIFY(!registry->isValid(40, 0));
-    QVERIFY(registry->registerChecker(&four) && registry->registerChecker(&five));
-    QVERIFY(!registry->registerChecker(&four) && !registry->registerChecker(nullptr));
-
-    QVERIFY(registry->isValid(40, 0) && registry->isValid(50, 0) && !registry->isValid(41, 0));
-    QVERIFY(registry->isValid(40, 4) && !registry->isValid(40, 5) && !registry->isValid(40, 6));
+    QVERIFY(registry->registerChecker(&four));
+    QVERIFY(registry->registerChecker(&five));
+    QVERIFY(!registry->registerChecker(&four));
+    QVERIFY(!registry->registerChecker(nullptr));
+    for (const auto &[type, kind, isValid] : {std::tuple(40, 0, true),
+                                              {50, 0, true},
+                                              {41, 0, false},
+                                              {40, 4, true},
+                                              {40, 5, false},
+                                              {40, 6, false}})
+        QVERIFY2(registry->isValid(type, kind) == isValid,
+                 QByteArray::number(type) + " of kind " + QByteArray::number(kind));
 }
 
 QTEST_GUILESS_MAIN(PxProductBaseTest)

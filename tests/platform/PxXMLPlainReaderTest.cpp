@@ -1,6 +1,7 @@
 #include <PxElement.h>
 #include <PxXMLPlainReader.h>
 #include <PxXMLStrictReader.h>
+#include <PxXMLTextPool.h>
 
 #include <QDirIterator>
 #include <QTest>
@@ -16,6 +17,8 @@ private slots:
     void initTestCase();
     void readsTheSampleCatalogue();
     void leavesWhatIsOddToTheStrictReader();
+    void readsWhatIsPlain();
+    void sharesTextsWithinAThread();
     void agreesAboutMutations();
 
 private:
@@ -47,65 +50,20 @@ QString difference(const QByteArray &xml)
 /** One to four small damages, of the kinds that editing, copying and transmitting do. */
 QByteArray mutated(QByteArray xml, std::mt19937 &random)
 {
+    // clang-format off
     static const QList<QByteArray> pieces{
-        "<",
-        ">",
-        "/",
-        "&",
-        ";",
-        "\"",
-        "'",
-        "=",
-        "\r\n",
-        "\t",
-        "]]>",
-        "--",
-        "<!--",
-        "-->",
-        "<?",
-        "?>",
-        "&amp;",
-        "&#65;",
-        "&lt;",
-        "&x;",
-        " a='1'",
-        " a=1",
-        "<b/>",
-        "</product>",
-        "<![CDATA[",
-        "<p:q/>",
-        " xml:a=''",
-        "\xC3\xA4",
-        "\xEF\xBB\xBF",
-        "\xEF\xBF\xBE",
-        "\xED\xA0\x80",
-        "\xC2\xA0",
-    };
+        "<", ">", "/", "&", ";", "\"", "'", "=", "\r\n", "\t", "]]>", "--", "<!--", "-->",
+        "<?", "?>", "&amp;", "&#65;", "&lt;", "&x;", " a='1'", " a=1", "<b/>", "</product>",
+        "<![CDATA[", "<p:q/>", " xml:a=''", "\xC3\xA4", "\xEF\xBB\xBF", "\xEF\xBF\xBE",
+        "\xED\xA0\x80", "\xC2\xA0"};
+    // clang-format on
     const auto below = [&random](int end) { return int(random() % unsigned(qMax(1, end))); };
     for (int count = 1 + below(4); count > 0; --count) {
-        const int position = below(xml.size());
-        const int length = below(4) ? 1 + below(3) : below(xml.size() / 2);
-        switch (below(6)) {
-        case 0:
-            xml.remove(position, length);
-            break;
-        case 1:
-            xml.insert(position, xml.mid(position, length));
-            break;
-        case 2:
-            xml.insert(below(xml.size()), xml.mid(position, length));
-            break;
-        case 3:
-            xml[position] = char(below(256));
-            break;
-        case 4:
-            xml.insert(position, pieces[below(pieces.size())]);
-            break;
-        default:
-            xml.replace(position, length, pieces[below(pieces.size())]);
-        }
-        if (xml.isEmpty())
-            return xml;
+        const int length = below(4) ? below(4) : below(xml.size() / 2);
+        const QByteArray with[] = {"", pieces[below(pieces.size())],
+                                   QByteArray(1, char(below(256))),
+                                   xml.mid(below(xml.size()), length)};
+        xml.replace(below(xml.size()), below(2) * length, with[below(4)]);
     }
     return xml;
 }
@@ -140,7 +98,7 @@ void PxXMLPlainReaderTest::leavesWhatIsOddToTheStrictReader()
         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<a/>", "<?xml version=\"1.0\" encoding=\"utf-8\" ?><a/>", "<?xml version=\"1.0\" encoding=\"Latin1\"?><a/>",
         "<?xml version='1.0' standalone='yes'?><a/>", "<?xml version=\"1.1\"?><a/>", "<?xml version=\"1.0\"?>", "<?xml?><a/>", "<?xml version=\"1.0\"?><?xml version=\"1.0\"?><a/>",
         "<!DOCTYPE a><a/>", "<!DOCTYPE a [<!ENTITY b 'c'>]><a>&b;</a>", "\xEF\xBB\xBF<a/>", "\xEF\xBB\xBF\xEF\xBB\xBF<a/>", "<a/>\xEF\xBB\xBF", "\xFF\xFE<\0a\0/\0>\0",
-        "<a b='1'c='2'/>", "<a b='1' b='1'/>", "<a b = \n'1' />", "<a b='\"' c=\"'\"/>", "<a 1='1'/>", "<a.b-c_d/>", "<-a/>", "<.a/>", "<1/>", "<_/>", "<a b/>",
+        "<a b=/>", "<a b=></a>", "<a b=x1x/>", "<a b='1'c='2'/>", "<a b='1' b='1'/>", "<a b = \n'1' />", "<a b='\"' c=\"'\"/>", "<a 1='1'/>", "<a.b-c_d/>", "<-a/>", "<.a/>", "<1/>", "<_/>", "<a b/>",
         "<p:a xmlns:p='u'/>", "<a xmlns='u'/>", "<:a/>", "<a:/>", "<\xC3\xA4/>", "<a \xC3\xA4='1'/>", "<a>\n</a\n>", "<a/ >", "< a/>", "</ a>", "<a></ a>", "<a b='<'/>", "<a b='>'/>",
         "<a><b></a></b>", "<a/>\0", "<!---><a/>", "<!----><a/>", "<!--a--b--><a/>", "<!--a---><a/>", "<!-- & \xC3\xA4 --><a/>", "<!--\r\n\t--><a/>", "<!--", "<!-- --", "<a xml='1'/>", "<xml/>",
     };
@@ -163,18 +121,79 @@ void PxXMLPlainReaderTest::leavesWhatIsOddToTheStrictReader()
                  xml.toPercentEncoding("<>='/") + qPrintable(difference(xml)));
 }
 
+void PxXMLPlainReaderTest::readsWhatIsPlain()
+{
+    const auto tag = [](int attributes) {
+        QByteArray xml = "<a";
+        for (int i = 0; i < attributes; ++i)
+            xml += " b" + QByteArray::number(i) + "='&lt;'";
+        return xml + "/>";
+    };
+    const auto nested = [](int depth) {
+        return QByteArray("<a>").repeated(depth) + QByteArray("</a>").repeated(depth);
+    };
+    const auto siblings = [](int count) {
+        return "<r>" + QByteArray("<b/>").repeated(count) + "</r>";
+    };
+    const struct
+    {
+        QByteArray xml;
+        bool isRead;
+    } rows[] = {{"<a.z-Z_9>\xC2\xA0</a.z-Z_9>", true},
+                {"<a b=\"'\" >x&gt;<b/></a >", true},
+                {tag(64), true},
+                {tag(65), false},
+                {nested(256), true},
+                {nested(257), false},
+                {siblings(19999), true},
+                {siblings(20000), false}};
+    for (const auto &row : rows)
+        QVERIFY2(plain(row.xml).isNull() != row.isRead, row.xml.left(80));
+}
+
+void PxXMLPlainReaderTest::sharesTextsWithinAThread()
+{
+    const auto isShared = [](int length) {
+        const PxXMLTextPool::Loan pool = PxXMLTextPool::lend();
+        const std::string text(std::size_t(length), 'x');
+        const QString first = pool->text(text);
+        return pool->text(text).constData() == first.constData();
+    };
+    QVERIFY(isShared(64));
+    QVERIFY(!isShared(65));
+
+    std::vector<PxXMLTextPool::Loan> loans;
+    QStringList texts;
+    const auto hasText = [&texts](const PxXMLTextPool::Loan &pool) {
+        const QChar *own = pool->text("recurring").constData();
+        return std::any_of(texts.begin(), texts.end(),
+                           [own](const QString &text) { return text.constData() == own; });
+    };
+    for (int i = 0; i < 17; ++i) {
+        loans.push_back(PxXMLTextPool::lend());
+        texts.append(loans.back()->text("recurring"));
+    }
+    loans.clear();
+    bool hasForeignText = true;
+    std::thread([&] { hasForeignText = hasText(PxXMLTextPool::lend()); }).join();
+    QVERIFY(!hasForeignText);
+    for (int i = 0; i < 17; ++i)
+        loans.push_back(PxXMLTextPool::lend());
+    QCOMPARE(int(std::count_if(loans.begin(), loans.end(), hasText)), 16); // so many are kept
+}
+
 void PxXMLPlainReaderTest::agreesAboutMutations()
 {
     std::mt19937 random(1); // the same ones in every run
     int readCount = 0;
-    for (int i = 0; i < 6000; ++i) {
+    for (int i = 0; i < 3000; ++i) {
         const QByteArray sample = m_samples[int(random() % unsigned(m_samples.size()))];
         const QByteArray xml = mutated(sample, random);
         const QString found = difference(xml); // once: QVERIFY2 always makes its text
         QVERIFY2(found.isEmpty(), xml + qPrintable(found));
         readCount += plain(xml).isNull() ? 0 : 1;
     }
-    QVERIFY2(readCount > 500, "hardly anything was compared");
+    QVERIFY2(readCount > 250, "hardly anything was compared");
 }
 
 QTEST_GUILESS_MAIN(PxXMLPlainReaderTest)

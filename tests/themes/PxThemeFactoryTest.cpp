@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QTest>
+#include <QVariant>
 
 #include <unistd.h>
 
@@ -15,16 +16,19 @@ class PxThemeFactoryTest : public QObject
 
 private slots:
     void initTestCase();
+    void readsEveryItemOfATheme();
+    void differsInOneItem_data();
+    void differsInOneItem();
     void missingItemsGetDefaults();
     void strayNodesAreThemesButBlanksAreNot();
     void themesOfOneFileAreBounded();
     void damagedAndForeignFilesAreLeftOut();
     void bothEndingsAreReadAndTheIndexTakesTheLast();
-    void findsImagesWithoutASuffix();
     void imagesAreReadOnceAndWithinBounds();
     void warnsOfNamesThatCannotBeDecoded();
     void defaultThemeFallsBackToTheFirst();
     void instanceChoosesTheDefaultTheme();
+    void listFindsFiltersAndOrders();
 
 private:
     PxThemeList load(const char *file, const QByteArray &themes);
@@ -38,6 +42,8 @@ void PxThemeFactoryTest::initTestCase()
     m_directory.writeProductTypes("7 book BOOK\n8 gift CUP");
     m_directory.write("logo.png", "");
     QImage(5, 6, QImage::Format_RGB32).save(m_directory.filePath("logo.png"));
+    QImage(9, 2, QImage::Format_RGB32).save(m_directory.filePath("thumbnail.png"));
+    QVERIFY(QDir::setCurrent(m_directory.filePath(QString()))); // where thumbnails are looked up
 }
 
 PxThemeList PxThemeFactoryTest::load(const char *file, const QByteArray &themes)
@@ -47,12 +53,121 @@ PxThemeList PxThemeFactoryTest::load(const char *file, const QByteArray &themes)
     return m_factory.loadThemeList(directory);
 }
 
-void PxThemeFactoryTest::missingItemsGetDefaults()
+// clang-format off
+static const QByteArray ourTheme = R"(<Themes><any id="Reise" producttype=" book" expiry="205001022304" thumbnail="thumbnail.PNG">
+    <description>Große Reise</description>
+    <keyaccounts><a>12</a><b>x</b><c>13</c></keyaccounts>
+    <products><product>cup</product><product>none</product><other>BOOK</other></products>
+    <logos><l filename="none.png" booktype="book" width="1" height="1"/>
+           <l filename="LOGO.PNG" booktype="book" x="1" y="2" width="3" height="4"/></logos>
+    <spinetext use="true"/><spinelogo use="false"/><content movable="true" normalBackgrounds="false"/>
+    <defaultcategories background="B" clipart="C" fading="F" content="I" frame="R" layout="L"/>
+    </any></Themes>)";
+
+/** Each question with its answer; no two texts among the answers are the same. */
+static QStringList answersOf(const PxTheme &t)
+{
+    const auto a = [](const char *question, const QVariant &answer) { return QString("%1 %2").arg(question, answer.toString()); };
+    const auto [logo, place] = t.vemoLogo(7);
+    return {
+        a("id", t.id()), a("description", t.description()), a("isValid", t.isValid()), a("group", int(t.productGroup().value())),
+        a("thumbnail", t.thumbnail().width()), a("isDefault", t.isDefaultTheme()), a("isDesign", t.isDesignTheme()), a("hasContent", t.isThemeWithContent()),
+        a("expiry", t.expiryDate().toString("HH:mm")), a("expiryDay", t.expiryDayToOrderTxt()), a("isExpired", t.isExpired()),
+        a("keyAccounts", t.keyAccounts().value(2)), a("isForKeyAccount", t.isValidForKeyAccount(13)), a("products", t.allowedProductTypes().contains(8)),
+        a("useSpineText", t.useSpineText()), a("useSpineLogo", t.useSpineLogo()), a("canMove", t.canMoveContent()),
+        a("backgrounds", t.canUseNormalBackgrounds()), a("layouts", t.canUseNormalLayouts()),
+        a("hasLogo", t.mustPaintVemoLogo(7)), a("hasLogoOnCup", t.mustPaintVemoLogo(8)), a("logo", logo.width()), a("place", place.x() * 10 + place.height()),
+        a("background", t.defaultBackgroundCategory().name()), a("clipart", t.defaultClipartCategory().name()), a("content", t.defaultContentCategory().name()),
+        a("fading", t.defaultFadingCategory().name()), a("frame", t.defaultFrameCategory().name()), a("layout", t.defaultCategory(PxJigTypeLayout).name())};
+}
+// clang-format on
+
+void PxThemeFactoryTest::readsEveryItemOfATheme()
 {
     const PxLogRecorder log;
-    QCOMPARE(load("bare/a.xml", "<themes><t/></themes>").value(0).id(), QString("unbekannt"));
+    const PxThemeList themes = load("full/a.xml", ourTheme);
+    QCOMPARE(log.texts(), QStringList("PxThemeFactory::loadThemeList() 1")); // no missing image
+    QCOMPARE(themes.size(), 1);
+    QCOMPARE(answersOf(themes[0]),
+             QString("id reise; description Große Reise; isValid true; group 8; thumbnail 9; "
+                     "isDefault false; isDesign false; hasContent true; expiry 23:04; "
+                     "expiryDay 2050-01-02; isExpired false; keyAccounts 13; isForKeyAccount true; "
+                     "products true; useSpineText true; useSpineLogo false; canMove true; "
+                     "backgrounds false; layouts false; hasLogo true; hasLogoOnCup false; logo 5; "
+                     "place 14; background B; clipart C; content I; fading F; frame R; layout L")
+                 .split("; "));
+    QCOMPARE(themes[0].keyAccounts(), QList<int>({12, 0, 13}));
+    QCOMPARE(themes[0].allowedProductTypes().values(), QList<PxProductType>{8});
+    QCOMPARE(themes[0].vemoLogo(7).second, QRect(1, 2, 3, 4));
+}
+
+enum { Equal = 1, Hash = 2, Key = 4 };
+
+void PxThemeFactoryTest::differsInOneItem_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    QTest::addColumn<int>("same"); // in spite of the difference
+    // Its name is the questions whose answers differ.
+    const auto row = [](const char *questions, const QByteArray &before, const QByteArray &after,
+                        int same) { QTest::newRow(questions) << before << after << same; };
+    row("id", "Reise\"", "Rast\"", 0);
+    row("id isDefault hasContent", "Reise\"", "NORMAL\"", 0);
+    row("id isDesign", "Reise\"", "Design\"", 0);
+    row("description", "Große", "Kleine", Hash);
+    row("isValid group", "type=\" book", "type=\"books", Hash);
+    row("thumbnail", "thumbnail.", "logo.", Hash | Key);
+    row("expiry", "22304", "22305", 0);
+    row("expiryDay isExpired", "2050", "1950", 0);
+    row("keyAccounts isForKeyAccount", "13", "14", Hash);
+    row("products", "cup", "pot", Equal | Hash | Key);
+    row("useSpineText", "spinetext use=\"true", "spinetext use=\"0", Hash);
+    row("useSpineLogo", "spinelogo use=\"false", "spinelogo use=\"1", Hash);
+    row("canMove", "movable=\"true", "movable=\"0", Hash);
+    row("backgrounds", "Backgrounds=\"false", "Backgrounds=\"1", Hash);
+    row("hasLogo hasLogoOnCup logo place", "booktype=\"book", "booktype=\"cup", Hash);
+    row("logo", "LOGO.", "thumbnail.", Hash | Key);
+    row("place", "y=\"2\" width=\"3\" height=\"4", "y=\"2\" width=\"3\" height=\"5", Hash);
+    row("background", "\"B\"", "\"L\"", Hash);
+    row("frame", "\"R\"", "\"r\"", Equal | Hash | Key);
+    row("layout", "\"L\"", "\"B\"", Hash);
+}
+
+void PxThemeFactoryTest::differsInOneItem()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, after);
+    QFETCH(int, same);
+    const PxTheme base = load("full/a.xml", ourTheme).value(0);
+    const PxTheme theme = load("full/a.xml", QByteArray(ourTheme).replace(before, after)).value(0);
+    const QStringList answers = answersOf(theme);
+    QStringList different;
+    for (const QString &answer : answersOf(base)) {
+        if (!answers.contains(answer))
+            different.append(answer.section(' ', 0, 0));
+    }
+    QCOMPARE(different.join(' '), QString(QTest::currentDataTag()));
+    QCOMPARE(theme == base, (same & Equal) != 0);
+    QCOMPARE(theme != base, (same & Equal) == 0);
+    QCOMPARE(qHash(theme, 5) == qHash(base, 5), (same & Hash) != 0);
+    QCOMPARE(theme.sortingKey() == base.sortingKey(), (same & Key) != 0);
+    QCOMPARE(qHash(theme), qHash(theme, 0));
+}
+
+void PxThemeFactoryTest::missingItemsGetDefaults()
+{
+    QString defaults =
+        "id unbekannt; description unbekannt; isValid false; group 0; thumbnail 0; isDefault "
+        "false; isDesign false; hasContent true; expiry ; expiryDay ; isExpired true; keyAccounts "
+        "0; isForKeyAccount false; products false; useSpineText false; useSpineLogo false; canMove "
+        "false; backgrounds true; layouts false; hasLogo false; hasLogoOnCup false; logo 0; place "
+        "0; background ; clipart ; content ; fading ; frame ; layout ";
+    QCOMPARE(answersOf(PxTheme::voidTheme()), defaults.split("; "));
+    QCOMPARE(PxTheme::voidTheme(), PxTheme());
+    defaults.replace("expiry ; expiryDay ;", "expiry 23:59; expiryDay 1976-12-30;");
+    defaults.replace("useSpineLogo false", "useSpineLogo true");
+    QCOMPARE(answersOf(load("bare/a.xml", "<themes><t/></themes>").value(0)), defaults.split("; "));
     QCOMPARE(load("bare/a.xml", "<themes><t id=''/></themes>").value(0).id(), QString());
-    QCOMPARE(log.texts().filter("image"), QStringList()); // of which none is missing
 }
 
 void PxThemeFactoryTest::strayNodesAreThemesButBlanksAreNot()
@@ -109,48 +224,19 @@ void PxThemeFactoryTest::bothEndingsAreReadAndTheIndexTakesTheLast()
     QCOMPARE(factory.findThemes(QString("x,a,,a, a")).descriptionList(), QStringList({"2", "2"}));
 }
 
-void PxThemeFactoryTest::findsImagesWithoutASuffix()
-{
-    m_directory.write("bare/themed", "");
-    QImage(7, 8, QImage::Format_RGB32).save(m_directory.filePath("bare/themed"), "PNG");
-    m_directory.write("bare/both.png/x", ""); // a folder, which is passed over
-    QImage(9, 1, QImage::Format_RGB32).save(m_directory.filePath("bare/both.jpg"));
-    const QString before = QDir::currentPath();
-    QVERIFY(QDir::setCurrent(m_directory.filePath(QString()))); // where thumbnails are looked up
-    const auto sizes = [this](const QByteArray &name) {
-        const QByteArray path = "'bare/" + name + "'";
-        const PxTheme theme = load("bare/a.xml", "<themes><t thumbnail=" + path +
-                                                     "><logos><l booktype='BOOK' filename=" + path +
-                                                     "/></logos></t></themes>")
-                                  .value(0);
-        const QSize logo = theme.vemoLogo(7).first.size();
-        return theme.thumbnail().size() == logo ? logo : QSize(-1, -1);
-    };
-    QCOMPARE(sizes("themed"), QSize(7, 8)); // its format follows from the contents
-    QCOMPARE(sizes("both"), QSize(9, 1));
-    QCOMPARE(sizes("both.png"), QSize(0, 0));
-    QCOMPARE(sizes("../logo"), QSize(5, 6));
-    QCOMPARE(sizes("logo"), QSize(0, 0));
-    QVERIFY(QDir::setCurrent(before));
-}
-
 void PxThemeFactoryTest::imagesAreReadOnceAndWithinBounds()
 {
-    // A bitmap's header is enough to tell its size: this one claims 40,000 x 1,000 pixels.
-    m_directory.write("vast.bmp", QByteArray::fromHex("424d0000000000000000360000002800000040"
-                                                      "9c0000e8030000010018000000000000000000"
-                                                      "00000000000000000000000000000000"));
+    m_directory.write("no.png", "");
     m_directory.write("folder.png/x", "");
     const PxLogRecorder log;
     const PxTheme theme = load("images/a.xml", R"(<themes><t><logos>
-        <l filename="vast.bmp" booktype="BOOK"/><l filename="VAST.BMP" booktype="CUP"/></logos></t>
+        <l filename="no.png" booktype="BOOK"/><l filename="NO.PNG" booktype="CUP"/></logos></t>
         <t><logos><l filename="folder.png" booktype="CUP"/></logos></t></themes>)")
                               .value(0);
     QVERIFY(theme.mustPaintVemoLogo(7));
     QVERIFY(theme.vemoLogo(7).first.isNull());
-    QCOMPARE(log.texts().filter("too large").size(), 1);
-    QCOMPARE(log.entries().constLast().level, QtWarningMsg);
-    QVERIFY(log.texts().constLast().contains("vast.bmp\" is too large: 40000 x 1000 pixels"));
+    QCOMPARE(log.texts().filter("is no PNG").size(), 1);
+    QCOMPARE(log.texts().size(), 2); // and how many themes there are
 }
 
 void PxThemeFactoryTest::warnsOfNamesThatCannotBeDecoded()
@@ -222,6 +308,39 @@ void PxThemeFactoryTest::instanceChoosesTheDefaultTheme()
     QVERIFY(list.containsDefaultTheme());
     list.expandDefaultThemeToAllNormalThemes();
     QCOMPARE(list.idList(), QStringList({"alone", "normal", "a"}));
+}
+
+void PxThemeFactoryTest::listFindsFiltersAndOrders()
+{
+    const QDateTime farFuture(QDate(2999, 12, 31), QTime(23, 59));
+    const QDateTime past(QDate(1976, 12, 30), QTime(23, 59));
+    const auto createTheme = [&](const QString &id, const QDateTime &expiry) {
+        return PxTheme(id, PxProductGroupBook, "text of " + id, expiry, {}, {1, 2}, {}, false,
+                       false, false, {}, false, {});
+    };
+    PxThemeList list({createTheme("a", farFuture), createTheme("normal", farFuture),
+                      createTheme("b", past), createTheme("design", farFuture),
+                      createTheme("a", past)});
+    QCOMPARE(list.findTheme("a").expiryDate(), farFuture);
+    QVERIFY(!list.contains(QString("A")));
+    QVERIFY(!list.findTheme("A").isValid());
+    QCOMPARE(list.filter(2, true).asCommaSeparatedIDList(), QString("a,normal,design"));
+    QCOMPARE(list.filter(2, false).asCommaSeparatedIDList(), QString("b,a"));
+    QVERIFY(list.filter(3, true).isEmpty());
+    list.normalize();
+    QCOMPARE(list.asCommaSeparatedIDList(), QString("design,normal,a,b,a"));
+    list.appendUnique(
+        PxThemeList({createTheme("b", past), createTheme("albfreetheme", farFuture)}));
+    list.normalize();
+    QCOMPARE(list.asCommaSeparatedIDList(), QString("albfreetheme,design,normal,a,b,a"));
+    const PxThemeList same = list;
+    list.appendUnique(same);
+    QCOMPARE(list.size(), same.size());
+    QCOMPARE(list.descriptionList().constLast(), QString("text of a"));
+    PxThemeList invalid({createTheme("a", farFuture), PxTheme("normal", {}, {}, {}, {}, {}, {},
+                                                              false, false, false, {}, false, {})});
+    invalid.normalize();
+    QCOMPARE(invalid.asCommaSeparatedIDList(), QString("a,normal"));
 }
 
 QTEST_GUILESS_MAIN(PxThemeFactoryTest)

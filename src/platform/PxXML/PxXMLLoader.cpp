@@ -30,26 +30,22 @@ PxXMLFault cannotOpen(const QString &reason)
 }
 
 /**
- * Opens a regular file and reports its size. If a pipe has taken the place of the file meanwhile,
- * it neither waits for the pipe nor reads it.
+ * Opens a regular file. If a pipe has taken the place of the file meanwhile, it neither waits for
+ * the pipe nor reads it.
  */
-PxXMLFault open(QFile &file, qint64 &size)
+PxXMLFault open(QFile &file)
 {
     constexpr QIODevice::OpenMode mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
-    if (file.fileName().startsWith(QLatin1Char(':'))) { // compiled in
-        size = file.size();
+    if (file.fileName().startsWith(QLatin1Char(':'))) // compiled in
         return file.open(mode) ? PxXMLFault() : cannotOpen(file.errorString());
-    }
     const int handle =
         ::open(QFile::encodeName(file.fileName()), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (handle < 0)
+    if (handle == -1)
         return cannotOpen(qt_error_string(errno));
     struct stat status = {};
     if (fstat(handle, &status) == 0 && S_ISREG(status.st_mode) &&
-        file.open(handle, mode, QFileDevice::AutoCloseHandle)) {
-        size = status.st_size;
+        file.open(handle, mode, QFileDevice::AutoCloseHandle))
         return {};
-    }
     close(handle);
     return unreadable(noRegularFile());
 }
@@ -65,25 +61,26 @@ PxXMLFault readBytes(const QString &path, QByteArray &bytes)
         return unreadable(info.exists() ? noRegularFile()
                                         : QStringLiteral("there is no such file"));
     QFile file(path);
-    qint64 size = 0;
-    PxXMLFault fault = open(file, size);
+    PxXMLFault fault = open(file);
     if (fault.kind != PxXMLFault::Kind::None)
         return fault;
-    bytes = file.read(qMin<qint64>(size, PxXMLLoader::maximumFileSize) + 1);
-    if (file.error() != QFile::NoError)
-        return unreadable(QStringLiteral("the file cannot be read: ") + file.errorString());
-    if (bytes.size() > PxXMLLoader::maximumFileSize)
+    const qint64 size = file.size();
+    if (size > PxXMLLoader::maximumFileSize)
         return {PxXMLFault::Kind::Limit,
                 QStringLiteral("the file has %1 bytes, no more than %2 are allowed")
-                    .arg(qMax<qint64>(size, bytes.size()))
+                    .arg(size)
                     .arg(PxXMLLoader::maximumFileSize)};
+    bytes = file.read(size);
+    if (file.error() != QFile::NoError)
+        return unreadable(QStringLiteral("the file cannot be read: ") + file.errorString());
     return {};
 }
 
 std::string_view withoutByteOrderMark(const QByteArray &utf8)
 {
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
     const std::string_view text(utf8.constData(), std::size_t(utf8.size()));
-    return utf8.startsWith("\xEF\xBB\xBF") ? text.substr(3) : text;
+    return text.substr(0, mark.size()) == mark ? text.substr(mark.size()) : text;
 }
 
 /** Makes one line of a message, which may quote control characters of the file. */

@@ -30,35 +30,31 @@ std::optional<PxXMLFault> PxXMLMarkupScanner::scan()
 std::optional<PxXMLFault> PxXMLMarkupScanner::scanTag()
 {
     int attributes = 0;
-    for (++m_position; m_position < m_text.size(); ++m_position) {
-        switch (m_text[m_position]) {
-        case '>':
-            return std::nullopt;
-        case '<':
+    while (moveTo("<>\"'") && current() != '>') {
+        if (current() == '<') {
             stop();
-            return std::nullopt;
-        case '"':
-        case '\'':
-            if (++attributes > PxXMLLoader::maximumAttributes)
-                return fault(PxXMLFault::Kind::Limit,
-                             QStringLiteral("the tag has attribute %1, no more than %2 are allowed")
-                                 .arg(attributes)
-                                 .arg(PxXMLLoader::maximumAttributes));
-            if (const std::optional<PxXMLFault> found = scanAttributeValue())
-                return found;
+            break;
         }
+        if (++attributes > PxXMLLoader::maximumAttributes)
+            return fault(PxXMLFault::Kind::Limit,
+                         QStringLiteral("the tag has attribute %1, no more than %2 are allowed")
+                             .arg(attributes)
+                             .arg(PxXMLLoader::maximumAttributes));
+        if (const std::optional<PxXMLFault> found = scanAttributeValue())
+            return found;
     }
     return std::nullopt;
 }
 
 std::optional<PxXMLFault> PxXMLMarkupScanner::scanAttributeValue()
 {
-    const char quote = m_text[m_position];
-    for (++m_position; m_position < m_text.size() && m_text[m_position] != quote; ++m_position) {
-        // Usually the closing quote of an earlier value is missing.
-        if (m_text[m_position] == '<')
+    const char quote = current();
+    while (moveTo(quote == '"' ? "\"<&" : "'<&") && current() != quote) {
+        if (current() == '<') { // usually the closing quote of an earlier value is missing
             stop();
-        else if (m_text[m_position] == '&' && !isOwnReference())
+            break;
+        }
+        if (!isOwnReference())
             return fault(PxXMLFault::Kind::NotWellFormed,
                          QStringLiteral("no entities are allowed in an attribute but those of XML "
                                         "itself; a plain '&' is written &amp;"));
@@ -68,19 +64,12 @@ std::optional<PxXMLFault> PxXMLMarkupScanner::scanAttributeValue()
 
 std::optional<PxXMLFault> PxXMLMarkupScanner::scanDocumentType()
 {
-    char quote = '\0';
-    for (; m_position < m_text.size(); ++m_position) {
-        const char c = m_text[m_position];
-        if (quote)
-            quote = c == quote ? '\0' : quote;
-        else if (c == '"' || c == '\'')
-            quote = c;
-        else if (c == '[')
+    while (moveTo("\"'[>") && current() != '>') {
+        if (current() == '[')
             return fault(PxXMLFault::Kind::Limit,
                          QStringLiteral("the document type declaration has an internal subset, "
                                         "none is allowed"));
-        else if (c == '>')
-            break;
+        moveTo(current() == '"' ? "\"" : "'");
     }
     return std::nullopt;
 }
@@ -90,6 +79,13 @@ bool PxXMLMarkupScanner::isOwnReference() const
     constexpr std::string_view references[] = {"&#", "&amp;", "&lt;", "&gt;", "&quot;", "&apos;"};
     return std::any_of(std::begin(references), std::end(references),
                        [this](std::string_view reference) { return startsWith(reference); });
+}
+
+/** Moves behind the current character to the next of these; to the end if there is none. */
+bool PxXMLMarkupScanner::moveTo(std::string_view characters)
+{
+    m_position = std::min(m_text.find_first_of(characters, m_position + 1), m_text.size());
+    return m_position != m_text.size();
 }
 
 bool PxXMLMarkupScanner::startsWith(std::string_view token) const
@@ -109,9 +105,8 @@ void PxXMLMarkupScanner::skip(std::string_view begin, std::string_view end)
 PxXMLFault PxXMLMarkupScanner::fault(PxXMLFault::Kind kind, const QString &message) const
 {
     const std::string_view before = m_text.substr(0, m_position);
-    const std::size_t lineStart = before.rfind('\n') + 1; // 0 in the first line, as npos + 1 is 0
     // Columns count UTF-16 units, as those of the reader do.
-    const QString line =
-        QString::fromUtf8(before.data() + lineStart, int(before.size() - lineStart));
+    const std::string_view start = before.substr(before.rfind('\n') + 1); // npos + 1 is 0
+    const QString line = QString::fromUtf8(start.data(), int(start.size()));
     return {kind, message, std::count(before.begin(), before.end(), '\n') + 1, line.size() + 1};
 }

@@ -30,6 +30,8 @@ private:
     std::optional<PxXMLFault> scanAttributeValue();
     std::optional<PxXMLFault> scanDocumentType();
     bool isOwnReference() const;
+    bool moveTo(std::string_view characters);
+    char current() const { return m_text[m_position]; }
     void stop() { m_position = m_text.size(); }
     PxXMLFault fault(PxXMLFault::Kind kind, const QString &message) const;
 

@@ -65,12 +65,11 @@ std::optional<QString> resolved(QStringView text)
     // Appended part by part: replacing in place would take quadratic time.
     QString result;
     result.reserve(int(text.size()));
-    for (qsizetype begin = 0; begin < text.size();) {
+    qsizetype begin = 0;
+    for (;;) {
         const qsizetype end = text.indexOf(QLatin1Char('&'), begin);
-        if (end < 0) {
-            result.append(text.mid(begin));
+        if (end == -1)
             break;
-        }
         result.append(text.mid(begin, end - begin));
         const QStringView rest = text.mid(end);
         const auto found =
@@ -81,6 +80,7 @@ std::optional<QString> resolved(QStringView text)
         result.append(QChar(found->character));
         begin = end + found->reference.size();
     }
+    result.append(text.mid(begin));
     return result;
 }
 
@@ -103,10 +103,8 @@ QDomDocument PxXMLPlainReader::read()
 /** Accepts only the declaration that all editors write. */
 bool PxXMLPlainReader::readDeclaration()
 {
-    if (!startsWith("<?"))
-        return true;
     if (!skip("<?xml version=\"1.0\""))
-        return false;
+        return true;
     QString data = QStringLiteral("version='1.0'");
     if (skip(" encoding=\"UTF-8\""))
         data += QLatin1String(" encoding='UTF-8'");
@@ -117,14 +115,9 @@ bool PxXMLPlainReader::readDeclaration()
 
 bool PxXMLPlainReader::readMarkup()
 {
-    switch (m_position + 1 < m_text.size() ? m_text[m_position + 1] : '\0') {
-    case '/':
+    if (startsWith("</"))
         return readEndTag();
-    case '!':
-        return readComment();
-    default:
-        return readStartTag();
-    }
+    return startsWith("<!") ? readComment() : readStartTag();
 }
 
 bool PxXMLPlainReader::readText()
@@ -144,7 +137,7 @@ bool PxXMLPlainReader::readText()
         return true;
     if (m_textNode.isNull())
         m_textNode = m_document.createTextNode(QString());
-    QDomNode node = m_textNode.cloneNode(false);
+    QDomNode node = m_textNode.cloneNode();
     node.setNodeValue(*decoded);
     return add(node);
 }
@@ -212,8 +205,9 @@ bool PxXMLPlainReader::readAttribute(QDomElement &element)
     if (value.find_first_of("<\n\t") != std::string_view::npos)
         return false;
     const std::optional<QString> decoded = decode(value);
-    if (!decoded || ++m_nodes > maximumNodes)
+    if (!decoded)
         return false;
+    ++m_nodes; // add() compares, for the element
     element.setAttribute(m_texts->text(name), *decoded);
     return true;
 }
@@ -234,6 +228,12 @@ bool PxXMLPlainReader::add(const QDomNode &node)
 {
     m_parent.appendChild(node);
     return ++m_nodes <= maximumNodes;
+}
+
+char PxXMLPlainReader::current() const
+{
+    const std::string_view rest = m_text.substr(m_position);
+    return rest.empty() ? '\0' : rest.front();
 }
 
 bool PxXMLPlainReader::startsWith(std::string_view token) const
@@ -279,15 +279,12 @@ std::string_view PxXMLPlainReader::readName()
 /** The decoded text of a value or between tags; none if it is not plain. */
 std::optional<QString> PxXMLPlainReader::decode(std::string_view utf8)
 {
-    bool isAscii = true;
-    bool hasReferences = false;
-    for (const char c : utf8) {
-        isAscii = isAscii && static_cast<signed char>(c) >= 0;
-        hasReferences = hasReferences || c == '&';
-        // A full parser would turn a carriage return into a line feed.
-        if (!is(c, Plain) && c != '\n' && c != '\t')
-            return std::nullopt;
-    }
+    // A full parser would turn a carriage return into a line feed.
+    const auto isPlain = [](char c) { return is(c, Plain) || c == '\n' || c == '\t'; };
+    if (!std::all_of(utf8.begin(), utf8.end(), isPlain))
+        return std::nullopt;
+    const bool isAscii =
+        std::none_of(utf8.begin(), utf8.end(), [](char c) { return bool(c & 0x80); });
     // QString would drop a byte order mark at the start, although it is an ordinary character here.
     if (!isAscii && utf8.substr(0, byteOrderMark.size()) == byteOrderMark)
         return std::nullopt;
@@ -296,7 +293,5 @@ std::optional<QString> PxXMLPlainReader::decode(std::string_view utf8)
     if (!isAscii && (text.contains(QChar::ReplacementCharacter) || text.contains(QChar(0xFFFE)) ||
                      text.contains(QChar(0xFFFF))))
         return std::nullopt;
-    if (!hasReferences)
-        return text;
-    return resolved(text);
+    return utf8.find('&') == std::string_view::npos ? text : resolved(text);
 }

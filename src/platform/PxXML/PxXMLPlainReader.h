@@ -36,7 +36,8 @@ private:
     bool readEndTag();
     bool add(const QDomNode &node);
 
-    char current() const { return m_position < m_text.size() ? m_text[m_position] : '\0'; }
+    /** A zero at the end. */
+    char current() const;
     bool startsWith(std::string_view token) const;
     bool skip(std::string_view token);
     bool skip(char c);

@@ -82,8 +82,6 @@ PxXMLFault PxXMLStrictReader::readText(const QTextCodec &codec)
     // decoded: so the reader reads exactly the characters that were scanned, whatever the file
     // declares.
     const bool isUtf8 = &codec == QTextCodec::codecForName("UTF-8");
-    if (text.startsWith(QChar::ByteOrderMark))
-        text.remove(0, 1);
     if (!isUtf8)
         m_bytes = text.toUtf8();
     else if (m_bytes.startsWith("\xEF\xBB\xBF"))
