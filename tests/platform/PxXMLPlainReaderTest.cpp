@@ -129,24 +129,15 @@ void PxXMLPlainReaderTest::readsWhatIsPlain()
             xml += " b" + QByteArray::number(i) + "='&lt;'";
         return xml + "/>";
     };
-    const auto nested = [](int depth) {
-        return QByteArray("<a>").repeated(depth) + QByteArray("</a>").repeated(depth);
+    const auto nested = [](int depth, int siblings) {
+        return QByteArray("<a>").repeated(depth) + QByteArray("<b/>").repeated(siblings) +
+               QByteArray("</a>").repeated(depth);
     };
-    const auto siblings = [](int count) {
-        return "<r>" + QByteArray("<b/>").repeated(count) + "</r>";
-    };
-    const struct
-    {
-        QByteArray xml;
-        bool isRead;
-    } rows[] = {{"<a.z-Z_9>\xC2\xA0</a.z-Z_9>", true},
-                {"<a b=\"'\" >x&gt;<b/></a >", true},
-                {tag(64), true},
-                {tag(65), false},
-                {nested(256), true},
-                {nested(257), false},
-                {siblings(19999), true},
-                {siblings(20000), false}};
+    // clang-format off
+    const struct { QByteArray xml; bool isRead; } rows[] = {
+        {"<a.z-Z_9>\xC2\xA0</a.z-Z_9>", true}, {"<a b=\"'\" >x&gt;<b/></a >", true}, {tag(64), true}, {tag(65), false},
+        {nested(256, 0), true}, {nested(257, 0), false}, {nested(1, 19999), true}, {nested(1, 20000), false}};
+    // clang-format on
     for (const auto &row : rows)
         QVERIFY2(plain(row.xml).isNull() != row.isRead, row.xml.left(80));
 }
@@ -186,14 +177,14 @@ void PxXMLPlainReaderTest::agreesAboutMutations()
 {
     std::mt19937 random(1); // the same ones in every run
     int readCount = 0;
-    for (int i = 0; i < 3000; ++i) {
+    for (int i = 0; i < 2000; ++i) {
         const QByteArray sample = m_samples[int(random() % unsigned(m_samples.size()))];
         const QByteArray xml = mutated(sample, random);
         const QString found = difference(xml); // once: QVERIFY2 always makes its text
         QVERIFY2(found.isEmpty(), xml + qPrintable(found));
         readCount += plain(xml).isNull() ? 0 : 1;
     }
-    QVERIFY2(readCount > 250, "hardly anything was compared");
+    QVERIFY2(readCount > 150, "hardly anything was compared");
 }
 
 QTEST_GUILESS_MAIN(PxXMLPlainReaderTest)
