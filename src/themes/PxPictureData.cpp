@@ -56,7 +56,7 @@ qint64 jpegSamples(const QByteArray &file, qint64 frame, qint64 width, qint64 he
     int mostAcross = 1;
     int mostDown = 1;
     int blocks = 0; // in the smallest part of the picture that has all components
-    for (int i = 0; i < components; ++i) {
+    for (qint64 i = 0; i < components; ++i) {
         const int sampling = byteAt(file, frame + 9 + 3 * i);
         const int across = sampling >> 4;
         const int down = sampling & 15;
