@@ -100,7 +100,7 @@ QString PxPictureData::fault() const
         return QStringLiteral("is no PNG, JPEG, GIF or BMP picture");
     if (m_isOtherJpeg)
         return QStringLiteral("is a JPEG that is neither baseline nor progressive");
-    if (m_width <= 0 || m_height <= 0)
+    if (std::min(m_width, m_height) <= 0)
         return m_isCutOff ? QStringLiteral("is cut off") : QStringLiteral("is damaged");
     if (m_width > maximumPixels / m_height)
         return QStringLiteral("is too large: %1 x %2 pixels, no more than %3 are allowed")
