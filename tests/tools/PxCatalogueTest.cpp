@@ -14,16 +14,16 @@ private slots:
     void fitsTheTerminal();
     void explainsEachCommand();
     void namingACatalogueMeansItsThemesAndDefaults();
-    void warnsOnceWithoutProducts();
+    void namesVariantsInTheLanguageAskedFor();
     void printsWhatTheReadmeShows();
+    void runsTheEditorExample();
 };
 
 namespace {
 
-/** Runs the program with the words of a command, and with more arguments that may hold blanks. */
-PxProgramRun run(const QString &command, const QStringList &more = {}, int columns = 150)
+PxProgramRun run(const QString &command, int columns = 150)
 {
-    return PxProgramRun(PX_CATALOGUE_PROGRAM, command.split(' ', Qt::SkipEmptyParts) + more,
+    return PxProgramRun(PX_CATALOGUE_PROGRAM, command.split(' ', Qt::SkipEmptyParts),
                         {{"COLUMNS", QString::number(columns)}, {"LC_ALL", "C.UTF-8"}});
 }
 
@@ -65,7 +65,7 @@ QString textOf(const char *path)
 void PxCatalogueTest::fitsTheTerminal()
 {
     const auto fit = [](const QString &command, int columns) {
-        const PxProgramRun fitted = run(command, {}, columns);
+        const PxProgramRun fitted = run(command, columns);
         for (const QString &line : fitted.output())
             QVERIFY2(line.size() <= columns, qPrintable(line));
         QCOMPARE(fitted.output().size(), run(command).output().size());
@@ -127,21 +127,19 @@ void PxCatalogueTest::namingACatalogueMeansItsThemesAndDefaults()
     QCOMPARE(layout({}, false), ofUser);
 }
 
-void PxCatalogueTest::warnsOnceWithoutProducts()
+void PxCatalogueTest::namesVariantsInTheLanguageAskedFor()
 {
-    const QTemporaryDir empty;
-    const PxProgramRun list = run("list", {"--products", empty.path()});
-    QCOMPARE(list.errors(),
-             QStringList{"pxcatalogue: warning: PxProductPropertiesInitializer::setupModule found "
-                         "no product file in \"" +
-                         empty.path() + '"'});
-    QCOMPARE(list.status(), 0);
-    QVERIFY(QDir(empty.path()).mkdir("products"));
-    const PxProgramRun none = run("list", {"--resources", empty.path()});
-    QVERIFY(none.errors().value(0).endsWith(
-        "producttypes.xml\", without which no product is known, cannot be read: name the resource "
-        "directory with --resources"));
-    QCOMPARE(none.status(), 2);
+    const auto check = [](const char *locale, const char *language, const QString &option,
+                          const char *words) {
+        const PxProgramRun variants(PX_CATALOGUE_PROGRAM, ("variants CUP2" + option).split(' '),
+                                    {{"LC_ALL", locale}, {"LANGUAGE", language}});
+        QVERIFY2(variants.text().contains(words), qPrintable(locale + option));
+    };
+    check("de_DE.UTF-8", "", " --lang en", "Differ in Inside colour");
+    check("en_US.UTF-8", "", " --lang de", "Differ in Innenfarbe");
+    check("en_US.UTF-8", "", "", "color:black Black");
+    check("fr_FR.UTF-8", "", "", "color:black Schwarz");
+    check("de_DE.UTF-8", "de:en", "", "color:black Schwarz"); // the first choice needs no catalogue
 }
 
 void PxCatalogueTest::printsWhatTheReadmeShows()
@@ -152,7 +150,7 @@ void PxCatalogueTest::printsWhatTheReadmeShows()
     QVERIFY(QDir::setCurrent(PX_SOURCE_DIRECTORY));
     for (const QString &block : blocks) {
         const QString shown = block.section("\n```", 0, 0).replace("\n\n", "\n");
-        const QString output = run(shown.section('\n', 0, 0), {}, 100).output().join('\n');
+        const QString output = run(shown.section('\n', 0, 0), 100).output().join('\n');
         // "..." stands for groups that the document leaves out.
         for (const QString &group : shown.section('\n', 1).split("...", Qt::SkipEmptyParts))
             QVERIFY2(output.contains(group.trimmed()), qPrintable(group));
@@ -160,6 +158,13 @@ void PxCatalogueTest::printsWhatTheReadmeShows()
     const QString example = textOf(PX_SOURCE_DIRECTORY "/examples/spine/main.cpp");
     QVERIFY(!example.isEmpty());
     QVERIFY(readme.contains(example));
+}
+
+void PxCatalogueTest::runsTheEditorExample()
+{
+    const QString lastPage = "30: emptypage, 213 x 303 mm, \"\" on \"Weiss\", "
+                             "images/book-binding-shade-right.png";
+    QVERIFY(PxProgramRun(PX_EDITOR_PROGRAM, {}).text().endsWith(lastPage));
 }
 
 QTEST_GUILESS_MAIN(PxCatalogueTest)

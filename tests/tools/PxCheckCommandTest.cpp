@@ -1,10 +1,7 @@
 #include "PxCheckedSample.h"
 
-#include <check/findings/PxCheckTags.h>
-
 #include <QDir>
 #include <QFile>
-#include <QJsonArray>
 #include <QTest>
 
 #include <sys/stat.h>
@@ -20,7 +17,6 @@ private slots:
     void checksWhatItIsToldTo();
     void findsWhatNoExampleShows();
     void findsNamesThatCannotBeDecoded();
-    void explains();
 
 private:
     PxCheckedSample m_sample;
@@ -116,19 +112,6 @@ void PxCheckCommandTest::findsNamesThatCannotBeDecoded()
                  qPrintable(warnings));
     for (const QByteArray &file : files)
         unlink(file); // Qt cannot
-}
-
-void PxCheckCommandTest::explains()
-{
-    const QStringList lines = m_sample.check("--explain xml-attribute-twice").output();
-    QVERIFY(lines.constFirst().startsWith("xml-attribute-twice (error): "));
-    const int example =
-        lines.indexOf("    <usablesize width=\"2000\" width=\"2500\" height=\"950\"/>");
-    QVERIFY(example > 0);
-    QCOMPARE(lines.value(example + 1), QString(29, ' ') + '^');
-    QCOMPARE(m_sample.check("--list-tags").output().size(), PxCheckTags::all().size());
-    QCOMPARE(m_sample.check("--version").output(),
-             PxProgramRun(PX_CATALOGUE_PROGRAM, {"--version"}).output());
 }
 
 QTEST_GUILESS_MAIN(PxCheckCommandTest)

@@ -16,7 +16,6 @@ class PxCheckOutputTest : public QObject
 
 private slots:
     void init();
-    void tellsTheSameInEveryFormat();
     void declaresAllRulesInSarif();
     void hidesWhatIsKnown();
     void readsOnlyFilesAsBaselines();
@@ -29,83 +28,29 @@ private:
     PxCheckedSample m_sample;
 };
 
-namespace {
-
-QStringList findingsOfSarif(const QJsonObject &sarif)
-{
-    QStringList findings;
-    for (const QJsonValue &result : sarif["runs"][0]["results"].toArray()) {
-        const QJsonValue location = result["locations"][0]["physicalLocation"];
-        findings.append(
-            QString("./%1:%2:%3 %4 %5")
-                .arg(location["artifactLocation"]["uri"].toString())
-                .arg(location["region"]["startLine"].toInt())
-                .arg(location["region"]["startColumn"].toInt())
-                .arg(result["properties"]["severity"].toString(), result["ruleId"].toString()));
-    }
-    return findings;
-}
-
-} // namespace
-
 void PxCheckOutputTest::init()
 {
     m_sample.restore();
     QDir::setCurrent(m_sample.path());
 }
 
-void PxCheckOutputTest::tellsTheSameInEveryFormat()
-{
-    m_sample.addFindings();
-    const PxProgramRun text = m_sample.check(".");
-    const QStringList expected{"./products/cup2.xml:30:5 warning allowance-unused",
-                               "./products/cup3.xml.b\\u009B:1:1 info file-not-read",
-                               "./products/pendant.xml:4:10 error xml-attribute-twice"};
-    QCOMPARE(findingsOf(text), expected);
-    QVERIFY(text.output().contains("    now: the file is not read at all"));
-    QVERIFY(text.output().contains("    hint: keep the one that is meant"));
-    QVERIFY(text.output().constLast().endsWith(" files read: 1 error, 1 warning, 1 info"));
-    QCOMPARE(text.errors(), QStringList());
-
-    const PxProgramRun json = m_sample.check("--format json .");
-    QCOMPARE(findingsOf(json.json()).replaceInStrings("\u009B", "\\u009B"), expected);
-    QVERIFY(!json.text().contains(QChar(0x9B)));
-    QCOMPARE(json.json()["counts"]["warning"].toInt(), 1);
-    QCOMPARE(json.json()["files"].toInt(), text.output().constLast().section(' ', 0, 0).toInt());
-    const QJsonValue twice = json.json()["findings"][2];
-    QCOMPARE(twice["endColumn"].toInt(), 11);
-    QCOMPARE(twice["hint"].toString(), QString("keep the one that is meant"));
-
-    const PxProgramRun sarif = m_sample.check("--format sarif .");
-    QCOMPARE(findingsOfSarif(sarif.json()).replaceInStrings("%C2%9B", "\\u009B"), expected);
-    QCOMPARE(QVector<int>({text.status(), json.status(), sarif.status()}), QVector<int>(3, 1));
-}
-
 void PxCheckOutputTest::declaresAllRulesInSarif()
 {
     m_sample.addFindings();
-    const auto run = [&](const QString &path) {
-        return m_sample.check("--format sarif " + path).json()["runs"][0];
-    };
-    const QJsonValue here = run(".");
+    const QJsonValue here = m_sample.check("--format sarif .").json()["runs"][0];
     QCOMPARE(here["tool"]["driver"]["rules"].toArray().size(), PxCheckTags::all().size());
     const QJsonValue info = here["results"][1];
     QCOMPARE(here["tool"]["driver"]["rules"][info["ruleIndex"].toInt()]["id"], info["ruleId"]);
-    QCOMPARE(info["level"].toString(), QString("note"));
 
     // From elsewhere the same findings have other places, but are the same findings.
     const QString path = m_sample.path();
     QDir::setCurrent(QDir::rootPath() + "proc");
-    const QJsonValue there = run(path);
+    const QJsonValue there = m_sample.check("--format sarif " + path).json()["runs"][0];
     QCOMPARE(there["results"].toArray().size(), 3);
     QCOMPARE(there["results"][0]["partialFingerprints"], here["results"][0]["partialFingerprints"]);
     const QJsonValue file =
         there["results"][0]["locations"][0]["physicalLocation"]["artifactLocation"];
     QCOMPARE(file["uri"].toString(), cup);
-
-    m_sample.write("products/pendant.xml", "<p><product name='{0} [a](b) [c]'/></p>");
-    QVERIFY(run(path)["results"].toArray().last()["message"]["text"].toString().startsWith(
-        "there is no product type \"{{0}} \\[a](b) [c]\"\n"));
     QVERIFY(there["originalUriBaseIds"].toObject().contains(file["uriBaseId"].toString()));
 }
 
@@ -128,13 +73,6 @@ void PxCheckOutputTest::hidesWhatIsKnown()
     QVERIFY(m_sample.check("--baseline known.json --format json .").json()["known"].toInt() > 3);
     m_sample.replace(cup, "<pages>", comment + "<pages>"); // one more of them
     QCOMPARE(findingsOf(m_sample.check("--baseline known.json .")).size(), 1);
-
-    for (const char *broken :
-         {"", "[]", "{\"format\": 2, \"findings\": []}", "{\"format\": 1}",
-          "{\"format\": 1, \"findings\": [{\"path\": \"\", \"tag\": \"\", \"message\": \"\"}]}"}) {
-        m_sample.write("known.json", broken);
-        QCOMPARE(m_sample.check("--baseline known.json .").status(), 2);
-    }
 }
 
 /** A baseline comes from anywhere, as the files of a catalogue do. */
@@ -156,13 +94,6 @@ void PxCheckOutputTest::readsOnlyFilesAsBaselines()
              QString("cannot be read: it has 1099511627776 bytes, but the limit is 8388608"));
     m_sample.write("deep.json", QString(5000000, '['));
     QVERIFY(problemOf("deep.json").startsWith("is no JSON: "));
-    for (const QString count : {"1e300", "-1", "0.5", "\"1\"", "null"}) {
-        m_sample.write("count.json", "{\"format\":1,\"findings\":[{\"path\":\"\\ud800\",\"tag\":"
-                                     "\"\",\"message\":\"\",\"count\":" +
-                                         count + "}]}");
-        QVERIFY2(problemOf("count.json").startsWith("has a finding without \"count\""),
-                 qPrintable(count));
-    }
 }
 
 /** The rest is one finding, which counts as all of them. */

@@ -1,7 +1,5 @@
 #include "PxCheckedSample.h"
 
-#include <QDir>
-#include <QJsonArray>
 #include <QRegularExpression>
 
 PxProgramRun PxCheckedSample::check(const QString &options) const
@@ -29,17 +27,5 @@ QStringList findingsOf(const PxProgramRun &text)
         if (finding.hasMatch())
             findings.append(finding.capturedTexts().mid(1).join(' '));
     }
-    return findings;
-}
-
-QStringList findingsOf(const QJsonObject &json)
-{
-    QStringList findings;
-    for (const QJsonValue &finding : json["findings"].toArray())
-        findings.append(QString("%1:%2:%3 %4 %5")
-                            .arg(finding["path"].toString())
-                            .arg(finding["line"].toInt())
-                            .arg(finding["column"].toInt())
-                            .arg(finding["severity"].toString(), finding["tag"].toString()));
     return findings;
 }

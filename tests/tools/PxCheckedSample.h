@@ -15,7 +15,6 @@ public:
 
 /** "PATH:LINE:COLUMN SEVERITY TAG" of each finding in the text. */
 QStringList findingsOf(const PxProgramRun &text);
-QStringList findingsOf(const QJsonObject &json);
 
 // A file, an element in it, and a comment that silences nothing.
 inline const QString cup = "products/cup2.xml";

@@ -64,109 +64,20 @@ QVector<uint> askTheCatalogue(const PxProductContext &shared)
 
 } // namespace
 
-/** The way of an application, in one process, on the sample catalogue and its themes. */
-class PxWholeWayTest : public QObject
+/** On the sample catalogue and its themes, in a process that has used nothing of the library. */
+class PxManyThreadsTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void manyThreadsAskAtOnce(); // the first to use anything
-    void everyProductIsOfferedAndEveryLegacyProductReplaced();
-    void fromProductToOrder();
-    void productsOfEarlierCataloguesAreElsewhere();
+    void manyThreadsAskAtOnce();
 };
 
-void PxWholeWayTest::initTestCase()
+void PxManyThreadsTest::manyThreadsAskAtOnce()
 {
     qputenv("PX_RESOURCE_DIRS", PX_SAMPLE_DIRECTORY);
     qputenv("PX_USER_DEFAULTS_DIR", PX_SAMPLE_DIRECTORY "/defaults");
     qputenv("PX_THEMES_DIR", PX_SAMPLE_DIRECTORY "/themes");
-}
-
-/** The products of a directory; files bear their product's name. */
-static QStringList productsOf(const char *directory)
-{
-    return QDir(directory).entryList({"*.xml"}, QDir::Files).replaceInStrings(".xml", "");
-}
-
-void PxWholeWayTest::everyProductIsOfferedAndEveryLegacyProductReplaced()
-{
-    const auto *registry = PxProductTypeConfigRegistry::instance();
-    const QStringList products = productsOf(PX_SAMPLE_DIRECTORY "/products");
-    QVERIFY(products.size() > 1);
-    QCOMPARE(registry->products().size(), products.size());
-    for (const QString &name : products) {
-        const PxProductContext product{PxProductType(name)};
-        QVERIFY2(registry->exists(product.productType()), qPrintable(name));
-        QCOMPARE(product.offeredPageCounts().value(0), product.minPages());
-        QCOMPARE(product.offeredPageCounts().constLast(), product.maxPages());
-    }
-    const QStringList legacyProducts = productsOf(PX_SAMPLE_DIRECTORY "/products/legacy");
-    QVERIFY(legacyProducts.size() > 1);
-    QCOMPARE(PxProductTypeConfigRegistry::legacyInstance()->products().size(),
-             legacyProducts.size());
-    for (const QString &name : legacyProducts)
-        QVERIFY2(registry->findProductForLegacy(PxProductType(name)).isValid(), qPrintable(name));
-}
-
-void PxWholeWayTest::productsOfEarlierCataloguesAreElsewhere()
-{
-    const PxProductType earlier(QString("BOOK_CLASSIC_A4"));
-    const PxProductContext context(earlier);
-    QVERIFY(context.isValid());
-    QVERIFY(context.binding().isNull());
-    QVERIFY(context.offeredPageCounts().isEmpty());
-    QVERIFY(context.minPages() > context.maxPages());
-    const auto *registry = PxProductTypeConfigRegistry::legacyInstance();
-    QVERIFY(registry->products().contains(earlier));
-    QCOMPARE(registry->binding(earlier).value(), PxBindingHardcover);
-    QCOMPARE(registry->offeredPageCounts(earlier).constLast(), 98);
-}
-
-void PxWholeWayTest::fromProductToOrder()
-{
-    PxProductContext context(PxProductType(QString("BOOK_A4_PORTRAIT")));
-    const PxProductContext plain = context;
-    context.setTheme(PxThemeFactory::instance()->findTheme("hochzeit"));
-    QVERIFY(context.isValid());
-    QVERIFY(context != plain);
-
-    const PxPageTypeList pages = context.pageTypes(26);
-    int different = 0;
-    int shaded = 0;
-    for (int page = 0; page < pages.size(); ++page) {
-        const PxPageContext pageContext(pages[page], context.pageAlignment(page));
-        QVERIFY(!context.defaultTemplateForPage(false, pageContext, false).isEmpty());
-        different += context.defaultTemplateForPage(false, pageContext, false) !=
-                     plain.defaultTemplateForPage(false, pageContext, false);
-        shaded += context.findSurrounding(PxSurroundingKey(pageContext, page)).hasBindingShade();
-    }
-    QCOMPARE(shaded, 28);    // the binding hides a part of each but the cover and the spine
-    QVERIFY(different > 20); // nearly every page has a background of the theme
-
-    const PxProductTypeList compatible = context.compatibleProducts();
-    QVERIFY(compatible.contains(context.productType()));
-    QVERIFY(compatible.size() > 1);
-    const PxProductType cup(QString("CUP2"));
-    QCOMPARE(PxProductVariantIdentifiers::instance()->variantName(cup, "color:black"),
-             QString("Schwarz"));
-
-    PxProductContextsGroup group(context);
-    QVERIFY(group.containsContext(context));
-    QVERIFY(!group.containsContext(plain));
-    QDomDocument document;
-    QDomElement root = document.createElement("offer");
-    document.appendChild(root);
-    group.toXml(root);
-    QCOMPARE(root.firstChildElement("product").text(), QString("BOOK_A4_PORTRAIT"));
-    QCOMPARE(root.firstChildElement("theme").text(), QString("hochzeit"));
-    QCOMPARE(PxTemplateTargetFotoBook, EnumHelper::globalMapTemplateTargetString.value(
-                                           root.firstChildElement("type").text()));
-}
-
-void PxWholeWayTest::manyThreadsAskAtOnce()
-{
     // In a theme that needs no factory, so that the threads race to create it, and all the tables.
     const PxProductContext shared{PxProductType(), PxTheme()};
     // Without a lock, which would make the threads wait for each other.
@@ -211,5 +122,5 @@ void PxWholeWayTest::manyThreadsAskAtOnce()
     QVERIFY(PxProductPropertiesInitializer::setupModule());
 }
 
-QTEST_GUILESS_MAIN(PxWholeWayTest)
-#include "PxWholeWayTest.moc"
+QTEST_GUILESS_MAIN(PxManyThreadsTest)
+#include "PxManyThreadsTest.moc"
