@@ -65,7 +65,7 @@ const QString theThemeOfProducts = "a";
 QStringList answersOfProduct(int code)
 {
     PxArguments arguments;
-    arguments.pages = {1, 2};
+    arguments.pages = {-1, 0, 1, 2, 3};
     arguments.pageCounts = {2, 4};
     arguments.kinds = {PxPageContext(PxPageTypeNormalPage, PxPageAlignmentLeft),
                        PxPageContext(PxPageTypeFullCover, PxPageAlignmentRight)};

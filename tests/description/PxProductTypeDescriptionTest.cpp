@@ -1,6 +1,7 @@
 #include "PxCatalogueDirectory.h"
 #include "PxElement.h"
 #include "PxLogRecorder.h"
+#include "PxRows.h"
 
 #include <description/PxProductTypeDescription.h>
 
@@ -8,7 +9,6 @@
 
 #include <QElapsedTimer>
 #include <QRandomGenerator>
-#include <QTest>
 
 using Ints = QList<int>;
 
@@ -23,15 +23,13 @@ private slots:
     void millionsOfCombinationsAnswerAtOnce();
     void offeredPageCountsFollowTheProduct_data();
     void offeredPageCountsFollowTheProduct();
-    void findsTheFirstOfManyEntries();
+    void findsTheFirstOfManySurroundings();
     void hostilePageCountsAreBounded();
     void listsOfPagesAreBounded();
-    void pageRangesExpandToThePageCount();
     void printSizeDependsOnTheKindOfPage();
     void wrongQuestionsAreReported();
     void bleedIsLeftOutAtTheBinding();
-    void pageAlignmentFollowsSpineAndCardStyle();
-    void productionNumberingIsCutAndContinued();
+    void listsFollowThePageCount();
     void compatibilityAsksWhatTheCriterionNames();
 
 private:
@@ -59,14 +57,6 @@ QString spines(const Ints &pageCounts)
 QString pages(const QString &list)
 {
     return "<pages>" + list + "</pages>";
-}
-
-Ints pageTypes(const QString &children, int pageCount)
-{
-    Ints values;
-    for (const PxPageType &pageType : describe("", children).pageTypes(pageCount))
-        values.append(pageType.value());
-    return values;
 }
 
 } // namespace
@@ -195,56 +185,32 @@ void PxProductTypeDescriptionTest::offeredPageCountsFollowTheProduct()
 }
 
 /** What is found by an index is what a walk through the list finds. */
-void PxProductTypeDescriptionTest::findsTheFirstOfManyEntries()
+void PxProductTypeDescriptionTest::findsTheFirstOfManySurroundings()
 {
     const PxLogRecorder log; // a type that is none is part of it
     constexpr const char *types[] = {"spine", "fullcover", "leather,spine", "normal", "fog", "all"};
     constexpr const char *sides[] = {"left", "right,top", "all", "middle", "fullpage"};
     QRandomGenerator random(5); // the same numbers each time
-    const auto number = [&random](int end) { return random.bounded(-2, end); };
     for (int turn = 0; turn < 200; ++turn) {
-        QString surroundings = "<surroundings>";
-        QString barcodes = "<barcodes>";
-        QString redirects = "<rotationredirects>";
-        for (int entry = 0; entry < turn % 12; ++entry) {
+        QString surroundings;
+        for (int entry = 0; entry < turn % 12; ++entry)
             surroundings +=
                 QString("<surrounding image='%1' pageNr='%2' pageType='%3' alignment='%4'/>")
                     .arg(entry)
-                    .arg(qMax(-1, number(4) * random.bounded(2)) - random.bounded(2))
+                    .arg(qMax(-1, random.bounded(-2, 4) * random.bounded(2)) - random.bounded(2))
                     .arg(types[random.bounded(6)], sides[random.bounded(5)]);
-            barcodes += QString("<barcode image='%1' pageNr='%2' reverseOrder='%3'/>")
-                            .arg(entry)
-                            .arg(number(5))
-                            .arg(random.bounded(2));
-            redirects += QString("<rotationredirect from='%1' to='%2'/>").arg(number(5)).arg(entry);
-        }
-        const QString content = surroundings + "</surroundings>" + barcodes + "</barcodes>" +
-                                redirects + "</rotationredirects>";
-        const QDomElement product = pxElement("<product>" + content + "</product>");
+        const QDomElement product =
+            pxElement("<product><surroundings>" + surroundings + "</surroundings></product>");
         const PxProductTypeDescription d(product);
-        const PxSurroundingDescriptionList allSurroundings(product);
-        const PxBarcodeList allBarcodes(product.firstChildElement("barcodes"));
-        const PxPageRotationRedirectList allRedirects(
-            product.firstChildElement("rotationredirects"));
+        const PxSurroundingDescriptionList all(product);
         for (int page = -3; page < 6; ++page) {
             const PxPageContext context(
                 PxPageTypeEnum(1 << random.bounded(12) | 1 << random.bounded(12)),
                 PxPageAlignment(random.bounded(128)));
             const PxSurroundingKey key(context, page);
-            QVERIFY(d.findSurrounding(key) == allSurroundings.findDescription(key));
-            QCOMPARE(d.barcodeOnPage(page, 4).imageName(),
-                     allBarcodes.barcodeOnPage(page, 4).imageName());
-            QCOMPARE(d.rotationRedirectForSourcePage(page), allRedirects.filterBySourcePage(page));
+            QVERIFY(d.findSurrounding(key) == all.findDescription(key));
         }
     }
-    QCOMPARE(describe("name='PROBEBOOK'", "<barcodes><barcode pageNr='5'/></barcodes>")
-                 .barcodeOnPage(-2147483647, 2147483647)
-                 .imageName(),
-             QString());
-    const PxProductTypeDescription d =
-        describe("", "<pageswithcontent>7,-1,3,7</pageswithcontent>");
-    for (int page = -3; page < 9; ++page)
-        QCOMPARE(d.contentAllowedOnPage(page), page == -1 || page == 3 || page == 7);
 }
 
 void PxProductTypeDescriptionTest::hostilePageCountsAreBounded()
@@ -290,18 +256,6 @@ void PxProductTypeDescriptionTest::listsOfPagesAreBounded()
                           warning.arg("pageTypes").arg(most / 2 + 1)}));
 }
 
-void PxProductTypeDescriptionTest::pageRangesExpandToThePageCount()
-{
-    QCOMPARE(pageTypes(pages("fullcover,normalpages"), 3), Ints({64, 16, 16, 16}));
-    QCOMPARE(pageTypes(pages("fullcover,normalpages"), 0), Ints({64}));
-    QCOMPARE(pageTypes(pages("simplexmonthcalendar"), -1), Ints({16}));
-    QCOMPARE(pageTypes(pages("duplexmonthcalendar,empty,simplexyearcalendar"), 2),
-             Ints({16, 16, 32, 16, 16}));
-    QCOMPARE(pageTypes("", 5), Ints({16}));
-    QVERIFY(describe("", pages("foilcover,normalpages")).hasCover());
-    QVERIFY(!describe("", pages("normalpages,fullcover")).hasCover());
-}
-
 void PxProductTypeDescriptionTest::printSizeDependsOnTheKindOfPage()
 {
     const PxProductTypeDescription d =
@@ -320,7 +274,7 @@ void PxProductTypeDescriptionTest::wrongQuestionsAreReported()
     const PxProductTypeDescription d = describe("", ourSize);
     const PxLogRecorder log;
     QCOMPARE(d.usablePrintSize(PxPageTypeSpine, 27), QSize(0, 2000));
-    QCOMPARE(pageTypes(pages(""), 4), Ints({16}));
+    QCOMPARE(pxShown(describe("", pages("")).pageTypes(4)), QString("(normalpage(16))"));
     QCOMPARE(d.usablePrintSize(PxPageTypeSpine, -1), QSize(0, 2000));
     QStringList messages;
     for (const PxLogRecorder::Entry &e : log.entries())
@@ -339,29 +293,22 @@ void PxProductTypeDescriptionTest::wrongQuestionsAreReported()
 
 void PxProductTypeDescriptionTest::bleedIsLeftOutAtTheBinding()
 {
-    const QString attributes = "bleedmarginhorizontal='30' bleedmarginvertical='20' "
-                               "bleedmargincoverhorizontal='6' bleedmargincoververtical='5'";
-    const PxProductTypeDescription book = describe(attributes);
-    const PxProductTypeDescription card = describe("cardStyleAlignment='true' " + attributes);
-    const auto bleed = [](const PxProductTypeDescription &d, int type, int side, int pageCount) {
-        const PxMargins margins =
-            d.bleedMargins({PxPageTypeEnum(type), PxPageAlignment(side)}, pageCount);
-        return Ints{margins.top(), margins.bottom(), margins.left(), margins.right()};
+    const auto check = [](const QString &style, const QString &rows) {
+        const PxProductTypeDescription d =
+            describe(style + " bleedmarginhorizontal='30' bleedmarginvertical='20' "
+                             "bleedmargincoverhorizontal='6' bleedmargincoververtical='5'");
+        pxCheckAnswers("page type,side,page count", rows, [&d](const Ints &page) {
+            const PxPageContext context{PxPageTypeEnum(page[0]), PxPageAlignment(page[1])};
+            const PxMargins m = d.bleedMargins(context, page[2]);
+            return pxShown(Ints{m.top(), m.bottom(), m.left(), m.right()}).remove(' ');
+        });
     };
-    QCOMPARE(bleed(book, 16, PxPageAlignmentLeft, 20), Ints({20, 20, 30, 0}));
-    QCOMPARE(bleed(book, 16, PxPageAlignmentRight, 20), Ints({20, 20, 0, 30}));
-    QCOMPARE(bleed(book, 16, PxPageAlignmentMiddle, 20), Ints({20, 20, 30, 30}));
-    QCOMPARE(bleed(book, 16, 3, 20), Ints({20, 20, 30, 30})); // both sides
-    QCOMPARE(bleed(book, 16, PxPageAlignmentLeft, 1), Ints({20, 20, 30, 30}));
-    QCOMPARE(bleed(book, 16, PxPageAlignmentLeft, -1), Ints({20, 20, 30, 30}));
-    QCOMPARE(bleed(card, 16, PxPageAlignmentLeft, 20), Ints({20, 20, 30, 30}));
-    QCOMPARE(bleed(book, 64, PxPageAlignmentRight, 20), Ints({5, 5, 0, 6})); // cover
-    QCOMPARE(bleed(book, 1, PxPageAlignmentRight, 20), Ints({5, 5, 0, 0}));  // spine
-    QCOMPARE(bleed(book, 16, PxPageAlignmentNone, 20), Ints({20, 20, 30, 30}));
-    // A page of several types is a spine or a cover if one of them is.
-    QCOMPARE(bleed(book, 64 | 16, PxPageAlignmentRight, 20), Ints({5, 5, 0, 6}));
-    QCOMPARE(bleed(book, 1 | 64 | 16, PxPageAlignmentRight, 20), Ints({5, 5, 0, 0}));
-    QCOMPARE(bleed(book, 0, PxPageAlignmentRight, 20), Ints({20, 20, 0, 30}));
+    // A page of several types is a spine (1) or a cover (64) if one of them is.
+    check("",
+          "16,1,20=(20,20,30,0) 16,2,20=(20,20,0,30) 16,4,20=(20,20,30,30) 16,3,20=(20,20,30,30) "
+          "16,1,1=(20,20,30,30) 16,1,-1=(20,20,30,30) 64,2,20=(5,5,0,6) 1,2,20=(5,5,0,0) "
+          "16,0,20=(20,20,30,30) 80,2,20=(5,5,0,6) 81,2,20=(5,5,0,0) 0,2,20=(20,20,0,30)");
+    check("cardStyleAlignment='true'", "16,1,20=(20,20,30,30)");
     const PxProductTypeDescription clamp = describe("normalpagehorizontalclamp='9'");
     QCOMPARE(clamp.clampExtra(PxPageTypeEnum(64 | 16)), 9);
     QCOMPARE(clamp.clampExtra(PxPageTypeFullCover), 0);
@@ -370,50 +317,23 @@ void PxProductTypeDescriptionTest::bleedIsLeftOutAtTheBinding()
     QVERIFY(!plain.supportsJigType(PxJigType("style,clipart")));
 }
 
-void PxProductTypeDescriptionTest::pageAlignmentFollowsSpineAndCardStyle()
+void PxProductTypeDescriptionTest::listsFollowThePageCount()
 {
-    // Of the pages -2 to 4.
-    const auto alignments = [](const QString &pageList, const QString &attributes = "") {
-        const PxProductTypeDescription d = describe(attributes, pages(pageList));
-        Ints sides;
-        for (int page = -2; page <= 4; ++page)
-            sides.append(d.pageAlignment(page));
-        return sides;
+    const auto types = [](const QStringList &words) {
+        return pxShown(describe("", pages(words[0])).pageTypes(words[1].toInt()));
     };
-    const QString vertical = "horizontalPages='false' ";
-    QCOMPARE(alignments("fullcover,spine"), Ints({2, 1, 1, 4, 2, 1, 2}));
-    QCOMPARE(alignments("spine", vertical), Ints({32, 16, 16, 64, 32, 16, 32}));
-    QCOMPARE(alignments("normalpages"), Ints({1, 2, 1, 2, 1, 2, 1}));
-    QCOMPARE(alignments("", vertical), Ints({16, 32, 16, 32, 16, 32, 16}));
-
-    // One-sided products have right pages only; the first true card style changes that.
-    const QString simplex = "binding='CALENDAR_SIMPLEX' ";
-    const QString card = "cardStyleAlignment='1' ";
-    const QString vario = "varioSingleCardStyleAlignment='1' ";
-    const QString block = "cardStyleAlignment='0' collegeBlockStyleAlignment='1' ";
-    QCOMPARE(alignments("spine", simplex), Ints({2, 2, 2, 2, 2, 2, 2}));
-    QCOMPARE(alignments("", simplex + vertical), Ints({32, 32, 32, 32, 32, 32, 32}));
-    QCOMPARE(alignments("", simplex + vario + block + vertical), Ints({4, 4, 4, 4, 4, 4, 4}));
-    QCOMPARE(alignments("", simplex + block), Ints({1, 2, 1, 2, 1, 2, 1}));
-    QCOMPARE(alignments("", simplex + card + vario + vertical), Ints({16, 32, 16, 32, 16, 32, 16}));
-    QCOMPARE(alignments("spine", simplex + card), Ints({1, 2, 1, 2, 1, 2, 1}));
-    QCOMPARE(alignments("spine", simplex + vario), Ints({4, 4, 4, 4, 4, 4, 4}));
-    QCOMPARE(alignments("spine", simplex + block), Ints({1, 2, 1, 2, 1, 2, 1}));
-    QCOMPARE(alignments("spine", card), Ints({2, 1, 1, 4, 2, 1, 2}));
-}
-
-void PxProductTypeDescriptionTest::productionNumberingIsCutAndContinued()
-{
-    const auto numbering = [](const QString &list, int pageCount) {
-        return describe("", "<productionnumbering>" + list + "</productionnumbering>")
-            .productionNumberingList(pageCount);
-    };
-    QCOMPARE(numbering("5, 9", 4), Ints({5, 9, 10, 11}));
-    QCOMPARE(numbering("5,9", 1), Ints({5}));
-    QCOMPARE(numbering("", 3), Ints({1, 2, 3}));
-    QCOMPARE(numbering("", 1), Ints({1}));
-    QCOMPARE(numbering("5,9", 0), Ints());
-    QCOMPARE(numbering("", -1), Ints());
+    pxCheckAnswers(
+        "page types",
+        "fullcover,normalpages;0=(fullcover(64)) simplexmonthcalendar;-1=(normalpage(16)) "
+        ";5=(normalpage(16))",
+        types);
+    pxCheckAnswers("numbers", "5,9;4=(5,9,10,11) 5,9;1=(5) ;3=(1,2,3) ;1=(1) 5,9;0=() ;-1=()",
+                   [](const QStringList &words) {
+                       return pxShown(describe("", "<productionnumbering>" + words[0] +
+                                                       "</productionnumbering>")
+                                          .productionNumberingList(words[1].toInt()))
+                           .remove(' ');
+                   });
 }
 
 void PxProductTypeDescriptionTest::compatibilityAsksWhatTheCriterionNames()
