@@ -1,5 +1,6 @@
 #include "PxCatalogueDirectory.h"
 #include "PxElement.h"
+#include "PxRows.h"
 
 #include <context/PxProductContext.h>
 #include <context/PxProductContextsGroup.h>
@@ -7,13 +8,10 @@
 #include <description/PxProductPropertiesInitializer.h>
 #include <description/PxProductTypeConfigRegistry.h>
 #include <description/PxProductTypeDescriptionSpineData.h>
-#include <geometry/PxMargins.h>
 #include <geometry/PxPageConstraint.h>
 #include <themes/PxThemeFactory.h>
 
 #include <PxDirectoryConfig.h>
-
-#include <QTest>
 
 #include <algorithm>
 
@@ -113,47 +111,38 @@ void PxProductContextTest::compatibleProductsAreThoseOfTheTheme()
 
 void PxProductContextTest::templatesFollowTheme()
 {
-    const auto find = [](const char *theme, PxPageTypeEnum type, bool doublePage) {
-        return PxProductContext(1, QString(theme))
-            .defaultTemplateForPage(doublePage, PxPageContext(type, PxPageAlignmentLeft), true);
-    };
-    QCOMPARE(find("normal", PxPageTypeNormalPage, false), QString("b"));
-    QCOMPARE(find("normal", PxPageTypeNormalPage, true), QString("l"));
-    QCOMPARE(find("a", PxPageTypeNormalPage, false), QString("ab"));
-    QCOMPARE(find("a", PxPageTypeNormalPage, true), QString("l")); // falls back to "normal"
-    QCOMPARE(find("a", PxPageTypeEmptyPage, false), QString("Weiss"));
-    QCOMPARE(find("a", PxPageTypeEmptyPage, true), QString("l"));
+    pxCheckAnswers(
+        "theme;page type;double page",
+        "normal;16;0=b normal;16;1=l a;16;0=ab a;16;1=l a;32;0=Weiss a;32;1=l",
+        [](const QStringList &words) {
+            const PxPageContext page{PxPageTypeEnum(words[1].toInt()), PxPageAlignmentLeft};
+            return PxProductContext(1, words[0])
+                .defaultTemplateForPage(words[2] == "1", page, true);
+        });
 }
 
 void PxProductContextTest::printsReadably()
 {
     const PxProductContext context(1, QString("a"));
-    QString text;
-    QDebug(&text) << context << PxMargins(1, 2, 3, 4)
-                  << PxPageContext(PxPageType("spine,normal"), PxPageAlignmentRight) << 5;
-    QCOMPARE(text, QString("PxProductContext(PxProductType(1, \"BOOK\"), PxTheme(\"a\")) "
-                           "PxMargins(top 1, bottom 2, left 3, right 4) "
-                           "PxPageContext(spine, normalpage(17), alignment 2) 5 "));
-
-    // Sets are sorted, and an empty one says that it admits all.
-    text.clear();
     PxProductContextsGroup group({2, 1}, {});
     group.setIndirectProductDescription(PxIndirectProductDescription(context));
-    QDebug(&text) << PxPageConstraint(PxPageType("normal,spine"), PxPageAlignmentNone) << group
-                  << 5;
-    QCOMPARE(text, QString("PxPageConstraint(pages (spine(1), normalpage(16)), alignments all) "
-                           "PxProductContextsGroup(products (PxProductType(1, \"BOOK\"), "
-                           "PxProductType(2, \"TWIN\")), themes all, "
-                           "PxIndirectProductDescription(landscape(2), targets (4))) 5 "));
-
-    text.clear();
     PxProductGroupProperties prints;
     prints.setFotoIndex(QString("index"));
-    QDebug(&text) << PxProductGroup(PxProductGroupBook) << context.pageCountOrganization()
+    QString text;
+    QDebug(&text) << context << PxPageContext(PxPageType("spine,normal"), PxPageAlignmentRight)
+                  << PxPageConstraint(PxPageType("normal,spine"), PxPageAlignmentNone) << group
+                  << PxProductGroup(PxProductGroupBook)
                   << PxProductTypeDescriptionSpineData(
                          pxElement("<s width='9' maxfontheight='4'/>"))
                   << prints << 5;
-    QCOMPARE(text, QString("PxProductGroup(8, \"BOOK\") PxPageCountOrganization(4 to 8 by 2) "
+    // Sets are sorted, and an empty one says that it admits all.
+    QCOMPARE(text, QString("PxProductContext(PxProductType(1, \"BOOK\"), PxTheme(\"a\")) "
+                           "PxPageContext(spine, normalpage(17), alignment 2) "
+                           "PxPageConstraint(pages (spine(1), normalpage(16)), alignments all) "
+                           "PxProductContextsGroup(products (PxProductType(1, \"BOOK\"), "
+                           "PxProductType(2, \"TWIN\")), themes all, "
+                           "PxIndirectProductDescription(landscape(2), targets (4))) "
+                           "PxProductGroup(8, \"BOOK\") "
                            "PxProductTypeDescriptionSpineData(width 9, font height 4) "
                            "PxProductGroupProperties(\"index\", paper 0, border QColor(Invalid), "
                            "web album false) 5 "));

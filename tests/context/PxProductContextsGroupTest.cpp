@@ -25,7 +25,6 @@ private slots:
     void initTestCase();
     void emptySetsAdmitEverything();
     void invalidThemeOfTheAskedContextIsIgnored();
-    void productsMatchExplicitlyOrByDescription_data();
     void productsMatchExplicitlyOrByDescription();
     void defaultThemeBringsTheOthers();
     void namesAndXmlGoTogether();
@@ -76,28 +75,24 @@ void PxProductContextsGroupTest::invalidThemeOfTheAskedContextIsIgnored()
                  .containsContext(PxProductContext(1, QString("a"))));
 }
 
-void PxProductContextsGroupTest::productsMatchExplicitlyOrByDescription_data()
-{
-    QTest::addColumn<PxProductTypeList>("own");
-    QTest::addColumn<PxProductTypeList>("other");
-    QTest::addColumn<bool>("whenDescriptionsMatch");
-    QTest::addColumn<bool>("whenTheyDoNot");
-    QTest::newRow("common") << PxProductTypeList{1, 2} << PxProductTypeList{2, 3} << true << true;
-    QTest::newRow("disjoint") << PxProductTypeList{1} << PxProductTypeList{2} << false << false;
-    QTest::newRow("one empty") << PxProductTypeList() << PxProductTypeList{2} << true << false;
-    QTest::newRow("both empty") << PxProductTypeList() << PxProductTypeList() << true << false;
-}
-
 void PxProductContextsGroupTest::productsMatchExplicitlyOrByDescription()
 {
-    QFETCH(PxProductTypeList, own);
-    QFETCH(PxProductTypeList, other);
-    PxProductContextsGroup group(own, {});
-    PxProductContextsGroup another(other, {});
-    group.setIndirectProductDescription({PxOrientationPortrait, PxTemplateTargetGift});
-    QTEST(group.productMatches(another), "whenDescriptionsMatch");
-    another.setIndirectProductDescription({PxOrientationLandscape, PxTemplateTargetGift});
-    QTEST(group.productMatches(another), "whenTheyDoNot");
+    const auto group = [](const QString &codes, PxOrientationEnum orientation) {
+        PxProductTypeList types;
+        for (const int code : pxIntList(codes))
+            types.append(code);
+        PxProductContextsGroup created(types, {});
+        created.setIndirectProductDescription({orientation, PxTemplateTargetGift});
+        return created;
+    };
+    const auto match = [&group](const QStringList &codes) {
+        const auto own = group(codes[0], PxOrientationPortrait);
+        return QString("%1%2")
+            .arg(own.productMatches(group(codes[1], PxOrientationPortrait)))
+            .arg(own.productMatches(group(codes[1], PxOrientationLandscape)));
+    };
+    // By the same descriptions, and by others.
+    pxCheckAnswers("products", "1,2;2,3=11 1;2=00 ;2=10 ;=10", match);
 }
 
 void PxProductContextsGroupTest::defaultThemeBringsTheOthers()

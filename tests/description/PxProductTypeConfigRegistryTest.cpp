@@ -24,7 +24,6 @@ private slots:
     void listsTheProductsOnOffer();
     void findsSuccessorsOfLegacyProducts();
     void findsOfferedProductsOfTheSameClass();
-    void pageFilesAreSortedByTheirNumbers();
 
 private:
     void write(const char *file, const QByteArray &xml) const { m_directory.write(file, xml); }
@@ -45,10 +44,8 @@ void PxProductTypeConfigRegistryTest::initTestCase()
     m_directory.writeProductTypes("1 book BOOK\n2 book LEGACY\n3 calendar CAL\n4 book SMALL\n"
                                   "5 book INVALID\n6 gift GIFT\n7 book OTHER");
     const QByteArray portrait = "<usablesize width='2000' height='3000'/>";
-    write("products/book.xml",
-          product("name='BOOK' legacy='LEGACY' space='xl'",
-                  portrait + "<classification cm='20x30' group='Leinwand'/>"
-                             "<productionnumbering>3,1,2</productionnumbering>"));
+    write("products/book.xml", product("name='BOOK' legacy='LEGACY' space='xl'",
+                                       portrait + "<classification cm='20x30' group='Leinwand'/>"));
     write("products/small.xml",
           product("name=' small '", "<usablesize width='1000' height='2000'/>"));
     write("products/other.xml", product("name='OTHER'", "<usablesize width='9' height='8'/>"));
@@ -148,18 +145,6 @@ void PxProductTypeConfigRegistryTest::findsOfferedProductsOfTheSameClass()
     QCOMPARE(books.size(1, true), QString("20x30"));
     QCOMPARE(books.size(6, true), QString()); // a gift
     QCOMPARE(books.type(PxProductMaterial("Leinwand"), "20x30", true), PxProductType(1));
-}
-
-void PxProductTypeConfigRegistryTest::pageFilesAreSortedByTheirNumbers()
-{
-    const auto sorted = [this](const QString &letters) {
-        const QStringList files = letters.split("", Qt::SkipEmptyParts);
-        return m_registry->sortPageFileNameListInInternOrder(1, files).join("");
-    };
-    QCOMPARE(sorted("abc"), QString("bca"));
-    // Continued as 3,1,2,3,4: of equal numbers the earlier position comes first.
-    QCOMPARE(sorted("abcde"), QString("bcade"));
-    QCOMPARE(sorted(""), QString());
 }
 
 QTEST_GUILESS_MAIN(PxProductTypeConfigRegistryTest)
