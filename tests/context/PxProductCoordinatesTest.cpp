@@ -1,8 +1,9 @@
+#include "PxRows.h"
+
 #include <context/PxProductCoordinates.h>
 #include <context/PxProductGroupPropertyManager.h>
 
 #include <QRectF>
-#include <QTest>
 
 class PxProductCoordinatesTest : public QObject
 {
@@ -18,26 +19,17 @@ private slots:
 
 void PxProductCoordinatesTest::halvesGoUp()
 {
-    const auto x = [](double value) { return PxProductCoordinates::posX(QRectF(value, 0, 0, 0)); };
-    QCOMPARE(x(0.5), 1);
-    QCOMPARE(x(0.49), 0);
-    QCOMPARE(x(-0.5), 0);
-    QCOMPARE(x(-1.5), -1);
-    QCOMPARE(x(-1.51), -2);
+    pxCheckAnswers("x", "0.5=1 0.49=0 -0.5=0 -1.5=-1 -1.51=-2", [](const QString &x) {
+        return PxProductCoordinates::posX(QRectF(x.toDouble(), 0, 0, 0));
+    });
     QCOMPARE(PxProductCoordinates::posY(QRectF(0, 3, 0, 5)), 6);
 }
 
 void PxProductCoordinatesTest::sizesAreEvenAndAtLeast2()
 {
-    const auto width = [](double value) {
-        return PxProductCoordinates::posWidth(QRectF(0, 0, value, 0));
-    };
-    QCOMPARE(width(7.6), 8);
-    QCOMPARE(width(6.6), 6);
-    QCOMPARE(width(9.5), 10);
-    QCOMPARE(width(10.49), 10);
-    QCOMPARE(width(1.2), 2);
-    QCOMPARE(width(-30), 2);
+    pxCheckAnswers("width", "7.6=8 6.6=6 9.5=10 10.49=10 1.2=2 -30=2", [](const QString &width) {
+        return PxProductCoordinates::posWidth(QRectF(0, 0, width.toDouble(), 0));
+    });
     QCOMPARE(PxProductCoordinates::posHeight(QRectF(0, 0, 0, 5)), 4);
 }
 

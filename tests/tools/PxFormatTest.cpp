@@ -155,27 +155,16 @@ void PxFormatTest::initTestCase()
     QImage(5, 6, QImage::Format_RGB32).save(m_directory.filePath("logo.png"));
     QDir::setCurrent(m_directory.filePath(QString())); // where previews are looked for
 
-    QFile product(PX_TEST_DATA_DIRECTORY "/distinct-values.xml");
-    QVERIFY(product.open(QIODevice::ReadOnly));
-    m_files[PxFileKind::Product] = product.readAll();
-    m_files[PxFileKind::UserDefaults] = R"(<userdefaults><defaults>
-        <defaults theme="design" pageType="normalpage" alignment="left" templates="my,own"
-                  layout="mine" background="own"/></defaults></userdefaults>)";
-    m_files[PxFileKind::Theme] = R"(<themes>
-        <theme id="reise" producttype="book" expiry="205001022304" thumbnail="logo.png">
-        <description>Reise</description>
-        <keyaccounts><keyaccount>12</keyaccount></keyaccounts>
-        <products><product>CUP</product></products>
-        <logos><logo booktype="CUP" filename="logo.png" x="1" y="2" width="3" height="4"/></logos>
-        <spinetext use="true"/><spinelogo use="false"/>
-        <content movable="true" normalBackgrounds="false"/>
-        <defaultcategories background="B" clipart="C" fading="F" content="I" frame="R" layout="L"/>
-        </theme></themes>)";
-    m_files[PxFileKind::ProductTypes] = R"(<producttypes>
-        <producttype code="9" name="CAN" class="gift" shortname="Dose"/></producttypes>)";
-    m_files[PxFileKind::Frames] =
-        "<any><frame id='a' name='A'/><other id='b' name='B'/><frame id='c' name=''/>"
-        "<frame id='d' name='D'/></any>";
+    const QMap<PxFileKind, QString> files{{PxFileKind::Product, "values"},
+                                          {PxFileKind::UserDefaults, "defaults"},
+                                          {PxFileKind::Theme, "theme"},
+                                          {PxFileKind::ProductTypes, "product-types"},
+                                          {PxFileKind::Frames, "frames"}};
+    for (auto name = files.begin(); name != files.end(); ++name) {
+        QFile file(PX_TEST_DATA_DIRECTORY "/distinct-" + *name + ".xml");
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        m_files[name.key()] = file.readAll();
+    }
     m_directory.write("frames.xml", m_files[PxFileKind::Frames]);
 }
 

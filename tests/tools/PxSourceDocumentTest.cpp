@@ -15,7 +15,6 @@ private slots:
     void findsFaults_data();
     void findsFaults();
     void findsTexts();
-    void countsCharacters();
     void staysQuickInLongLines();
 };
 
@@ -118,16 +117,6 @@ void PxSourceDocumentTest::findsTexts()
     QCOMPARE(document.root()->textRange().end, expected.end);
     QCOMPARE(document.root()->nodes.at(2).text, QString("&"));
     QCOMPARE(document.root()->nodes.at(3).text, QString(" "));
-}
-
-void PxSourceDocumentTest::countsCharacters()
-{
-    const PxSourceDocument document(QStringLiteral("<r>\r\n\tü😀<x/>\r\n</r>"));
-    const PxPlace place = document.place(document.root()->firstChild("x")->range);
-    QCOMPARE(place.line, 2);
-    QCOMPARE(place.column, 4);
-    QCOMPARE(place.endLine, 2);
-    QCOMPARE(place.endColumn, 8);
 }
 
 /** One that counted from the start of the line each time would not come back. */
