@@ -1,11 +1,11 @@
 #include "PxAskEverything.h"
+#include "PxElement.h"
 
 #include <PxProductProperties.h>
 
 #include <QDir>
 #include <QDomDocument>
 #include <QTest>
-#include <QTextStream>
 
 #include <atomic>
 #include <thread>
@@ -51,8 +51,7 @@ QVector<uint> askTheCatalogue(const PxProductContext &shared)
         QDomDocument document;
         QDomElement root = document.createElement("group");
         PxProductContextsGroup(own).toXml(root);
-        QTextStream stream(&answer);
-        root.save(stream, 0);
+        answer += pxXml(root);
         QDebug(&answer) << copies << own << own.binding().humanReadableName()
                         << own.paperType().humanReadableName()
                         << PxProductVariantIdentifiers::instance()->variants(code);

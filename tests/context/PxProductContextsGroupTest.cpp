@@ -1,12 +1,11 @@
 #include "PxCatalogueDirectory.h"
+#include "PxElement.h"
 #include "PxRows.h"
 
 #include <context/PxProductContext.h>
 #include <context/PxProductContextsGroup.h>
 
 #include <PxDirectoryConfig.h>
-
-#include <QDomDocument>
 
 namespace {
 
@@ -123,15 +122,13 @@ void PxProductContextsGroupTest::namesAndXmlGoTogether()
     QCOMPARE(group.themeName(), QString("normal"));
     QCOMPARE(group.defaultContext().themeId(), group.themeNames().constFirst());
 
-    QDomDocument document;
-    QDomElement root = document.createElement("group");
-    document.appendChild(root);
+    QDomElement root = pxElement("<group/>");
     group.toXml(root);
     QString expected = "<group><product>BOOK</product><product>CARD</product>";
     for (const QString &theme : group.themeNames())
         expected += "<theme>" + theme + "</theme>";
     expected += "<orientation>portrait, landscape</orientation><type>FOTOBOOK,GIFT</type></group>";
-    QCOMPARE(document.toString(-1).trimmed(), expected);
+    QCOMPARE(pxXml(root), expected);
 }
 
 void PxProductContextsGroupTest::indirectDescription()
