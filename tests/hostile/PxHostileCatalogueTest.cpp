@@ -33,8 +33,7 @@ class PxHostileCatalogueTest : public QObject
 
 private slots:
     void initTestCase();
-    void goodProductsAndThemesAreThere();
-    void oneWarningForEachUnreadableFile();
+    void goodIsThereAndEachUnreadableFileIsToldOnce();
     void noFileCostsMuch();
 
 private:
@@ -44,9 +43,8 @@ private:
     void writeThemes();
 
     PxCatalogueDirectory m_directory;
-    QStringList m_unreadable;
-    QStringList m_good;   // as the report of the child has them
-    QStringList m_report; // of the child: "kind rest" a line
+    QStringList m_expected; // in the report
+    QStringList m_report;   // of the child: "kind rest" a line
 };
 
 namespace {
@@ -61,14 +59,6 @@ constexpr int slowness = 6;
 constexpr int maximumMilliseconds = 250 * slowness;
 constexpr rlim_t maximumMemory = 150 << 20;
 constexpr unsigned stackSize = 512 * 1024 * (slowness > 6 ? 4 : 1);
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("cannot read %s", qPrintable(path));
-    return file.readAll();
-}
 
 void setLimit(__rlimit_resource resource, rlim_t value)
 {
@@ -207,19 +197,20 @@ void PxHostileCatalogueTest::initTestCase()
 void PxHostileCatalogueTest::writeProducts()
 {
     QByteArray types;
-    const auto writeProduct = [&](const QByteArray &name, const QByteArray &file,
-                                  const QByteArray &content) {
-        m_good.append("product " + QString::fromUtf8(name));
-        types += QByteArray::number(m_good.size()) + " book " + name + '\n';
-        m_directory.write("products/" + file + ".xml", content);
+    const auto addProduct = [&](const QByteArray &name) {
+        m_expected.append("product " + QString::fromUtf8(name));
+        types += QByteArray::number(m_expected.size()) + " book " + name + '\n';
     };
+    for (const PxHostileFiles::File &file : PxHostileFiles::wild()) {
+        addProduct(file.name);
+        m_directory.write("products/wild-" + QByteArray(file.name).replace('/', '+') + ".xml",
+                          file.content);
+    }
     const QDir samples(PX_SAMPLE_DIRECTORY "/products");
     for (const QString &name : samples.entryList({"book*.xml"})) {
-        const QByteArray product = name.toUtf8().chopped(4);
-        writeProduct(product.toUpper(), product, contentOf(samples.filePath(name)));
+        addProduct(name.toUtf8().toUpper().chopped(4));
+        QVERIFY(QFile::copy(samples.filePath(name), m_directory.filePath("products/" + name)));
     }
-    for (const PxHostileFiles::File &file : PxHostileFiles::wild())
-        writeProduct(file.name, "wild-" + QByteArray(file.name).replace('/', '+'), file.content);
     writeNames(types);
     m_directory.write("user/BOOK_MINI.xml", PxHostileFiles::unreadable().constLast().content);
     m_directory.write("OUTSIDE.xml", "<d><defaults><defaults layout='stolen'/></defaults></d>");
@@ -243,7 +234,7 @@ void PxHostileCatalogueTest::writeNames(const QByteArray &productTypes)
 void PxHostileCatalogueTest::writeWhatIsNoProduct()
 {
     for (const PxHostileFiles::File &file : PxHostileFiles::unreadable()) {
-        m_unreadable.append(QString::fromUtf8(file.name));
+        m_expected.append("warning " + QString::fromUtf8(file.name));
         m_directory.write("products/" + file.name + ".xml", file.content);
     }
     // A super-user can read the forbidden one.
@@ -254,13 +245,13 @@ void PxHostileCatalogueTest::writeWhatIsNoProduct()
     QCOMPARE(chmod(path("forbidden.xml"), 0), 0);
     m_directory.write("products/sparse.xml", "");
     QVERIFY(QFile::resize(path("sparse.xml"), qint64(1) << 40));
-    // The directory lists a link to a device, too, and the loader refuses it.
-    m_unreadable.append({"forbidden", "sparse", "zero-device"});
+    // The directory lists a link to a pipe, too, and the loader refuses it.
+    m_expected.append({"warning forbidden", "warning sparse", "warning link-to-pipe"});
     QVERIFY(QDir().mkpath(path("directory.xml")));
     QCOMPARE(mkfifo(path("pipe.xml"), 0600), 0);
     for (const auto &[from, to] : {std::pair("nowhere", "dangling.xml"),
                                    {"loop.xml", "loop.xml"},
-                                   {"/dev/zero", "zero-device.xml"},
+                                   {"pipe.xml", "link-to-pipe.xml"},
                                    {".", "link-to-directory.xml"}})
         QCOMPARE(symlink(from, path(to)), 0);
 }
@@ -270,7 +261,7 @@ void PxHostileCatalogueTest::writeThemes()
     for (const PxHostileFiles::File &file : PxHostileFiles::wildThemes())
         m_directory.write("themes/" + file.name + "/theme.xml", file.content);
     for (const PxHostileFiles::File &file : PxHostileFiles::unreadable().mid(0, 20)) {
-        m_unreadable.append("theme-" + QString::fromUtf8(file.name));
+        m_expected.append("warning theme-" + QString::fromUtf8(file.name));
         m_directory.write("themes/theme-" + file.name + ".XML", file.content);
     }
     for (const PxHostileFiles::File &file : PxHostileFiles::pictures()) {
@@ -280,51 +271,23 @@ void PxHostileCatalogueTest::writeThemes()
                               "'/></logos></theme></themes>");
     }
     m_directory.write("themes/good.xml", "<themes><theme id='sea'/><theme id='snow'/></themes>");
-    m_good.append({"theme sea", "theme snow"});
+    m_expected.append({"theme sea", "theme snow"});
 }
 
-static QStringList restOf(const QStringList &report, const QString &kind)
+void PxHostileCatalogueTest::goodIsThereAndEachUnreadableFileIsToldOnce()
 {
-    QStringList found;
-    for (const QString &line : report) {
-        if (line.startsWith(kind))
-            found.append(line.mid(kind.size()));
-    }
-    return found;
-}
-
-/** What is in one of the lists only, or there twice; texts short enough for the log of a test. */
-static QString difference(QStringList found, const QStringList &expected)
-{
-    QStringList missing;
-    for (const QString &text : expected) {
-        if (!found.removeOne(text))
-            missing.append(text);
-    }
-    return "missing: " + missing.join(' ') + ", too many: " + found.join(' ');
-}
-
-void PxHostileCatalogueTest::goodProductsAndThemesAreThere()
-{
-    QCOMPARE(difference(m_report.filter(QRegularExpression("^(product|theme) ")), m_good),
-             QString("missing: , too many: "));
-}
-
-void PxHostileCatalogueTest::oneWarningForEachUnreadableFile()
-{
-    QCOMPARE(difference(restOf(m_report, "warning "), m_unreadable),
-             QString("missing: , too many: "));
+    QStringList found = m_report.filter(QRegularExpression("^(product|theme|warning) "));
+    found.sort();
+    m_expected.sort();
+    QCOMPARE(found, m_expected);
 }
 
 void PxHostileCatalogueTest::noFileCostsMuch()
 {
-    QMultiMap<double, QString> costs; // milliseconds and the file
-    for (const QString &cost : restOf(m_report, "cost "))
-        costs.insert(cost.section(' ', 0, 0).toDouble(), cost.section(' ', 1));
+    const QStringList costs = m_report.filter(QRegularExpression("^cost "));
     QVERIFY(costs.size() > 100);
-    for (auto dearest = costs.end(); dearest-- != std::prev(costs.end(), 10);)
-        qInfo("%4.0f ms  %s", dearest.key(), qPrintable(dearest.value()));
-    QVERIFY2(costs.lastKey() <= maximumMilliseconds, qPrintable(costs.last()));
+    for (const QString &cost : costs)
+        QVERIFY2(cost.section(' ', 1, 1).toDouble() <= maximumMilliseconds, qPrintable(cost));
 }
 
 int main(int argc, char *argv[])

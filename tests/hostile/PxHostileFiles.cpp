@@ -30,11 +30,7 @@ constexpr int readableSize = 8 * 1024 * 1024;
 /** As often as the loader lets a file have nodes, or as 2 MB hold it: far beyond a real file. */
 static QByteArray asMany(const QByteArray &text, int nodes)
 {
-#ifdef PX_HOSTILE_SHARE
     const int bySize = 2000000 / share / text.size();
-#else
-    const int bySize = 2000000 / text.size();
-#endif
     const int byNodes = nodes > 0 ? readableNodes / share / nodes - 20 : bySize;
     return text.repeated(qMin(bySize, byNodes));
 }
@@ -70,9 +66,7 @@ QList<File> unreadable()
         {"empty", ""}, {"blank", QByteArray(100000, ' ')}, {"zeros", QByteArray(100000, '\0')},
         {"text", "This is no XML.\n"}, {"page", "<!DOCTYPE html><html><br><img src=x></html>"},
         {"archive", QByteArray("PK\3\4\0\0\xFF\xFE\0\1", 10).repeated(1000)},
-        {"cut-at-once", good.left(1)}, {"cut-early", good.left(20)}, {"cut-in-the-middle", good.left(good.size() / 2)},
         {"cut-late", good.chopped(1)}, {"without-beginning", good.mid(10)}, {"twice", good + good},
-        {"text-behind", good + "x"}, {"text-before", "x" + good}, {"crossed", "<a><b></a></b>"}, {"quote", "<d a='" + good},
         {"latin-1", encoded("ISO-8859-1", good)}, {"unknown-encoding", "<?xml version='1.0' encoding='klingon'?>" + good},
         {"utf-16-odd", utf16.chopped(1)}, {"utf-16-cut", utf16.left(utf16.size() / 4 * 2)}, {"utf-16-as-utf-8", utf16.mid(2).replace('\0', '\1')},
         {"utf-8-as-latin-1", "\xEF\xBB\xBF" + latin + good}, {"mark-only", "\xEF\xBB\xBF"}, {"mark-of-utf-16", "\xFF\xFE"},
@@ -81,7 +75,7 @@ QList<File> unreadable()
         {"zero-reference", begin + "&#0;" + end}, {"huge-reference", begin + "&#" + QByteArray(100000, '9') + ";" + end},
         {"entity", begin + "&wrong;" + end}, {"entity-bomb", entities + begin + "&d;&d;&d;" + end}, {"entity-in-attribute", entities + "<d a='&d;'/>"},
         {"endless-entity", "<!DOCTYPE d [<!ENTITY a '&b;'><!ENTITY b '&a;'>]><d>&a;</d>"},
-        {"external-entity", "<!DOCTYPE d [<!ENTITY a SYSTEM 'file:///etc/passwd'>]><d>&a;</d>"}, {"external-subset", "<!DOCTYPE d SYSTEM 'file:///dev/zero'><d>&a;</d>"},
+        {"external-entity", "<!DOCTYPE d [<!ENTITY a SYSTEM 'file:///etc/passwd'>]><d>&a;</d>"}, {"external-subset", "<!DOCTYPE d SYSTEM 'file:///etc/passwd'><d>&a;</d>"},
         {"parameter-entity", "<!DOCTYPE d [<!ENTITY % a SYSTEM 'http://localhost/'>%a;]><d/>"}, {"attribute-defaults", "<!DOCTYPE d [<!ATTLIST d a CDATA 'x'>]><d/>"},
         {"deep", QByteArray("<a>").repeated(257) + QByteArray("</a>").repeated(257)}, {"bottomless", asMany("<a>", 0)}, {"deep-comments", asMany("<!--", 0)},
         {"many-elements", "<d>" + asMany("<a/>", 0) + "</d>"}, {"many-texts", "<d>" + asMany("<a>x</a>", 0) + "</d>"}, {"many-sections", "<d>" + QByteArray("<![CDATA[x]]>").repeated(readableNodes) + "</d>"},
@@ -183,7 +177,7 @@ QList<File> wild()
 
 QList<File> wildThemes()
 {
-    const QByteArray images = "<logo booktype='CUP2' filename='/dev/zero'/>"
+    const QByteArray images = "<logo booktype='CUP2' filename='products/pipe.xml'/>"
                               "<logo booktype='CUP2' filename='../../../../etc/passwd'/>";
     const auto theme = [](const QByteArray &attributes, const QByteArray &children) {
         return "<themes><theme id='wild' " + attributes + '>' + children + "</theme></themes>";
@@ -204,7 +198,7 @@ QList<File> wildThemes()
         {"PRODUCTS", theme("", "<products>" + asMany("<product>BOOK</product>", 2) + "</products>")},
         {"LOGOS", theme("", "<logos>" + asMany("<logo filename='n' width='2147483647' x='-2147483648'/>", 4) + "</logos>")},
         {"COLLIDINGIMAGES", theme("", "<logos><logo filename='" + collidingNames(40000).join("'/><logo filename='") + "'/></logos>")},
-        {"IMAGES", theme("thumbnail='/dev/zero'", "<logos>" + images + "</logos>")},
+        {"IMAGES", theme("thumbnail='../../../../etc/passwd'", "<logos>" + images + "</logos>")},
         {"DESCRIPTION", theme("", "<description>" + asMany("ä", 0) + "</description>")},
         {"DEEPDESCRIPTION", theme("", "<description>" + QByteArray("<a>").repeated(250) + QByteArray("ä").repeated(200000) + QByteArray("</a>").repeated(250) + "</description>")},
         {"CATEGORIES", theme("", "<defaultcategories background='" + asMany("ä,", 0) + "'/>")},

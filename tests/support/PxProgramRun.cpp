@@ -26,7 +26,7 @@ PxProgramRun::PxProgramRun(const QString &program, const QStringList &arguments,
     QProcess process;
     process.setProcessEnvironment(all);
     process.start(program, arguments);
-    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
+    if (!process.waitForFinished(110000) || process.exitStatus() != QProcess::NormalExit)
         return;
     const QByteArray output = process.readAllStandardOutput();
     m_status = process.exitCode();
