@@ -1,16 +1,15 @@
-#include <PxDirectoryConfig.h>
+#include <PxCatalogueDirectory.h>
 #include <PxLogRecorder.h>
 #include <PxOrientation.h>
 #include <PxPageOrganizationCalculator.h>
 #include <PxPageOrganizationManager.h>
 #include <PxProductChecker.h>
 #include <PxProductCheckerRegistry.h>
-#include <PxProductGroup.h>
 #include <PxProductTypeCatalogue.h>
 #include <PxProductTypeList.h>
+#include <PxRows.h>
 
 #include <QSizeF>
-#include <QTemporaryDir>
 #include <QTest>
 
 class PxProductBaseTest : public QObject
@@ -20,29 +19,25 @@ class PxProductBaseTest : public QObject
 private slots:
     void initTestCase();
     void findsByCodeAndName();
-    void isOfOneClass();
     void keepsAnUnknownCode();
     void isAKeyByCodeAlone();
     void leavesOutBadRows();
     void countsFurtherBadRows();
     void saysWhyItCannotBeRead();
     void orientationIsReadFromTextBeforeSize();
-    void groupIsReadFromOneKeyword();
     void asksTheCalculatorAddedLast();
     void asksTheCheckersOfAKind();
 
 private:
     QFileInfo write(const QString &xml) const;
 
-    QTemporaryDir m_directory;
+    PxCatalogueDirectory m_directory;
 };
 
 QFileInfo PxProductBaseTest::write(const QString &xml) const
 {
-    QFile file(m_directory.filePath("producttypes.xml"));
-    if (!file.open(QIODevice::WriteOnly) || file.write(xml.toUtf8()) < 0)
-        qFatal("cannot write the catalogue of this test");
-    return QFileInfo(file.fileName());
+    m_directory.write("producttypes.xml", xml.toUtf8());
+    return QFileInfo(m_directory.filePath("producttypes.xml"));
 }
 
 void PxProductBaseTest::initTestCase()
@@ -50,11 +45,7 @@ void PxProductBaseTest::initTestCase()
     write("<producttypes><!-- all -->"
           "<producttype code='11' name=' Book_A4 ' class='book' shortname='BA4'/>"
           "<other/><producttype code='12' name='Foil\u00C4' class=' Deko ' shortname=''/>"
-          "<producttype code='13' name='C' class='calendar'/>"
-          "<producttype code='14' name='D' class='gift'/>"
-          "<producttype code='15' name='E' class='card'/>"
-          "<producttype code='16' name='F' class='print'/></producttypes>");
-    PxDirectoryConfig::instance()->setResourceDirectories({m_directory.path()});
+          "</producttypes>");
 }
 
 void PxProductBaseTest::findsByCodeAndName()
@@ -68,17 +59,6 @@ void PxProductBaseTest::findsByCodeAndName()
     QCOMPARE(foil, PxProductType(12));
     QCOMPARE(foil.shortProductName(), QString("Foil\u00C4"));
     QVERIFY(foil.isProductClass(PxProductClass(PxProductClassDecoration | PxProductClassCard)));
-}
-
-void PxProductBaseTest::isOfOneClass()
-{
-    constexpr int codes[] = {11, 13, 14, 15, 12, 16}; // the last one is a print
-    for (int i = 0; i < 6; ++i) {
-        const PxProductType t(codes[i]);
-        const bool is[] = {t.isBook(), t.isCalendar(), t.isGift(), t.isCard(), t.isDeko()};
-        for (int k = 0; k < 5; ++k)
-            QVERIFY2(is[k] == (i == k), qPrintable(t.productName()));
-    }
 }
 
 void PxProductBaseTest::keepsAnUnknownCode()
@@ -157,28 +137,16 @@ void PxProductBaseTest::saysWhyItCannotBeRead()
 
 void PxProductBaseTest::orientationIsReadFromTextBeforeSize()
 {
-    const auto orientation = [](const QString &text, double width, double height) {
-        return int(PxOrientation(text, QSizeF(width, height)).value());
-    };
-    QCOMPARE(orientation(" Round, panorama ", 1, 2), 40);
+    QCOMPARE(int(PxOrientation(" Round, panorama ", QSizeF(1, 2)).value()), 40);
     QCOMPARE(int(PxOrientation(" Round, panorama ").value()), 40);
     QCOMPARE(int(PxOrientation("portraitpanorama").value()), 16);
-    QCOMPARE(orientation("square", 1, 2), 4);
-    QCOMPARE(orientation("", 2.1, 2), 2);
-    QCOMPARE(orientation("", 2, 2.1), 1);
-    QCOMPARE(orientation("", 3, 3), 4);
-    QCOMPARE(orientation("", -1, -1), 0);
-    QCOMPARE(orientation("", 3, 0), 0);
-    QCOMPARE(orientation("", 0, 3), 0);
-    QCOMPARE(orientation("", 0.5, 0.75), 1);
-    QCOMPARE(orientation("", qQNaN(), qQNaN()), 0);
-}
-
-void PxProductBaseTest::groupIsReadFromOneKeyword()
-{
-    QCOMPARE(PxProductGroup(" Product_FotoBook "), PxProductGroup(PxProductGroupBook));
-    for (const char *text : {"jewellery", "book,gift", ""})
-        QVERIFY2(!PxProductGroup(QString(text)).isValid(), text);
+    QCOMPARE(int(PxOrientation("square", QSizeF(1, 2)).value()), 4);
+    pxCheckAnswers("width,height", "2.1,2=2 2,2.1=1 3,3=4 -1,-1=0 3,0=0 0,3=0 0.5,0.75=1 nan,nan=0",
+                   [](const QString &size) {
+                       const QSizeF s(size.section(',', 0, 0).toDouble(),
+                                      size.section(',', 1).toDouble());
+                       return int(PxOrientation("", s).value());
+                   });
 }
 
 namespace {
@@ -235,12 +203,8 @@ void PxProductBaseTest::asksTheCheckersOfAKind()
     QVERIFY(registry->registerChecker(&five));
     QVERIFY(!registry->registerChecker(&four));
     QVERIFY(!registry->registerChecker(nullptr));
-    constexpr int valid[][2] = {{40, 0}, {50, 0}, {40, 4}};
-    for (const auto &[type, kind] : valid)
-        QVERIFY2(registry->isValid(type, kind), QByteArray::number(kind));
-    constexpr int invalid[][2] = {{41, 0}, {40, 5}, {40, 6}};
-    for (const auto &[type, kind] : invalid)
-        QVERIFY2(!registry->isValid(type, kind), QByteArray::number(kind));
+    pxCheckAnswers("type,kind", "40,0=true 50,0=true 40,4=true 41,0=false 40,5=false 40,6=false",
+                   [=](const QList<int> &asked) { return registry->isValid(asked[0], asked[1]); });
 }
 
 QTEST_GUILESS_MAIN(PxProductBaseTest)
