@@ -1,5 +1,7 @@
 #include "PxFuzzedDirectory.h"
 
+#include <PxAskEverything.h>
+
 #include <description/PxProductTypeDescription.h>
 
 #include <QDomDocument>
@@ -11,14 +13,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     QDomDocument product;
     product.setContent(QByteArrayLiteral("<product name='CUP2'/>"));
     const PxProductTypeDescription description(product.documentElement());
-    for (const char *theme : {"normal", "hochzeit", ""}) {
-        for (const PxPageTypeEnum pageType :
-             {PxPageTypeNone, PxPageTypeNormalPage, PxPageTypeAll}) {
-            const PxPageContext page(pageType, PxPageAlignmentLeft);
-            for (const DefaultTemplateType type :
-                 {DefaultTemplateTypeLayout, DefaultTemplateTypeBackground})
-                description.findDefaultTemplate({QLatin1String(theme), page, type}, true, true);
-        }
-    }
+    PxArguments arguments;
+    arguments.pages = {};
+    arguments.pageCounts = {};
+    pxAskEverything(description, arguments);
     return 0;
 }
