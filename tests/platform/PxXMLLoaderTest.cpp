@@ -179,19 +179,15 @@ void PxXMLLoaderTest::buildsTheTreeOfSetContent()
 void PxXMLLoaderTest::decodes()
 {
     // clang-format off
-    constexpr struct { const char *encoding; bool hasMark; const char *declared; const char *error; } rows[] = {
-        {"UTF-8", true, "", ""},
-        {"UTF-8", false, "Utf8", ""},
-        {"UTF-8", false, "klingon", "1:1: the declared encoding is unknown"},
-        {"UTF-8", true, "ISO-8859-1", "1:1: the text is UTF-8, but declares the encoding 'ISO-8859-1'"},
-        {"UTF-16LE", true, "UTF-16", ""},
-        {"UTF-16BE", true, "", ""},
-        {"UTF-16BE", false, "utf-16", ""},
-        {"UTF-32LE", true, "", ""},
-        {"UTF-16LE", false, "", ""},
-        {"UTF-16LE", true, "UTF-8", "1:1: the text is UTF-16LE, but declares the encoding 'UTF-8'"},
-        {"ISO-8859-1", false, "iso-8859-1", ""},
-        {"ISO-8859-1", false, "", "2:7: the text is no valid UTF-8"},
+    constexpr struct { const char *encoding; bool hasMark; const char *declared; } rows[] = {
+        {"UTF-8", true, ""},
+        {"UTF-8", false, "Utf8"},
+        {"UTF-16LE", true, "UTF-16"},
+        {"UTF-16BE", true, ""},
+        {"UTF-16BE", false, "utf-16"},
+        {"UTF-32LE", true, ""},
+        {"UTF-16LE", false, ""},
+        {"ISO-8859-1", false, "iso-8859-1"},
     };
     // clang-format on
     for (const auto &row : rows) {
@@ -205,11 +201,8 @@ void PxXMLLoaderTest::decodes()
         QTextCodec::ConverterState noMarkOfItsOwn(QTextCodec::IgnoreHeader);
         const QByteArray bytes = QTextCodec::codecForName(row.encoding)
                                      ->fromUnicode(xml.constData(), xml.size(), &noMarkOfItsOwn);
-        QString message;
-        const QDomElement element = PxXMLLoader::loadDocumentElement(write(bytes), &message);
-        QCOMPARE(message, *row.error ? path("file.xml:") + row.error : "");
-        QCOMPARE(element.attribute("b") + element.text(),
-                 *row.error ? QString() : QString("\u00E4\"") + letter);
+        const QDomElement element = PxXMLLoader::loadDocumentElement(write(bytes));
+        QCOMPARE(element.attribute("b") + element.text(), QString("\u00E4\"") + letter);
     }
     const QDomElement lineEnds =
         PxXMLLoader::loadDocumentElement(write("<a b='1\r\n2\t3&#13;'>x\r\ny&#13;</a>"));
@@ -234,6 +227,7 @@ void PxXMLLoaderTest::refusesMalformedTextAndKeepsTheLimits_data()
         {"crossed tags in latin", latin + "<a>\xE4</b>", "2:8: Opening and ending tag mismatch.", NotWellFormed, "ISO-8859-1"},
         {"line break in what is told", "<!DOCTYPE a PUBLIC \"x\n{y}\" \"s\"><a/>", "2:4: x {y} is an invalid PUBLIC identifier."},
         {"another encoding than the mark", "\xEF\xBB\xBF" + latin + "<a/>", "1:1: the text is UTF-8, but declares the encoding 'latin1'", Encoding},
+        {"UTF-16 with another declaration", QTextCodec::codecForName("UTF-16LE")->fromUnicode(QChar(QChar::ByteOrderMark) + QString("<?xml version='1.0' encoding='UTF-8'?><a/>")), "1:1: the text is UTF-16LE, but declares the encoding 'UTF-8'", Encoding, "UTF-16LE"},
         {"unknown encoding", "<?xml version='1.0' encoding='klingon'?><a/>", "1:1: the declared encoding is unknown", Encoding, ""},
         {"empty", "", "1:1: Premature end of document."},
         {"cut off", "<a>\n<b>", "2:3: Premature end of document."},
