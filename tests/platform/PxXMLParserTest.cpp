@@ -14,7 +14,6 @@ private slots:
     void readsNumbers();
     void readsFlags();
     void readsTimes();
-    void readsTimesOfAZone_data();
     void readsTimesOfAZone();
     void readsRectanglesAndSizes();
     void buildsElements();
@@ -99,42 +98,38 @@ void PxXMLParserTest::readsTimes()
     QVERIFY(!PxXMLParser::dateTimeAttribute(elementWith("x"), "a", "y").isValid());
 }
 
-void PxXMLParserTest::readsTimesOfAZone_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QStringList>("inUtc"); // of a reader in Berlin, in Sao Paulo, in UTC
-    const auto row = [](const char *text, const char *berlin, const char *saoPaulo,
-                        const char *utc) {
-        QTest::newRow(text) << text << QStringList({berlin, saoPaulo, utc});
-    };
-    row("202402291305", "2024-02-29 12:05", "2024-02-29 16:05", "2024-02-29 13:05");
-    row("2024-07-01T13:05", "2024-07-01 11:05", "2024-07-01 16:05", "2024-07-01 13:05");
-    row("2024-02-29T13:05+05:30", "2024-02-29 07:35", "2024-02-29 07:35", "2024-02-29 07:35");
-    row("2024-02-29T13:05:00-02", "2024-02-29 15:05", "2024-02-29 15:05", "2024-02-29 15:05");
-    row("2024-02-29T13:05Z", "2024-02-29 13:05", "2024-02-29 13:05", "2024-02-29 13:05");
-    // Skipped in Berlin, from two to three o'clock.
-    row("203003310230", "2030-03-31 01:30", "2030-03-31 05:30", "2030-03-31 02:30");
-    row("2030-03-31T02:00", "2030-03-31 01:00", "2030-03-31 05:00", "2030-03-31 02:00");
-    row("2030-03-31T03:00", "2030-03-31 01:00", "2030-03-31 06:00", "2030-03-31 03:00");
-    row("2030-03-31T10:00", "2030-03-31 08:00", "2030-03-31 13:00", "2030-03-31 10:00");
-    row("2030-10-27T03:00", "2030-10-27 02:00", "2030-10-27 06:00", "2030-10-27 03:00");
-    // Skipped in Sao Paulo, from midnight to one o'clock.
-    row("2018-11-04", "2018-11-03 23:00", "2018-11-04 03:00", "2018-11-04 00:00");
-    row("201811040045", "2018-11-03 23:45", "2018-11-04 03:45", "2018-11-04 00:45");
-    row("201811040100", "2018-11-04 00:00", "2018-11-04 03:00", "2018-11-04 01:00");
-}
-
 /** The library asks for the zone once: each zone has a process of its own. */
 void PxXMLParserTest::readsTimesOfAZone()
 {
-    QFETCH(QString, text);
-    QFETCH(QStringList, inUtc);
+    constexpr struct
+    {
+        const char *text;
+        const char *inUtc[3]; // of a reader in Berlin, in Sao Paulo, in UTC
+    } rows[] = {
+        {"202402291305", {"2024-02-29 12:05", "2024-02-29 16:05", "2024-02-29 13:05"}},
+        {"2024-07-01T13:05", {"2024-07-01 11:05", "2024-07-01 16:05", "2024-07-01 13:05"}},
+        {"2024-02-29T13:05+05:30", {"2024-02-29 07:35", "2024-02-29 07:35", "2024-02-29 07:35"}},
+        {"2024-02-29T13:05:00-02", {"2024-02-29 15:05", "2024-02-29 15:05", "2024-02-29 15:05"}},
+        {"2024-02-29T13:05Z", {"2024-02-29 13:05", "2024-02-29 13:05", "2024-02-29 13:05"}},
+        // Skipped in Berlin, from two to three o'clock.
+        {"203003310230", {"2030-03-31 01:30", "2030-03-31 05:30", "2030-03-31 02:30"}},
+        {"2030-03-31T02:00", {"2030-03-31 01:00", "2030-03-31 05:00", "2030-03-31 02:00"}},
+        {"2030-03-31T03:00", {"2030-03-31 01:00", "2030-03-31 06:00", "2030-03-31 03:00"}},
+        {"2030-03-31T10:00", {"2030-03-31 08:00", "2030-03-31 13:00", "2030-03-31 10:00"}},
+        {"2030-10-27T03:00", {"2030-10-27 02:00", "2030-10-27 06:00", "2030-10-27 03:00"}},
+        // Skipped in Sao Paulo, from midnight to one o'clock.
+        {"2018-11-04", {"2018-11-03 23:00", "2018-11-04 03:00", "2018-11-04 00:00"}},
+        {"201811040045", {"2018-11-03 23:45", "2018-11-04 03:45", "2018-11-04 00:45"}},
+        {"201811040100", {"2018-11-04 00:00", "2018-11-04 03:00", "2018-11-04 01:00"}},
+    };
     const int zone = zones.indexOf(qgetenv("TZ"));
-    for (const char *before : {"2030-01-01", "2030-07-01"}) { // which is not remembered
-        PxXMLParser::dateTimeAttribute(elementWith(before), "a", QString());
-        const QDateTime time = PxXMLParser::dateTimeAttribute(elementWith(text), "a", QString());
-        QCOMPARE(time.timeSpec(), Qt::LocalTime);
-        QCOMPARE(time.toUTC().toString("yyyy-MM-dd HH:mm"), inUtc[zone]);
+    for (const auto &[text, inUtc] : rows) {
+        for (const char *before : {"2030-01-01", "2030-07-01"}) { // which is not remembered
+            PxXMLParser::dateTimeAttribute(elementWith(before), "a", QString());
+            const QDateTime time = PxXMLParser::dateTimeAttribute(elementWith(text), "a", {});
+            QCOMPARE(time.timeSpec(), Qt::LocalTime);
+            QVERIFY2(time.toUTC().toString("yyyy-MM-dd HH:mm") == inUtc[zone], text);
+        }
     }
 }
 

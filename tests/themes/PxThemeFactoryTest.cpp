@@ -20,7 +20,6 @@ private slots:
     void themesOfOneFileAreBounded();
     void damagedAndForeignFilesAreLeftOut();
     void bothEndingsAreReadAndTheIndexTakesTheLast();
-    void imagesAreReadOnceAndWithinBounds();
     void warnsOfNamesThatCannotBeDecoded();
     void defaultThemeFallsBackToTheFirst();
     void instanceChoosesTheDefaultTheme();
@@ -147,21 +146,6 @@ void PxThemeFactoryTest::bothEndingsAreReadAndTheIndexTakesTheLast()
                                      "<t id='a'><description>2</description></t></themes>");
     QCOMPARE(factory.loadThemeList(directory).findTheme("a").description(), QString("1"));
     QCOMPARE(factory.findThemes(QString("x,a,,a, a")).descriptionList(), QStringList({"2", "2"}));
-}
-
-void PxThemeFactoryTest::imagesAreReadOnceAndWithinBounds()
-{
-    m_directory.write("no.png", "");
-    m_directory.write("folder.png/x", "");
-    const PxLogRecorder log;
-    const PxTheme theme = load("images/a.xml", R"(<themes><t><logos>
-        <l filename="no.png" booktype="BOOK"/><l filename="NO.PNG" booktype="CUP"/></logos></t>
-        <t><logos><l filename="folder.png" booktype="CUP"/></logos></t></themes>)")
-                              .value(0);
-    QVERIFY(theme.mustPaintVemoLogo(7));
-    QVERIFY(theme.vemoLogo(7).first.isNull());
-    QCOMPARE(log.texts().filter("is no PNG").size(), 1);
-    QCOMPARE(log.texts().size(), 2); // and how many themes there are
 }
 
 void PxThemeFactoryTest::warnsOfNamesThatCannotBeDecoded()
