@@ -32,7 +32,6 @@ private slots:
     void opensRegularFilesOnly();
     void waitsForNoPipe();
     void elementOutlivesItsDocument();
-    void needsLittleStack();
     // Whatever the plain reader reads, the strict one reads as the same tree.
     void plainReaderLeavesWhatIsOdd();
     void plainReaderReadsUpToItsLimits();
@@ -364,22 +363,6 @@ void PxXMLLoaderTest::elementOutlivesItsDocument()
     const QDomNode copy = element.cloneNode();
     element = QDomElement();
     QCOMPARE(pxXml(copy.toElement()), QString("<a b=\"2\">x<d>y</d></a>"));
-}
-
-void PxXMLLoaderTest::needsLittleStack()
-{
-    const QFileInfo file = write(nested(254, withNodes(1000)));
-    bool isLoaded = false;
-    QThread *thread = QThread::create([&] {
-        const QDomElement element = PxXMLLoader::loadDocumentElement(file);
-        QDomNode copy = element.cloneNode(true); // deepest of what is done with a tree
-        isLoaded = !copy.toElement().text().isEmpty();
-    });
-    thread->setStackSize(512 * 1024);
-    thread->start();
-    QVERIFY(thread->wait());
-    delete thread;
-    QVERIFY(isLoaded);
 }
 
 void PxXMLLoaderTest::plainReaderLeavesWhatIsOdd()
