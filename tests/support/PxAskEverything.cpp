@@ -76,18 +76,14 @@ void askAboutTheProduct(const PxProductTypeDescription &asked, QDebug &answers)
     }
 }
 
-void askAboutThePage(const PxProductTypeDescription &asked, int page,
-                     const QVector<int> &pageCounts, QDebug &answers)
+/** Of a product, alone or in its context. */
+template <typename Asked>
+void askAboutThePage(const Asked &asked, const QByteArray &about, QDebug &answers, int page)
 {
-    QByteArray about = with(product, "page", page);
     // clang-format off
     PX_ASK(pageAlignment(page)); PX_ASK(contentAllowedOnPage(page)); PX_ASK(contentDropRedirect(page));
     PX_ASK(rotationRedirectForSourcePage(page)); PX_ASK(rotationRedirectForTargetPage(page));
     // clang-format on
-    for (const int pageCount : pageCounts) {
-        about = with(with(product, "page", page), "page count", pageCount);
-        PX_ASK(barcodeOnPage(page, pageCount));
-    }
 }
 
 void askAboutTheKind(const PxProductTypeDescription &asked, const PxPageContext &kind,
@@ -146,8 +142,13 @@ QString pxAskEverything(const PxProductTypeDescription &asked, const PxArguments
     }
     for (const PxPageContext &kind : arguments.kinds)
         askAboutTheKind(asked, kind, arguments, answers);
-    for (const int page : arguments.pages)
-        askAboutThePage(asked, page, arguments.pageCounts, answers);
+    for (const int page : arguments.pages) {
+        askAboutThePage(asked, with(product, "page", page), answers, page);
+        for (const int pageCount : arguments.pageCounts) {
+            const QByteArray about = with(with(product, "page", page), "page count", pageCount);
+            PX_ASK(barcodeOnPage(page, pageCount));
+        }
+    }
     return text;
 }
 
@@ -248,13 +249,8 @@ QString pxAskEverything(const PxProductContext &asked, const PxArguments &argume
         PX_ASK(spineWidth(pageCount));
         PX_ASK(spineMaxFontHeight(pageCount));
     }
-    for (const int page : arguments.pages) {
-        about = with(context, "page", page);
-        // clang-format off
-        PX_ASK(pageAlignment(page)); PX_ASK(contentAllowedOnPage(page)); PX_ASK(contentDropRedirect(page));
-        PX_ASK(rotationRedirectForSourcePage(page)); PX_ASK(rotationRedirectForTargetPage(page));
-        // clang-format on
-    }
+    for (const int page : arguments.pages)
+        askAboutThePage(asked, with(context, "page", page), answers, page);
     for (const PxPageContext &kind : arguments.kinds) {
         about = with(context, kind);
         // clang-format off
