@@ -63,7 +63,7 @@ void PxCheckOutputTest::hidesWhatIsKnown()
     const PxProgramRun first = m_sample.check("--write-baseline known.json .");
     QCOMPARE(first.status(), 0);
     QCOMPARE(first.output().size(), 1);
-    QVERIFY(first.text().contains(" files read: nothing found, "));
+    QVERIFY(first.text().contains(" files: nothing found, "));
     const QString written = m_sample.read("known.json");
     m_sample.check("--write-baseline known.json " + m_sample.path());
     QCOMPARE(m_sample.read("known.json"), written);
@@ -73,6 +73,13 @@ void PxCheckOutputTest::hidesWhatIsKnown()
     QVERIFY(m_sample.check("--baseline known.json --format json .").json()["known"].toInt() > 3);
     m_sample.replace(cup, "<pages>", comment + "<pages>"); // one more of them
     QCOMPARE(findingsOf(m_sample.check("--baseline known.json .")).size(), 1);
+    m_sample.restore(cup); // where now there is none
+    const QString gone = "in the baseline, but gone: products/cup2.xml: nothing here is "
+                         "\"xml-limit-exceeded\" [allowance-unused]";
+    QVERIFY(m_sample.check("--baseline known.json .").output().contains(gone));
+    QCOMPARE(m_sample.check("--baseline known.json --json .").json()["gone"].toArray().size(), 1);
+    for (const QString unknown : {"--skip allowance-unused .", "products/pendant.xml"})
+        QVERIFY(!m_sample.check("--baseline known.json " + unknown).text().contains("gone"));
 }
 
 /** A baseline comes from anywhere, as the files of a catalogue do. */
@@ -109,7 +116,7 @@ void PxCheckOutputTest::tellsAHundredOfAKind()
     QCOMPARE(findingsOf(text)[100], QString("./products/cup2.xml:132:2 warning element-unknown"));
     QVERIFY(text.output()[text.output().size() - 2].endsWith(
         "warning: and 30 more in this file [element-unknown]"));
-    QVERIFY(text.output().constLast().endsWith(" files read: 130 warnings"));
+    QVERIFY(text.output().constLast().endsWith(" files: 130 warnings"));
     QCOMPARE(text.status(), 1);
     const QJsonObject json = m_sample.check("--format json .").json();
     QCOMPARE(json["counts"]["warning"].toInt(), 130);
@@ -180,7 +187,10 @@ void PxCheckOutputTest::printsWhatTheDocumentShows()
                               .section("```console\n$ pxcatalogue check catalogue\n", 1)
                               .section("\n```", 0, 0);
     m_sample.replace(cup, size, "<usablesize width=\"2000\" width=\"2500\" height=\"950\"/>");
-    QCOMPARE(m_sample.check(".").output().join('\n'), QString(shown).replace("catalogue/", "./"));
+    QCOMPARE(m_sample.check(".").output().join('\n'),
+             QString(shown)
+                 .replace("catalogue/", "./")
+                 .replace("catalogue:", QDir(m_sample.path()).dirName() + ':'));
 }
 
 QTEST_GUILESS_MAIN(PxCheckOutputTest)

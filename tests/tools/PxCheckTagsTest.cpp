@@ -3,7 +3,9 @@
 
 #include <check/findings/PxCheckTags.h>
 
+#include <QDir>
 #include <QFile>
+#include <QJsonArray>
 #include <QTest>
 
 /** Each kind of finding by its example, which is a change to one file of the sample catalogue. */
@@ -18,26 +20,32 @@ private slots:
     void documentationIsWhatTheProgramSays();
 
 private:
-    QStringList findings(const QString &path) const;
+    using Replacement = QPair<int, QString>; // how many characters, by what
+
+    QStringList findings(const QString &path, Replacement *replacement = nullptr) const;
 
     PxSampleCopy m_sample;
 };
 
-/** Place and tag of each finding, without the directory. */
-QStringList PxCheckTagsTest::findings(const QString &path) const
+/** Place and tag of each finding, without the directory, and what mends it for certain. */
+QStringList PxCheckTagsTest::findings(const QString &path, Replacement *replacement) const
 {
-    const PxProgramRun run(PX_CATALOGUE_PROGRAM, {"check", "--pedantic", path},
+    const PxProgramRun run(PX_CATALOGUE_PROGRAM, {"check", "--pedantic", "--json", path},
                            {{"PX_RESOURCE_DIRS", QString()}});
-    const QString directory = m_sample.path() + '/';
     QStringList found;
-    for (QString line : run.output()) {
-        if (line.startsWith(directory) && line.endsWith(']'))
-            found.append(line.remove(0, directory.size()).section(": ", 0, 0) + ' ' +
-                         line.section(" [", -1).chopped(1));
+    for (const QJsonValue &finding : run.json()["findings"].toArray()) {
+        found.append(QString("%1:%2:%3 %4")
+                         .arg(QDir(m_sample.path()).relativeFilePath(finding["path"].toString()))
+                         .arg(finding["line"].toInt())
+                         .arg(finding["column"].toInt())
+                         .arg(finding["tag"].toString()));
+        if (finding["now"].toString().isEmpty()) // each tells what becomes of it
+            found.append("without \"now\"");
+        if (replacement && finding["replacement"].isString()) {
+            const int length = finding["endColumn"].toInt() - finding["column"].toInt();
+            *replacement = {length, finding["replacement"].toString()};
+        }
     }
-    // Each tells what becomes of it.
-    if (run.output().filter("    now: ").size() != found.size())
-        found.append("without \"now\"");
     return found;
 }
 
@@ -76,8 +84,13 @@ void PxCheckTagsTest::exampleIsFound()
                               .arg(tag.file)
                               .arg(before.count('\n') + 1)
                               .arg(before.size() - before.lastIndexOf('\n'));
-    const QStringList found = findings(m_sample.path());
+    Replacement replacement{-1, QString()};
+    const QStringList found = findings(m_sample.path(), &replacement);
     const QStringList foundAlone = findings(m_sample.filePath(tag.file));
+    if (replacement.first >= 0) { // which mends it
+        m_sample.write(tag.file, bad.replace(before.size(), replacement.first, replacement.second));
+        QCOMPARE(findings(m_sample.path()), QStringList());
+    }
     m_sample.restore(tag.file);
     QCOMPARE(found, QStringList(place + name));
     QCOMPARE(foundAlone.contains(place + name), !tag.needsCatalogue);

@@ -9,14 +9,37 @@
 #include <QJsonObject>
 #include <QStringList>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
+#include <iterator>
 
 #include <fcntl.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace {
+
+/** Scripts and pictures that terminals draw across two columns. */
+constexpr struct
+{
+    uint first;
+    uint last;
+} wide[] = {
+    {0x1100, 0x115E},   // initial consonants of Hangul
+    {0x2E80, 0x303E},   // radicals and punctuation
+    {0x3041, 0xA4CF},   // kana, ideographs, Yi
+    {0xA960, 0xA97C},   // old consonants of Hangul
+    {0xAC00, 0xD7A3},   // Hangul
+    {0xF900, 0xFAFF},   // compatibility ideographs
+    {0xFE30, 0xFE6F},   // compatibility forms
+    {0xFF01, 0xFF60},   // full-width forms
+    {0xFFE0, 0xFFE6},   // full-width signs
+    {0x1F300, 0x1F64F}, // pictures and faces
+    {0x1F680, 0x1F6FF}, // transport and signs
+    {0x1F900, 0x1FAFF}, // more pictures
+    {0x20000, 0x3FFFD}, // more ideographs
+};
 
 bool writeOutput(const QByteArray &output)
 {
@@ -55,6 +78,22 @@ bool PxTerminal::hasColours()
 {
     return isatty(STDOUT_FILENO) != 0 && qEnvironmentVariableIsEmpty("NO_COLOR") &&
            qgetenv("TERM") != "dumb";
+}
+
+int PxTerminal::width(uint character)
+{
+    switch (QChar::category(character)) {
+    case QChar::Mark_NonSpacing:
+    case QChar::Mark_Enclosing:
+        return 0;
+    default:
+        return std::any_of(std::begin(wide), std::end(wide),
+                           [character](const auto &range) {
+                               return range.first <= character && character <= range.last;
+                           })
+                   ? 2
+                   : 1;
+    }
 }
 
 QString PxTerminal::shortened(const QString &text, int width)

@@ -21,6 +21,8 @@ public:
     /** Whether stdout is a terminal whose user has not switched colours off. */
     static bool hasColours();
 
+    /** How many columns a visible character takes: 1, for wide ones 2, for combining ones 0. */
+    static int width(uint character);
     /** Cut off with an ellipsis if it is longer than `width`. */
     static QString shortened(const QString &text, int width);
     /** Broken into lines of at most `width` characters; longer words stay whole. */

@@ -100,8 +100,8 @@ std::optional<PxProblem> findResources(const PxCommandLine &line, const QStringL
                              .arg(paths.constFirst())};
     if (haveDirectory)
         *resources = paths;
-    const bool areNamed = !resources->isEmpty() || !qEnvironmentVariableIsEmpty("PX_RESOURCE_DIRS");
-    return areNamed ? std::nullopt : findResourcesAbove(paths, resources);
+    // What is named on the command line is checked, whatever the environment names.
+    return resources->isEmpty() ? findResourcesAbove(paths, resources) : std::nullopt;
 }
 
 std::optional<PxProblem> useGivenOnes(const PxCommandLine &line, const QStringList &paths)
@@ -124,7 +124,7 @@ std::optional<PxProblem> useGivenOnes(const PxCommandLine &line, const QStringLi
     if (!resources.isEmpty()) { // a named catalogue comes with its own themes and defaults
         config->setResourceDirectories(resources);
         config->setUserDefaultsPath(config->resource("defaults", false));
-        config->setThemesDirectory(QString());
+        config->setThemesDirectory(config->resource("themes", false));
     }
     if (!userDefaults.isEmpty())
         config->setUserDefaultsPath(userDefaults);
@@ -146,6 +146,23 @@ std::optional<PxProblem> PxCatalogueDirectories::problemOf(const QString &direct
                          .arg(directory, info.isDir()    ? "cannot be read"
                                          : info.exists() ? "is no directory"
                                                          : "does not exist")};
+}
+
+QString PxCatalogueDirectories::origin(const PxCommandLine &line)
+{
+    if (!line.arguments().isEmpty())
+        return QString();
+    const auto isOfEnvironment = [&line](const char *variable) {
+        return !line.isSet("resources") && !qEnvironmentVariableIsEmpty(variable);
+    };
+    QStringList origins{line.isSet("resources")               ? "--resources"
+                        : isOfEnvironment("PX_RESOURCE_DIRS") ? "PX_RESOURCE_DIRS"
+                                                              : "installed with the library"};
+    if (isOfEnvironment("PX_THEMES_DIR") && !line.isSet("themes"))
+        origins.append("its themes: PX_THEMES_DIR");
+    if (isOfEnvironment("PX_USER_DEFAULTS_DIR") && !line.isSet("user-defaults"))
+        origins.append("its user defaults: PX_USER_DEFAULTS_DIR");
+    return origins.join("; ");
 }
 
 std::optional<PxProblem> PxCatalogueDirectories::apply(const PxCommandLine &line)

@@ -21,6 +21,9 @@ public:
      */
     static std::optional<PxProblem> applyForCheck(const PxCommandLine &line);
 
+    /** What names the catalogue, such as "--resources"; empty for the arguments of a check. */
+    static QString origin(const PxCommandLine &line);
+
     /** Returns a problem unless the path is a directory that can be read. */
     static std::optional<PxProblem> problemOf(const QString &directory);
 };

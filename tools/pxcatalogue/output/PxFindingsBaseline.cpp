@@ -125,15 +125,20 @@ std::optional<PxProblem> PxFindingsBaseline::readFindings(const QJsonArray &find
     return std::nullopt;
 }
 
-QByteArray PxFindingsBaseline::toJson() const
+QJsonArray PxFindingsBaseline::jsonOf(const QMap<PxFindingIdentity, int> &counts)
 {
     QJsonArray findings;
-    for (auto it = m_counts.begin(); it != m_counts.end(); ++it)
+    for (auto it = counts.begin(); it != counts.end(); ++it)
         findings.append(QJsonObject{{"path", it.key().path()},
                                     {"tag", it.key().tag()},
                                     {"message", it.key().message()},
                                     {"count", *it}});
-    const QJsonObject json{{"format", formatVersion}, {"findings", findings}};
+    return findings;
+}
+
+QByteArray PxFindingsBaseline::toJson() const
+{
+    const QJsonObject json{{"format", formatVersion}, {"findings", jsonOf(m_counts)}};
     return PxVisibleText::json(QJsonDocument(json).toJson()).toUtf8();
 }
 
@@ -182,5 +187,14 @@ void PxFindingsBaseline::hide(PxCheckReport *report) const
             findings[i].setRest(count);
         if (count > 0)
             report->findings.append(findings[i]);
+    }
+    addGone(left, report);
+}
+
+void PxFindingsBaseline::addGone(const QMap<PxFindingIdentity, int> &left, PxCheckReport *report)
+{
+    for (auto it = left.begin(); it != left.end() && report->catalogue; ++it) {
+        if (*it > 0 && report->tagsChecked.contains(it.key().tag()))
+            report->gone.insert(it.key(), *it);
     }
 }

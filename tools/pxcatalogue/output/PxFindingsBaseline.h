@@ -27,13 +27,19 @@ public:
 
     /** Reads the contents of such a file. A problem does not name the file. */
     std::optional<PxProblem> readJson(const QByteArray &text);
+    /** An array with an object for each. */
+    static QJsonArray jsonOf(const QMap<PxFindingIdentity, int> &counts);
     /** The text for readJson(). */
     QByteArray toJson() const;
 
-    /** Removes each known finding from the report as many times as the baseline counts it. */
+    /**
+     * Removes each known finding from the report as many times as the baseline counts it, and
+     * adds those that are gone: only if they would have been found.
+     */
     void hide(PxCheckReport *report) const;
 
 private:
+    static void addGone(const QMap<PxFindingIdentity, int> &left, PxCheckReport *report);
     std::optional<PxProblem> readFindings(const QJsonArray &findings);
 
     QMap<PxFindingIdentity, int> m_counts;

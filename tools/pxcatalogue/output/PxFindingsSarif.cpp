@@ -2,6 +2,7 @@
 
 #include "check/findings/PxCheckTags.h"
 #include "check/findings/PxFindingIdentity.h"
+#include "output/PxTagHelp.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -43,6 +44,13 @@ QJsonObject severityOf(PxSeverity severity)
     return {{"severity", PxCheckTags::severityName(severity)}};
 }
 
+QJsonObject helpOf(const PxCheckTag &tag)
+{
+    QJsonObject help = textOf(tag.explanation);
+    help.insert("markdown", textOf(PxTagHelp::markdown(tag))["text"]);
+    return help;
+}
+
 QJsonObject ruleOf(const PxCheckTag &tag)
 {
     const QJsonObject configuration{{"level", levelOf(tag.severity)},
@@ -50,7 +58,8 @@ QJsonObject ruleOf(const PxCheckTag &tag)
     return {{"id", tag.name},
             {"shortDescription", textOf(tag.summary)},
             {"fullDescription", textOf(tag.explanation)},
-            {"help", textOf(tag.explanation)},
+            {"help", helpOf(tag)},
+            {"helpUri", PxTagHelp::url(tag)},
             {"defaultConfiguration", configuration},
             {"properties", severityOf(tag.severity)}};
 }
@@ -93,6 +102,23 @@ QJsonObject artifactOf(const QString &path, const PxCheckReport &report)
             {"uriBaseId", catalogueBase}};
 }
 
+QJsonObject locationOf(const PxPlace &place, const PxCheckReport &report)
+{
+    const QJsonObject physical{{"artifactLocation", artifactOf(place.path, report)},
+                               {"region", regionOf(place)}};
+    return {{"physicalLocation", physical}};
+}
+
+/** A repair that needs no decision. */
+QJsonObject fixOf(const PxFinding &finding, const PxCheckReport &report)
+{
+    const QJsonObject replacement{{"deletedRegion", regionOf(finding.place)},
+                                  {"insertedContent", QJsonObject{{"text", finding.replacement}}}};
+    const QJsonObject change{{"artifactLocation", artifactOf(finding.place.path, report)},
+                             {"replacements", QJsonArray{replacement}}};
+    return {{"description", textOf(finding.hint)}, {"artifactChanges", QJsonArray{change}}};
+}
+
 QJsonObject resultOf(const PxFinding &finding, const QString &fingerprint,
                      const PxCheckReport &report)
 {
@@ -101,16 +127,22 @@ QJsonObject resultOf(const PxFinding &finding, const QString &fingerprint,
         texts.append("now: " + finding.now);
     if (!finding.hint.isEmpty())
         texts.append("hint: " + finding.hint);
-    const QJsonObject location{{"artifactLocation", artifactOf(finding.place.path, report)},
-                               {"region", regionOf(finding.place)}};
-    return {{"ruleId", finding.tag->name},
-            {"ruleIndex", PxCheckTags::all().indexOf(finding.tag)},
-            {"level", levelOf(finding.severity)},
-            {"occurrenceCount", finding.count()},
-            {"message", textOf(texts.join('\n'))},
-            {"locations", QJsonArray{QJsonObject{{"physicalLocation", location}}}},
-            {"partialFingerprints", QJsonObject{{"findingIdentity/v1", fingerprint}}},
-            {"properties", severityOf(finding.severity)}};
+    QJsonObject result{{"ruleId", finding.tag->name},
+                       {"ruleIndex", PxCheckTags::all().indexOf(finding.tag)},
+                       {"level", levelOf(finding.severity)},
+                       {"occurrenceCount", finding.count() + finding.otherPlaces},
+                       {"message", textOf(texts.join('\n'))},
+                       {"locations", QJsonArray{locationOf(finding.place, report)}},
+                       {"partialFingerprints", QJsonObject{{"findingIdentity/v1", fingerprint}}},
+                       {"properties", severityOf(finding.severity)}};
+    if (!finding.related.path.isEmpty()) {
+        QJsonObject related = locationOf(finding.related, report);
+        related.insert("message", textOf("also here"));
+        result.insert("relatedLocations", QJsonArray{related});
+    }
+    if (!finding.replacement.isNull())
+        result.insert("fixes", QJsonArray{fixOf(finding, report)});
+    return result;
 }
 
 QJsonArray resultsOf(const PxCheckReport &report)

@@ -163,6 +163,7 @@ void PxCheck::checkThemes()
         m_themes.addKnownFile(PxCheckedFile(path));
     const bool isEveryRead =
         checkFiles(m_paths.themes, PxFileKind::Theme, [this](const PxCheckedFile &file) {
+            m_themeCount += file.root()->children.size();
             m_themes.addFile(file);
             PxThemeFileCheck(*file.root(), m_types, m_themeImages, reporterFor(file)).run();
         });
@@ -183,6 +184,7 @@ void PxCheck::checkProductTypes(const PxCheckedFile &file)
 
 void PxCheck::checkProduct(const PxCheckedFile &file, bool isLegacy)
 {
+    ++(isLegacy ? m_legacyProductCount : m_productCount);
     const PxReporter report = reporterFor(file);
     const PxCheckedProduct product(file, isLegacy);
     PxProductCheck(product, m_types, report).run();

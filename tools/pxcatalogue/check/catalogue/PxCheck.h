@@ -18,6 +18,9 @@ public:
 
     void run();
     int fileCount() const { return m_fileCount; }
+    int productCount() const { return m_productCount; }
+    int legacyProductCount() const { return m_legacyProductCount; }
+    int themeCount() const { return m_themeCount; }
 
 private:
     template <typename CheckFile>
@@ -34,6 +37,9 @@ private:
     const PxCheckPaths m_paths;
     PxFindings &m_findings;
     int m_fileCount = 0;
+    int m_productCount = 0;
+    int m_legacyProductCount = 0;
+    int m_themeCount = 0;
     // What files are compared with. Some count the guesses that they have made in this run.
     PxListedProductTypes m_types;
     PxKnownNames m_themeIds;      // empty if not all are known

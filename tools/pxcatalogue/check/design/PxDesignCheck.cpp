@@ -66,7 +66,8 @@ void PxDesignCheck::checkEachVariant(const PxSourceElement &list) const
                  tidy.isEmpty() ? "the variant is empty" : "\"%1\" has no display name for %2",
                  identifier, m_product.type().productName())
             .now("this variant is hidden")
-            .hint(isNamed(tidy) ? PxSpelling::didYouMean(tidy) : text.hint);
+            .hint(isNamed(tidy) ? PxSpelling::didYouMean(tidy) : text.hint)
+            .replacement(isNamed(tidy) ? tidy : QString());
     }
 }
 

@@ -25,4 +25,6 @@ struct PxCheckTag
     const char *good;
     /** Only found when all files of a catalogue are checked together. */
     bool needsCatalogue = false;
+    /** Findings with the same message have one cause, outside their files. */
+    bool isOfOneCause = false;
 };

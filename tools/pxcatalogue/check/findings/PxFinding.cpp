@@ -9,5 +9,5 @@ void PxFinding::setRest(int count)
 QString PxFinding::text() const
 {
     QString text = message;
-    return text.replace(otherPlaceMark, otherPlace.seenFrom(place.path));
+    return text.replace(relatedMark, related.seenFrom(place.path));
 }

@@ -7,11 +7,11 @@ namespace {
 /** The message without what changes between runs: line numbers and the path of the catalogue. */
 QString withoutLine(const PxFinding &finding, const QHash<QString, QString> &catalogueNames)
 {
-    const QString other = finding.otherPlace.path;
+    const QString other = finding.related.path;
     QString message = finding.message;
-    return message.replace(PxFinding::otherPlaceMark, other == finding.place.path
-                                                          ? "line"
-                                                          : catalogueNames.value(other, other));
+    return message.replace(PxFinding::relatedMark, other == finding.place.path
+                                                       ? "line"
+                                                       : catalogueNames.value(other, other));
 }
 
 } // namespace

@@ -85,6 +85,13 @@ bool PxFindings::isWanted(PxTag tag) const
            !m_settings.skipped.contains(tag);
 }
 
+/** A tag that the user names is seen, whatever its severity. */
+bool PxFindings::isSeen(PxTag tag, PxSeverity severity) const
+{
+    return isWanted(tag) && (m_settings.isPedantic || severity != PxSeverity::Pedantic ||
+                             m_settings.only.contains(tag));
+}
+
 QString PxFindings::lack(PxTag tag) const
 {
     return m_isPartial && PxCheckTags::of(tag).needsCatalogue ? "without the whole catalogue"
@@ -125,8 +132,7 @@ PxFinding PxFindings::summary(const QString &path, PxTag tag, const OfTag &findi
 void PxFindings::removeUnwanted(OfFile *file) const
 {
     for (auto it = file->begin(); it != file->end();) {
-        const bool isSeen = m_settings.isPedantic || it->severity != PxSeverity::Pedantic;
-        it = isWanted(it.key()) && isSeen ? std::next(it) : file->erase(it);
+        it = isSeen(it.key(), it->severity) ? std::next(it) : file->erase(it);
     }
 }
 
@@ -197,7 +203,19 @@ void PxFindings::addUnused(const PxAllowances::Allowance &allowance)
     PxAddedFinding(append(PxTag::AllowanceUnused, allowance.comment))
         .message(message, allowance.tag)
         .now("the comment silences nothing")
-        .hint([&] { return hintFor(allowance.tag); });
+        .hint([&] { return hintFor(allowance.tag); })
+        .replacement(tag ? "" : QString());
+}
+
+QSet<QString> PxFindings::tagsChecked() const
+{
+    QSet<QString> tags;
+    for (const PxCheckTag *tag : PxCheckTags::all()) {
+        const PxSeverity severity = m_settings.severities.value(tag->tag, tag->severity);
+        if (isSeen(tag->tag, severity) && lack(tag->tag).isEmpty())
+            tags.insert(tag->name);
+    }
+    return tags;
 }
 
 QMap<QString, QString> PxFindings::tagsNotChecked() const

@@ -4,6 +4,7 @@
 #include "check/findings/PxCheckTags.h"
 
 #include <QMap>
+#include <QSet>
 #include <QVector>
 
 /** What the user wants to see. */
@@ -34,6 +35,8 @@ public:
 
     /** The findings to report, sorted by path, line, column and tag. */
     QVector<PxFinding> sorted() const;
+    /** The tags whose findings, if there are any, are reported. */
+    QSet<QString> tagsChecked() const;
     /** The tags that were wanted but not checked, and what their checks lacked. */
     QMap<QString, QString> tagsNotChecked() const;
 
@@ -71,6 +74,7 @@ private:
     bool hasRoom(PxTag tag, const QString &path) const;
     PxFinding *append(PxTag tag, const PxPlace &place);
     bool isWanted(PxTag tag) const;
+    bool isSeen(PxTag tag, PxSeverity severity) const;
     /** What the check for the tag lacks; empty if the tag is checked. */
     QString lack(PxTag tag) const;
     void addUnused(const PxAllowances::Allowance &allowance);

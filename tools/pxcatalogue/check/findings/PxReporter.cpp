@@ -32,8 +32,8 @@ void PxAddedFinding::setText(Member member, const QString &text, const QStringLi
 /** A message gets a mark instead of the place, because lines and paths change from run to run. */
 QString PxAddedFinding::textOf(const PxPlace &place, Member member)
 {
-    if (member != &PxFinding::message)
-        return place.seenFrom(m_finding->place.path);
-    m_finding->otherPlace = place;
-    return PxFinding::otherPlaceMark;
+    if (m_finding->related.path.isEmpty())
+        m_finding->related = place;
+    return member == &PxFinding::message ? QString(PxFinding::relatedMark)
+                                         : place.seenFrom(m_finding->place.path);
 }

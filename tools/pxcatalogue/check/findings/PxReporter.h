@@ -36,6 +36,12 @@ public:
     {
         return set(&PxFinding::hint, text, arguments...);
     }
+    /** What to put in place of what is there. A null text if that is not certain. */
+    template <typename Text>
+    PxAddedFinding &replacement(const Text &text)
+    {
+        return set(&PxFinding::replacement, text);
+    }
 
 private:
     using Member = QString PxFinding::*;

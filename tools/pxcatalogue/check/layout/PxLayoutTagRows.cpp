@@ -51,7 +51,7 @@ static constexpr PxCheckTag rows[] = {
      "The library passes on the name, but the application finds no image. Images are looked up by their exact name, case included, in the resource directories, such as \"images/mug-handle.png\".",
      "products/cup2.xml",
      "image=\"»images/Mug-Handle.png\"",
-     "image=\"images/mug-handle.png\""},
+     "image=\"images/mug-handle.png\"", false, true},
     {PxTag::NumberListPartDropped, "number-list-part-dropped", PxSeverity::Warning, "a part of a list of pages is no number",
      "Parts are separated by commas, and a part that is no whole number is left out without a message; the numbers behind it move up. There are no ranges here: write 3,4,5 for 3-5.",
      "products/book_a4_portrait.xml",

@@ -136,7 +136,11 @@ void PxFormatCheck::addUnknownAttribute(const Place &place,
                              .arg(meant, PxMissingValue::text(place.element, *row))
                        : "it is passed over";
         })
-        .hint([&] { return hasPrefix ? withoutPrefix(local) : hintFor(attribute, place); });
+        .hint([&] { return hasPrefix ? withoutPrefix(local) : hintFor(attribute, place); })
+        .replacement([&] {
+            const QString meant = meantBy(attribute, place);
+            return meant.compare(attribute.name, Qt::CaseInsensitive) == 0 ? meant : QString();
+        });
 }
 
 /** The attribute that is probably misspelt; empty if the name rather belongs elsewhere. */

@@ -92,12 +92,14 @@ void PxValueCheck::checkBoolean() const
         return;
     const QString value = m_attribute.value;
     const QString meant = PxSpelling::hint(value, {"true", "false"});
+    const QString tidy = value.trimmed().toLower();
     m_report
         .add(PxTag::BooleanMalformed, m_attribute.valueRange,
              value.trimmed().isEmpty() ? "\"%1\" is empty" : "\"%2\" is neither true nor false",
              m_attribute.name, PxMessageText::shortened(value))
         .now([this] { return PxMissingValue::text(m_element, m_row); })
-        .hint(meant.isEmpty() ? "write \"true\" or \"false\"" : meant);
+        .hint(meant.isEmpty() ? "write \"true\" or \"false\"" : meant)
+        .replacement(QStringList{"true", "false"}.contains(tidy) ? tidy : QString());
 }
 
 void PxValueCheck::checkKeywords()
@@ -195,7 +197,10 @@ void PxValueCheck::checkUnknownKeyword(const PxSourcePart &entry, const QString 
             .hint(m_row.type == PxValueType::Keyword
                       ? "keep the one that is meant"
                       : QString("separate with commas: \"%1\"")
-                            .arg(PxMessageText::shortened(words.join(QLatin1Char(',')))));
+                            .arg(PxMessageText::shortened(words.join(QLatin1Char(',')))))
+            .replacement(m_row.type != PxValueType::Keyword && known == words.size()
+                             ? words.join(QLatin1Char(','))
+                             : QString());
         return;
     }
     const PxTag tag =
@@ -231,7 +236,8 @@ bool PxValueCheck::checkGap() const
         .add(PxTag::KeywordListGap, {comma, comma + 1}, "an entry of \"%1\" is empty",
              m_attribute.name)
         .now("it adds %1", QString::fromUtf8(PxFormat::keywords(m_row.keywords).defaultText))
-        .hint("take the comma out");
+        .hint("take the comma out")
+        .replacement("");
     return true;
 }
 

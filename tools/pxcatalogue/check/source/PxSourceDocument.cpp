@@ -163,6 +163,18 @@ bool PxSourceDocument::connectTo(const QDomElement &root)
     return !root.isNull() && dom.isNull();
 }
 
+QStringView PxSourceDocument::line(int number) const
+{
+    if (number < 1 || number > m_lineStarts.size())
+        return {};
+    const int begin = m_lineStarts.at(number - 1);
+    const int end = number < m_lineStarts.size() ? m_lineStarts.at(number) : m_text.size();
+    QStringView line = QStringView(m_text).mid(begin, end - begin);
+    while (line.endsWith(QLatin1Char('\n')) || line.endsWith(QLatin1Char('\r')))
+        line.chop(1);
+    return line;
+}
+
 PxPlace PxSourceDocument::place(const PxSourceRange &range) const
 {
     const auto [line, column] = lineAndColumn(range.begin);

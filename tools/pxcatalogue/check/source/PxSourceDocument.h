@@ -35,6 +35,8 @@ public:
      */
     bool connectTo(const QDomElement &root);
 
+    /** A line, counted from 1, without its end; empty if there are not so many. */
+    QStringView line(int number) const;
     /** The place of a range, without a path. Columns count characters, like editors. */
     PxPlace place(const PxSourceRange &range) const;
     /**

@@ -44,8 +44,15 @@ std::optional<PxProblem> check(const PxCommandLine &line, const PxCheckOptions &
     check.run();
     report->findings = findings.sorted();
     report->tagsNotChecked = findings.tagsNotChecked();
+    report->tagsChecked = findings.tagsChecked();
     report->fileCount = check.fileCount();
     report->catalogueNames = files.catalogueNames();
+    report->catalogue = files.catalogue();
+    if (report->catalogue) {
+        report->catalogue->productCount = check.productCount();
+        report->catalogue->legacyProductCount = check.legacyProductCount();
+        report->catalogue->themeCount = check.themeCount();
+    }
     return std::nullopt;
 }
 
@@ -65,6 +72,8 @@ std::optional<PxProblem> checkWithBaseline(const PxCommandLine &line, const PxCh
         problem = known.write(options.newBaseline());
     }
     known.hide(report);
+    if (!options.mustListAll())
+        report->joinCauses();
     return problem;
 }
 
@@ -74,8 +83,7 @@ PxExitStatus print(const PxCheckReport &report, const PxCheckOptions &options)
         return PxCommand::printed(PxFindingsJson::of(report));
     if (options.format() == Format::Sarif)
         return PxCommand::printed(PxFindingsSarif::of(report));
-    return PxCommand::printed(
-        PxFindingsText::of(report, PxTerminal::hasColours(), options.isQuiet()));
+    return PxCommand::printed(PxFindingsText::of(report, options.style()));
 }
 
 PxExitStatus runChecks(const PxCommandLine &line, const PxCheckOptions &options)

@@ -2,6 +2,7 @@
 
 #include "check/PxCheckLimits.h"
 #include "check/findings/PxCheckTags.h"
+#include "output/PxTagHelp.h"
 #include "report/PxTextTable.h"
 #include "writing/PxTerminal.h"
 
@@ -44,12 +45,6 @@ QString severityOf(const PxCheckTag &tag)
     return PxCheckTags::severityName(tag.severity);
 }
 
-/** The example without the mark at the place of the finding. */
-QString exampleOf(const PxCheckTag &tag)
-{
-    return QString::fromUtf8(tag.bad).remove(QChar(0x00BB));
-}
-
 QString indented(const QString &text)
 {
     QString lines = text;
@@ -68,36 +63,6 @@ QString pointedExampleOf(const PxCheckTag &tag)
     lineEnd = lineEnd < 0 ? bad.size() : lineEnd;
     return indented(
         QString(bad).insert(lineEnd, '\n' + QString(column, ' ') + '^').remove(mark, 1));
-}
-
-QString escaped(const QString &text)
-{
-    QString markdown;
-    for (const QChar character : text) {
-        if (QString("\\`*_[]<>|&").contains(character))
-            markdown += '\\';
-        markdown += character;
-    }
-    return markdown;
-}
-
-QString codeBlock(const QString &text)
-{
-    return "```xml\n" + text + (text.endsWith('\n') ? "```\n" : "\n```\n");
-}
-
-QString sectionOf(const PxCheckTag &tag)
-{
-    QString text =
-        QString("\n## %1\n\n**%2**: %3.\n\n%4\n")
-            .arg(tag.name, severityOf(tag), escaped(tag.summary), escaped(tag.explanation));
-    if (tag.needsCatalogue)
-        text += "\nOnly found when the whole catalogue is checked.\n";
-    if (qstrlen(tag.bad) > 0)
-        text += QString("\nFor example in `%1`:\n\n").arg(tag.file) + codeBlock(exampleOf(tag));
-    if (qstrlen(tag.good) > 0)
-        text += "\nRepaired:\n\n" + codeBlock(tag.good);
-    return text;
 }
 
 } // namespace
@@ -136,8 +101,8 @@ QString PxCheckExplanation::markdown()
                    "| Tag | Severity | Finding |\n|---|---|---|\n";
     for (const PxCheckTag *tag : PxCheckTags::all())
         text += QString("| [%1](#%1) | %2 | %3 |\n")
-                    .arg(tag->name, severityOf(*tag), escaped(tag->summary));
+                    .arg(tag->name, severityOf(*tag), PxTagHelp::escaped(tag->summary));
     for (const PxCheckTag *tag : PxCheckTags::all())
-        text += sectionOf(*tag);
+        text += QString("\n## %1\n\n").arg(tag->name) + PxTagHelp::markdown(*tag);
     return text;
 }

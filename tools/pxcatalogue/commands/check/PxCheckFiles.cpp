@@ -34,7 +34,9 @@ QString resource(const char *name)
 
 } // namespace
 
-PxCheckFiles::PxCheckFiles(const PxCommandLine &line) : m_given(line.arguments())
+PxCheckFiles::PxCheckFiles(const PxCommandLine &line)
+    : m_given(line.arguments())
+    , m_origin(PxCatalogueDirectories::origin(line))
 {
     QStringList given =
         (line.value("resources") + QDir::listSeparator() + qEnvironmentVariable("PX_RESOURCE_DIRS"))
@@ -58,6 +60,16 @@ std::optional<PxProblem> PxCheckFiles::find()
                                &m_paths.userDefaults, &m_paths.knownThemes, &m_paths.strays})
         files->sort();
     return problem;
+}
+
+std::optional<PxCheckedCatalogue> PxCheckFiles::catalogue() const
+{
+    if (!m_paths.isCatalogue)
+        return std::nullopt;
+    PxCheckedCatalogue catalogue;
+    catalogue.path = shown(QFileInfo(resource("producttypes.xml")).path());
+    catalogue.from = m_origin;
+    return catalogue;
 }
 
 std::optional<PxProblem> PxCheckFiles::findCatalogue()

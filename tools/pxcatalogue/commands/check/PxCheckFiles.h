@@ -1,6 +1,7 @@
 #pragma once
 
 #include "check/catalogue/PxCheckPaths.h"
+#include "check/findings/PxCheckReport.h"
 #include "writing/PxProblem.h"
 
 #include <QHash>
@@ -22,6 +23,8 @@ public:
     std::optional<PxProblem> find();
 
     PxCheckPaths paths() const { return m_paths; }
+    /** Where the catalogue is; unset if single files are checked. */
+    std::optional<PxCheckedCatalogue> catalogue() const;
     /** By path: the name of each file relative to the catalogue. */
     QHash<QString, QString> catalogueNames() const { return m_catalogueNames; }
 
@@ -44,6 +47,7 @@ private:
     QString shown(const QString &absolutePath) const;
 
     const QStringList m_given;         // the paths to check
+    const QString m_origin;            // what named the catalogue unless they do
     QHash<QString, QString> m_shownOf; // by absolute path: directories as the user wrote them
     PxCheckPaths m_paths;
     QHash<QString, QString> m_catalogueNames;

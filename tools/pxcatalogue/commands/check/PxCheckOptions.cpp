@@ -4,6 +4,7 @@
 #include "check/words/PxSpelling.h"
 #include "commands/PxCommandLine.h"
 #include "commands/PxOption.h"
+#include "writing/PxTerminal.h"
 
 namespace {
 
@@ -40,11 +41,15 @@ QVector<PxOption> PxCheckOptions::all()
     // clang-format off
     return {
         {"format", "FORMAT", "text, json or sarif (2.1.0). Default: text."},
+        {"json", "", "The same as --format json."},
+        {"no-source", "", "Text without the lines of the files."},
+        {"color", "WHEN", "Text in colours: auto, which is on a terminal unless NO_COLOR is set, always or never. Default: auto."},
+        {"all", "", "List each place where a missing image is named. Default: the first one, and how many others there are."},
         {"quiet", "", "Text without a summary: prints nothing at all if there are no findings."},
         {"pedantic", "", "Report matters of style, too."},
-        {"fail-on", "SEVERITY", "How bad a finding must be for exit status 1: error, warning, info or pedantic. Default: error."},
+        {"fail-on", "SEVERITY", "How bad a finding must be for exit status 1: error, warning, info or pedantic, which implies --pedantic. Default: error."},
         {"override", "TAG=SEVERITY", "Another severity for this tag; several with commas."},
-        {"only", "TAGS", "Only findings with these tags; several with commas."},
+        {"only", "TAGS", "Only findings with these tags, pedantic ones, too; several with commas."},
         {"skip", "TAGS", "No findings with these tags; several with commas."},
         {"baseline", "FILE", "Hide the findings that are listed in this file."},
         {"write-baseline", "FILE", "List all findings in this file instead of printing them."},
@@ -55,18 +60,27 @@ QVector<PxOption> PxCheckOptions::all()
 }
 
 PxCheckOptions::PxCheckOptions(const PxCommandLine &line)
-    : m_isQuiet(line.isSet("quiet"))
+    : m_mustListAll(line.isSet("all"))
     , m_mustListTags(line.isSet("list-tags"))
     , m_baseline(line.value("baseline"))
     , m_newBaseline(line.value("write-baseline"))
 {
-    m_settings.isPedantic = line.isSet("pedantic");
+    m_style.isQuiet = line.isSet("quiet");
+    m_style.hasSource = !line.isSet("no-source");
+    m_style.width = PxTerminal::columns();
+    readColour(line.isSet("color") ? line.value("color") : "auto");
     if (line.isSet("explain"))
         m_explainedTag = readTag("explain", line.value("explain"));
+    if (line.isSet("json"))
+        readFormat("json");
     if (line.isSet("format"))
         readFormat(line.value("format"));
+    if (line.isSet("format") && line.isSet("json") && m_format != Format::Json)
+        setProblem("--json and another --format do not go together");
     if (line.isSet("fail-on"))
         m_failOn = readSeverity("fail-on", line.value("fail-on"));
+    // A finding that is not looked for cannot fail.
+    m_settings.isPedantic = line.isSet("pedantic") || m_failOn == PxSeverity::Pedantic;
     readOverrides(partsOf(line.values("override")));
     m_settings.only = readTags("only", line.values("only"));
     m_settings.skipped = readTags("skip", line.values("skip"));
@@ -89,6 +103,13 @@ void PxCheckOptions::readFormat(const QString &name)
     }
     setProblem(QString("--format needs %1%2, not \"%3\"")
                    .arg(names.join(" or "), isOfTags ? " for explanations" : "", name));
+}
+
+void PxCheckOptions::readColour(const QString &when)
+{
+    if (!QStringList{"auto", "always", "never"}.contains(when))
+        setProblem(QString("--color needs auto, always or never, not \"%1\"").arg(when));
+    m_style.isColoured = when == "always" || (when == "auto" && PxTerminal::hasColours());
 }
 
 void PxCheckOptions::readOverrides(const QStringList &values)

@@ -2,6 +2,7 @@
 
 #include "check/findings/PxCheckTag.h"
 #include "check/findings/PxFindings.h"
+#include "output/PxFindingsText.h"
 #include "writing/PxProblem.h"
 
 #include <QMap>
@@ -29,7 +30,10 @@ public:
 
     Format format() const { return m_format; }
     PxSeverity failOn() const { return m_failOn; }
-    bool isQuiet() const { return m_isQuiet; }
+    /** For findings as text. */
+    PxFindingsText::Style style() const { return m_style; }
+    /** Whether findings with one cause are listed one by one. */
+    bool mustListAll() const { return m_mustListAll; }
     /** The tag to explain; null for none. */
     const PxCheckTag *explainedTag() const { return m_explainedTag; }
     bool mustListTags() const { return m_mustListTags; }
@@ -43,6 +47,7 @@ public:
 
 private:
     void readFormat(const QString &name);
+    void readColour(const QString &when);
     void readOverrides(const QStringList &values);
     PxSeverity readSeverity(const QString &option, const QString &name);
     const PxCheckTag *readTag(const QString &option, const QString &name);
@@ -51,7 +56,8 @@ private:
 
     Format m_format = Format::Text;
     PxSeverity m_failOn = PxSeverity::Error;
-    bool m_isQuiet;
+    PxFindingsText::Style m_style;
+    bool m_mustListAll;
     bool m_mustListTags;
     const PxCheckTag *m_explainedTag = nullptr;
     PxFindingSettings m_settings;
