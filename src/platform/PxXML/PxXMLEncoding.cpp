@@ -29,12 +29,16 @@ QTextCodec *PxXMLEncoding::codecOf(const QByteArray &bytes)
         return QTextCodec::codecForName("UTF-16BE");
     if (bytes.size() > 1 && bytes.at(1) == '\0')
         return QTextCodec::codecForName("UTF-16LE");
+    const QRegularExpressionMatch found = declared(bytes);
+    return QTextCodec::codecForName(found.hasMatch() ? found.captured(1).toLatin1()
+                                                     : QByteArrayLiteral("UTF-8"));
+}
+
+QRegularExpressionMatch PxXMLEncoding::declared(const QByteArray &bytes)
+{
     static const auto &ourEncoding =
         *new QRegularExpression(QStringLiteral("\\sencoding\\s*=\\s*[\"']([^\"']*)[\"']"));
-    const QRegularExpressionMatch declared =
-        ourEncoding.match(QString::fromLatin1(declaration(bytes)));
-    return QTextCodec::codecForName(declared.hasMatch() ? declared.captured(1).toLatin1()
-                                                        : QByteArrayLiteral("UTF-8"));
+    return ourEncoding.match(QString::fromLatin1(declaration(bytes)));
 }
 
 QByteArray PxXMLEncoding::declaration(const QByteArray &text)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QRegularExpressionMatch>
 
 class QTextCodec;
 
@@ -13,6 +14,8 @@ public:
      * unknown encoding.
      */
     static QTextCodec *codecOf(const QByteArray &bytes);
+    /** The encoding that the XML declaration names, as the first group; no match without one. */
+    static QRegularExpressionMatch declared(const QByteArray &bytes);
     /**
      * The XML declaration at the start of an ASCII-compatible text, without its closing "?>"; empty
      * if there is none.

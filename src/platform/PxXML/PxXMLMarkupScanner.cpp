@@ -104,9 +104,20 @@ void PxXMLMarkupScanner::skip(std::string_view begin, std::string_view end)
 
 PxXMLFault PxXMLMarkupScanner::fault(PxXMLFault::Kind kind, const QString &message) const
 {
-    const std::string_view before = m_text.substr(0, m_position);
-    // Columns count UTF-16 units, as those of the reader do.
-    const std::string_view start = before.substr(before.rfind('\n') + 1); // npos + 1 is 0
-    const QString line = QString::fromUtf8(start.data(), int(start.size()));
-    return {kind, message, std::count(before.begin(), before.end(), '\n') + 1, line.size() + 1};
+    return faultBehind(QString::fromUtf8(m_text.data(), int(m_position)), kind, message);
+}
+
+PxXMLFault PxXMLMarkupScanner::faultBehind(const QString &text, PxXMLFault::Kind kind,
+                                           const QString &message)
+{
+    int line = 1;
+    int lineBegin = 0;
+    for (int i = 0; i < text.size(); ++i) {
+        const bool isPair = text.midRef(i, 2) == QLatin1String("\r\n");
+        if (text.at(i) == QLatin1Char('\n') || (text.at(i) == QLatin1Char('\r') && !isPair)) {
+            ++line;
+            lineBegin = i + 1;
+        }
+    }
+    return {kind, message, line, text.size() - lineBegin + 1};
 }

@@ -22,6 +22,12 @@ public:
     explicit PxXMLMarkupScanner(std::string_view text) : m_text(text) {}
 
     std::optional<PxXMLFault> scan();
+    /**
+     * A fault at the end of this text. Columns count UTF-16 units, and CR, LF and CRLF are line
+     * ends, as for the reader.
+     */
+    static PxXMLFault faultBehind(const QString &text, PxXMLFault::Kind kind,
+                                  const QString &message);
 
 private:
     bool startsWith(std::string_view token) const;

@@ -43,9 +43,17 @@ PxXMLFault undecodable(const QTextCodec &codec, const QByteArray &bytes)
             bad = middle;
         }
     }
-    return {PxXMLFault::Kind::Encoding,
-            QStringLiteral("the text is no valid ") + QString::fromLatin1(codec.name()),
-            text.count(QLatin1Char('\n')) + 1, text.size() - text.lastIndexOf(QLatin1Char('\n'))};
+    return PxXMLMarkupScanner::faultBehind(text, PxXMLFault::Kind::Encoding,
+                                           QStringLiteral("the text is no valid ") +
+                                               QString::fromLatin1(codec.name()));
+}
+
+/** A fault at the encoding that the text declares. */
+PxXMLFault faultAtEncoding(const QByteArray &text, const QString &message)
+{
+    const int position = qMax(0, PxXMLEncoding::declared(text).capturedStart(1));
+    return PxXMLMarkupScanner::faultBehind(QString::fromLatin1(text.left(position)),
+                                           PxXMLFault::Kind::Encoding, message);
 }
 
 /** Whether the text is in the encoding that it declares. It may declare none if it is Unicode. */
@@ -65,8 +73,9 @@ PxXMLFault PxXMLStrictReader::read()
 {
     const QTextCodec *codec = PxXMLEncoding::codecOf(m_bytes);
     if (!codec)
-        return {PxXMLFault::Kind::Encoding, QStringLiteral("the declared encoding is unknown"), 1,
-                1};
+        return faultAtEncoding(
+            m_bytes, QStringLiteral("the file declares the encoding \"%1\", which is not known")
+                         .arg(PxXMLEncoding::declared(m_bytes).captured(1)));
     PxXMLFault fault = readText(*codec);
     fault.encoding = QString::fromLatin1(codec->name());
     return fault;
@@ -95,10 +104,9 @@ PxXMLFault PxXMLStrictReader::readText(const QTextCodec &codec)
     reader.readNext();
     const QString declared = reader.documentEncoding().toString();
     if (!reader.hasError() && !isDeclared(codec, declared))
-        return {PxXMLFault::Kind::Encoding,
-                QStringLiteral("the text is %1, but declares the encoding '%2'")
-                    .arg(QString::fromLatin1(codec.name()), declared),
-                1, 1};
+        return faultAtEncoding(m_bytes,
+                               QStringLiteral("the text is %1, but declares the encoding \"%2\"")
+                                   .arg(QString::fromLatin1(codec.name()), declared));
     PxXMLDocumentBuilder builder(reader,
                                  PxXMLEncoding::declaration(m_bytes).contains("standalone"));
     if (const std::optional<PxXMLFault> found = builder.build())

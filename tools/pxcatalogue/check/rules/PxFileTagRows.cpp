@@ -26,7 +26,7 @@ static constexpr PxCheckTag rows[] = {
     {PxTag::XmlEncodingDamaged, "xml-encoding-damaged", PxSeverity::Error, "bytes that are no text in the declared encoding",
      "Without a declaration files are UTF-8. A file that an editor saved in another encoding is refused, or shows wrong characters. Save it as UTF-8, or declare its encoding in the first line.",
      "products/cup2.xml",
-     "»<?xml version=\"1.0\" encoding=\"UTF-7b\"?>",
+     "<?xml version=\"1.0\" encoding=\"»UTF-7b\"?>",
      "<?xml version=\"1.0\" encoding=\"UTF-8\"?>"},
     {PxTag::XmlEntityUndeclared, "xml-entity-undeclared", PxSeverity::Error, "an entity that XML does not know",
      "XML knows only &amp; &lt; &gt; &quot; and &apos;, and those of HTML are not among them. The whole file is refused. Write the character itself.",
