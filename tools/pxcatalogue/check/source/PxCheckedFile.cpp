@@ -13,8 +13,12 @@ QString textUpTo(const QString &text, qint64 line, qint64 column)
 {
     constexpr int more = 1024;
     int lineBegin = 0;
-    for (; line > 1 && lineBegin >= 0; --line)
-        lineBegin = text.indexOf(QLatin1Char('\n'), lineBegin) + 1;
+    for (int i = 0; i < text.size() && line > 1; ++i) {
+        if (PxSourceDocument::endsLine(text, i)) {
+            lineBegin = i + 1;
+            --line;
+        }
+    }
     return text.left(int(qMin<qint64>(lineBegin + column + more, text.size())));
 }
 

@@ -30,7 +30,7 @@ void PxSourceDocument::findLines()
 {
     m_lineStarts.append(0);
     for (int i = 0; i < m_text.size(); ++i) {
-        if (m_text.at(i) == QLatin1Char('\n'))
+        if (endsLine(m_text, i))
             m_lineStarts.append(i + 1);
         else if (m_text.at(i).isLowSurrogate())
             m_secondHalves.append(i);
@@ -187,6 +187,13 @@ PxPlace PxSourceDocument::place(int line, int column) const
     const int begin = line > m_lineStarts.size() ? m_text.size() : m_lineStarts.at(line - 1);
     const int index = int(qMin<qint64>(qint64(begin) + column - 1, m_text.size()));
     return place({index, index});
+}
+
+bool PxSourceDocument::endsLine(const QString &text, int index)
+{
+    const QChar next = index + 1 < text.size() ? text.at(index + 1) : QChar();
+    return text.at(index) == QLatin1Char('\n') ||
+           (text.at(index) == QLatin1Char('\r') && next != QLatin1Char('\n'));
 }
 
 QPair<int, int> PxSourceDocument::lineAndColumn(int index) const

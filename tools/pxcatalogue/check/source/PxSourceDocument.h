@@ -44,6 +44,8 @@ public:
      * column in UTF-16 units.
      */
     PxPlace place(int line, int column) const;
+    /** Whether a line ends with this character: CR, LF and CRLF are line ends. */
+    static bool endsLine(const QString &text, int index);
 
 private:
     void findLines();
