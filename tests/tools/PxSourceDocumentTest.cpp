@@ -3,6 +3,7 @@
 
 #include <QTemporaryFile>
 #include <QTest>
+#include <QXmlStreamReader>
 
 /** Where things stand: "»" and "«" in the text are around what is looked for. */
 class PxSourceDocumentTest : public QObject
@@ -14,6 +15,7 @@ private slots:
     void findsValues();
     void findsFaults_data();
     void findsFaults();
+    void hasWordsOfItsOwn();
     void findsTexts();
     void staysQuickInLongLines();
 };
@@ -75,24 +77,87 @@ void PxSourceDocumentTest::findsFaults_data()
     using Fault = PxSourceFault::Kind;
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("fault");
-    const auto row = [](const char *text, Fault fault) {
-        QTest::newRow(text) << QString::fromUtf8(text) << int(fault);
+    QTest::addColumn<QString>("message");
+    // clang-format off
+    const auto row = [](const char *text, Fault fault, const char *message) {
+        QTest::newRow(text) << QString::fromUtf8(text) << int(fault) << QString::fromUtf8(message);
     };
-    row("<r/>", Fault::None);
-    row("<r><x ü='1' »ü«='2'/></r>", Fault::AttributeTwice);
-    row("<r>\n<x a='&amp;»&uuml;«'/></r>", Fault::EntityUndeclared);
-    row("<r>text »&nbsp;« text</r>", Fault::EntityUndeclared);
-    row("<r a=»1«/>", Fault::NotWellFormed);
-    row("<r><x>»</y>«</x></r>", Fault::EndTagWrong);
-    row("<r><x>a»</r>«", Fault::EndTagWrong);
-    row("<r><x a»<«/x></r>", Fault::NotWellFormed);
-    row("<r><x a=»\"«1>text</x></r>", Fault::NotWellFormed);
-    row("<r><x a='1»<«2'/></r>", Fault::NotWellFormed);
-    row("<!-- -->\n»<?xml« version='1.0'?><r/>", Fault::NotWellFormed);
-    row("<r><x>text»«", Fault::EndMissing);
-    row("<r><x>text»<!--« </x></r>", Fault::EndMissing);
-    row("<r><x> »<![CDATA[« </x></r>", Fault::EndMissing);
-    row("<r/>»x«", Fault::NotWellFormed);
+    const auto broken = [&](const char *text, const char *message) {
+        row(text, Fault::NotWellFormed, message);
+    };
+    row("<r/>", Fault::None, "");
+    row("<r><x ü='1' »ü«='2'/></r>", Fault::AttributeTwice, "attribute \"ü\" is given twice");
+    row("<r>\n<x a='&amp;»&uuml;«'/></r>", Fault::EntityUndeclared, "the entity \"&uuml;\" is not defined");
+    row("<r>text »&nbsp;« text</r>", Fault::EntityUndeclared, "the entity \"&nbsp;\" is not defined");
+    row("<r><x>»</y>«</x></r>", Fault::EndTagWrong, "no element \"y\" is open here");
+    row("<r><x>a»</r>«", Fault::EndTagWrong, "expected \"</x>\" here");
+    row("<r/>\n»</x>«", Fault::EndTagWrong, "no element \"x\" is open here");
+    row("<r><x>text»«", Fault::EndMissing, "the file ends too early");
+    row("<r><x>text»<!--« </x></r>", Fault::EndMissing, "this comment has no end");
+    row("<r><x> »<![CDATA[« </x></r>", Fault::EndMissing, "this CDATA section has no end");
+    row("»«", Fault::EndMissing, "the file is empty");
+    row("»«\n \n", Fault::EndMissing, "the file has nothing but blanks");
+    row("<!-- -->»«", Fault::EndMissing, "the file ends before its first element");
+
+    // Around the document element
+    broken("<!-- -->\n»<?xml« version='1.0'?><r/>", "the declaration of XML is not at the beginning of the file");
+    broken("<r/>\n»x« y", "text behind the end of \"r\"");
+    broken("»x« <r/>", "text before the document element");
+    broken("<r/>\n<»s«>", "\"s\" is a second document element, behind \"r\"");
+    broken("<r/>»<![CDATA[«x]]>", "a CDATA section outside the document element");
+    broken("<r>»<!DOCTYPE« r></r>", "a document type behind the beginning of \"r\"");
+    broken("<!DOCTYPE r>»<!DOCTYPE« r><r/>", "a second document type");
+    broken("<!DOCTYPE r »F«OO><r/>", "\"F\" is not allowed here in the document type");
+    broken("»<!«doctype r><r/>", "\"<!\" begins no comment");
+
+    // The declaration
+    broken("»<?xml«?><r/>", "the declaration of XML does not begin with a version");
+    broken("»<?xml« encoding='UTF-8'?><r/>", "the declaration of XML does not begin with a version");
+    broken("<?xml version='»2.0«'?><r/>", "the version of XML is \"2.0\", which is not known");
+    broken("<?xml version='1.0' encoding='»utf 8«'?><r/>", "\"utf 8\" is no name of an encoding");
+    broken("<?xml version='1.0' standalone='»ja«'?><r/>", "\"ja\" is neither \"yes\" nor \"no\"");
+    broken("<?xml version='1.0' standalone='no' »encoding«='UTF-8'?><r/>", "the encoding must stand before \"standalone\"");
+    broken("<?xml version='1.0'»>«<r/>", "\">\" is not allowed here in the declaration of XML");
+    broken("»<?XML« version='1.0'?><r/>", "\"<?XML\" is no declaration of XML");
+
+    // In tags
+    broken("<r a=»1«/>", "the value of an attribute has no quotes");
+    broken("<r a=»=«'1'/>", "a second \"=\"");
+    broken("<r »a«/>", "an attribute without a value");
+    broken("<r a='1'»,« b='2'/>", "\",\" between attributes");
+    broken("<r a='1' »;«b='2'/>", "\";\" between attributes");
+    broken("<r »1«a='1'/>", "\"1\" begins no name");
+    broken("<r »\"«a\"/>", "a quote where no value begins");
+    broken("<r »a:b:«c='1'/>", "a second \":\" in a name");
+    broken("<r »/« >", "a \"/\" that does not end the tag");
+    broken("<r a='1'»\u00A0«b='2'/>", "the no-break space U+00A0 in a tag");
+    broken("<r»\u00A0«/>", "the no-break space U+00A0 in a tag");
+    broken("<r a='1'»\u200B«b='2'/>", "the character U+200B in a tag");
+    broken("<r a»\u0001«b='1'/>", "the control character U+0001");
+    broken("<r a='»\u0001«'/>", "the control character U+0001");
+    broken("<r»€«/>", "\"€\" in a name");
+    broken("<r><x a»<«/x></r>", "the tag of \"x\" has no \">\" before this");
+    broken("<r><x a=»\"«1>text</x></r>", "the quote that begins here has no end");
+    broken("<r><x a='1»<«2'/></r>", "\"<\" in the value of an attribute");
+    broken("<r></r »x«>", "the end tag has more than a name");
+    broken("<r>»</« r>", "an end tag without a name");
+
+    // In texts and other markup
+    broken("<r>a »]]>« b</r>", "\"]]>\" in a text");
+    broken("<r>a »&#0;« b</r>", "\"&#0;\" names no character");
+    broken("<r>a »&#xD800;« b</r>", "\"&#xD800;\" names no character");
+    broken("<r>a »&;« b</r>", "\"&;\" names no character");
+    broken("<r>»\u0001«</r>", "the control character U+0001");
+    broken("<r>»\uFFFF«</r>", "the character U+FFFF");
+    broken("<r>»<!«- a --></r>", "\"<!\" begins no comment");
+    broken("<r>»<?« x?></r>", "\"<?\" without a name");
+
+    const char *conflict = "a line that marks a conflict of two versions of the file";
+    broken("<r>\r»<<<<<<<« mine\r<x/>\r=======\r<y/>\r>>>>>>> theirs\r</r>", conflict);
+    broken("<r\n a='1'\n»=======«\n b='2'/>", conflict);
+    broken("<r/>\n»>>>>>>>« theirs", conflict);
+    broken("<r><!--\n=======\n »--« --></r>", "\"--\" within a comment");
+    // clang-format on
 }
 
 void PxSourceDocumentTest::findsFaults()
@@ -101,11 +166,46 @@ void PxSourceDocumentTest::findsFaults()
     QFETCH(int, fault);
     const PxSourceRange expected = markedRange(&text);
     const PxSourceFault found(text);
+    QTEST(found.message(), "message");
     QCOMPARE(int(found.kind()), fault);
     if (found.kind() == PxSourceFault::Kind::None)
         return;
     QCOMPARE(found.range().begin, expected.begin);
     QCOMPARE(found.range().end, expected.end);
+}
+
+/** Puts each mark into each place of a text, and takes each part out of it. */
+void PxSourceDocumentTest::hasWordsOfItsOwn()
+{
+    const QString text =
+        "<?xml version='1.0' encoding='UTF-8'?>\n<!DOCTYPE r SYSTEM 'u'>\n"
+        "<r a='1' b=\"&lt;\">t&#65;<!-- c --><?p d?><x c='2'/><![CDATA[e]]>\n</r>\n";
+    QStringList broken;
+    for (int i = 0; i <= text.size(); ++i) {
+        for (const char *mark :
+             {"<",   ">", "&", ";", "\"", "'",      "/",      "=", "-",   "!",   "?",
+              "]]>", ",", "1", " ", ":",  "\u00A0", "\u0001", "€", "<s>", "</r>"})
+            broken.append(QString(text).insert(i, QString::fromUtf8(mark)));
+        for (int length : {1, 2, 5, 9})
+            broken.append(QString(text).remove(i, length));
+        broken.append(text.left(i));
+    }
+    for (const QString &candidate : qAsConst(broken)) {
+        QXmlStreamReader reader(candidate);
+        reader.setNamespaceProcessing(false);
+        while (!reader.atEnd())
+            reader.readNext();
+        if (!reader.hasError())
+            continue;
+        const PxSourceFault fault(candidate);
+        const QString message = fault.message() + '.';
+        QVERIFY2(message.size() > 1 &&
+                     message.compare(reader.errorString(), Qt::CaseInsensitive) != 0,
+                 qPrintable(candidate));
+        QVERIFY2(fault.range().begin >= 0 && fault.range().end <= candidate.size() &&
+                     (fault.unclosed() || !fault.hint().isEmpty()),
+                 qPrintable(candidate + message));
+    }
 }
 
 void PxSourceDocumentTest::findsTexts()

@@ -156,6 +156,8 @@ QString PxFormatCheck::meantBy(const PxSourceAttribute &unknown, const Place &pl
 
 QString PxFormatCheck::hintFor(const PxSourceAttribute &unknown, const Place &place) const
 {
+    if (unknown.name != unknown.name.trimmed())
+        return "a no-break space or the like belongs to the name: write a plain blank";
     const QString asText = hintForText(place.element, place.row);
     if (!asText.isEmpty())
         return asText;

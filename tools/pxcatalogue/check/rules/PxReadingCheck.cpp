@@ -6,6 +6,18 @@ namespace {
 
 const auto now = QLatin1String("the file is not read at all");
 
+PxTag tagOf(PxSourceFault::Kind kind)
+{
+    switch (kind) {
+    case PxSourceFault::Kind::AttributeTwice:
+        return PxTag::XmlAttributeTwice;
+    case PxSourceFault::Kind::EntityUndeclared:
+        return PxTag::XmlEntityUndeclared;
+    default:
+        return PxTag::XmlNotWellFormed;
+    }
+}
+
 } // namespace
 
 void PxReadingCheck::run()
@@ -36,28 +48,19 @@ void PxReadingCheck::checkMarkup()
     using Kind = PxSourceFault::Kind;
     const PxSourceDocument &source = m_report.file().source();
     const PxSourceFault fault(source.text());
-    const PxSourceRange range = fault.range();
-    const QString name = source.text().mid(range.begin, range.end - range.begin);
-    const PxSourceFault::Element *unclosed = fault.unclosed();
     if (fault.kind() == Kind::None ||
-        (fault.kind() == Kind::EndMissing && !m_report.file().isSourceWhole()))
+        (fault.kind() == Kind::EndMissing && !m_report.file().isSourceWhole())) {
         m_report
             .add(PxTag::XmlNotWellFormed, m_report.file().faultPlace(),
                  m_report.file().fault().message)
             .now(now);
-    else if (fault.kind() == Kind::AttributeTwice)
-        m_report.add(PxTag::XmlAttributeTwice, range, "attribute \"%1\" is given twice", name)
-            .now(now)
-            .hint("keep the one that is meant");
-    else if (fault.kind() == Kind::EntityUndeclared)
-        m_report.add(PxTag::XmlEntityUndeclared, range, "the entity \"%1\" is not defined", name)
-            .now(now)
-            .hint("write the character itself");
-    else
-        m_report.add(PxTag::XmlNotWellFormed, range, fault.message())
-            .now(now)
-            .hint(unclosed ? QString("\"%1\" of line %2 is not closed")
-                                 .arg(unclosed->name,
-                                      QString::number(source.place(unclosed->nameRange).line))
-                           : fault.hint());
+        return;
+    }
+    const PxSourceFault::Element *unclosed = fault.unclosed();
+    m_report.add(tagOf(fault.kind()), fault.range(), fault.message())
+        .now(now)
+        .hint(unclosed ? QString("\"%1\" of line %2 is not closed")
+                             .arg(unclosed->name,
+                                  QString::number(source.place(unclosed->nameRange).line))
+                       : fault.hint());
 }

@@ -2,9 +2,16 @@
 
 namespace {
 
+/** A no-break space and other blanks of Unicode belong to names. */
+bool isBlank(QChar character)
+{
+    return character == QLatin1Char(' ') || character == QLatin1Char('\n') ||
+           character == QLatin1Char('\r') || character == QLatin1Char('\t');
+}
+
 bool endsName(QChar character)
 {
-    return character.isSpace() || character == QLatin1Char('=') || character == QLatin1Char('>') ||
+    return isBlank(character) || character == QLatin1Char('=') || character == QLatin1Char('>') ||
            character == QLatin1Char('/') || character == QLatin1Char('<');
 }
 
@@ -19,7 +26,7 @@ PxStartTagScanner::PxStartTagScanner(QStringView tag, int offset) : m_tag(tag), 
 
 void PxStartTagScanner::skipBlanks()
 {
-    while (m_position < m_tag.size() && m_tag[m_position].isSpace())
+    while (m_position < m_tag.size() && isBlank(m_tag[m_position]))
         ++m_position;
 }
 
