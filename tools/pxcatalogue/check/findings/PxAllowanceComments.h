@@ -23,7 +23,8 @@ public:
 
 private:
     QVector<PxSourceNode> findIn(const QVector<PxSourceNode> &nodes,
-                                 const QVector<const PxSourceElement *> &elements, Checked checked);
+                                 const QVector<const PxSourceElement *> &elements,
+                                 const PxSourceElement *parent, Checked checked);
     void checkNoAllowance(const PxSourceNode &node) const;
 
     const PxCheckedFile &m_file;

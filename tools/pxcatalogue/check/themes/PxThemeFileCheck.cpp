@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSet>
 
 namespace {
@@ -49,14 +50,22 @@ void PxThemeFileCheck::run()
 
 void PxThemeFileCheck::checkStrayNodes() const
 {
+    static const QRegularExpression ourAllowance("^\\s*check\\s*:",
+                                                 QRegularExpression::CaseInsensitiveOption);
     for (const PxSourceNode &node : m_root.nodes) {
         if (node.isBlank())
             continue;
+        const bool isAllowance =
+            node.kind == PxSourceNode::Kind::Comment && ourAllowance.match(node.text).hasMatch();
         m_report
             .add(PxTag::ThemeStrayNode, node.range, "%1 directly in \"%2\"",
                  PxSourceNode::kindText(node.kind), m_root.name)
             .now("it becomes a theme \"unbekannt\" that has expired")
-            .hint("move it into a theme, or above \"%1\"", m_root.name);
+            .hint(isAllowance
+                      ? "move it into the theme, as the first thing there: it holds for all "
+                        "of the theme then"
+                      : "move it into a theme, or above \"%1\"",
+                  m_root.name);
     }
 }
 
