@@ -31,6 +31,7 @@ QString PxSampleCopy::read(const QString &name) const
 void PxSampleCopy::write(const QString &name, const QString &text) const
 {
     QFile file(filePath(name));
+    QDir().mkpath(QFileInfo(file).path());
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) >= 0);
 }
 

@@ -20,6 +20,9 @@ constexpr int wordListLength = 1000;          // characters of a list with a wro
 constexpr int guessedImages = 500;            // for products, and as many for themes
 constexpr int imagesOfDirectory = 2000;       // some file systems list names endlessly
 
+// Files in directories that the library does not read.
+constexpr int filesBelow = 10000;
+
 // Of long lists, only the first entries are checked.
 constexpr int listParts = 100000;
 constexpr int searchedElements = 10000; // when looking for a misspelt name of a missing element

@@ -75,6 +75,13 @@ std::optional<PxProblem> findFiles(bool needsProducts, const QString &remedy)
     return std::nullopt;
 }
 
+/** Whether at least one part of a catalogue is there. */
+bool isPartOfCatalogue()
+{
+    return QFileInfo::exists(resource("producttypes.xml")) || isDirectory(resource("products")) ||
+           isDirectory(resource("themes"));
+}
+
 std::optional<PxProblem> readTypes()
 {
     const QString path = resource("producttypes.xml");
@@ -178,6 +185,8 @@ std::optional<PxProblem> PxCatalogueDirectories::applyForCheck(const PxCommandLi
     const QStringList paths = line.arguments();
     const bool areFiles = !paths.isEmpty() && !isDirectory(paths.constFirst());
     const auto problem = useGivenOnes(line, paths);
+    if (!problem && !areFiles && isPartOfCatalogue())
+        return std::nullopt; // the check itself reports what is missing
     // A directory that is named as PATH is the resource directory already.
     return problem ? problem : findFiles(!areFiles, paths.isEmpty() ? howToNameIt : "");
 }

@@ -61,8 +61,9 @@ void PxCatalogueCheck::run()
     const bool isEveryNameOnce = checkNames();
     checkPredecessors();
     checkSizes();
-    // A file that cannot be read, or has the name of another, has been reported.
-    if (isEveryNameOnce && isComplete())
+    // A file that cannot be read, or has the name of another, has been reported, as has a catalogue
+    // without product files.
+    if (isEveryNameOnce && !m_products.isEmpty() && isComplete())
         checkTypesHaveFiles();
 }
 

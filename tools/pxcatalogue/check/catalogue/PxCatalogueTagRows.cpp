@@ -60,11 +60,22 @@ static constexpr PxCheckTag rows[] = {
     {PxTag::ProductTypesRootWrong, "product-types-root-wrong", PxSeverity::Error, "the document element of producttypes.xml is not \"producttypes\"",
      "The library reads nothing from the file, so it knows no product and skips every product file. There is no small example of this.",
      "", "", ""},
+    {PxTag::ProductsNone, "products-none", PxSeverity::Error, "a catalogue without products",
+     "The directory \"products\" is missing or has no product file, or producttypes.xml lists no product type: nothing can be ordered. A catalogue that is packed or copied in part looks like this.",
+     "producttypes.xml",
+     "<»producttypes/>\n",
+     ""},
     {PxTag::SizeImplausible, "size-implausible", PxSeverity::Warning, "a page in another unit than those of the other products",
      "Lengths are tenths of a millimetre, and nothing converts them: a product in another unit gets the wrong type sizes, layouts and margins. Reported if the page is far smaller or larger than those of nearly all other products of its class, of which there must be at least eight.",
      "products/acrylic_40x40.xml",
      "<usablesize width=\"»400\" height=\"400\"",
      "<usablesize width=\"4000\" height=\"4000\"", true},
+    {PxTag::ThemesLost, "themes-lost", PxSeverity::Error, "no themes, though products name them",
+     "The directory \"themes\" is missing or has no theme file, but default templates of a product are for a theme. A catalogue that is packed or copied in part looks like this. There is no small example of this.",
+     "", "", ""},
+    {PxTag::ThemesNone, "themes-none", PxSeverity::Warning, "a catalogue without themes",
+     "The directory \"themes\" is missing or has no theme file. No theme is offered, and the default theme is not valid. There is no small example of this.",
+     "", "", ""},
 };
 // clang-format on
 

@@ -1,5 +1,6 @@
 #include "check/catalogue/PxCheck.h"
 
+#include "check/catalogue/PxDirectoriesCheck.h"
 #include "check/catalogue/PxProductTypesCheck.h"
 #include "check/design/PxDefaultsCheck.h"
 #include "check/design/PxDesignCheck.h"
@@ -19,11 +20,10 @@
 #include "check/rules/PxReadingCheck.h"
 #include "check/rules/PxRuleCheck.h"
 #include "check/source/PxReadAhead.h"
+#include "check/source/PxSourceParts.h"
 #include "check/themes/PxThemeFileCheck.h"
 #include "check/words/PxSpelling.h"
 #include "format/PxFormat.h"
-
-#include <QFileInfo>
 
 namespace {
 
@@ -100,13 +100,14 @@ void PxCheck::run()
                [this](const PxCheckedFile &file) { checkProduct(file, true); });
     checkFiles(m_paths.userDefaults, PxFileKind::UserDefaults, [this](const PxCheckedFile &file) {
         PxUserDefaultsCheck(m_productNames, m_themeIds, reporterFor(file)).run();
+        noticeThemes(file, *file.root());
     });
     m_findings.setPartial(!m_paths.isCatalogue);
     if (m_paths.isCatalogue) {
         m_catalogue.run();
         m_themes.run();
     }
-    checkStrays();
+    PxDirectoriesCheck(m_paths, m_namedTheme, PxReporter(m_findings)).run();
 }
 
 /** Checks what is the same for all files, then calls `checkFile`. Whether all could be read. */
@@ -200,42 +201,28 @@ void PxCheck::checkProduct(const PxCheckedFile &file, bool isLegacy)
     PxNumberListCheck(product, pages, report).run();
     PxDefaultsCheck(product.element(), m_themeIds, report).run();
     PxDesignCheck(product, report).run();
+    noticeThemes(file, product.element());
     m_productNames.insert(product.element().value("name"));
     m_catalogue.addProduct(product, size.isInOtherUnit());
 }
 
-void PxCheck::checkStrays() const
+/** Remembers where default templates in the parent first name a theme other than the default one.
+ */
+void PxCheck::noticeThemes(const PxCheckedFile &file, const PxSourceElement &parent)
 {
-    const QMap<QString, int> &undecodable = m_paths.undecodableNames;
-    for (auto it = undecodable.begin(); it != undecodable.end(); ++it)
-        PxReporter(m_findings)
-            .add(PxTag::FileNameUndecodable, PxPlace{it.key()},
-                 "names of XML files that are not in the encoding of the locale: %1", *it)
-            .now("the library passes them over")
-            .hint("rename them; an archive may have been unpacked in another encoding");
-    for (const QString &path : m_paths.strays)
-        checkStray(path);
-}
-
-void PxCheck::checkStray(const QString &path) const
-{
-    const QFileInfo file(path);
-    QString message = "the library does not read this file";
-    QString hint = "files that are read end in \".xml\"";
-    if (file.isSymLink() && !file.exists()) {
-        message = "this link leads nowhere";
-        hint = "mend the link, or take it out";
-    } else if (!file.isFile()) {
-        message = file.isDir() ? "this is a directory" : "this is no regular file";
-        hint = "move it elsewhere";
-    } else if (file.isHidden()) {
-        message = "this file is hidden, as its name begins with a dot";
-        hint = "take the dot out of the name, or move the file elsewhere";
+    const PxSourceElement *container = parent.firstChild("defaults");
+    if (!container || !m_namedTheme.path.isEmpty())
+        return;
+    for (const PxSourceElement *entry : container->childrenNamed("defaults")) {
+        for (const PxSourcePart &part :
+             PxSourceParts::ofAttribute(file, entry->attribute("theme")).parts) {
+            const QString id = part.text.trimmed();
+            if (id.isEmpty() || id == "normal")
+                continue;
+            m_namedTheme = file.place(part.range);
+            return;
+        }
     }
-    PxReporter(m_findings)
-        .add(PxTag::FileNotRead, PxPlace{path}, message)
-        .now("the library passes it over")
-        .hint(hint);
 }
 
 PxReporter PxCheck::reporterFor(const PxCheckedFile &file) const

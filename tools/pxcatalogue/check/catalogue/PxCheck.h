@@ -30,8 +30,7 @@ private:
     void checkThemes();
     void checkProductTypes(const PxCheckedFile &file);
     void checkProduct(const PxCheckedFile &file, bool isLegacy);
-    void checkStrays() const;
-    void checkStray(const QString &path) const;
+    void noticeThemes(const PxCheckedFile &file, const PxSourceElement &parent);
     PxReporter reporterFor(const PxCheckedFile &file) const;
 
     const PxCheckPaths m_paths;
@@ -44,6 +43,7 @@ private:
     PxListedProductTypes m_types;
     PxKnownNames m_themeIds;      // empty if not all are known
     QSet<QString> m_productNames; // of the products checked so far
+    PxPlace m_namedTheme;         // the first in a product; without a path if there is none
     PxImageNames m_images{PxImageNames::Kind::Any};
     PxImageNames m_themeImages{PxImageNames::Kind::Lower};
     PxThemeIdCheck m_themes;

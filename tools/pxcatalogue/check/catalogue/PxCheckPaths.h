@@ -3,6 +3,16 @@
 #include <QMap>
 #include <QString>
 #include <QStringList>
+#include <QVector>
+
+/** A directory with XML files that the library does not read. */
+struct PxUnreadDirectory
+{
+    QString path;
+    int fileCount;
+    /** The directory that is read instead; empty if this one lies in another that is read. */
+    QString readInstead;
+};
 
 /** The files to check, as they are shown; each list is sorted. */
 struct PxCheckPaths
@@ -17,6 +27,12 @@ struct PxCheckPaths
     QStringList knownThemes;
     /** Files in these directories that are not read. */
     QStringList strays;
+    /** Links in these directories that lead nowhere, and end as the files that are read. */
+    QStringList deadLinks;
+    QVector<PxUnreadDirectory> unreadDirectories;
+    /** Of products and of themes, whether they exist or not. */
+    QString productsDirectory;
+    QString themesDirectory;
     /** How many files of a directory cannot be opened, as their names cannot be decoded. */
     QMap<QString, int> undecodableNames;
     /** Whether these are all files of a catalogue, which are compared with each other then. */

@@ -19,23 +19,38 @@ PxElementReading readingOf(const PxSourceElement &row)
 void PxProductTypesCheck::run()
 {
     const PxSourceElement &root = *m_report.file().root();
-    for (const PxSourceElement *row : root.childrenNamed("producttype"))
+    const QVector<const PxSourceElement *> rows = root.childrenNamed("producttype");
+    for (const PxSourceElement *row : rows)
         checkRow(*row);
-    checkMisspelt(root);
+    if (!checkMisplaced(root) && rows.isEmpty())
+        m_report.add(PxTag::ProductsNone, root.nameRange, "no product type is listed")
+            .now("no product is known, and every product file is skipped");
 }
 
-/** Reports elements whose name is nearly that of a row. */
-void PxProductTypesCheck::checkMisspelt(const PxSourceElement &root) const
+/** Reports rows whose element is misspelt, or is in another element. */
+bool PxProductTypesCheck::checkMisplaced(const PxSourceElement &root) const
 {
     constexpr const char *row = "producttype";
+    bool isAnyFound = false;
+    const auto report = [&](const PxSourceElement &element, const QString &message,
+                            const QString &hint) {
+        m_report.add(PxTag::ProductTypeRowDropped, element.nameRange, message)
+            .now("the product type is left out")
+            .hint(hint);
+        isAnyFound = true;
+    };
     for (const PxSourceElement *child : root.children) {
-        if (child->name != row && PxSpelling::isNear(child->name, row))
-            m_report
-                .add(PxTag::ProductTypeRowDropped, child->nameRange, "\"%1\" is no \"%2\"",
-                     child->name, row)
-                .now("the product type is left out")
-                .hint(PxSpelling::didYouMean(row));
+        const bool isRow =
+            child->attribute("name") && (child->attribute("code") || child->attribute("class"));
+        const bool isNear = PxSpelling::isNear(child->name, row);
+        if (child->name != row && (isNear || isRow))
+            report(*child, QString("\"%1\" is no \"%2\"").arg(child->name, row),
+                   isNear ? PxSpelling::didYouMean(row) : QString("write \"%1\"").arg(row));
+        for (const PxSourceElement *inner : child->childrenNamed(row))
+            report(*inner, QString("\"%1\" in \"%2\" is not read").arg(row, child->name),
+                   QString("move it directly below \"%1\"").arg(root.name));
     }
+    return isAnyFound;
 }
 
 void PxProductTypesCheck::checkRow(const PxSourceElement &row)

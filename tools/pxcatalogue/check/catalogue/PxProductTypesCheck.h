@@ -20,7 +20,7 @@ public:
 
 private:
     void checkRow(const PxSourceElement &row);
-    void checkMisspelt(const PxSourceElement &root) const;
+    bool checkMisplaced(const PxSourceElement &root) const;
     template <typename... Arguments>
     PxAddedFinding drop(const PxSourceElement &row, const char *attribute, const QString &message,
                         const Arguments &...arguments) const;

@@ -1,5 +1,6 @@
 #include "commands/check/PxCheckFiles.h"
 
+#include "check/PxCheckLimits.h"
 #include "check/source/PxCheckedFile.h"
 #include "commands/PxCatalogueDirectories.h"
 #include "commands/PxCommandLine.h"
@@ -8,6 +9,7 @@
 #include <values/PxUndecodableNames.h>
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
 #include <QSet>
 
@@ -41,6 +43,12 @@ PxCheckFiles::PxCheckFiles(const PxCommandLine &line)
     QStringList given =
         (line.value("resources") + QDir::listSeparator() + qEnvironmentVariable("PX_RESOURCE_DIRS"))
             .split(QDir::listSeparator(), Qt::SkipEmptyParts);
+    if (m_given.isEmpty())
+        m_resources = (line.isSet("resources") ? line.value("resources")
+                                               : qEnvironmentVariable("PX_RESOURCE_DIRS"))
+                          .split(QDir::listSeparator(), Qt::SkipEmptyParts);
+    if (line.isSet("products"))
+        m_resources.clear(); // the products are not those of a resource directory
     for (const char *option : {"products", "legacy", "user-defaults", "themes"})
         given.append(line.value(option));
     for (const char *variable : {"PX_USER_DEFAULTS_DIR", "PX_THEMES_DIR"})
@@ -56,8 +64,9 @@ std::optional<PxProblem> PxCheckFiles::find()
 {
     const bool isCatalogue = m_given.isEmpty() || QFileInfo(m_given.constFirst()).isDir();
     const auto problem = isCatalogue ? findCatalogue() : findSingleFiles();
-    for (QStringList *files : {&m_paths.products, &m_paths.legacyProducts, &m_paths.themes,
-                               &m_paths.userDefaults, &m_paths.knownThemes, &m_paths.strays})
+    for (QStringList *files :
+         {&m_paths.products, &m_paths.legacyProducts, &m_paths.themes, &m_paths.userDefaults,
+          &m_paths.knownThemes, &m_paths.strays, &m_paths.deadLinks})
         files->sort();
     return problem;
 }
@@ -82,10 +91,59 @@ std::optional<PxProblem> PxCheckFiles::findCatalogue()
         m_catalogueNames.insert(m_paths.frames, "frames.xml");
     }
     for (const Directory &directory : directories()) {
+        m_catalogueNames.insert(shown(directory.path), directory.name);
         if (const auto problem = findFiles(directory))
             return problem;
+        if (directory.name == "products" || directory.name == "themes")
+            findUnread(directory);
     }
+    findSecondProducts();
+    m_paths.productsDirectory = shown(resource("products"));
+    m_paths.themesDirectory = shown(themes(nullptr).path);
     return std::nullopt;
+}
+
+/** Finds the directories below that have XML files, except those that are read themselves. */
+void PxCheckFiles::findUnread(const Directory &directory)
+{
+    QStringList read;
+    for (const Directory &other : directories())
+        read.append(QFileInfo(other.path).canonicalFilePath() + '/');
+    const QFileInfoList below =
+        QDir(shown(directory.path))
+            .entryInfoList(QDir::Dirs | QDir::NoSymLinks | QDir::NoDotAndDotDot);
+    for (const QFileInfo &entry : below) {
+        const QString path = join(shown(directory.path), entry.fileName());
+        const QString canonical = entry.canonicalFilePath() + '/';
+        const bool isRead = std::any_of(read.begin(), read.end(), [&](const QString &other) {
+            return other.startsWith(canonical);
+        });
+        if (!isRead)
+            addUnread(path, join(directory.name, entry.fileName()), QString());
+    }
+}
+
+/** Finds the products of all resource directories but the first that has any. */
+void PxCheckFiles::findSecondProducts()
+{
+    const QString read = QFileInfo(resource("products")).canonicalFilePath();
+    for (const QString &directory : qAsConst(m_resources)) {
+        const QString path = join(directory, "products");
+        if (!read.isEmpty() && QFileInfo(path).canonicalFilePath() != read)
+            addUnread(path, "products", shown(resource("products")));
+    }
+}
+
+void PxCheckFiles::addUnread(const QString &path, const QString &name, const QString &readInstead)
+{
+    int count = 0;
+    QDirIterator files(path, QDir::Files | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    for (int i = 0; i < PxCheckLimits::filesBelow && files.hasNext(); ++i)
+        count += files.next().endsWith(".xml", Qt::CaseInsensitive) ? 1 : 0;
+    if (count == 0)
+        return;
+    m_paths.unreadDirectories.append({path, count, readInstead});
+    m_catalogueNames.insert(path, name);
 }
 
 QVector<PxCheckFiles::Directory> PxCheckFiles::directories()
@@ -128,6 +186,8 @@ std::optional<PxProblem> PxCheckFiles::findFiles(const Directory &directory)
         const bool looksLikeXml = name.contains(".xml", Qt::CaseInsensitive);
         if (hasEnding && entry.isFile() && !entry.isHidden())
             directory.files->append(path);
+        else if (hasEnding && entry.isSymLink() && !entry.exists() && !entry.isHidden())
+            m_paths.deadLinks.append(path);
         else if (hasEnding || (!isElsewhere && (isOfProducts || looksLikeXml)))
             m_paths.strays.append(path);
         m_catalogueNames.insert(path, join(directory.name, name));
@@ -162,6 +222,7 @@ std::optional<PxProblem> PxCheckFiles::findKnownThemes(const QSet<QString> &chec
     QStringList all;
     const auto problem = findFiles(themes(&all));
     m_paths.strays.clear(); // only files that the user named are checked
+    m_paths.deadLinks.clear();
     m_paths.undecodableNames.clear();
     // Messages that name two files must not depend on where the catalogue lies.
     const bool areRelative = std::all_of(m_given.begin(), m_given.end(), QDir::isRelativePath);

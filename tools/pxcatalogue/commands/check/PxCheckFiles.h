@@ -44,10 +44,14 @@ private:
     QVector<Directory> directories();
     Directory themes(QStringList *files);
     std::optional<PxProblem> findFiles(const Directory &directory);
+    void findUnread(const Directory &directory);
+    void findSecondProducts();
+    void addUnread(const QString &path, const QString &name, const QString &readInstead);
     QString shown(const QString &absolutePath) const;
 
     const QStringList m_given;         // the paths to check
     const QString m_origin;            // what named the catalogue unless they do
+    QStringList m_resources;           // without paths to check: the resource directories
     QHash<QString, QString> m_shownOf; // by absolute path: directories as the user wrote them
     PxCheckPaths m_paths;
     QHash<QString, QString> m_catalogueNames;
