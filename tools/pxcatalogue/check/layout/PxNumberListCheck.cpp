@@ -9,6 +9,7 @@
 #include <PxListParts.h>
 #include <geometry/PxProductionExtraPageGroup.h>
 
+#include <QMap>
 #include <QSet>
 
 #include <algorithm>
@@ -93,16 +94,43 @@ bool PxNumberListCheck::checkParts(const PxSourceElement &list) const
     return isSound;
 }
 
-/** Behind the list, numbers go on from its last one and may meet earlier ones. */
 void PxNumberListCheck::checkNumbering(const PxSourceElement &list) const
 {
     const PxSourceList source = PxSourceParts::ofText(m_product.file(), list);
-    const QVector<PxSourcePart> &parts = source.parts;
-    if (!m_pages.isKnown() || !source.isWhole())
-        return;
     const QList<int> given = pxIntList(list.dom.text());
-    if (given.isEmpty() || parts.size() != given.size())
+    // Each part is a number, or an empty one behind the last.
+    if (!source.isWhole() || given.isEmpty())
         return;
+    if (!checkRepeated(source.parts, given) && m_pages.isKnown())
+        checkContinued(source.parts.at(given.size() - 1), given);
+}
+
+/** Whether it found a number that two pages have. What follows the last page is not used. */
+bool PxNumberListCheck::checkRepeated(const QVector<PxSourcePart> &parts,
+                                      const QList<int> &given) const
+{
+    const int used = m_pages.isKnown() ? qMin(given.size(), m_pages.lastPage() + 1) : given.size();
+    QMap<int, int> pages; // by number
+    bool isAnyRepeated = false;
+    for (int page = 0; page < used; ++page) {
+        const int number = given.at(page);
+        if (!pages.contains(number)) {
+            pages.insert(number, page);
+            continue;
+        }
+        isAnyRepeated = true;
+        m_report
+            .add(PxTag::ProductionNumberRepeated, parts.at(page).range,
+                 "the number %1 is in the list twice", number)
+            .now("production gives it to page %1 and to page %2", pages.value(number), page)
+            .hint("give each page a number of its own");
+    }
+    return isAnyRepeated;
+}
+
+/** Behind the list, numbers go on from its last one and may meet earlier ones. */
+void PxNumberListCheck::checkContinued(const PxSourcePart &last, const QList<int> &given) const
+{
     const QList<int> all = m_product.description().productionNumberingList(m_pages.lastPage() + 1);
     const QList<int> continued = all.mid(given.size());
     const QSet<int> known(given.begin(), given.end());
@@ -111,7 +139,7 @@ void PxNumberListCheck::checkNumbering(const PxSourceElement &list) const
     if (again == continued.end())
         return;
     m_report
-        .add(PxTag::ProductionNumberRepeated, parts.constLast().range,
+        .add(PxTag::ProductionNumberRepeated, last.range,
              "the list ends with %1, which is not its largest number", given.constLast())
         .now("numbering goes on from there: %1 is given twice", *again)
         .hint("add the number that it shall go on with: %1",

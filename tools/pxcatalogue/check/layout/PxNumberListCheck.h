@@ -2,6 +2,7 @@
 
 #include "check/findings/PxReporter.h"
 #include "check/layout/PxProductPages.h"
+#include "check/source/PxSourceParts.h"
 
 /** Checks lists of page numbers, and what production makes of them. */
 class PxNumberListCheck
@@ -21,6 +22,8 @@ private:
     /** Whether every part is a number. */
     bool checkParts(const PxSourceElement &list) const;
     void checkNumbering(const PxSourceElement &list) const;
+    bool checkRepeated(const QVector<PxSourcePart> &parts, const QList<int> &given) const;
+    void checkContinued(const PxSourcePart &last, const QList<int> &given) const;
     void checkExtraPage(const PxSourceElement &item) const;
 
     const PxCheckedProduct &m_product;

@@ -82,34 +82,21 @@ void PxMarginCheck::checkCover() const
             .now("a cover half is %1, a page %2", sizeText(cover), sizeText(m_size));
 }
 
+/** The library may take a part of what the file adds, and gives it to the spine. */
 void PxMarginCheck::checkCoverWidth() const
 {
     const PxSourceElement &element = m_product.element();
-    const QSize cover = m_product.description().coverSize();
     const PxElementReading reading(element);
     if (!reading.isReadable(coverExtraHorizontal) || reading.isMisspelt(coverExtraHorizontal))
         return;
-    const int extra = reading.number(coverExtraHorizontal);
-    const QString now =
-        QString("a cover half is %1, a page %2").arg(sizeText(cover), sizeText(m_size));
-    if (extra < 0)
-        m_report
-            .add(PxTag::CoverSmallerThanPage, element.rangeOf(coverExtraHorizontal),
-                 "a cover that is %1 narrower than the page",
-                 qint64(m_size.width()) - cover.width())
-            .now(now);
-    else
-        addAdjustment(extra, now);
-}
-
-/** The file makes the cover larger, but the library takes more from it for the spine. */
-void PxMarginCheck::addAdjustment(int extra, const QString &now) const
-{
-    const qint64 taken =
-        qint64(m_size.width()) + extra - m_product.description().coverSize().width();
+    const QSize cover = m_product.description().coverSize();
+    const qint64 lack = qint64(m_size.width()) - cover.width();
+    const qint64 taken = lack + reading.number(coverExtraHorizontal);
     m_report
-        .add(PxTag::SpineAdjusted, m_product.element().rangeOf(coverExtraHorizontal),
-             "the spine takes %1 from a cover half that is %2 wider than a page", taken, extra)
-        .now(now)
-        .hint("make it %1 wider at least", taken);
+        .add(PxTag::CoverSmallerThanPage, element.rangeOf(coverExtraHorizontal),
+             "a cover that is %1 narrower than the page", lack)
+        .now(taken > 0 ? "a cover half is %1, a page %2: the spine takes %3 of the cover half"
+                       : "a cover half is %1, a page %2",
+             sizeText(cover), sizeText(m_size), taken)
+        .hint(taken > 0 ? "\"coverextrahorizontal\" must be %1 at least" : "", taken);
 }

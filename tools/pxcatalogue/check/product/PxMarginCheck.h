@@ -18,7 +18,6 @@ private:
     void checkExceeding() const;
     void checkCover() const;
     void checkCoverWidth() const;
-    void addAdjustment(int extra, const QString &now) const;
     bool hasSmallCover() const;
 
     const PxCheckedProduct &m_product;

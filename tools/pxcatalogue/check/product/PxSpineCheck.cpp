@@ -298,12 +298,25 @@ void PxSpineCheck::checkSpinePage() const
         addPageWithoutTable(*m_product.pages().spine());
     if (m_product.pages().isGiven() && m_product.pages().isSound() &&
         !m_product.description().hasSpine() && hasWidth())
-        m_report
-            .add(PxTag::SpineWithoutPage, m_table->nameRange,
-                 "spines with a width, but \"pages\" lists no spine")
-            .now("the product has no spine; a cover half is %1 wide",
-                 m_product.description().coverSize().width())
-            .hint("add \"spine\" to the pages, or give the width 0");
+        addWithoutPage();
+}
+
+/** A book of any other binding may well have a table with widths, and no spine to print on. */
+void PxSpineCheck::addWithoutPage() const
+{
+    constexpr auto bound =
+        static_cast<PxBindingEnum>(PxBindingHardcover | PxBindingSoftcover | PxBindingCromolinen |
+                                   PxBindingLeather | PxBindingArtificialLeather);
+    const bool isBound =
+        m_product.type().isBook() && m_product.description().binding().matches(bound);
+    m_report
+        .add(isBound ? PxTag::PagesSpineMissing : PxTag::SpineWithoutPage,
+             isBound ? m_product.pages().read().constFirst().range : m_table->nameRange,
+             "spines with a width, but \"pages\" lists no spine")
+        .now("the product has no spine; a cover half is %1 wide",
+             m_product.description().coverSize().width())
+        .hint(isBound ? "begin with back cover, spine, front cover"
+                      : "add \"spine\" to the pages, or give the width 0");
 }
 
 bool PxSpineCheck::isEveryWidthReadable() const

@@ -32,6 +32,7 @@ private:
     void checkTextHeights() const;
     void checkSellingPages() const;
     void checkSpinePage() const;
+    void addWithoutPage() const;
     bool isEveryWidthReadable() const;
     void addPageWithoutTable(const PxPageEntry &spinePage) const;
     bool hasWidth() const;
