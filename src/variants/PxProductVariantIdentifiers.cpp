@@ -7,7 +7,6 @@
 #include <QAtomicPointer>
 #include <QByteArray>
 #include <QMutex>
-#include <QStringList>
 
 #include <algorithm>
 #include <iterator>
@@ -104,6 +103,16 @@ QString PxProductVariantIdentifiers::untranslatedName(const PxProductType &type,
     return found == std::end(names) ? QString() : QString::fromUtf8(found->name.text);
 }
 
+QStringList PxProductVariantIdentifiers::namedIdentifiers(const PxProductType &type) const
+{
+    QStringList identifiers;
+    const QString prefix = fullKey(type, QString());
+    for (auto it = m_nameOfKey.lowerBound(prefix);
+         it != m_nameOfKey.constEnd() && it.key().startsWith(prefix); ++it)
+        identifiers.append(it.key().mid(prefix.size()));
+    return identifiers;
+}
+
 QMap<QString, QString> PxProductVariantIdentifiers::variants(const PxProductType &type) const
 {
     QMap<QString, QString> variants;
@@ -136,4 +145,12 @@ QString PxProductVariantIdentifiers::variantDescription(const PxProductType &typ
     const QByteArray source = description.toLatin1();
     const QString translation = tr(source.constData());
     return translation == QString::fromUtf8(source) ? description : translation;
+}
+
+QStringList PxProductVariantIdentifiers::translatableDescriptions()
+{
+    QStringList descriptions;
+    for (const char *label : descriptionLabels)
+        descriptions.append(QString::fromUtf8(label));
+    return descriptions;
 }

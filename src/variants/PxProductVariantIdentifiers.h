@@ -7,6 +7,7 @@
 #include <QMap>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 /**
  * Display names of product variants: the colours of a mug, the rulings of a notebook.
@@ -30,6 +31,8 @@ public:
     QString variantName(const PxProductType &type, const QString &variantId) const;
     /** The same in German, without translation: colours are recognised by their German names. */
     QString untranslatedName(const PxProductType &type, const QString &variantId) const;
+    /** The identifiers that have a name, in alphabetical order, whatever the product file lists. */
+    QStringList namedIdentifiers(const PxProductType &type) const;
     /** The identifiers in the product file that have a name, with their names. */
     QMap<QString, QString> variants(const PxProductType &type) const;
     bool hasVariants(const PxProductType &type) const;
@@ -37,6 +40,8 @@ public:
     QString defaultVariant(const PxProductType &type) const;
     /** What the variants differ in, such as "Innenfarbe"; translated if there is a translation. */
     QString variantDescription(const PxProductType &type) const;
+    /** The German descriptions that have translations, such as "Innenfarbe". */
+    static QStringList translatableDescriptions();
 
 private:
     PxProductVariantIdentifiers();

@@ -96,6 +96,11 @@ void PxVariantModelsTest::namesVariantsOfTheirOwnProduct()
     pxCheckAnswers(
         "variantName", "CUP2;color:blue=Blau BA7;color:blue= PDT1;figure:monkey=Monkey",
         [=](const QStringList &w) { return identifiers->variantName(PxProductType(w[0]), w[1]); });
+    pxCheckAnswers(
+        "namedIdentifiers",
+        "CB14=ruling:blank,ruling:chequered,ruling:lined BA7=color:black CUP1= CB1=",
+        [=](const QString &product) { return identifiers->namedIdentifiers(product).join(','); });
+    QVERIFY(PxProductVariantIdentifiers::translatableDescriptions().contains("Innenfarbe"));
     pxCheckAnswers( // the first one of CB14 is the last one in its file
         "defaultVariant", "CB14=ruling:blank BA7=color:black GAME_MEMORY= BOOK_MINI=",
         [=](const QString &product) { return identifiers->defaultVariant(product); });

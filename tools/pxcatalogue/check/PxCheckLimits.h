@@ -16,6 +16,7 @@ constexpr int quotedLength = 60;    // characters of a value in a message
 // Guesses at what the author meant. More mistakes than this are not typing errors.
 constexpr int comparedLength = 64;            // characters; no name of the format is longer
 constexpr qint64 comparedLetters = 100000000; // pairs of characters, for one set of names
+constexpr int listedWords = 20;               // of a table, where none is near
 constexpr int wordListLength = 1000;          // characters of a list with a wrong separator
 constexpr int guessedImages = 500;            // for products, and as many for themes
 constexpr int imagesOfDirectory = 2000;       // some file systems list names endlessly
@@ -31,6 +32,9 @@ constexpr int barcodes = 100;           // each is compared with all before it
 constexpr int redirects = 1000;         // each is compared with all before it
 constexpr int surroundings = 1000;      // each is tried for every page
 constexpr qint64 surroundingQueries = 1000000;
+
+// A page with a longer side is not compared with what lies on it.
+constexpr int comparedSide = 100000000;
 
 // Pages of a product, added up over all its page counts. With more, its pages count as unknown.
 constexpr qint64 pages = 200000;

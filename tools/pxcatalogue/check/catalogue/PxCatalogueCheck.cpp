@@ -95,6 +95,10 @@ bool PxCatalogueCheck::checkNames() const
 void PxCatalogueCheck::checkPredecessors() const
 {
     QMap<PxProductType, const Product *> successors;
+    QMap<PxProductType, const Product *> currents;
+    QMap<PxProductType, const Product *> olders;
+    for (const Product &product : m_products)
+        (product.isLegacy ? olders : currents).insert(product.type, &product);
     for (const Product &product : m_products) {
         const PxProductType legacy(product.legacyName);
         if (product.legacyName.trimmed().isEmpty() || m_names.isEmpty())
@@ -107,6 +111,18 @@ void PxCatalogueCheck::checkPredecessors() const
                 .hint([&] { return m_names.hint(product.legacyName); });
         if (!legacy.isValid() || product.isLegacy || !product.type.isValid())
             continue;
+        const Product *current = currents.value(legacy);
+        if (current && !olders.contains(legacy)) {
+            PxAddedFinding finding =
+                legacy == product.type
+                    ? m_report.add(PxTag::LegacyNotOlder, product.legacy, "%1 replaces itself",
+                                   legacy.productName())
+                    : m_report.add(PxTag::LegacyNotOlder, product.legacy, "%1 is still sold, in %2",
+                                   legacy.productName(), current->name);
+            finding.now("%1 is found as the product that replaces it", product.type.productName())
+                .hint("name a product that is no longer sold, or leave \"legacy\" out");
+            continue;
+        }
         const Product *&other = successors[legacy];
         if (other && other->type != product.type)
             m_report

@@ -11,6 +11,7 @@
 #include "check/layout/PxProductPages.h"
 #include "check/layout/PxRedirectCheck.h"
 #include "check/layout/PxSurroundingCheck.h"
+#include "check/product/PxClassCheck.h"
 #include "check/product/PxMarginCheck.h"
 #include "check/product/PxPagesCheck.h"
 #include "check/product/PxProductCheck.h"
@@ -189,17 +190,18 @@ void PxCheck::checkProduct(const PxCheckedFile &file, bool isLegacy)
     const PxReporter report = reporterFor(file);
     const PxCheckedProduct product(file, isLegacy);
     PxProductCheck(product, m_types, report).run();
+    PxClassCheck(product, report).run();
     PxSizeCheck size(product, report);
     size.run();
     PxMarginCheck(product, report).run();
     PxPagesCheck(product, report).run();
     PxSpineCheck(product, report).run();
     const PxProductPages pages(product);
-    PxRedirectCheck(product, report).run();
-    PxSurroundingCheck(product, pages, m_images, report).run();
+    PxRedirectCheck(product, pages, report).run();
+    PxSurroundingCheck(product, pages, size.isInOtherUnit(), m_images, report).run();
     PxBarcodeCheck(product, pages, size.isInOtherUnit(), m_images, report).run();
     PxNumberListCheck(product, pages, report).run();
-    PxDefaultsCheck(product.element(), m_themeIds, report).run();
+    PxDefaultsCheck(product.element(), m_themeIds, pages.contexts(), report).run();
     PxDesignCheck(product, report).run();
     noticeThemes(file, product.element());
     m_productNames.insert(product.element().value("name"));

@@ -25,6 +25,13 @@ QString templatesText(const PxDefaultsEntry::Templates &templates)
         .arg(named(templates.background), named(templates.layout));
 }
 
+/** Whether the type stands for several others, or for pages of another type. */
+bool isNoPage(const PxPageType &pageType)
+{
+    return PxPageEntry::isUnion(pageType) ||
+           (pageType.isValid() && !pageType.matches(PxPageTypeAll));
+}
+
 } // namespace
 
 void PxDefaultsCheck::run()
@@ -40,6 +47,8 @@ void PxDefaultsCheck::run()
         const PxDefaultsEntry entry(*child);
         checkThemes(entry);
         checkPageTypes(entry);
+        checkReach(entry);
+        checkSeparators(entry);
         checkTemplates(entry);
         overrides.add(entry);
     }
@@ -76,7 +85,10 @@ void PxDefaultsCheck::checkThemes(const PxDefaultsEntry &entry) const
             continue;
         m_report.add(PxTag::DefaultsThemeUnknown, part.range, "there is no theme \"%1\"", id)
             .now("no theme finds these templates")
-            .hint([&] { return m_themeIds.hint(id); });
+            .hint([&] {
+                const QString separated = PxSpelling::separated(id);
+                return separated.isEmpty() ? m_themeIds.hint(id) : separated;
+            });
     }
 }
 
@@ -87,10 +99,9 @@ void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry) const
     for (const PxSourcePart &part : list.parts) {
         const PxPageType pageType =
             static_cast<PxPageTypeEnum>(PxFormat::decode(PxKeywordSet::PageType, part.text));
-        const bool isUnion = PxPageEntry::isUnion(pageType);
-        const bool isRange = pageType.isValid() && !pageType.matches(PxPageTypeAll);
-        if (!isUnion && !isRange)
+        if (!isNoPage(pageType))
             continue;
+        const bool isUnion = PxPageEntry::isUnion(pageType);
         m_report
             .add(PxTag::DefaultsPageTypeUnion, part.range,
                  isUnion ? "\"%1\" is more than one type"
@@ -99,6 +110,54 @@ void PxDefaultsCheck::checkPageTypes(const PxDefaultsEntry &entry) const
             .now("no page finds these templates")
             .hint(isUnion ? "name each type, as \"fullcover,spine\""
                           : PxSpelling::didYouMean("normalpage"));
+    }
+}
+
+/** Pages of a type and on a side that the product has may find the entry. */
+void PxDefaultsCheck::checkReach(const PxDefaultsEntry &entry) const
+{
+    const QVector<PxPageTypeEnum> pageTypes = entry.pageTypes();
+    const auto isOfType = [&](const PxPageContext &page) {
+        return pageTypes.contains(page.pageType().value());
+    };
+    const auto finds = [&](const PxPageContext &page) {
+        return isOfType(page) && (entry.alignments() & page.alignment()) != 0;
+    };
+    if (!entry.isPlain() || pageTypes.isEmpty() || m_pages.isEmpty() ||
+        std::any_of(pageTypes.begin(), pageTypes.end(), isNoPage) ||
+        std::any_of(m_pages.begin(), m_pages.end(), finds))
+        return;
+    const bool hasType = std::any_of(m_pages.begin(), m_pages.end(), isOfType);
+    int types = 0;
+    int sides = 0;
+    for (const PxPageContext &page : m_pages) {
+        types |= page.pageType().value();
+        sides |= isOfType(page) ? page.alignment() & PxPageAlignmentSinglePages : 0;
+    }
+    const char *attribute = hasType ? "alignment" : "pageType";
+    m_report
+        .add(PxTag::DefaultsUnreachable, entry.element().rangeOf(attribute),
+             hasType ? "no page of these types lies at \"%1\""
+                     : "the product has no page of type \"%1\"",
+             entry.element().value(attribute))
+        .now("no page finds these templates")
+        .hint(hasType ? "they lie at: %1" : "its types of pages: %1",
+              hasType ? PxFormat::encode(PxKeywordSet::Alignment, sides)
+                      : PxFormat::encode(PxKeywordSet::PageType, types));
+}
+
+/** Only a comma separates names. */
+void PxDefaultsCheck::checkSeparators(const PxDefaultsEntry &entry) const
+{
+    const PxSourceList list =
+        PxSourceParts::ofAttribute(m_report.file(), entry.element().attribute("templates"));
+    for (const PxSourcePart &part : list.parts) {
+        if (part.text.contains(QLatin1Char(';')))
+            m_report
+                .add(PxTag::NameListSeparator, part.range, "\"%1\" is one name, with a semicolon",
+                     PxMessageText::shortened(part.text.trimmed()))
+                .now([&] { return templatesText(entry.templates()); })
+                .hint(PxSpelling::separated(part.text));
     }
 }
 

@@ -19,8 +19,12 @@ private:
     void checkVariants() const;
     void checkEachVariant(const PxSourceElement &list) const;
     bool isNamed(const QString &variant) const;
+    QString hintForVariant(const QString &variant) const;
+    void checkLabel(const PxSourceElement &list) const;
     void checkBackgroundCategories() const;
     void checkClassification() const;
+    void checkUnit(const PxSourceElement &classification, const char *attribute) const;
+    void checkMaterial(const PxSourceElement &classification) const;
 
     const PxCheckedProduct &m_product;
     const PxReporter m_report;

@@ -13,7 +13,7 @@ void PxUserDefaultsCheck::run()
 {
     checkName();
     if (checkStart())
-        PxDefaultsCheck(*m_report.file().root(), m_themeIds, m_report).run();
+        PxDefaultsCheck(*m_report.file().root(), m_themeIds, {}, m_report).run();
 }
 
 void PxUserDefaultsCheck::checkName() const

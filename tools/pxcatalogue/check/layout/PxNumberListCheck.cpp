@@ -1,5 +1,6 @@
 #include "check/layout/PxNumberListCheck.h"
 
+#include "check/PxCheckLimits.h"
 #include "check/rules/PxElementReading.h"
 #include "check/source/PxSourceParts.h"
 #include "check/words/PxMessageText.h"
@@ -57,14 +58,18 @@ QString separatorHint(const QString &part)
 void PxNumberListCheck::run()
 {
     const PxSourceElement &product = m_product.element();
-    if (const auto *list = product.firstChild("pageswithcontent"))
+    if (const auto *list = product.firstChild("pageswithcontent")) {
         checkParts(*list);
+        checkPagesWithContent(*list);
+    }
     const auto *numbering = product.firstChild("productionnumbering");
     if (numbering && checkParts(*numbering))
         checkNumbering(*numbering);
     if (const auto *extra = product.firstChild("extra_production_pages")) {
-        for (const auto *item : extra->childrenNamed("item"))
+        const auto items = extra->childrenNamed("item");
+        for (const auto *item : items)
             checkExtraPage(*item);
+        checkTargetPages(items);
     }
 }
 
@@ -92,6 +97,54 @@ bool PxNumberListCheck::checkParts(const PxSourceElement &list) const
             .hint([&] { return separatorHint(text); });
     }
     return isSound;
+}
+
+/** Checks the numbers of a list, which may be only some of those that belong together. */
+void PxNumberListCheck::checkPages(const PxSourceElement &list, const PxPageNumberCheck &check,
+                                   const QString &now) const
+{
+    const PxSourceList source = PxSourceParts::ofText(m_product.file(), list);
+    for (const PxSourcePart &part : source.parts) {
+        const QList<int> number = pxIntList(part.text); // one or none
+        if (number.isEmpty() || !check.isMissing(number.constFirst()))
+            continue;
+        PxAddedFinding finding = check.add(number.constFirst(), part.range);
+        finding.now(now);
+        if (!check.areFromOne())
+            continue;
+        finding.hint([&] {
+            QStringList numbers;
+            for (const int given : pxIntList(list.dom.text()).mid(0, PxCheckLimits::quotedLength))
+                numbers.append(QString::number(check.fromZero(given)));
+            return QString("pages count from 0: \"%1\"")
+                .arg(PxMessageText::shortened(numbers.join(QLatin1Char(','))));
+        });
+    }
+}
+
+void PxNumberListCheck::checkPagesWithContent(const PxSourceElement &list) const
+{
+    const QVector<int> numbers = pxIntList(list.dom.text()).toVector();
+    const PxPageNumberCheck check(m_pages, numbers, m_report);
+    const bool isAnyPage = std::any_of(numbers.begin(), numbers.end(),
+                                       [&](int number) { return !check.isMissing(number); });
+    checkPages(list, check,
+               isAnyPage ? "the number changes nothing" : "no page of the product takes content");
+}
+
+void PxNumberListCheck::checkTargetPages(const QVector<const PxSourceElement *> &items) const
+{
+    QVector<int> numbers;
+    QVector<const PxSourceElement *> lists;
+    for (const PxSourceElement *item : items) {
+        if (const PxSourceElement *list = item->firstChild("target_pages")) {
+            lists.append(list);
+            numbers += pxIntList(list->dom.text()).toVector();
+        }
+    }
+    const PxPageNumberCheck check(m_pages, numbers, m_report);
+    for (const PxSourceElement *list : lists)
+        checkPages(*list, check, "production gets the file for a page that does not exist");
 }
 
 void PxNumberListCheck::checkNumbering(const PxSourceElement &list) const

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "check/findings/PxReporter.h"
-#include "check/layout/PxProductPages.h"
+#include "check/layout/PxPageNumberCheck.h"
 #include "check/source/PxSourceParts.h"
 
 /** Checks lists of page numbers, and what production makes of them. */
@@ -24,6 +24,10 @@ private:
     void checkNumbering(const PxSourceElement &list) const;
     bool checkRepeated(const QVector<PxSourcePart> &parts, const QList<int> &given) const;
     void checkContinued(const PxSourcePart &last, const QList<int> &given) const;
+    void checkPages(const PxSourceElement &list, const PxPageNumberCheck &check,
+                    const QString &now) const;
+    void checkPagesWithContent(const PxSourceElement &list) const;
+    void checkTargetPages(const QVector<const PxSourceElement *> &items) const;
     void checkExtraPage(const PxSourceElement &item) const;
 
     const PxCheckedProduct &m_product;

@@ -42,12 +42,51 @@ bool PxProductPages::isPlain() const
     const PxSourceElement &element = m_product.element();
     const PxElementReading reading(element);
     bool isPlain = m_product.pages().isGiven() && m_product.type().isValid();
+    // The page count of a calendar follows from its binding.
+    constexpr auto ofCalendar =
+        static_cast<PxBindingEnum>(PxBindingCalendarSimplex | PxBindingCalendarDuplex |
+                                   PxBindingCalendarOnePage | PxBindingCalendarAnnualDuplex);
+    if (m_product.type().isCalendar() && !m_product.description().binding().matches(ofCalendar))
+        return false;
     for (const char *attribute :
          {"binding", "numOfNormalPages", "horizontalPages", "cardStyleAlignment",
           "varioSingleCardStyleAlignment", "collegeBlockStyleAlignment"})
         isPlain = isPlain && reading.isReadable(attribute) && !reading.isMisspelt(attribute);
     return isPlain &&
            std::all_of(m_product.pages().read().begin(), m_product.pages().read().end(), isSingle);
+}
+
+/** Whether a book has a range of pages on both sides, and a spine is page 1. */
+bool PxProductPages::isInOrder() const
+{
+    const QVector<PxPageEntry> &entries = m_product.pages().read();
+    const bool hasRange = std::any_of(entries.begin(), entries.end(),
+                                      [](const PxPageEntry &entry) { return entry.isRange(); });
+    const PxPageEntry *spine = m_product.pages().spine();
+    const bool isBound = hasRange && !m_product.description().isSimplex();
+    return (isBound || !m_product.type().isBook()) && (!spine || spine - entries.constData() == 1);
+}
+
+QVector<PxPageContext> PxProductPages::contexts() const
+{
+    QVector<PxPageContext> contexts;
+    if (!isKnown() || !isInOrder())
+        return contexts;
+    const auto add = [&contexts](const PxPageType &type, PxPageAlignment alignment) {
+        const PxPageContext context(type, alignment);
+        if (!contexts.contains(context))
+            contexts.append(context);
+    };
+    for (const Page &page : m_pages) {
+        add(page.type, page.alignment);
+        add(page.type, PxPageAlignmentFullPage); // of a double page
+    }
+    // The table of spines says that the list of pages lacks one.
+    const PxProductTypeDescription &description = m_product.description();
+    if (!description.hasSpine() && m_product.type().isBook() &&
+        description.spineWidth(description.maxPages()) > 0)
+        add(PxPageTypeSpine, PxPageAlignmentAll);
+    return contexts;
 }
 
 QVector<int> PxProductPages::pageCounts() const

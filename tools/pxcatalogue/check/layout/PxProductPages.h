@@ -2,6 +2,8 @@
 
 #include "check/source/PxCheckedProduct.h"
 
+#include <geometry/PxPageContext.h>
+
 #include <QVector>
 
 /** The pages of a product with each page count that it is sold with. */
@@ -32,11 +34,17 @@ public:
     const QVector<Page> &pages() const { return m_pages; }
     /** The types of all pages together. */
     PxPageType pageTypes() const { return m_pageTypes; }
+    /**
+     * Type and side of each page, as default templates are looked up. None if the pages are not
+     * known, or if another finding says that a page is missing or at the wrong place.
+     */
+    QVector<PxPageContext> contexts() const;
     /** The largest number that a page has. */
     int lastPage() const { return m_lastPage; }
 
 private:
     bool isPlain() const;
+    bool isInOrder() const;
     QVector<int> pageCounts() const;
     QVector<int> pageCountsOfBook() const;
     QVector<PxPageTypeEnum> pagesWith(int normalPageCount) const;

@@ -17,6 +17,11 @@ QString pagesText(int first, int last)
                          : QString("pages %1 to %2").arg(first).arg(last);
 }
 
+QString fromText(int first, int last)
+{
+    return first == last ? QString::number(first) : QString("%1-%2").arg(first).arg(last);
+}
+
 /** Whether an unknown attribute may be meant for a missing one, but looks like none. */
 bool isUnclear(const PxElementReading &reading)
 {
@@ -32,31 +37,62 @@ void PxRedirectCheck::run()
 {
     const PxSourceElement &product = m_product.element();
     if (const auto *list = product.firstChild("rotationredirects")) {
-        for (const auto *redirect : list->childrenNamed("rotationredirect"))
-            checkRotation(*redirect);
+        QVector<const PxSourceElement *> kept;
+        for (const auto *redirect : list->childrenNamed("rotationredirect")) {
+            if (checkRotation(*redirect))
+                kept.append(redirect);
+        }
+        checkRotationPages(kept);
     }
     if (const auto *list = product.firstChild("contentredirects")) {
         QVector<Range> ranges;
         for (const auto *redirect : list->childrenNamed("contentredirect"))
             checkContent(*redirect, &ranges);
+        checkContentPages(ranges);
         checkOverlaps(ranges);
     }
 }
 
-void PxRedirectCheck::checkRotation(const PxSourceElement &redirect) const
+bool PxRedirectCheck::checkRotation(const PxSourceElement &redirect) const
 {
     constexpr PxTag tag = PxTag::RotationRedirectIncomplete;
     const PxElementReading reading(redirect);
     if (isUnclear(reading) || !reading.isReadable("from") || !reading.isReadable("to"))
-        return;
+        return false;
     if (checkGiven(tag, reading))
-        return;
+        return false;
     for (const char *name : {"from", "to"}) {
         if (reading.number(name) < -1) {
             m_report.add(tag, redirect.rangeOf(name), "\"%1\" is no page", redirect.value(name))
                 .now(leftOut)
                 .hint("pages count from 0; -1 is the only number below");
-            return;
+            return false;
+        }
+    }
+    return true;
+}
+
+void PxRedirectCheck::checkRotationPages(const QVector<const PxSourceElement *> &redirects) const
+{
+    QVector<int> numbers;
+    for (const PxSourceElement *redirect : redirects) {
+        for (const char *name : {"from", "to"}) {
+            if (redirect->number(name) != -1)
+                numbers.append(redirect->number(name));
+        }
+    }
+    const PxPageNumberCheck check(m_pages, numbers, m_report);
+    for (const PxSourceElement *redirect : redirects) {
+        for (const char *name : {"from", "to"}) {
+            const int number = redirect->number(name);
+            if (!check.isMissing(number))
+                continue;
+            PxAddedFinding finding = check.add(number, redirect->rangeOf(name));
+            finding.now("the redirect is kept, and \"%1\" is no page", name);
+            if (check.areFromOne())
+                finding.hint("pages count from 0: from=\"%1\" to=\"%2\"",
+                             check.fromZero(redirect->number("from")),
+                             check.fromZero(redirect->number("to")));
         }
     }
 }
@@ -123,6 +159,34 @@ void PxRedirectCheck::checkIncomplete(const PxSourceElement &redirect) const
             .hint(from.contains(QLatin1Char(','))
                       ? "write one element for each page or range"
                       : "write a page such as \"3\" or a range such as \"3-7\"");
+}
+
+void PxRedirectCheck::checkContentPages(const QVector<Range> &ranges) const
+{
+    QVector<int> numbers;
+    for (const Range &range : ranges)
+        numbers << range.first << range.last << range.target;
+    const PxPageNumberCheck check(m_pages, numbers, m_report);
+    for (const Range &range : ranges) {
+        const auto add = [&](const char *name, int number, const QString &now) {
+            PxAddedFinding finding = check.add(number, range.element->rangeOf(name));
+            finding.now(now);
+            if (check.areFromOne())
+                finding.hint("pages count from 0: from=\"%1\" to=\"%2\"",
+                             fromText(check.fromZero(range.first), check.fromZero(range.last)),
+                             check.fromZero(range.target));
+        };
+        if (check.isMissing(range.first))
+            add("from", range.first, "nothing is redirected");
+        else if (check.isMissing(range.last))
+            add("from", range.last,
+                QString("%1 are redirected to %2")
+                    .arg(pagesText(range.first, m_pages.lastPage()))
+                    .arg(range.target));
+        if (check.isMissing(range.target))
+            add("to", range.target,
+                QString("content goes to page %1, which is none").arg(range.target));
+    }
 }
 
 /**

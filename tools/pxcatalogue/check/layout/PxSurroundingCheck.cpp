@@ -35,8 +35,11 @@ PxSurroundingDescription withoutFrame(const PxSourceElement &frame)
 } // namespace
 
 PxSurroundingCheck::PxSurroundingCheck(const PxCheckedProduct &product, const PxProductPages &pages,
-                                       PxImageNames &images, const PxReporter &report)
-    : m_pages(pages)
+                                       bool isInOtherUnit, PxImageNames &images,
+                                       const PxReporter &report)
+    : m_product(product)
+    , m_pages(pages)
+    , m_isInOtherUnit(isInOtherUnit)
     , m_images(images)
     , m_report(report)
 {
@@ -133,6 +136,58 @@ void PxSurroundingCheck::checkUse() const
         else if (!all[i].isHiddenByDoubtful)
             reportHidden(m_surroundings[i], m_surroundings[all[i].hiddenBy]);
     }
+    for (int i = 0; i < all.size() && !m_isInOtherUnit; ++i) {
+        if (all[i].isUsed && m_surroundings[i].isPlain)
+            checkPlace(m_surroundings[i], asked);
+    }
+}
+
+/** The page with its bleed, or the double page; empty if its size is not known. */
+QRect PxSurroundingCheck::rectOf(const PxSurroundingKey &page) const
+{
+    const PxProductTypeDescription &description = m_product.description();
+    const QSize size =
+        description.usablePrintSize(page.pageType(), m_pages.layouts().constLast().normalPageCount);
+    if (size.isEmpty() || size.width() > PxCheckLimits::comparedSide ||
+        size.height() > PxCheckLimits::comparedSide)
+        return QRect();
+    const int times = page.alignment() == PxPageAlignmentFullPage ? 2 : 1;
+    const PxBleedMargin bleed = page.pageType().matches(PxPageTypeCover)
+                                    ? description.bleedMarginCover()
+                                    : description.bleedMarginNormal();
+    const int h = qBound(0, bleed.horizontal(), PxCheckLimits::comparedSide);
+    const int v = qBound(0, bleed.vertical(), PxCheckLimits::comparedSide);
+    return QRect(QPoint(0, 0), size * times).adjusted(-h, -v, h, v);
+}
+
+/** Spirals, handles and frames lie beside the page, but close to it. */
+void PxSurroundingCheck::checkPlace(const Surrounding &surrounding,
+                                    const QVector<PxSurroundingKey> &keys) const
+{
+    const QRect rect = surrounding.description.imageRect();
+    QRect first;
+    for (const PxSurroundingKey &key : keys) {
+        if (!surrounding.description.isSuitable(key))
+            continue;
+        const QRect page = rectOf(key);
+        const int h = page.width() / 10;
+        const int v = page.height() / 10;
+        if (page.isEmpty() || page.adjusted(-h, -v, h, v).intersects(rect))
+            return;
+        if (first.isEmpty())
+            first = page;
+    }
+    if (first.isEmpty() || !rect.isValid())
+        return;
+    const bool isBeside = rect.left() > first.right() || rect.right() < first.left();
+    m_report
+        .add(PxTag::SurroundingOutside, surrounding.element->rangeOf(isBeside ? "x" : "y"),
+             "the image reaches from %1 = %2 to %3, its page with bleed from %4 to %5",
+             isBeside ? "x" : "y", isBeside ? rect.left() : rect.top(),
+             isBeside ? qint64(rect.left()) + rect.width() : qint64(rect.top()) + rect.height(),
+             isBeside ? first.left() : first.top(),
+             isBeside ? first.left() + first.width() : first.top() + first.height())
+        .now("it is painted there, far from the page");
 }
 
 /** All that applications may ask for: pages, and double pages, which only "fullpage" fits. */

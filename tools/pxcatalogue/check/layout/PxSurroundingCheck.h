@@ -8,9 +8,9 @@
 class PxSurroundingCheck
 {
 public:
-    /** All of them must outlive the check. */
+    /** All must outlive the check. No rectangle is compared with a size in another unit. */
     PxSurroundingCheck(const PxCheckedProduct &product, const PxProductPages &pages,
-                       PxImageNames &images, const PxReporter &report);
+                       bool isInOtherUnit, PxImageNames &images, const PxReporter &report);
 
     void run();
 
@@ -35,10 +35,14 @@ private:
     void checkUse() const;
     QVector<PxSurroundingKey> keys() const;
     QVector<Use> uses(const QVector<PxSurroundingKey> &keys) const;
+    QRect rectOf(const PxSurroundingKey &page) const;
+    void checkPlace(const Surrounding &surrounding, const QVector<PxSurroundingKey> &keys) const;
     void reportUnfit(const Surrounding &surrounding) const;
     void reportHidden(const Surrounding &surrounding, const Surrounding &by) const;
 
+    const PxCheckedProduct &m_product;
     const PxProductPages &m_pages;
+    const bool m_isInOtherUnit;
     PxImageNames &m_images;
     const PxReporter m_report;
     QVector<Surrounding> m_surroundings; // in the order in which the library asks them

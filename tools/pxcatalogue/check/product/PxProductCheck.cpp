@@ -1,5 +1,7 @@
 #include "check/product/PxProductCheck.h"
 
+#include "check/words/PxSpelling.h"
+
 #include <PxXMLParser.h>
 
 #include <algorithm>
@@ -21,7 +23,6 @@ bool isUnsafeForFile(const QString &name)
 void PxProductCheck::run()
 {
     checkName();
-    checkPageCount();
     checkAlignmentStyle();
 }
 
@@ -48,6 +49,12 @@ void PxProductCheck::checkName() const
                  "the row of \"%1\" in producttypes.xml is left out", name)
             .now(now)
             .hint("check producttypes.xml");
+    else if (m_product.type().isValid() && name != name.trimmed())
+        m_report
+            .add(PxTag::ProductNameBlank, element.rangeOf(attribute),
+                 "the name \"%1\" has a blank at its edge", name)
+            .now("the user's default templates are looked for in \"%1.xml\"", name)
+            .hint(PxSpelling::didYouMean(name.trimmed()));
 }
 
 void PxProductCheck::checkNameOfFile() const
@@ -60,19 +67,6 @@ void PxProductCheck::checkNameOfFile() const
                  ? "the user's default templates are looked for in a file of this name"
                  : "the file is skipped: there is no such product type")
         .hint("use letters, digits and underscores only");
-}
-
-void PxProductCheck::checkPageCount() const
-{
-    constexpr auto counted = static_cast<PxProductClass>(PxProductClassGift | PxProductClassCard |
-                                                         PxProductClassDecoration);
-    const int pageCount = m_product.description().explicitNumberOfNormalPages();
-    if (pageCount <= 0 && m_product.type().isProductClass(counted))
-        m_report
-            .add(PxTag::PageCountNotPositive, m_product.element().rangeOf("numOfNormalPages"),
-                 "a product of %1 normal pages", pageCount)
-            .now("the page count is %1", unsigned(pageCount))
-            .hint("leave it out for a single page");
 }
 
 void PxProductCheck::checkAlignmentStyle() const

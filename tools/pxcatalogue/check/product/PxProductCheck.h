@@ -4,7 +4,7 @@
 #include "check/source/PxCheckedProduct.h"
 #include "check/words/PxListedProductTypes.h"
 
-/** Checks the name of the product, its page count and its style of alignment. */
+/** Checks the name of the product and its style of alignment. */
 class PxProductCheck
 {
 public:
@@ -21,7 +21,6 @@ public:
 private:
     void checkName() const;
     void checkNameOfFile() const;
-    void checkPageCount() const;
     void checkAlignmentStyle() const;
 
     const PxCheckedProduct &m_product;

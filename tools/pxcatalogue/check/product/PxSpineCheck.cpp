@@ -35,6 +35,8 @@ PxSpineCheck::PxSpineCheck(const PxCheckedProduct &product, const PxReporter &re
 
 void PxSpineCheck::run()
 {
+    if (!checkClass())
+        return;
     readTable();
     checkPresence();
     checkSpinePage();
@@ -46,6 +48,31 @@ void PxSpineCheck::run()
     checkLength();
     checkSteps();
     checkSellingPages();
+}
+
+/** Whether the table may be used: only a book has the page counts that it lists. */
+bool PxSpineCheck::checkClass() const
+{
+    const PxPageEntries &pages = m_product.pages();
+    const QList<int> offered = m_product.description().offeredPageCounts();
+    if (m_product.type().isBook() || !m_product.type().isValid() || offered.isEmpty() ||
+        (pages.isGiven() && !pages.isSound()))
+        return true;
+    const auto spines =
+        m_table ? m_table->childrenNamed("spine") : QVector<const PxSourceElement *>();
+    const auto isForProduct = [&](const PxSourceElement *spine) {
+        return spine->number(pagesName) == offered.constFirst();
+    };
+    if (spines.isEmpty() ||
+        (pages.spine() && std::any_of(spines.begin(), spines.end(), isForProduct)))
+        return true;
+    m_report
+        .add(PxTag::SpinesNotUsed, m_table->nameRange, "\"spines\" of a product that is no book")
+        .now(pages.spine() ? "its page count is %1, for which the table has no spine"
+                           : "the product has no spine, and its page count is %1",
+             offered.constFirst())
+        .hint("take the table out, or give the product type the class \"book\"");
+    return false;
 }
 
 void PxSpineCheck::readTable()

@@ -17,6 +17,7 @@ public:
 private:
     using Spines = QMap<int, const PxSourceElement *>;
 
+    bool checkClass() const;
     void readTable();
     void readPageCount(const PxSourceElement &spine);
     void addTwice(const PxSourceElement &spine, int pageCount) const;

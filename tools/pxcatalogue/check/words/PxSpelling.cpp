@@ -2,6 +2,7 @@
 
 #include "check/PxCheckLimits.h"
 #include "check/words/PxEditDistance.h"
+#include "check/words/PxMessageText.h"
 
 #include <QRegularExpression>
 #include <QVector>
@@ -35,6 +36,30 @@ QString PxSpelling::hint(const QString &word, const QStringList &candidates)
 {
     const QString name = nearest(word, candidates);
     return name.isEmpty() ? QString() : didYouMean(name);
+}
+
+QString PxSpelling::oneOf(const QStringList &words)
+{
+    return words.isEmpty() || words.size() > PxCheckLimits::listedWords
+               ? QString()
+               : QString("it is one of %1").arg(words.join(QLatin1String(", ")));
+}
+
+QString PxSpelling::hintOrAll(const QString &word, const QStringList &candidates)
+{
+    const QString near = hint(word, candidates);
+    return near.isEmpty() ? oneOf(candidates) : near;
+}
+
+QString PxSpelling::separated(const QString &names)
+{
+    if (!names.contains(QLatin1Char(';')))
+        return QString();
+    QStringList all = names.split(QLatin1Char(';'));
+    for (QString &name : all)
+        name = name.trimmed();
+    return QString("separate with commas: \"%1\"")
+        .arg(PxMessageText::shortened(all.join(QLatin1Char(','))));
 }
 
 QStringList PxSpelling::nearestThree(const QString &word, const QStringList &candidates)

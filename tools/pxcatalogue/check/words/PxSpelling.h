@@ -10,6 +10,12 @@ public:
     static QString nearest(const QString &word, const QStringList &candidates);
     /** The same as a question to the author; empty if there is none. */
     static QString hint(const QString &word, const QStringList &candidates);
+    /** All words, for an author who may not know them; empty if there are too many. */
+    static QString oneOf(const QStringList &words);
+    /** The question; if none of the candidates is similar, all of them. */
+    static QString hintOrAll(const QString &word, const QStringList &candidates);
+    /** Names with semicolons between them, as the list that is meant. */
+    static QString separated(const QString &names);
     /**
      * At most three candidates that are similar to the word or have a part that is, the most
      * similar first.
