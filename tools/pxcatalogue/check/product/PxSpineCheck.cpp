@@ -5,7 +5,9 @@
 #include "check/words/PxSpelling.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <iterator>
+#include <limits>
 
 namespace {
 
@@ -79,27 +81,36 @@ void PxSpineCheck::readTable()
 {
     if (!m_table)
         return;
+    QVector<Row> rows;
     for (const PxSourceElement *spine : m_table->childrenNamed("spine")) {
         ++m_rowCount;
-        readPageCount(*spine);
+        readPageCount(*spine, &rows);
     }
     // A child of another name was meant for a row.
-    m_isComplete = m_isComplete && m_rowCount == m_table->children.size();
+    m_isComplete = rows.size() == m_table->children.size();
+    const Misfit misfit = m_isComplete ? findMisfit(rows) : Misfit();
+    const Row asWritten = rows.value(misfit.row);
+    if (misfit.row >= 0)
+        rows[misfit.row].pageCount = misfit.wanted;
+    for (const Row &row : qAsConst(rows)) {
+        if (m_spines.contains(row.pageCount)) {
+            m_isComplete = false; // most likely one of the two is meant for another page count
+            addTwice(row, *m_spines.value(row.pageCount), "keep the one that is meant");
+        }
+        m_spines.insert(row.pageCount, row.spine);
+    }
+    if (misfit.row >= 0)
+        addMisfit(asWritten, misfit.wanted);
 }
 
-void PxSpineCheck::readPageCount(const PxSourceElement &spine)
+void PxSpineCheck::readPageCount(const PxSourceElement &spine, QVector<Row> *rows) const
 {
     const PxElementReading reading(spine);
     const int pageCount = reading.number(pagesName);
     if (pageCount > 0) {
-        if (m_spines.contains(pageCount)) {
-            m_isComplete = false; // most likely one of the two is meant for another page count
-            addTwice(spine, pageCount);
-        }
-        m_spines.insert(pageCount, &spine);
+        rows->append({pageCount, &spine});
         return;
     }
-    m_isComplete = false;
     if (!reading.isReadable(pagesName))
         return;
     const PxMissingPart missing = reading.missing(pagesName);
@@ -111,16 +122,77 @@ void PxSpineCheck::readPageCount(const PxSourceElement &spine)
         .hint(missing.hint);
 }
 
-void PxSpineCheck::addTwice(const PxSourceElement &spine, int pageCount) const
+/** The most frequent step from one row to the next; 0 if none is frequent. */
+int PxSpineCheck::usualStepOf(const QVector<Row> &rows)
 {
-    const PxSourceElement &earlier = *m_spines.value(pageCount);
+    QMap<qint64, int> frequencies;
+    for (int i = 1; i < rows.size(); ++i)
+        ++frequencies[qint64(rows[i].pageCount) - rows[i - 1].pageCount];
+    const auto best = std::max_element(frequencies.begin(), frequencies.end());
+    return best == frequencies.end() || *best < 2 || best.key() < 1 ? 0 : int(best.key());
+}
+
+/**
+ * The only row whose page count is out of order in the file, if another one in its place is in step
+ * with both neighbours. The order of the rows does not matter to the library, but shows which of
+ * them is mistyped.
+ */
+PxSpineCheck::Misfit PxSpineCheck::findMisfit(const QVector<Row> &rows)
+{
+    const qint64 step = usualStepOf(rows);
+    const auto countOf = [&](int row) { return qint64(rows[row].pageCount); };
+    const auto isFall = [](const Row &a, const Row &b) { return a.pageCount >= b.pageCount; };
+    const auto fall = std::adjacent_find(rows.begin(), rows.end(), isFall);
+    if (step == 0 || fall == rows.end() ||
+        std::adjacent_find(fall + 1, rows.end(), isFall) != rows.end())
+        return {};
+    const int first = int(fall - rows.begin());
+    const int last = rows.size() - 1;
+    for (const int row : {first, first + 1}) {
+        if (row > 0 && row < last && countOf(row - 1) + 2 * step == countOf(row + 1))
+            return {row, int(countOf(row - 1) + step)};
+    }
+    // At either end, a row that is in step with another one may just stand at another place.
+    const bool isFirst = first == 0;
+    const qint64 own = countOf(isFirst ? 0 : last);
+    const qint64 wanted = isFirst ? countOf(1) - step : countOf(last - 1) + step;
+    const bool isInStep = std::any_of(rows.begin(), rows.end(), [&](const Row &row) {
+        return std::abs(row.pageCount - own) == step;
+    });
+    const bool isEnd = isFirst || first + 1 == last;
+    return !isEnd || isInStep || fall->pageCount == (fall + 1)->pageCount || wanted < 1 ||
+                   wanted > std::numeric_limits<int>::max()
+               ? Misfit()
+               : Misfit{isFirst ? 0 : last, int(wanted)};
+}
+
+/** One finding for all that follows from a mistyped page count. */
+void PxSpineCheck::addMisfit(const Row &row, int wanted) const
+{
+    const QString hint = PxSpelling::didYouMean(QString::number(wanted));
+    if (const PxSourceElement *other = m_spines.value(row.pageCount)) {
+        addTwice(row, *other, hint);
+        return;
+    }
     m_report
-        .add(PxTag::SpinePagesTwice, spine.rangeOf(pagesName),
-             "a second spine for %1 pages, %2 wide; the one in %3 is %4", pageCount, widthOf(spine),
-             m_report.place(earlier.rangeOf(pagesName)), widthOf(earlier))
+        .add(PxTag::SpineStepsIrregular, row.spine->rangeOf(pagesName),
+             "%1 pages where the rows before and after it leave room for %2", row.pageCount, wanted)
+        .now(nowOfSteps() + (hasWidth() ? QString("; the spine for %1 pages is %2 wide")
+                                              .arg(wanted)
+                                              .arg(m_product.description().spineWidth(wanted))
+                                        : QString()))
+        .hint(hint);
+}
+
+void PxSpineCheck::addTwice(const Row &row, const PxSourceElement &other, const QString &hint) const
+{
+    m_report
+        .add(PxTag::SpinePagesTwice, row.spine->rangeOf(pagesName),
+             "a second spine for %1 pages, %2 wide; the one in %3 is %4", row.pageCount,
+             widthOf(*row.spine), m_report.place(other.rangeOf(pagesName)), widthOf(other))
         .now("the later one is used, as a spine of %1",
-             m_product.description().spineWidth(pageCount))
-        .hint("keep the one that is meant");
+             m_product.description().spineWidth(row.pageCount))
+        .hint(hint);
 }
 
 void PxSpineCheck::checkPresence() const
@@ -134,8 +206,7 @@ void PxSpineCheck::checkPresence() const
         .add(PxTag::BookWithoutPageCounts, missing.range,
              m_table ? "the \"spines\" of this book hold no \"spine\""
                      : "a book without \"spines\"")
-        .now("its page counts go from %1 to %2", m_product.description().minPages(),
-             m_product.description().maxPages())
+        .now("no page count is offered, and applications get numbers that are none")
         .hint(missing.hintOr(
             "add a \"spine\" for each page count, with the width 0 when none is printed"));
 }
@@ -146,7 +217,7 @@ void PxSpineCheck::checkLength() const
         m_report
             .add(PxTag::SpineTableShort, m_table->nameRange, "a book with %1 page counts",
                  m_rowCount)
-            .now("the step between its page counts is %1", m_product.description().pageIncrement())
+            .now("only these are offered, and applications get a step that is none")
             .hint("give three page counts or more");
 }
 

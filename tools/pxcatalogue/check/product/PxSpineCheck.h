@@ -16,11 +16,25 @@ public:
 
 private:
     using Spines = QMap<int, const PxSourceElement *>;
+    struct Row
+    {
+        int pageCount = 0;
+        const PxSourceElement *spine = nullptr;
+    };
+    /** A row with a mistyped page count, and the one that is probably meant. */
+    struct Misfit
+    {
+        int row = -1; ///< -1 for none
+        int wanted = 0;
+    };
 
     bool checkClass() const;
     void readTable();
-    void readPageCount(const PxSourceElement &spine);
-    void addTwice(const PxSourceElement &spine, int pageCount) const;
+    void readPageCount(const PxSourceElement &spine, QVector<Row> *rows) const;
+    static int usualStepOf(const QVector<Row> &rows);
+    static Misfit findMisfit(const QVector<Row> &rows);
+    void addMisfit(const Row &row, int wanted) const;
+    void addTwice(const Row &row, const PxSourceElement &other, const QString &hint) const;
     void checkPresence() const;
     void checkLength() const;
     void checkSteps() const;
@@ -42,7 +56,7 @@ private:
     const PxReporter m_report;
     const PxSourceElement *m_table; // null when there is none
     int m_rowCount = 0;
-    /** The rows that the library uses, by page count. */
+    /** The rows that the library uses, by page count; a mistyped one by the one that is meant. */
     Spines m_spines;
     bool m_isComplete = true; // the page count of every row is known and its own
 };
