@@ -4,9 +4,9 @@
 #include <QJsonDocument>
 #include <QProcess>
 
-static QStringList linesOf(const QByteArray &text)
+static QStringList linesOf(const QString &text)
 {
-    return QString::fromUtf8(text).split('\n', Qt::SkipEmptyParts);
+    return text.split('\n', Qt::SkipEmptyParts);
 }
 
 PxProgramRun::PxProgramRun(const QString &program, const QStringList &arguments,
@@ -30,8 +30,9 @@ PxProgramRun::PxProgramRun(const QString &program, const QStringList &arguments,
         return;
     const QByteArray output = process.readAllStandardOutput();
     m_status = process.exitCode();
-    m_output = linesOf(output);
-    m_errors = linesOf(process.readAllStandardError());
+    m_printed = QString::fromUtf8(output);
+    m_output = linesOf(m_printed);
+    m_errors = linesOf(QString::fromUtf8(process.readAllStandardError()));
     m_json = QJsonDocument::fromJson(output).object();
 }
 

@@ -14,6 +14,8 @@ public:
     int status() const { return m_status; }
     /** The lines that are not empty. */
     QStringList output() const { return m_output; }
+    /** All the output, as it is. */
+    QString printed() const { return m_printed; }
     QStringList errors() const { return m_errors; }
     /** All the output with single blanks instead of alignment and line breaks. */
     QString text() const { return m_output.join(' ').simplified(); }
@@ -23,6 +25,7 @@ public:
 
 private:
     int m_status = -1; // also of a program that crashes
+    QString m_printed;
     QStringList m_output;
     QStringList m_errors;
     QJsonObject m_json;

@@ -15,7 +15,6 @@ private slots:
     void explainsEachCommand();
     void namingACatalogueMeansItsThemesAndDefaults();
     void namesVariantsInTheLanguageAskedFor();
-    void printsWhatTheReadmeShows();
     void runsTheEditorExample();
 };
 
@@ -140,24 +139,6 @@ void PxCatalogueTest::namesVariantsInTheLanguageAskedFor()
     check("en_US.UTF-8", "", "", "color:black Black");
     check("fr_FR.UTF-8", "", "", "color:black Schwarz");
     check("de_DE.UTF-8", "de:en", "", "color:black Schwarz"); // the first choice needs no catalogue
-}
-
-void PxCatalogueTest::printsWhatTheReadmeShows()
-{
-    const QString readme = textOf(PX_SOURCE_DIRECTORY "/README.md");
-    const QStringList blocks = readme.split("```console\n$ pxcatalogue").mid(1);
-    QVERIFY(blocks.size() >= 2);
-    QVERIFY(QDir::setCurrent(PX_SOURCE_DIRECTORY));
-    for (const QString &block : blocks) {
-        const QString shown = block.section("\n```", 0, 0).replace("\n\n", "\n");
-        const QString output = run(shown.section('\n', 0, 0), 100).output().join('\n');
-        // "..." stands for groups that the document leaves out.
-        for (const QString &group : shown.section('\n', 1).split("...", Qt::SkipEmptyParts))
-            QVERIFY2(output.contains(group.trimmed()), qPrintable(group));
-    }
-    const QString example = textOf(PX_SOURCE_DIRECTORY "/examples/spine/main.cpp");
-    QVERIFY(!example.isEmpty());
-    QVERIFY(readme.contains(example));
 }
 
 void PxCatalogueTest::runsTheEditorExample()

@@ -22,7 +22,6 @@ private slots:
     void tellsAHundredOfAKind();
     void hidesWhatIsKnownOfMany();
     void countsCharacters();
-    void printsWhatTheDocumentShows();
 
 private:
     PxCheckedSample m_sample;
@@ -177,20 +176,6 @@ void PxCheckOutputTest::countsCharacters()
         QCOMPARE(findingsOf(m_sample.check(cup)),
                  QStringList("products/cup2.xml:1:772 error xml-limit-exceeded"));
     }
-}
-
-void PxCheckOutputTest::printsWhatTheDocumentShows()
-{
-    QFile file(PX_SOURCE_DIRECTORY "/docs/pxcatalogue.md");
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QString shown = QString::fromUtf8(file.readAll())
-                              .section("```console\n$ pxcatalogue check catalogue\n", 1)
-                              .section("\n```", 0, 0);
-    m_sample.replace(cup, size, "<usablesize width=\"2000\" width=\"2500\" height=\"950\"/>");
-    QCOMPARE(m_sample.check(".").output().join('\n'),
-             QString(shown)
-                 .replace("catalogue/", "./")
-                 .replace("catalogue:", QDir(m_sample.path()).dirName() + ':'));
 }
 
 QTEST_GUILESS_MAIN(PxCheckOutputTest)
