@@ -72,7 +72,7 @@ QString sessionNow(const QString &session)
 void PxDocumentsTest::showsWhatHappens_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char *name : {"README.md", "docs/pxcatalogue.md"})
+    for (const char *name : {"README.md", "docs/first-product.md", "docs/pxcatalogue.md"})
         QTest::newRow(name) << name;
 }
 
