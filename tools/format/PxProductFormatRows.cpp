@@ -61,7 +61,7 @@ constexpr PxAttributeRow usableSizeAttributes[] = {
 constexpr PxAttributeRow spineAttributes[] = {
     {"pages", Type::Integer, "0", {"page count"}, "a spine for 0 pages, and 0 becomes the smallest page count"},
     {"width", Type::Length, "0", {"width of the spine"}},
-    {"maxfontheight", Type::Length, "0", {"greatest height of type on the spine"}},
+    {"maxfontheight", Type::Length, "0", {"greatest height of type on the spine; not computed from the width"}},
 };
 constexpr PxAttributeRow surroundingAttributes[] = {
     {"type", Type::OneKeyword, "BOOK", {"[surrounding type](#surrounding-types); an unknown word makes it none, which still hides later ones"}, nullptr, Set::SurroundingType},
@@ -71,7 +71,7 @@ constexpr PxAttributeRow surroundingAttributes[] = {
     {"paintOnTop", Type::Boolean, "true", {"above the content of the page rather than below"}},
     {"hasbindingshade", Type::Boolean, "false", {"the image carries the shade of the binding"}},
     {"image", Type::Text, "", {"image, as a path in the resource directory"}},
-    {"x", Type::RectanglePart, "0", {"where the image goes, seen from the upper left corner of the page"}},
+    {"x", Type::RectanglePart, "0", {"where the image goes, seen from the upper left corner of [the page](#places-on-pages)"}},
     {"y", Type::RectanglePart, "0", {}},
     {"width", Type::RectanglePart, nullptr, {}},
     {"height", Type::RectanglePart, nullptr, {}},
@@ -94,7 +94,7 @@ constexpr PxAttributeRow contentRedirectAttributes[] = {
     {"to", Type::Integer, nullptr, {"page, 0 or more"}, "dropped with a warning"},
 };
 constexpr PxAttributeRow barcodeAttributes[] = {
-    {"x", Type::RectanglePart, "0", {"place on the page"}, "there is no barcode on that page"},
+    {"x", Type::RectanglePart, "0", {"place on [the page](#places-on-pages)"}, "there is no barcode on that page"},
     {"y", Type::RectanglePart, "0", {}, "there is no barcode on that page"},
     {"width", Type::RectanglePart, nullptr, {}, "there is no barcode on that page"},
     {"height", Type::RectanglePart, nullptr, {}, "there is no barcode on that page"},
@@ -112,7 +112,7 @@ constexpr PxAttributeRow marginAttributes[] = {
     {"horizontalMargin", Type::Integer, "50", {"distance from the edge at the side"}},
 };
 constexpr PxAttributeRow fontAttributes[] = {
-    {"fontSize", Type::Integer, "24", {"type size"}},
+    {"fontSize", Type::Integer, "24", {"type size; no length: the editor gets the number as it is"}},
 };
 constexpr PxAttributeRow classificationAttributes[] = {
     {"cm", Type::Text, "", {"size name for display, without unit"}},
