@@ -34,7 +34,7 @@ void PxDirectoriesCheck::checkProducts() const
             .add(PxTag::ProductsNone, PxPlace{m_paths.productsDirectory},
                  emptiness(m_paths.productsDirectory, "product file"))
             .now("no product is offered")
-            .hint("copy the whole catalogue");
+            .hint("put the product files there");
 }
 
 void PxDirectoriesCheck::checkThemes() const
@@ -50,7 +50,7 @@ void PxDirectoriesCheck::checkThemes() const
             .add(PxTag::ThemesLost, place, message + ", but a product names a theme in %1",
                  m_namedTheme)
             .now("no theme is offered, and nothing finds the templates of that theme")
-            .hint("copy the whole catalogue");
+            .hint("put the theme files there");
 }
 
 void PxDirectoriesCheck::checkUndecodableNames() const
