@@ -100,6 +100,16 @@ QStringList PxFormat::keywordNames(PxKeywordSet set)
     return names;
 }
 
+QStringList PxFormat::mainKeywordNames(PxKeywordSet set)
+{
+    QStringList names;
+    for (const PxKeywordTableRow &row : keywords(set).keywords) {
+        if (!row.meaning.isNull())
+            names.append(row.keyword);
+    }
+    return names;
+}
+
 bool PxFormat::isKeyword(PxKeywordSet set, const QString &word)
 {
     return keywords(set).isKeyword(word);

@@ -33,6 +33,8 @@ public:
     /** The set must not be None. */
     static const PxKeywordSetRow &keywords(PxKeywordSet set);
     static QStringList keywordNames(PxKeywordSet set);
+    /** The first keyword of each meaning, without its synonyms. */
+    static QStringList mainKeywordNames(PxKeywordSet set);
     /** Whether the library accepts the word as a keyword of the set. */
     static bool isKeyword(PxKeywordSet set, const QString &word);
     /** The value that the library reads from a text. */

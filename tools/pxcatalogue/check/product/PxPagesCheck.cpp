@@ -38,7 +38,8 @@ QString hintFor(const QString &text, bool isRangeMissing)
     if (words.size() > 1 && areTypes)
         return "separate pages with commas";
     const QString name = meant(text, isRangeMissing);
-    return name.isEmpty() ? QString() : PxSpelling::didYouMean(name);
+    return name.isEmpty() ? PxSpelling::oneOf(PxFormat::mainKeywordNames(PxKeywordSet::PageType))
+                          : PxSpelling::didYouMean(name);
 }
 
 bool isCover(const PxPageEntry &entry)

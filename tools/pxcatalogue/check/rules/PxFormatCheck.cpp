@@ -165,8 +165,13 @@ QString PxFormatCheck::hintFor(const PxSourceAttribute &unknown, const Place &pl
     if (!meant.isEmpty())
         return PxSpelling::didYouMean(meant);
     const QStringList owners = ownersOf(unknown.name, place);
-    return owners.isEmpty() ? QString()
-                            : QString("it is read on %1").arg(PxMessageText::quotedList(owners));
+    if (!owners.isEmpty())
+        return QString("it is read on %1").arg(PxMessageText::quotedList(owners));
+    const QStringList names = PxFormat::attributeNames(place.row);
+    return names.isEmpty() || names.size() > PxCheckLimits::listedWords
+               ? QString()
+               : QString(names.size() == 1 ? "its only attribute is %1" : "its attributes are %1")
+                     .arg(PxMessageText::quotedList(names));
 }
 
 void PxFormatCheck::checkText(const Place &place) const
@@ -257,8 +262,11 @@ void PxFormatCheck::addUnknownElement(const Place &place, int index) const
         .hint([&] {
             if (hasPrefix)
                 return withoutPrefix(local);
-            const QString sibling = PxSpelling::hint(local, PxFormat::childNames(place.row));
-            return sibling.isEmpty() ? PxSpelling::hint(local, elementNames()) : sibling;
+            const QStringList siblings = PxFormat::childNames(place.row);
+            const QString sibling = PxSpelling::hint(local, siblings);
+            const QString near =
+                sibling.isEmpty() ? PxSpelling::hint(local, elementNames()) : sibling;
+            return near.isEmpty() && place.parent ? PxSpelling::oneOf(siblings) : near;
         });
 }
 

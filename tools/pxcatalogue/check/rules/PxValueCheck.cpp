@@ -24,19 +24,27 @@ bool isLength(const PxAttributeRow &row)
 QString integerHint(const PxAttributeRow &row, const PxSourceAttribute &attribute)
 {
     static const QRegularExpression ourHex("^0[xX][0-9a-fA-F]{1,7}$");
-    static const QRegularExpression ourMillimetres("^(-?[0-9]{1,6})(?:[.,]([0-9]))?\\s*(mm)?$");
+    static const QRegularExpression ourMillimetres("^(-?[0-9]{1,6})(?:[.,]([0-9])0*)?\\s*(mm)?$");
     const QString text = attribute.value.trimmed();
     if (text.isEmpty())
         return QString("give a number, or leave \"%1\" out").arg(attribute.name);
     if (ourHex.match(text).hasMatch())
         return PxSpelling::didYouMean(QString::number(text.toInt(nullptr, 16)));
     const QRegularExpressionMatch millimetres = ourMillimetres.match(text);
+    const QString whole = millimetres.captured(1);
+    const QString tenth = millimetres.captured(2);
+    const bool isWhole = tenth == QLatin1String("0") && millimetres.captured(3).isEmpty();
+    if (isWhole && !isLength(row))
+        return PxSpelling::didYouMean(whole);
     if (!isLength(row) || !millimetres.hasMatch())
         return QString();
-    // A fraction is one of millimetres.
-    const QString tenth = millimetres.captured(2);
+    if (isWhole)
+        return QString("write a whole number of tenths of a millimetre: \"%1\" for %2 mm, or "
+                       "\"%3\" for %1 mm?")
+            .arg(whole, QString::number(whole.toInt() / 10.0), whole + QLatin1Char('0'));
+    // Any other fraction is one of millimetres.
     return QString("lengths are in tenths of a millimetre: \"%1\" for %2")
-        .arg(millimetres.captured(1) + (tenth.isEmpty() ? "0" : tenth),
+        .arg(whole + (tenth.isEmpty() ? "0" : tenth),
              millimetres.captured(3).isEmpty() ? text + QLatin1String(" mm") : text);
 }
 
@@ -207,7 +215,12 @@ void PxValueCheck::checkUnknownKeyword(const PxSourcePart &entry, const QString 
         m_row.keywords == PxKeywordSet::Alignment ? PxTag::AlignmentUnknown : PxTag::KeywordUnknown;
     m_report.add(tag, entry.range, "\"%1\" is no %2", PxMessageText::shortened(entry.text), name)
         .now(asRead)
-        .hint([&] { return PxSpelling::hint(entry.text, PxFormat::keywordNames(m_row.keywords)); });
+        .hint([&] {
+            const QString near =
+                PxSpelling::hint(entry.text, PxFormat::keywordNames(m_row.keywords));
+            return near.isEmpty() ? PxSpelling::oneOf(PxFormat::mainKeywordNames(m_row.keywords))
+                                  : near;
+        });
 }
 
 /** An empty entry adds the default, which does harm if the default is not nothing. */

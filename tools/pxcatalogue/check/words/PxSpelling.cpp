@@ -40,6 +40,8 @@ QString PxSpelling::hint(const QString &word, const QStringList &candidates)
 
 QString PxSpelling::oneOf(const QStringList &words)
 {
+    if (words.size() == 1)
+        return didYouMean(words.constFirst());
     return words.isEmpty() || words.size() > PxCheckLimits::listedWords
                ? QString()
                : QString("it is one of %1").arg(words.join(QLatin1String(", ")));
