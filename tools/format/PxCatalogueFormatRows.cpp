@@ -12,7 +12,7 @@ constexpr PxAttributeRow productTypeAttributes[] = {
     {"code", Type::Integer, nullptr, {"number of the product type in orders; never reuse one", nullptr, nullptr, "int above 0"}, "the row is left out"},
     {"name", Type::Text, nullptr, {"product name"}, "the row is left out"},
     {"class", Type::OneKeyword, nullptr, {"`book`, `calendar`, `gift`, `card`, `deko` or `print`", nullptr, nullptr, "keyword"}, "the row is left out", Set::ProductClass},
-    {"shortname", Type::Text, "", {"display name"}, "the name"},
+    {"shortname", Type::Text, "", {"display name", "the name"}, "the name is shown"},
 };
 constexpr PxAttributeRow frameAttributes[] = {
     {"id", Type::Text, nullptr, {"identifier in orders, plain ASCII: `ue` for `ü`, `ss` for `ß`"}, "the row is left out"},

@@ -48,7 +48,7 @@ constexpr PxAttributeRow productAttributes[] = {
     {"orientation", Type::Keyword, "", {sizeSection, ""}, nullptr, Set::Orientation},
     {"space", Type::KeywordList, "", {nullptr, ""}, nullptr, Set::SizeClass},
     {"fullBackgroundOnEachPage", Type::Boolean, nullptr, {"one background covers one page rather than the spread"}, "true for calendars, gifts and cards, else false"},
-    {"coverBackgroundCategories", Type::TextList, nullptr, {"categories of backgrounds that are allowed; empty allows all"}, "\"Einfarbig\" for decoration, else empty"},
+    {"coverBackgroundCategories", Type::TextList, nullptr, {"categories of backgrounds that are allowed; empty allows all", "`Einfarbig` for decoration, else empty"}},
     {"foldmargin", Type::Length, "-1", {"strip lost in the fold, see [below](#surroundings-surroundings)"}, "computed"},
     {"legacy", Type::ProductName, "", {"name of the older product that this one replaces", nullptr, nullptr, "text"}, "none"},
 };
@@ -59,7 +59,7 @@ constexpr PxAttributeRow usableSizeAttributes[] = {
     {"space", Type::KeywordList, "", {"[size class](#size-classes), chooses layouts and type sizes"}, "\"space\" of \"product\"", Set::SizeClass},
 };
 constexpr PxAttributeRow spineAttributes[] = {
-    {"pages", Type::Integer, "0", {"page count"}, "a spine for 0 pages, and 0 becomes the smallest page count"},
+    {"pages", Type::Integer, "0", {"page count", "0: a spine for 0 pages, and 0 becomes the smallest page count"}, "the spine is for 0 pages, and 0 becomes the smallest page count"},
     {"width", Type::Length, "0", {"width of the spine"}},
     {"maxfontheight", Type::Length, "0", {"greatest height of type on the spine; not computed from the width"}},
 };
@@ -81,8 +81,8 @@ constexpr PxAttributeRow defaultsAttributes[] = {
     {"pageType", Type::KeywordList, "", {"[page types](#page-types)", "empty: no page finds the entry"}, "no page finds the entry", Set::PageType},
     {"alignment", Type::KeywordList, "left,right,top,bottom,center,middle", {"[positions](#alignments); an unknown or empty entry counts as `left`"}, nullptr, Set::Alignment},
     {"templates", Type::TextList, "", {"short form: background, then layout"}},
-    {"layout", Type::Text, nullptr, {"layout template"}, "second name of \"templates\" when it has exactly two"},
-    {"background", Type::Text, nullptr, {"background template"}, "first name of \"templates\""},
+    {"layout", Type::Text, nullptr, {"layout template", "second name of `templates` when it has exactly two"}, "the second name of \"templates\" is used when it has exactly two"},
+    {"background", Type::Text, nullptr, {"background template", "first name of `templates`"}, "the first name of \"templates\" is used"},
 };
 constexpr PxAttributeRow rotationRedirectAttributes[] = {
     {"from", Type::Integer, nullptr, {"pages; -1 is kept as it is, anything below drops the element"}, "the element is dropped"},
@@ -90,8 +90,8 @@ constexpr PxAttributeRow rotationRedirectAttributes[] = {
     {"angleinvert", Type::Integer, "1", {"handed to the editor as it is"}},
 };
 constexpr PxAttributeRow contentRedirectAttributes[] = {
-    {"from", Type::PageRange, nullptr, {"`3`, or `3-7` for pages 3 to 7"}, "dropped with a warning"},
-    {"to", Type::Integer, nullptr, {"page, 0 or more"}, "dropped with a warning"},
+    {"from", Type::PageRange, nullptr, {"`3`, or `3-7` for pages 3 to 7", "dropped with a warning"}, "the element is dropped with a warning"},
+    {"to", Type::Integer, nullptr, {"page, 0 or more", "dropped with a warning"}, "the element is dropped with a warning"},
 };
 constexpr PxAttributeRow barcodeAttributes[] = {
     {"x", Type::RectanglePart, "0", {"place on [the page](#places-on-pages)"}, "there is no barcode on that page"},
@@ -117,7 +117,7 @@ constexpr PxAttributeRow fontAttributes[] = {
 constexpr PxAttributeRow classificationAttributes[] = {
     {"cm", Type::Text, "", {"size name for display, without unit"}},
     {"inch", Type::Text, "", {}},
-    {"group", Type::OneKeyword, "", {"[material](#materials), exactly as in the table", "empty: no material", nullptr, "text"}, "no material", Set::Material},
+    {"group", Type::OneKeyword, "", {"[material](#materials), exactly as in the table", "empty: no material", nullptr, "text"}, "there is no material", Set::Material},
 };
 constexpr PxAttributeRow variantsAttributes[] = {
     {"type", Type::Text, "", {"label of the choice"}},

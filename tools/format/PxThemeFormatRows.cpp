@@ -12,7 +12,7 @@ constexpr PxAttributeRow themeAttributes[] = {
     {"id", Type::Text, "unbekannt", {"identifier, as [`defaults`](#default-templates-defaults) name it", nullptr, nullptr, "text, read as lower case"}},
     {"producttype", Type::OneKeyword, "", {"[product group](#product-groups) it belongs to", "none (0): the theme is not valid"}, "the theme is not valid", Set::ProductGroup},
     {"expiry", Type::DateTime, "197612302359", {"last moment at which it can be ordered", "30 December 1976, 23:59: always expired"}},
-    {"thumbnail", Type::Path, "", {"preview image"}, "no preview"},
+    {"thumbnail", Type::Path, "", {"preview image", "no preview"}, "there is no preview"},
 };
 constexpr PxAttributeRow spineTextAttributes[] = {
     {"use", Type::Boolean, "false", {"text is printed on the spine"}},
@@ -34,7 +34,7 @@ constexpr PxAttributeRow defaultCategoriesAttributes[] = {
 };
 constexpr PxAttributeRow logoAttributes[] = {
     {"booktype", Type::ProductName, "", {"product, not only a book"}, "the entry belongs to no product"},
-    {"filename", Type::Path, "", {"image, as a path in the resource directory"}, "a logo without image"},
+    {"filename", Type::Path, "", {"image, as a path in the resource directory", "a logo without image"}, "the logo has no image"},
     {"x", Type::RectanglePart, "0", {"where the image goes"}},
     {"y", Type::RectanglePart, "0", {}},
     {"width", Type::RectanglePart, nullptr, {}},

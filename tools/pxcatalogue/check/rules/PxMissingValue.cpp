@@ -1,6 +1,7 @@
 #include "check/rules/PxMissingValue.h"
 
 #include "check/PxCheckLimits.h"
+#include "check/words/PxMessageText.h"
 #include "format/PxFormat.h"
 
 #include <description/PxProductTypeDescription.h>
@@ -28,6 +29,13 @@ constexpr struct
      [](const Description &d) { return QString::number(d.bleedMarginCover().horizontal()); }},
     {"bleedmargincoververtical",
      [](const Description &d) { return QString::number(d.bleedMarginCover().vertical()); }},
+    {"coverBackgroundCategories",
+     [](const Description &d) {
+         QStringList names;
+         for (const PxThematicCategory &category : d.allowedBackgroundCategories())
+             names.append(PxMessageText::quoted(category.name()));
+         return names.isEmpty() ? "no limit" : names.join(QLatin1String(", "));
+     }},
     {foldMargin, [](const Description &d) { return QString::number(d.foldMargin()); }},
     {"fullBackgroundOnEachPage",
      [](const Description &d) { return QString(d.fullBackgroundOnEachPage() ? "true" : "false"); }},
@@ -65,6 +73,8 @@ QDomElement withoutLists(const QDomElement &product, const char *asked)
 QString PxMissingValue::text(const PxSourceElement &element, const PxAttributeRow &attribute)
 {
     const QString ofProduct = answer(element, attribute);
+    if (ofProduct.startsWith(QLatin1String("no ")))
+        return QString("there is %1").arg(ofProduct);
     if (!ofProduct.isEmpty())
         return QString("%1 is used").arg(ofProduct);
     const QString used = QString("%1 is used").arg(attribute.defaultText);
