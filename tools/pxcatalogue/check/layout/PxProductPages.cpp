@@ -56,15 +56,23 @@ bool PxProductPages::isPlain() const
            std::all_of(m_product.pages().read().begin(), m_product.pages().read().end(), isSingle);
 }
 
-/** Whether a book has a range of pages on both sides, and a spine is page 1. */
+/**
+ * Whether a book, and nothing else, is bound like one, has a range of pages on both sides, and a
+ * spine is page 1.
+ */
 bool PxProductPages::isInOrder() const
 {
+    constexpr auto ofBook = static_cast<PxBindingEnum>(
+        PxBindingHardcover | PxBindingSoftcover | PxBindingCromolinen | PxBindingLeather |
+        PxBindingArtificialLeather | PxBindingClamp | PxBindingBooklet | PxBindingFoil);
+    const PxBinding binding = m_product.description().binding();
     const QVector<PxPageEntry> &entries = m_product.pages().read();
     const bool hasRange = std::any_of(entries.begin(), entries.end(),
                                       [](const PxPageEntry &entry) { return entry.isRange(); });
     const PxPageEntry *spine = m_product.pages().spine();
-    const bool isBound = hasRange && !m_product.description().isSimplex();
-    return (isBound || !m_product.type().isBook()) && (!spine || spine - entries.constData() == 1);
+    const bool isSound =
+        m_product.type().isBook() ? hasRange && !binding.isSimplex() : !binding.matches(ofBook);
+    return isSound && (!spine || spine - entries.constData() == 1);
 }
 
 QVector<PxPageContext> PxProductPages::contexts() const

@@ -80,8 +80,8 @@ void PxClassCheck::addBinding(PxTag tag, const QString &ofClass, const QString &
     const PxBinding given = m_product.description().binding();
     m_report
         .add(tag, element.rangeOf(binding),
-             element.attribute(binding) ? "%1 with the binding %2" : "%1 without a binding",
-             ofClass, given.encodeCSV())
+             element.attribute(binding) ? "the binding %2 on %1" : "%1 without a binding", ofClass,
+             given.encodeCSV())
         .now(now)
         .hint(allowed == 0 ? "" : "its bindings are %1",
               PxFormat::encode(PxKeywordSet::Binding, allowed));

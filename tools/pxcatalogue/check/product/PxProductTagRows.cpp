@@ -200,7 +200,7 @@ static constexpr PxCheckTag rows[] = {
      "products/book_mini.xml",
      "width=\"72\" maxfontheight=\"»460\"",
      "width=\"72\" maxfontheight=\"46\""},
-    {PxTag::SpineWidthFalls, "spine-width-falls", PxSeverity::Warning, "a spine that is narrower than one for fewer pages",
+    {PxTag::SpineWidthFalls, "spine-width-falls", PxSeverity::Warning, "a spine whose width does not grow with the pages",
      "The library takes the width as it is and never compares it with its neighbours. More pages make a book thicker: one of the two widths, or of the two page counts, is mistyped.",
      "products/book_mini.xml",
      "width=\"»36\" maxfontheight=\"40\"",

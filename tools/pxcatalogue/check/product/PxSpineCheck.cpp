@@ -327,7 +327,8 @@ void PxSpineCheck::checkWidths() const
 {
     if (!hasWidth())
         return;
-    const PxSourceElement *narrower = nullptr;
+    auto narrower = m_spines.end();
+    int before = 0; // the width before that
     for (auto it = m_spines.begin(); it != m_spines.end(); ++it) {
         const PxSourceElement &spine = *it.value();
         const int own = widthOf(spine);
@@ -342,16 +343,31 @@ void PxSpineCheck::checkWidths() const
                      m_product.description().spineWidth(it.key()));
             continue;
         }
-        const int other = narrower ? widthOf(*narrower) : 0;
-        if (own < other && m_isComplete)
-            m_report
-                .add(PxTag::SpineWidthFalls, spine.rangeOf(width),
-                     "a spine of %1 for %2 pages, but one of %3 for fewer in %4", own, it.key(),
-                     other, m_report.place(narrower->rangeOf(width)))
-                .now("the spine for %1 pages is %2 wide", it.key(),
-                     m_product.description().spineWidth(it.key()));
-        narrower = &spine;
+        const int other = narrower == m_spines.end() ? 0 : widthOf(*narrower.value());
+        if (own < other && m_isComplete) {
+            const auto next = std::next(it);
+            const bool isOtherTooWide = before > 0 && own >= before && next != m_spines.end() &&
+                                        widthOf(*next.value()) < other;
+            if (isOtherTooWide)
+                addFall(narrower, it, "a spine of %1 for %2 pages, but one of %3 for more in %4");
+            else
+                addFall(it, narrower, "a spine of %1 for %2 pages, but one of %3 for fewer in %4");
+        }
+        before = other;
+        narrower = it;
     }
+}
+
+/** A spine that does not fit beside the other one. */
+void PxSpineCheck::addFall(Spines::const_iterator spine, Spines::const_iterator other,
+                           const char *message) const
+{
+    m_report
+        .add(PxTag::SpineWidthFalls, spine.value()->rangeOf(width), message,
+             widthOf(*spine.value()), spine.key(), widthOf(*other.value()),
+             m_report.place(other.value()->rangeOf(width)))
+        .now("the spine for %1 pages is %2 wide", spine.key(),
+             m_product.description().spineWidth(spine.key()));
 }
 
 void PxSpineCheck::checkTextHeights() const

@@ -44,6 +44,8 @@ private:
     void checkLastStep(int usual) const;
     int usualStep() const;
     void checkWidths() const;
+    void addFall(Spines::const_iterator spine, Spines::const_iterator other,
+                 const char *message) const;
     void checkTextHeights() const;
     void checkSellingPages() const;
     void checkSpinePage() const;
