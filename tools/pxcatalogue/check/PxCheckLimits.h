@@ -20,6 +20,7 @@ constexpr int listedWords = 20;               // of a table, where none is near
 constexpr int wordListLength = 1000;          // characters of a list with a wrong separator
 constexpr int guessedImages = 500;            // for products, and as many for themes
 constexpr int imagesOfDirectory = 2000;       // some file systems list names endlessly
+constexpr int foldersOfDirectory = 100;       // in which an image may lie instead
 
 // Files in directories that the library does not read.
 constexpr int filesBelow = 10000;

@@ -16,15 +16,20 @@ public:
     explicit PxImageNames(Kind kind) : m_kind(kind) {}
 
     /**
-     * Suggests a name from the directory of the missing `file`, with the same directory as `name`;
-     * empty if none is similar.
+     * Suggests a name for the missing `file`, which a catalogue calls `name`: the same with other
+     * slashes or without blanks, the same file name in another folder, the only file that begins
+     * so, or a similar one beside it. Empty if there is none.
      */
     QString hint(const QString &name, const QFileInfo &file);
 
 private:
+    QString elsewhere(const QString &base, const QString &fileName);
+    QString nearest(const QString &fileName, const QString &directory);
     QStringList namesIn(const QString &directory);
+    QStringList foldersIn(const QString &base);
 
     Kind m_kind;
-    QHash<QString, QStringList> m_names; // by directory
+    QHash<QString, QStringList> m_names;   // by directory
+    QHash<QString, QStringList> m_folders; // by directory; with slashes behind them
     int m_guessCount = 0;
 };
