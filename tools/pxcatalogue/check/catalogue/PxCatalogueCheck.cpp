@@ -6,6 +6,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -31,6 +32,12 @@ bool isFarOff(const QVector<qint64> &lengths, qint64 length, int factor)
 int usualFactor(const PxProductType &type)
 {
     return type.isGift() || type.isDeko() ? 10 : 4;
+}
+
+/** Whether the file has the name of the product, in any case. */
+bool isNamedAfter(const QString &path, const PxProductType &type)
+{
+    return QFileInfo(path).completeBaseName().compare(type.productName(), Qt::CaseInsensitive) == 0;
 }
 
 qint64 longerSide(const QSize &size)
@@ -78,9 +85,13 @@ bool PxCatalogueCheck::checkNames() const
         const Product *&first = firsts[product.type];
         if (first) {
             const bool isSameKind = first->isLegacy == product.isLegacy;
+            // The file that is named after the product is hardly the copy.
+            const bool isFirstCopy = isSameKind && isNamedAfter(product.name.path, product.type) &&
+                                     !isNamedAfter(first->name.path, product.type);
+            const Product *copy = isFirstCopy ? std::exchange(first, &product) : &product;
             m_report
                 .add(isSameKind ? PxTag::ProductNameTwice : PxTag::ProductCurrentAndLegacy,
-                     product.name, "%1 is also in %2", product.type.productName(), first->name)
+                     copy->name, "%1 is also in %2", product.type.productName(), first->name)
                 .now(isSameKind
                          ? "which of the two is used depends on the file system"
                          : "it is a current and an older product, each with its own description");

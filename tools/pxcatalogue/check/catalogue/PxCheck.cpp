@@ -86,6 +86,7 @@ PxCheck::PxCheck(const PxCheckPaths &paths, PxFindings &findings)
     , m_findings(findings)
     , m_types(!paths.productTypes.isEmpty())
     , m_themes(PxReporter(findings))
+    , m_themeProducts(PxReporter(findings))
     , m_catalogue(m_types, PxReporter(findings))
 {}
 
@@ -107,6 +108,7 @@ void PxCheck::run()
     if (m_paths.isCatalogue) {
         m_catalogue.run();
         m_themes.run();
+        m_themeProducts.run();
     }
     PxDirectoriesCheck(m_paths, m_namedTheme, PxReporter(m_findings)).run();
 }
@@ -167,6 +169,7 @@ void PxCheck::checkThemes()
         checkFiles(m_paths.themes, PxFileKind::Theme, [this](const PxCheckedFile &file) {
             m_themeCount += file.root()->children.size();
             m_themes.addFile(file);
+            m_themeProducts.addThemes(file);
             PxThemeFileCheck(*file.root(), m_types, m_themeImages, reporterFor(file)).run();
         });
     m_themeIds = PxKnownNames(isEveryRead ? m_themes.ids() : QStringList());
@@ -206,6 +209,7 @@ void PxCheck::checkProduct(const PxCheckedFile &file, bool isLegacy)
     noticeThemes(file, product.element());
     m_productNames.insert(product.element().value("name"));
     m_catalogue.addProduct(product, size.isInOtherUnit());
+    m_themeProducts.addProduct(product, size.isInOtherUnit());
 }
 
 /** Remembers where default templates in the parent first name a theme other than the default one.

@@ -2,6 +2,7 @@
 
 #include "check/catalogue/PxCatalogueCheck.h"
 #include "check/catalogue/PxCheckPaths.h"
+#include "check/catalogue/PxThemeProductsCheck.h"
 #include "check/themes/PxThemeIdCheck.h"
 #include "check/words/PxImageNames.h"
 #include "check/words/PxKnownNames.h"
@@ -47,5 +48,6 @@ private:
     PxImageNames m_images{PxImageNames::Kind::Any};
     PxImageNames m_themeImages{PxImageNames::Kind::Lower};
     PxThemeIdCheck m_themes;
+    PxThemeProductsCheck m_themeProducts;
     PxCatalogueCheck m_catalogue;
 };

@@ -8,13 +8,45 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace {
 
 const auto compactFormat = QLatin1String("yyyyMMddHHmm");
 
+/** For a day or a time that does not exist; empty if both do, or are written in another form. */
+QString impossibleTimeHint(const QString &text)
+{
+    static const QRegularExpression ourForms[] = {
+        QRegularExpression("^(?<year>\\d{4})(-?)(?<month>\\d\\d)\\2(?<day>\\d\\d)"
+                           "(?:[T ]?(?<hour>\\d\\d):?(?<minute>\\d\\d)(?::?\\d\\d)?)?$"),
+        QRegularExpression("^(?<day>\\d\\d?)\\.(?<month>\\d\\d?)\\.(?<year>\\d{4})$"),
+    };
+    for (const QRegularExpression &form : ourForms) {
+        const QRegularExpressionMatch match = form.match(text.trimmed());
+        if (!match.hasMatch())
+            continue;
+        const int month = match.captured("month").toInt();
+        const int days = QDate(match.captured("year").toInt(), month, 1).daysInMonth();
+        const int day = match.captured("day").toInt();
+        if (month < 1 || month > 12)
+            return QString("there is no month %1").arg(month);
+        if (day < 1 || day > days)
+            return QString("there is no day %1 in that month, which has %2 days")
+                .arg(day)
+                .arg(days);
+        if (match.captured("hour").toInt() > 23 || match.captured("minute").toInt() > 59)
+            return "hours go to 23, and minutes to 59";
+    }
+    return QString();
+}
+
 /** Converts forms that authors use elsewhere. */
 QString expiryHint(const QString &text)
 {
+    const QString impossible = impossibleTimeHint(text);
+    if (!impossible.isEmpty())
+        return impossible;
     const QDateTime withSeconds = QDateTime::fromString(text.trimmed(), "yyyyMMddHHmmss");
     QString meant = withSeconds.toString(compactFormat);
     for (const char *format : {"yyyyMMdd", "dd.MM.yyyy", "d.M.yyyy"}) {
@@ -52,6 +84,7 @@ PxThemeElementCheck::PxThemeElementCheck(const PxSourceElement &theme, PxListedP
     , m_report(report)
     , m_expiry(PxXMLParser::dateTimeAttribute(theme.dom, "expiry", QString()))
     , m_isExpired(m_expiry.isValid() && m_expiry < QDateTime::currentDateTime())
+    , m_products(namedProducts())
 {}
 
 void PxThemeElementCheck::run()
@@ -179,17 +212,41 @@ void PxThemeElementCheck::checkMissingProducts(const PxSourceElement *products) 
         .hint(missing.hint);
 }
 
+/** The products that the theme is for, sorted; empty for all, and if one of them is unknown. */
+PxProductTypeList PxThemeElementCheck::namedProducts() const
+{
+    PxProductTypeList types;
+    if (const PxSourceElement *products = m_theme.firstChild("products")) {
+        for (const PxSourceElement *product : products->childrenNamed("product")) {
+            const PxProductType type(product->dom.text());
+            if (!type.isValid())
+                return {};
+            types.append(type);
+        }
+    }
+    std::sort(types.begin(), types.end());
+    return types;
+}
+
 void PxThemeElementCheck::checkLogoProduct(const PxSourceElement &logo) const
 {
     constexpr const char *booktype = "booktype";
     const QString name = logo.value(booktype);
-    if (!name.trimmed().isEmpty() && !PxProductType(name.toUpper()).isValid() &&
-        !m_types.isEmpty() && !m_types.isListed(name))
+    const PxProductType type(name.toUpper());
+    if (type.isValid()) {
+        if (!m_products.isEmpty() &&
+            !std::binary_search(m_products.begin(), m_products.end(), type))
+            m_report
+                .add(PxTag::ThemeLogoNotAllowed, logo.rangeOf(booktype),
+                     "%1 is not among the products of the theme", type.productName())
+                .now("the theme is not for this product, so nobody sees the logo");
+    } else if (!name.trimmed().isEmpty() && !m_types.isEmpty() && !m_types.isListed(name)) {
         m_report
             .add(PxTag::ThemeLogoProductUnknown, logo.rangeOf(booktype),
                  "\"%1\" is no known product name", name)
             .now("the logo belongs to no product")
             .hint([&] { return m_types.hint(name); });
+    }
 }
 
 void PxThemeElementCheck::checkLogoPlace(const PxSourceElement &logo) const

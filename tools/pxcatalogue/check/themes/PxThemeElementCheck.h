@@ -5,6 +5,8 @@
 #include "check/source/PxCheckedFile.h"
 #include "check/words/PxListedProductTypes.h"
 
+#include <PxProductTypeList.h>
+
 #include <QDateTime>
 
 /** Checks one theme: when, to whom and for which products it is offered, and its logos. */
@@ -26,6 +28,7 @@ private:
                                 const QVector<const PxSourceElement *> &unknown) const;
     void checkMissingProducts(const PxSourceElement *products) const;
     void checkLogoProduct(const PxSourceElement &logo) const;
+    PxProductTypeList namedProducts() const;
     void checkLogoPlace(const PxSourceElement &logo) const;
     PxMissingPart missingChild(const PxSourceElement *child, const char *name) const;
 
@@ -34,4 +37,5 @@ private:
     const PxReporter m_report;
     QDateTime m_expiry; ///< invalid when it is missing or unreadable
     bool m_isExpired;
+    const PxProductTypeList m_products; ///< as namedProducts(), sorted
 };

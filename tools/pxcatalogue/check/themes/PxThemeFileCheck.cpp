@@ -92,21 +92,25 @@ void PxThemeFileCheck::checkThumbnail(const PxSourceElement &theme)
 
 /**
  * Relative paths start where the application runs, which is not known here: the directory where
- * most images of the file are found. If none is found anywhere, nothing is reported.
+ * most images of the file are found, but not the one of the theme file, where none runs. If no
+ * image is found anywhere, nothing is reported.
  */
 void PxThemeFileCheck::checkRelativeThumbnails()
 {
     QString best;
     int bestCount = 0;
     QSet<const PxSourceAttribute *> found;
+    QSet<const PxSourceAttribute *> beside;
+    const QString own = QFileInfo(m_report.file().path()).absolutePath();
     for (const QString &base : baseDirectories(m_report.file().path())) {
         const QDir directory(base);
+        const bool isOwn = base == own && base != QDir::currentPath();
         int count = 0;
         for (const PxSourceAttribute *name : m_relativeThumbnails) {
             const auto &result = m_images.find(directory.filePath(name->value.toLower()));
             if (result.fault.isEmpty())
-                found.insert(name);
-            if (result.isThere)
+                (isOwn ? beside : found).insert(name);
+            if (result.isThere && !isOwn)
                 ++count;
         }
         if (count > bestCount) {
@@ -115,7 +119,15 @@ void PxThemeFileCheck::checkRelativeThumbnails()
         }
     }
     for (const PxSourceAttribute *name : m_relativeThumbnails) {
-        if (bestCount > 0 && !found.contains(name))
+        if (found.contains(name))
+            continue;
+        if (beside.contains(name))
+            m_report
+                .add(PxTag::ThemeImageMissing, name->valueRange,
+                     "\"%1\" is only there beside the theme file", name->value)
+                .now("it is looked for from the directory in which the application runs")
+                .hint("write a path from there, or an absolute one");
+        else if (bestCount > 0)
             checkImage({name, QDir(best).filePath(name->value.toLower()), thumbnailNow});
     }
 }

@@ -77,8 +77,9 @@ void PxThemeIdCheck::run()
     m_report
         .add(PxTag::ThemeNoDefault, meant.isEmpty() ? m_firstRoot : m_themes.value(meant),
              "no theme has the id \"normal\"")
-        .now(factory->themeList().isEmpty()
-                 ? "there is no default theme"
+        .now(factory->themeList().isEmpty() ? "there is no default theme"
+             : m_files.size() > 1
+                 ? "the first theme is the default theme, and the file system decides which that is"
                  : QString("\"%1\", the first theme, is the default theme")
                        .arg(factory->defaultTheme().id()))
         .hint(meant.isEmpty() ? QString() : PxSpelling::didYouMean(defaultThemeId()));
