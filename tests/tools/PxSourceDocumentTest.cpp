@@ -33,6 +33,68 @@ PxSourceRange markedRange(QString *text)
     return range;
 }
 
+// clang-format off
+constexpr struct { const char *text; const char *message; } malformed[] = {
+    // Around the document element
+    {"<!-- -->\n»<?xml« version='1.0'?><r/>", "the declaration of XML is not at the beginning of the file"},
+    {"<r/>\n»x« y", "text behind the end of \"r\""},
+    {"»x« <r/>", "text before the document element"},
+    {"<r/>\n<»s«>", "\"s\" is a second document element, behind \"r\""},
+    {"<r/>»<![CDATA[«x]]>", "a CDATA section outside the document element"},
+    {"<r>»<!DOCTYPE« r></r>", "a document type behind the beginning of \"r\""},
+    {"<!DOCTYPE r>»<!DOCTYPE« r><r/>", "a second document type"},
+    {"<!DOCTYPE r »F«OO><r/>", "\"F\" is not allowed here in the document type"},
+    {"»<!«doctype r><r/>", "\"<!\" begins no comment"},
+
+    // The declaration
+    {"»<?xml«?><r/>", "the declaration of XML does not begin with a version"},
+    {"»<?xml« encoding='UTF-8'?><r/>", "the declaration of XML does not begin with a version"},
+    {"<?xml version='»2.0«'?><r/>", "the version of XML is \"2.0\", which is not known"},
+    {"<?xml version='1.0' encoding='»utf 8«'?><r/>", "\"utf 8\" is no name of an encoding"},
+    {"<?xml version='1.0' standalone='»ja«'?><r/>", "\"ja\" is neither \"yes\" nor \"no\""},
+    {"<?xml version='1.0' standalone='no' »encoding«='UTF-8'?><r/>", "the encoding must stand before \"standalone\""},
+    {"<?xml version='1.0'»>«<r/>", "\">\" is not allowed here in the declaration of XML"},
+    {"»<?XML« version='1.0'?><r/>", "\"<?XML\" is no declaration of XML"},
+
+    // In tags
+    {"<r a=»1«/>", "the value of an attribute has no quotes"},
+    {"<r a=»=«'1'/>", "a second \"=\""},
+    {"<r »a«/>", "an attribute without a value"},
+    {"<r a='1'»,« b='2'/>", "\",\" between attributes"},
+    {"<r a='1' »;«b='2'/>", "\";\" between attributes"},
+    {"<r »1«a='1'/>", "\"1\" begins no name"},
+    {"<r »\"«a\"/>", "a quote where no value begins"},
+    {"<r »a:b:«c='1'/>", "a second \":\" in a name"},
+    {"<r »/« >", "a \"/\" that does not end the tag"},
+    {"<r a='1'»\u00A0«b='2'/>", "the no-break space U+00A0 in a tag"},
+    {"<r»\u00A0«/>", "the no-break space U+00A0 in a tag"},
+    {"<r a='1'»\u200B«b='2'/>", "the character U+200B in a tag"},
+    {"<r a»\u0001«b='1'/>", "the control character U+0001"},
+    {"<r a='»\u0001«'/>", "the control character U+0001"},
+    {"<r»€«/>", "\"€\" in a name"},
+    {"<r><x a»<«/x></r>", "the tag of \"x\" has no \">\" before this"},
+    {"<r><x a=»\"«1>text</x></r>", "the quote that begins here has no end"},
+    {"<r><x a='1»<«2'/></r>", "\"<\" in the value of an attribute"},
+    {"<r></r »x«>", "the end tag has more than a name"},
+    {"<r>»</« r>", "an end tag without a name"},
+
+    // In texts and other markup
+    {"<r>a »]]>« b</r>", "\"]]>\" in a text"},
+    {"<r>a »&#0;« b</r>", "\"&#0;\" names no character"},
+    {"<r>a »&#xD800;« b</r>", "\"&#xD800;\" names no character"},
+    {"<r>a »&;« b</r>", "\"&;\" names no character"},
+    {"<r>»\u0001«</r>", "the control character U+0001"},
+    {"<r>»\uFFFF«</r>", "the character U+FFFF"},
+    {"<r>»<!«- a --></r>", "\"<!\" begins no comment"},
+    {"<r>»<?« x?></r>", "\"<?\" without a name"},
+
+    {"<r>\r»<<<<<<<« mine\r<x/>\r=======\r<y/>\r>>>>>>> theirs\r</r>", "a line that marks a conflict of two versions of the file"},
+    {"<r\n a='1'\n»=======«\n b='2'/>", "a line that marks a conflict of two versions of the file"},
+    {"<r/>\n»>>>>>>>« theirs", "a line that marks a conflict of two versions of the file"},
+    {"<r><!--\n=======\n »--« --></r>", "\"--\" within a comment"},
+};
+// clang-format on
+
 } // namespace
 
 void PxSourceDocumentTest::findsValues_data()
@@ -82,9 +144,6 @@ void PxSourceDocumentTest::findsFaults_data()
     const auto row = [](const char *text, Fault fault, const char *message) {
         QTest::newRow(text) << QString::fromUtf8(text) << int(fault) << QString::fromUtf8(message);
     };
-    const auto broken = [&](const char *text, const char *message) {
-        row(text, Fault::NotWellFormed, message);
-    };
     row("<r/>", Fault::None, "");
     row("<r><x ü='1' »ü«='2'/></r>", Fault::AttributeTwice, "attribute \"ü\" is given twice");
     row("<r>\n<x a='&amp;»&uuml;«'/></r>", Fault::EntityUndeclared, "the entity \"&uuml;\" is not defined");
@@ -98,66 +157,9 @@ void PxSourceDocumentTest::findsFaults_data()
     row("»«", Fault::EndMissing, "the file is empty");
     row("»«\n \n", Fault::EndMissing, "the file has nothing but blanks");
     row("<!-- -->»«", Fault::EndMissing, "the file ends before its first element");
-
-    // Around the document element
-    broken("<!-- -->\n»<?xml« version='1.0'?><r/>", "the declaration of XML is not at the beginning of the file");
-    broken("<r/>\n»x« y", "text behind the end of \"r\"");
-    broken("»x« <r/>", "text before the document element");
-    broken("<r/>\n<»s«>", "\"s\" is a second document element, behind \"r\"");
-    broken("<r/>»<![CDATA[«x]]>", "a CDATA section outside the document element");
-    broken("<r>»<!DOCTYPE« r></r>", "a document type behind the beginning of \"r\"");
-    broken("<!DOCTYPE r>»<!DOCTYPE« r><r/>", "a second document type");
-    broken("<!DOCTYPE r »F«OO><r/>", "\"F\" is not allowed here in the document type");
-    broken("»<!«doctype r><r/>", "\"<!\" begins no comment");
-
-    // The declaration
-    broken("»<?xml«?><r/>", "the declaration of XML does not begin with a version");
-    broken("»<?xml« encoding='UTF-8'?><r/>", "the declaration of XML does not begin with a version");
-    broken("<?xml version='»2.0«'?><r/>", "the version of XML is \"2.0\", which is not known");
-    broken("<?xml version='1.0' encoding='»utf 8«'?><r/>", "\"utf 8\" is no name of an encoding");
-    broken("<?xml version='1.0' standalone='»ja«'?><r/>", "\"ja\" is neither \"yes\" nor \"no\"");
-    broken("<?xml version='1.0' standalone='no' »encoding«='UTF-8'?><r/>", "the encoding must stand before \"standalone\"");
-    broken("<?xml version='1.0'»>«<r/>", "\">\" is not allowed here in the declaration of XML");
-    broken("»<?XML« version='1.0'?><r/>", "\"<?XML\" is no declaration of XML");
-
-    // In tags
-    broken("<r a=»1«/>", "the value of an attribute has no quotes");
-    broken("<r a=»=«'1'/>", "a second \"=\"");
-    broken("<r »a«/>", "an attribute without a value");
-    broken("<r a='1'»,« b='2'/>", "\",\" between attributes");
-    broken("<r a='1' »;«b='2'/>", "\";\" between attributes");
-    broken("<r »1«a='1'/>", "\"1\" begins no name");
-    broken("<r »\"«a\"/>", "a quote where no value begins");
-    broken("<r »a:b:«c='1'/>", "a second \":\" in a name");
-    broken("<r »/« >", "a \"/\" that does not end the tag");
-    broken("<r a='1'»\u00A0«b='2'/>", "the no-break space U+00A0 in a tag");
-    broken("<r»\u00A0«/>", "the no-break space U+00A0 in a tag");
-    broken("<r a='1'»\u200B«b='2'/>", "the character U+200B in a tag");
-    broken("<r a»\u0001«b='1'/>", "the control character U+0001");
-    broken("<r a='»\u0001«'/>", "the control character U+0001");
-    broken("<r»€«/>", "\"€\" in a name");
-    broken("<r><x a»<«/x></r>", "the tag of \"x\" has no \">\" before this");
-    broken("<r><x a=»\"«1>text</x></r>", "the quote that begins here has no end");
-    broken("<r><x a='1»<«2'/></r>", "\"<\" in the value of an attribute");
-    broken("<r></r »x«>", "the end tag has more than a name");
-    broken("<r>»</« r>", "an end tag without a name");
-
-    // In texts and other markup
-    broken("<r>a »]]>« b</r>", "\"]]>\" in a text");
-    broken("<r>a »&#0;« b</r>", "\"&#0;\" names no character");
-    broken("<r>a »&#xD800;« b</r>", "\"&#xD800;\" names no character");
-    broken("<r>a »&;« b</r>", "\"&;\" names no character");
-    broken("<r>»\u0001«</r>", "the control character U+0001");
-    broken("<r>»\uFFFF«</r>", "the character U+FFFF");
-    broken("<r>»<!«- a --></r>", "\"<!\" begins no comment");
-    broken("<r>»<?« x?></r>", "\"<?\" without a name");
-
-    const char *conflict = "a line that marks a conflict of two versions of the file";
-    broken("<r>\r»<<<<<<<« mine\r<x/>\r=======\r<y/>\r>>>>>>> theirs\r</r>", conflict);
-    broken("<r\n a='1'\n»=======«\n b='2'/>", conflict);
-    broken("<r/>\n»>>>>>>>« theirs", conflict);
-    broken("<r><!--\n=======\n »--« --></r>", "\"--\" within a comment");
     // clang-format on
+    for (const auto &fault : malformed)
+        row(fault.text, Fault::NotWellFormed, fault.message);
 }
 
 void PxSourceDocumentTest::findsFaults()
