@@ -84,7 +84,7 @@ QString plainText(const QJsonValue &value)
     case QJsonValue::Bool:
         return value.toBool() ? "yes" : "no";
     case QJsonValue::Double:
-        return QString::number(value.toDouble());
+        return QString::number(value.toDouble(), 'f', 0);
     case QJsonValue::Array: {
         QStringList parts;
         for (const auto &part : value.toArray())
