@@ -55,13 +55,14 @@ void PxSpineCheck::run()
 /** Whether the table may be used: only a book has the page counts that it lists. */
 bool PxSpineCheck::checkClass() const
 {
+    if (!m_table)
+        return true;
     const PxPageEntries &pages = m_product.pages();
     const QList<int> offered = m_product.description().offeredPageCounts();
     if (m_product.type().isBook() || !m_product.type().isValid() || offered.isEmpty() ||
         (pages.isGiven() && !pages.isSound()))
         return true;
-    const auto spines =
-        m_table ? m_table->childrenNamed("spine") : QVector<const PxSourceElement *>();
+    const auto spines = m_table->childrenNamed("spine");
     const auto isForProduct = [&](const PxSourceElement *spine) {
         return spine->number(pagesName) == offered.constFirst();
     };
@@ -410,13 +411,13 @@ void PxSpineCheck::checkSpinePage() const
     const bool isBookWithoutTable = m_product.type().isBook() && m_rowCount == 0;
     if (m_product.pages().spine() && !hasWidth() && !isBookWithoutTable && isEveryWidthReadable())
         addPageWithoutTable(*m_product.pages().spine());
-    if (m_product.pages().isGiven() && m_product.pages().isSound() &&
+    if (m_table && m_product.pages().isGiven() && m_product.pages().isSound() &&
         !m_product.description().hasSpine() && hasWidth())
-        addWithoutPage();
+        addWithoutPage(*m_table);
 }
 
 /** A book of any other binding may well have a table with widths, and no spine to print on. */
-void PxSpineCheck::addWithoutPage() const
+void PxSpineCheck::addWithoutPage(const PxSourceElement &table) const
 {
     constexpr auto bound =
         static_cast<PxBindingEnum>(PxBindingHardcover | PxBindingSoftcover | PxBindingCromolinen |
@@ -425,7 +426,7 @@ void PxSpineCheck::addWithoutPage() const
         m_product.type().isBook() && m_product.description().binding().matches(bound);
     m_report
         .add(isBound ? PxTag::PagesSpineMissing : PxTag::SpineWithoutPage,
-             isBound ? m_product.pages().read().constFirst().range : m_table->nameRange,
+             isBound ? m_product.pages().read().constFirst().range : table.nameRange,
              "spines with a width, but \"pages\" lists no spine")
         .now("the product has no spine; a cover half is %1 wide",
              m_product.description().coverSize().width())

@@ -49,7 +49,7 @@ private:
     void checkTextHeights() const;
     void checkSellingPages() const;
     void checkSpinePage() const;
-    void addWithoutPage() const;
+    void addWithoutPage(const PxSourceElement &table) const;
     bool isEveryWidthReadable() const;
     void addPageWithoutTable(const PxPageEntry &spinePage) const;
     bool hasWidth() const;
