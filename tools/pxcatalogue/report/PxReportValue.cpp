@@ -7,7 +7,16 @@
 #include <QRect>
 #include <QStringList>
 
+#include <cmath>
+
 namespace {
+
+/** A ratio with six digits, but of a whole number all of them. */
+QString numberText(double number)
+{
+    return std::floor(number) == number ? QString::number(number, 'f', 0)
+                                        : QString::number(number);
+}
 
 QString lengthText(const QJsonValue &tenths)
 {
@@ -84,7 +93,7 @@ QString plainText(const QJsonValue &value)
     case QJsonValue::Bool:
         return value.toBool() ? "yes" : "no";
     case QJsonValue::Double:
-        return QString::number(value.toDouble(), 'f', 0);
+        return numberText(value.toDouble());
     case QJsonValue::Array: {
         QStringList parts;
         for (const auto &part : value.toArray())
