@@ -157,7 +157,8 @@ void PxDefaultsCheck::checkSeparators(const PxDefaultsEntry &entry) const
                 .add(PxTag::NameListSeparator, part.range, "\"%1\" is one name, with a semicolon",
                      PxMessageText::shortened(part.text.trimmed()))
                 .now([&] { return templatesText(entry.templates()); })
-                .hint(PxSpelling::separated(part.text));
+                .hint(PxSpelling::separated(part.text))
+                .replacement(PxSpelling::withCommas(part.text));
     }
 }
 

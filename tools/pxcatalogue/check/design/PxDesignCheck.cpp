@@ -128,7 +128,8 @@ void PxDesignCheck::checkBackgroundCategories() const
                 .add(PxTag::CategoryBlank, part.whole,
                      "the category \"%1\" has a blank at its edge", part.text)
                 .now("no background is of this category")
-                .hint(name.isEmpty() ? QString() : PxSpelling::didYouMean(name));
+                .hint(name.isEmpty() ? QString() : PxSpelling::didYouMean(name))
+                .replacement(name.isEmpty() ? QString() : name);
             continue;
         }
         if (name.contains(QLatin1Char(';'))) {
@@ -136,7 +137,8 @@ void PxDesignCheck::checkBackgroundCategories() const
                 .add(PxTag::NameListSeparator, part.range, "\"%1\" is one name, with a semicolon",
                      PxMessageText::shortened(name))
                 .now("no background is of this category")
-                .hint(PxSpelling::separated(name));
+                .hint(PxSpelling::separated(name))
+                .replacement(PxSpelling::withCommas(name));
             continue;
         }
         const QString first = known.value(name.toCaseFolded(), name);
@@ -193,7 +195,8 @@ void PxDesignCheck::checkUnit(const PxSourceElement &classification, const char 
              m_product.description().classification().sizeNameWithUnit(isMetric))
         .hint(isOwnUnit  ? PxSpelling::didYouMean(QString(size).remove(ourUnits))
               : isMetric ? "write the size in centimetres, without a unit"
-                         : "write the size in inches, without a unit");
+                         : "write the size in inches, without a unit")
+        .replacement(isOwnUnit ? QString(size).remove(ourUnits) : QString());
 }
 
 void PxDesignCheck::checkMaterial(const PxSourceElement &classification) const

@@ -36,11 +36,14 @@ public:
     {
         return set(&PxFinding::hint, text, arguments...);
     }
-    /** What to put in place of what is there. A null text if that is not certain. */
+    /** What to put in place of what is there, before it is escaped. Null if not certain. */
     template <typename Text>
     PxAddedFinding &replacement(const Text &text)
     {
-        return set(&PxFinding::replacement, text);
+        set(&PxFinding::replacement, text);
+        if (m_finding && !m_finding->replacement.isNull())
+            m_finding->replacement = m_finding->replacement.toHtmlEscaped();
+        return *this;
     }
 
 private:

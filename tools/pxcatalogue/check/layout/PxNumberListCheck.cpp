@@ -42,15 +42,20 @@ int countNumbers(const QString &list)
 }
 
 /** A hint for numbers with another separator than the comma. */
-QString separatorHint(const QString &part)
+QString separated(const QString &part)
 {
     const QStringList words = PxSpelling::words(part);
     const bool areNumbers = std::all_of(
         words.begin(), words.end(), [](const QString &word) { return !pxIntList(word).isEmpty(); });
-    return words.size() > 1 && areNumbers
-               ? QString("separate with commas: \"%1\"")
-                     .arg(PxMessageText::shortened(words.join(QLatin1Char(','))))
-               : QString();
+    return words.size() > 1 && areNumbers ? words.join(QLatin1Char(',')) : QString();
+}
+
+QString separatorHint(const QString &part)
+{
+    const QString numbers = separated(part);
+    return numbers.isEmpty()
+               ? QString()
+               : QString("separate with commas: \"%1\"").arg(PxMessageText::shortened(numbers));
 }
 
 } // namespace
@@ -94,7 +99,8 @@ bool PxNumberListCheck::checkParts(const PxSourceElement &list) const
                  text.isEmpty() ? "part %2 of \"%3\" is empty" : "\"%1\" is no whole number", text,
                  i + 1, list.name)
             .now(now)
-            .hint([&] { return separatorHint(text); });
+            .hint([&] { return separatorHint(text); })
+            .replacement([&] { return separated(text); });
     }
     return isSound;
 }

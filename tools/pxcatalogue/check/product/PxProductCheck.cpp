@@ -54,7 +54,8 @@ void PxProductCheck::checkName() const
             .add(PxTag::ProductNameBlank, element.rangeOf(attribute),
                  "the name \"%1\" has a blank at its edge", name)
             .now("the user's default templates are looked for in \"%1.xml\"", name)
-            .hint(PxSpelling::didYouMean(name.trimmed()));
+            .hint(PxSpelling::didYouMean(name.trimmed()))
+            .replacement(name.trimmed());
 }
 
 void PxProductCheck::checkNameOfFile() const

@@ -53,15 +53,19 @@ QString PxSpelling::hintOrAll(const QString &word, const QStringList &candidates
     return near.isEmpty() ? oneOf(candidates) : near;
 }
 
-QString PxSpelling::separated(const QString &names)
+QString PxSpelling::withCommas(const QString &names)
 {
-    if (!names.contains(QLatin1Char(';')))
-        return QString();
     QStringList all = names.split(QLatin1Char(';'));
     for (QString &name : all)
         name = name.trimmed();
-    return QString("separate with commas: \"%1\"")
-        .arg(PxMessageText::shortened(all.join(QLatin1Char(','))));
+    return all.join(QLatin1Char(','));
+}
+
+QString PxSpelling::separated(const QString &names)
+{
+    return names.contains(QLatin1Char(';')) ? QString("separate with commas: \"%1\"")
+                                                  .arg(PxMessageText::shortened(withCommas(names)))
+                                            : QString();
 }
 
 QStringList PxSpelling::nearestThree(const QString &word, const QStringList &candidates)

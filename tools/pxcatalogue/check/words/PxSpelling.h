@@ -14,6 +14,8 @@ public:
     static QString oneOf(const QStringList &words);
     /** The question; if none of the candidates is similar, all of them. */
     static QString hintOrAll(const QString &word, const QStringList &candidates);
+    /** Names between semicolons, between commas and without blanks at their edges. */
+    static QString withCommas(const QString &names);
     /** Names with semicolons between them, as the list that is meant. */
     static QString separated(const QString &names);
     /**
