@@ -217,6 +217,7 @@ void PxXMLLoaderTest::refusesMalformedTextAndKeepsTheLimits_data()
         {"line break in what is told", "<!DOCTYPE a PUBLIC \"x\n{y}\" \"s\"><a/>", "2:4: x {y} is an invalid PUBLIC identifier."},
         {"another encoding than the mark", "\xEF\xBB\xBF" + latin + "<a/>", "1:31: the text is UTF-8, but declares the encoding \"latin1\"", Encoding},
         {"UTF-16 with another declaration", QTextCodec::codecForName("UTF-16LE")->fromUnicode(QChar(QChar::ByteOrderMark) + QString("<?xml version='1.0' encoding='UTF-8'?><a/>")), "1:1: the text is UTF-16LE, but declares the encoding \"UTF-8\"", Encoding, "UTF-16LE"},
+        {"wider than it is", "<?xml version='1.0' encoding='utf-16'?><a/>", "1:31: the file declares the encoding \"utf-16\", but is not in it", Encoding, ""},
         {"unknown encoding", "<?xml version='1.0' encoding='klingon'?><a/>", "1:31: the file declares the encoding \"klingon\", which is not known", Encoding, ""},
         {"empty", "", "1:1: Premature end of document."},
         {"cut off", "<a>\n<b>", "2:3: Premature end of document."},

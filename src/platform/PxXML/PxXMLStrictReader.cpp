@@ -72,6 +72,12 @@ bool isDeclared(const QTextCodec &codec, const QString &declared)
 PxXMLFault PxXMLStrictReader::read()
 {
     const QTextCodec *codec = PxXMLEncoding::codecOf(m_bytes);
+    // A declaration that can be read byte by byte is not in an encoding of wider characters.
+    if (codec && PxXMLEncoding::declared(m_bytes).hasMatch() &&
+        (codec->name().startsWith("UTF-16") || codec->name().startsWith("UTF-32")))
+        return faultAtEncoding(
+            m_bytes, QStringLiteral("the file declares the encoding \"%1\", but is not in it")
+                         .arg(PxXMLEncoding::declared(m_bytes).captured(1)));
     if (!codec)
         return faultAtEncoding(
             m_bytes, QStringLiteral("the file declares the encoding \"%1\", which is not known")

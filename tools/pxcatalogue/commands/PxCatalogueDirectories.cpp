@@ -75,6 +75,18 @@ std::optional<PxProblem> findFiles(bool needsProducts, const QString &remedy)
     return std::nullopt;
 }
 
+/** Unlike an application, a check needs all the directories that it shall check. */
+std::optional<PxProblem> problemOfEnvironment()
+{
+    const QStringList directories =
+        qEnvironmentVariable("PX_RESOURCE_DIRS").split(QDir::listSeparator(), Qt::SkipEmptyParts);
+    for (const QString &directory : directories) {
+        if (const auto problem = PxCatalogueDirectories::problemOf(directory))
+            return PxProblem{"PX_RESOURCE_DIRS: " + problem->text};
+    }
+    return std::nullopt;
+}
+
 /** Whether at least one part of a catalogue is there. */
 bool isPartOfCatalogue()
 {
@@ -184,7 +196,15 @@ std::optional<PxProblem> PxCatalogueDirectories::applyForCheck(const PxCommandLi
 {
     const QStringList paths = line.arguments();
     const bool areFiles = !paths.isEmpty() && !isDirectory(paths.constFirst());
-    const auto problem = useGivenOnes(line, paths);
+    auto problem = useGivenOnes(line, paths);
+    if (!problem && paths.isEmpty() && !line.isSet("resources"))
+        problem = problemOfEnvironment();
+    const QDir above = QFileInfo(paths.value(0)).absoluteDir();
+    if (!problem && !paths.isEmpty() && !areFiles && !isPartOfCatalogue() &&
+        above.exists("producttypes.xml"))
+        problem = PxProblem{QString("\"%1\" is a part of the catalogue \"%2\": check that, or "
+                                    "single files")
+                                .arg(paths.constFirst(), above.path())};
     if (!problem && !areFiles && isPartOfCatalogue())
         return std::nullopt; // the check itself reports what is missing
     // A directory that is named as PATH is the resource directory already.

@@ -107,6 +107,7 @@ enum class PxTag {
     SurroundingEmpty,
     SurroundingOutside,
     SurroundingUnreachable,
+    TextDecodedTwice,
     TextNotRead,
     ThemeDescriptionMissing,
     ThemeExpiryDay,

@@ -11,6 +11,7 @@ public:
     void run();
 
 private:
+    void checkLetters();
     void checkMarkup();
 
     const PxReporter m_report;

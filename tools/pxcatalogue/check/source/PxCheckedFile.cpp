@@ -40,8 +40,10 @@ void PxCheckedFile::readSource()
     QFile file(m_path);
     // If the library gives up without a place, the file has no text, or too much.
     if ((isRead() || m_fault.line > 0) && file.open(QIODevice::ReadOnly)) {
-        if (const QTextCodec *codec = QTextCodec::codecForName(m_fault.encoding.toLatin1()))
-            text = codec->toUnicode(file.read(file.size()));
+        const QTextCodec *codec = QTextCodec::codecForName(m_fault.encoding.toLatin1());
+        const QByteArray bytes = file.read(file.size());
+        // Of a file whose encoding nobody knows, at least the declaration can be shown.
+        text = codec ? codec->toUnicode(bytes) : QString::fromUtf8(bytes);
         if (text.startsWith(QChar::ByteOrderMark))
             text.remove(0, 1);
         // Reading on after the fault could take very long if it is an exceeded limit.

@@ -169,7 +169,11 @@ bool PxParserWords::findForbidden(const QString &text)
 {
     if (text.isEmpty() || !isForbidden(text.back()))
         return false;
-    set({text.size() - 1, text.size()}, nameOf(text.back()), "XML does not allow it: take it out");
+    const bool isZero = text.back().isNull();
+    set({text.size() - 1, text.size()},
+        isZero ? "the control character U+0000" : nameOf(text.back()),
+        isZero ? "the file was damaged when it was copied or saved: take it out"
+               : "XML does not allow it: take it out");
     return true;
 }
 
