@@ -101,6 +101,7 @@ enum class PxTag {
     SpineTableShort,
     SpineTextTooHigh,
     SpineWidthFalls,
+    SpineWidthJumps,
     SpineWidthMissing,
     SpineWithoutPage,
     SpinesNotUsed,

@@ -41,7 +41,8 @@ bool PxProductPages::isPlain() const
 {
     const PxSourceElement &element = m_product.element();
     const PxElementReading reading(element);
-    bool isPlain = m_product.pages().isGiven() && m_product.type().isValid();
+    bool isPlain = m_product.pages().isGiven() && m_product.type().isValid() &&
+                   !m_product.isPageRangeMissing();
     // The page count of a calendar follows from its binding.
     constexpr auto ofCalendar =
         static_cast<PxBindingEnum>(PxBindingCalendarSimplex | PxBindingCalendarDuplex |
@@ -57,8 +58,8 @@ bool PxProductPages::isPlain() const
 }
 
 /**
- * Whether a book, and nothing else, is bound like one, has a range of pages on both sides, and a
- * spine is page 1.
+ * Whether a book, and nothing else, is bound like one, has pages on both sides, and a spine is
+ * page 1.
  */
 bool PxProductPages::isInOrder() const
 {
@@ -66,13 +67,10 @@ bool PxProductPages::isInOrder() const
         PxBindingHardcover | PxBindingSoftcover | PxBindingCromolinen | PxBindingLeather |
         PxBindingArtificialLeather | PxBindingClamp | PxBindingBooklet | PxBindingFoil);
     const PxBinding binding = m_product.description().binding();
-    const QVector<PxPageEntry> &entries = m_product.pages().read();
-    const bool hasRange = std::any_of(entries.begin(), entries.end(),
-                                      [](const PxPageEntry &entry) { return entry.isRange(); });
     const PxPageEntry *spine = m_product.pages().spine();
     const bool isSound =
-        m_product.type().isBook() ? hasRange && !binding.isSimplex() : !binding.matches(ofBook);
-    return isSound && (!spine || spine - entries.constData() == 1);
+        m_product.type().isBook() ? !binding.isSimplex() : !binding.matches(ofBook);
+    return isSound && (!spine || spine - m_product.pages().read().constData() == 1);
 }
 
 QVector<PxPageContext> PxProductPages::contexts() const

@@ -1,6 +1,7 @@
 #include "check/product/PxClassCheck.h"
 
 #include "check/rules/PxElementReading.h"
+#include "check/words/PxMessageText.h"
 #include "format/PxFormat.h"
 
 #include <algorithm>
@@ -27,11 +28,6 @@ bool isMonthCalendar(const PxPageEntry &entry)
     constexpr auto months =
         static_cast<PxPageTypeEnum>(PxPageTypeSimplexMonthCalendar | PxPageTypeDuplexMonthCalendar);
     return entry.type.matches(months);
-}
-
-QString pagesText(int count)
-{
-    return count == 1 ? "1 page" : QString("%1 pages").arg(count);
 }
 
 } // namespace
@@ -78,12 +74,16 @@ void PxClassCheck::addBinding(PxTag tag, const QString &ofClass, const QString &
 {
     const PxSourceElement &element = m_product.element();
     const PxBinding given = m_product.description().binding();
+    const bool isCalendar = m_product.type().isBook() && m_product.isLikeCalendar();
     m_report
         .add(tag, element.rangeOf(binding),
              element.attribute(binding) ? "the binding %2 on %1" : "%1 without a binding", ofClass,
              given.encodeCSV())
         .now(now)
-        .hint(allowed == 0 ? "" : "its bindings are %1",
+        .hint(allowed == 0 ? ""
+              : isCalendar
+                  ? "give the product type the class \"calendar\"; the bindings of a book are %1"
+                  : "its bindings are %1",
               PxFormat::encode(PxKeywordSet::Binding, allowed));
 }
 
@@ -113,7 +113,10 @@ void PxClassCheck::checkPageCount() const
             !reading.isMisspelt(binding))
             addIgnored("\"numOfNormalPages\" is %1 for a calendar",
                        QString("its binding gives it %1")
-                           .arg(pagesText(description.binding().calendarPageCount())));
+                           .arg(PxMessageText::pages(description.binding().calendarPageCount())));
+        else if (reading.isReadable(binding) && !m_product.isPageRangeMissing() &&
+                 !isInList(pageCount))
+            addOtherThanList();
         break;
     case PxProductClassPrint:
         if (pageCount != 1)
@@ -121,16 +124,26 @@ void PxClassCheck::checkPageCount() const
         break;
     default:
         if (!isInList(pageCount))
-            addIgnored("\"numOfNormalPages\" is %1, but \"pages\" lists another number",
-                       QString("its page count is %1, and it has %2")
-                           .arg(pageCount)
-                           .arg(pagesText(description.pageTypes(pageCount).size())));
+            addOtherThanList();
     }
 }
 
-void PxClassCheck::addIgnored(const char *message, const QString &now) const
+void PxClassCheck::addOtherThanList() const
 {
-    m_report
+    const PxProductTypeDescription &description = m_product.description();
+    const int pageCount = description.explicitNumberOfNormalPages();
+    PxAddedFinding finding =
+        addIgnored("\"numOfNormalPages\" is %1, but \"pages\" lists another number",
+                   QString("its page count is %1, and it has %2")
+                       .arg(pageCount)
+                       .arg(PxMessageText::pages(description.pageTypes(pageCount).size())));
+    if (m_product.isPageRangeMissing() && m_product.pages().normalCount() > 0)
+        finding.hint("write \"normalpages\" for \"normalpage\" in the list of pages");
+}
+
+PxAddedFinding PxClassCheck::addIgnored(const char *message, const QString &now) const
+{
+    return m_report
         .add(PxTag::PageCountIgnored, m_product.element().rangeOf(normalPages), message,
              m_product.description().explicitNumberOfNormalPages())
         .now(now);
@@ -142,16 +155,14 @@ bool PxClassCheck::isInList(int pageCount) const
     const QVector<PxPageEntry> &pages = m_product.pages().read();
     if (!m_product.pages().isGiven() || !m_product.pages().isSound())
         return true; // which has been reported
-    const auto normalCount =
-        std::count_if(pages.begin(), pages.end(), [](const PxPageEntry &entry) {
-            return entry.type.matches(PxPageTypeNormalPage);
-        });
+    const qint64 normalCount = m_product.pages().normalCount();
     const bool isRange = std::any_of(pages.begin(), pages.end(),
                                      [](const PxPageEntry &entry) { return entry.isRange(); });
     // The list may be that of a single piece.
-    const qint64 ofAllPieces =
-        qint64(normalCount) * m_product.description().explicitNumberOfProducts();
-    return isRange || pageCount == normalCount || pageCount == pages.size() ||
+    const qint64 ofAllPieces = normalCount * m_product.description().explicitNumberOfProducts();
+    // A calendar may have a normal page as its front.
+    const bool hasFront = m_product.type().isCalendar() && pageCount + 1 == pages.size();
+    return isRange || hasFront || pageCount == normalCount || pageCount == pages.size() ||
            pageCount == ofAllPieces;
 }
 
@@ -168,7 +179,7 @@ void PxClassCheck::checkPieces() const
     m_report
         .add(PxTag::PiecesUneven, m_product.element().rangeOf(pieces),
              "%1 pieces share %2 normal pages", count, pageCount)
-        .now("a piece has %1, and %2 more belong to none", pagesText(pageCount / count),
+        .now("a piece has %1, and %2 more belong to none", PxMessageText::pages(pageCount / count),
              pageCount % count)
         .hint("\"numOfNormalPages\" counts the pages of all pieces together");
 }
@@ -186,7 +197,7 @@ void PxClassCheck::checkSellingPages() const
         m_report
             .add(PxTag::SellingPagesNotOffered, m_product.element().rangeOf(sellingPages),
                  "%1 is no page count of this product", pageCount)
-            .now("a new one is asked for with %1, and it is sold with %2", pagesText(pageCount),
-                 pagesText(offered.constFirst()))
+            .now("a new one is asked for with %1, and it is sold with %2",
+                 PxMessageText::pages(pageCount), PxMessageText::pages(offered.constFirst()))
             .hint("leave it out: only books are sold with several page counts");
 }

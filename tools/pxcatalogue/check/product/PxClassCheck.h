@@ -19,7 +19,8 @@ private:
     bool checkBinding() const;
     void addBinding(PxTag tag, const QString &ofClass, const QString &now, int allowed) const;
     void checkPageCount() const;
-    void addIgnored(const char *message, const QString &now) const;
+    void addOtherThanList() const;
+    PxAddedFinding addIgnored(const char *message, const QString &now) const;
     bool isInList(int pageCount) const;
     void checkPieces() const;
     void checkSellingPages() const;

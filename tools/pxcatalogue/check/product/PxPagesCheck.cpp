@@ -2,6 +2,7 @@
 
 #include "check/rules/PxElementReading.h"
 #include "check/words/PxEditDistance.h"
+#include "check/words/PxMessageText.h"
 #include "check/words/PxSpelling.h"
 #include "format/PxFormat.h"
 
@@ -92,19 +93,13 @@ QString PxPagesCheck::nowWithout(const PxPageEntry &entry) const
 {
     if (!m_product.pages().hasPage())
         return nowWithoutPages();
-    if (isRangeMissing())
-        return QString("it is left out, and the book has %1 pages, whatever page count is ordered")
-            .arg(m_product.description().pageTypes(1).size());
+    if (m_product.isPageRangeMissing())
+        return QString("it is left out, and the %1 has %2, whatever page count is ordered")
+            .arg(m_product.type().isBook() ? "book" : "product",
+                 PxMessageText::pages(m_product.description().pageTypes(1).size()));
     const bool isLast = std::all_of(&entry + 1, m_product.pages().read().end(),
                                     [](const PxPageEntry &next) { return next.type.isNull(); });
     return isLast ? "it is left out" : "it is left out, and the pages behind it move up";
-}
-
-bool PxPagesCheck::isRangeMissing() const
-{
-    return m_product.type().isBook() &&
-           std::none_of(m_product.pages().read().begin(), m_product.pages().read().end(),
-                        [](const PxPageEntry &entry) { return entry.isRange(); });
 }
 
 bool PxPagesCheck::hasSeveralPages() const
@@ -143,7 +138,7 @@ void PxPagesCheck::checkEntry(const PxPageEntry &entry) const
     } else if (entry.type.isNull()) {
         m_report.add(PxTag::PagesEntryUnknown, entry.range, "\"%1\" is no type of page", entry.text)
             .now([&] { return nowWithout(entry); })
-            .hint([&] { return hintFor(entry.text, isRangeMissing()); });
+            .hint([&] { return hintFor(entry.text, m_product.isPageRangeMissing()); });
     } else if (entry.isUnion()) {
         m_report
             .add(PxTag::PageTypeUnion, entry.range, "\"%1\" is several types of page at once",
@@ -184,13 +179,37 @@ void PxPagesCheck::checkSpinePosition() const
     }
 }
 
+/** That of gifts and cards is compared with the number of pages that they are given. */
 void PxPagesCheck::checkRange() const
 {
-    if (!isRangeMissing())
+    if (!m_product.isPageRangeMissing())
         return;
+    const QVector<PxPageEntry> &pages = m_product.pages().read();
+    if (m_product.type().isBook())
+        m_report
+            .add(PxTag::PagesRangeMissing, pages.constFirst().range,
+                 "a book whose list of pages has no \"normalpages\"")
+            .now("it has %1 pages, whatever page count is ordered", pages.size())
+            .hint("write \"normalpages\" where the pages of the book are");
+    else if (m_product.type().isCalendar())
+        addShortCalendar();
+}
+
+void PxPagesCheck::addShortCalendar() const
+{
+    const QVector<PxPageEntry> &pages = m_product.pages().read();
+    const auto normal = std::find_if(pages.begin(), pages.end(), [](const PxPageEntry &entry) {
+        return entry.type.hasValue(PxPageTypeNormalPage);
+    });
+    const PxBinding binding = m_product.description().binding();
+    const char *range = binding.matches(PxBindingCalendarSimplex)  ? "simplexmonthcalendar"
+                        : binding.matches(PxBindingCalendarDuplex) ? "duplexmonthcalendar"
+                                                                   : "normalpages";
     m_report
-        .add(PxTag::PagesRangeMissing, m_product.pages().read().constFirst().range,
-             "a book whose list of pages has no \"normalpages\"")
-        .now("it has %1 pages, whatever page count is ordered", m_product.pages().read().size())
-        .hint("write \"normalpages\" where the pages of the book are");
+        .add(PxTag::PagesRangeMissing, (normal == pages.end() ? pages.begin() : normal)->range,
+             "a calendar whose binding gives it %1 pages, of which the list has no more than %2",
+             binding.calendarPageCount(), pages.size())
+        .now("its page count is %1, and it has %2", binding.calendarPageCount(),
+             PxMessageText::pages(pages.size()))
+        .hint("write \"%1\" for all of them", range);
 }

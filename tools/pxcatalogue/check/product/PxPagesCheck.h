@@ -20,13 +20,12 @@ private:
     bool hasSeveralPages() const;
     QString nowWithoutPages() const;
     QString nowWithout(const PxPageEntry &entry) const;
-    /** A book without pages that its page count could repeat. */
-    bool isRangeMissing() const;
     void checkCount() const;
     void checkEntry(const PxPageEntry &entry) const;
     bool checkCoverPosition() const;
     void checkSpinePosition() const;
     void checkRange() const;
+    void addShortCalendar() const;
 
     const PxCheckedProduct &m_product;
     const PxReporter m_report;

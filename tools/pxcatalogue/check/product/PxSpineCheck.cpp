@@ -1,6 +1,7 @@
 #include "check/product/PxSpineCheck.h"
 
 #include "check/rules/PxElementReading.h"
+#include "check/words/PxEditDistance.h"
 #include "check/words/PxMessageText.h"
 #include "check/words/PxSpelling.h"
 
@@ -18,6 +19,14 @@ constexpr const char *maxFontHeight = "maxfontheight";
 int widthOf(const PxSourceElement &spine)
 {
     return spine.number(width);
+}
+
+/** Whether one digit of the number has to be taken out to get the other one. */
+bool isWithDigitTooMany(int number, int wanted)
+{
+    const QString text = QString::number(number);
+    const QString other = QString::number(wanted);
+    return text.size() == other.size() + 1 && PxEditDistance::between(text, other) == 1;
 }
 
 /** If not, the check of names and values reports it. */
@@ -209,7 +218,10 @@ void PxSpineCheck::checkPresence() const
                      : "a book without \"spines\"")
         .now("no page count is offered, and applications get numbers that are none")
         .hint(missing.hintOr(
-            "add a \"spine\" for each page count, with the width 0 when none is printed"));
+            m_product.isLikeCalendar()
+                ? "give the product type the class \"calendar\", or add a \"spine\" for each page "
+                  "count"
+                : "add a \"spine\" for each page count, with the width 0 when none is printed"));
 }
 
 void PxSpineCheck::checkLength() const
@@ -308,14 +320,16 @@ void PxSpineCheck::checkLastStep(int usual) const
     // Three entries without a width may stand for all that lie between them.
     if (last.key() - usual <= smaller || (!hasWidth() && m_spines.size() < 4))
         return;
+    const bool isMistyped = isWithDigitTooMany(last.key(), smaller + usual);
     m_report
-        .add(PxTag::SpineLastStepLong, last.value()->rangeOf(pagesName),
-             "%1 pages after %2, where other steps are %3", last.key(), smaller, usual)
+        .add(isMistyped ? PxTag::SpineStepsIrregular : PxTag::SpineLastStepLong,
+             last.value()->rangeOf(pagesName), "%1 pages after %2, where other steps are %3",
+             last.key(), smaller, usual)
         .now(hasWidth() ? QString("the spine for %1 pages is %2 wide")
                               .arg(smaller + usual)
                               .arg(m_product.description().spineWidth(smaller + usual))
                         : nowOfSteps())
-        .hint("add a spine for %1 pages", smaller + usual);
+        .hint(isMistyped ? "did you mean \"%1\"?" : "add a spine for %1 pages", smaller + usual);
 }
 
 bool PxSpineCheck::hasWidth() const
@@ -357,6 +371,72 @@ void PxSpineCheck::checkWidths() const
         before = other;
         narrower = it;
     }
+    checkEnds();
+}
+
+/**
+ * Reports a first or last width that is far from what the others lead to. All between them have a
+ * neighbour on either side and fall.
+ */
+void PxSpineCheck::checkEnds() const
+{
+    constexpr int minimumRows = 5; // fewer do not show what is usual
+    if (m_spines.size() < minimumRows || !m_isComplete ||
+        !std::all_of(m_spines.begin(), m_spines.end(), [](const PxSourceElement *spine) {
+            return isWidthKnown(*spine) && widthOf(*spine) > 0;
+        }))
+        return;
+    const auto last = std::prev(m_spines.end());
+    checkEnd(m_spines.begin(), std::next(m_spines.begin()),
+             steepest(std::next(m_spines.begin()), last));
+    checkEnd(last, std::prev(last), steepest(m_spines.begin(), std::prev(last)));
+}
+
+/** The largest growth for a page from one row to the next, up to and with the last one. */
+double PxSpineCheck::steepest(Spines::const_iterator first, Spines::const_iterator last)
+{
+    double steepest = 0;
+    for (auto it = first; it != last; ++it) {
+        const auto next = std::next(it);
+        steepest = std::max(steepest, growth(it, next));
+    }
+    return steepest;
+}
+
+/** For a page, from one row to another one. */
+double PxSpineCheck::growth(Spines::const_iterator from, Spines::const_iterator to)
+{
+    return (double(widthOf(*to.value())) - widthOf(*from.value())) /
+           (double(to.key()) - from.key());
+}
+
+void PxSpineCheck::checkEnd(Spines::const_iterator end, Spines::const_iterator neighbour,
+                            double steepest) const
+{
+    // A few widths for all page counts make steps that differ, too.
+    constexpr int timesSteeper = 10;
+    constexpr int timesWider = 3;
+    const int own = widthOf(*end.value());
+    const int other = widthOf(*neighbour.value());
+    const double jump = std::abs(double(own) - other);
+    const bool isFar = growth(end, neighbour) > timesSteeper * steepest && 3 * jump > other;
+    const bool isWide = std::max(own, other) > double(timesWider) * std::min(own, other);
+    if (!isFar || (steepest <= 0 && !isWide))
+        return;
+    m_report
+        .add(PxTag::SpineWidthJumps, end.value()->rangeOf(width),
+             "a spine of %1 for %2 pages beside one of %3 for %4 in %5", own, end.key(), other,
+             neighbour.key(), m_report.place(neighbour.value()->rangeOf(width)))
+        .now("the spine for %1 pages is %2 wide", end.key(),
+             m_product.description().spineWidth(end.key()))
+        .hint([&] {
+            const auto first = m_spines.begin();
+            const auto last = std::prev(m_spines.end());
+            const double step =
+                growth(end == first ? neighbour : first, end == last ? neighbour : last);
+            return QString("with the other rows it grows to %1")
+                .arg(qRound64(other + step * (double(end.key()) - neighbour.key())));
+        });
 }
 
 /** A spine that does not fit beside the other one. */

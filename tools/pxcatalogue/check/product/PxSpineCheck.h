@@ -46,6 +46,11 @@ private:
     void checkWidths() const;
     void addFall(Spines::const_iterator spine, Spines::const_iterator other,
                  const char *message) const;
+    void checkEnds() const;
+    void checkEnd(Spines::const_iterator end, Spines::const_iterator neighbour,
+                  double steepest) const;
+    static double steepest(Spines::const_iterator first, Spines::const_iterator last);
+    static double growth(Spines::const_iterator from, Spines::const_iterator to);
     void checkTextHeights() const;
     void checkSellingPages() const;
     void checkSpinePage() const;

@@ -18,6 +18,13 @@ public:
     const PxProductTypeDescription &description() const { return m_description; }
     /** The list of its pages. */
     const PxPageEntries &pages() const { return m_pages; }
+    /**
+     * Whether the list of pages is shorter than the page count because no entry stands for all
+     * normal pages. Page numbers say nothing then. False if there is no list.
+     */
+    bool isPageRangeMissing() const;
+    /** Whether the binding is one of a calendar, or a page is. */
+    bool isLikeCalendar() const;
     /** Whether the file lies in the directory of the legacy products. */
     bool isLegacy() const { return m_isLegacy; }
 

@@ -37,6 +37,13 @@ bool PxPageEntries::isSound() const
                         [](const PxPageEntry &entry) { return entry.type.isNull(); });
 }
 
+qint64 PxPageEntries::normalCount() const
+{
+    return std::count_if(m_read.begin(), m_read.end(), [](const PxPageEntry &entry) {
+        return entry.type.matches(PxPageTypeNormalPage);
+    });
+}
+
 const PxPageEntry *PxPageEntries::spine() const
 {
     const auto found = std::find_if(m_read.begin(), m_read.end(), [](const PxPageEntry &entry) {

@@ -37,6 +37,8 @@ public:
     /** How many entries the library ignores after that, and where the first of them is. */
     int droppedCount() const { return m_droppedCount; }
     PxSourceRange firstDropped() const { return m_firstDropped; }
+    /** How many entries that are read are a single normal page. */
+    qint64 normalCount() const;
     /** The first spine; null if there is none. */
     const PxPageEntry *spine() const;
 

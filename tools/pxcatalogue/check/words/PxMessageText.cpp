@@ -26,3 +26,8 @@ QString PxMessageText::shortened(const QString &value)
     const bool isInPair = value[maximum - 1].isHighSurrogate();
     return value.left(isInPair ? maximum - 1 : maximum) + "…";
 }
+
+QString PxMessageText::pages(int count)
+{
+    return count == 1 ? "1 page" : QString("%1 pages").arg(count);
+}
