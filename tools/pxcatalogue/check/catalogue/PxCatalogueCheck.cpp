@@ -1,11 +1,15 @@
 #include "check/catalogue/PxCatalogueCheck.h"
 
+#include "check/product/PxProductCheck.h"
+#include "check/words/PxSpelling.h"
+
 #include <PxDirectoryConfig.h>
 #include <description/PxProductTypeDescriptionReader.h>
 
 #include <QFileInfo>
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace {
@@ -54,13 +58,66 @@ void PxCatalogueCheck::addProduct(const PxCheckedProduct &product, bool isInOthe
     const PxSourceElement &element = product.element();
     const PxSourceElement *size = element.firstChild("usablesize");
     m_products.append(
-        {product.type(), product.isLegacy(), file.place(element.rangeOf("name")),
-         element.value(legacy), file.place(element.rangeOf(legacy)),
+        {product.type(), product.isLegacy(), element.value("name"),
+         file.place(element.rangeOf("name")), element.value(legacy),
+         file.place(element.rangeOf(legacy)),
          isInOtherUnit ? QSize()
                        : product.description().usablePrintSize(PxPageType(PxPageTypeNormalPage), 0),
          file.place(size ? size->rangeOf("width") : element.nameRange)});
     if (product.type().isValid())
         m_files.insert(QFileInfo(file.path()).canonicalFilePath());
+}
+
+void PxCatalogueCheck::checkUnknownNames()
+{
+    // If no product type is known at all, the cause is not in the product files.
+    if (m_names.isEmpty())
+        return;
+    std::set<PxProductType> described;
+    QVector<const Product *> unknown;
+    for (const Product &product : qAsConst(m_products)) {
+        const bool isBroken = product.writtenName.trimmed().isEmpty() ||
+                              PxProductCheck::isUnsafeForFile(product.writtenName);
+        if (product.type.isValid())
+            described.insert(product.type);
+        else if (!isBroken)
+            unknown.append(&product);
+    }
+    QStringList names;
+    for (const PxProductType &type : m_names.types()) {
+        if (described.count(type) == 0)
+            names.append(type.productName());
+    }
+    PxKnownNames free(names);
+    const QString now = "the file is skipped without a word";
+    for (const Product *product : qAsConst(unknown)) {
+        const QString &name = product->writtenName;
+        if (!m_names.isListed(name))
+            m_report
+                .add(PxTag::ProductNameUnknown, product->name, "there is no product type \"%1\"",
+                     name)
+                .now(now)
+                .hint([&] { return hintForUnknown(*product, free); });
+        else if (!m_names.isChecked())
+            m_report
+                .add(PxTag::ProductNameUnknown, product->name,
+                     "the row of \"%1\" in producttypes.xml is left out", name)
+                .now(now)
+                .hint("check producttypes.xml");
+    }
+}
+
+/** A product that has a file, or that this one replaces, is not meant. */
+QString PxCatalogueCheck::hintForUnknown(const Product &product, PxKnownNames &free) const
+{
+    const QString hint = free.hint(product.writtenName);
+    const bool isOfOther =
+        hint == PxSpelling::didYouMean(PxProductType(product.legacyName).productName());
+    if (hint.isEmpty() && m_names.isAnyRepeated())
+        return "two rows of producttypes.xml have the same name: is one of them meant for it?";
+    if (hint.isEmpty() || isOfOther)
+        return "add a row for it to producttypes.xml";
+    return hint.endsWith(QLatin1Char('?')) ? hint + " If not, add a row to producttypes.xml" : hint;
 }
 
 void PxCatalogueCheck::run()

@@ -25,14 +25,17 @@ public:
      */
     void addProduct(const PxCheckedProduct &product, bool isInOtherUnit);
 
-    /** After all products have been added. */
+    /** After all products have been added, also if they are not all of the catalogue. */
+    void checkUnknownNames();
+    /** After all products of the catalogue have been added. */
     void run();
 
 private:
     struct Product
     {
-        PxProductType type; ///< invalid for an unknown name, which has been reported
+        PxProductType type; ///< invalid for an unknown name
         bool isLegacy;
+        QString writtenName;
         PxPlace name;
         QString legacyName;
         PxPlace legacy;
@@ -40,6 +43,7 @@ private:
         PxPlace width;
     };
 
+    QString hintForUnknown(const Product &product, PxKnownNames &free) const;
     bool checkNames() const;
     void checkPredecessors() const;
     void checkSizes() const;

@@ -101,10 +101,11 @@ void PxCheck::run()
     checkFiles(m_paths.legacyProducts, PxFileKind::Product,
                [this](const PxCheckedFile &file) { checkProduct(file, true); });
     checkFiles(m_paths.userDefaults, PxFileKind::UserDefaults, [this](const PxCheckedFile &file) {
-        PxUserDefaultsCheck(m_productNames, m_themeIds, reporterFor(file)).run();
+        PxUserDefaultsCheck(m_pagesOfProducts, m_themeIds, reporterFor(file)).run();
         noticeThemes(file, *file.root());
     });
     m_findings.setPartial(!m_paths.isCatalogue);
+    m_catalogue.checkUnknownNames();
     if (m_paths.isCatalogue) {
         m_catalogue.run();
         m_themes.run();
@@ -192,7 +193,7 @@ void PxCheck::checkProduct(const PxCheckedFile &file, bool isLegacy)
     ++(isLegacy ? m_legacyProductCount : m_productCount);
     const PxReporter report = reporterFor(file);
     const PxCheckedProduct product(file, isLegacy);
-    PxProductCheck(product, m_types, report).run();
+    PxProductCheck(product, report).run();
     PxClassCheck(product, report).run();
     PxSizeCheck size(product, report);
     size.run();
@@ -207,9 +208,22 @@ void PxCheck::checkProduct(const PxCheckedFile &file, bool isLegacy)
     PxDefaultsCheck(product.element(), m_themeIds, pages.contexts(), report).run();
     PxDesignCheck(product, report).run();
     noticeThemes(file, product.element());
-    m_productNames.insert(product.element().value("name"));
+    noticePages(product, pages);
     m_catalogue.addProduct(product, size.isInOtherUnit());
     m_themeProducts.addProduct(product, size.isInOtherUnit());
+}
+
+/** Remembers what user defaults are compared with; no pages if files of the same name differ. */
+void PxCheck::noticePages(const PxCheckedProduct &product, const PxProductPages &pages)
+{
+    const QString name = product.element().value("name");
+    const QVector<PxPageContext> contexts = pages.contexts();
+    const bool isSecond = m_pagesOfProducts.contains(name);
+    QVector<PxPageContext> &known = m_pagesOfProducts[name];
+    if (!isSecond)
+        known = contexts;
+    else if (contexts != known)
+        known.clear();
 }
 
 /** Remembers where default templates in the parent first name a theme other than the default one.

@@ -3,12 +3,15 @@
 #include "check/catalogue/PxCatalogueCheck.h"
 #include "check/catalogue/PxCheckPaths.h"
 #include "check/catalogue/PxThemeProductsCheck.h"
+#include "check/layout/PxProductPages.h"
 #include "check/themes/PxThemeIdCheck.h"
 #include "check/words/PxImageNames.h"
 #include "check/words/PxKnownNames.h"
 #include "format/PxFormatRows.h"
 
-#include <QSet>
+#include <geometry/PxPageContext.h>
+
+#include <QMap>
 
 /** Runs all checks over the files of a catalogue, one file after the other. */
 class PxCheck
@@ -31,6 +34,7 @@ private:
     void checkThemes();
     void checkProductTypes(const PxCheckedFile &file);
     void checkProduct(const PxCheckedFile &file, bool isLegacy);
+    void noticePages(const PxCheckedProduct &product, const PxProductPages &pages);
     void noticeThemes(const PxCheckedFile &file, const PxSourceElement &parent);
     PxReporter reporterFor(const PxCheckedFile &file) const;
 
@@ -42,9 +46,9 @@ private:
     int m_themeCount = 0;
     // What files are compared with. Some count the guesses that they have made in this run.
     PxListedProductTypes m_types;
-    PxKnownNames m_themeIds;      // empty if not all are known
-    QSet<QString> m_productNames; // of the products checked so far
-    PxPlace m_namedTheme;         // the first in a product; without a path if there is none
+    PxKnownNames m_themeIds;                                 // empty if not all are known
+    QMap<QString, QVector<PxPageContext>> m_pagesOfProducts; // of those checked so far, by name
+    PxPlace m_namedTheme; // the first in a product; without a path if there is none
     PxImageNames m_images{PxImageNames::Kind::Any};
     PxImageNames m_themeImages{PxImageNames::Kind::Lower};
     PxThemeIdCheck m_themes;

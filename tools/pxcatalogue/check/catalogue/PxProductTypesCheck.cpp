@@ -104,7 +104,7 @@ void PxProductTypesCheck::dropClass(const PxSourceElement &row) const
         drop(row, "class",
              isEmpty ? "the product type has no \"class\"" : "\"%1\" is no product class", text);
     if (!isEmpty)
-        dropped.hint([&] { return PxSpelling::hint(text, classes); });
+        dropped.hint([&] { return PxSpelling::hintOrAll(text, classes); });
     else if (!readingOf(row).isMisspelt("class"))
         dropped.hint("it is one of %1", classes.join(", "));
 }

@@ -1,6 +1,7 @@
 #include "check/design/PxUserDefaultsCheck.h"
 
 #include "check/design/PxDefaultsCheck.h"
+#include "check/words/PxEditDistance.h"
 #include "check/words/PxSpelling.h"
 
 #include <PxProductType.h>
@@ -9,24 +10,61 @@
 
 #include <algorithm>
 
+namespace {
+
+const auto suffix = QLatin1String(".xml");
+
+/** The longest of the names that the file name goes on from, as in "NAME_OLD". */
+QString beginningOf(const QString &fileName, const QStringList &names)
+{
+    QString longest;
+    for (const QString &name : names) {
+        if (name.size() > longest.size() && name.size() < fileName.size() &&
+            fileName.startsWith(name, Qt::CaseInsensitive) &&
+            !fileName.at(name.size()).isLetterOrNumber())
+            longest = name;
+    }
+    return longest;
+}
+
+/** A copy has the name of the product with something behind it, which no other name is as near as.
+ */
+QString hintFor(const QString &fileName, const QStringList &names)
+{
+    const QString beginning = beginningOf(fileName, names);
+    const QString nearest = PxSpelling::nearest(fileName, names);
+    const bool isNearer =
+        !nearest.isEmpty() &&
+        (beginning.isEmpty() || PxEditDistance::between(fileName.toUpper(), nearest.toUpper()) < 3);
+    const QString meant = isNearer ? nearest : beginning;
+    return meant.isEmpty() ? QString() : PxSpelling::didYouMean(meant);
+}
+
+} // namespace
+
 void PxUserDefaultsCheck::run()
 {
     checkName();
     if (checkStart())
-        PxDefaultsCheck(*m_report.file().root(), m_themeIds, {}, m_report).run();
+        PxDefaultsCheck(*m_report.file().root(), m_themeIds, m_products.value(productName()),
+                        m_report)
+            .run();
+}
+
+QString PxUserDefaultsCheck::productName() const
+{
+    const QString fileName = QFileInfo(m_report.file().path()).fileName();
+    return fileName.endsWith(suffix, Qt::CaseInsensitive) ? fileName.chopped(suffix.size())
+                                                          : fileName;
 }
 
 void PxUserDefaultsCheck::checkName() const
 {
-    const QString fileName = QFileInfo(m_report.file().path()).fileName();
-    const QString suffix = ".xml";
-    const bool isSuffix = fileName.endsWith(suffix);
-    const QString name =
-        fileName.endsWith(suffix, Qt::CaseInsensitive) ? fileName.chopped(suffix.size()) : fileName;
-    if (isSuffix && m_productNames.contains(name))
+    const bool isSuffix = m_report.file().path().endsWith(suffix);
+    const QString name = productName();
+    if (isSuffix && m_products.contains(name))
         return;
-    QStringList names(m_productNames.begin(), m_productNames.end());
-    names.sort();
+    const QStringList names = m_products.keys();
     const auto similar = std::find_if(names.begin(), names.end(), [&](const QString &product) {
         return product.compare(name, Qt::CaseInsensitive) == 0;
     });
@@ -37,7 +75,7 @@ void PxUserDefaultsCheck::checkName() const
         hint = QString("name it \"%1\"").arg(*similar + suffix);
     } else if (!PxProductType(name).isValid()) {
         message = QString("\"%1\" is no product").arg(name);
-        hint = isSuffix ? PxSpelling::hint(name, names) : "files that are read end in \".xml\"";
+        hint = isSuffix ? hintFor(name, names) : "files that are read end in \".xml\"";
     } else {
         return; // its file is broken, or is not checked
     }

@@ -6,20 +6,6 @@
 
 #include <algorithm>
 
-namespace {
-
-/** Whether a file of this name lies in another directory, is hidden, or cannot be typed. */
-bool isUnsafeForFile(const QString &name)
-{
-    return name.startsWith(QLatin1Char('.')) ||
-           std::any_of(name.begin(), name.end(), [](QChar character) {
-               return character == QLatin1Char('/') || character == QLatin1Char('\\') ||
-                      character.category() == QChar::Other_Control;
-           });
-}
-
-} // namespace
-
 void PxProductCheck::run()
 {
     checkName();
@@ -31,24 +17,10 @@ void PxProductCheck::checkName() const
     const PxSourceElement &element = m_product.element();
     constexpr const char *attribute = "name";
     const QString name = element.value(attribute);
-    const QString now = "the file is skipped without a word";
     if (name.trimmed().isEmpty())
         return;
     if (isUnsafeForFile(name))
         checkNameOfFile();
-    // If no product type is known at all, the cause is not in this file.
-    else if (!m_product.type().isValid() && !m_types.isEmpty() && !m_types.isListed(name))
-        m_report
-            .add(PxTag::ProductNameUnknown, element.rangeOf(attribute),
-                 "there is no product type \"%1\"", name)
-            .now(now)
-            .hint([&] { return m_types.hint(name); });
-    else if (!m_product.type().isValid() && !m_types.isEmpty() && !m_types.isChecked())
-        m_report
-            .add(PxTag::ProductNameUnknown, element.rangeOf(attribute),
-                 "the row of \"%1\" in producttypes.xml is left out", name)
-            .now(now)
-            .hint("check producttypes.xml");
     else if (m_product.type().isValid() && name != name.trimmed())
         m_report
             .add(PxTag::ProductNameBlank, element.rangeOf(attribute),
@@ -56,6 +28,15 @@ void PxProductCheck::checkName() const
             .now("the user's default templates are looked for in \"%1.xml\"", name)
             .hint(PxSpelling::didYouMean(name.trimmed()))
             .replacement(name.trimmed());
+}
+
+bool PxProductCheck::isUnsafeForFile(const QString &name)
+{
+    return name.startsWith(QLatin1Char('.')) ||
+           std::any_of(name.begin(), name.end(), [](QChar character) {
+               return character == QLatin1Char('/') || character == QLatin1Char('\\') ||
+                      character.category() == QChar::Other_Control;
+           });
 }
 
 void PxProductCheck::checkNameOfFile() const

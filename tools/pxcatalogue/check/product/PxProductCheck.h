@@ -2,21 +2,20 @@
 
 #include "check/findings/PxReporter.h"
 #include "check/source/PxCheckedProduct.h"
-#include "check/words/PxListedProductTypes.h"
 
 /** Checks the name of the product and its style of alignment. */
 class PxProductCheck
 {
 public:
-    /** All of them must outlive the check. */
-    PxProductCheck(const PxCheckedProduct &product, PxListedProductTypes &types,
-                   const PxReporter &report)
+    /** The product must outlive the check. */
+    PxProductCheck(const PxCheckedProduct &product, const PxReporter &report)
         : m_product(product)
-        , m_types(types)
         , m_report(report)
     {}
 
     void run();
+    /** Whether a file of this name lies in another directory, is hidden, or cannot be typed. */
+    static bool isUnsafeForFile(const QString &name);
 
 private:
     void checkName() const;
@@ -24,6 +23,5 @@ private:
     void checkAlignmentStyle() const;
 
     const PxCheckedProduct &m_product;
-    PxListedProductTypes &m_types;
     const PxReporter m_report;
 };

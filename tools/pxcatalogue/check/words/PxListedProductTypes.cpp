@@ -13,7 +13,8 @@ PxListedProductTypes::PxListedProductTypes(bool isChecked) : m_isChecked(isCheck
     for (QDomElement row = catalogue.firstChildElement(); !row.isNull();
          row = row.nextSiblingElement()) {
         const QString name = row.attribute("name");
-        m_keys.insert(key(name));
+        const bool isFirst = m_keys.insert(key(name)).second;
+        m_isAnyRepeated = m_isAnyRepeated || (!isFirst && !name.isEmpty());
         if (name.isEmpty())
             addKeysOf(row);
         const PxProductType type(name);

@@ -17,6 +17,8 @@ public:
 
     /** Whether rows that the library rejects are reported in producttypes.xml itself. */
     bool isChecked() const { return m_isChecked; }
+    /** Whether a row has the name of an earlier one. */
+    bool isAnyRepeated() const { return m_isAnyRepeated; }
     /** The product types that the library accepts, each once. */
     const PxProductTypeList &types() const { return m_types; }
     /** If so, names cannot be checked, because each would be unknown. */
@@ -34,6 +36,7 @@ private:
     static QString key(const QString &name) { return name.trimmed().toCaseFolded(); }
 
     bool m_isChecked;
+    bool m_isAnyRepeated = false;
     PxProductTypeList m_types;
     PxKnownNames m_names;     // of the types
     std::set<QString> m_keys; // no hash: names can be made to collide

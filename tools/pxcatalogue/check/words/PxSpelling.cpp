@@ -35,7 +35,23 @@ QString PxSpelling::nearest(const QString &word, const QStringList &candidates)
 QString PxSpelling::hint(const QString &word, const QStringList &candidates)
 {
     const QString name = nearest(word, candidates);
-    return name.isEmpty() ? QString() : didYouMean(name);
+    return name.isEmpty() ? QString() : didYouMean(name) + lookalike(word, name);
+}
+
+QString PxSpelling::lookalike(const QString &word, const QString &name)
+{
+    constexpr ushort fullWidth = 0xff00;
+    const QString text = word.trimmed();
+    for (int i = 0; i < qMin(text.size(), name.size()); ++i) {
+        const QChar own = text.at(i);
+        const bool isOther = own.script() != QChar::Script_Latin || own.unicode() > fullWidth;
+        if (own.isLetterOrNumber() && own.unicode() > 127 && isOther && name.at(i).unicode() <= 127)
+            return QString(" \"%1\" is U+%2, not \"%3\"")
+                .arg(own)
+                .arg(uint(own.unicode()), 4, 16, QLatin1Char('0'))
+                .arg(name.at(i));
+    }
+    return QString();
 }
 
 QString PxSpelling::oneOf(const QStringList &words)

@@ -25,6 +25,11 @@ public:
     static QStringList nearestThree(const QString &word, const QStringList &candidates);
     /** Whether the name is similar to the word. */
     static bool isNear(const QString &word, const QString &name);
+    /**
+     * Which character of the word looks like one of the name, but is of another script; begins with
+     * a blank. Empty if none does.
+     */
+    static QString lookalike(const QString &word, const QString &name);
     /** The question for a name that is known to be similar. */
     static QString didYouMean(const QString &name);
     /** The words of a list with separators other than commas. A very long list counts as one word.
