@@ -51,10 +51,10 @@ bool PxBarcodeCheck::checkRect(int index) const
 {
     const PxSourceElement &element = *m_elements[index];
     const PxPlacedImage image(element);
-    if (!isPageNrPlain(element) || !image.isRectanglePlain())
+    if (!image.isRectanglePlain())
         return false;
     if (m_barcodes[index].isValid())
-        return true;
+        return isPageNrPlain(element);
     m_report.add(PxTag::BarcodeEmpty, image.placeOfFault(), image.fault())
         .now("there is no barcode on that page");
     return false;

@@ -11,6 +11,7 @@
 #include <geometry/PxProductionExtraPageGroup.h>
 
 #include <QMap>
+#include <QRegularExpression>
 #include <QSet>
 
 #include <algorithm>
@@ -50,9 +51,26 @@ QString separated(const QString &part)
     return words.size() > 1 && areNumbers ? words.join(QLatin1Char(',')) : QString();
 }
 
+/** For two numbers with a dash between them. */
+QString pagesOfRange(const QString &part)
+{
+    static const QRegularExpression ourRange("^\\s*([0-9]{1,4})\\s*[-–]\\s*([0-9]{1,4})\\s*$");
+    constexpr int maximum = 20; // a hint is no long list
+    const QRegularExpressionMatch range = ourRange.match(part);
+    const int first = range.captured(1).toInt();
+    const int last = range.captured(2).toInt();
+    QStringList pages;
+    for (int page = first; range.hasMatch() && page <= last && last - first < maximum; ++page)
+        pages.append(QString::number(page));
+    return pages.join(QLatin1Char(','));
+}
+
 QString separatorHint(const QString &part)
 {
     const QString numbers = separated(part);
+    const QString range = pagesOfRange(part);
+    if (!range.isEmpty())
+        return QString("name each page: \"%1\"").arg(range);
     return numbers.isEmpty()
                ? QString()
                : QString("separate with commas: \"%1\"").arg(PxMessageText::shortened(numbers));

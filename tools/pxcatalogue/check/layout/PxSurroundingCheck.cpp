@@ -9,6 +9,12 @@
 
 namespace {
 
+bool isTypePlain(const PxSourceElement &surrounding)
+{
+    const PxElementReading reading(surrounding);
+    return reading.isReadable("type") && !reading.isMisspelt("type");
+}
+
 bool isPlain(const PxSourceElement &surrounding)
 {
     const PxElementReading reading(surrounding);
@@ -73,8 +79,8 @@ void PxSurroundingCheck::checkImage(const Surrounding &surrounding) const
     const PxPlacedImage placed(element);
     const bool isFrame = description.surroundingType() == PxSurroundingTypeFrame;
     const bool hasImage = !description.image().isEmpty();
-    if (!surrounding.isPlain || !placed.isRectanglePlain() ||
-        hasImage == description.imageRect().isValid())
+    if (!placed.isRectanglePlain() || hasImage == description.imageRect().isValid() ||
+        !(hasImage ? isTypePlain(element) : surrounding.isPlain))
         return;
     if (hasImage && (!isFrame || placed.isAnyNumberGiven())) {
         m_report.add(tag, placed.placeOfFault(), "an image without a rectangle: %1", placed.fault())

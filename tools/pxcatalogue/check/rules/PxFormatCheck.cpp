@@ -8,6 +8,7 @@
 #include "check/words/PxSpelling.h"
 
 #include <QHash>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -174,6 +175,19 @@ QString PxFormatCheck::hintFor(const PxSourceAttribute &unknown, const Place &pl
                      .arg(PxMessageText::quotedList(names));
 }
 
+/** A hint for a text that belongs into the only attribute, or into width and height. */
+QString PxFormatCheck::asAttributes(const QString &text, const PxElementRow &row)
+{
+    static const QRegularExpression ourSize("^([0-9]{1,6})\\s*[x×*]\\s*([0-9]{1,6})$");
+    const QRegularExpressionMatch size = ourSize.match(text);
+    if (size.hasMatch() && PxFormat::attribute(row, "width") && PxFormat::attribute(row, "height"))
+        return QString("write width=\"%1\" height=\"%2\"").arg(size.captured(1), size.captured(2));
+    return row.attributes.size() == 1
+               ? QString("write it as %1=\"%2\"")
+                     .arg(row.attributes.begin()->name, PxMessageText::shortened(text))
+               : QString();
+}
+
 void PxFormatCheck::checkText(const Place &place) const
 {
     if (place.row.text != PxTextKind::None)
@@ -195,7 +209,7 @@ void PxFormatCheck::checkText(const Place &place) const
              PxMessageText::shortened(place.element.name))
         .now("it is passed over")
         .hint(isOfChild ? QString("put it into a \"%1\" element").arg(nameOf(*children.begin()))
-                        : QString());
+                        : asAttributes(text->text.trimmed(), place.row));
 }
 
 void PxFormatCheck::checkChildren(const Place &place) const

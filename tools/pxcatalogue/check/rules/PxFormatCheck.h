@@ -34,6 +34,7 @@ private:
     void checkElement(const Place &place) const;
     void checkAttributes(const Place &place) const;
     void checkText(const Place &place) const;
+    static QString asAttributes(const QString &text, const PxElementRow &row);
     void checkChildren(const Place &place) const;
 
     void addUnknownAttribute(const Place &place, const PxSourceAttribute &attribute) const;

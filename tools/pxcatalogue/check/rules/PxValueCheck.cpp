@@ -20,16 +20,42 @@ bool isLength(const PxAttributeRow &row)
     return row.type == PxValueType::Length || row.type == PxValueType::RectanglePart;
 }
 
+/** The digits of a number with letters or digits that look like them, or blanks for thousands. */
+QString digitsOf(const QString &text)
+{
+    static const QRegularExpression ourGroups("^[0-9]{1,3}(?:[\\p{Z}'][0-9]{3})+$");
+    const bool hasGroups = ourGroups.match(text).hasMatch();
+    QString digits;
+    for (const QChar character : text) {
+        const bool isZero = character == QLatin1Char('O') || character == QLatin1Char('o');
+        const bool isOne = character == QLatin1Char('l') || character == QLatin1Char('I');
+        if (character.digitValue() >= 0)
+            digits += QString::number(character.digitValue());
+        else if (isZero || isOne)
+            digits += QLatin1Char(isZero ? '0' : '1');
+        else if (!hasGroups)
+            return QString();
+    }
+    const bool isAnyDigit =
+        std::any_of(text.begin(), text.end(), [](QChar character) { return character.isDigit(); });
+    constexpr int maximum = 9; // more may leave 32 bits
+    return isAnyDigit && digits.size() <= maximum ? digits : QString();
+}
+
 /** A hint for another kind of number. */
 QString integerHint(const PxAttributeRow &row, const PxSourceAttribute &attribute)
 {
     static const QRegularExpression ourHex("^0[xX][0-9a-fA-F]{1,7}$");
     static const QRegularExpression ourMillimetres("^(-?[0-9]{1,6})(?:[.,]([0-9])0*)?\\s*(mm)?$");
+    static const QRegularExpression ourThousands("^-?[1-9][0-9]{0,2}[.,][0-9]{3}$");
     const QString text = attribute.value.trimmed();
     if (text.isEmpty())
         return QString("give a number, or leave \"%1\" out").arg(attribute.name);
     if (ourHex.match(text).hasMatch())
         return PxSpelling::didYouMean(QString::number(text.toInt(nullptr, 16)));
+    const QString digits = digitsOf(text);
+    if (!digits.isEmpty())
+        return PxSpelling::didYouMean(digits);
     const QRegularExpressionMatch millimetres = ourMillimetres.match(text);
     const QString whole = millimetres.captured(1);
     const QString tenth = millimetres.captured(2);
@@ -38,6 +64,11 @@ QString integerHint(const PxAttributeRow &row, const PxSourceAttribute &attribut
         return PxSpelling::didYouMean(whole);
     if (!isLength(row) || !millimetres.hasMatch())
         return QString();
+    if (ourThousands.match(text).hasMatch())
+        return QString("\"%1\" if thousands are separated; for %2 mm write \"%3\"")
+            .arg(QString(text).remove(QRegularExpression("[.,]")), text,
+                 QString::number(qRound(
+                     QString(text).replace(QLatin1Char(','), QLatin1Char('.')).toDouble() * 10)));
     if (isWhole)
         return QString("write a whole number of tenths of a millimetre: \"%1\" for %2 mm, or "
                        "\"%3\" for %1 mm?")
