@@ -24,6 +24,8 @@ constexpr int foldersOfDirectory = 100;       // in which an image may lie inste
 
 // Files in directories that the library does not read.
 constexpr int filesBelow = 10000;
+constexpr int heads = 1000;       // of these files are looked into, to see what they are
+constexpr int headLength = 65536; // bytes
 
 // Of long lists, only the first entries are checked.
 constexpr int listParts = 100000;

@@ -120,14 +120,14 @@ QString PxCatalogueCheck::hintForUnknown(const Product &product, PxKnownNames &f
     return hint.endsWith(QLatin1Char('?')) ? hint + " If not, add a row to producttypes.xml" : hint;
 }
 
-void PxCatalogueCheck::run()
+void PxCatalogueCheck::run(bool isEveryFileRead)
 {
     const bool isEveryNameOnce = checkNames();
     checkPredecessors();
     checkSizes();
-    // A file that cannot be read, or has the name of another, has been reported, as has a catalogue
+    // A file that is not read, or has the name of another, has been reported, as has a catalogue
     // without product files.
-    if (isEveryNameOnce && !m_products.isEmpty() && isComplete())
+    if (isEveryFileRead && isEveryNameOnce && !m_products.isEmpty() && isComplete())
         checkTypesHaveFiles();
 }
 

@@ -27,8 +27,8 @@ public:
 
     /** After all products have been added, also if they are not all of the catalogue. */
     void checkUnknownNames();
-    /** After all products of the catalogue have been added. */
-    void run();
+    /** After all products have been added. `isEveryFileRead`: none lies where it is not read. */
+    void run(bool isEveryFileRead);
 
 private:
     struct Product

@@ -26,6 +26,10 @@
 #include "check/words/PxSpelling.h"
 #include "format/PxFormat.h"
 
+#include <QFileInfo>
+
+#include <algorithm>
+
 namespace {
 
 QStringList single(const QString &path)
@@ -64,6 +68,25 @@ bool isUnderstood(const PxCheckedFile &file, PxFileKind kind)
     }
 }
 
+/** Whether no product lies in a place where it is not read, but was probably meant to be. */
+bool isEveryProductRead(const PxCheckPaths &paths)
+{
+    return std::all_of(paths.unreadDirectories.begin(), paths.unreadDirectories.end(),
+                       [](const auto &directory) {
+                           return directory.kind == PxUnreadDirectory::Kind::Inside;
+                       }) &&
+           std::all_of(paths.misplacedFiles.begin(), paths.misplacedFiles.end(),
+                       [](const auto &file) { return file.kind != PxFileKind::Product; });
+}
+
+QSet<QString> foldedNames(const QSet<QString> &names)
+{
+    QSet<QString> folded;
+    for (const QString &name : names)
+        folded.insert(name.trimmed().toCaseFolded());
+    return folded;
+}
+
 /** None for user defaults: their rules are those of the default templates in products, too. */
 PxRows<PxRule> rulesOf(PxFileKind kind)
 {
@@ -93,7 +116,9 @@ PxCheck::PxCheck(const PxCheckPaths &paths, PxFindings &findings)
 void PxCheck::run()
 {
     checkThemes();
-    checkFiles(single(m_paths.productTypes), PxFileKind::ProductTypes,
+    // That it is missing is reported with the directories.
+    const bool hasTypes = QFileInfo::exists(m_paths.productTypes);
+    checkFiles(single(hasTypes ? m_paths.productTypes : QString()), PxFileKind::ProductTypes,
                [this](const PxCheckedFile &file) { checkProductTypes(file); });
     checkFiles(single(m_paths.frames), PxFileKind::Frames, [](const PxCheckedFile &) {});
     checkFiles(m_paths.products, PxFileKind::Product,
@@ -107,11 +132,13 @@ void PxCheck::run()
     m_findings.setPartial(!m_paths.isCatalogue);
     m_catalogue.checkUnknownNames();
     if (m_paths.isCatalogue) {
-        m_catalogue.run();
+        m_catalogue.run(isEveryProductRead(m_paths));
         m_themes.run();
         m_themeProducts.run();
     }
-    PxDirectoriesCheck(m_paths, m_namedTheme, PxReporter(m_findings)).run();
+    PxDirectoriesCheck(m_paths, {foldedNames(m_productNames), m_themes.ids(), m_namedTheme},
+                       PxReporter(m_findings))
+        .run();
 }
 
 /** Checks what is the same for all files, then calls `checkFile`. Whether all could be read. */

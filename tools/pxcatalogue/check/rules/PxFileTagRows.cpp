@@ -11,7 +11,7 @@ static constexpr PxCheckTag rows[] = {
      "Old archives contain file names in the encoding of the machine that packed them. On a machine with another encoding no program can open these files by name, and the products or themes in them are missing. The finding is reported for the directory. Rename the files, preferably in ASCII.",
      "", "", ""},
     {PxTag::FileNotRead, "file-not-read", PxSeverity::Info, "a file that the library ignores",
-     "Files of products, themes and user defaults end in \".xml\"; the library ignores other files, hidden ones, pipes and directories with all that is in them, and a second directory of products. A product file that was renamed to keep a copy is harmless; the product in one that got such a name by mistake is missing.",
+     "Files of products, themes and user defaults end in \".xml\"; the library ignores other files, hidden ones, pipes and directories with all that is in them, and a second directory of products. Files in the resource directory itself, and in a directory there whose name is nearly that of one that is read, are reported if their document element is that of a catalogue. A product file that was renamed to keep a copy is harmless; the product in one that got such a name by mistake is missing.",
      "products/cup2.xml.bak",
      "»<productdescription/>\n",
      "", true},

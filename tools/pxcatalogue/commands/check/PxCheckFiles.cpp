@@ -1,15 +1,14 @@
 #include "commands/check/PxCheckFiles.h"
 
-#include "check/PxCheckLimits.h"
 #include "check/source/PxCheckedFile.h"
 #include "commands/PxCatalogueDirectories.h"
 #include "commands/PxCommandLine.h"
+#include "commands/check/PxUnreadFiles.h"
 
 #include <PxDirectoryConfig.h>
 #include <values/PxUndecodableNames.h>
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFileInfo>
 #include <QSet>
 
@@ -94,56 +93,30 @@ std::optional<PxProblem> PxCheckFiles::findCatalogue()
         m_catalogueNames.insert(shown(directory.path), directory.name);
         if (const auto problem = findFiles(directory))
             return problem;
-        if (directory.name == "products" || directory.name == "themes")
-            findUnread(directory);
     }
-    findSecondProducts();
     m_paths.productsDirectory = shown(resource("products"));
     m_paths.themesDirectory = shown(themes(nullptr).path);
+    m_paths.userDefaultsDirectory = shown(PxDirectoryConfig::instance()->userDefaultsPath());
+    findUnread();
     return std::nullopt;
 }
 
-/** Finds the directories below that have XML files, except those that are read themselves. */
-void PxCheckFiles::findUnread(const Directory &directory)
+/** Finds what lies in the resource directories, but is not read. */
+void PxCheckFiles::findUnread()
 {
     QStringList read;
-    for (const Directory &other : directories())
-        read.append(QFileInfo(other.path).canonicalFilePath() + '/');
-    const QFileInfoList below =
-        QDir(shown(directory.path))
-            .entryInfoList(QDir::Dirs | QDir::NoSymLinks | QDir::NoDotAndDotDot);
-    for (const QFileInfo &entry : below) {
-        const QString path = join(shown(directory.path), entry.fileName());
-        const QString canonical = entry.canonicalFilePath() + '/';
-        const bool isRead = std::any_of(read.begin(), read.end(), [&](const QString &other) {
-            return other.startsWith(canonical);
-        });
-        if (!isRead)
-            addUnread(path, join(directory.name, entry.fileName()), QString());
-    }
-}
-
-/** Finds the products of all resource directories but the first that has any. */
-void PxCheckFiles::findSecondProducts()
-{
-    const QString read = QFileInfo(resource("products")).canonicalFilePath();
-    for (const QString &directory : qAsConst(m_resources)) {
-        const QString path = join(directory, "products");
-        if (!read.isEmpty() && QFileInfo(path).canonicalFilePath() != read)
-            addUnread(path, "products", shown(resource("products")));
-    }
-}
-
-void PxCheckFiles::addUnread(const QString &path, const QString &name, const QString &readInstead)
-{
-    int count = 0;
-    QDirIterator files(path, QDir::Files | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
-    for (int i = 0; i < PxCheckLimits::filesBelow && files.hasNext(); ++i)
-        count += files.next().endsWith(".xml", Qt::CaseInsensitive) ? 1 : 0;
-    if (count == 0)
-        return;
-    m_paths.unreadDirectories.append({path, count, readInstead});
-    m_catalogueNames.insert(path, name);
+    for (const Directory &directory : directories())
+        read.append(directory.path);
+    PxUnreadFiles unread(read, m_paths, m_catalogueNames);
+    unread.findInside(m_paths.productsDirectory, "products");
+    unread.findInside(m_paths.themesDirectory, "themes");
+    unread.findHidden(m_resources, "products", m_paths.productsDirectory);
+    unread.findHidden(m_resources, "themes", m_paths.themesDirectory);
+    QStringList resources = m_resources + m_given;
+    if (resources.isEmpty())
+        resources.append(QFileInfo(m_paths.productTypes).path());
+    for (const QString &directory : qAsConst(resources))
+        unread.findBeside(directory);
 }
 
 QVector<PxCheckFiles::Directory> PxCheckFiles::directories()

@@ -44,9 +44,7 @@ private:
     QVector<Directory> directories();
     Directory themes(QStringList *files);
     std::optional<PxProblem> findFiles(const Directory &directory);
-    void findUnread(const Directory &directory);
-    void findSecondProducts();
-    void addUnread(const QString &path, const QString &name, const QString &readInstead);
+    void findUnread();
     QString shown(const QString &absolutePath) const;
 
     const QStringList m_given;         // the paths to check
