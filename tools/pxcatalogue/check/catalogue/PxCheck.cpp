@@ -52,6 +52,28 @@ QString hintForProductOf(const PxSourceElement &root)
     return misspelt.isEmpty() ? QString() : QString("write \"product\" for \"%1\"").arg(misspelt);
 }
 
+/** For a file whose document element is that of another kind, in the directory of this kind. */
+QString hintForKind(const QString &root, PxFileKind kind)
+{
+    constexpr struct
+    {
+        PxFileKind kind;
+        const char *place;
+    } places[] = {
+        {PxFileKind::Product, "\"products\""},
+        {PxFileKind::Theme, "\"themes\""},
+        {PxFileKind::UserDefaults, "the user defaults"},
+        {PxFileKind::ProductTypes, "the resource directory, as \"producttypes.xml\""},
+        {PxFileKind::Frames, "the resource directory, as \"frames.xml\""},
+    };
+    for (const auto &row : places) {
+        if (row.kind != kind &&
+            root.compare(QLatin1String(PxFormat::root(row.kind).name), Qt::CaseInsensitive) == 0)
+            return QString("move it to %1").arg(row.place);
+    }
+    return QString();
+}
+
 /** Whether the library reads something from the file: most checks are skipped if it does not. */
 bool isUnderstood(const PxCheckedFile &file, PxFileKind kind)
 {
@@ -174,19 +196,21 @@ bool PxCheck::checkFiles(const QStringList &paths, PxFileKind kind, CheckFile ch
 
 void PxCheck::addWrongRoot(const PxSourceElement &root, PxFileKind kind, const PxReporter &report)
 {
+    const QString elsewhere = hintForKind(root.name, kind);
     if (kind == PxFileKind::Product) {
         report
             .add(PxTag::ProductElementMissing, root.nameRange,
                  "no \"product\" element below \"%1\"", root.name)
             .now("nothing is read from this file")
-            .hint(hintForProductOf(root));
+            .hint(elsewhere.isEmpty() ? hintForProductOf(root) : elsewhere);
         return;
     }
     const bool isTheme = kind == PxFileKind::Theme;
     report
         .add(isTheme ? PxTag::ThemeRootWrong : PxTag::ProductTypesRootWrong, root.nameRange,
              "the document element is \"%1\", not \"%2\"", root.name, PxFormat::root(kind).name)
-        .now(isTheme ? "nothing is read from this file" : "no product is known");
+        .now(isTheme ? "nothing is read from this file" : "no product is known")
+        .hint(elsewhere);
 }
 
 void PxCheck::checkThemes()

@@ -8,11 +8,17 @@
 
 static constexpr int maximumLength = 500; // of a comment; the tag is among its first characters
 
+/** Whether the element is the document element of a theme file. */
+static bool isOfThemes(const PxSourceElement &element)
+{
+    return !element.parent &&
+           element.name.compare(QLatin1String("themes"), Qt::CaseInsensitive) == 0;
+}
+
 /** Whether the element is one of the themes of a theme file. */
 static bool isTheme(const PxSourceElement &element)
 {
-    return element.parent && !element.parent->parent &&
-           element.parent->name.compare(QLatin1String("themes"), Qt::CaseInsensitive) == 0;
+    return element.parent && isOfThemes(*element.parent);
 }
 
 void PxAllowanceComments::find(Checked checked)
@@ -65,8 +71,9 @@ QVector<PxSourceNode> PxAllowanceComments::findIn(const QVector<PxSourceNode> &n
             part.line = part.column = 1; // the whole file
             part.endLine = std::numeric_limits<int>::max();
         }
+        // Between themes it is reported as a theme, whether it silences something or not.
         m_findings.allow(allowance.captured(1), m_file.place(node.range), part,
-                         checked == Checked::Everything);
+                         checked == Checked::Everything && !(parent && isOfThemes(*parent)));
     }
     return others;
 }

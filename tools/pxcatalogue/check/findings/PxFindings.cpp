@@ -5,6 +5,7 @@
 #include "check/words/PxSpelling.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <iterator>
 #include <tuple>
 
@@ -29,13 +30,11 @@ bool isOfNameOnly(PxTag tag)
            std::end(tagsOfNamesOnly);
 }
 
-/** The hint for an allowance that silences nothing. */
+/** The hint for an allowance of no known tag. */
 QString hintFor(const QString &tag)
 {
     if (tag.isEmpty())
         return "write the tag that it is for";
-    if (PxCheckTags::find(tag))
-        return "take the comment out";
     if (tag.contains(QLatin1Char(',')))
         return "write a comment for each tag";
     const QString meant = PxSpelling::hint(tag, PxCheckTags::names());
@@ -200,11 +199,27 @@ void PxFindings::addUnused(const PxAllowances::Allowance &allowance)
     const char *message = allowance.tag.isEmpty() ? "the allowance names no tag"
                           : tag                   ? "nothing here is \"%1\""
                                                   : "there is no tag \"%1\" to allow";
+    const int line = tag ? nearestLine(tag->tag, allowance.comment) : 0;
     PxAddedFinding(append(PxTag::AllowanceUnused, allowance.comment))
         .message(message, allowance.tag)
         .now("the comment silences nothing")
-        .hint([&] { return hintFor(allowance.tag); })
-        .replacement(tag ? "" : QString());
+        .hint([&] {
+            return line > 0 ? QString("move it to line %1, before what it is for").arg(line)
+                   : tag    ? QString("take the comment out")
+                            : hintFor(allowance.tag);
+        })
+        .replacement(tag && line == 0 ? "" : QString());
+}
+
+/** The line of the finding that a comment is probably for; 0 if there is none in the file. */
+int PxFindings::nearestLine(PxTag tag, const PxPlace &comment) const
+{
+    const QVector<PxFinding> listed = m_files.value(comment.path).value(tag).listed;
+    const auto nearest =
+        std::min_element(listed.begin(), listed.end(), [&](const auto &a, const auto &b) {
+            return std::abs(a.place.line - comment.line) < std::abs(b.place.line - comment.line);
+        });
+    return nearest == listed.end() ? 0 : nearest->place.line;
 }
 
 QSet<QString> PxFindings::tagsChecked() const

@@ -78,6 +78,7 @@ private:
     /** What the check for the tag lacks; empty if the tag is checked. */
     QString lack(PxTag tag) const;
     void addUnused(const PxAllowances::Allowance &allowance);
+    int nearestLine(PxTag tag, const PxPlace &comment) const;
     void removeUnwanted(OfFile *file) const;
     static void removeCauses(OfFile *file);
     static QVector<Worst> worstOf(const OfFile &file);

@@ -5,6 +5,7 @@
 #include <PxDirectoryConfig.h>
 
 #include <QFileInfo>
+#include <QImageReader>
 
 #include <algorithm>
 #include <iterator>
@@ -13,14 +14,40 @@ namespace {
 
 constexpr const char *names[] = {"x", "y", "width", "height"};
 
+/**
+ * Whether the name promises a format, and the beginning of the file shows that it has none. What
+ * else an application can paint is not known here.
+ */
+bool isNoPicture(const QString &path)
+{
+    const QByteArray suffix = QFileInfo(path).suffix().toLower().toLatin1();
+    constexpr const char *formats[] = {"png", "jpg", "jpeg", "gif", "bmp"};
+    if (std::find(std::begin(formats), std::end(formats), suffix) == std::end(formats) ||
+        !QImageReader::supportedImageFormats().contains(suffix))
+        return false;
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    return QFileInfo(path).isReadable() && !reader.canRead();
+}
+
 } // namespace
 
 void PxPlacedImage::checkFile(const QString &name, PxImageNames &images,
                               const PxReporter &report) const
 {
     const QFileInfo file(PxDirectoryConfig::instance()->resource(name, false));
-    if (name.isEmpty() || file.isFile())
+    if (name.isEmpty())
         return;
+    if (file.isFile()) {
+        if (isNoPicture(file.filePath()))
+            report
+                .add(PxTag::ImageMissing, m_element.rangeOf("image"),
+                     file.size() == 0 ? "the file \"%1\" is empty"
+                                      : "the file \"%1\" is no picture",
+                     name)
+                .now("the name is handed on as it is, and nothing is painted");
+        return;
+    }
     report
         .add(PxTag::ImageMissing, m_element.rangeOf("image"),
              file.exists() ? "\"%1\" is no regular file"

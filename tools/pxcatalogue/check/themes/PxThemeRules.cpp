@@ -39,9 +39,11 @@ bool isProductGroup(const QString &text)
 
 QString productGroupHint(const QString &text)
 {
-    return hasNoComma(text)
-               ? PxSpelling::hint(text, PxFormat::keywordNames(PxKeywordSet::ProductGroup))
-               : "name one product group only";
+    constexpr PxKeywordSet groups = PxKeywordSet::ProductGroup;
+    if (!hasNoComma(text))
+        return "name one product group only";
+    const QString near = PxSpelling::hint(text, PxFormat::keywordNames(groups));
+    return near.isEmpty() ? PxSpelling::oneOf(PxFormat::mainKeywordNames(groups)) : near;
 }
 
 bool isInteger(const QString &text)

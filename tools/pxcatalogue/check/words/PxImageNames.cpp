@@ -29,6 +29,20 @@ bool isSlip(const QString &name, const QString &other)
     return PxSpelling::isNear(stem.mid(word), otherStem.mid(word));
 }
 
+/** The same picture in another format. */
+bool isOtherFormat(const QString &name, const QString &other)
+{
+    static const QRegularExpression ourSuffix("\\.(png|jpe?g|gif|bmp)$",
+                                              QRegularExpression::CaseInsensitiveOption);
+    const int stem = name.lastIndexOf(ourSuffix);
+    return stem > 0 && stem == other.lastIndexOf(ourSuffix) && name.left(stem) == other.left(stem);
+}
+
+bool isSameInOtherCase(const QString &name, const QString &other)
+{
+    return name.compare(other, Qt::CaseInsensitive) == 0;
+}
+
 } // namespace
 
 QString PxImageNames::hint(const QString &name, const QFileInfo &file)
@@ -42,6 +56,9 @@ QString PxImageNames::hint(const QString &name, const QFileInfo &file)
     if (!path.endsWith(name) || fileName.isEmpty())
         return QString();
     const QString base = path.chopped(name.size()); // of names; a directory with its slash
+    const QString upper = inUpperCase(base, folder, fileName);
+    if (!upper.isEmpty())
+        return QString("the file is named \"%1\": rename it to lower case").arg(upper);
     QString meant = QFileInfo(base + tidy).isFile() ? tidy : elsewhere(base, fileName);
     if (meant.isEmpty()) {
         const QString similar = nearest(fileName, base + folder);
@@ -56,8 +73,8 @@ QString PxImageNames::elsewhere(const QString &base, const QString &fileName)
     constexpr int minimumLength = 3; // less begins many names
     QString only;
     int count = 0;
-    for (const QString &folder : foldersIn(base)) {
-        for (const QString &candidate : namesIn(base + folder)) {
+    for (const QString &folder : usable(foldersIn(base))) {
+        for (const QString &candidate : usable(namesIn(base + folder))) {
             if (candidate == fileName)
                 return folder + candidate;
             if (fileName.size() < minimumLength || !candidate.startsWith(fileName))
@@ -71,8 +88,39 @@ QString PxImageNames::elsewhere(const QString &base, const QString &fileName)
 
 QString PxImageNames::nearest(const QString &fileName, const QString &directory)
 {
-    const QString nearest = PxSpelling::nearest(fileName, namesIn(directory));
+    const QStringList names = usable(namesIn(directory));
+    for (const QString &name : names) {
+        if (isOtherFormat(fileName, name))
+            return name;
+    }
+    const QString nearest = PxSpelling::nearest(fileName, names);
     return isSlip(fileName, nearest) ? nearest : QString();
+}
+
+/** The path of the same file, if only upper-case letters in it keep the library from finding it. */
+QString PxImageNames::inUpperCase(const QString &base, const QString &folder,
+                                  const QString &fileName)
+{
+    for (const QString &other : m_kind == Kind::Lower ? foldersIn(base) : QStringList()) {
+        if (!isSameInOtherCase(folder, other))
+            continue;
+        for (const QString &name : namesIn(base + other)) {
+            if (isSameInOtherCase(fileName, name) && usable({other + name}).isEmpty())
+                return other + name;
+        }
+    }
+    return QString();
+}
+
+/** Without those that the library never finds. */
+QStringList PxImageNames::usable(const QStringList &names) const
+{
+    QStringList usable = names;
+    if (m_kind == Kind::Lower)
+        usable.erase(std::remove_if(usable.begin(), usable.end(),
+                                    [](const QString &name) { return name != name.toLower(); }),
+                     usable.end());
+    return usable;
 }
 
 QStringList PxImageNames::namesIn(const QString &directory)
@@ -84,9 +132,7 @@ QStringList PxImageNames::namesIn(const QString &directory)
     QDirIterator files(directory, QDir::Files);
     for (int i = 0; i < PxCheckLimits::imagesOfDirectory && files.hasNext(); ++i) {
         files.next();
-        const QString name = files.fileName();
-        if (m_kind == Kind::Any || name == name.toLower())
-            names.append(name);
+        names.append(files.fileName());
     }
     names.sort();
     m_names.insert(directory, names);
@@ -103,9 +149,7 @@ QStringList PxImageNames::foldersIn(const QString &base)
     QDirIterator directories(base, QDir::Dirs | QDir::NoDotAndDotDot);
     for (int i = 0; i < PxCheckLimits::foldersOfDirectory && directories.hasNext(); ++i) {
         directories.next();
-        const QString name = directories.fileName();
-        if (m_kind == Kind::Any || name == name.toLower())
-            folders.append(name + QLatin1Char('/'));
+        folders.append(directories.fileName() + QLatin1Char('/'));
     }
     folders.sort();
     m_folders.insert(base, folders);

@@ -18,13 +18,16 @@ public:
     /**
      * Suggests a name for the missing `file`, which a catalogue calls `name`: the same with other
      * slashes or without blanks, the same file name in another folder, the only file that begins
-     * so, or a similar one beside it. Empty if there is none.
+     * so, one beside it with another suffix, or a similar one there. A file that is not found
+     * because of its own upper-case letters is named to be renamed. Empty if there is none.
      */
     QString hint(const QString &name, const QFileInfo &file);
 
 private:
     QString elsewhere(const QString &base, const QString &fileName);
     QString nearest(const QString &fileName, const QString &directory);
+    QString inUpperCase(const QString &base, const QString &folder, const QString &fileName);
+    QStringList usable(const QStringList &names) const;
     QStringList namesIn(const QString &directory);
     QStringList foldersIn(const QString &base);
 
