@@ -101,7 +101,7 @@ bool isEveryProductRead(const PxCheckPaths &paths)
                        [](const auto &file) { return file.kind != PxFileKind::Product; });
 }
 
-QSet<QString> foldedNames(const QSet<QString> &names)
+QSet<QString> foldedNames(const QStringList &names)
 {
     QSet<QString> folded;
     for (const QString &name : names)
@@ -158,7 +158,7 @@ void PxCheck::run()
         m_themes.run();
         m_themeProducts.run();
     }
-    PxDirectoriesCheck(m_paths, {foldedNames(m_productNames), m_themes.ids(), m_namedTheme},
+    PxDirectoriesCheck(m_paths, {foldedNames(m_pagesOfProducts.keys()), m_themes.ids(), m_namedTheme},
                        PxReporter(m_findings))
         .run();
 }
