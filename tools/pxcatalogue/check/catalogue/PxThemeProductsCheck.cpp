@@ -1,5 +1,7 @@
 #include "check/catalogue/PxThemeProductsCheck.h"
 
+#include "check/PxCheckLimits.h"
+
 #include <PxXMLParser.h>
 
 #include <algorithm>
@@ -52,10 +54,14 @@ void PxThemeProductsCheck::addProduct(const PxCheckedProduct &product, bool isIn
         return;
     for (const PxPageEntry &entry : product.pages().read())
         size = size.expandedTo(description.usablePrintSize(entry.type, pageCount));
-    const int horizontal = std::max({0, description.bleedMarginNormal().horizontal(),
-                                     description.bleedMarginCover().horizontal()});
-    const int vertical = std::max(
-        {0, description.bleedMarginNormal().vertical(), description.bleedMarginCover().vertical()});
+    using PxCheckLimits::comparedSide;
+    if (size.width() > comparedSide || size.height() > comparedSide)
+        return;
+    const auto larger = [](int a, int b) { return qBound(0, std::max(a, b), comparedSide); };
+    const int horizontal = larger(description.bleedMarginNormal().horizontal(),
+                                  description.bleedMarginCover().horizontal());
+    const int vertical = larger(description.bleedMarginNormal().vertical(),
+                                description.bleedMarginCover().vertical());
     m_sheets[type] |=
         QRect(QPoint(0, 0), size).adjusted(-horizontal, -vertical, horizontal, vertical);
 }
@@ -81,7 +87,7 @@ void PxThemeProductsCheck::checkLogo(const Logo &logo) const
         return;
     const bool isBeside = logo.rect.left() < sheet->left() || logo.rect.right() > sheet->right();
     const int from = isBeside ? logo.rect.left() : logo.rect.top();
-    const qint64 to = qint64(from) + (isBeside ? logo.rect.width() : logo.rect.height());
+    const qint64 to = qint64(isBeside ? logo.rect.right() : logo.rect.bottom()) + 1;
     const int least = isBeside ? sheet->left() : sheet->top();
     const qint64 most = qint64(least) + (isBeside ? sheet->width() : sheet->height());
     m_report
