@@ -3,6 +3,8 @@
 #include "check/catalogue/PxCheck.h"
 #include "check/source/PxCheckedFile.h"
 #include "output/PxFindingsBaseline.h"
+#include "output/PxFindingsSarif.h"
+#include "output/PxFindingsText.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -35,11 +37,10 @@ template <typename... Arguments>
     std::abort();
 }
 
-bool isInside(const PxPlace &place, const QStringList &lines)
+bool isInside(const PxPlace &place, const PxSourceDocument &source)
 {
-    const auto isIn = [&lines](int line, int column) {
-        return line >= 1 && line <= lines.size() && column >= 1 &&
-               column <= lines.at(line - 1).toUcs4().size() + 1;
+    const auto isIn = [&source](int line, int column) {
+        return line >= 1 && column >= 1 && column <= source.line(line).toUcs4().size() + 1;
     };
     return isIn(place.line, place.column) && isIn(place.endLine, place.endColumn) &&
            (place.line < place.endLine ||
@@ -48,11 +49,10 @@ bool isInside(const PxPlace &place, const QStringList &lines)
 
 void checkPlaces(const PxCheckReport &report, const PxCheckedFile &file)
 {
-    const QStringList lines = file.source().text().split(QLatin1Char('\n'));
     for (const PxFinding &finding : report.findings) {
         // A file that cannot be read at all has no text.
         if (finding.place.path == file.path() && !file.source().text().isEmpty() &&
-            !isInside(finding.place, lines))
+            !isInside(finding.place, file.source()))
             fail("%s at %d:%d to %d:%d is outside of the file\n", finding.tag->name,
                  finding.place.line, finding.place.column, finding.place.endLine,
                  finding.place.endColumn);
@@ -85,6 +85,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     report.findings = findings.sorted();
     report.fileCount = check.fileCount();
     checkPlaces(report, file);
+    PxFindingsText::of(report, {}); // with the lines of the file
+    PxFindingsSarif::of(report);
     checkBaseline(report);
     return 0;
 }
