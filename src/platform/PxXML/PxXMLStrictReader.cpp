@@ -73,8 +73,8 @@ PxXMLFault PxXMLStrictReader::read()
 {
     const QTextCodec *codec = PxXMLEncoding::codecOf(m_bytes);
     // A declaration that can be read byte by byte is not in an encoding of wider characters.
-    if (codec && PxXMLEncoding::declared(m_bytes).hasMatch() &&
-        (codec->name().startsWith("UTF-16") || codec->name().startsWith("UTF-32")))
+    if (codec && (codec->name().startsWith("UTF-16") || codec->name().startsWith("UTF-32")) &&
+        PxXMLEncoding::declared(m_bytes).hasMatch())
         return faultAtEncoding(
             m_bytes, QStringLiteral("the file declares the encoding \"%1\", but is not in it")
                          .arg(PxXMLEncoding::declared(m_bytes).captured(1)));
