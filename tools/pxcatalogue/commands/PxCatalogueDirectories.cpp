@@ -94,6 +94,17 @@ bool isPartOfCatalogue()
            isDirectory(resource("themes"));
 }
 
+/** Why a directory that is named as PATH is no catalogue. */
+PxProblem problemOfPath(const QString &path)
+{
+    const QDir above = QFileInfo(path).absoluteDir();
+    if (above.exists("producttypes.xml"))
+        return {QString("\"%1\" is a part of the catalogue \"%2\": check that, or single files")
+                    .arg(path, above.path())};
+    return {QString("\"%1\" is no catalogue: it has no producttypes.xml, no products and no themes")
+                .arg(path)};
+}
+
 std::optional<PxProblem> readTypes()
 {
     const QString path = resource("producttypes.xml");
@@ -195,18 +206,15 @@ std::optional<PxProblem> PxCatalogueDirectories::apply(const PxCommandLine &line
 std::optional<PxProblem> PxCatalogueDirectories::applyForCheck(const PxCommandLine &line)
 {
     const QStringList paths = line.arguments();
-    const bool areFiles = !paths.isEmpty() && !isDirectory(paths.constFirst());
     auto problem = useGivenOnes(line, paths);
     if (!problem && paths.isEmpty() && !line.isSet("resources"))
         problem = problemOfEnvironment();
-    const QDir above = QFileInfo(paths.value(0)).absoluteDir();
-    if (!problem && !paths.isEmpty() && !areFiles && !isPartOfCatalogue() &&
-        above.exists("producttypes.xml"))
-        problem = PxProblem{QString("\"%1\" is a part of the catalogue \"%2\": check that, or "
-                                    "single files")
-                                .arg(paths.constFirst(), above.path())};
-    if (!problem && !areFiles && isPartOfCatalogue())
+    if (problem)
+        return problem;
+    const bool areFiles = !paths.isEmpty() && !isDirectory(paths.constFirst());
+    if (areFiles)
+        return findFiles(false, QString());
+    if (isPartOfCatalogue())
         return std::nullopt; // the check itself reports what is missing
-    // A directory that is named as PATH is the resource directory already.
-    return problem ? problem : findFiles(!areFiles, paths.isEmpty() ? howToNameIt : "");
+    return paths.isEmpty() ? findFiles(true, howToNameIt) : problemOfPath(paths.constFirst());
 }

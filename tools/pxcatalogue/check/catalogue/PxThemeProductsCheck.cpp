@@ -1,6 +1,6 @@
 #include "check/catalogue/PxThemeProductsCheck.h"
 
-#include "check/PxCheckLimits.h"
+#include "check/layout/PxProductPages.h"
 
 #include <PxXMLParser.h>
 
@@ -54,16 +54,13 @@ void PxThemeProductsCheck::addProduct(const PxCheckedProduct &product, bool isIn
         return;
     for (const PxPageEntry &entry : product.pages().read())
         size = size.expandedTo(description.usablePrintSize(entry.type, pageCount));
-    using PxCheckLimits::comparedSide;
-    if (size.width() > comparedSide || size.height() > comparedSide)
-        return;
-    const auto larger = [](int a, int b) { return qBound(0, std::max(a, b), comparedSide); };
-    const int horizontal = larger(description.bleedMarginNormal().horizontal(),
-                                  description.bleedMarginCover().horizontal());
-    const int vertical = larger(description.bleedMarginNormal().vertical(),
-                                description.bleedMarginCover().vertical());
-    m_sheets[type] |=
-        QRect(QPoint(0, 0), size).adjusted(-horizontal, -vertical, horizontal, vertical);
+    const QRect sheet = PxProductPages::sheet(size,
+                                              std::max(description.bleedMarginNormal().horizontal(),
+                                                       description.bleedMarginCover().horizontal()),
+                                              std::max(description.bleedMarginNormal().vertical(),
+                                                       description.bleedMarginCover().vertical()));
+    if (!sheet.isEmpty())
+        m_sheets[type] |= sheet;
 }
 
 void PxThemeProductsCheck::run() const

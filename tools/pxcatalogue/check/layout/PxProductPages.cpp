@@ -73,6 +73,16 @@ bool PxProductPages::isInOrder() const
     return isSound && (!spine || spine - m_product.pages().read().constData() == 1);
 }
 
+QRect PxProductPages::sheet(const QSize &page, int horizontalBleed, int verticalBleed)
+{
+    using PxCheckLimits::comparedSide;
+    if (page.isEmpty() || page.width() > comparedSide || page.height() > comparedSide)
+        return QRect();
+    const int h = qBound(0, horizontalBleed, comparedSide);
+    const int v = qBound(0, verticalBleed, comparedSide);
+    return QRect(QPoint(0, 0), page).adjusted(-h, -v, h, v);
+}
+
 QVector<PxPageContext> PxProductPages::contexts() const
 {
     QVector<PxPageContext> contexts;

@@ -4,6 +4,7 @@
 
 #include <geometry/PxPageContext.h>
 
+#include <QRect>
 #include <QVector>
 
 /** The pages of a product with each page count that it is sold with. */
@@ -25,6 +26,12 @@ public:
 
     /** The product must outlive this. */
     explicit PxProductPages(const PxCheckedProduct &product);
+
+    /**
+     * A page with its bleed, from its upper left corner. Empty if it is larger than any real one:
+     * computing with it might overflow.
+     */
+    static QRect sheet(const QSize &page, int horizontalBleed, int verticalBleed);
 
     /** False if the page list is ambiguous. Checks that depend on page numbers are skipped then. */
     bool isKnown() const { return !m_layouts.isEmpty(); }

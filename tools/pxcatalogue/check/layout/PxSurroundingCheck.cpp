@@ -154,16 +154,13 @@ QRect PxSurroundingCheck::rectOf(const PxSurroundingKey &page) const
     const PxProductTypeDescription &description = m_product.description();
     const QSize size =
         description.usablePrintSize(page.pageType(), m_pages.layouts().constLast().normalPageCount);
-    if (size.isEmpty() || size.width() > PxCheckLimits::comparedSide ||
-        size.height() > PxCheckLimits::comparedSide)
+    if (size.width() > PxCheckLimits::comparedSide || size.height() > PxCheckLimits::comparedSide)
         return QRect();
     const int times = page.alignment() == PxPageAlignmentFullPage ? 2 : 1;
     const PxBleedMargin bleed = page.pageType().matches(PxPageTypeCover)
                                     ? description.bleedMarginCover()
                                     : description.bleedMarginNormal();
-    const int h = qBound(0, bleed.horizontal(), PxCheckLimits::comparedSide);
-    const int v = qBound(0, bleed.vertical(), PxCheckLimits::comparedSide);
-    return QRect(QPoint(0, 0), size * times).adjusted(-h, -v, h, v);
+    return PxProductPages::sheet(size * times, bleed.horizontal(), bleed.vertical());
 }
 
 /** Spirals, handles and frames lie beside the page, but close to it. */
