@@ -44,7 +44,7 @@ QString text(const char *utf8)
     return QString::fromUtf8(utf8);
 }
 
-/** Writes a file; `write(xml)` writes what is below the declaration. */
+/** Writes a file; `write(xml)` writes what is below the declaration, which names the codec if any. */
 template <typename Write>
 bool writeFile(const QString &path, const char *codec, Write write)
 {
@@ -52,10 +52,12 @@ bool writeFile(const QString &path, const char *codec, Write write)
     if (!file.open(QIODevice::WriteOnly))
         return false;
     QXmlStreamWriter xml(&file);
-    xml.setCodec(codec);
     xml.setAutoFormatting(true);
     xml.setAutoFormattingIndent(2);
-    xml.writeStartDocument();
+    if (codec) {
+        xml.setCodec(codec);
+        xml.writeStartDocument();
+    }
     write(xml);
     xml.writeEndDocument();
     return !xml.hasError();
@@ -63,37 +65,36 @@ bool writeFile(const QString &path, const char *codec, Write write)
 
 } // namespace
 
-bool PxCatalogueGenerator::generate(const QDir &directory, int productCount, int themeCount)
+bool PxCatalogueGenerator::generate(const QDir &directory)
 {
     m_random.seed(std::mt19937::default_seed);
     if (!directory.mkpath(QStringLiteral("products/legacy")) ||
         !directory.mkpath(QStringLiteral("themes")) ||
         !directory.mkpath(QStringLiteral("defaults")))
         return false;
-    bool isWritten =
-        writeFile(directory.filePath(QStringLiteral("producttypes.xml")), "UTF-8",
-                  [&](QXmlStreamWriter &xml) { writeProductTypes(xml, productCount); });
-    for (int i = 0; i < productCount; ++i) {
-        const QString path =
-            directory.filePath(QStringLiteral("products/%1.xml").arg(productName(i).toLower()));
-        isWritten = writeFile(path, i % 50 == 7 ? "ISO-8859-1" : "UTF-8",
-                              [&](QXmlStreamWriter &xml) { writeProduct(xml, i); }) &&
-                    isWritten;
-    }
-    return writeFile(directory.filePath(QStringLiteral("themes/themes.xml")), "UTF-8",
-                     [&](QXmlStreamWriter &xml) {
-                         xml.writeStartElement(QStringLiteral("themes"));
-                         for (int i = 0; i < themeCount; ++i)
-                             writeTheme(xml, i, productCount);
-                         xml.writeEndElement();
-                     }) &&
-           isWritten;
+    bool isWritten = true;
+    const auto write = [&](const QString &name, const char *codec, auto content) {
+        isWritten = writeFile(directory.filePath(name), codec, content) && isWritten;
+    };
+    write(QStringLiteral("producttypes.xml"), "UTF-8",
+          [&](QXmlStreamWriter &xml) { writeProductTypes(xml); });
+    for (int i = 0; i < m_shape.products; ++i)
+        write(QStringLiteral("products/%1.xml").arg(productName(i).toLower()),
+              i % 50 == 7 ? "ISO-8859-1" : "UTF-8",
+              [&](QXmlStreamWriter &xml) { writeProduct(xml, i); });
+    for (int i = 0; i < m_shape.themes; i += m_shape.themesPerFile)
+        write(QStringLiteral("themes/themes-%1.xml").arg(i), "UTF-8",
+              [&](QXmlStreamWriter &xml) { writeThemes(xml, i); });
+    for (int i = 0; i < m_shape.userDefaults; ++i)
+        write(QStringLiteral("defaults/%1.xml").arg(productName(i)), nullptr,
+              [&](QXmlStreamWriter &xml) { writeUserDefaults(xml); });
+    return isWritten;
 }
 
-void PxCatalogueGenerator::writeProductTypes(QXmlStreamWriter &xml, int productCount)
+void PxCatalogueGenerator::writeProductTypes(QXmlStreamWriter &xml)
 {
     xml.writeStartElement(QStringLiteral("producttypes"));
-    for (int i = 0; i < productCount; ++i) {
+    for (int i = 0; i < m_shape.products + m_shape.moreTypes; ++i) {
         xml.writeEmptyElement(QStringLiteral("producttype"));
         xml.writeAttribute(QStringLiteral("code"), QString::number(i + 1));
         xml.writeAttribute(QStringLiteral("name"), productName(i));
@@ -155,7 +156,7 @@ void PxCatalogueGenerator::writeAttributes(QXmlStreamWriter &xml, int number)
 
 void PxCatalogueGenerator::writeSpines(QXmlStreamWriter &xml)
 {
-    const int count = random(20, 60);
+    const int count = random(20, 60) + m_shape.moreSpines;
     const int increment = random(1, 2) * 2;
     xml.writeStartElement(QStringLiteral("spines"));
     for (int i = 0; i < count; ++i) {
@@ -187,12 +188,13 @@ void PxCatalogueGenerator::writeDefaults(QXmlStreamWriter &xml, bool isBook)
 {
     constexpr const char *pageTypes[] = {"normalpage", "fullcover,spine", "emptypage"};
     constexpr int themeCount = int(std::size(themes));
+    const int count = (isBook ? random(12, 24) : random(8, 10)) + m_shape.moreTemplates;
     xml.writeStartElement(QStringLiteral("defaults"));
-    for (int i = 0, count = isBook ? random(12, 24) : random(8, 10); i < count; ++i) {
+    for (int i = 0; i < count; ++i) {
         xml.writeEmptyElement(QStringLiteral("defaults"));
         xml.writeAttribute(QStringLiteral("theme"), QLatin1String(themes[i % themeCount]));
         xml.writeAttribute(QStringLiteral("pageType"),
-                           QLatin1String(pageTypes[i / themeCount / 2]));
+                           QLatin1String(pageTypes[i / themeCount / 2 % std::size(pageTypes)]));
         xml.writeAttribute(QStringLiteral("alignment"), i / themeCount % 2 == 0
                                                             ? QStringLiteral("left")
                                                             : QStringLiteral("right,middle"));
@@ -252,7 +254,22 @@ void PxCatalogueGenerator::writeExtraPages(QXmlStreamWriter &xml)
     xml.writeEndElement();
 }
 
-void PxCatalogueGenerator::writeTheme(QXmlStreamWriter &xml, int number, int productCount)
+void PxCatalogueGenerator::writeUserDefaults(QXmlStreamWriter &xml)
+{
+    xml.writeStartElement(QStringLiteral("user"));
+    writeDefaults(xml, false);
+    xml.writeEndElement();
+}
+
+void PxCatalogueGenerator::writeThemes(QXmlStreamWriter &xml, int first)
+{
+    xml.writeStartElement(QStringLiteral("themes"));
+    for (int i = first; i < first + m_shape.themesPerFile && i < m_shape.themes; ++i)
+        writeTheme(xml, i);
+    xml.writeEndElement();
+}
+
+void PxCatalogueGenerator::writeTheme(QXmlStreamWriter &xml, int number)
 {
     xml.writeStartElement(QStringLiteral("theme"));
     xml.writeAttribute(QStringLiteral("id"), number == 0 ? QStringLiteral("normal")
@@ -266,7 +283,7 @@ void PxCatalogueGenerator::writeTheme(QXmlStreamWriter &xml, int number, int pro
     xml.writeEndElement();
     xml.writeStartElement(QStringLiteral("products"));
     for (int i = random(0, 30); i > 0; --i)
-        xml.writeTextElement(QStringLiteral("product"), productName(random(0, productCount - 1)));
+        xml.writeTextElement(QStringLiteral("product"), productName(random(0, m_shape.products - 1)));
     xml.writeEndElement();
     xml.writeEmptyElement(QStringLiteral("spinetext"));
     xml.writeAttribute(QStringLiteral("use"), QStringLiteral("true"));

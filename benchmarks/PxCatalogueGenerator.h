@@ -5,24 +5,38 @@
 
 #include <random>
 
+/** How large a catalogue is, and what its files hold. */
+struct PxCatalogueShape
+{
+    int products = 1000;
+    int themes = 100;
+    int themesPerFile = 100;
+    int moreSpines = 0;    ///< of each book
+    int moreTemplates = 0; ///< of each product
+    int moreTypes = 0;     ///< rows of producttypes.xml without a product
+    int userDefaults = 0;  ///< files
+};
+
 /**
- * Writes catalogues of any size that resemble real ones. The same size always gives the same
+ * Writes catalogues of any size that resemble real ones. The same shape always gives the same
  * catalogue.
  *
- * Product files have 2 to 8 KB. A third of them are books with 20 to 60 page counts, a third have
- * comments, and a few are in ISO-8859-1.
+ * Product files have 2 to 8 KB, if their shape asks for no more. A third of them are books with 20
+ * to 60 page counts, a third have comments, and a few are in ISO-8859-1.
  */
 class PxCatalogueGenerator
 {
 public:
+    explicit PxCatalogueGenerator(const PxCatalogueShape &shape) : m_shape(shape) {}
+
     /**
      * Writes a catalogue over the contents of the directory. Returns whether all files could be
      * written.
      */
-    bool generate(const QDir &directory, int productCount, int themeCount);
+    bool generate(const QDir &directory);
 
 private:
-    void writeProductTypes(QXmlStreamWriter &xml, int productCount);
+    void writeProductTypes(QXmlStreamWriter &xml);
     void writeProduct(QXmlStreamWriter &xml, int number);
     void writeAttributes(QXmlStreamWriter &xml, int number);
     void writeSpines(QXmlStreamWriter &xml);
@@ -32,9 +46,12 @@ private:
     void writeBarcodes(QXmlStreamWriter &xml);
     void writeVariants(QXmlStreamWriter &xml);
     void writeExtraPages(QXmlStreamWriter &xml);
-    void writeTheme(QXmlStreamWriter &xml, int number, int productCount);
+    void writeUserDefaults(QXmlStreamWriter &xml);
+    void writeThemes(QXmlStreamWriter &xml, int first);
+    void writeTheme(QXmlStreamWriter &xml, int number);
     /** A random number from the smallest to the largest, including both. */
     int random(int smallest, int largest);
 
+    const PxCatalogueShape m_shape;
     std::mt19937 m_random; // gives the same numbers everywhere
 };

@@ -22,7 +22,9 @@ void ignoreLog(QtMsgType type, const QMessageLogContext &, const QString &text)
 QString generated(const QTemporaryDir &directory, int productCount)
 {
     const QString path = directory.filePath(QString::number(productCount));
-    if (!PxCatalogueGenerator().generate(QDir(path), productCount, 100))
+    PxCatalogueShape shape;
+    shape.products = productCount;
+    if (!PxCatalogueGenerator(shape).generate(QDir(path)))
         qFatal("The catalogue cannot be written.");
     return path;
 }
