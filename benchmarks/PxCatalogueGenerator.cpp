@@ -44,7 +44,8 @@ QString text(const char *utf8)
     return QString::fromUtf8(utf8);
 }
 
-/** Writes a file; `write(xml)` writes what is below the declaration, which names the codec if any. */
+/** Writes a file; `write(xml)` writes what is below the declaration, which names the codec if any.
+ */
 template <typename Write>
 bool writeFile(const QString &path, const char *codec, Write write)
 {
@@ -283,7 +284,8 @@ void PxCatalogueGenerator::writeTheme(QXmlStreamWriter &xml, int number)
     xml.writeEndElement();
     xml.writeStartElement(QStringLiteral("products"));
     for (int i = random(0, 30); i > 0; --i)
-        xml.writeTextElement(QStringLiteral("product"), productName(random(0, m_shape.products - 1)));
+        xml.writeTextElement(QStringLiteral("product"),
+                             productName(random(0, m_shape.products - 1)));
     xml.writeEndElement();
     xml.writeEmptyElement(QStringLiteral("spinetext"));
     xml.writeAttribute(QStringLiteral("use"), QStringLiteral("true"));

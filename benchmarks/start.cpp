@@ -27,8 +27,8 @@ void require(bool isRight, const char *what)
 
 void readWithQt(const QString &directory)
 {
-    const QFileInfoList files = QDir(directory).entryInfoList({QStringLiteral("*.xml")},
-                                                              QDir::Files, QDir::Unsorted);
+    const QFileInfoList files =
+        QDir(directory).entryInfoList({QStringLiteral("*.xml")}, QDir::Files, QDir::Unsorted);
     for (const QFileInfo &info : files) {
         QFile file(info.filePath());
         QDomDocument document;

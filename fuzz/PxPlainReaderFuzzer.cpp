@@ -7,7 +7,8 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const char *text = reinterpret_cast<const char *>(data);
-    const QDomDocument document = PxXMLPlainReader({text, size}).read();
+    static PxXMLTextPool ourTexts; // as a thread that loads file after file has them
+    const QDomDocument document = PxXMLPlainReader({text, size}, ourTexts).read();
     PxXMLStrictReader strict(QByteArray(text, int(size)));
     const bool isRefused = strict.read().kind != PxXMLFault::Kind::None;
     if (!document.isNull() && (isRefused || document.toString() != strict.document().toString()))

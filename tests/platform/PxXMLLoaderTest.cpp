@@ -3,7 +3,7 @@
 #include <PxXMLLoader.h>
 #include <PxXMLPlainReader.h>
 #include <PxXMLStrictReader.h>
-#include <PxXMLTextPool.h>
+#include <PxXMLScratch.h>
 
 #include <QDirIterator>
 #include <QTemporaryDir>
@@ -70,7 +70,8 @@ QByteArray withNodes(int count)
 
 QDomDocument plain(const QByteArray &xml)
 {
-    return PxXMLPlainReader({xml.constData(), std::size_t(xml.size())}).read();
+    PxXMLTextPool texts;
+    return PxXMLPlainReader({xml.constData(), std::size_t(xml.size())}, texts).read();
 }
 
 /** Empty when the readers agree. */
@@ -404,31 +405,31 @@ void PxXMLLoaderTest::plainReaderReadsUpToItsLimits()
 void PxXMLLoaderTest::sharesTextsWithinAThread()
 {
     const auto isShared = [](int length) {
-        const PxXMLTextPool::Loan pool = PxXMLTextPool::lend();
+        PxXMLTextPool pool;
         const std::string text(std::size_t(length), 'x');
-        const QString first = pool->text(text);
-        return pool->text(text).constData() == first.constData();
+        const QString first = pool.text(text);
+        return pool.text(text).constData() == first.constData();
     };
-    QVERIFY(isShared(64));
-    QVERIFY(!isShared(65));
+    QVERIFY(isShared(55));
+    QVERIFY(!isShared(56));
 
-    std::vector<PxXMLTextPool::Loan> loans;
+    std::vector<PxXMLScratch::Loan> loans;
     QStringList texts;
-    const auto hasText = [&texts](const PxXMLTextPool::Loan &pool) {
-        const QChar *own = pool->text("recurring").constData();
+    const auto hasText = [&texts](const PxXMLScratch::Loan &scratch) {
+        const QChar *own = scratch->texts().text("recurring").constData();
         return std::any_of(texts.begin(), texts.end(),
                            [own](const QString &text) { return text.constData() == own; });
     };
     for (int i = 0; i < 17; ++i) {
-        loans.push_back(PxXMLTextPool::lend());
-        texts.append(loans.back()->text("recurring"));
+        loans.push_back(PxXMLScratch::lend());
+        texts.append(loans.back()->texts().text("recurring"));
     }
     loans.clear();
     bool hasForeignText = true;
-    std::thread([&] { hasForeignText = hasText(PxXMLTextPool::lend()); }).join();
+    std::thread([&] { hasForeignText = hasText(PxXMLScratch::lend()); }).join();
     QVERIFY(!hasForeignText);
     for (int i = 0; i < 17; ++i)
-        loans.push_back(PxXMLTextPool::lend());
+        loans.push_back(PxXMLScratch::lend());
     QCOMPARE(int(std::count_if(loans.begin(), loans.end(), hasText)), 16); // so many are kept
 }
 

@@ -1,6 +1,7 @@
 #include "PxXMLLoader.h"
 
 #include "PxXMLPlainReader.h"
+#include "PxXMLScratch.h"
 #include "PxXMLStrictReader.h"
 
 #include <QByteArray>
@@ -30,47 +31,54 @@ PxXMLFault cannotOpen(const QString &reason)
 }
 
 /**
- * Opens a regular file. If a pipe has taken the place of the file meanwhile, it neither waits for
- * the pipe nor reads it.
+ * Opens a regular file and finds its size. If a pipe has taken the place of the file meanwhile, it
+ * neither waits for the pipe nor reads it.
  */
-PxXMLFault open(QFile &file)
+PxXMLFault open(QFile &file, qint64 &size)
 {
     constexpr QIODevice::OpenMode mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
-    if (file.fileName().startsWith(QLatin1Char(':'))) // compiled in
-        return file.open(mode) ? PxXMLFault() : cannotOpen(file.errorString());
+    if (file.fileName().startsWith(QLatin1Char(':'))) { // compiled in
+        const bool isOpen = file.open(mode);
+        size = file.size();
+        return isOpen ? PxXMLFault() : cannotOpen(file.errorString());
+    }
     const int handle =
         ::open(QFile::encodeName(file.fileName()), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (handle == -1)
         return cannotOpen(qt_error_string(errno));
     struct stat status = {};
     if (fstat(handle, &status) == 0 && S_ISREG(status.st_mode) &&
-        file.open(handle, mode, QFileDevice::AutoCloseHandle))
+        file.open(handle, mode, QFileDevice::AutoCloseHandle)) {
+        size = status.st_size;
         return {};
+    }
     close(handle);
     return unreadable(noRegularFile());
 }
 
 /** Reads the whole file, if it is a regular one. */
-PxXMLFault readBytes(const QString &path, QByteArray &bytes)
+PxXMLFault readBytes(const QFileInfo &info, QByteArray &bytes)
 {
+    const QString path = info.filePath();
     if (path.isEmpty())
         return unreadable(QStringLiteral("no file name is given"));
-    const QFileInfo info(path); // a new one: the caller's may have cached old data
-    // A pipe or a device could block forever, or never end.
-    if (!info.isFile())
-        return unreadable(info.exists() ? noRegularFile()
-                                        : QStringLiteral("there is no such file"));
+    // A pipe or a device could block forever, or never end. What the caller's QFileInfo knows may
+    // be old: if it knows of a regular file, opening finds out.
+    if (!info.isFile() && !QFileInfo(path).isFile())
+        return unreadable(QFileInfo::exists(path) ? noRegularFile()
+                                                  : QStringLiteral("there is no such file"));
     QFile file(path);
-    PxXMLFault fault = open(file);
+    qint64 size = 0;
+    PxXMLFault fault = open(file, size);
     if (fault.kind != PxXMLFault::Kind::None)
         return fault;
-    const qint64 size = file.size();
     if (size > PxXMLLoader::maximumFileSize)
         return {PxXMLFault::Kind::Limit,
                 QStringLiteral("the file has %1 bytes, no more than %2 are allowed")
                     .arg(size)
                     .arg(PxXMLLoader::maximumFileSize)};
-    bytes = file.read(size);
+    bytes.resize(int(size));
+    bytes.resize(int(qMax(qint64(0), file.read(bytes.data(), size))));
     if (file.error() != QFile::NoError)
         return unreadable(QStringLiteral("the file cannot be read: ") + file.errorString());
     return {};
@@ -106,12 +114,14 @@ QString errorOf(const QFileInfo &file, const PxXMLFault &fault)
 
 QDomDocument PxXMLLoader::loadDocument(const QFileInfo &file, PxXMLFault &fault)
 {
-    QByteArray bytes;
-    fault = readBytes(file.filePath(), bytes);
+    const PxXMLScratch::Loan scratch = PxXMLScratch::lend();
+    QByteArray &bytes = scratch->bytes();
+    fault = readBytes(file, bytes);
     if (fault.kind != PxXMLFault::Kind::None)
         return QDomDocument();
 
-    const QDomDocument document = PxXMLPlainReader(withoutByteOrderMark(bytes)).read();
+    const QDomDocument document =
+        PxXMLPlainReader(withoutByteOrderMark(bytes), scratch->texts()).read();
     if (!document.isNull()) {
         fault.encoding = QStringLiteral("UTF-8");
         return document;

@@ -86,8 +86,9 @@ std::optional<QString> resolved(QStringView text)
 
 } // namespace
 
-PxXMLPlainReader::PxXMLPlainReader(std::string_view text)
+PxXMLPlainReader::PxXMLPlainReader(std::string_view text, PxXMLTextPool &texts)
     : m_text(text)
+    , m_texts(texts)
     , m_document(QDomDocumentType())
     , m_parent(m_document)
 {}
@@ -164,7 +165,7 @@ bool PxXMLPlainReader::readStartTag()
     if (name.empty() || (m_open.empty() && m_hasRoot) ||
         int(m_open.size()) >= PxXMLLoader::maximumDepth)
         return false;
-    QDomElement element = m_document.createElement(m_texts->text(name));
+    QDomElement element = m_document.createElement(m_texts.text(name));
     m_attributes.clear();
     bool hasBlank = skipBlanks();
     while (hasBlank && is(current(), NameStart)) {
@@ -208,7 +209,7 @@ bool PxXMLPlainReader::readAttribute(QDomElement &element)
     if (!decoded)
         return false;
     ++m_nodes; // add() compares, for the element
-    element.setAttribute(m_texts->text(name), *decoded);
+    element.setAttribute(m_texts.text(name), *decoded);
     return true;
 }
 
@@ -288,7 +289,7 @@ std::optional<QString> PxXMLPlainReader::decode(std::string_view utf8)
     // QString would drop a byte order mark at the start, although it is an ordinary character here.
     if (!isAscii && utf8.substr(0, byteOrderMark.size()) == byteOrderMark)
         return std::nullopt;
-    QString text = m_texts->text(utf8);
+    QString text = m_texts.text(utf8);
     // Invalid UTF-8 becomes the replacement character; U+FFFE and U+FFFF are not characters.
     if (!isAscii && (text.contains(QChar::ReplacementCharacter) || text.contains(QChar(0xFFFE)) ||
                      text.contains(QChar(0xFFFF))))

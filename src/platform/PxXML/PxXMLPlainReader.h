@@ -20,8 +20,8 @@
 class PxXMLPlainReader
 {
 public:
-    /** The text has no byte order mark and must outlive the reader. */
-    explicit PxXMLPlainReader(std::string_view text);
+    /** The text has no byte order mark; it and the pool must outlive the reader. */
+    PxXMLPlainReader(std::string_view text, PxXMLTextPool &texts);
 
     /** A null document if the text has anything that this reader does not know. */
     QDomDocument read();
@@ -47,7 +47,7 @@ private:
 
     std::string_view m_text;
     std::size_t m_position = 0;
-    const PxXMLTextPool::Loan m_texts = PxXMLTextPool::lend();
+    PxXMLTextPool &m_texts;
     QDomDocument m_document;
     QDomNode m_parent;
     QDomNode m_textNode;                  // copied, because a new text node would allocate its name
