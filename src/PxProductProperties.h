@@ -72,6 +72,7 @@
 #include <PxKeyword.h>
 #include <PxListParts.h>
 #include <PxLookUpTable.h>
+#include <PxMessage.h>
 #include <PxOrientation.h>
 #include <PxPageAlignment.h>
 #include <PxPageCountOrganization.h>

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "PxKeyword.h"
+#include "PxMessage.h"
 #include "PxMessageLimit.h"
 #include "splitEnumType.h"
 
-#include <QDebug>
 #include <QHash>
 #include <QList>
 #include <QSet>
@@ -81,7 +81,7 @@ public:
     static void reportMoreUndecodable(int undecodable)
     {
         if (undecodable > pxMaximumMessages)
-            QMessageLogger("../PxTemplateClasses/PxEnumToStringTable", 161, Q_FUNC_INFO).debug()
+            PxMessageLogger("../PxTemplateClasses/PxEnumToStringTable", 161, Q_FUNC_INFO).debug()
                 << "undecodable: (using default in " << typeid(ENUM).name() << ")"
                 << undecodable - pxMaximumMessages << "more";
     }
@@ -135,7 +135,7 @@ private:
 
     static void reportUndecodable(const QString &keyword, const char *function)
     {
-        QMessageLogger("../PxTemplateClasses/PxEnumToStringTable", 161, function).debug()
+        PxMessageLogger("../PxTemplateClasses/PxEnumToStringTable", 161, function).debug()
             << "undecodable: (using default in " << typeid(ENUM).name() << ")" << keyword;
     }
 

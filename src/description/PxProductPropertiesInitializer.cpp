@@ -5,11 +5,11 @@
 #include "description/PxProductTypeDescriptionReader.h"
 
 #include <PxDirectoryConfig.h>
+#include <PxMessage.h>
 #include <PxPageOrganizationManager.h>
 #include <PxProductCheckerRegistry.h>
 
 #include <QDate>
-#include <QDebug>
 #include <QDir>
 #include <QFileInfo>
 #include <QString>
@@ -38,14 +38,14 @@ void warnOfMissingProducts()
         return;
     const QStringList filter = PxProductTypeDescriptionReader::fileFilter();
     if (QDir(products).entryList(filter, QDir::Files).isEmpty()) {
-        qWarning() << "PxProductPropertiesInitializer::setupModule found no product file in"
-                   << products;
+        pxWarning() << "PxProductPropertiesInitializer::setupModule found no product file in"
+                    << products;
         return;
     }
     const QString types = config->resource(QStringLiteral("producttypes.xml"), true);
     if (QFileInfo::exists(types))
-        qWarning() << "PxProductPropertiesInitializer::setupModule found no product on offer in"
-                   << products << "with the product types of" << types;
+        pxWarning() << "PxProductPropertiesInitializer::setupModule found no product on offer in"
+                    << products << "with the product types of" << types;
 }
 
 } // namespace

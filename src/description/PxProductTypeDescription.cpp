@@ -4,10 +4,10 @@
 
 #include <PxDirectoryConfig.h>
 #include <PxListParts.h>
+#include <PxMessage.h>
 #include <PxXMLLoader.h>
 #include <PxXMLParser.h>
 
-#include <QDebug>
 #include <QDir>
 #include <QDomElement>
 #include <QFileInfo>
@@ -218,10 +218,10 @@ QString PxProductTypeDescription::firstEntries(const QString &list, const char *
             end = i;
     }
     if (end != -1)
-        qWarning().nospace() << "PxProductTypeDescription::" << method << ' ' << entries
-                             << " entries in \"" << attribute << "\" of "
-                             << product.attribute(QStringLiteral("name"))
-                             << " - used are the first " << maximumListEntries;
+        pxWarning().nospace() << "PxProductTypeDescription::" << method << ' ' << entries
+                              << " entries in \"" << attribute << "\" of "
+                              << product.attribute(QStringLiteral("name"))
+                              << " - used are the first " << maximumListEntries;
     return list.left(end);
 }
 

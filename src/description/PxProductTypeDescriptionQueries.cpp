@@ -4,7 +4,7 @@
 
 #include "geometry/PxClampedArithmetic.h"
 
-#include <QDebug>
+#include <PxMessage.h>
 
 #include <algorithm>
 #include <iterator>
@@ -154,9 +154,10 @@ PxPageTypeList PxProductTypeDescription::pageTypes(int pageCount) const
         int count = 1;
         switch (pageType.value()) {
         case PxPageTypeNone:
-            QMessageLogger("PxProductTypeDescription", 459,
-                           "PxPageTypeList PxProductTypeDescription::pageTypes(int) const")
-                .warning("Illegaler Seitentyp in fotobook.xml");
+            PxMessageLogger("PxProductTypeDescription", 459,
+                            "PxPageTypeList PxProductTypeDescription::pageTypes(int) const")
+                    .warning()
+                << "Illegaler Seitentyp in fotobook.xml";
             continue;
         case PxPageTypeDuplexMonthCalendar:
         case PxPageTypeSimplexYearCalendar:
@@ -181,9 +182,9 @@ PxPageTypeList PxProductTypeDescription::pageTypes(int pageCount) const
 
 void PxProductTypeDescription::warnOfTooManyPages(const char *method, int pageCount) const
 {
-    qWarning().nospace() << "PxProductTypeDescription::" << method << " too many pages of "
-                         << m_classification.productType().productName() << " with the page count "
-                         << pageCount << ": the list ends after " << maximumListedPages;
+    pxWarning().nospace() << "PxProductTypeDescription::" << method << " too many pages of "
+                          << m_classification.productType().productName() << " with the page count "
+                          << pageCount << ": the list ends after " << maximumListedPages;
 }
 
 PxPageAlignment PxProductTypeDescription::pageAlignment(int page) const
@@ -263,11 +264,12 @@ QSize PxProductTypeDescription::usablePrintSize(const PxPageType &pageType, int 
         return coverSize();
     case PxPageTypeSpine:
         if (pageCount == -1)
-            QMessageLogger("PxProductTypeDescription", 264,
-                           "QSize PxProductTypeDescription::usablePrintSize(const PxPageType&, "
-                           "int) const")
-                .warning("Fehler PxProductTypeDescription::usablePrintSize wurde mit dem "
-                         "Buchrücken aufgerufen ohne das eine Seitenanzahl angegeben wurde!");
+            PxMessageLogger("PxProductTypeDescription", 264,
+                            "QSize PxProductTypeDescription::usablePrintSize(const PxPageType&, "
+                            "int) const")
+                    .warning()
+                << "Fehler PxProductTypeDescription::usablePrintSize wurde mit dem "
+                   "Buchrücken aufgerufen ohne das eine Seitenanzahl angegeben wurde!";
         return QSize(spineWidth(pageCount), coverSize().height());
     default:
         return m_usableSize;

@@ -3,9 +3,9 @@
 #include "description/PxProductTypeDescription.h"
 #include "values/PxUndecodableNames.h"
 
+#include <PxMessage.h>
 #include <PxXMLLoader.h>
 
-#include <QDebug>
 #include <QDomElement>
 #include <QFileInfo>
 #include <QString>
@@ -55,9 +55,9 @@ QPair<PxProductType, PxProductTypeDescription *> PxProductTypeDescriptionReader:
         constexpr const char *function =
             "QPair<PxProductType, PxProductTypeDescription*> "
             "PxProductTypeDescriptionReader::readFile(const QFileInfo&)";
-        QMessageLogger(source, 78, function).warning()
+        PxMessageLogger(source, 78, function).warning()
             << "PxProductTypeDescriptionReader::readFile could not open" << file.absoluteFilePath();
-        QMessageLogger(source, 79, function).debug().noquote()
+        PxMessageLogger(source, 79, function).debug().noquote()
             << "PxProductTypeDescriptionReader::readFile the reason:" << error;
         return qMakePair(PxProductType(), static_cast<PxProductTypeDescription *>(nullptr));
     }

@@ -1,5 +1,6 @@
 #include "geometry/PxContentDropRedirectList.h"
 
+#include <PxMessage.h>
 #include <PxMessageLimit.h>
 #include <PxXMLParser.h>
 
@@ -23,17 +24,17 @@ PxContentDropRedirectList::PxContentDropRedirectList(const QDomElement &parent)
         const int target = PxXMLParser::intAttribute(e, QStringLiteral("to"), -1);
         if (!hasFirst || !hasLast || last < 0 || target < 0) {
             if (++unreadable <= pxMaximumMessages)
-                QMessageLogger("PxContentDropRedirectList", __LINE__, Q_FUNC_INFO)
-                    .warning("PxContentDropRedirectList::PxContentDropRedirectList parse error");
+                PxMessageLogger("PxContentDropRedirectList", __LINE__, Q_FUNC_INFO).warning()
+                    << "PxContentDropRedirectList::PxContentDropRedirectList parse error";
             continue;
         }
         if (first <= last)
             m_ranges.append({first, last, target});
     }
     if (unreadable > pxMaximumMessages)
-        QMessageLogger("PxContentDropRedirectList", __LINE__, Q_FUNC_INFO)
-            .warning("PxContentDropRedirectList::PxContentDropRedirectList %d more parse errors",
-                     unreadable - pxMaximumMessages);
+        PxMessageLogger("PxContentDropRedirectList", __LINE__, Q_FUNC_INFO).warning()
+            << "PxContentDropRedirectList::PxContentDropRedirectList"
+            << unreadable - pxMaximumMessages << "more parse errors";
 }
 
 int PxContentDropRedirectList::targetPage(int page) const

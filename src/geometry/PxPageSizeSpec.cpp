@@ -2,6 +2,8 @@
 
 #include "geometry/PxClampedArithmetic.h"
 
+#include <PxMessage.h>
+
 #include <QAtomicInteger>
 #include <QDebug>
 
@@ -26,8 +28,8 @@ PxPageSizeSpec::PxPageSizeSpec(const PxPageSizeSpec &other)
     static QAtomicInteger<quint32> ourCopies;
     const quint32 copies = ourCopies.fetchAndAddRelaxed(1) + 1;
     if (copies % 100 == 0)
-        QMessageLogger("PxPageSizeSpec", 45, Q_FUNC_INFO).debug() << "PxPageSizeSpec__CC"
-                                                                  << " counts " << copies;
+        PxMessageLogger("PxPageSizeSpec", 45, Q_FUNC_INFO).debug() << "PxPageSizeSpec__CC"
+                                                                   << " counts " << copies;
 }
 
 PxPageSizeSpec &PxPageSizeSpec::operator=(const PxPageSizeSpec &other) = default;

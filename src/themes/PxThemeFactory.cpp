@@ -6,12 +6,12 @@
 
 #include <PxCreateOnce.h>
 #include <PxDirectoryConfig.h>
+#include <PxMessage.h>
 #include <PxXMLLoader.h>
 #include <PxXMLParser.h>
 
 #include <QAtomicPointer>
 #include <QDateTime>
-#include <QDebug>
 #include <QDir>
 #include <QDomElement>
 #include <QFileInfo>
@@ -215,7 +215,7 @@ PxThemeList PxThemeFactory::findThemesWhichAcceptNormalLayouts() const
 void PxThemeFactory::init()
 {
     QDir directory = PxDirectoryConfig::instance()->lumoThemesDirectory(false);
-    qDebug()
+    pxDebug()
         << QStringLiteral("PxThemeFactory::init() directory: %1").arg(directory.absolutePath());
     m_themeList = loadThemeList(directory);
 
@@ -239,20 +239,20 @@ PxThemeList PxThemeFactory::loadThemeList(QDir &directory)
         QString error;
         const QDomElement root = PxXMLLoader::loadDocumentElement(file, &error);
         if (root.isNull()) {
-            qWarning().noquote()
+            pxWarning().noquote()
                 << QStringLiteral("PxThemeFactory::loadThemeList Could not open config file: %2/%1")
                        .arg(file.absoluteFilePath(), QDir::currentPath());
-            qDebug().noquote() << "PxThemeFactory::loadThemeList the reason:" << error;
+            pxDebug().noquote() << "PxThemeFactory::loadThemeList the reason:" << error;
             continue;
         }
         if (root.tagName().toLower() != QLatin1String("themes"))
             continue;
-        qDebug() << "PxThemeFactory::loadThemeList()" << root.childNodes().count();
+        pxDebug() << "PxThemeFactory::loadThemeList()" << root.childNodes().count();
         int themesOfFile = 0;
         for (QDomNode node = root.firstChild(); !node.isNull(); node = node.nextSibling()) {
             if (++themesOfFile > maximumThemes) {
-                qWarning() << "PxThemeFactory::loadThemeList used are the first" << maximumThemes
-                           << "themes of" << file.absoluteFilePath();
+                pxWarning() << "PxThemeFactory::loadThemeList used are the first" << maximumThemes
+                            << "themes of" << file.absoluteFilePath();
                 break;
             }
             const PxTheme theme = readTheme(node.toElement(), images);

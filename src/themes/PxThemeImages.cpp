@@ -2,8 +2,9 @@
 
 #include "themes/PxPictureData.h"
 
+#include <PxMessage.h>
+
 #include <QCoreApplication>
-#include <QDebug>
 #include <QFile>
 #include <QFileInfo>
 #include <QIODevice>
@@ -95,9 +96,9 @@ QString PxThemeImages::fileOf(const QString &path)
             return file;
     }
     if (--m_searchesLeft == 0)
-        qWarning() << "PxThemeImages::fileOf too many images are missing: none is looked for by "
-                      "another suffix behind"
-                   << path;
+        pxWarning() << "PxThemeImages::fileOf too many images are missing: none is looked for by "
+                       "another suffix behind"
+                    << path;
     return QString();
 }
 
@@ -120,7 +121,7 @@ PxThemeImages::Result PxThemeImages::read(const QString &path)
                                        : QStringLiteral("is no regular file");
         // The path of a logo that names no image is the resource directory: no warning then.
         if (result.isThere && !info.isDir())
-            qWarning() << "PxThemeImages::read" << path << qUtf8Printable(result.fault);
+            pxWarning() << "PxThemeImages::read" << path << qUtf8Printable(result.fault);
         return result;
     }
     QFile file(name);
@@ -141,7 +142,7 @@ PxThemeImages::Result PxThemeImages::read(const QString &path)
         result = decode(file.read(maximumFileSize));
     result.isThere = true;
     if (!result.fault.isEmpty())
-        qWarning() << "PxThemeImages::read" << name << qUtf8Printable(result.fault);
+        pxWarning() << "PxThemeImages::read" << name << qUtf8Printable(result.fault);
     if (!id.isEmpty())
         m_ofFile.insert(id, result);
     setPixelRatio(&result.image, name);

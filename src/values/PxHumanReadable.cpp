@@ -2,11 +2,11 @@
 
 #include <PxCreateOnce.h>
 #include <PxDirectoryConfig.h>
+#include <PxMessage.h>
 #include <PxMessageLimit.h>
 #include <PxXMLLoader.h>
 
 #include <QAtomicPointer>
-#include <QDebug>
 #include <QDomElement>
 #include <QFileInfo>
 #include <QMutex>
@@ -50,7 +50,7 @@ void PxHumanReadable::initTemplateNames()
     QString error;
     const QDomElement frames = PxXMLLoader::loadDocumentElement(file, &error);
     if (frames.isNull())
-        qWarning() << "PxHumanReadable::initTemplateNames could not open" << error;
+        pxWarning() << "PxHumanReadable::initTemplateNames could not open" << error;
     const QString tag = QStringLiteral("frame");
     int incomplete = 0;
     for (QDomElement e = frames.firstChildElement(tag); !e.isNull();
@@ -60,12 +60,12 @@ void PxHumanReadable::initTemplateNames()
         if (!id.isEmpty() && !name.isEmpty())
             m_templateNames.insert(id, tr(name.toUtf8().constData()));
         else if (++incomplete <= pxMaximumMessages)
-            qWarning() << "PxHumanReadable::initTemplateNames frame without id or name" << id
-                       << name;
+            pxWarning() << "PxHumanReadable::initTemplateNames frame without id or name" << id
+                        << name;
     }
     if (incomplete > pxMaximumMessages)
-        qWarning() << "PxHumanReadable::initTemplateNames" << incomplete - pxMaximumMessages
-                   << "more frames without id or name";
+        pxWarning() << "PxHumanReadable::initTemplateNames" << incomplete - pxMaximumMessages
+                    << "more frames without id or name";
 }
 
 void PxHumanReadable::initFotoPaperTypeNames()

@@ -1,7 +1,8 @@
 #include "values/PxUndecodableNames.h"
 
+#include <PxMessage.h>
+
 #include <QByteArray>
-#include <QDebug>
 #include <QFile>
 #include <QString>
 
@@ -33,7 +34,8 @@ int PxUndecodableNames::count(const QString &directory)
 void PxUndecodableNames::warn(const QString &directory)
 {
     if (const int files = count(directory))
-        qWarning() << "PxUndecodableNames::warn files are not read, for their names are not in the "
-                      "encoding of the locale:"
-                   << files << "in" << directory;
+        pxWarning()
+            << "PxUndecodableNames::warn files are not read, for their names are not in the "
+               "encoding of the locale:"
+            << files << "in" << directory;
 }

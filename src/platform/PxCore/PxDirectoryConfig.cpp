@@ -1,10 +1,10 @@
 #include "PxDirectoryConfig.h"
 
 #include <PxCreateOnce.h>
+#include <PxMessage.h>
 
 #include <QAtomicPointer>
 #include <QCoreApplication>
-#include <QDebug>
 #include <QFile>
 #include <QFileInfo>
 #include <QMutex>
@@ -68,7 +68,7 @@ QString PxDirectoryConfig::resource(const QString &name, bool reportMissing) con
     const auto named = m_resources.constFind(name);
     if (named != m_resources.constEnd()) {
         if (reportMissing && !QFileInfo::exists(*named))
-            qWarning() << "PxDirectoryConfig::resource" << name << "is missing, set to" << *named;
+            pxWarning() << "PxDirectoryConfig::resource" << name << "is missing, set to" << *named;
         return *named;
     }
     for (const QString &directory : m_resourceDirectories) {
@@ -77,8 +77,8 @@ QString PxDirectoryConfig::resource(const QString &name, bool reportMissing) con
             return path;
     }
     if (reportMissing)
-        qWarning() << "PxDirectoryConfig::resource" << name << "is missing, searched in"
-                   << m_resourceDirectories;
+        pxWarning() << "PxDirectoryConfig::resource" << name << "is missing, searched in"
+                    << m_resourceDirectories;
     return QDir(m_resourceDirectories.first()).absoluteFilePath(name);
 }
 
@@ -94,7 +94,7 @@ QDir PxDirectoryConfig::lumoThemesDirectory(bool reportMissing) const
 {
     const QDir themes(m_themesDirectory.isEmpty() ? defaultThemesDirectory() : m_themesDirectory);
     if (reportMissing && !themes.exists())
-        qWarning() << "PxDirectoryConfig::lumoThemesDirectory is missing:" << themes.path();
+        pxWarning() << "PxDirectoryConfig::lumoThemesDirectory is missing:" << themes.path();
     return themes;
 }
 

@@ -3,12 +3,12 @@
 #include <PxCreateOnce.h>
 #include <PxDirectoryConfig.h>
 #include <PxKeyword.h>
+#include <PxMessage.h>
 #include <PxMessageLimit.h>
 #include <PxXMLLoader.h>
 #include <PxXMLParser.h>
 
 #include <QAtomicPointer>
-#include <QDebug>
 #include <QDomElement>
 #include <QMutex>
 
@@ -60,7 +60,7 @@ PxProductTypeCatalogue::PxProductTypeCatalogue(const QFileInfo &file)
     if (catalogue.isNull() || catalogue.tagName() != QLatin1String("producttypes")) {
         if (error.isEmpty())
             error = file.filePath() + QLatin1String(": the document element is not producttypes");
-        qWarning() << "PxProductTypeCatalogue could not read" << error;
+        pxWarning() << "PxProductTypeCatalogue could not read" << error;
         return;
     }
     const QString tag = QStringLiteral("producttype");
@@ -71,12 +71,12 @@ PxProductTypeCatalogue::PxProductTypeCatalogue(const QFileInfo &file)
         ++number;
         const char *reason = addRow(row);
         if (reason && ++leftOut <= pxMaximumMessages)
-            qWarning().nospace() << "PxProductTypeCatalogue leaves out row " << number << " of "
-                                 << file.filePath() << ": " << reason;
+            pxWarning().nospace() << "PxProductTypeCatalogue leaves out row " << number << " of "
+                                  << file.filePath() << ": " << reason;
     }
     if (leftOut > pxMaximumMessages)
-        qWarning().nospace() << "PxProductTypeCatalogue leaves out " << leftOut - pxMaximumMessages
-                             << " more rows of " << file.filePath();
+        pxWarning().nospace() << "PxProductTypeCatalogue leaves out " << leftOut - pxMaximumMessages
+                              << " more rows of " << file.filePath();
 }
 
 PxProductTypeCatalogue::~PxProductTypeCatalogue() = default;

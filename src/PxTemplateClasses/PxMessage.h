@@ -1,0 +1,93 @@
+#pragma once
+
+#include <QDebug>
+#include <QString>
+#include <QVector>
+
+#include <utility>
+
+/** A message of the library, with what a QMessageLogger would be given. */
+struct PxMessage
+{
+    /** QtDebugMsg or QtWarningMsg. */
+    QtMsgType type;
+    /** A literal, as `function` is, or null: it must outlive a kept message. */
+    const char *file;
+    int line;
+    const char *function;
+    QString text;
+
+    /** Keeps the message if a PxMessageKeeper lives in this thread, otherwise writes it. */
+    void log() const;
+};
+
+/**
+ * While it lives, messages of the library in this thread are appended to a list and not written.
+ *
+ * A thread that works for another one must not call the application's message handler. It leaves
+ * its list to the other thread, which calls log() for each message. The innermost keeper is used.
+ * Destroy keepers in the thread that created them, and the last one first.
+ */
+class Q_DECL_EXPORT PxMessageKeeper
+{
+public:
+    explicit PxMessageKeeper(QVector<PxMessage> *messages)
+        : m_outer(std::exchange(ourMessages, messages))
+    {}
+    ~PxMessageKeeper() { ourMessages = m_outer; }
+    Q_DISABLE_COPY(PxMessageKeeper)
+
+private:
+    friend struct PxMessage;
+    // One pointer for all libraries, because the class is exported; nothing is destroyed.
+    static inline thread_local QVector<PxMessage> *ourMessages = nullptr;
+
+    QVector<PxMessage> *m_outer;
+};
+
+inline void PxMessage::log() const
+{
+    if (PxMessageKeeper::ourMessages) {
+        PxMessageKeeper::ourMessages->append(*this);
+        return;
+    }
+    const QMessageLogger logger(file, line, function);
+    (type == QtWarningMsg ? logger.warning() : logger.debug()).nospace().noquote() << text;
+}
+
+/**
+ * Logs what is streamed, as QMessageLogger does, at the end of the statement. All messages of the
+ * library go through it, so that they can be kept.
+ */
+class PxMessageLogger
+{
+public:
+    PxMessageLogger(const char *file, int line, const char *function)
+        : m_message{QtDebugMsg, file, line, function, {}}
+        , m_stream(&m_message.text)
+    {}
+    ~PxMessageLogger()
+    {
+        // QDebug does so only with what it writes itself.
+        if (m_stream.autoInsertSpaces() && m_message.text.endsWith(QLatin1Char(' ')))
+            m_message.text.chop(1);
+        m_message.log();
+    }
+    Q_DISABLE_COPY(PxMessageLogger)
+
+    QDebug &debug() { return m_stream; }
+    QDebug &warning()
+    {
+        m_message.type = QtWarningMsg;
+        return m_stream;
+    }
+
+private:
+    PxMessage m_message;
+    QDebug m_stream;
+};
+
+// As qDebug() and qWarning().
+#define pxDebug PxMessageLogger(QT_MESSAGELOG_FILE, QT_MESSAGELOG_LINE, QT_MESSAGELOG_FUNC).debug
+#define pxWarning                                                                                  \
+    PxMessageLogger(QT_MESSAGELOG_FILE, QT_MESSAGELOG_LINE, QT_MESSAGELOG_FUNC).warning
