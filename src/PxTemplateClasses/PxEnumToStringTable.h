@@ -121,7 +121,7 @@ private:
     {
         int flags = 0;
         pxForEachPart(keywords, [&](QStringView part) {
-            const QString keyword = part.toString();
+            const QString keyword = pxPartText(keywords, part);
             ENUM value = decode(keyword, noValue);
             if (value == noValue) {
                 value = m_defaultValue;

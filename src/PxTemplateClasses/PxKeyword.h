@@ -52,7 +52,7 @@ ENUM decodeKeywordList(const QString &keywords, const QHash<QString, ENUM> &map,
 {
     int flags = 0;
     pxForEachPart(keywords, [&](QStringView part) {
-        flags |= decodeKeyword(part.toString(), map, fallback);
+        flags |= decodeKeyword(pxPartText(keywords, part), map, fallback);
     });
     return static_cast<ENUM>(flags);
 }

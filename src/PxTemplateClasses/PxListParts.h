@@ -27,6 +27,12 @@ void pxForEachPart(QStringView text, Function function)
     pxForEachPart(text, QLatin1Char(','), function);
 }
 
+/** A part as a text of its own. Most lists have one part: the list itself is not copied. */
+inline QString pxPartText(const QString &list, QStringView part)
+{
+    return part.size() == list.size() ? list : part.toString();
+}
+
 /**
  * The whole numbers of a comma-separated list, in order; parts that are not numbers are skipped.
  */

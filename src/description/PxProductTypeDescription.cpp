@@ -1,16 +1,13 @@
 #include "description/PxProductTypeDescription.h"
 
+#include "description/PxUserDefaults.h"
 #include "geometry/PxClampedArithmetic.h"
 
-#include <PxDirectoryConfig.h>
 #include <PxListParts.h>
 #include <PxMessage.h>
-#include <PxXMLLoader.h>
 #include <PxXMLParser.h>
 
-#include <QDir>
 #include <QDomElement>
-#include <QFileInfo>
 #include <QHash>
 
 #include <algorithm>
@@ -44,6 +41,11 @@ ENUM decodeKeywords(const QDomElement &product, const QString &attribute,
 PxProductTypeDescription::PxProductTypeDescription() = default;
 
 PxProductTypeDescription::PxProductTypeDescription(const QDomElement &product)
+    : PxProductTypeDescription(product, PxUserDefaults())
+{}
+
+PxProductTypeDescription::PxProductTypeDescription(const QDomElement &product,
+                                                   const PxUserDefaults &userDefaults)
     : m_classification(product)
 {
     readCounts(product);
@@ -65,7 +67,9 @@ PxProductTypeDescription::PxProductTypeDescription(const QDomElement &product)
     m_contentDropRedirects =
         PxContentDropRedirectList(product.firstChildElement(QStringLiteral("contentredirects")));
     m_defaultTemplates.applyDefaultsNode(product.firstChildElement(QStringLiteral("defaults")));
-    readUserDefaults(product.attribute(QStringLiteral("name")));
+    updateDefaultUserTemplatesMap(userDefaults.document(product.attribute(QStringLiteral("name")))
+                                      .firstChild()
+                                      .firstChildElement(QStringLiteral("defaults")));
     m_barcodes = PxBarcodeList(product.firstChildElement(QStringLiteral("barcodes")));
     indexPages();
     readVariants(product.firstChildElement(QStringLiteral("variants")));
@@ -180,23 +184,6 @@ void PxProductTypeDescription::readCardAlignment(const QDomElement &product)
             return;
         }
     }
-}
-
-void PxProductTypeDescription::readUserDefaults(const QString &productName)
-{
-    // The name from the product file may be any text, so the resolved path must still lie in the
-    // directory. The resolved path is the one that is opened: the unresolved name could leave the
-    // directory through links.
-    QString directory = QDir::cleanPath(PxDirectoryConfig::instance()->userDefaultsPath());
-    if (!directory.endsWith(QLatin1Char('/')))
-        directory += QLatin1Char('/');
-    const QString path = QDir::cleanPath(directory + productName + QLatin1String(".xml"));
-    if (!path.startsWith(directory))
-        return;
-    // A missing or damaged file is not reported: few users have default templates of their own.
-    const QDomDocument document = PxXMLLoader::loadDocument(QFileInfo(path));
-    updateDefaultUserTemplatesMap(
-        document.firstChild().firstChildElement(QStringLiteral("defaults")));
 }
 
 void PxProductTypeDescription::readVariants(const QDomElement &variants)

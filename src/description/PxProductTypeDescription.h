@@ -32,6 +32,7 @@
 
 #include <limits>
 
+class PxUserDefaults;
 class QDomElement;
 
 /**
@@ -229,6 +230,8 @@ public:
     void updateDefaultUserTemplatesMap(const QDomElement &defaults);
 
 private:
+    friend class PxProductTypeDescriptionReader;
+
     /** The rule for the side of a page, if it is not that of a bound book. */
     enum class CardAlignment { None, CardStyle, VarioSingleCardStyle, CollegeBlockStyle };
 
@@ -244,13 +247,14 @@ private:
     // The most entries of "pages" and of the background categories; far more than any product has.
     static constexpr int maximumListEntries = 1000;
 
+    PxProductTypeDescription(const QDomElement &product, const PxUserDefaults &userDefaults);
+
     static QString firstEntries(const QString &list, const char *method, const char *attribute,
                                 const QDomElement &product);
     void readCounts(const QDomElement &product);
     void readJigTypes(const QDomElement &product);
     void readFlags(const QDomElement &product);
     void readCardAlignment(const QDomElement &product);
-    void readUserDefaults(const QString &productName);
     void readPages(const QDomElement &product);
     void readVariants(const QDomElement &variants);
     void initPageSizes(const QDomElement &product);

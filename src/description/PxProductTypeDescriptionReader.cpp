@@ -1,6 +1,8 @@
 #include "description/PxProductTypeDescriptionReader.h"
 
 #include "description/PxProductTypeDescription.h"
+#include "description/PxUserDefaults.h"
+#include "values/PxParallelReading.h"
 #include "values/PxUndecodableNames.h"
 
 #include <PxMessage.h>
@@ -10,7 +12,9 @@
 #include <QFileInfo>
 #include <QString>
 
+#include <mutex>
 #include <utility>
+#include <vector>
 
 PxProductTypeDescriptionReader::PxProductTypeDescriptionReader(const QDir &directory)
     : m_directory(directory)
@@ -29,12 +33,28 @@ QStringList PxProductTypeDescriptionReader::fileFilter()
 
 QHash<PxProductType, PxProductTypeDescription *> PxProductTypeDescriptionReader::readDir()
 {
-    QHash<PxProductType, PxProductTypeDescription *> descriptions;
     const QFileInfoList files =
         m_directory.entryInfoList(fileFilter(), QDir::Files, QDir::Unsorted);
     PxUndecodableNames::warn(m_directory.absolutePath());
-    for (const QFileInfo &file : files) {
-        const auto [type, description] = readFile(file);
+    PxUserDefaults userDefaults;
+    userDefaults.list();
+
+    std::vector<Product> products(std::size_t(files.size()));
+    const auto read = [&](int i) {
+        Product &product = products[std::size_t(i)];
+        product = readFile(files[i], userDefaults);
+        return product.second;
+    };
+    // The first product creates what exists once, such as the table of product types, and its
+    // messages come first.
+    int first = 0;
+    while (first < files.size() && !read(first++)) {
+    }
+    PxParallelReading::forEach(files.size() - first, [&](int i) { read(first + i); });
+
+    QHash<PxProductType, PxProductTypeDescription *> descriptions;
+    descriptions.reserve(files.size());
+    for (const auto &[type, description] : products) {
         // Descriptions that cannot be reached are freed: those of unknown products, and that of an
         // earlier file for the same product.
         if (type.isValid())
@@ -48,6 +68,19 @@ QHash<PxProductType, PxProductTypeDescription *> PxProductTypeDescriptionReader:
 QPair<PxProductType, PxProductTypeDescription *> PxProductTypeDescriptionReader::readFile(
     const QFileInfo &file)
 {
+    return readFile(file, PxUserDefaults());
+}
+
+PxProductTypeDescriptionReader::Product PxProductTypeDescriptionReader::readFile(
+    const QFileInfo &file, const PxUserDefaults &userDefaults)
+{
+    // Large files are read one at a time: the trees of several could take too much memory.
+    constexpr qint64 largeFile = 1024 * 1024;
+    static std::mutex ourMutex;
+    std::unique_lock lock(ourMutex, std::defer_lock);
+    if (file.size() > largeFile)
+        lock.lock();
+
     QString error;
     const QDomElement root = PxXMLLoader::loadDocumentElement(file, &error);
     if (root.isNull()) {
@@ -63,5 +96,5 @@ QPair<PxProductType, PxProductTypeDescription *> PxProductTypeDescriptionReader:
     }
     const QDomElement product = root.firstChildElement(QStringLiteral("product"));
     const PxProductType type(product.attribute(QStringLiteral("name")));
-    return qMakePair(type, new PxProductTypeDescription(product));
+    return qMakePair(type, new PxProductTypeDescription(product, userDefaults));
 }

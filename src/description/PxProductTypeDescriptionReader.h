@@ -10,6 +10,7 @@
 #include <QStringList>
 
 class PxProductTypeDescription;
+class PxUserDefaults;
 class QFileInfo;
 
 /** Reads the product files of one directory. The caller takes ownership of the descriptions. */
@@ -28,7 +29,8 @@ public:
      * The descriptions of all products that have a file in the directory.
      *
      * If two files name the same product, the one that the directory lists later is used. Files
-     * that cannot be read or name an unknown product are skipped.
+     * that cannot be read or name an unknown product are skipped. Many files are read in several
+     * threads, which end before the call returns; messages are written in the caller's thread.
      */
     QHash<PxProductType, PxProductTypeDescription *> readDir();
     /**
@@ -38,5 +40,9 @@ public:
     QPair<PxProductType, PxProductTypeDescription *> readFile(const QFileInfo &file);
 
 private:
+    using Product = QPair<PxProductType, PxProductTypeDescription *>;
+
+    static Product readFile(const QFileInfo &file, const PxUserDefaults &userDefaults);
+
     QDir m_directory;
 };

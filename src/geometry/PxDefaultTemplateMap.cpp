@@ -76,7 +76,7 @@ void PxDefaultTemplateMap::applyDefaultsNode(const QDomElement &parent)
         pxForEachPart(themes, [&](QStringView theme) {
             if (theme.isEmpty())
                 return;
-            QVector<int> &ofTheme = m_defaultsOfTheme[theme.trimmed().toString()];
+            QVector<int> &ofTheme = m_defaultsOfTheme[pxPartText(themes, theme.trimmed())];
             if (ofTheme.isEmpty() || ofTheme.constLast() != index)
                 ofTheme.append(index);
         });
@@ -119,7 +119,7 @@ void PxDefaultTemplateMap::readPageTypes(const QString &keywords, Defaults &defa
 {
     const auto *table = PxPageType().enumToStringTable();
     pxForEachPart(keywords, [&](QStringView part) {
-        const PxPageTypeEnum pageType = table->decodeCSV(part.trimmed().toString(), undecodable);
+        const PxPageTypeEnum pageType = table->decodeCSV(pxPartText(keywords, part.trimmed()), undecodable);
         if (isSingleBit(pageType))
             defaults.pageTypes |= pageType;
         else if (!defaults.otherPageTypes.contains(pageType))

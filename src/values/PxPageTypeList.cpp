@@ -14,7 +14,7 @@ PxPageTypeList::PxPageTypeList(const QString &keywords)
     const auto *table = PxPageType().enumToStringTable();
     int undecodable = 0;
     pxForEachPart(keywords, [&](QStringView part) {
-        append(table->decodeCSV(part.trimmed().toString(), undecodable));
+        append(table->decodeCSV(pxPartText(keywords, part.trimmed()), undecodable));
     });
     table->reportMoreUndecodable(undecodable);
 }

@@ -9,39 +9,53 @@
 
 namespace {
 
-enum CharacterClass : unsigned char {
-    Other = 0,
+/** What a byte may be; several of them together are what a text has. */
+enum ByteKind : unsigned char {
     NameStart = 1,
     NamePart = 2,
     Blank = 4,
-    Plain = 8
+    Break = 8, ///< a full parser would turn it into a blank in a value
+    NonAscii = 16,
+    Reference = 32,
+    Tag = 64,
+    Other = 128 ///< left to the full parser, which would turn a carriage return into a line feed
 };
 
-/** The classes of each byte; a byte without a class is left to the full parser. */
-constexpr std::array<unsigned char, 256> characterClasses()
+constexpr std::array<unsigned char, 256> kindsOfBytes()
 {
-    std::array<unsigned char, 256> classes{};
-    for (std::size_t c = 0x20; c < 0x100; ++c)
-        classes[c] = Plain;
-    for (std::size_t c = 'a'; c <= 'z'; ++c) {
-        classes[c] |= NameStart | NamePart;
-        classes[c - 'a' + 'A'] |= NameStart | NamePart;
-    }
+    std::array<unsigned char, 256> kinds{};
+    for (std::size_t c = 0; c < 0x20; ++c)
+        kinds[c] = Other;
+    for (std::size_t c = 0x80; c < 0x100; ++c)
+        kinds[c] = NonAscii;
+    for (std::size_t c = 'a'; c <= 'z'; ++c)
+        kinds[c] = kinds[c - 'a' + 'A'] = NameStart | NamePart;
     for (std::size_t c = '0'; c <= '9'; ++c)
-        classes[c] |= NamePart;
-    classes['_'] |= NameStart | NamePart;
-    classes['-'] |= NamePart;
-    classes['.'] |= NamePart;
-    classes[' '] |= Blank;
-    classes['\t'] = classes['\n'] = classes['\r'] = Blank;
-    return classes;
+        kinds[c] = NamePart;
+    kinds['_'] = NameStart | NamePart;
+    kinds['-'] = kinds['.'] = NamePart;
+    kinds[' '] = Blank;
+    kinds['\t'] = kinds['\n'] = Blank | Break;
+    kinds['\r'] = Blank | Other;
+    kinds['&'] = Reference;
+    kinds['<'] = Tag;
+    return kinds;
 }
 
-constexpr std::array<unsigned char, 256> classes = characterClasses();
+constexpr std::array<unsigned char, 256> kindsOf = kindsOfBytes();
 
-bool is(char c, CharacterClass characterClass)
+bool is(char c, ByteKind kind)
 {
-    return (classes[static_cast<unsigned char>(c)] & characterClass) != 0;
+    return (kindsOf[static_cast<unsigned char>(c)] & kind) != 0;
+}
+
+/** All kinds of bytes that the text has. */
+unsigned kindsIn(std::string_view text)
+{
+    unsigned kinds = 0;
+    for (const char c : text)
+        kinds |= kindsOf[static_cast<unsigned char>(c)];
+    return kinds;
 }
 
 // Real files have fewer nodes. A larger file, which may be hostile, is left to the full parser
@@ -116,22 +130,30 @@ bool PxXMLPlainReader::readDeclaration()
 
 bool PxXMLPlainReader::readMarkup()
 {
-    if (startsWith("</"))
+    ++m_position;
+    switch (current()) {
+    case '/':
         return readEndTag();
-    return startsWith("<!") ? readComment() : readStartTag();
+    case '!':
+        return readComment();
+    default:
+        return readStartTag();
+    }
 }
 
 bool PxXMLPlainReader::readText()
 {
+    const std::size_t begin = m_position;
+    skipBlanks();
     const std::size_t end = std::min(m_text.find('<', m_position), m_text.size());
-    const std::string_view text = m_text.substr(m_position, end - m_position);
-    m_position = end;
-    if (std::all_of(text.begin(), text.end(), [](char c) { return is(c, Blank); }))
+    if (m_position == end)
         return true;
+    m_position = end;
+    const std::string_view text = m_text.substr(begin, end - begin);
     // "]]>" ends a CDATA section and is not allowed in text.
     if (m_open.empty() || text.find("]]>") != std::string_view::npos)
         return false;
-    const std::optional<QString> decoded = decode(text);
+    const std::optional<QString> decoded = decode(text, kindsIn(text));
     if (!decoded)
         return false;
     if (QStringView(*decoded).trimmed().isEmpty())
@@ -145,22 +167,22 @@ bool PxXMLPlainReader::readText()
 
 bool PxXMLPlainReader::readComment()
 {
-    if (!skip("<!--"))
+    if (!skip("!--"))
         return false;
     const std::size_t end = m_text.find("--", m_position);
     if (end == std::string_view::npos || m_text.substr(end, 3) != "-->")
         return false;
     const std::string_view text = m_text.substr(m_position, end - m_position);
     m_position = end + 3;
-    if (text.find('&') != std::string_view::npos) // a comment has no references
+    const unsigned kinds = kindsIn(text);
+    if ((kinds & Reference) != 0) // a comment has no references
         return false;
-    const std::optional<QString> decoded = decode(text);
+    const std::optional<QString> decoded = decode(text, kinds);
     return decoded && add(m_document.createComment(*decoded));
 }
 
 bool PxXMLPlainReader::readStartTag()
 {
-    ++m_position;
     const std::string_view name = readName();
     if (name.empty() || (m_open.empty() && m_hasRoot) ||
         int(m_open.size()) >= PxXMLLoader::maximumDepth)
@@ -202,10 +224,10 @@ bool PxXMLPlainReader::readAttribute(QDomElement &element)
     m_attributes.push_back(name);
     const std::string_view value = m_text.substr(begin, end - begin);
     m_position = end + 1;
-    // A full parser would turn line breaks and tabs into blanks.
-    if (value.find_first_of("<\n\t") != std::string_view::npos)
+    const unsigned kinds = kindsIn(value);
+    if ((kinds & (Tag | Break)) != 0)
         return false;
-    const std::optional<QString> decoded = decode(value);
+    const std::optional<QString> decoded = decode(value, kinds);
     if (!decoded)
         return false;
     ++m_nodes; // add() compares, for the element
@@ -215,7 +237,7 @@ bool PxXMLPlainReader::readAttribute(QDomElement &element)
 
 bool PxXMLPlainReader::readEndTag()
 {
-    m_position += 2;
+    ++m_position;
     const std::string_view name = readName();
     skipBlanks();
     if (m_open.empty() || m_open.back() != name || !skip('>'))
@@ -233,8 +255,7 @@ bool PxXMLPlainReader::add(const QDomNode &node)
 
 char PxXMLPlainReader::current() const
 {
-    const std::string_view rest = m_text.substr(m_position);
-    return rest.empty() ? '\0' : rest.front();
+    return m_position < m_text.size() ? m_text[m_position] : '\0';
 }
 
 bool PxXMLPlainReader::startsWith(std::string_view token) const
@@ -270,29 +291,27 @@ bool PxXMLPlainReader::skipBlanks()
 std::string_view PxXMLPlainReader::readName()
 {
     const std::size_t begin = m_position;
+    std::size_t end = begin;
     if (is(current(), NameStart)) {
-        while (is(current(), NamePart))
-            ++m_position;
+        while (end < m_text.size() && is(m_text[end], NamePart))
+            ++end;
     }
-    return m_text.substr(begin, m_position - begin);
+    m_position = end;
+    return m_text.substr(begin, end - begin);
 }
 
-/** The decoded text of a value or between tags; none if it is not plain. */
-std::optional<QString> PxXMLPlainReader::decode(std::string_view utf8)
+/** The decoded text of a value or between tags, which has these kinds; none if it is not plain. */
+std::optional<QString> PxXMLPlainReader::decode(std::string_view utf8, unsigned kinds)
 {
-    // A full parser would turn a carriage return into a line feed.
-    const auto isPlain = [](char c) { return is(c, Plain) || c == '\n' || c == '\t'; };
-    if (!std::all_of(utf8.begin(), utf8.end(), isPlain))
-        return std::nullopt;
-    const bool isAscii =
-        std::none_of(utf8.begin(), utf8.end(), [](char c) { return bool(c & 0x80); });
+    const bool isAscii = (kinds & NonAscii) == 0;
     // QString would drop a byte order mark at the start, although it is an ordinary character here.
-    if (!isAscii && utf8.substr(0, byteOrderMark.size()) == byteOrderMark)
+    if ((kinds & Other) != 0 ||
+        (!isAscii && utf8.substr(0, byteOrderMark.size()) == byteOrderMark))
         return std::nullopt;
     QString text = m_texts.text(utf8);
     // Invalid UTF-8 becomes the replacement character; U+FFFE and U+FFFF are not characters.
     if (!isAscii && (text.contains(QChar::ReplacementCharacter) || text.contains(QChar(0xFFFE)) ||
                      text.contains(QChar(0xFFFF))))
         return std::nullopt;
-    return utf8.find('&') == std::string_view::npos ? text : resolved(text);
+    return (kinds & Reference) == 0 ? text : resolved(text);
 }

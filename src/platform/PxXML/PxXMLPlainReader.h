@@ -43,7 +43,7 @@ private:
     bool skip(char c);
     bool skipBlanks();
     std::string_view readName();
-    std::optional<QString> decode(std::string_view utf8);
+    std::optional<QString> decode(std::string_view utf8, unsigned kinds);
 
     std::string_view m_text;
     std::size_t m_position = 0;

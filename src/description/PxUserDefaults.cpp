@@ -1,0 +1,36 @@
+#include "description/PxUserDefaults.h"
+
+#include <PxDirectoryConfig.h>
+#include <PxXMLLoader.h>
+
+#include <QDir>
+#include <QFileInfo>
+
+PxUserDefaults::PxUserDefaults()
+    : m_directory(QDir::cleanPath(PxDirectoryConfig::instance()->userDefaultsPath()))
+{
+    if (!m_directory.endsWith(QLatin1Char('/')))
+        m_directory += QLatin1Char('/');
+}
+
+void PxUserDefaults::list()
+{
+    const QFileInfo directory(m_directory);
+    m_isListed = directory.isReadable() || !directory.exists();
+    const QStringList names =
+        QDir(m_directory).entryList(QDir::Files | QDir::Hidden, QDir::Unsorted);
+    m_fileNames = QSet<QString>(names.begin(), names.end());
+}
+
+QDomDocument PxUserDefaults::document(const QString &productName) const
+{
+    const QString fileName = productName + QLatin1String(".xml");
+    if (m_isListed && !fileName.contains(QLatin1Char('/')) && !m_fileNames.contains(fileName))
+        return QDomDocument();
+    // The name from the product file may be any text, so the resolved path must still lie in the
+    // directory. The resolved path is the one that is opened: the unresolved name could leave the
+    // directory through links.
+    const QString path = QDir::cleanPath(m_directory + fileName);
+    return path.startsWith(m_directory) ? PxXMLLoader::loadDocument(QFileInfo(path))
+                                        : QDomDocument();
+}
