@@ -12,7 +12,6 @@
 #include <QFileInfo>
 #include <QString>
 
-#include <mutex>
 #include <utility>
 #include <vector>
 
@@ -74,13 +73,6 @@ QPair<PxProductType, PxProductTypeDescription *> PxProductTypeDescriptionReader:
 PxProductTypeDescriptionReader::Product PxProductTypeDescriptionReader::readFile(
     const QFileInfo &file, const PxUserDefaults &userDefaults)
 {
-    // Large files are read one at a time: the trees of several could take too much memory.
-    constexpr qint64 largeFile = 1024 * 1024;
-    static std::mutex ourMutex;
-    std::unique_lock lock(ourMutex, std::defer_lock);
-    if (file.size() > largeFile)
-        lock.lock();
-
     QString error;
     const QDomElement root = PxXMLLoader::loadDocumentElement(file, &error);
     if (root.isNull()) {

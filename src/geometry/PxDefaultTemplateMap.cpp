@@ -67,6 +67,10 @@ QString PxDefaultTemplateMap::findTemplate(const PxDefaultTemplateKey &key, bool
 void PxDefaultTemplateMap::applyDefaultsNode(const QDomElement &parent)
 {
     const QString tag = QStringLiteral("defaults");
+    int count = m_defaults.size();
+    for (QDomElement e = parent.firstChildElement(tag); !e.isNull(); e = e.nextSiblingElement(tag))
+        ++count;
+    m_defaults.reserve(count);
     int undecodable = 0; // page types of all elements together
     for (QDomElement e = parent.firstChildElement(tag); !e.isNull();
          e = e.nextSiblingElement(tag)) {
@@ -82,7 +86,6 @@ void PxDefaultTemplateMap::applyDefaultsNode(const QDomElement &parent)
         });
     }
     PxPageType().enumToStringTable()->reportMoreUndecodable(undecodable);
-    m_defaults.squeeze();
 }
 
 QString PxDefaultTemplateMap::removeUmlauts(const QString &text)

@@ -25,63 +25,76 @@ QString noRegularFile()
     return QStringLiteral("this is no regular file");
 }
 
+PxXMLFault tooLarge(qint64 size)
+{
+    return {PxXMLFault::Kind::Limit,
+            QStringLiteral("the file has %1 bytes, no more than %2 are allowed")
+                .arg(size)
+                .arg(PxXMLLoader::maximumFileSize)};
+}
+
 PxXMLFault cannotOpen(const QString &reason)
 {
     return unreadable(QStringLiteral("the file cannot be opened: ") + reason);
 }
 
-/**
- * Opens a regular file and finds its size. If a pipe has taken the place of the file meanwhile, it
- * neither waits for the pipe nor reads it.
- */
-PxXMLFault open(QFile &file, qint64 &size)
+/** Reads a file that is compiled in. */
+PxXMLFault readResource(const QString &path, QByteArray &bytes)
 {
-    constexpr QIODevice::OpenMode mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
-    if (file.fileName().startsWith(QLatin1Char(':'))) { // compiled in
-        const bool isOpen = file.open(mode);
-        size = file.size();
-        return isOpen ? PxXMLFault() : cannotOpen(file.errorString());
-    }
-    const int handle =
-        ::open(QFile::encodeName(file.fileName()), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (handle == -1)
-        return cannotOpen(qt_error_string(errno));
-    struct stat status = {};
-    if (fstat(handle, &status) == 0 && S_ISREG(status.st_mode) &&
-        file.open(handle, mode, QFileDevice::AutoCloseHandle)) {
-        size = status.st_size;
-        return {};
-    }
-    close(handle);
-    return unreadable(noRegularFile());
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return cannotOpen(file.errorString());
+    if (file.size() > PxXMLLoader::maximumFileSize)
+        return tooLarge(file.size());
+    bytes = file.readAll();
+    return {};
 }
 
-/** Reads the whole file, if it is a regular one. */
+/** Reads a file from its start, if it is a regular one. */
+PxXMLFault readHandle(int handle, QByteArray &bytes)
+{
+    struct stat status = {};
+    if (fstat(handle, &status) != 0 || !S_ISREG(status.st_mode))
+        return unreadable(noRegularFile());
+    if (status.st_size > PxXMLLoader::maximumFileSize)
+        return tooLarge(status.st_size);
+    bytes.resize(int(status.st_size));
+    int size = 0;
+    ssize_t part = 1;
+    while (part > 0 && size < bytes.size()) {
+        part = ::read(handle, bytes.data() + size, std::size_t(bytes.size() - size));
+        if (part == -1)
+            return unreadable(QStringLiteral("the file cannot be read: ") + qt_error_string(errno));
+        size += int(part);
+    }
+    bytes.resize(size); // it may have become shorter
+    return {};
+}
+
+/**
+ * Reads the whole file, if it is a regular one. If a pipe has taken the place of the file, it
+ * neither waits for the pipe nor reads it.
+ *
+ * QFile would ask the system three times as much.
+ */
 PxXMLFault readBytes(const QFileInfo &info, QByteArray &bytes)
 {
     const QString path = info.filePath();
     if (path.isEmpty())
         return unreadable(QStringLiteral("no file name is given"));
-    // A pipe or a device could block forever, or never end. What the caller's QFileInfo knows may
-    // be old: if it knows of a regular file, opening finds out.
+    // Opening a pipe or a device could have effects elsewhere. What the caller's QFileInfo knows
+    // may be old: if it knows of a regular file, opening finds out.
     if (!info.isFile() && !QFileInfo(path).isFile())
         return unreadable(QFileInfo::exists(path) ? noRegularFile()
                                                   : QStringLiteral("there is no such file"));
-    QFile file(path);
-    qint64 size = 0;
-    PxXMLFault fault = open(file, size);
-    if (fault.kind != PxXMLFault::Kind::None)
-        return fault;
-    if (size > PxXMLLoader::maximumFileSize)
-        return {PxXMLFault::Kind::Limit,
-                QStringLiteral("the file has %1 bytes, no more than %2 are allowed")
-                    .arg(size)
-                    .arg(PxXMLLoader::maximumFileSize)};
-    bytes.resize(int(size));
-    bytes.resize(int(qMax(qint64(0), file.read(bytes.data(), size))));
-    if (file.error() != QFile::NoError)
-        return unreadable(QStringLiteral("the file cannot be read: ") + file.errorString());
-    return {};
+    if (path.startsWith(QLatin1Char(':')))
+        return readResource(path, bytes);
+    const int handle = ::open(QFile::encodeName(path), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (handle == -1)
+        return cannotOpen(qt_error_string(errno));
+    PxXMLFault fault = readHandle(handle, bytes);
+    close(handle);
+    return fault;
 }
 
 std::string_view withoutByteOrderMark(const QByteArray &utf8)

@@ -8,7 +8,7 @@ QString PxXMLTextPool::text(std::string_view utf8)
 {
     if (utf8.empty())
         return QLatin1String("");
-    Slot &slot = m_slots[qHashBits(utf8.data(), utf8.size()) % m_slots.size()];
+    Slot &slot = m_slots[std::hash<std::string_view>{}(utf8) % m_slots.size()];
     if (std::string_view(slot.utf8.data(), slot.size) == utf8)
         return slot.text;
     const QString text = QString::fromUtf8(utf8.data(), int(utf8.size()));
