@@ -65,7 +65,7 @@ endfunction()
 # The environment of tests: no screen, a locale that every machine has, a time zone, what the sanitizers overlook.
 function(px_set_test_environment)
     set_tests_properties(${ARGN} PROPERTIES TIMEOUT 120 ENVIRONMENT
-        "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;LANGUAGE=;TZ=UTC;\
+        "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;LANGUAGE=;TZ=UTC;PX_THREADS=4;\
 LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0;\
 TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp")
 endfunction()

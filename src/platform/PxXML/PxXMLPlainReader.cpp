@@ -305,8 +305,7 @@ std::optional<QString> PxXMLPlainReader::decode(std::string_view utf8, unsigned 
 {
     const bool isAscii = (kinds & NonAscii) == 0;
     // QString would drop a byte order mark at the start, although it is an ordinary character here.
-    if ((kinds & Other) != 0 ||
-        (!isAscii && utf8.substr(0, byteOrderMark.size()) == byteOrderMark))
+    if ((kinds & Other) != 0 || (!isAscii && utf8.substr(0, byteOrderMark.size()) == byteOrderMark))
         return std::nullopt;
     QString text = m_texts.text(utf8);
     // Invalid UTF-8 becomes the replacement character; U+FFFE and U+FFFF are not characters.
