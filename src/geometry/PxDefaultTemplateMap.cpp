@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
-#include <mutex>
 
 namespace {
 
@@ -21,33 +20,29 @@ constexpr struct
     const char *replacement;
 } umlauts[] = {{u'ä', "ae"}, {u'ö', "oe"}, {u'ü', "ue"}, {u'ß', "ss"}};
 
-/**
- * The template's name without umlauts.
- *
- * Names with umlauts recur in hundreds of products. A short one is converted once and then shared;
- * names without umlauts are already shared by the reader of the file.
- */
-QString templateName(const QString &text)
-{
-    constexpr int maximumSharedLength = 64;
-    const QString name = text.trimmed();
-    const auto isAscii = [](QChar c) { return c.unicode() < 0x80; };
-    if (std::all_of(name.cbegin(), name.cend(), isAscii))
-        return name;
-    if (name.size() > maximumSharedLength)
-        return PxDefaultTemplateMap::removeUmlauts(name);
-    static std::mutex ourMutex; // protects the names; neither is ever destroyed
-    static auto &ourRecentNames = *new std::array<QPair<QString, QString>, 256>;
-    const std::lock_guard lock(ourMutex);
-    auto &[original, replaced] = ourRecentNames[qHash(name) % ourRecentNames.size()];
-    if (original != name) {
-        original = name;
-        replaced = PxDefaultTemplateMap::removeUmlauts(name);
-    }
-    return replaced;
-}
-
 } // namespace
+
+/** Template names without umlauts. They recur within a file, and are converted once and shared. */
+class PxDefaultTemplateMap::Names
+{
+public:
+    QString name(const QString &text)
+    {
+        const QString original = text.trimmed();
+        const auto isAscii = [](QChar c) { return c.unicode() < 0x80; };
+        if (std::all_of(original.cbegin(), original.cend(), isAscii))
+            return original; // shared already by the reader of the file
+        auto &[known, replaced] = m_recent[qHash(original) % m_recent.size()];
+        if (known != original) {
+            known = original;
+            replaced = removeUmlauts(original);
+        }
+        return replaced;
+    }
+
+private:
+    std::array<QPair<QString, QString>, 16> m_recent;
+};
 
 PxDefaultTemplateMap::PxDefaultTemplateMap(const QDomElement &parent)
 {
@@ -71,11 +66,12 @@ void PxDefaultTemplateMap::applyDefaultsNode(const QDomElement &parent)
     for (QDomElement e = parent.firstChildElement(tag); !e.isNull(); e = e.nextSiblingElement(tag))
         ++count;
     m_defaults.reserve(count);
+    Names names;
     int undecodable = 0; // page types of all elements together
     for (QDomElement e = parent.firstChildElement(tag); !e.isNull();
          e = e.nextSiblingElement(tag)) {
         const int index = m_defaults.size();
-        m_defaults.append(readDefaults(e, undecodable));
+        m_defaults.append(readDefaults(e, names, undecodable));
         const QString themes = e.attribute(QStringLiteral("theme"), QStringLiteral("normal"));
         pxForEachPart(themes, [&](QStringView theme) {
             if (theme.isEmpty())
@@ -122,7 +118,8 @@ void PxDefaultTemplateMap::readPageTypes(const QString &keywords, Defaults &defa
 {
     const auto *table = PxPageType().enumToStringTable();
     pxForEachPart(keywords, [&](QStringView part) {
-        const PxPageTypeEnum pageType = table->decodeCSV(pxPartText(keywords, part.trimmed()), undecodable);
+        const PxPageTypeEnum pageType =
+            table->decodeCSV(pxPartText(keywords, part.trimmed()), undecodable);
         if (isSingleBit(pageType))
             defaults.pageTypes |= pageType;
         else if (!defaults.otherPageTypes.contains(pageType))
@@ -131,7 +128,7 @@ void PxDefaultTemplateMap::readPageTypes(const QString &keywords, Defaults &defa
 }
 
 PxDefaultTemplateMap::Defaults PxDefaultTemplateMap::readDefaults(const QDomElement &element,
-                                                                  int &undecodable)
+                                                                  Names &names, int &undecodable)
 {
     Defaults defaults;
     readPageTypes(element.attribute(QStringLiteral("pageType")), defaults, undecodable);
@@ -140,20 +137,20 @@ PxDefaultTemplateMap::Defaults PxDefaultTemplateMap::readDefaults(const QDomElem
     // The short form: a background, or a background and a layout. If there are more names, only the
     // first is used.
     const QString shortForm = element.attribute(QStringLiteral("templates"));
-    QStringView names[2]; // of perhaps a million
+    QStringView parts[2]; // of perhaps a million
     int count = 0;
-    pxForEachPart(shortForm, [&](QStringView name) {
-        if (name.isEmpty())
+    pxForEachPart(shortForm, [&](QStringView part) {
+        if (part.isEmpty())
             return;
         if (count < 2)
-            names[count] = name;
+            parts[count] = part;
         ++count;
     });
-    const QString layout = count == 2 ? names[1].toString() : QString();
+    const QString layout = count == 2 ? parts[1].toString() : QString();
     defaults.templates[DefaultTemplateTypeLayout] =
-        templateName(element.attribute(QStringLiteral("layout"), layout));
+        names.name(element.attribute(QStringLiteral("layout"), layout));
     defaults.templates[DefaultTemplateTypeBackground] =
-        templateName(element.attribute(QStringLiteral("background"), names[0].toString()));
+        names.name(element.attribute(QStringLiteral("background"), parts[0].toString()));
     return defaults;
 }
 

@@ -34,6 +34,7 @@ public:
     static QString removeUmlauts(const QString &text);
 
 private:
+    class Names;
     struct Defaults
     {
         int pageTypes = 0; // the union of all page types that are a single bit, as nearly all are
@@ -45,7 +46,7 @@ private:
     };
 
     static void readPageTypes(const QString &keywords, Defaults &defaults, int &undecodable);
-    static Defaults readDefaults(const QDomElement &element, int &undecodable);
+    static Defaults readDefaults(const QDomElement &element, Names &names, int &undecodable);
     QString findOwnTemplate(const PxDefaultTemplateKey &key) const;
 
     // One entry per element, not per combination: crossed lists could give millions of
