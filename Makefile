@@ -63,12 +63,13 @@ platform: setup
 
 # Both sides of each ratio take turns, so that other work on the machine troubles both alike.
 bench: benchmarks
-	build/release/bin/PxBenchmarks --benchmark_enable_random_interleaving=true --benchmark_min_time=0.2
+	status=0; build/release/bin/PxColdStarts || status=1; \
+	build/release/bin/PxBenchmarks --benchmark_enable_random_interleaving=true --benchmark_min_time=0.2 || status=1; exit $$status
 
 benchmarks: PACKAGES += libbenchmark-dev
 benchmarks: setup
 	cmake --preset release -DPX_BUILD_BENCHMARKS=ON
-	cmake --build --preset release -j $(JOBS) --target PxBenchmarks
+	cmake --build --preset release -j $(JOBS) --target PxBenchmarks PxColdStarts
 
 fuzz: PRESET = fuzz
 fuzz: PACKAGES += clang libclang-rt-14-dev

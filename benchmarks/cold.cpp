@@ -182,7 +182,7 @@ int main(int argc, char *argv[])
     shape.themesPerFile = 1;
     shape.moreSpines = 8;
     shape.moreTemplates = 3;
-    shape.moreTypes = 2000;
+    shape.moreTypes = 500;
     shape.userDefaults = 20;
     const QString rich = generated(directory, "rich", shape);
 
@@ -193,7 +193,7 @@ int main(int argc, char *argv[])
     const Start tenThousand = starts.add(registry, large, 2);
     starts.run();
     printCatalogue(starts, QStringLiteral("1000 products"), plain);
-    printCatalogue(starts, QStringLiteral("1000 larger ones, 3000 types, themes apart"), rich);
+    printCatalogue(starts, QStringLiteral("1000 larger ones, 1500 types, themes apart"), rich);
     printf("\n");
     printRatio(QStringLiteral("registry of 10000 / ten of 1000, 2 threads"), &Costs::nanoseconds,
                starts.costs(tenThousand), starts.costs(starts.add(registry, plain, 2)), 1.15, 1.0,

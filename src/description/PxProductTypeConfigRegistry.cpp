@@ -55,7 +55,7 @@ PxProductTypeConfigRegistry *PxProductTypeConfigRegistry::instance()
     static QAtomicPointer<PxProductTypeConfigRegistry> ourInstance;
     static QBasicMutex ourMutex;
     return pxCreateOnce(ourInstance, ourMutex, [] {
-        // Nothing lists the files of this directory: each product opens its own file by name.
+        // A file of this directory is found by the name of its product, not by being there.
         PxUndecodableNames::warn(PxDirectoryConfig::instance()->userDefaultsPath());
         return createRegistry(QStringLiteral("products"));
     });

@@ -25,8 +25,8 @@ class PXPRODUCTPROPERTIES_EXPORT PxProductTypeConfigRegistry : public PxProductC
 {
 public:
     /**
-     * Reads every product file in the directory, and logs a warning for each one that cannot be
-     * read. A missing directory has no products.
+     * Reads every product file in the directory, many of them in several threads, and logs a
+     * warning for each one that cannot be read. A missing directory has no products.
      */
     explicit PxProductTypeConfigRegistry(const QDir &directory);
     Q_DISABLE_COPY(PxProductTypeConfigRegistry)

@@ -124,7 +124,8 @@ void PxParallelReadingTest::handlerIsCalledInTheThreadOfTheCaller()
         });
     {
         const std::lock_guard lock(lockOfTheApplication);
-        const PxProductTypeConfigRegistry registry(QDir(m_directory.filePath("products")));
+        const QDir products(m_directory.filePath("products"));
+        qDeleteAll(PxProductTypeDescriptionReader(products).readDir());
     }
     qInstallMessageHandler(previous);
     QCOMPARE(handlerThreads, std::set<std::thread::id>{std::this_thread::get_id()});

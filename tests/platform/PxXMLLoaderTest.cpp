@@ -2,8 +2,8 @@
 #include <PxXMLBuilder.h>
 #include <PxXMLLoader.h>
 #include <PxXMLPlainReader.h>
-#include <PxXMLStrictReader.h>
 #include <PxXMLScratch.h>
+#include <PxXMLStrictReader.h>
 
 #include <QDirIterator>
 #include <QTemporaryDir>

@@ -27,5 +27,5 @@ private:
         std::array<char, 55> utf8{};
     };
 
-    std::array<Slot, 2048> m_slots;
+    std::array<Slot, 1024> m_slots;
 };
