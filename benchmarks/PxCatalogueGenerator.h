@@ -15,6 +15,9 @@ struct PxCatalogueShape
     int moreTemplates = 0; ///< of each product
     int moreTypes = 0;     ///< rows of producttypes.xml without a product
     int userDefaults = 0;  ///< files
+
+    /** One that has more of everything, and a file for each theme. */
+    static PxCatalogueShape rich() { return {1000, 100, 1, 10, 4, 500, 20}; }
 };
 
 /**

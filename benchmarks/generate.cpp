@@ -1,4 +1,4 @@
-// Writes a catalogue for measurements: generate DIRECTORY [PRODUCTS [THEMES]].
+// Writes a catalogue for measurements: generate DIRECTORY [PRODUCTS [THEMES [rich]]].
 #include "PxCatalogueGenerator.h"
 
 #include <QCoreApplication>
@@ -9,11 +9,12 @@ int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    PxCatalogueShape shape;
+    const bool isRich = arguments.value(4) == QLatin1String("rich");
+    PxCatalogueShape shape = isRich ? PxCatalogueShape::rich() : PxCatalogueShape();
     shape.products = arguments.value(2, QStringLiteral("1000")).toInt();
     shape.themes = arguments.value(3, QStringLiteral("100")).toInt();
     if (arguments.size() < 2 || shape.products <= 0 || shape.themes < 0) {
-        fputs("usage: generate DIRECTORY [PRODUCTS [THEMES]]\n", stderr);
+        fputs("usage: generate DIRECTORY [PRODUCTS [THEMES [rich]]]\n", stderr);
         return 2;
     }
     if (PxCatalogueGenerator(shape).generate(QDir(arguments[1])))

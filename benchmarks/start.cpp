@@ -6,10 +6,13 @@
 #include <PxProductProperties.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QDomDocument>
 #include <QElapsedTimer>
+#include <QFile>
 
 #include <cstdio>
+#include <cstdlib>
 
 #include <sys/resource.h>
 
@@ -25,11 +28,14 @@ void require(bool isRight, const char *what)
     exit(1);
 }
 
+QFileInfoList xmlFiles(const QString &directory)
+{
+    return QDir(directory).entryInfoList({QStringLiteral("*.xml")}, QDir::Files, QDir::Unsorted);
+}
+
 void readWithQt(const QString &directory)
 {
-    const QFileInfoList files =
-        QDir(directory).entryInfoList({QStringLiteral("*.xml")}, QDir::Files, QDir::Unsorted);
-    for (const QFileInfo &info : files) {
+    for (const QFileInfo &info : xmlFiles(directory)) {
         QFile file(info.filePath());
         QDomDocument document;
         require(file.open(QIODevice::ReadOnly) && document.setContent(file.readAll()),
@@ -83,7 +89,9 @@ int main(int argc, char *argv[])
 
     // Only right answers are measured.
     if (hasRegistry && !isQt)
-        require(!PxProductTypeConfigRegistry::instance()->products().isEmpty(), "the products");
+        require(PxProductTypeConfigRegistry::instance()->products().size() ==
+                    xmlFiles(catalogue + QLatin1String("/products")).size(),
+                "the products");
     if (hasThemes && !isQt)
         require(PxThemeFactory::instance()->contains(QStringLiteral("theme-99")), "the themes");
     printf("%lld %lld %ld\n", nanoseconds, processorNanoseconds(after) - before, after.ru_maxrss);

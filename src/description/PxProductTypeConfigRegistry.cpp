@@ -55,7 +55,7 @@ PxProductTypeConfigRegistry *PxProductTypeConfigRegistry::instance()
     static QAtomicPointer<PxProductTypeConfigRegistry> ourInstance;
     static QBasicMutex ourMutex;
     return pxCreateOnce(ourInstance, ourMutex, [] {
-        // A file of this directory is found by the name of its product, not by being there.
+        // No product has such a file's name, so that nobody would ever open it.
         PxUndecodableNames::warn(PxDirectoryConfig::instance()->userDefaultsPath());
         return createRegistry(QStringLiteral("products"));
     });

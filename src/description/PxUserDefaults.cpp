@@ -4,7 +4,12 @@
 #include <PxXMLLoader.h>
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+
+#include <cerrno>
+
+#include <dirent.h>
 
 PxUserDefaults::PxUserDefaults()
     : m_directory(QDir::cleanPath(PxDirectoryConfig::instance()->userDefaultsPath()))
@@ -15,11 +20,19 @@ PxUserDefaults::PxUserDefaults()
 
 void PxUserDefaults::list()
 {
-    const QFileInfo directory(m_directory);
-    m_isListed = directory.isReadable() || !directory.exists();
-    const QStringList names =
-        QDir(m_directory).entryList(QDir::Files | QDir::Hidden, QDir::Unsorted);
-    m_fileNames = QSet<QString>(names.begin(), names.end());
+    constexpr int maximumNames = 10000; // looking for each file is quicker then
+    DIR *entries = opendir(QFile::encodeName(m_directory));
+    m_isListed = entries || errno == ENOENT;
+    if (!entries)
+        return;
+    while (const dirent *entry = readdir(entries)) {
+        m_fileNames.insert(QFile::decodeName(entry->d_name));
+        if (m_fileNames.size() > maximumNames) {
+            m_isListed = false;
+            break;
+        }
+    }
+    closedir(entries);
 }
 
 QDomDocument PxUserDefaults::document(const QString &productName) const

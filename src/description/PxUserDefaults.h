@@ -10,7 +10,10 @@ class PxUserDefaults
 public:
     PxUserDefaults();
 
-    /** Looks at the directory now, once: for those who ask for many products. */
+    /**
+     * Reads the names of the files now, so that document() opens only files that are there. If they
+     * cannot be read, or are too many, each file is looked for as without this.
+     */
     void list();
     /**
      * The file of a product; null if it is missing or damaged, which is not reported: few users

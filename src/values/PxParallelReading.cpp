@@ -2,19 +2,20 @@
 
 #include <PxMessage.h>
 
-#include <QSemaphore>
 #include <QThread>
 #include <QThreadPool>
 #include <QVector>
 
 #include <algorithm>
-#include <atomic>
+#include <condition_variable>
+#include <exception>
 #include <memory>
+#include <mutex>
 #include <vector>
 
 namespace {
 
-constexpr int maximumThreads = 8; // what is not read in parallel leaves no use for more
+constexpr int maximumThreads = 8; // with more the rest, which one thread does, takes the most time
 constexpr int filesPerThread = 16;
 
 int threadCount(int fileCount)
@@ -25,56 +26,110 @@ int threadCount(int fileCount)
     return std::min({threads, maximumThreads, fileCount / filesPerThread});
 }
 
-/** The files of one call. Each thread takes the next one until none is left. */
+/**
+ * The files of one call. Each thread takes the next one until none is left. The caller's thread
+ * reads files, too, and writes the messages of the first ones as soon as these are read.
+ */
 class Files
 {
 public:
     Files(int count, const std::function<void(int)> &read)
         : m_read(read)
-        , m_messages(std::size_t(count))
+        , m_files(std::size_t(count))
     {}
 
-    void readNextOnes()
+    void readInPool()
     {
-        const int count = int(m_messages.size());
-        for (int i = m_next++; i < count; i = m_next++) {
-            {
-                const PxMessageKeeper keeper(&m_messages[std::size_t(i)]);
-                m_read(i);
-            }
-            if (++m_finished == count)
-                m_allAreFinished.release();
-        }
+        std::unique_lock lock(m_mutex);
+        ++m_runningThreads;
+        do {
+            m_changed.wait(lock, [this] { return m_keptCharacters <= maximumKept; });
+        } while (readNext(lock));
+        --m_runningThreads;
+        m_changed.notify_all();
     }
 
-    void waitForAll() { m_allAreFinished.acquire(); }
-
-    void logMessages() const
+    /** Returns when all files are read. Throws what reading a file has thrown first. */
+    void readInCaller()
     {
-        for (const QVector<PxMessage> &messages : m_messages) {
-            for (const PxMessage &message : messages)
-                message.log();
-        }
+        std::unique_lock lock(m_mutex);
+        while (readNext(lock))
+            writeMessages(lock, m_keptCharacters > maximumKept);
+        while (m_written < m_next)
+            writeMessages(lock, true);
+        m_changed.wait(lock, [this] { return m_runningThreads == 0; });
+        if (m_exception)
+            std::rethrow_exception(m_exception);
     }
 
 private:
-    const std::function<void(int)> m_read;
-    std::vector<QVector<PxMessage>> m_messages; // of each file
-    std::atomic_int m_next{0};
-    std::atomic_int m_finished{0};
-    QSemaphore m_allAreFinished;
-};
+    struct File
+    {
+        bool isRead = false;
+        QVector<PxMessage> messages;
+    };
 
-/**
- * A pool waits forever for a thread that the system refuses to start. The files are read without
- * it, and such a pool is given up: it has nothing left to do.
- */
-void endPool(std::unique_ptr<QThreadPool> pool)
-{
-    constexpr int milliseconds = 1000;
-    if (!pool->waitForDone(milliseconds))
-        pool.release();
-}
+    // Threads do not read on while more than this waits to be written.
+    static constexpr qint64 maximumKept = 1000000;
+
+    static qint64 characters(const QVector<PxMessage> &messages)
+    {
+        qint64 count = 0;
+        for (const PxMessage &message : messages)
+            count += message.text.size();
+        return count;
+    }
+
+    /** Returns false if no file is left. */
+    bool readNext(std::unique_lock<std::mutex> &lock)
+    {
+        if (m_next == m_files.size() || m_exception)
+            return false;
+        const std::size_t number = m_next++;
+        File &file = m_files[number];
+        lock.unlock();
+        std::exception_ptr exception;
+        try {
+            const PxMessageKeeper keeper(&file.messages);
+            m_read(int(number));
+        } catch (...) { // out of memory; a thread of the pool must not end the process
+            exception = std::current_exception();
+        }
+        lock.lock();
+        if (!m_exception)
+            m_exception = exception;
+        m_keptCharacters += characters(file.messages);
+        file.isRead = true;
+        m_changed.notify_all();
+        return true;
+    }
+
+    /** Those of the first files that are read; waits for one if `waits`. */
+    void writeMessages(std::unique_lock<std::mutex> &lock, bool waits)
+    {
+        if (waits)
+            m_changed.wait(lock, [this] { return m_files[m_written].isRead; });
+        while (m_written < m_next && m_files[m_written].isRead) {
+            const QVector<PxMessage> messages = std::move(m_files[m_written++].messages);
+            m_keptCharacters -= characters(messages);
+            m_changed.notify_all();
+            lock.unlock(); // the message handler is the application's
+            for (const PxMessage &message : messages)
+                message.log();
+            lock.lock();
+        }
+    }
+
+    const std::function<void(int)> m_read;
+    std::mutex m_mutex; // protects all that follows
+    std::condition_variable m_changed;
+    std::vector<File> m_files;
+    std::size_t m_next = 0;
+    std::size_t m_written = 0;
+    qint64 m_keptCharacters = 0;
+    int m_runningThreads = 0;
+    std::exception_ptr m_exception;
+};
 
 } // namespace
 
@@ -86,15 +141,19 @@ void PxParallelReading::forEach(int count, const std::function<void(int)> &read)
             read(i);
         return;
     }
-    // Shared, because a thread may start so late that this call has returned.
+    // A pool waits forever for a thread that the system refuses to start. The files are read
+    // without it, and such a pool is given up. So is what a thread needs that starts too late.
     const auto files = std::make_shared<Files>(count, read);
-    auto pool = std::make_unique<QThreadPool>();
+    const auto endPool = [](QThreadPool *pool) {
+        constexpr int milliseconds = 100;
+        if (pool->waitForDone(milliseconds))
+            delete pool;
+    };
+    const std::unique_ptr<QThreadPool, decltype(endPool)> pool(new QThreadPool, endPool);
     pool->setMaxThreadCount(threads - 1);
+    pool->setExpiryTimeout(0);
     pool->setStackSize(2 * 1024 * 1024);
     for (int i = 1; i < threads; ++i)
-        pool->start([files] { files->readNextOnes(); });
-    files->readNextOnes();
-    files->waitForAll();
-    endPool(std::move(pool));
-    files->logMessages();
+        pool->start([files] { files->readInPool(); });
+    files->readInCaller();
 }

@@ -38,6 +38,16 @@ PxXMLFault cannotOpen(const QString &reason)
     return unreadable(QStringLiteral("the file cannot be opened: ") + reason);
 }
 
+/** Repeats a call of the system that a signal interrupts. */
+template <typename Call>
+auto unlessInterrupted(Call call)
+{
+    auto result = call();
+    while (result == -1 && errno == EINTR)
+        result = call();
+    return result;
+}
+
 /** Reads a file that is compiled in. */
 PxXMLFault readResource(const QString &path, QByteArray &bytes)
 {
@@ -46,7 +56,8 @@ PxXMLFault readResource(const QString &path, QByteArray &bytes)
         return cannotOpen(file.errorString());
     if (file.size() > PxXMLLoader::maximumFileSize)
         return tooLarge(file.size());
-    bytes = file.readAll();
+    bytes.resize(int(file.size()));
+    bytes.resize(int(qMax(qint64(0), file.read(bytes.data(), bytes.size()))));
     return {};
 }
 
@@ -62,7 +73,8 @@ PxXMLFault readHandle(int handle, QByteArray &bytes)
     int size = 0;
     ssize_t part = 1;
     while (part > 0 && size < bytes.size()) {
-        part = ::read(handle, bytes.data() + size, std::size_t(bytes.size() - size));
+        part = unlessInterrupted(
+            [&] { return ::read(handle, bytes.data() + size, std::size_t(bytes.size() - size)); });
         if (part == -1)
             return unreadable(QStringLiteral("the file cannot be read: ") + qt_error_string(errno));
         size += int(part);
@@ -89,7 +101,8 @@ PxXMLFault readBytes(const QFileInfo &info, QByteArray &bytes)
                                                   : QStringLiteral("there is no such file"));
     if (path.startsWith(QLatin1Char(':')))
         return readResource(path, bytes);
-    const int handle = ::open(QFile::encodeName(path), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    const int handle = unlessInterrupted(
+        [&] { return ::open(QFile::encodeName(path), O_RDONLY | O_NONBLOCK | O_CLOEXEC); });
     if (handle == -1)
         return cannotOpen(qt_error_string(errno));
     PxXMLFault fault = readHandle(handle, bytes);

@@ -10,22 +10,26 @@ namespace {
 std::mutex scratchMutex;
 
 /** Call this under the mutex only. */
-QVector<PxXMLScratch *> &idleOnes()
+QVector<PxXMLScratch *> &idleScratches()
 {
-    static auto &ourIdleOnes = *new QVector<PxXMLScratch *>;
-    return ourIdleOnes;
+    static auto &ourIdleScratches = *new QVector<PxXMLScratch *>;
+    return ourIdleScratches;
 }
 
 } // namespace
 
 PxXMLScratch::Loan PxXMLScratch::lend()
 {
-    const std::lock_guard lock(scratchMutex);
-    QVector<PxXMLScratch *> &idle = idleOnes();
-    const auto own = std::find_if(idle.begin(), idle.end(), [](const PxXMLScratch *scratch) {
-        return scratch->m_thread == std::this_thread::get_id();
-    });
-    return Loan(own == idle.end() ? new PxXMLScratch : idle.takeAt(int(own - idle.begin())));
+    {
+        const std::lock_guard lock(scratchMutex);
+        QVector<PxXMLScratch *> &idle = idleScratches();
+        const auto own = std::find_if(idle.begin(), idle.end(), [](const PxXMLScratch *scratch) {
+            return scratch->m_thread == std::this_thread::get_id();
+        });
+        if (own != idle.end())
+            return Loan(idle.takeAt(int(own - idle.begin())));
+    }
+    return Loan(new PxXMLScratch);
 }
 
 void PxXMLScratch::GiveBack::operator()(PxXMLScratch *scratch) const
@@ -35,9 +39,13 @@ void PxXMLScratch::GiveBack::operator()(PxXMLScratch *scratch) const
         scratch->m_bytes = QByteArray();
         scratch->m_bytes.reserve(usualFileSize);
     }
-    const std::lock_guard lock(scratchMutex);
-    if (idleOnes().size() < maximumIdle)
-        idleOnes().append(scratch);
-    else
-        delete scratch;
+    PxXMLScratch *oldest = nullptr; // perhaps of a thread that has ended
+    {
+        const std::lock_guard lock(scratchMutex);
+        QVector<PxXMLScratch *> &idle = idleScratches();
+        if (idle.size() == maximumIdle)
+            oldest = idle.takeFirst();
+        idle.append(scratch);
+    }
+    delete oldest;
 }

@@ -7,7 +7,7 @@
 #include <memory>
 #include <thread>
 
-/** What reading a file leaves for the next file. */
+/** Memory that is used again for each file that a thread reads: its bytes, and recurring texts. */
 class PxXMLScratch
 {
 public:
@@ -28,8 +28,8 @@ public:
 
     PxXMLTextPool &texts() { return m_texts; }
     /**
-     * A buffer for the bytes of a file. It has room for all real ones: a buffer of each file's own
-     * size would make the heap tidy itself up for each file.
+     * A buffer for the bytes of a file. It is not allocated for each file in that file's size: then
+     * the heap would tidy itself up each time.
      */
     QByteArray &bytes() { return m_bytes; }
 

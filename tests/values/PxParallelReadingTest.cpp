@@ -1,11 +1,15 @@
 #include <PxAskEverything.h>
 #include <PxCatalogueDirectory.h>
 #include <PxLogRecorder.h>
+#include <PxMessage.h>
 #include <PxProductProperties.h>
 #include <values/PxParallelReading.h>
 
+#include <QDir>
+#include <QFile>
 #include <QTest>
 
+#include <atomic>
 #include <condition_variable>
 #include <mutex>
 #include <set>
@@ -16,14 +20,14 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-static bool isThreadRefused = false;
+static std::atomic_int threadsLeft{1000000};
 
-/** Of the system; refuses threads on demand. */
+/** Of the system; refuses threads when none are left. */
 extern "C" int pthread_create(pthread_t *thread, const pthread_attr_t *attributes,
                               void *(*function)(void *), void *argument)
 {
     static const auto create = decltype(&pthread_create)(dlsym(RTLD_NEXT, "pthread_create"));
-    return isThreadRefused ? EAGAIN : create(thread, attributes, function, argument);
+    return threadsLeft-- > 0 ? create(thread, attributes, function, argument) : EAGAIN;
 }
 
 class PxParallelReadingTest : public QObject
@@ -32,22 +36,25 @@ class PxParallelReadingTest : public QObject
 
 private slots:
     void initTestCase();
+    void firstReadingInAProcessLogsTheSame();
     void manyThreadsLogAndAnswerAsOne();
     void handlerIsCalledInTheThreadOfTheCaller();
     void startsNoMoreThreadsThanItShould_data();
     void startsNoMoreThreadsThanItShould();
     void doesWithoutThreadsThatTheSystemRefuses();
-    void worksInAForkedChild();
+    void throwsInTheCallerWhatReadingThrows();
+    void keepsFewMessages();
 
 private:
     QStringList readWith(const char *threads) const;
+    QByteArray readInChild(const char *threads) const;
 
     PxCatalogueDirectory m_directory;
 };
 
 void PxParallelReadingTest::initTestCase()
 {
-    // What is wrong with a file depends on its number; each logs something but the last kind.
+    // What is wrong with a file depends on its number. All but the last kind log something.
     const QByteArray faults[] = {
         "<d><product name='P%1'", // unreadable
         "<d><product name='P%1' binding='nonsense' paper='none'/></d>",
@@ -97,6 +104,39 @@ QStringList PxParallelReadingTest::readWith(const char *threads) const
     }
     qDeleteAll(descriptions);
     return result;
+}
+
+/** In a process that has asked the library nothing yet. */
+QByteArray PxParallelReadingTest::readInChild(const char *threads) const
+{
+    int ends[2] = {-1, -1};
+    if (pipe(ends) != 0)
+        return "no pipe";
+    const pid_t child = fork();
+    if (child == 0) {
+        QFile out;
+        out.open(ends[1], QIODevice::WriteOnly);
+        out.write(readWith(threads).join('\n').toUtf8());
+        out.close();
+        _exit(0);
+    }
+    close(ends[1]);
+    QFile in;
+    in.open(ends[0], QIODevice::ReadOnly);
+    const QByteArray result = in.readAll();
+    close(ends[0]);
+    waitpid(child, nullptr, 0);
+    return result;
+}
+
+void PxParallelReadingTest::firstReadingInAProcessLogsTheSame()
+{
+#ifdef __SANITIZE_THREAD__
+    QSKIP("The sanitizer starts no threads in a forked child.");
+#endif
+    const QByteArray one = readInChild("1");
+    QVERIFY2(one.contains("leaves out row"), one); // of the product types, when they are read
+    QCOMPARE(readInChild("8"), one);
 }
 
 void PxParallelReadingTest::manyThreadsLogAndAnswerAsOne()
@@ -171,30 +211,53 @@ void PxParallelReadingTest::doesWithoutThreadsThatTheSystemRefuses()
 {
     qputenv("PX_THREADS", "8");
     const PxLogRecorder log; // of Qt, too
-    isThreadRefused = true;
-    std::set<std::thread::id> ids;
-    int calls = 0;
-    PxParallelReading::forEach(100, [&](int) {
-        ids.insert(std::this_thread::get_id());
-        ++calls;
-    });
-    isThreadRefused = false;
-    QCOMPARE(calls, 100);
-    QCOMPARE(ids, std::set<std::thread::id>{std::this_thread::get_id()});
+    for (const int left : {0, 3}) {
+        threadsLeft = left;
+        std::mutex mutex;
+        std::set<std::thread::id> ids;
+        int calls = 0;
+        PxParallelReading::forEach(100, [&](int) {
+            const std::lock_guard lock(mutex);
+            ids.insert(std::this_thread::get_id());
+            ++calls;
+        });
+        QCOMPARE(calls, 100);
+        QVERIFY(int(ids.size()) <= left + 1);
+    }
+    threadsLeft = 1000000;
 }
 
-void PxParallelReadingTest::worksInAForkedChild()
+void PxParallelReadingTest::throwsInTheCallerWhatReadingThrows()
 {
-#ifdef __SANITIZE_THREAD__
-    QSKIP("The sanitizer starts no threads in a forked child.");
-#endif
-    const QStringList expected = readWith("8");
-    const pid_t child = fork();
-    if (child == 0)
-        _exit(readWith("8") == expected ? 0 : 1);
-    int status = -1;
-    QCOMPARE(waitpid(child, &status, 0), child);
-    QVERIFY(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+    qputenv("PX_THREADS", "8");
+    for (int bad = 0; bad < 100; bad += 9)
+        QVERIFY_EXCEPTION_THROWN(PxParallelReading::forEach(100,
+                                                            [bad](int i) {
+                                                                if (i == bad)
+                                                                    throw std::bad_alloc();
+                                                            }),
+                                 std::bad_alloc);
+}
+
+void PxParallelReadingTest::keepsFewMessages()
+{
+    qputenv("PX_THREADS", "8");
+    const QString text(100000, 'x');
+    static std::atomic_int logged{0};
+    logged = 0;
+    const auto previous = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &, const QString &) { ++logged; });
+    std::atomic_int read{0};
+    int mostKept = 0;
+    std::mutex mutex;
+    PxParallelReading::forEach(1000, [&](int) {
+        pxWarning() << text;
+        const std::lock_guard lock(mutex);
+        mostKept = std::max(mostKept, ++read - logged);
+    });
+    qInstallMessageHandler(previous);
+    QCOMPARE(logged.load(), 1000);
+    QVERIFY2(mostKept <= 30, qPrintable(QString::number(mostKept)));
 }
 
 QTEST_APPLESS_MAIN(PxParallelReadingTest) // the library starts threads without an application, too
