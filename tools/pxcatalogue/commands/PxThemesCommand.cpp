@@ -1,7 +1,7 @@
 #include "commands/PxThemesCommand.h"
 
 #include "commands/PxCommandLine.h"
-#include "report/PxCatalogueKeywords.h"
+#include "format/PxCatalogueKeywords.h"
 #include "report/PxCatalogueProducts.h"
 
 #include <PxProductProperties.h>

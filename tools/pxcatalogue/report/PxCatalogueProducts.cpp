@@ -1,7 +1,7 @@
 #include "report/PxCatalogueProducts.h"
 
 #include "check/words/PxListedProductTypes.h"
-#include "report/PxCatalogueKeywords.h"
+#include "format/PxCatalogueKeywords.h"
 
 #include <PxProductProperties.h>
 

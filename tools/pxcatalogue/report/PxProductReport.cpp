@@ -1,6 +1,6 @@
 #include "report/PxProductReport.h"
 
-#include "report/PxCatalogueKeywords.h"
+#include "format/PxCatalogueKeywords.h"
 #include "report/PxCatalogueProducts.h"
 
 #include <PxProductProperties.h>

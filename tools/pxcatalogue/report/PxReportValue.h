@@ -1,6 +1,6 @@
 #pragma once
 
-#include "report/PxCatalogueKeywords.h"
+#include "format/PxCatalogueKeywords.h"
 
 #include <QJsonValue>
 #include <QList>
