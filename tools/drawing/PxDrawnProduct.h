@@ -50,6 +50,7 @@ struct PxDrawnPage
     PxSurroundingDescription surrounding; ///< invalid for none
     PxBarcode barcode;                    ///< invalid for none
     bool hasPageNumber = false;
+    QPoint pageNumber;          ///< its place on the page, if it has one
     QString layoutTemplate;     ///< with a theme only
     QString backgroundTemplate; ///< with a theme only
 

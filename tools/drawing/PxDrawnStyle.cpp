@@ -58,6 +58,11 @@ PxDrawnLine PxDrawnStyle::line(PxDrawnItem item, double annotation)
     return line;
 }
 
+PxDrawnLine PxDrawnStyle::diagonals(double annotation)
+{
+    return {0.12 * annotation, QColor(QStringLiteral("#8CC7D0")), {}, 1};
+}
+
 QColor PxDrawnStyle::fill(PxDrawnItem item)
 {
     const char *fill = rowOf(item).fill;

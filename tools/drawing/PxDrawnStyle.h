@@ -29,6 +29,8 @@ namespace PxDrawnStyle {
 
 /** Its line, with widths and dashes for this annotation millimetre. */
 PxDrawnLine line(PxDrawnItem item, double annotation);
+/** The line of the diagonals of a surrounding. */
+PxDrawnLine diagonals(double annotation);
 /** Invalid for none. */
 QColor fill(PxDrawnItem item);
 /** The name of the item in "data-item" and "data-note": "bleed-area". */

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+class PxProductType;
+
+namespace PxProductFile {
+
+/**
+ * The path in the catalogue of the file from which the library reads this product:
+ * "products/x.xml", or "products/legacy/x.xml" for one of an earlier catalogue. Empty if there is
+ * none.
+ *
+ * Reads the product files until it knows.
+ */
+QString pathOf(const PxProductType &type, bool isLegacy);
+
+} // namespace PxProductFile
