@@ -245,8 +245,7 @@ QString problemOfPageCount(const Reading &reading, const QList<int> &offered)
     const int pageCount = reading.drawn.pageCount;
     if (offered.isEmpty() || reading.product.isPageCountOffered(pageCount))
         return QString();
-    return PxPageCounts::notOffered(reading.drawn.type, pageCount,
-                                    PxPageCounts::nearest(offered, pageCount));
+    return PxPageCounts::notOffered(reading.drawn.type, offered, pageCount);
 }
 
 QString problemOfSize(const PxDrawnPage &page)

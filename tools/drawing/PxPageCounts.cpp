@@ -26,9 +26,10 @@ QList<int> PxPageCounts::nearest(const QList<int> &offered, int pageCount)
     return nearest;
 }
 
-QString PxPageCounts::notOffered(const PxProductType &type, int pageCount,
-                                 const QList<int> &nearest)
+QString PxPageCounts::notOffered(const PxProductType &type, const QList<int> &offered,
+                                 int pageCount)
 {
+    const QList<int> nearest = PxPageCounts::nearest(offered, pageCount);
     QString text = type.productName() + QString(" is not offered with %1 ").arg(pageCount) +
                    (pageCount == 1 ? "page" : "pages");
     if (nearest.size() == 1)

@@ -14,6 +14,6 @@ int standard(const PxProductTypeDescription &product, const QList<int> &offered)
 /** The next smaller and next larger count that exist; nothing if the count itself is offered. */
 QList<int> nearest(const QList<int> &offered, int pageCount);
 /** "NAME is not offered with 27 pages, the nearest are 26 and 28" */
-QString notOffered(const PxProductType &type, int pageCount, const QList<int> &nearest);
+QString notOffered(const PxProductType &type, const QList<int> &offered, int pageCount);
 
 } // namespace PxPageCounts

@@ -1,5 +1,6 @@
 #include "report/PxProductReport.h"
 
+#include "drawing/PxPageCounts.h"
 #include "format/PxCatalogueKeywords.h"
 #include "report/PxCatalogueProducts.h"
 
@@ -62,9 +63,7 @@ int shownPageCount(const PxProductTypeDescription &product, const QList<int> &of
     // Each entry of the page list may stand for that many pages, so the total is limited, too.
     const int entries = qMax(1, product.countAbstractPages());
     const int limit = qBound(1, 1000000 / entries, PxProductReport::maximumPageCount);
-    const int soldWith = product.defaultSellingPages();
-    const int standard = soldWith > 0 ? soldWith : offered.value(0, 1);
-    const int pageCount = wanted > 0 ? wanted : standard;
+    const int pageCount = wanted > 0 ? wanted : PxPageCounts::standard(product, offered);
     if (pageCount <= limit)
         return pageCount;
     qWarning("%d pages are too many to show: %d are shown", pageCount, limit);
@@ -80,32 +79,6 @@ auto orderOf(const PxSurroundingDescription &surrounding)
                            surrounding.paintOnTop(), surrounding.hasBindingShade(),
                            surrounding.image(), rect.left(), rect.top(), rect.right(),
                            rect.bottom());
-}
-
-/** The next smaller and next larger count that exist; nothing if the count itself is offered. */
-QList<int> nearestPageCounts(const QList<int> &offered, int pageCount)
-{
-    const auto larger = std::lower_bound(offered.begin(), offered.end(), pageCount);
-    QList<int> nearest;
-    if (larger != offered.end() && *larger == pageCount)
-        return nearest;
-    if (larger != offered.begin())
-        nearest.append(*std::prev(larger));
-    if (larger != offered.end())
-        nearest.append(*larger);
-    return nearest;
-}
-
-void warnOfPageCount(const PxProductType &type, int pageCount, const QList<int> &nearest)
-{
-    QString text = type.productName() + QString(" is not offered with %1 ").arg(pageCount) +
-                   (pageCount == 1 ? "page" : "pages");
-    if (nearest.size() == 1)
-        text += QString(", the nearest is %1").arg(nearest[0]);
-    else if (!nearest.isEmpty())
-        text += QString(", the nearest are %1 and %2")
-                    .arg(QString::number(nearest[0]), QString::number(nearest[1]));
-    qWarning("%s", qUtf8Printable(text));
 }
 
 /** The product with the page count and the theme in which it is shown. */
@@ -143,8 +116,8 @@ Shown shownProduct(const PxProductTypeConfigRegistry *registry, const PxProductT
     Shown shown{registry, type, themeId};
     shown.pageCount = shownPageCount(*shown.product, shown.offeredPageCounts, pageCount);
     if (pageCount > 0 && !shown.product->isPageCountOffered(shown.pageCount))
-        warnOfPageCount(type, shown.pageCount,
-                        nearestPageCounts(shown.offeredPageCounts, shown.pageCount));
+        qWarning("%s", qUtf8Printable(PxPageCounts::notOffered(type, shown.offeredPageCounts,
+                                                               shown.pageCount)));
     addPagesTo(&shown);
     return shown;
 }
@@ -189,7 +162,7 @@ void addProduct(const Shown &shown, PxReport *report)
 void addPages(const Shown &shown, PxReport *report)
 {
     const int sellingPages = shown.product->defaultSellingPages();
-    const QList<int> nearest = nearestPageCounts(shown.offeredPageCounts, shown.pageCount);
+    const QList<int> nearest = PxPageCounts::nearest(shown.offeredPageCounts, shown.pageCount);
     report->addFields("pages", "Pages", {
         {"pageCounts", "Page counts", PxReportValue::pageCounts(shown.offeredPageCounts, shown.product->pageIncrement()), Format::PageCounts},
         {"defaultSellingPages", "Sold with", sellingPages == -1 ? QJsonValue() : sellingPages},
