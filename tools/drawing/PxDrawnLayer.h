@@ -26,3 +26,8 @@ Q_DECLARE_FLAGS(PxDrawnLayers, PxDrawnLayer)
 Q_DECLARE_OPERATORS_FOR_FLAGS(PxDrawnLayers)
 
 constexpr int pxDrawnLayerCount = 16;
+
+/** The name of the layer with this number, in ids and on command lines: "page-numbers". */
+QString pxDrawnLayerName(int layer);
+/** How programs that show the layers of a file call it. */
+QString pxDrawnLayerLabel(int layer);

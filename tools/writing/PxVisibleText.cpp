@@ -66,6 +66,11 @@ QString escapedInJson(uint character)
            escape(QChar::lowSurrogate(character), 4);
 }
 
+QString escapedInXml(uint character)
+{
+    return "&#x" + QString::number(character, 16).toUpper() + ';';
+}
+
 /** Keeps line breaks if `hasLines`. */
 QString escaped(const QString &text, bool hasLines, QString (*escapeOf)(uint))
 {
@@ -104,4 +109,9 @@ QString PxVisibleText::json(const QByteArray &json)
     if (json.contains("\\ud"))
         text.replace(ourHalf, QString("\\1") + QChar(QChar::ReplacementCharacter));
     return escaped(text, true, escapedInJson);
+}
+
+QString PxVisibleText::xml(const QByteArray &xml)
+{
+    return escaped(QString::fromUtf8(xml), true, escapedInXml);
 }
