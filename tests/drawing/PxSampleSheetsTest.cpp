@@ -277,17 +277,21 @@ void PxSampleSheetsTest::knowsTheTheme()
     QCOMPARE(book.sheets[0].pages[2].layoutTemplate, QString("Titelbild oval"));
     QCOMPARE(book.sheets[0].pages[2].backgroundTemplate, QString("Rosenblueten"));
     QVERIFY(!book.theme.isEmpty());
-    for (const char *theme : {"normal", "design", "hochzeit", "schule", "urlaub"}) {
-        for (const char *name :
-             {"BOOK_A4_PORTRAIT", "CUP2", "CARD_FOLDED_A6", "CALENDAR_WALL_A4"}) {
+    int invalid = 0;
+    int logos = 0;
+    for (const QString &theme : PxThemeFactory::instance()->themeNames()) {
+        for (const char *name : {"BOOK_A4_PORTRAIT", "CALENDAR_WALL_A4", "CUP2"}) {
             const PxProductContext context(PxProductType(name), theme);
-            const auto notes = drawn(name, 0, theme).sheets[0].notes;
+            const PxDrawnProduct product = drawn(name, 0, theme);
+            const auto notes = product.sheets[0].notes;
             QCOMPARE(notes.contains(PxDrawnNote::ThemeInvalid), !context.isValid());
             QCOMPARE(notes.contains(PxDrawnNote::ThemeLogo), context.mustPaintVemoLogo());
+            QVERIFY(product.sheets.size() == 1 || product.sheets[1].notes.isEmpty());
+            invalid += !context.isValid();
+            logos += context.mustPaintVemoLogo();
         }
     }
-    const PxDrawnProduct unknown = drawn("CUP2", 0, "x");
-    QCOMPARE(unknown.sheets[0].notes, QVector<PxDrawnNote>{PxDrawnNote::ThemeInvalid});
+    QVERIFY(invalid > 0 && logos > 0);
 }
 
 void PxSampleSheetsTest::namesTheNearestPageCounts()

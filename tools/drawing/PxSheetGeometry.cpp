@@ -90,20 +90,23 @@ QRectF pageRect(const PxDrawnPage &page)
     return QRectF(QPointF(), QSizeF(page.trim.size()));
 }
 
-/** With bleed. Of no size if the bleed takes more than there is. */
+/** With bleed. Of no size, in the middle, if negative bleed takes more than there is. */
 QRectF totalRect(const PxDrawnPage &page)
 {
-    const QRectF total = QRectF(page.total().translated(-page.trim.topLeft()));
-    return QRectF(total.topLeft(), total.size().expandedTo(QSizeF(0, 0)));
+    const QRectF total(page.total().translated(-page.trim.topLeft()));
+    const QSizeF size = total.size().expandedTo(QSizeF(0, 0));
+    return QRectF(total.center() - QPointF(size.width() / 2, size.height() / 2), size);
 }
 
+/** Of no size if there is no safety margin, or nothing within it. */
 QRectF safeRect(const PxDrawnPage &page)
 {
+    const auto margin = [](int length) { return double(qMax(0, length)); };
+    const QRectF rect = pageRect(page);
     const PxMargins &margins = page.safetyMargins;
-    if (page.role == Role::Spine || margins.allNull())
-        return QRectF();
-    return pageRect(page).adjusted(margins.left(), margins.top(), -double(margins.right()),
-                                   -double(margins.bottom()));
+    const QRectF safe = rect.adjusted(margin(margins.left()), margin(margins.top()),
+                                      -margin(margins.right()), -margin(margins.bottom()));
+    return page.role == Role::Spine || safe == rect ? QRectF() : safe;
 }
 
 /** The strip along the inner edge of the page; the whole page if the strip is wider. */
