@@ -43,8 +43,7 @@ const Odd oddProducts[] = {
      "has no size: page 0 is 800 x 0"},
     {"book_no_cover", "coverextrahorizontal='-990'", SIZE SPREADS SPINE("width='1'"),
      "has no size: page 0 is 0 x 800"},
-    {"gift_largest", "bleedmargin='-1000000'", "<usablesize width='1000000' height='1000000'/>",
-     "bleed-negative"},
+    {"gift_largest", "bleedmargin='1000000'", "<usablesize width='1000000' height='1000000'/>", ""},
     {"gift_too_wide", "", "<usablesize width='1000001' height='9'/>",
      "is too large to draw: page 0 has a length of 100000.1 mm"},
     {"gift_int_range", "bleedmargin='2147483647'",
@@ -108,6 +107,19 @@ const Odd oddProducts[] = {
      SIZE SPREADS SPINE("width='9'"), "vertical-spine||||"},
     {"book_of_one_page", "bleedmargin='30'",
      SIZE "<pages>normalpages</pages><spines><spine pages='1'/></spines>", ""},
+    // Pages that cannot make a sheet together: one by one.
+    {"book_of_one_cover", "", SIZE "<pages>fullcover,normalpages</pages>" SPINE("width='9'"), "||"},
+    {"book_of_half_cover", "", SIZE "<pages>fullcover,spine,normalpages</pages>" SPINE("width='9'"),
+     "|||"},
+    {"book_with_bleed_at_joints", "bleedmargincover='30'",
+     SIZE SPREADS "<spines><spine pages='1' width='9'/></spines>", "|||"},
+    {"book_with_barcodes", "",
+     SIZE "<pages>normalpages</pages>"
+          "<spines><spine pages='8'/></spines>"
+          "<barcodes><barcode pageNr='0' x='1' y='1' width='9' height='9'/>"
+          "<barcode pageNr='2' x='1' y='1' width='9' height='9'/>"
+          "<barcode pageNr='4' reverseOrder='1' x='1' y='1' width='9' height='9'/></barcodes>",
+     "||"},
     {"gift_long_name", "", SIZE BARCODE("x='9' y='9' width='9' height='9' image='%LONG%'"),
      "is too large to draw: it has a name of 4097 characters"},
 };
@@ -170,8 +182,6 @@ void PxOddSheetsTest::initTestCase()
             productFile(odd.name, odd.attributes,
                         QByteArray(odd.content).replace("%LONG%", QByteArray(4097, 'x'))));
 
-    add("gift_letters",
-        productFile("gift_letters", "", SIZE BARCODE("x='9' y='9' width='9' height='9'")));
     add("book_letters",
         productFile(
             "book_letters", "",

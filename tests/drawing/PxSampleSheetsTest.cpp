@@ -17,6 +17,8 @@ private slots:
     void everyPageIsOnOneSheet();
     void pagesHaveTheirSizes_data() { addProducts(); }
     void pagesHaveTheirSizes();
+    void bleedIsHatched_data() { addProducts(); }
+    void bleedIsHatched();
     void itemsHaveTheirPlaces_data() { addProducts(); }
     void itemsHaveTheirPlaces();
     void drawsTheBook();
@@ -155,6 +157,41 @@ void PxSampleSheetsTest::pagesHaveTheirSizes()
     }
 }
 
+void PxSampleSheetsTest::bleedIsHatched()
+{
+    QFETCH(const QString, product);
+    QFETCH(const int, pageCount);
+    const auto areaOf = [](const QVector<PxFoundShape> &shapes, int page) {
+        double area = 0;
+        for (const PxFoundShape &shape : shapes)
+            area += shape.page == page ? shape.rect.width() * shape.rect.height() : 0;
+        return area;
+    };
+    for (const PxDrawnSheet &sheet : drawn(qPrintable(product), pageCount).sheets) {
+        const auto areas = pxFindShapes(sheet, "bleed-area");
+        const auto totals = pxFindShapes(sheet, "total");
+        const auto trims = pxFindShapes(sheet, "trim");
+        for (const PxFoundShape &total : totals)
+            QCOMPARE(areaOf(areas, total.page),
+                     areaOf(totals, total.page) - areaOf(trims, total.page));
+        for (const PxFoundShape &area : areas) {
+            QVERIFY(QRectF(sheet.total).contains(area.rect));
+            QVERIFY(!QRectF(sheet.trim).intersects(area.rect));
+        }
+        for (const PxFoundShape &hatch : pxFindShapes(sheet, "hatch")) {
+            const auto &steps = hatch.shape.steps;
+            for (int i = 0; i < steps.size(); i += 2) {
+                const QLineF line(steps[i].to, steps[i + 1].to);
+                QVERIFY(qAbs(line.angle() - 45) < 0.001);
+                const QPointF center = line.center();
+                QVERIFY(std::any_of(areas.begin(), areas.end(), [&](const PxFoundShape &area) {
+                    return area.page == hatch.page && area.shape.rect.contains(center);
+                }));
+            }
+        }
+    }
+}
+
 void PxSampleSheetsTest::itemsHaveTheirPlaces()
 {
     QFETCH(const QString, product);
@@ -206,6 +243,10 @@ void PxSampleSheetsTest::drawsTheBook()
     QCOMPARE(edges[0].rect, QRectF(2160, -150, 0, 3330));
     QCOMPARE(edges[1].rect, QRectF(2254, -150, 0, 3330));
     QCOMPARE(pxFindShapes(cover, "spine-text")[0].rect, QRectF(2183, 50, 48, 2930));
+    // Marks are 5 annotation millimetres long, and 1 away from what is printed.
+    QCOMPARE(pxFindShapes(cover, "crop-marks")[0].rect, QRectF(-210, -210, 4834, 3450));
+    QCOMPARE(pxFindShapes(cover, "crop-marks", 40)[0].rect, QRectF(-390, -390, 5194, 3810));
+    QCOMPARE(pxFindShapes(cover, "fold-marks")[0].rect, QRectF(2160, -210, 94, 3450));
     QCOMPARE(pxFindShapes(cover, "fold").size(), 0);
     QCOMPARE(pxFindShapes(cover, "fold-margin").size(), 0);
     const auto surroundings = pxFindShapes(cover, "surrounding");

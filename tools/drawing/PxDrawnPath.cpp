@@ -51,7 +51,7 @@ void PxDrawnPath::addHatch(Steps *steps, const QRectF &area, double distance, co
     const double first = area.left() + area.top() + onSheet;
     const double last = area.right() + area.bottom() + onSheet;
     // Large areas get no more lines than can be told apart.
-    const double step = std::max(distance * M_SQRT2, (last - first) / 1000);
+    const double step = std::max(distance * std::sqrt(2.0), (last - first) / 1000);
     for (double i = std::ceil(first / step); i * step < last; ++i) {
         const double sum = i * step - onSheet;
         const double left = std::max(area.left(), sum - area.bottom());

@@ -48,7 +48,7 @@ struct PxDrawnPage
     bool isPrinted = true;                ///< false for an empty page
     bool takesContent = true;             ///< whether designs may be put on it
     PxSurroundingDescription surrounding; ///< invalid for none
-    PxBarcode barcode;                    ///< invalid for none
+    PxBarcode barcode; ///< invalid for none; one without an area is invalid, too, but has an image
     bool hasPageNumber = false;
     QPoint pageNumber;          ///< its place on the page, if it has one
     QString layoutTemplate;     ///< with a theme only

@@ -59,7 +59,7 @@ bool canTouch(const Reading &reading, const PxPageContext &left, const PxPageCon
 /** How many pages the sheet has that begins with this one. */
 int pagesOfSheet(const Reading &reading, int first)
 {
-    const auto isSide = [&reading](const PxPageContext &page, PxPageAlignment side) {
+    const auto isSide = [](const PxPageContext &page, PxPageAlignment side) {
         return page.alignment() == side && !isSpine(page);
     };
     const int count = reading.pageTypes.size();
