@@ -425,7 +425,9 @@ PxDrawnShape Builder::spiral() const
                             isVertical ? QPointF(to, along) : QPointF(along, from),
                             (to - from) * 0.6);
     }
-    PxDrawnShape shape = path("spiral", steps, stroke(PxDrawnItem::Spiral));
+    PxDrawnLine line = stroke(PxDrawnItem::Spiral);
+    line.width = qMin(line.width, 0.45 * length / m_sheet.spiralLoops); // so that rings stay apart
+    PxDrawnShape shape = path("spiral", steps, line);
     shape.attributes = {{"data-loops", QString::number(m_sheet.spiralLoops)}};
     return shape;
 }
