@@ -1,6 +1,7 @@
 #include "commands/PxCompatibleCommand.h"
 
 #include "commands/PxCommandLine.h"
+#include "commands/PxNamedProduct.h"
 #include "format/PxCatalogueKeywords.h"
 #include "report/PxCatalogueProducts.h"
 #include "report/PxProductTable.h"
@@ -21,17 +22,17 @@ PxCommandUsage PxCompatibleCommand::usage() const
         {"criterion", "KEYWORDS", "What else must be the same: binding, paper, space, increment; several with commas. Default: nothing.", 0, 0, keywordList(criterionRows)},
         PxOption::theme(),
         PxOption::json(),
-    }, productName()};
+    }, PxNamedProduct::argument()};
     // clang-format on
 }
 
 PxReportCommand::Answer PxCompatibleCommand::answer(const PxCommandLine &line) const
 {
     const PxProductType type(line.arguments().constFirst());
-    const QString themeId = PxReportCommand::themeId(line);
+    const QString themeId = PxNamedProduct::themeIdOf(line);
     if (!PxCatalogueProducts::isCurrent(type))
-        return {std::nullopt, unknownProduct(line.arguments().constFirst())};
-    if (const auto no = problemOfTheme(themeId))
+        return {std::nullopt, PxNamedProduct::unknownProduct(line.arguments().constFirst())};
+    if (const auto no = PxNamedProduct::problemOfTheme(themeId))
         return {std::nullopt, no};
 
     const auto criterion = EnumHelper::decodeKeywordList(line.value("criterion"), criterionKeywords,

@@ -19,12 +19,4 @@ protected:
     };
 
     virtual Answer answer(const PxCommandLine &line) const = 0;
-
-    /** The argument of a command about one product. */
-    static PxCommandUsage::Arguments productName();
-    /** The id in --theme, in lower case like all ids; empty if no theme is given. */
-    static QString themeId(const PxCommandLine &line);
-    static PxProblem unknownProduct(const QString &name);
-    /** Returns a problem if no theme has this id; an empty id is not a problem. */
-    static std::optional<PxProblem> problemOfTheme(const QString &id);
 };

@@ -1,6 +1,7 @@
 #include "commands/PxVariantsCommand.h"
 
 #include "commands/PxCommandLine.h"
+#include "commands/PxNamedProduct.h"
 #include "report/PxCatalogueProducts.h"
 
 #include <PxProductProperties.h>
@@ -15,14 +16,14 @@ PxCommandUsage PxVariantsCommand::usage() const
             "The variants of one product, such as its colours, with their names.\n"
             "Variants without a name are not on offer and are left out.",
             {PxOption::json()},
-            productName()};
+            PxNamedProduct::argument()};
 }
 
 PxReportCommand::Answer PxVariantsCommand::answer(const PxCommandLine &line) const
 {
     const PxProductType type(line.arguments().constFirst());
     if (!PxCatalogueProducts::isCurrent(type))
-        return {std::nullopt, unknownProduct(line.arguments().constFirst())};
+        return {std::nullopt, PxNamedProduct::unknownProduct(line.arguments().constFirst())};
 
     const auto *identifiers = PxProductVariantIdentifiers::instance();
     const QMap<QString, QString> nameOfVariant = identifiers->variants(type);
