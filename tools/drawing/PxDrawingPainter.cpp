@@ -4,10 +4,10 @@
 #include "drawing/PxDrawnFont.h"
 
 #include <QFont>
-#include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
+#include <QRawFont>
 
 #include <algorithm>
 #include <cmath>
@@ -144,7 +144,8 @@ void paintShape(const PxDrawnShape &shape, QPainter *painter)
 
 bool PxDrawingPainter::hasFonts()
 {
-    return !QFontDatabase().families().isEmpty();
+    // Qt has families and a font of boxes nevertheless; but no such font knows characters.
+    return !QRawFont::fromFont(fontOf({})).fontTable("cmap").isEmpty();
 }
 
 void PxDrawingPainter::paint(const PxDrawingSheet &sheet, QPainter *painter)
