@@ -1,6 +1,7 @@
 #include "report/PxProductReport.h"
 
 #include "drawing/PxPageCounts.h"
+#include "drawing/PxProductFile.h"
 #include "format/PxCatalogueKeywords.h"
 #include "report/PxCatalogueProducts.h"
 
@@ -147,6 +148,7 @@ void addProduct(const Shown &shown, PxReport *report)
         {"class", "Class", PxCatalogueProducts::className(shown.type)},
         {"isOffered", "Offered", PxCatalogueProducts::isOffered(shown.registry, shown.type)},
         {"isLegacy", "Of earlier catalogue", isLegacy},
+        {"file", "File", PxProductFile::pathOf(shown.type, isLegacy)},
         {"binding", "Binding", PxReportValue::name(shown.product->binding()), Format::Name},
         {"paper", "Paper", PxReportValue::name(shown.product->paperType()), Format::Name},
         {"orientation", "Orientation", keywordOf(shown.product->orientation())},
@@ -208,7 +210,8 @@ void addPageKinds(const Shown &shown, PxReport *report)
         rows.append(
             {keywordOf(kind.pageType()), sideOf(kind), PxReportValue::numbers(shown.pagesOfKind[i]),
              PxReportValue::size(size.usableSize()), PxReportValue::margins(size.bleedMargins()),
-             PxReportValue::size(size.totalSize()), size.horizontalClampExtra()});
+             PxReportValue::size(size.totalSize()), PxReportValue::margins(size.safetyMargins()),
+             size.horizontalClampExtra()});
     }
     report->addTable("pageKinds", "Size of each kind of page (bleed: top/bottom/left/right)", {
         {"pageType", "Page", Format::Key},
@@ -217,6 +220,7 @@ void addPageKinds(const Shown &shown, PxReport *report)
         {"usableSize", "Usable", Format::Size},
         {"bleed", "Bleed", Format::Margins},
         {"totalSize", "Total", Format::Size},
+        {"safetyMargins", "", Format::JsonOnly},
         {"clamp", "Clamp", Format::Length},
     }, rows);
 }
