@@ -1,0 +1,36 @@
+#pragma once
+
+#include "drawing/PxDrawnShape.h"
+
+/** Makes the shapes of annotations, and tells how much room shapes take. */
+namespace PxShapeMaker {
+
+/** The colours of annotations: of texts, and of what shall not strike the eye. */
+extern const char *const ink;
+extern const char *const paleInk;
+
+PxDrawnLine thinLine(double annotation);
+
+PxDrawnShape group(const QByteArray &className,
+                   const QVector<QPair<QByteArray, QString>> &attributes = {});
+PxDrawnShape line(const QByteArray &className, const QPointF &from, const QPointF &to,
+                  const PxDrawnLine &stroke);
+PxDrawnShape rect(const QByteArray &className, const QRectF &rect, const PxDrawnLine &stroke,
+                  const QColor &fill = {});
+PxDrawnShape circle(const QPointF &center, double radius, const PxDrawnLine &stroke,
+                    const QColor &fill = {});
+/** A path of straight lines. */
+PxDrawnShape path(const QVector<QPointF> &points, const PxDrawnLine &stroke,
+                  const QColor &fill = {}, bool isClosed = false);
+/** Font sizes are whole units. */
+PxDrawnShape text(const QPointF &position, const QString &text, double fontSize,
+                  PxDrawnShape::Anchor anchor = PxDrawnShape::Anchor::Start, bool isBold = false);
+
+/** A font size of this many annotation millimetres. */
+double fontSize(double factor, double annotation);
+
+/** What encloses the shape and what is in it, lines included; an estimate for texts. */
+QRectF boundsOf(const PxDrawnShape &shape);
+QRectF boundsOf(const QVector<PxDrawnShape> &shapes);
+
+} // namespace PxShapeMaker
