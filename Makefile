@@ -9,7 +9,8 @@ COUNT ?= 60
 SEED ?= 1
 FOLDER ?= src
 BUILD = build/$(PRESET)
-PACKAGES = ccache cmake g++ libxml2-utils ninja-build qtbase5-dev qttools5-dev qttools5-dev-tools tzdata
+PACKAGES = ccache cmake g++ libqpdf-dev librsvg2-bin libxml2-utils ninja-build poppler-utils qtbase5-dev qttools5-dev \
+    qttools5-dev-tools tzdata
 ROOT = $(if $(filter 0,$(shell id -u)),,sudo)
 
 .PHONY: help demo check quick mutants platform bench benchmarks fuzz valgrind clang tidy build setup clean

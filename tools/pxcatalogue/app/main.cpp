@@ -6,9 +6,12 @@
 #include "writing/PxTerminal.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QLocale>
 #include <QString>
 #include <QTranslator>
+
+#include <optional>
 
 namespace {
 
@@ -39,13 +42,31 @@ PxExitStatus run(const PxCommandLine &line)
     return line.command().run(line);
 }
 
+/** A QGuiApplication takes fonts and a display, which a machine that prints tables may not have. */
+template <typename APPLICATION>
+std::optional<int> runIn(int argc, char *argv[])
+{
+    const APPLICATION application(argc, argv);
+    const PxCommandLine line(QCoreApplication::arguments());
+    const bool isPainted =
+        !line.problem() && !line.information() && line.command().needsFonts(line);
+    if (isPainted && !qobject_cast<const QGuiApplication *>(&application))
+        return std::nullopt;
+    return int(run(line));
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
     PxTerminal::prepare();
-    const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName("pxcatalogue");
     QCoreApplication::setApplicationVersion(PX_CATALOGUE_VERSION);
-    return int(run(PxCommandLine(QCoreApplication::arguments())));
+    if (const auto status = runIn<QCoreApplication>(argc, argv))
+        return *status;
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // without a display Qt would abort
+    // What Qt says of the user's session does not matter to files.
+    PxCatalogueLog::install(PxCatalogueLog::Shown::Nothing);
+    return *runIn<QGuiApplication>(argc, argv);
 }

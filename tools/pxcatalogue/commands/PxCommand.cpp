@@ -1,6 +1,7 @@
 #include "commands/PxCommand.h"
 
 #include "commands/PxCompatibleCommand.h"
+#include "commands/PxDrawCommand.h"
 #include "commands/PxListCommand.h"
 #include "commands/PxShowCommand.h"
 #include "commands/PxThemesCommand.h"
@@ -24,8 +25,9 @@ PxCommand::~PxCommand() = default;
 QVector<const PxCommand *> PxCommand::all()
 {
     return {
-        command<PxListCommand>(),   command<PxShowCommand>(),  command<PxCompatibleCommand>(),
-        command<PxThemesCommand>(), command<PxCheckCommand>(), command<PxVariantsCommand>(),
+        command<PxListCommand>(),       command<PxShowCommand>(),   command<PxDrawCommand>(),
+        command<PxCompatibleCommand>(), command<PxThemesCommand>(), command<PxCheckCommand>(),
+        command<PxVariantsCommand>(),
     };
 }
 

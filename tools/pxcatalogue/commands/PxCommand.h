@@ -40,6 +40,8 @@ public:
     virtual PxCommandUsage usage() const = 0;
     /** Whether the user sees the warnings of the library without --verbose, too. */
     virtual bool showsWarnings() const { return true; }
+    /** Whether it paints texts, which takes a QGuiApplication. */
+    virtual bool needsFonts(const PxCommandLine & /*line*/) const { return false; }
     /** Runs the command. The line has been checked against usage(). */
     virtual PxExitStatus run(const PxCommandLine &line) const = 0;
 

@@ -17,7 +17,7 @@ constexpr const char *exitStatus =
     "theme, no other product that is interchangeable, no theme to order, or no variant;\n"
     "2 wrong usage, a directory or a producttypes.xml that cannot be read, or output that\n"
     "cannot be written.\n"
-    "\"check --help\" shows the exit status of check.";
+    "\"draw --help\" shows more reasons, \"check --help\" the exit status of check.";
 
 QString programDescription()
 {
