@@ -238,11 +238,6 @@ QString PxDrawnWords::heading(const PxDrawnSheet &sheet)
 
 QString PxDrawnWords::role(const PxDrawnPage &page)
 {
-    const bool isSingle = page.role == PxDrawnPage::Role::Page;
-    if (isSingle && page.context.alignment() == PxPageAlignmentTop)
-        return QCoreApplication::translate("PxDrawnWords", "Obere Seite");
-    if (isSingle && page.context.alignment() == PxPageAlignmentBottom)
-        return QCoreApplication::translate("PxDrawnWords", "Untere Seite");
     return translated(roles[std::size_t(page.role)]);
 }
 

@@ -50,10 +50,11 @@ QVector<QPair<QString, bool>> texts(const PxSheetRoom &room, int index)
     const auto translate = [](const char *text) {
         return QCoreApplication::translate("PxPageLabel", text);
     };
-    QVector<QPair<QString, bool>> texts{
-        {PxDrawnWords::role(page), false},
-        {PxDrawnWords::pages(PxDrawnWords::pagesLike(room.sheet(), index)), true},
-        {PxDrawnWords::size(page.trim.size()), false}};
+    QVector<QPair<QString, bool>> texts;
+    if (page.role != PxDrawnPage::Role::Page) // the number says that it is a page
+        texts.append({PxDrawnWords::role(page), false});
+    texts.append({PxDrawnWords::pages(PxDrawnWords::pagesLike(room.sheet(), index)), true});
+    texts.append({PxDrawnWords::size(page.trim.size()), false});
     const QString kind = PxDrawnWords::kindOfPage(page);
     if (!kind.isEmpty())
         texts.append({kind, false});

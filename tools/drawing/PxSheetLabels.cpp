@@ -20,6 +20,7 @@ constexpr double typeSize = 2.8;
 constexpr double calloutStep = 6;
 constexpr double smallestStep = 4.2;
 constexpr double leaderLength = 4;
+constexpr double edgeRise = 3.5; // of a callout above the upper edge to which it points
 constexpr double dotRadius = 0.55;
 
 /** Something at the left edge to which a callout points. */
@@ -110,18 +111,31 @@ void addCallout(PxSheetRoom &room, const Target &target, double right, double y)
     room.add(PxDrawnLayer::Labels, callout);
 }
 
+/** Where the first callout stands. */
+double startOfCallouts(const PxSheetRoom &room, const QVector<Target> &targets, double step)
+{
+    const QRectF trim(room.sheet().pages.constFirst().trim);
+    const double height = (targets.size() - 1) * step;
+    // Close to the targets at the upper or at the lower edge, so that leaders are flat.
+    if (targets.constFirst().to <= trim.top())
+        return targets.constFirst().to - edgeRise * room.a();
+    if (targets.constLast().from >= trim.bottom())
+        return targets.constLast().from + edgeRise * room.a() - height;
+    // In the upper part of a high sheet, in the middle of a low one.
+    return trim.top() + std::min((trim.height() - height) / 2, trim.height() / 5);
+}
+
 /** Callouts in one column, so that their leaders do not cross. */
 void addCallouts(PxSheetRoom &room)
 {
     const QVector<Target> targets = ::targets(room);
-    const QRectF trim(room.sheet().pages.constFirst().trim);
+    if (targets.isEmpty())
+        return;
     const double a = room.a();
-    const int count = targets.size();
+    const double height = room.sheet().pages.constFirst().trim.height();
     const double step =
-        std::max(smallestStep, std::min(calloutStep, trim.height() / a / (count + 1))) * a;
-    // In the upper part of a high sheet, in the middle of a low one.
-    const double height = (count - 1) * step;
-    double y = trim.top() + std::min((trim.height() - height) / 2, trim.height() / 5);
+        std::max(smallestStep * a, std::min(calloutStep * a, height / (targets.size() + 1)));
+    double y = startOfCallouts(room, targets, step);
     const double right = room.geometry().left() - leaderLength * a;
     for (const Target &target : targets) {
         addCallout(room, target, right, y);

@@ -17,10 +17,10 @@ constexpr double leading = 3.6;
 constexpr double rowHeight = 5.4;
 constexpr double columnWidth = 72;
 constexpr double columnGap = 4;
-constexpr double swatchWidth = 11;
+constexpr double swatchWidth = 13;
 constexpr double swatchHeight = 3.4;
-constexpr double swatchAtKey = 6; // a swatch after a letter begins here
-constexpr double textIndent = 14;
+constexpr double swatchAtKey = 5.6; // a swatch after a letter begins here
+constexpr double textIndent = 15.5;
 constexpr int maximumColumns = 3;
 
 struct Row

@@ -20,7 +20,7 @@ constexpr double padding = 1.8;
 constexpr double cellWidth = 44;
 constexpr double scaleWidth = 52;
 constexpr double barHeight = 1.4;
-constexpr double longestBar = 40;
+constexpr double longestBar = 34;
 constexpr double leading = 1.3; // of the font size
 
 struct Field
@@ -193,7 +193,7 @@ QVector<Field> cells(const PxDrawnProduct &product, const PxDrawnSheet &sheet)
     const QVector<Field> all = {
         {"product", translate(QT_TRANSLATE_NOOP("PxSheetTitle", "Produkt")),
          product.type.productName()},
-        {"sheet", translate(QT_TRANSLATE_NOOP("PxSheetTitle", "Blatt")), sheetText},
+        {"sheet", translate(QT_TRANSLATE_NOOP("PxSheetTitle", "Zeichnung")), sheetText},
         {"pages", translate(QT_TRANSLATE_NOOP("PxSheetTitle", "Seiten, ab 0 gezählt")), pages},
         {"page-count", translate(QT_TRANSLATE_NOOP("PxSheetTitle", "Umfang")),
          product.pageCount > 0 ? PxDrawnWords::pageCount(product.pageCount) : QString()},
