@@ -12,6 +12,11 @@
 
 namespace {
 
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(PxDrawing)
+};
+
 /** Inner sides of an A4 sheet, in annotation millimetres. */
 constexpr double longSide = 277;
 constexpr double shortSide = 190;
@@ -19,11 +24,6 @@ constexpr double shortSide = 190;
 constexpr PxDrawnLayers allLayers((1 << pxDrawnLayerCount) - 1);
 constexpr PxDrawnLayers readLayers =
     PxDrawnLayer::Dimensions | PxDrawnLayer::Labels | PxDrawnLayer::Legend | PxDrawnLayer::Title;
-
-QString translate(const char *text)
-{
-    return QCoreApplication::translate("PxDrawing", text);
-}
 
 /** The next one of 10, 12, 16, 20, 25, 32, 40, 50, 63, 80, 100, 120, … */
 int nextAnnotation(int annotation)
@@ -89,12 +89,11 @@ QString description(const PxDrawnSheet &sheet)
                      PxDrawnWords::size(page.trim.size()) + ')');
     }
     QString text = parts.join(QStringLiteral(", ")) + ". ";
-    text += translate(QT_TRANSLATE_NOOP("PxDrawing", "Endformat %1, Datenformat %2."))
+    text += Words::tr("Endformat %1, Datenformat %2.")
                 .arg(PxDrawnWords::size(sheet.trim.size()), PxDrawnWords::size(pxTotalSize(sheet)));
     const QString margins = pxSafetyMargins(sheet);
     if (!margins.isEmpty())
-        text +=
-            ' ' + translate(QT_TRANSLATE_NOOP("PxDrawing", "Sicherheitsabstand: %1.")).arg(margins);
+        text += ' ' + Words::tr("Sicherheitsabstand: %1.").arg(margins);
     return text;
 }
 
@@ -113,8 +112,7 @@ QString description(const PxDrawing &drawing)
     QStringList headings;
     for (const PxDrawingSheet &sheet : drawing.sheets)
         headings.append(sheet.title);
-    return translate(QT_TRANSLATE_NOOP("PxDrawing", "Blätter: %1."))
-        .arg(headings.join(QStringLiteral("; ")));
+    return Words::tr("Blätter: %1.").arg(headings.join(QStringLiteral("; ")));
 }
 
 int clamped(qint64 value)

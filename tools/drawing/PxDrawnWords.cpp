@@ -81,7 +81,8 @@ constexpr struct
      QT_TRANSLATE_NOOP("PxDrawnWords", "Ein Falz- oder Klemmbereich ist so breit wie die Seite "
                                        "oder breiter.")},
     {"item-outside",
-     QT_TRANSLATE_NOOP("PxDrawnWords", "Etwas ragt über das Datenformat oder den Rücken hinaus.")},
+     QT_TRANSLATE_NOOP("PxDrawnWords", "Ein Bild, ein Barcode oder eine Schrift ragt über das "
+                                       "Datenformat oder den Rücken hinaus.")},
     {"item-cut",
      QT_TRANSLATE_NOOP("PxDrawnWords", "Ein Bild oder Barcode reicht weiter, als hier Platz ist: "
                                        "Gezeichnet ist nur ein Teil; wo es liegt, sagt die "
@@ -143,12 +144,6 @@ int runLength(const QVector<int> &numbers, int start, int step)
 
 } // namespace
 
-QString PxDrawnWords::language()
-{
-    //: The code of the language into which these texts are translated.
-    return QCoreApplication::translate("PxDrawnWords", "de");
-}
-
 QString PxDrawnWords::visible(const QString &text)
 {
     QString visible = text;
@@ -169,8 +164,8 @@ QString PxDrawnWords::number(qint64 length)
     QString text = length < 0 ? QString(QChar(0x2212)) : QString();
     text += QString::number(size / 10);
     if (size % 10 != 0) {
-        //: The decimal separator.
-        text += QCoreApplication::translate("PxDrawnWords", ",") + QString::number(size % 10);
+        text += QCoreApplication::translate("PxDrawnWords", ",", "decimal separator") +
+                QString::number(size % 10);
     }
     return text;
 }

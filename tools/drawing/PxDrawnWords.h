@@ -15,9 +15,6 @@
  */
 namespace PxDrawnWords {
 
-/** The language of the texts: "de" or "en". */
-QString language();
-
 /**
  * A text of unknown origin as it may be shown: in one line, with U+FFFD for each character that
  * controls something, such as the direction of what follows.

@@ -9,6 +9,11 @@
 
 namespace {
 
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(PxLegendRows)
+};
+
 constexpr struct
 {
     const char *className;
@@ -36,11 +41,6 @@ constexpr struct
     {"crop-marks", PxDrawnItem::Marks},
 };
 
-QString translate(const char *text)
-{
-    return QCoreApplication::translate("PxLegendRows", text);
-}
-
 QString attribute(const PxDrawnShape &shape, const char *name)
 {
     for (const auto &attribute : shape.attributes) {
@@ -64,11 +64,8 @@ QString words(const Edges &edges, bool areMirrored)
 {
     if (std::all_of(edges.begin(), edges.end(), [&](int edge) { return edge == edges[0]; }))
         return PxDrawnWords::length(edges[0]);
-    const QString text =
-        areMirrored ? translate(QT_TRANSLATE_NOOP("PxLegendRows",
-                                                  "oben %1, unten %2, außen %3, innen %4 mm"))
-                    : translate(QT_TRANSLATE_NOOP("PxLegendRows",
-                                                  "oben %1, unten %2, links %3, rechts %4 mm"));
+    const QString text = areMirrored ? Words::tr("oben %1, unten %2, außen %3, innen %4 mm")
+                                     : Words::tr("oben %1, unten %2, links %3, rechts %4 mm");
     return text.arg(PxDrawnWords::number(edges[0]), PxDrawnWords::number(edges[1]),
                     PxDrawnWords::number(edges[2]), PxDrawnWords::number(edges[3]));
 }
@@ -109,7 +106,7 @@ QString wordsOfBleed(const PxDrawnSheet &sheet)
     const QString outside = words(edges, false);
     if (sheet.pages.size() < 2)
         return outside;
-    return translate(QT_TRANSLATE_NOOP("PxLegendRows", "%1, an der Innenkante keine")).arg(outside);
+    return Words::tr("%1, an der Innenkante keine").arg(outside);
 }
 
 QString wordsOfTrim(const PxDrawnSheet &sheet)
@@ -118,8 +115,7 @@ QString wordsOfTrim(const PxDrawnSheet &sheet)
     if (sheet.pages.size() < 2)
         return whole;
     const PxDrawnPage &page = sheet.pages.constFirst();
-    return translate(QT_TRANSLATE_NOOP("PxLegendRows", "%1, je Seite %2"))
-        .arg(whole, PxDrawnWords::size(page.trim.size()));
+    return Words::tr("%1, je Seite %2").arg(whole, PxDrawnWords::size(page.trim.size()));
 }
 
 QString widthOfFirst(const PxSheetRoom &room, const QByteArray &className)
@@ -143,25 +139,23 @@ QString details(const PxSheetRoom &room, PxDrawnItem item)
         return wordsOfTrim(sheet);
     case PxDrawnItem::Safe: {
         const QString margins = pxSafetyMargins(sheet);
-        return translate(QT_TRANSLATE_NOOP("PxLegendRows", "%1 innerhalb des Endformats"))
-            .arg(margins);
+        return Words::tr("%1 innerhalb des Endformats").arg(margins);
     }
     case PxDrawnItem::FoldMargin:
         return widthOfFirst(room, "fold-margin");
     case PxDrawnItem::Clamp:
         return widthOfFirst(room, "clamp");
     case PxDrawnItem::Spiral:
-        return translate(QT_TRANSLATE_NOOP("PxLegendRows", "%1 Schlaufen, schematisch"))
-            .arg(sheet.spiralLoops);
+        return Words::tr("%1 Schlaufen, schematisch").arg(sheet.spiralLoops);
     case PxDrawnItem::Round:
     case PxDrawnItem::PageNumber:
     case PxDrawnItem::Hook:
     case PxDrawnItem::Hole:
-        return translate(QT_TRANSLATE_NOOP("PxLegendRows", "schematisch"));
+        return Words::tr("schematisch");
     case PxDrawnItem::SpineText:
         for (const PxDrawnPage &page : sheet.pages) {
             if (page.role == PxDrawnPage::Role::Spine)
-                return translate(QT_TRANSLATE_NOOP("PxLegendRows", "höchstens %1 hoch"))
+                return Words::tr("höchstens %1 hoch")
                     .arg(PxDrawnWords::length(page.spineTextHeight));
         }
         return {};
@@ -173,9 +167,9 @@ QString details(const PxSheetRoom &room, PxDrawnItem item)
 QString nameOf(const PxSheetRoom &room, PxDrawnItem item)
 {
     if (item == PxDrawnItem::Fold && room.sheet().kind == PxDrawnSheet::Kind::Cover)
-        return translate(QT_TRANSLATE_NOOP("PxLegendRows", "Stoß der Deckel"));
+        return Words::tr("Stoß der Deckel");
     if (item == PxDrawnItem::Marks && room.items("fold-marks").isEmpty())
-        return translate(QT_TRANSLATE_NOOP("PxLegendRows", "Schneidmarken"));
+        return Words::tr("Schneidmarken");
     return PxDrawnWords::item(item);
 }
 
@@ -189,10 +183,10 @@ QString place(const PxDrawnShape &shape)
                 numbers[3].toDouble()};
     const auto number = [](double value) { return PxDrawnWords::number(qRound64(value)); };
     QString text =
-        translate(QT_TRANSLATE_NOOP("PxLegendRows", "x %1, y %2, %3 × %4 mm"))
+        Words::tr("x %1, y %2, %3 × %4 mm")
             .arg(number(rect.x()), number(rect.y()), number(rect.width()), number(rect.height()));
     if (attribute(shape, "data-counted") == "back")
-        text += translate(QT_TRANSLATE_NOOP("PxLegendRows", ", Seite von hinten gezählt"));
+        text += Words::tr(", Seite von hinten gezählt");
     const QString image = PxDrawnWords::visible(attribute(shape, "data-image"));
     return image.isEmpty() ? text : text + ", " + image;
 }

@@ -10,6 +10,11 @@
 
 namespace {
 
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(PxPageLabel)
+};
+
 // In annotation millimetres.
 constexpr double smallestPage = 12;
 constexpr double roleSize = 3.4;
@@ -47,9 +52,6 @@ struct Label
 QVector<QPair<QString, bool>> texts(const PxSheetRoom &room, int index)
 {
     const PxDrawnPage &page = room.sheet().pages[index];
-    const auto translate = [](const char *text) {
-        return QCoreApplication::translate("PxPageLabel", text);
-    };
     QVector<QPair<QString, bool>> texts;
     if (page.role != PxDrawnPage::Role::Page) // the number says that it is a page
         texts.append({PxDrawnWords::role(page), false});
@@ -59,10 +61,9 @@ QVector<QPair<QString, bool>> texts(const PxSheetRoom &room, int index)
     if (!kind.isEmpty())
         texts.append({kind, false});
     if (!page.isPrinted)
-        texts.append({translate(QT_TRANSLATE_NOOP("PxPageLabel", "wird nicht gedruckt")), false});
+        texts.append({Words::tr("wird nicht gedruckt"), false});
     if (!page.takesContent)
-        texts.append(
-            {translate(QT_TRANSLATE_NOOP("PxPageLabel", "nimmt keine Inhalte auf")), false});
+        texts.append({Words::tr("nimmt keine Inhalte auf"), false});
     for (const QString &name : {page.layoutTemplate, page.backgroundTemplate}) {
         if (!name.isEmpty())
             texts.append({PxDrawnWords::visible(name), true});

@@ -13,6 +13,11 @@
 
 namespace {
 
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(PxSheetLabels)
+};
+
 using Anchor = PxDrawnShape::Anchor;
 
 // In annotation millimetres.
@@ -145,16 +150,11 @@ void addCallouts(PxSheetRoom &room)
 
 QString wordsOfSpine(const PxDrawnPage &spine)
 {
-    const auto translate = [](const char *text) {
-        return QCoreApplication::translate("PxSheetLabels", text);
-    };
-    QString words = translate(QT_TRANSLATE_NOOP("PxSheetLabels", "Rücken: %1"))
-                        .arg(PxDrawnWords::length(spine.trim.width()));
+    QString words = Words::tr("Rücken: %1").arg(PxDrawnWords::length(spine.trim.width()));
     if (spine.spineTextHeight > 0)
-        words += translate(QT_TRANSLATE_NOOP("PxSheetLabels", ", Schrift bis %1"))
-                     .arg(PxDrawnWords::length(spine.spineTextHeight));
+        words += Words::tr(", Schrift bis %1").arg(PxDrawnWords::length(spine.spineTextHeight));
     if (spine.hasSpineLogo)
-        words += translate(QT_TRANSLATE_NOOP("PxSheetLabels", ", mit Logo"));
+        words += Words::tr(", mit Logo");
     return words;
 }
 

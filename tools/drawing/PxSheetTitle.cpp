@@ -11,6 +11,11 @@
 
 namespace {
 
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(PxSheetTitle)
+};
+
 // In annotation millimetres.
 constexpr double headingSize = 4.2;
 constexpr double nameSize = 3.2;
@@ -31,11 +36,6 @@ struct Field
     double size = typeSize;
     bool isBold = false;
 };
-
-QString translate(const char *text)
-{
-    return QCoreApplication::translate("PxSheetTitle", text);
-}
 
 /** Writes the block from top to bottom. */
 class Writer
@@ -185,22 +185,21 @@ QString made(const PxDrawnProduct &product)
 QVector<Field> cells(const PxDrawnProduct &product, const PxDrawnSheet &sheet)
 {
     const QString sheetText =
-        translate(QT_TRANSLATE_NOOP("PxSheetTitle", "Blatt %1 von %2"))
+        Words::tr("Blatt %1 von %2")
             .arg(QString::number(sheet.index + 1), QString::number(product.sheets.size()));
     const QString pages =
-        translate(QT_TRANSLATE_NOOP("PxSheetTitle", "%1 von %2"))
+        Words::tr("%1 von %2")
             .arg(PxDrawnWords::pageNumbers(sheet.standsFor), QString::number(product.listedPages));
     const QVector<Field> all = {
-        {"product", translate(QT_TRANSLATE_NOOP("PxSheetTitle", "Produkt")),
-         product.type.productName()},
-        {"sheet", translate(QT_TRANSLATE_NOOP("PxSheetTitle", "Zeichnung")), sheetText},
-        {"pages", translate(QT_TRANSLATE_NOOP("PxSheetTitle", "Seiten, ab 0 gezählt")), pages},
-        {"page-count", translate(QT_TRANSLATE_NOOP("PxSheetTitle", "Umfang")),
+        {"product", Words::tr("Produkt"), product.type.productName()},
+        {"sheet", Words::tr("Zeichnung"), sheetText},
+        {"pages", Words::tr("Seiten, ab 0 gezählt"), pages},
+        {"page-count", Words::tr("Umfang"),
          product.pageCount > 0 ? PxDrawnWords::pageCount(product.pageCount) : QString()},
-        {"made", translate(QT_TRANSLATE_NOOP("PxSheetTitle", "Bindung und Papier")), made(product)},
-        {"theme", translate(QT_TRANSLATE_NOOP("PxSheetTitle", "Thema")),
+        {"made", Words::tr("Bindung und Papier"), made(product)},
+        {"theme", Words::tr("Thema"),
          product.themeId.isEmpty() || !product.theme.isEmpty() ? product.theme : product.themeId},
-        {"file", translate(QT_TRANSLATE_NOOP("PxSheetTitle", "Datei")), product.file},
+        {"file", Words::tr("Datei"), product.file},
     };
     QVector<Field> cells;
     std::copy_if(all.begin(), all.end(), std::back_inserter(cells),
@@ -214,9 +213,8 @@ void PxSheetTitle::addTo(PxSheetRoom &room, const PxDrawnProduct &product, doubl
                          double width, double top)
 {
     Writer writer(room, left, width, top);
-    writer.addHead(
-        {"heading", {}, PxDrawnWords::heading(room.sheet()), headingSize, true},
-        {"short-name", {}, product.type.shortProductName(), nameSize},
-        {"scale", translate(QT_TRANSLATE_NOOP("PxSheetTitle", "Maßstab, Längen in mm")), "1:1"});
+    writer.addHead({"heading", {}, PxDrawnWords::heading(room.sheet()), headingSize, true},
+                   {"short-name", {}, product.type.shortProductName(), nameSize},
+                   {"scale", Words::tr("Maßstab, Längen in mm"), "1:1"});
     writer.addCells(cells(product, room.sheet()));
 }

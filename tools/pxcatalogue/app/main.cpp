@@ -13,6 +13,12 @@
 
 #include <optional>
 
+/** The texts of a static library. The macro must not stand in a namespace. */
+static void loadTexts()
+{
+    Q_INIT_RESOURCE(pxtools);
+}
+
 namespace {
 
 /** Must be called before the library is used, which translates its tables when it builds them. */
@@ -23,9 +29,11 @@ void installTranslation(const QString &language)
     // German would get the translation into the second choice.
     if (locale.uiLanguages().value(0).startsWith("de"))
         return;
-    auto *translator = new QTranslator(QCoreApplication::instance());
-    if (translator->load(locale, "pxproductproperties", "_", ":/pxproductproperties"))
-        QCoreApplication::installTranslator(translator);
+    for (const QString name : {"pxproductproperties", "pxtools"}) {
+        auto *translator = new QTranslator(QCoreApplication::instance());
+        if (translator->load(locale, name, "_", ":/" + name))
+            QCoreApplication::installTranslator(translator);
+    }
 }
 
 PxExitStatus run(const PxCommandLine &line)
@@ -38,6 +46,7 @@ PxExitStatus run(const PxCommandLine &line)
     PxCatalogueLog::install(line.isSet("verbose")            ? Shown::Everything
                             : line.command().showsWarnings() ? Shown::Warnings
                                                              : Shown::Nothing);
+    loadTexts();
     installTranslation(line.value("lang"));
     return line.command().run(line);
 }
