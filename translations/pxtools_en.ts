@@ -307,6 +307,14 @@
         <source>Umschlag</source>
         <translation>Cover</translation>
     </message>
+    <message>
+        <source>%1, Seite %2</source>
+        <translation>%1, page %2</translation>
+    </message>
+    <message>
+        <source>%1, Seiten %2</source>
+        <translation>%1, pages %2</translation>
+    </message>
 </context>
 <context>
     <name>PxLegendRows</name>

@@ -227,8 +227,12 @@ QString PxDrawnWords::heading(const PxDrawnSheet &sheet)
         kind = QCoreApplication::translate("PxDrawnWords", "Umschlag");
     else if (!sheet.pages.isEmpty())
         kind = kindOfPage(sheet.pages.constFirst());
-    const QString numbers = pages(sheet.standsFor);
-    return kind.isEmpty() ? numbers : kind + ", " + numbers;
+    if (kind.isEmpty())
+        return pages(sheet.standsFor);
+    const QString text = sheet.standsFor.size() == 1
+                             ? QCoreApplication::translate("PxDrawnWords", "%1, Seite %2")
+                             : QCoreApplication::translate("PxDrawnWords", "%1, Seiten %2");
+    return text.arg(kind, pageNumbers(sheet.standsFor));
 }
 
 QString PxDrawnWords::role(const PxDrawnPage &page)

@@ -169,7 +169,8 @@ QRectF PxShapeMaker::boundsOf(const PxDrawnShape &shape)
     case PxDrawnShape::Ellipse:
         break;
     }
-    return shape.rect.normalized().adjusted(-margin, -margin, margin, margin);
+    const double outside = shape.stroke.width / 2;
+    return shape.rect.normalized().adjusted(-outside, -outside, outside, outside);
 }
 
 QRectF PxShapeMaker::boundsOf(const QVector<PxDrawnShape> &shapes)
