@@ -119,6 +119,25 @@ QRectF roomOn(const PxSheetRoom &room, const PxDrawnPage &page)
     return rect.adjusted(inset, inset, -inset, -inset);
 }
 
+/** Prefers the way with more texts; a label that reads upward must be worth it. */
+Label label(const PxSheetRoom &room, int index, const QSizeF &available)
+{
+    const Label level = label(room, index, available, false);
+    const Label turned = label(room, index, available, true);
+    return turned.complete > level.complete ? turned : level;
+}
+
+/** The part of the page within its safe area, whose line a label would hide. */
+QRectF safeRoomOn(const PxSheetRoom &room, const QRectF &available)
+{
+    const double inset = padding * room.a();
+    for (const PxSheetRoom::Item &item : room.items("safe")) {
+        if (item.rect.contains(available.center()))
+            return available & item.rect.adjusted(inset, inset, -inset, -inset);
+    }
+    return available;
+}
+
 /** In the middle, or above or below it where a barcode is in the way. */
 QRectF placeOf(const PxSheetRoom &room, const QSizeF &size, const QRectF &page)
 {
@@ -140,7 +159,7 @@ QRectF placeOf(const PxSheetRoom &room, const QSizeF &size, const QRectF &page)
 PxDrawnShape shapeOf(const Label &label, const QRectF &place, int page)
 {
     PxDrawnShape group = PxShapeMaker::group("page-label", {{"data-page", QString::number(page)}});
-    group.children.append(PxShapeMaker::rect({}, place, {}, Qt::white));
+    QVector<PxDrawnShape> texts;
     double across = label.readsUpward ? place.left() : place.top();
     for (const Line &line : label.lines) {
         const double base = across + line.fontSize;
@@ -149,9 +168,17 @@ PxDrawnShape shapeOf(const Label &label, const QRectF &place, int page)
                                                  : QPointF(place.center().x(), base),
                                line.text, line.fontSize, PxDrawnShape::Anchor::Middle, line.isBold);
         text.readsUpward = label.readsUpward;
-        group.children.append(text);
+        // White behind each line hides less of the page than white behind all.
+        QRectF behind = PxShapeMaker::boundsOf(text);
+        if (label.readsUpward)
+            behind = {across, behind.top(), line.height(), behind.height()};
+        else
+            behind = {behind.left(), across, behind.width(), line.height()};
+        group.children.append(PxShapeMaker::rect({}, behind, {}, Qt::white));
+        texts.append(text);
         across += line.height();
     }
+    group.children += texts;
     return group;
 }
 
@@ -163,13 +190,13 @@ void PxPageLabel::addTo(PxSheetRoom &room, int index)
     const double smallest = smallestPage * room.a();
     if (page.trim.width() <= smallest || page.trim.height() <= smallest)
         return;
-    const QRectF available = roomOn(room, page);
-    Label label = ::label(room, index, available.size(), false);
-    const Label turned = ::label(room, index, available.size(), true);
-    if (turned.complete > label.complete)
-        label = turned;
-    if (label.lines.isEmpty())
-        return;
-    room.addLabel(PxDrawnLayer::Labels,
-                  shapeOf(label, placeOf(room, label.size(), available), page.number));
+    QRectF available = safeRoomOn(room, roomOn(room, page));
+    Label label = ::label(room, index, available.size());
+    if (label.lines.isEmpty()) {
+        available = roomOn(room, page);
+        label = ::label(room, index, available.size());
+    }
+    if (!label.lines.isEmpty())
+        room.addLabel(PxDrawnLayer::Labels,
+                      shapeOf(label, placeOf(room, label.size(), available), page.number));
 }

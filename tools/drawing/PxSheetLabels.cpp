@@ -267,12 +267,12 @@ void PxSheetLabels::addTo(PxSheetRoom &room)
 {
     if (room.sheet().pages.isEmpty())
         return;
+    for (int i = 0; i < room.sheet().pages.size(); ++i)
+        PxPageLabel::addTo(room, i);
     addCallouts(room);
     for (const PxDrawnPage &page : room.sheet().pages) {
         if (page.role == PxDrawnPage::Role::Spine)
             addSpine(room, page);
     }
-    for (int i = 0; i < room.sheet().pages.size(); ++i)
-        PxPageLabel::addTo(room, i);
     addKeys(room);
 }

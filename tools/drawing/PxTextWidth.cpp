@@ -56,7 +56,7 @@ int hundredths(QChar unit)
 
 bool isOfNumber(QChar unit)
 {
-    return unit.isDigit() || unit == '.' || unit == ',' || unit.unicode() == 0x2212;
+    return unit.isDigit() || unit == '.' || unit == ',' || unit == '-' || unit.unicode() == 0x2212;
 }
 
 /** Whether a line may end before this character, if need be: not within a number or a character. */
