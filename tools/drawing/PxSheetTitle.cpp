@@ -100,31 +100,33 @@ double Writer::addField(const Field &field, double left, double width, double to
 }
 
 /** 1, 2 or 5 with noughts, in user units: the longest one that fits. */
-qint64 barLength(double longest)
+double barLength(double longest)
 {
-    qint64 length = 20; // of 2, 20, 200 …
+    double length = 20; // of 2, 20, 200 …
     while (length * 10 <= longest)
         length *= 10;
-    if (length * 5 <= longest)
-        return length * 5;
-    return length * 5 / 2 <= longest ? length * 5 / 2 : length;
+    for (const double factor : {5.0, 2.5}) {
+        if (length * factor <= longest)
+            return length * factor;
+    }
+    return length;
 }
 
 void Writer::addScaleBar(double left, double top)
 {
     const double size = PxShapeMaker::fontSize(captionSize, m_a);
-    const qint64 length = barLength(longestBar * m_a);
-    const double part = double(length) / 4;
+    const double length = barLength(longestBar * m_a);
+    const double part = length / 4;
     const PxDrawnLine thin{0.15 * m_a, QColor(PxShapeMaker::ink), {}, 1};
     for (int i = 0; i < 4; ++i) {
         PxDrawnShape bar =
             PxShapeMaker::rect("scale-bar", {left + i * part, top, part, barHeight * m_a}, thin,
                                i % 2 == 0 ? QColor(PxShapeMaker::ink) : QColor(Qt::white));
-        bar.attributes = {{"data-length", QString::number(length)}};
+        bar.attributes = {{"data-length", QString::number(qint64(length))}};
         addShape(bar);
     }
-    const QString text = PxDrawnWords::length(length);
-    addText({}, text, {left + double(length) + 1.2 * m_a, top + barHeight * m_a}, size, false,
+    const QString text = PxDrawnWords::length(qint64(length));
+    addText({}, text, {left + length + 1.2 * m_a, top + barHeight * m_a}, size, false,
             PxShapeMaker::paleInk);
 }
 
