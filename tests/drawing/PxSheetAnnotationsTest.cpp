@@ -143,32 +143,38 @@ void collectLabels(const PxDrawnShape &shape, QVector<QPair<QRectF, QString>> *l
         collectLabels(child, labels);
 }
 
-/** The class or the text of something painted outside; empty for none. */
-QString findOutside(const PxDrawnShape &shape, const QRectF &canvas)
+/** What is painted outside this rectangle, or too small to be read; empty for nothing. */
+QString faultOf(const PxDrawnShape &shape, const QRectF &canvas, double smallestType)
 {
     const QRectF rect = PxShapeMaker::boundsOf(shape);
     const bool isPainted = shape.stroke.width > 0 || shape.fill.isValid();
     const bool isOutside = rect.left() < canvas.left() || rect.top() < canvas.top() ||
                            rect.right() > canvas.right() || rect.bottom() > canvas.bottom();
     if (shape.kind != PxDrawnShape::Group && isPainted && isOutside)
-        return shape.className + ' ' + shape.text;
+        return "outside: " + shape.className + ' ' + shape.text;
+    if (shape.kind == PxDrawnShape::Text &&
+        (shape.fontSize < smallestType || shape.fontSize != qRound(shape.fontSize)))
+        return QString("size %1: %2").arg(QString::number(shape.fontSize), shape.text);
     for (const PxDrawnShape &child : shape.children) {
-        const QString found = findOutside(child, canvas.translated(-shape.translation));
+        const QString found = faultOf(child, canvas.translated(-shape.translation), smallestType);
         if (!found.isEmpty())
             return found;
     }
     return {};
 }
 
-/** Empty if no label lies on another and nothing lies outside the canvas. */
-QString faultOf(const PxDrawingSheet &drawing)
+/** Empty if no label lies on another, all can be read and nothing lies outside. */
+QString faultOf(const PxDrawingSheet &drawing, int annotation)
 {
     QVector<QPair<QRectF, QString>> labels;
+    QRectF frame(drawing.canvas);
     for (const auto &layer : drawing.layers) {
         for (const PxDrawnShape &shape : layer) {
-            const QString outside = findOutside(shape, drawing.canvas);
-            if (!outside.isEmpty())
-                return "outside: " + outside;
+            const QString fault = faultOf(shape, frame, 2.4 * annotation);
+            if (!fault.isEmpty())
+                return fault;
+            if (shape.className == "border") // all that lies above it
+                frame = PxShapeMaker::boundsOf(shape);
             collectLabels(shape, &labels);
         }
     }
@@ -281,6 +287,11 @@ void PxSheetAnnotationsTest::hasRoomForEverything_data()
         sheet({page(Role::Left, QRect(0, 0, 90, 150), PxMargins(5, 9, 7, 0)),
                page(Role::Right, QRect(90, 20, 40, 110), PxMargins(9, 5, 0, 3))});
     QTest::newRow("narrow pages of different height") << crowded(stickers);
+    const PxMargins bleed(10, 10, 10, 10);
+    QTest::newRow("a cover for dolls")
+        << crowded(sheet({page(Role::Back, QRect(0, 0, 30, 60), bleed),
+                          page(Role::Spine, QRect(30, 0, 10, 60), bleed),
+                          page(Role::Front, QRect(40, 0, 30, 60), bleed)}));
     PxDrawnSheet atTop = single({800, 900}, 0);
     atTop.pages[0].bleed = PxMargins(30, 0, 0, 0);
     atTop.total = atTop.pages[0].total();
@@ -306,7 +317,7 @@ void PxSheetAnnotationsTest::hasRoomForEverything()
     for (const PxDrawnLayers layers : choices) {
         const PxDrawing drawing = pxDraw(product({sheet}), {0}, layers);
         const PxDrawingSheet &drawn = drawing.sheets.constFirst();
-        QCOMPARE(faultOf(drawn), QString());
+        QCOMPARE(faultOf(drawn, drawing.annotation), QString());
         for (int i = 0; i < pxDrawnLayerCount; ++i)
             QVERIFY(layers.testFlag(PxDrawnLayer(1 << i)) ||
                     drawn.layers[std::size_t(i)].isEmpty());
@@ -327,9 +338,9 @@ void PxSheetAnnotationsTest::isOnePaperForAllSheets()
     const PxDrawing small = pxDraw(both, {0}, allLayers);
     const PxDrawing large = pxDraw(both, {1}, allLayers);
     QCOMPARE(small.annotation, large.annotation);
-    QVERIFY(QVector<int>({50, 63, 80}).contains(large.annotation));
-    // The next smaller one would not do.
-    QVERIFY(large.sheets[0].canvas.width() > 277 * large.annotation * 3 / 4);
+    QCOMPARE(large.annotation, 63); // with 50 it would be 304 a wide
+    QCOMPARE(pxDraw(product({cover(94), spread(0)}), {0}, allLayers).annotation, 40);
+    QCOMPARE(pxDraw(product({single({100, 100})}), {0}, allLayers).annotation, 10);
 
     const PxDrawing drawing = pxDraw(both, {0, 1}, allLayers);
     QCOMPARE(drawing.positionOf(1), QPoint(0, drawing.sheets[0].canvas.height()));
@@ -402,6 +413,9 @@ void PxSheetAnnotationsTest::legendTellsWhatIsShown()
              qPrintable(words));
     QVERIFY2(words.contains("oben 5, unten 5, außen 5, innen 12 mm"), qPrintable(words));
     QVERIFY2(words.contains("3 mm, an der Innenkante keine"), qPrintable(words));
+
+    twice.pages[1].barcode = PxBarcode(QRect(15, 20, 320, 110), 0, true, "b.png");
+    QCOMPARE(attributesIn(drawn(twice), PxDrawnLayer::Legend, "data-key"), QStringList({"A", "B"}));
 
     twice.notes = {PxDrawnNote::SafeEmpty, PxDrawnNote::ItemOutside};
     drawing = drawn(twice);
@@ -484,7 +498,7 @@ void PxSheetAnnotationsTest::textsOfFilesAreHarmless()
     hostile.file = QString("%1\u202E%n").repeated(60);
     hostile.binding = "%2%1";
     const PxDrawing drawing = pxDraw(hostile, {0}, allLayers);
-    QCOMPARE(faultOf(drawing.sheets[0]), QString());
+    QCOMPARE(faultOf(drawing.sheets[0], drawing.annotation), QString());
     for (const auto &layer : drawing.sheets[0].layers) {
         for (const PxDrawnShape &shape : layer)
             QVERIFY(!textIn(shape).contains(QChar(0x202E)));

@@ -236,8 +236,6 @@ void addKeys(PxSheetRoom &room)
                 if (attribute.first == "data-key")
                     letter = attribute.second;
             }
-            if (letter.isEmpty())
-                continue;
             QPointF middle = QRectF(room.sheet().trim).center();
             for (const PxDrawnPage &page : room.sheet().pages) {
                 if (QRectF(page.total()).intersects(item.rect) && page.trim.width() > 0)
