@@ -137,6 +137,8 @@ void PxDrawCommandTest::writesOneDrawingForAllWays()
     QCOMPARE(draw("CARD_FOLDED_A6 --lang de --output OUT/Card.SVG").status(), 0);
     QCOMPARE(QString::fromUtf8(contents("Card.SVG")), printed.printed());
     QCOMPARE(parsed(printed.printed()).attribute("xml:lang"), "de");
+    const PxProgramRun english = draw("CARD_FOLDED_A6 --lang en");
+    QCOMPARE(parsed(english.printed()).attribute("xml:lang"), "en");
 }
 
 void PxDrawCommandTest::keepsAnOlderFile()

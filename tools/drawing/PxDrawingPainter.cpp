@@ -46,7 +46,12 @@ QPen penOf(const PxDrawnLine &line)
     return pen;
 }
 
-/** Adds the shorter arc of a circle around a centre that follows from radius and ends. */
+/**
+ * Adds the shorter arc of a circle around a centre that follows from radius and ends.
+ *
+ * It begins exactly where the path is: QPainterPath::arcTo() would add a short line there, and
+ * the line's end would stand across.
+ */
 void addArc(QPainterPath *path, const PxDrawnStep &step)
 {
     const QPointF from = path->currentPosition();
@@ -58,14 +63,23 @@ void addArc(QPainterPath *path, const PxDrawnStep &step)
     }
     const double radius = std::max(step.radius, halfLength); // as in SVG
     const double distance = std::sqrt(radius * radius - halfLength * halfLength) / halfLength;
-    const double side = step.isClockwise ? distance : -distance;
-    const QPointF centre = from + half + QPointF(-half.y(), half.x()) * side;
-    const QLineF first(centre, from);
-    double sweep = first.angleTo(QLineF(centre, step.to)); // anticlockwise, as all angles of Qt
-    if (step.isClockwise)
-        sweep -= 360;
-    path->arcTo(QRectF(centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius),
-                first.angle(), sweep);
+    const double side = step.isClockwise ? 1 : -1;
+    const QPointF centre = from + half + QPointF(-half.y(), half.x()) * distance * side;
+    // It is at most half a circle: two curves are as good as an arc.
+    const double sweep = side * std::asin(std::min(1.0, halfLength / radius));
+    const double pull = 4.0 / 3 * std::tan(sweep / 4); // of the points between, along the tangents
+    const auto turned = [sweep](const QPointF &point) {
+        return QPointF(point.x() * std::cos(sweep) - point.y() * std::sin(sweep),
+                       point.x() * std::sin(sweep) + point.y() * std::cos(sweep));
+    };
+    const auto tangent = [pull](const QPointF &point) {
+        return QPointF(-point.y(), point.x()) * pull;
+    };
+    const QPointF begin = from - centre;
+    const QPointF middle = turned(begin);
+    const QPointF end = step.to - centre;
+    path->cubicTo(from + tangent(begin), centre + middle - tangent(middle), centre + middle);
+    path->cubicTo(centre + middle + tangent(middle), step.to - tangent(end), step.to);
 }
 
 QPainterPath pathOf(const QVector<PxDrawnStep> &steps)
