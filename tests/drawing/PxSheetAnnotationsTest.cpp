@@ -289,9 +289,9 @@ void PxSheetAnnotationsTest::hasRoomForEverything_data()
     QTest::newRow("narrow pages of different height") << crowded(stickers);
     const PxMargins bleed(10, 10, 10, 10);
     QTest::newRow("a cover for dolls")
-        << crowded(sheet({page(Role::Back, QRect(0, 0, 30, 60), bleed),
-                          page(Role::Spine, QRect(30, 0, 10, 60), bleed),
-                          page(Role::Front, QRect(40, 0, 30, 60), bleed)}));
+        << crowded(sheet({page(Role::Back, QRect(0, 0, 12, 60), bleed),
+                          page(Role::Spine, QRect(12, 0, 10, 60), bleed),
+                          page(Role::Front, QRect(22, 0, 12, 60), bleed)}));
     PxDrawnSheet atTop = single({800, 900}, 0);
     atTop.pages[0].bleed = PxMargins(30, 0, 0, 0);
     atTop.total = atTop.pages[0].total();
@@ -341,6 +341,7 @@ void PxSheetAnnotationsTest::isOnePaperForAllSheets()
     QCOMPARE(large.annotation, 63); // with 50 it would be 304 a wide
     QCOMPARE(pxDraw(product({cover(94), spread(0)}), {0}, allLayers).annotation, 40);
     QCOMPARE(pxDraw(product({single({100, 100})}), {0}, allLayers).annotation, 10);
+    QCOMPARE(pxDraw(product({single({9000, 3000})}), {0}, allLayers).annotation, 50);
 
     const PxDrawing drawing = pxDraw(both, {0, 1}, allLayers);
     QCOMPARE(drawing.positionOf(1), QPoint(0, drawing.sheets[0].canvas.height()));
@@ -492,7 +493,8 @@ void PxSheetAnnotationsTest::textsOfFilesAreHarmless()
     halves += QChar(0xD83D);
     halves += QChar(0xDE00);
     halves += QChar(0xD83D);
-    QCOMPARE(PxDrawnWords::visible(halves), QString("x\uFFFD") + "😀" + "\uFFFD");
+    halves += QChar(0xFFFF); // no XML file may contain it
+    QCOMPARE(PxDrawnWords::visible(halves), QString("x\uFFFD") + "😀" + "\uFFFD\uFFFD");
 
     PxDrawnProduct hostile = product({crowded(cover(94))});
     hostile.file = QString("%1\u202E%n").repeated(60);
