@@ -61,19 +61,22 @@ bool fitsPaper(const QSize &size, int annotation)
     return longer <= longSide * annotation && shorter <= shortSide * annotation;
 }
 
+bool fitsPaper(const PxDrawnProduct &product, const PxDrawnSheet &sheet, int annotation)
+{
+    return fitsPaper(sheet.total.size(), annotation) &&
+           fitsPaper(drawn(product, sheet, annotation, allLayers).canvas.size(), annotation);
+}
+
 /** The smallest one with which every sheet of the product, with all layers, fits the paper. */
 int annotationFor(const PxDrawnProduct &product)
 {
     int annotation = 10;
-    for (bool isSettled = false; !isSettled;) {
-        isSettled = true;
-        for (const PxDrawnSheet &sheet : product.sheets) {
-            while (!fitsPaper(sheet.total.size(), annotation) ||
-                   !fitsPaper(drawn(product, sheet, annotation, allLayers).canvas.size(),
-                              annotation)) {
-                annotation = nextAnnotation(annotation);
-                isSettled = false;
-            }
+    const int count = product.sheets.size();
+    // Until all fit, one after the other. What fitted with less need not fit with more.
+    for (int i = 0, fitting = 0; fitting < count; i = (i + 1) % count, ++fitting) {
+        while (!fitsPaper(product, product.sheets[i], annotation)) {
+            annotation = nextAnnotation(annotation);
+            fitting = 0;
         }
     }
     return annotation;
@@ -85,8 +88,10 @@ QString description(const PxDrawnSheet &sheet)
     for (int i = 0; i < sheet.pages.size(); ++i) {
         const PxDrawnPage &page = sheet.pages[i];
         const QString numbers = PxDrawnWords::pages(PxDrawnWords::pagesLike(sheet, i));
-        parts.append(PxDrawnWords::role(page) + " (" + numbers + ", " +
-                     PxDrawnWords::size(page.trim.size()) + ')');
+        const QString size = PxDrawnWords::size(page.trim.size());
+        parts.append(page.role == PxDrawnPage::Role::Page
+                         ? numbers + " (" + size + ')'
+                         : PxDrawnWords::role(page) + " (" + numbers + ", " + size + ')');
     }
     QString text = parts.join(QStringLiteral(", ")) + ". ";
     text += Words::tr("Endformat %1, Datenformat %2.")

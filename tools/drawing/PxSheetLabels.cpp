@@ -28,6 +28,10 @@ constexpr double leaderLength = 4;
 constexpr double edgeRise = 3.5; // of a callout above the upper edge to which it points
 constexpr double dotRadius = 0.55;
 
+/** How far around the wanted place a letter is tried, in radii; at first beside barcodes only. */
+constexpr int strictRings = 12;
+constexpr int rings = 40;
+
 /** Something at the left edge to which a callout points. */
 struct Target
 {
@@ -208,7 +212,7 @@ QPointF freePlace(const PxSheetRoom &room, const QPointF &wanted, const QVector<
                               [&](const QRectF &other) { return other.intersects(rect); })));
     };
     for (const bool isStrict : {true, false}) {
-        for (int ring = 0; ring < 40; ++ring) {
+        for (int ring = 0; ring < (isStrict ? strictRings : rings); ++ring) {
             const int count = ring == 0 ? 1 : 8 * ring;
             for (int i = 0; i < count; ++i) {
                 const double angle = 2 * 3.14159265358979 * i / count;
