@@ -28,9 +28,9 @@ constexpr double leaderLength = 4;
 constexpr double edgeRise = 3.5; // of a callout above the upper edge to which it points
 constexpr double dotRadius = 0.55;
 
-/** How far around the wanted place a letter is tried, in radii; at first beside barcodes only. */
-constexpr int strictRings = 12;
-constexpr int rings = 40;
+/** How far around the wanted place a letter is tried, in radii; and clear of barcodes. */
+constexpr int farthestTry = 40;
+constexpr int strictTry = 12;
 
 /** Something at the left edge to which a callout points. */
 struct Target
@@ -194,11 +194,33 @@ QPointF wantedPlace(const QRectF &item, const QPointF &middle, double a)
     const QPointF nearest(std::max(item.left(), std::min(item.right(), middle.x())),
                           std::max(item.top(), std::min(item.bottom(), middle.y())));
     const QPointF way = middle - nearest;
-    const double distance = std::hypot(way.x(), way.y());
+    const double distance = std::sqrt(QPointF::dotProduct(way, way));
     return nearest + way * (reach / std::max(distance, reach));
 }
 
-/** The free place nearest to the wanted one, as far as it is tried; there is one at last. */
+int squareOf(const QPoint &offset)
+{
+    return QPoint::dotProduct(offset, offset);
+}
+
+/** Where a letter is tried around the wanted place, in steps, from the nearest to the farthest. */
+const QVector<QPoint> &triedOffsets()
+{
+    static const auto &ourOffsets = *new QVector<QPoint>([] {
+        QVector<QPoint> offsets;
+        for (int y = -farthestTry; y <= farthestTry; ++y) {
+            for (int x = -farthestTry; x <= farthestTry; ++x)
+                offsets.append({x, y});
+        }
+        std::stable_sort(
+            offsets.begin(), offsets.end(),
+            [](const QPoint &one, const QPoint &other) { return squareOf(one) < squareOf(other); });
+        return offsets;
+    }());
+    return ourOffsets;
+}
+
+/** The free place nearest to the wanted one: beside barcodes, else wherever no text stands. */
 QPointF freePlace(const PxSheetRoom &room, const QPointF &wanted, const QVector<QRectF> &avoided)
 {
     const double a = room.a();
@@ -212,15 +234,12 @@ QPointF freePlace(const PxSheetRoom &room, const QPointF &wanted, const QVector<
                               [&](const QRectF &other) { return other.intersects(rect); })));
     };
     for (const bool isStrict : {true, false}) {
-        for (int ring = 0; ring < (isStrict ? strictRings : rings); ++ring) {
-            const int count = ring == 0 ? 1 : 8 * ring;
-            for (int i = 0; i < count; ++i) {
-                const double angle = 2 * 3.14159265358979 * i / count;
-                const QPointF center =
-                    wanted + QPointF(std::cos(angle), std::sin(angle)) * (ring * step);
-                if (isFree(center, isStrict))
-                    return {std::round(center.x()), std::round(center.y())};
-            }
+        for (const QPoint &offset : triedOffsets()) {
+            if (isStrict && squareOf(offset) > strictTry * strictTry)
+                break;
+            const QPointF center = wanted + QPointF(offset) * step;
+            if (isFree(center, isStrict))
+                return {std::round(center.x()), std::round(center.y())};
         }
     }
     const QRectF used = room.used();
