@@ -13,10 +13,11 @@ PACKAGES = ccache cmake g++ libqpdf-dev librsvg2-bin libxml2-utils ninja-build p
     qttools5-dev-tools tzdata
 ROOT = $(if $(filter 0,$(shell id -u)),,sudo)
 
-.PHONY: help demo check quick mutants platform bench benchmarks fuzz valgrind clang tidy build setup clean
+.PHONY: help demo pictures check quick mutants platform bench benchmarks fuzz valgrind clang tidy build setup clean
 
 help:
-	@echo "make demo       set up, build, and show what the library answers about the sample catalogue"
+	@echo "make demo       set up, build, and show what the library answers about the sample catalogue, and draw a book"
+	@echo "make pictures   write the pictures of README.md again, into docs/pictures"
 	@echo "make check      set up, build, and run every test (PRESET=debug|release|asan|tsan, WERROR=ON)"
 	@echo "make quick      the same without the tests that take long (hostile files, headers alone)"
 	@echo "make mutants    put COUNT=60 small faults into the code, and list those that no test notices (SEED=1, FOLDER=src)"
@@ -36,6 +37,13 @@ demo: build
 	$(RUN) $(BUILD)/bin/pxcatalogue themes --resources data/sample
 	@echo
 	$(RUN) $(BUILD)/bin/pxcatalogue show BOOK_A4_PORTRAIT --pages 26 --theme hochzeit --resources data/sample
+	@echo
+	$(RUN) $(BUILD)/bin/pxcatalogue draw BOOK_A4_PORTRAIT --pages 26 --resources data/sample --output $(BUILD)/book.svg
+	@echo "The drawing of the book: $(BUILD)/book.svg"
+
+pictures: build
+	$(BUILD)/bin/pxcatalogue draw BOOK_A4_PORTRAIT --pages 26 --sheet cover --lang en --resources data/sample --output docs/pictures/cover.svg
+	$(BUILD)/bin/pxcatalogue draw CALENDAR_WALL_A4 --sheet 1 --lang en --resources data/sample --output docs/pictures/calendar.svg
 
 # What the design keeps until exit is still reachable then, and no leak.
 valgrind: PACKAGES += valgrind

@@ -364,6 +364,14 @@ void addNotes(const Reading &reading, PxDrawnSheet *sheet)
     }
 }
 
+/** The name that people read; empty for a value without one, for which the library has words. */
+template <typename Value>
+QString nameOf(const Value &value)
+{
+    const QString name = value.humanReadableName();
+    return name == Value().humanReadableName() ? QString() : name;
+}
+
 /** Everything but the sheets. */
 PxDrawnProduct withoutSheets(const PxProductTypeDescription &product, const PxProductType &type,
                              int pageCount, const QList<int> &offered, const QString &themeId)
@@ -372,8 +380,8 @@ PxDrawnProduct withoutSheets(const PxProductTypeDescription &product, const PxPr
     drawn.type = type;
     drawn.className = keywordsOf(type.productClass(), productClassKeywords).join(", ");
     drawn.pageCount = pageCount > 0 ? pageCount : PxPageCounts::standard(product, offered);
-    drawn.binding = product.binding().humanReadableName();
-    drawn.paper = product.paperType().humanReadableName();
+    drawn.binding = nameOf(product.binding());
+    drawn.paper = nameOf(product.paperType());
     drawn.themeId = themeId;
     drawn.hasHorizontalPages = product.horizontalPages();
     return drawn;
