@@ -251,12 +251,12 @@
         <translation>A fold margin or clamp is as wide as the page or wider.</translation>
     </message>
     <message>
-        <source>Ein Bild, ein Barcode oder eine Schrift ragt über das Datenformat oder den Rücken hinaus.</source>
-        <translation>An image, a barcode or a text reaches beyond the total size or the spine.</translation>
+        <source>Ein Bild, ein Barcode, eine Schrift oder eine Seitenzahl ragt über das Datenformat oder den Rücken hinaus.</source>
+        <translation>An image, a barcode, a text or a page number reaches beyond the total size or the spine.</translation>
     </message>
     <message>
-        <source>Ein Bild oder Barcode reicht weiter, als hier Platz ist: Gezeichnet ist nur ein Teil; wo es liegt, sagt die Legende.</source>
-        <translation>An image or barcode reaches farther than there is room for: only a part is drawn; the legend says where it lies.</translation>
+        <source>Ein Bild, ein Barcode oder eine Seitenzahl liegt weiter außen, als hier Platz ist: Gezeichnet ist höchstens ein Teil; wo es liegt, sagt die Legende.</source>
+        <translation>An image, a barcode or a page number lies farther out than there is room for: at most a part is drawn; the legend says where it lies.</translation>
     </message>
     <message>
         <source>Ein Bild oder Barcode hat keine Fläche und ist nicht gezeichnet.</source>

@@ -31,6 +31,8 @@ PxDrawing drawingOf(const QVector<PxDrawnShape> &trimLayer)
 {
     PxDrawnPage page;
     page.number = 5;
+    page.trim = QRect(0, 0, 100, 50);
+    page.bleed = PxMargins(2, 2, 3, 3);
     PxDrawingSheet sheet;
     sheet.sheet.kind = PxDrawnSheet::Kind::Spread;
     sheet.sheet.pages = {page};

@@ -208,7 +208,7 @@ void PxOddSheetsTest::initTestCase()
             many += "<surrounding type='GIFT' pageNr='" + number + "' image='" +
                     (image == "equal" ? image : number) + "'/>";
         }
-        addHostile("gift_of_" + image, "numOfNormalPages='100000'",
+        addHostile("gift_of_" + image, "numOfNormalPages='99999'",
                    pages + "<surroundings>" + many + "</surroundings>");
     }
     addHostile("gift_of_endless_pages", "numOfNormalPages='2147483647'", pages);
@@ -338,9 +338,13 @@ void PxOddSheetsTest::cutsWhatIsFarAway()
     const auto cut = barcode("gift_barcode_farther");
     QCOMPARE(cut[0].rect, QRectF(1900, 0, 190, 50));
     QCOMPARE(cut[0].attribute("data-rect"), QString("1900 0 500 50"));
-    QCOMPARE(barcode("gift_barcode_elsewhere").size(), 0);
+    // Of what lies elsewhere only the place is told.
+    const auto elsewhere = barcode("gift_barcode_elsewhere");
+    QCOMPARE(elsewhere.size(), 1);
+    QVERIFY(elsewhere[0].rect.isEmpty() && !elsewhere[0].attribute("data-rect").isEmpty());
     QCOMPARE(barcode("gift_barcode_nowhere").size(), 0);
-    QCOMPARE(pxFindShapes(firstSheet("book_of_far_numbers"), "page-number").size(), 0);
+    const auto numbers = pxFindShapes(firstSheet("book_of_far_numbers"), "page-number");
+    QVERIFY(!numbers.isEmpty() && numbers[0].attribute("data-position").size() > 10);
 }
 
 void PxOddSheetsTest::drawsSpiralsOfAnyLength()
@@ -378,13 +382,15 @@ void PxOddSheetsTest::endsQuickly()
     timer.start();
     const PxDrawnProduct equal = read("gift_of_equal", 0, legacy);
     QCOMPARE(equal.problem, QString());
-    QCOMPARE(equal.listedPages, 100000);
+    QCOMPARE(equal.listedPages, 99999);
     QCOMPARE(equal.sheets.size(), 4); // left and right, with and without a surrounding
     QCOMPARE(read("gift_of_different", 0, legacy).problem,
              QString("gift_of_different is too large to draw: it has more than 1000 different "
                      "sheets"));
-    QCOMPARE(read("gift_of_endless_pages", 2147483647, legacy).listedPages, 100000);
-    QCOMPARE(read("book_of_many_lists", 0, legacy).listedPages, 100000);
+    // The library ends a list of pages there, and so a drawing would be of another product.
+    const QString tooManyPages = " is too large to draw: it has 100000 pages or more";
+    for (const char *name : {"gift_of_endless_pages", "book_of_many_lists"})
+        QCOMPARE(read(name, name[0] == 'g' ? 2147483647 : 0, legacy).problem, name + tooManyPages);
     QVERIFY2(timer.elapsed() < 20000, "a second, without sanitizers");
 }
 

@@ -122,7 +122,7 @@ std::optional<PxProblem> PxDrawingPdf::write(const PxDrawing &drawing, QByteArra
         if (qMax(size.width(), size.height()) > longestSide)
             return PxProblem{
                 QString("a sheet is drawn %1 x %2 mm, and no page of a PDF may be longer "
-                        "than 5080 mm; --layers template needs less, .svg has no limit")
+                        "than 5080 mm; fewer layers may need less, and .svg has no limit")
                     .arg(inMillimetres(size.width()), inMillimetres(size.height()))};
     }
     // Fonts are numbered in the order of a hash. The variable would keep its seed from being set.

@@ -157,6 +157,15 @@ void Writer::write(const PxDrawing &drawing)
     m_xml.writeEndDocument();
 }
 
+/** The union of the pages with their bleed. With a negative bleed it lies within the trim. */
+QRect totalOf(const PxDrawnSheet &sheet)
+{
+    QRect total;
+    for (const PxDrawnPage &page : sheet.pages)
+        total |= page.total();
+    return total;
+}
+
 void Writer::writeSheet(const PxDrawingSheet &sheet, const QPoint &position)
 {
     static constexpr const char *ourKinds[] = {"cover", "spread", "page"};
@@ -171,7 +180,7 @@ void Writer::writeSheet(const PxDrawingSheet &sheet, const QPoint &position)
     attribute("data-pages", list(pages));
     attribute("data-stands-for", list(sheet.sheet.standsFor));
     attribute("data-trim", box(sheet.sheet.trim));
-    attribute("data-total", box(sheet.sheet.total));
+    attribute("data-total", box(totalOf(sheet.sheet)));
     attribute("data-canvas", box(sheet.canvas));
     const QPoint origin = position - sheet.canvas.topLeft();
     attribute("transform", translation(origin.x(), origin.y()));

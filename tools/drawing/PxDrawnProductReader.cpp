@@ -3,6 +3,7 @@
 #include "drawing/PxPageCounts.h"
 #include "drawing/PxPlacedItem.h"
 #include "drawing/PxProductFile.h"
+#include "drawing/PxSheetGeometry.h"
 #include "format/PxCatalogueKeywords.h"
 
 #include <context/PxProductContext.h>
@@ -184,8 +185,10 @@ PxDrawnPage drawnPage(const Reading &reading, int number, int pagesOfSheet)
     if (page.hasPageNumber)
         page.pageNumber = pageNumberOn(reading, page.context, size);
     if (reading.hasTheme()) {
-        page.layoutTemplate = reading.context.defaultTemplateForPage(true, page.context, true);
-        page.backgroundTemplate = reading.context.defaultTemplateForPage(false, page.context, true);
+        // Not those of the user: a drawing is the same on every machine.
+        page.layoutTemplate = reading.context.defaultTemplateForPage(true, page.context, false);
+        page.backgroundTemplate =
+            reading.context.defaultTemplateForPage(false, page.context, false);
     }
     return page;
 }
@@ -251,7 +254,7 @@ QString problemOfPageCount(const Reading &reading, const QList<int> &offered)
 QString problemOfSize(const PxDrawnPage &page)
 {
     const QSize size = page.trim.size();
-    if ((size.width() <= 0 && page.role != Role::Spine) || size.height() <= 0)
+    if (page.role != Role::Spine && (size.width() <= 0 || size.height() <= 0))
         return QString("has no size: page %1 is %2 x %3")
             .arg(QString::number(page.number), QString::number(size.width()),
                  QString::number(size.height()));
@@ -313,9 +316,25 @@ bool isMarginTooWide(const PxDrawnPage &page)
 
 bool isBleedOneSided(const Reading &reading, const PxDrawnSheet &sheet)
 {
-    const PxMargins &bleed = sheet.pages.constFirst().bleed;
+    using Edge = PxSheetGeometry::Edge;
+    const PxDrawnPage &page = sheet.pages.constFirst();
+    const struct
+    {
+        Edge edge;
+        int bleed;
+    } edges[] = {{Edge::Left, page.bleed.left()},
+                 {Edge::Right, page.bleed.right()},
+                 {Edge::Top, page.bleed.top()},
+                 {Edge::Bottom, page.bleed.bottom()}};
+    const Edge inner = PxSheetGeometry::innerEdge(page);
+    int atInnerEdge = 0;
+    int atOthers = 0;
+    for (const auto &row : edges) {
+        int &bleed = row.edge == inner ? atInnerEdge : atOthers;
+        bleed = qMax(bleed, row.bleed);
+    }
     return sheet.pages.size() == 1 && sheet.spiralLoops == 0 && !reading.drawn.type.isBook() &&
-           qMin(bleed.left(), bleed.right()) == 0 && qMax(bleed.left(), bleed.right()) > 0;
+           atInnerEdge == 0 && atOthers > 0;
 }
 
 void addNotes(const Reading &reading, PxDrawnSheet *sheet)
@@ -391,6 +410,9 @@ QString addSheets(Reading *reading)
 {
     reading->pageTypes = reading->product.pageTypes(reading->drawn.pageCount);
     reading->drawn.listedPages = reading->pageTypes.size();
+    if (reading->pageTypes.size() >= PxProductTypeDescription::maximumListedPages) // cut off there
+        return QString("is too large to draw: it has %1 pages or more")
+            .arg(PxProductTypeDescription::maximumListedPages);
     const QVector<SheetNumbers> sheets = differentSheets(*reading);
     if (sheets.size() > PxDrawnProductReader::maximumSheets)
         return QString("is too large to draw: it has more than %1 different sheets")

@@ -81,12 +81,13 @@ constexpr struct
      QT_TRANSLATE_NOOP("PxDrawnWords", "Ein Falz- oder Klemmbereich ist so breit wie die Seite "
                                        "oder breiter.")},
     {"item-outside",
-     QT_TRANSLATE_NOOP("PxDrawnWords", "Ein Bild, ein Barcode oder eine Schrift ragt über das "
-                                       "Datenformat oder den Rücken hinaus.")},
-    {"item-cut",
-     QT_TRANSLATE_NOOP("PxDrawnWords", "Ein Bild oder Barcode reicht weiter, als hier Platz ist: "
-                                       "Gezeichnet ist nur ein Teil; wo es liegt, sagt die "
-                                       "Legende.")},
+     QT_TRANSLATE_NOOP("PxDrawnWords",
+                       "Ein Bild, ein Barcode, eine Schrift oder eine Seitenzahl ragt "
+                       "über das Datenformat oder den Rücken hinaus.")},
+    {"item-cut", QT_TRANSLATE_NOOP("PxDrawnWords",
+                                   "Ein Bild, ein Barcode oder eine Seitenzahl liegt weiter außen, "
+                                   "als hier Platz ist: Gezeichnet ist höchstens ein Teil; "
+                                   "wo es liegt, sagt die Legende.")},
     {"item-empty",
      QT_TRANSLATE_NOOP("PxDrawnWords", "Ein Bild oder Barcode hat keine Fläche und ist nicht "
                                        "gezeichnet.")},
@@ -225,6 +226,8 @@ QString PxDrawnWords::heading(const PxDrawnSheet &sheet)
         kind = QCoreApplication::translate("PxDrawnWords", "Doppelseite");
     else if (sheet.kind == PxDrawnSheet::Kind::Cover)
         kind = QCoreApplication::translate("PxDrawnWords", "Umschlag");
+    else if (!sheet.pages.isEmpty() && sheet.pages.constFirst().role == PxDrawnPage::Role::Spine)
+        kind = role(sheet.pages.constFirst());
     else if (!sheet.pages.isEmpty())
         kind = kindOfPage(sheet.pages.constFirst());
     if (kind.isEmpty())

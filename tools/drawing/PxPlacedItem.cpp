@@ -7,8 +7,8 @@ void place(const PxDrawnSheet &sheet, PxPlacedItem *item)
 {
     const PxDrawnPage &page = sheet.pages[item->page];
     const PxMargins &bleed = page.bleed;
-    const QRectF total = QRectF(QPointF(), page.trim.size())
-                             .adjusted(-qMax(0, bleed.left()), -qMax(0, bleed.top()),
+    const QRectF trim(QPointF(), page.trim.size());
+    const QRectF total = trim.adjusted(-qMax(0, bleed.left()), -qMax(0, bleed.top()),
                                        qMax(0, bleed.right()), qMax(0, bleed.bottom()));
     const qreal width = sheet.total.width();
     const qreal height = sheet.total.height();
@@ -19,9 +19,12 @@ void place(const PxDrawnSheet &sheet, PxPlacedItem *item)
         return item->rect.left() >= area.left() && item->rect.right() <= area.right() &&
                item->rect.top() >= area.top() && item->rect.bottom() <= area.bottom();
     };
-    item->isOutside = !isWithin(total);
+    item->isOutside = !isWithin(item->item == PxDrawnItem::SpineText ? trim : total);
     item->isCut = !isWithin(limit);
     item->shown = item->isCut ? item->rect & limit : item->rect;
+    if (item->isCut && item->shown.isEmpty()) // a place without area, for its letter
+        item->shown = QRectF(qBound(limit.left(), item->rect.left(), limit.right()),
+                             qBound(limit.top(), item->rect.top(), limit.bottom()), 0, 0);
 }
 
 PxPlacedItem itemOf(PxDrawnItem item, int page, const QRectF &rect, bool isEmpty = false)

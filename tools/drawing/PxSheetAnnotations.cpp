@@ -42,8 +42,8 @@ QRectF addBlocks(PxSheetRoom &room, const PxDrawnProduct &product, PxDrawnLayers
         return {};
     QRectF frame(left - borderInset * a, room.used().top() - borderInset * a,
                  width + 2 * borderInset * a, 0);
-    PxSheetTitle::addTo(room, product, frame.left(), frame.width(), room.used().bottom() + gap * a);
-    frame.setBottom(room.used().bottom());
+    frame.setBottom(PxSheetTitle::addTo(room, product, frame.left(), frame.width(),
+                                        room.used().bottom() + gap * a));
     return frame;
 }
 

@@ -256,7 +256,7 @@ QVector<PxPlacedItem> Builder::itemsOn(int page, PxDrawnItem item) const
 {
     QVector<PxPlacedItem> items;
     for (const PxPlacedItem &placed : m_items) {
-        if (placed.page == page && placed.item == item && !placed.shown.isEmpty())
+        if (placed.page == page && placed.item == item && !placed.isEmpty)
             items.append(placed);
     }
     return items;
@@ -264,8 +264,9 @@ QVector<PxPlacedItem> Builder::itemsOn(int page, PxDrawnItem item) const
 
 PxDrawnShape Builder::placedBox(const QByteArray &className, const PxPlacedItem &item) const
 {
-    PxDrawnShape shape =
-        box(className, item.shown, stroke(item.item), PxDrawnStyle::fill(item.item));
+    PxDrawnShape shape = item.shown.isEmpty() ? box(className, item.shown, {}, {})
+                                              : box(className, item.shown, stroke(item.item),
+                                                    PxDrawnStyle::fill(item.item));
     if (!item.key.isEmpty())
         shape.attributes.append({"data-key", item.key});
     if (item.isCut)
@@ -285,9 +286,10 @@ Shapes Builder::surroundings(int page) const
                                                          EnumHelper::globalMapSurroundingTypeString)
                                                   .join(' ')},
                                {"data-paint", surrounding.paintOnTop() ? "above" : "below"}};
-            shapes << box
-                   << path("picture-box", PxDrawnPath::diagonals(item.shown),
-                           PxDrawnStyle::diagonals(m_a));
+            shapes << box;
+            if (!item.shown.isEmpty())
+                shapes << path("picture-box", PxDrawnPath::diagonals(item.shown),
+                               PxDrawnStyle::diagonals(m_a));
         }
     }
     return shapes;
@@ -304,7 +306,9 @@ Shapes Builder::barcodes(int page) const
         const QRectF inner =
             item.shown.adjusted(item.shown.width() * 0.06, item.shown.height() * 0.1,
                                 -item.shown.width() * 0.06, -item.shown.height() * 0.1);
-        shapes << box << path("bars", PxDrawnPath::bars(inner), {}, box.stroke.color);
+        shapes << box;
+        if (!item.shown.isEmpty())
+            shapes << path("bars", PxDrawnPath::bars(inner), {}, box.stroke.color);
     }
     return shapes;
 }
@@ -313,15 +317,16 @@ Shapes Builder::pageNumbers(int page) const
 {
     Shapes shapes;
     for (const PxPlacedItem &item : m_items) {
-        if (item.page != page || item.item != PxDrawnItem::PageNumber || item.isCut)
+        if (item.page != page || item.item != PxDrawnItem::PageNumber)
             continue;
-        const QPointF at = item.rect.topLeft();
+        const QPointF at = item.shown.topLeft();
+        const QPointF place = item.rect.topLeft();
         const double arm = 1.5 * m_a;
         Steps cross;
         PxDrawnPath::addLine(&cross, at - QPointF(arm, 0), at + QPointF(arm, 0));
         PxDrawnPath::addLine(&cross, at - QPointF(0, arm), at + QPointF(0, arm));
         PxDrawnShape shape = path("page-number", cross, stroke(PxDrawnItem::PageNumber));
-        shape.attributes = {{"data-position", number(at.x()) + ' ' + number(at.y())}};
+        shape.attributes = {{"data-position", number(place.x()) + ' ' + number(place.y())}};
         shapes.append(shape);
     }
     return shapes;

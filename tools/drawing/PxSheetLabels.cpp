@@ -250,8 +250,10 @@ QPointF freePlace(const PxSheetRoom &room, const QPointF &wanted, const QVector<
 void addKeys(PxSheetRoom &room)
 {
     QVector<QRectF> avoided;
-    for (const PxSheetRoom::Item &item : room.items("barcode"))
-        avoided.append(item.rect);
+    for (const char *className : {"barcode", "hole", "hook", "page-number"}) {
+        for (const PxSheetRoom::Item &item : room.items(className))
+            avoided.append(item.rect);
+    }
     for (const char *className : {"surrounding", "barcode"}) {
         for (const PxSheetRoom::Item &item : room.items(className)) {
             QString letter;

@@ -50,6 +50,7 @@ public:
     {}
 
     void addHead(const Field &heading, const Field &name, const Field &scale);
+    double bottom() const { return m_top; }
     void addCells(const QVector<Field> &fields);
 
 private:
@@ -211,12 +212,13 @@ QVector<Field> cells(const PxDrawnProduct &product, const PxDrawnSheet &sheet)
 
 } // namespace
 
-void PxSheetTitle::addTo(PxSheetRoom &room, const PxDrawnProduct &product, double left,
-                         double width, double top)
+double PxSheetTitle::addTo(PxSheetRoom &room, const PxDrawnProduct &product, double left,
+                           double width, double top)
 {
     Writer writer(room, left, width, top);
     writer.addHead({"heading", {}, PxDrawnWords::heading(room.sheet()), headingSize, true},
                    {"short-name", {}, product.type.shortProductName(), nameSize},
                    {"scale", Words::tr("Maßstab, Längen in mm"), "1:1"});
     writer.addCells(cells(product, room.sheet()));
+    return writer.bottom();
 }
