@@ -162,18 +162,18 @@ PxDrawnPage drawnPage(const Reading &reading, int number, int pagesOfSheet)
     page.number = number;
     page.context = reading.contextOf(number);
     page.role = roleOf(page.context, pagesOfSheet);
-    const PxPageSizeSpec spec = product.sizeSpec(PxPageSizeKey(page.context, pageCount));
-    QSize size = spec.usableSize();
+    const PxPageSizeSpec pageSize = product.sizeSpec(PxPageSizeKey(page.context, pageCount));
+    QSize size = pageSize.usableSize();
     if (page.role == Role::Spine) {
         size.setWidth(qMax(0, size.width()));
         page.spineTextHeight = qMax(0, product.spineMaxFontHeight(pageCount));
         page.hasSpineLogo = product.mustPaintVemoLogoOnSpine();
     }
     page.trim = QRect(QPoint(), size);
-    page.bleed = spec.bleedMargins();
-    page.safetyMargins = spec.safetyMargins();
+    page.bleed = pageSize.bleedMargins();
+    page.safetyMargins = pageSize.safetyMargins();
     page.foldMargin = isCover(page.context) ? 0 : qMax(0, product.foldMargin());
-    page.clamp = qMax(0, spec.horizontalClampExtra());
+    page.clamp = qMax(0, pageSize.horizontalClampExtra());
     page.isPrinted = !page.context.isPageType(PxPageTypeEmptyPage);
     page.takesContent = product.contentAllowedOnPage(number);
     page.surrounding = product.findSurrounding(PxSurroundingKey(page.context, number));
