@@ -131,6 +131,23 @@ private:
     std::exception_ptr m_exception;
 };
 
+/**
+ * A pool waits forever for a thread that the system refuses to start. The files are read without
+ * it, and such a pool is given up.
+ */
+void endPool(QThreadPool *pool)
+{
+    constexpr int milliseconds = 100;
+    static std::mutex ourMutex;
+    static auto &ourGivenUpPools = *new std::vector<QThreadPool *>;
+    if (pool->waitForDone(milliseconds)) {
+        delete pool;
+        return;
+    }
+    const std::lock_guard lock(ourMutex);
+    ourGivenUpPools.push_back(pool);
+}
+
 } // namespace
 
 void PxParallelReading::forEach(int count, const std::function<void(int)> &read)
@@ -141,15 +158,8 @@ void PxParallelReading::forEach(int count, const std::function<void(int)> &read)
             read(i);
         return;
     }
-    // A pool waits forever for a thread that the system refuses to start. The files are read
-    // without it, and such a pool is given up. So is what a thread needs that starts too late.
-    const auto files = std::make_shared<Files>(count, read);
-    const auto endPool = [](QThreadPool *pool) {
-        constexpr int milliseconds = 100;
-        if (pool->waitForDone(milliseconds))
-            delete pool;
-    };
-    const std::unique_ptr<QThreadPool, decltype(endPool)> pool(new QThreadPool, endPool);
+    const auto files = std::make_shared<Files>(count, read); // a thread may start too late
+    const std::unique_ptr<QThreadPool, decltype(&endPool)> pool(new QThreadPool, &endPool);
     pool->setMaxThreadCount(threads - 1);
     pool->setExpiryTimeout(0);
     pool->setStackSize(2 * 1024 * 1024);
