@@ -176,10 +176,11 @@ void PxHostileCommandsTest::checkOfOneFileIsBounded()
 void PxHostileCommandsTest::commandIsBounded_data()
 {
     QTest::addColumn<QString>("command");
-    const QString commands = "list,list --json,themes,themes --json,show KEYWORDS --pages 26,"
-                             "show DEFAULTS --theme wild --json,draw KEYWORDS,compatible PAGES "
-                             "--json,variants VARIANTS --json,"
-                             "check,check --format json,check --format sarif";
+    const QString commands =
+        "list,list --json,list --format tsv --sort -size --theme wild,themes,themes --json,"
+        "show KEYWORDS --pages 26,show DEFAULTS --theme wild --json,draw KEYWORDS,"
+        "compatible PAGES --json,variants VARIANTS --json,"
+        "check,check --format json,check --format sarif";
     for (const QString &command : commands.split(','))
         QTest::newRow(qPrintable(command)) << command;
 

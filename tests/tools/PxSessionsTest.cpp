@@ -118,10 +118,12 @@ void PxSessionsTest::isAnswered()
     // "check" finds the catalogue by itself.
     const bool isCheck = session.command.contains("check");
     QMap<QString, QString> environment{{"PX_RESOURCE_DIRS", isCheck ? QString() : m_sample.path()}};
-    QStringList words = unescaped(session.command)
+    QStringList words = QString(session.command)
                             .replace("DATA/", PX_TEST_DATA_DIRECTORY "/")
                             .replace("SAMPLE", m_sample.path())
                             .split(' ', Qt::SkipEmptyParts);
+    for (QString &word : words)
+        word = unescaped(word); // so that a blank within one is written \u0020
     for (; QRegularExpression("^[A-Z_]+=").match(words.value(0)).hasMatch(); words.removeFirst())
         environment[words[0].section('=', 0, 0)] = words[0].section('=', 1);
     const PxProgramRun run(PX_CATALOGUE_PROGRAM, words, environment);

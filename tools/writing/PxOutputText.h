@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <initializer_list>
 
@@ -22,6 +23,13 @@ public:
 
     void addLine(const QString &text) { addLine({{text}}); }
     void addLine(std::initializer_list<Piece> pieces);
+    /**
+     * Adds a line of values with commas between them, in double quotes where one has a comma, a
+     * quote or a blank at its edge (CSV, RFC 4180).
+     */
+    void addCommaSeparated(const QStringList &values);
+    /** The same with tabs, and without quotes: a tab in a value is escaped. */
+    void addTabSeparated(const QStringList &values);
 
     QByteArray toUtf8() const { return m_bytes; }
 

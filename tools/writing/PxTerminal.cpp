@@ -61,17 +61,17 @@ void PxTerminal::prepare()
     }
 }
 
-int PxTerminal::columns()
+int PxTerminal::columns(int ofPipe)
 {
     bool isNumber = false;
     const int wanted = qEnvironmentVariableIntValue("COLUMNS", &isNumber);
     if (isNumber && wanted > 0)
         return wanted;
+    if (isatty(STDOUT_FILENO) == 0)
+        return ofPipe;
     winsize size{};
-    if (isatty(STDOUT_FILENO) != 0 && ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 &&
-        size.ws_col > 0)
-        return size.ws_col;
-    return 100;
+    const bool isKnown = ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+    return isKnown ? size.ws_col : 100;
 }
 
 bool PxTerminal::hasColours()

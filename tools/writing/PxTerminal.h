@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <limits>
+
 class PxOutputText;
 class QJsonObject;
 
@@ -15,8 +17,10 @@ public:
      */
     static void prepare();
 
-    /** The value of COLUMNS, else the width of the terminal, else 100. */
-    static int columns();
+    /** More columns than anything takes. */
+    static constexpr int unlimited = std::numeric_limits<int>::max();
+    /** The value of COLUMNS, else the width of the terminal; `ofPipe` if the output is none. */
+    static int columns(int ofPipe = 100);
 
     /** Whether stdout is a terminal whose user has not switched colours off. */
     static bool hasColours();

@@ -82,6 +82,15 @@ PxCommandLine::PxCommandLine(const QStringList &words)
         readOptions(words);
 }
 
+QStringList PxCommandLine::keywords(const QString &option) const
+{
+    for (const PxOption &other : m_command->usage().options) {
+        if (other.name == option)
+            return other.keywordsIn(value(option));
+    }
+    return QStringList();
+}
+
 /** Options may precede the command; they are read once the command is known. */
 void PxCommandLine::findCommand(const QStringList &words)
 {

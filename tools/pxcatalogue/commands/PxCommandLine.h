@@ -30,6 +30,8 @@ public:
     bool isSet(const QString &option) const { return m_parser.isSet(option); }
     /** The value of an option that the command takes; empty if it is not given. */
     QString value(const QString &option) const { return m_parser.value(option); }
+    /** The keywords in the value of an option, spelt as the option spells them. */
+    QStringList keywords(const QString &option) const;
     /** All values of an option that may be given several times. */
     QStringList values(const QString &option) const { return m_parser.values(option); }
 

@@ -52,6 +52,6 @@ PxReportCommand::Answer PxCompatibleCommand::answer(const PxCommandLine &line) c
     }
     PxReport report;
     report.addFields("query", "Interchangeable", query);
-    PxProductTable::addTo(&report, registry, PxCatalogueProducts::sorted(others));
+    PxProductTable(registry, PxCatalogueProducts::sorted(others)).addTo(&report);
     return {report, others.isEmpty() ? std::optional(PxProblem{reason}) : std::nullopt};
 }

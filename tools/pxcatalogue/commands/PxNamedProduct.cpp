@@ -61,9 +61,9 @@ PxProblem PxNamedProduct::unknownProduct(const QString &name)
 
 std::optional<PxProblem> PxNamedProduct::problemOfTheme(const QString &id)
 {
-    const auto *factory = PxThemeFactory::instance();
-    if (id.isEmpty() || factory->contains(id))
+    if (id.isEmpty() || PxThemeFactory::instance()->contains(id))
         return std::nullopt;
+    const QStringList ids = PxThemeFactory::instance()->themeNames();
     return PxProblem{QString("no theme \"%1\"%2 (\"pxcatalogue themes\" shows all)")
-                         .arg(id, suggestionOf(factory->themeNames(), id))};
+                         .arg(id, suggestionOf(ids, id))};
 }

@@ -1,19 +1,75 @@
 #include "commands/PxOption.h"
 
+#include "check/words/PxSpelling.h"
+
+#include <QRegularExpression>
+
+namespace {
+
+bool isNumber(const QString &text, const PxOption &option)
+{
+    static const QRegularExpression ourTenths("^[0-9]+(\\.[0-9])?$");
+    bool isNumber = false;
+    const double number =
+        option.form == PxOption::Form::Tenths ? text.toDouble(&isNumber) : text.toInt(&isNumber);
+    if (option.form == PxOption::Form::Tenths)
+        isNumber = ourTenths.match(text).hasMatch();
+    return isNumber && number >= option.least && number <= option.most;
+}
+
+/** What stands before a keyword. */
+QString prefixOf(const QString &word, const PxOption &option)
+{
+    return option.form == PxOption::Form::SortKeywords && word.startsWith('-') ? "-" : "";
+}
+
+/** The word as the list of the option spells it; empty if it is no keyword. */
+QString keywordOf(const QString &word, const PxOption &option)
+{
+    const QString prefix = prefixOf(word, option);
+    for (const QString &keyword : option.keywords) {
+        if (word.compare(prefix + keyword, Qt::CaseInsensitive) == 0)
+            return prefix + keyword;
+    }
+    return QString();
+}
+
+QStringList wordsOf(const QString &text, const PxOption &option)
+{
+    QStringList words =
+        option.form == PxOption::Form::OneKeyword ? QStringList(text) : text.split(',');
+    for (QString &word : words)
+        word = word.trimmed();
+    return words;
+}
+
+} // namespace
+
 std::optional<PxProblem> PxOption::problemOf(const QString &text) const
 {
-    bool isNumber = false;
-    const int number = text.toInt(&isNumber);
-    if (most > 0 && (!isNumber || number < least || number > most))
-        return PxProblem{QString("--%1 needs a number from %2 to %3, not \"%4\"")
-                             .arg(name, QString::number(least), QString::number(most), text)};
-    const QStringList parts = keywords.isEmpty() ? QStringList() : text.split(',');
-    for (const QString &part : parts) {
-        if (!keywords.contains(part.trimmed(), Qt::CaseInsensitive))
-            return PxProblem{
-                QString("--%1 does not know \"%2\": use %3").arg(name, part, keywords.join(", "))};
+    if (most > 0 && !isNumber(text, *this))
+        return PxProblem{QString("--%1 needs a number from %2 to %3%4, not \"%5\"")
+                             .arg(name, QString::number(least), QString::number(most),
+                                  form == Form::Tenths ? " with at most one decimal" : "", text)};
+    const QStringList words = keywords.isEmpty() ? QStringList() : wordsOf(text, *this);
+    for (const QString &word : words) {
+        if (!keywordOf(word, *this).isEmpty())
+            continue;
+        const QString near = PxSpelling::hint(word.mid(prefixOf(word, *this).size()), keywords);
+        return PxProblem{
+            QString("--%1 does not know \"%2\": %3")
+                .arg(name, word, near.isEmpty() ? "use " + keywords.join(", ") : near)};
     }
     return std::nullopt;
+}
+
+QStringList PxOption::keywordsIn(const QString &text) const
+{
+    QStringList found;
+    const QStringList words = text.isEmpty() ? QStringList() : wordsOf(text, *this);
+    for (const QString &word : words)
+        found.append(keywordOf(word, *this));
+    return found;
 }
 
 // clang-format off

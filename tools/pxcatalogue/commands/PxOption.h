@@ -17,8 +17,19 @@ struct PxOption
     int most = 0;              ///< largest number allowed; 0 if the value is not a number
     QStringList keywords = {}; ///< allowed in a comma-separated list; empty if any text is allowed
 
+    /** What else a value may be, or must not. */
+    enum class Form {
+        Usual,
+        Tenths,       ///< the number may have one decimal
+        OneKeyword,   ///< no list
+        SortKeywords, ///< "-" may stand before a keyword
+    };
+    Form form = Form::Usual;
+
     /** What is wrong with a value of the option. */
     std::optional<PxProblem> problemOf(const QString &text) const;
+    /** The keywords in a value of the option, spelt as in `keywords`. */
+    QStringList keywordsIn(const QString &text) const;
 
     // Options that several commands have, and those that every command has.
     static PxOption theme();

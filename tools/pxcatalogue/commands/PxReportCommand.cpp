@@ -12,11 +12,15 @@ PxExitStatus PxReportCommand::run(const PxCommandLine &line) const
         return fail(*problem);
     PxProductPropertiesInitializer::setupModule();
     const Answer answer = this->answer(line);
-    const auto write = [&line](const PxReport &report) {
-        return line.isSet("json") ? PxTerminal::write(report.json())
-                                  : PxTerminal::write(report.text(PxTerminal::columns()));
+    if (answer.wrongUsage)
+        return fail(*answer.wrongUsage);
+    const auto write = [&](const PxReport &report) {
+        if (answer.isJson || line.isSet("json"))
+            return PxTerminal::write(report.json());
+        return PxTerminal::write(report.text(PxTerminal::columns(PxTerminal::unlimited)));
     };
-    if (answer.report && !write(*answer.report))
+    if ((answer.report && !write(*answer.report)) ||
+        (answer.lines && !PxTerminal::write(*answer.lines)))
         return PxExitStatus::CannotRun;
     if (!answer.no)
         return PxExitStatus::Done;

@@ -11,11 +11,17 @@ public:
     PxExitStatus run(const PxCommandLine &line) const final;
 
 protected:
-    /** The report to print, if any, and the reason if the answer is "no". */
+    /** What to print, if anything, and the reason if the answer is "no". */
     struct Answer
     {
         std::optional<PxReport> report;
         std::optional<PxProblem> no = std::nullopt;
+        /** Set if the options do not go together: then nothing is printed. */
+        std::optional<PxProblem> wrongUsage = std::nullopt;
+        /** Printed in place of a report. */
+        std::optional<PxOutputText> lines = std::nullopt;
+        /** Prints the report as JSON, even without --json. */
+        bool isJson = false;
     };
 
     virtual Answer answer(const PxCommandLine &line) const = 0;

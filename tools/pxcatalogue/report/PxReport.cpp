@@ -50,7 +50,7 @@ void PxReport::addTable(const char *key, const char *heading, const QVector<Colu
     for (const Column &column : columns) {
         if (column.format != PxReportFormat::JsonOnly)
             table.addColumn(column.label + PxReportValue::unit(column.format),
-                            kindOf(column.format));
+                            kindOf(column.format), column.givesWay);
     }
     QJsonArray json;
     for (const QJsonArray &row : rows) {

@@ -29,6 +29,7 @@ public:
         const char *key;
         const char *label;
         PxReportFormat format = PxReportFormat::Plain;
+        int givesWay = 0; ///< which columns are left out first where there is little room
     };
 
     /** Adds a section of single values; in JSON an object. */

@@ -4,21 +4,28 @@
 #include "writing/PxVisibleText.h"
 
 #include <algorithm>
+#include <limits>
 #include <numeric>
 
 namespace {
 
 constexpr int gap = 2;
-constexpr int legible = 3; // the smallest width of a shortened text
+constexpr int legible = 8;  // a text that is shorter hardly tells anything
+constexpr int shortest = 3; // the smallest width of a shortened text
 
 /** Limits the length of every text, because all rows are padded to the longest one. */
 constexpr int maximumWidth = 1000;
 
+int widthOfLine(const QVector<int> &widths)
+{
+    return std::accumulate(widths.cbegin(), widths.cend(), gap * (widths.size() - 1));
+}
+
 } // namespace
 
-void PxTextTable::addColumn(const QString &heading, Kind kind)
+void PxTextTable::addColumn(const QString &heading, Kind kind, int givesWay)
 {
-    m_kinds.append(kind);
+    m_columns.append({kind, givesWay, heading.size()});
     m_rows[0].append(heading);
 }
 
@@ -28,44 +35,68 @@ void PxTextTable::addRow(const QStringList &texts)
     for (const QString &text : texts)
         row.append(PxTerminal::shortened(
             PxVisibleText::line(PxTerminal::shortened(text, maximumWidth)), maximumWidth));
+    for (int i = 0; i < m_columns.size(); ++i)
+        m_columns[i].width = qMax(m_columns[i].width, row[i].size());
     m_rows.append(row);
 }
 
 QStringList PxTextTable::lines(int width) const
 {
-    const QVector<int> fitting = widths(width);
+    const QVector<int> columns = columnsThatFit(width);
+    const QVector<int> fitting = widths(columns, width, shortest);
     const bool hasHeadings = !m_rows.constFirst().join(QString()).isEmpty();
     QStringList lines;
-    for (int row = hasHeadings ? 0 : 1; row < m_rows.size(); ++row) {
-        QString line;
-        for (int column = 0; column < fitting.size(); ++column) {
-            const QString cell = PxTerminal::shortened(m_rows[row][column], fitting[column]);
-            const bool isNumber = m_kinds[column] == Kind::Number;
-            line += isNumber ? cell.rightJustified(fitting[column])
-                             : cell.leftJustified(fitting[column]);
-            line += QString(gap, ' ');
-        }
-        while (line.endsWith(' '))
-            line.chop(1);
-        lines.append(PxTerminal::shortened(line, width));
-    }
+    for (int row = hasHeadings ? 0 : 1; row < m_rows.size(); ++row)
+        lines.append(PxTerminal::shortened(line(m_rows[row], columns, fitting), width));
     return lines;
 }
 
-QVector<int> PxTextTable::widths(int width) const
+QString PxTextTable::line(const QStringList &row, const QVector<int> &columns,
+                          const QVector<int> &widths) const
 {
-    QVector<int> widths(m_kinds.size(), 0);
-    for (const QStringList &row : m_rows) {
-        for (int column = 0; column < widths.size(); ++column)
-            widths[column] = qMax(widths[column], row[column].size());
+    QString line;
+    for (int i = 0; i < columns.size(); ++i) {
+        const QString cell = PxTerminal::shortened(row[columns[i]], widths[i]);
+        const bool isNumber = m_columns[columns[i]].kind == Kind::Number;
+        line += isNumber ? cell.rightJustified(widths[i]) : cell.leftJustified(widths[i]);
+        line += QString(gap, ' ');
     }
-    int excess = std::accumulate(widths.cbegin(), widths.cend(), gap * (widths.size() - 1)) - width;
-    for (; excess > 0; --excess) {
+    while (line.endsWith(' '))
+        line.chop(1);
+    return line;
+}
+
+/** All columns, or those that are left when as many as necessary have given way. */
+QVector<int> PxTextTable::columnsThatFit(int width) const
+{
+    QVector<int> columns(m_columns.size());
+    std::iota(columns.begin(), columns.end(), 0);
+    const auto order = [this](int column) {
+        const int givesWay = m_columns[column].givesWay;
+        return givesWay > 0 ? givesWay : std::numeric_limits<int>::max();
+    };
+    while (widthOfLine(widths(columns, width, legible)) > width) {
+        auto *const first = std::min_element(
+            columns.begin(), columns.end(), [&order](int a, int b) { return order(a) < order(b); });
+        if (m_columns[*first].givesWay == 0)
+            break;
+        columns.erase(first);
+    }
+    return columns;
+}
+
+/** The widths when texts are shortened as far as necessary, but not below `least`. */
+QVector<int> PxTextTable::widths(const QVector<int> &columns, int width, int least) const
+{
+    QVector<int> widths;
+    for (int column : columns)
+        widths.append(m_columns[column].width);
+    for (int excess = widthOfLine(widths) - width; excess > 0; --excess) {
         int *widest = nullptr;
-        for (int column = 0; column < widths.size(); ++column) {
-            if (m_kinds[column] == Kind::Text && widths[column] > legible &&
-                (!widest || widths[column] > *widest))
-                widest = &widths[column];
+        for (int i = 0; i < columns.size(); ++i) {
+            if (m_columns[columns[i]].kind == Kind::Text && widths[i] > least &&
+                (!widest || widths[i] > *widest))
+                widest = &widths[i];
         }
         if (!widest)
             break;

@@ -6,7 +6,8 @@
 /**
  * Formats rows as aligned columns that fit a width: texts are shortened, never wrapped.
  *
- * Lines that are still too long are cut off. Extremely long texts are always shortened.
+ * Columns that may give way are left out before texts become too short to tell anything. Lines that
+ * are still too long are cut off. Extremely long texts are always shortened.
  */
 class PxTextTable
 {
@@ -17,7 +18,8 @@ public:
         Number, // aligned to the right; never shortened, which would change the number
     };
 
-    void addColumn(const QString &heading, Kind kind);
+    /** The column with the smallest `givesWay` is left out first; one with 0 is always shown. */
+    void addColumn(const QString &heading, Kind kind, int givesWay = 0);
     /** One text for each column. */
     void addRow(const QStringList &texts);
 
@@ -26,8 +28,18 @@ public:
     QStringList lines(int width) const;
 
 private:
-    QVector<int> widths(int width) const;
+    struct Column
+    {
+        Kind kind;
+        int givesWay;
+        int width; // of its longest text
+    };
 
-    QVector<Kind> m_kinds;
+    QVector<int> columnsThatFit(int width) const;
+    QVector<int> widths(const QVector<int> &columns, int width, int least) const;
+    QString line(const QStringList &row, const QVector<int> &columns,
+                 const QVector<int> &widths) const;
+
+    QVector<Column> m_columns;
     QVector<QStringList> m_rows{QStringList()}; // the first one is the headings
 };

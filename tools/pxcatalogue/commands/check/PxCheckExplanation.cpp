@@ -89,7 +89,7 @@ QString PxCheckExplanation::table()
     table.addColumn(QString(), PxTextTable::Kind::Text);
     for (const PxCheckTag *tag : PxCheckTags::all())
         table.addRow({tag->name, severityOf(*tag), tag->summary});
-    return table.lines(PxTerminal::columns()).join('\n') + '\n';
+    return table.lines(PxTerminal::columns(PxTerminal::unlimited)).join('\n') + '\n';
 }
 
 QString PxCheckExplanation::markdown()
