@@ -28,17 +28,15 @@ PxCommandUsage PxCompatibleCommand::usage() const
 
 PxReportCommand::Answer PxCompatibleCommand::answer(const PxCommandLine &line) const
 {
-    const PxProductType type(line.arguments().constFirst());
-    const QString themeId = PxNamedProduct::themeIdOf(line);
-    if (!PxCatalogueProducts::isCurrent(type))
-        return {std::nullopt, PxNamedProduct::unknownProduct(line.arguments().constFirst())};
-    if (const auto no = PxNamedProduct::problemOfTheme(themeId))
-        return {std::nullopt, no};
+    const PxNamedProduct named = PxNamedProduct::of(line, PxNamedProduct::Among::Current);
+    if (named.no)
+        return {std::nullopt, named.no};
+    const PxProductType type = named.type;
+    const QString themeId = named.themeId;
 
     const auto criterion = EnumHelper::decodeKeywordList(line.value("criterion"), criterionKeywords,
                                                          PxProductComparationNone);
-    const auto *registry = PxProductTypeConfigRegistry::instance();
-    PxProductTypeList others = registry->findCompatibleProducts(type, criterion);
+    PxProductTypeList others = named.registry->findCompatibleProducts(type, criterion);
     others.removeAll(type);
     const auto agreeing = QJsonArray::fromStringList(keywordsOf(criterion, criterionKeywords));
     QVector<PxReport::Field> query{{"product", "With", type.productName()},
@@ -52,6 +50,6 @@ PxReportCommand::Answer PxCompatibleCommand::answer(const PxCommandLine &line) c
     }
     PxReport report;
     report.addFields("query", "Interchangeable", query);
-    PxProductTable(registry, PxCatalogueProducts::sorted(others)).addTo(&report);
+    PxProductTable(named.registry, PxCatalogueProducts::sorted(others)).addTo(&report);
     return {report, others.isEmpty() ? std::optional(PxProblem{reason}) : std::nullopt};
 }

@@ -21,9 +21,11 @@ PxCommandUsage PxVariantsCommand::usage() const
 
 PxReportCommand::Answer PxVariantsCommand::answer(const PxCommandLine &line) const
 {
-    const PxProductType type(line.arguments().constFirst());
-    if (!PxCatalogueProducts::isCurrent(type))
-        return {std::nullopt, PxNamedProduct::unknownProduct(line.arguments().constFirst())};
+    const PxNamedProduct named =
+        PxNamedProduct::find(line.arguments().constFirst(), PxNamedProduct::Among::Current);
+    if (named.no)
+        return {std::nullopt, named.no};
+    const PxProductType type = named.type;
 
     const auto *identifiers = PxProductVariantIdentifiers::instance();
     const QMap<QString, QString> nameOfVariant = identifiers->variants(type);

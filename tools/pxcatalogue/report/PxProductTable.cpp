@@ -17,22 +17,23 @@ using Format = PxReportFormat;
 struct ProductColumn
 {
     PxReport::Column column;
+    int givesWay = 0;
     bool isShown = true;
 };
 
 // clang-format off
 constexpr ProductColumn productColumns[] = {
     {{"name", "Name", Format::Key}},
-    {{"class", "Class", Format::Key, 5}},
+    {{"class", "Class", Format::Key}, 5},
     {{"size", "Size", Format::Size}},
-    {{"binding", "Binding", Format::Name, 4}},
-    {{"paper", "Paper", Format::Name, 2}},
+    {{"binding", "Binding", Format::Name}, 4},
+    {{"paper", "Paper", Format::Name}, 2},
     {{"pageCounts", "Pages", Format::PageCounts}},
-    {{"orientation", "Orientation", Format::Plain, 1}},
-    {{"isOffered", "Offered", Format::Key, 3}},
-    {{"code", "Code", Format::Key}, false},
-    {{"shortName", "Short name"}, false},
-    {{"space", "Size class", Format::Name}, false},
+    {{"orientation", "Orientation", Format::Plain}, 1},
+    {{"isOffered", "Offered", Format::Key}, 3},
+    {{"code", "Code", Format::Key}, 0, false},
+    {{"shortName", "Short name"}, 0, false},
+    {{"space", "Size class", Format::Name}, 0, false},
 };
 // clang-format on
 
@@ -121,6 +122,7 @@ void PxProductTable::addTo(PxReport *report) const
     QVector<PxReport::Column> columns;
     for (const ProductColumn &row : productColumns) {
         columns.append(row.column);
+        columns.last().givesWay = row.givesWay;
         if (!row.isShown)
             columns.last().format = Format::JsonOnly;
     }
@@ -157,7 +159,6 @@ QVector<PxReport::Column> PxProductTable::chosenColumns() const
             std::find_if(std::begin(productColumns), std::end(productColumns),
                          [&key](const ProductColumn &row) { return key == row.column.key; });
         columns.append(found->column);
-        columns.last().givesWay = 0;
     }
     return columns;
 }

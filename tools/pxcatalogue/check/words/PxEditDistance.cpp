@@ -12,7 +12,7 @@ int PxEditDistance::between(const QString &from, const QString &to, Swap swap, i
 
 int PxEditDistance::toPartOf(const QString &whole, const QString &part)
 {
-    return distance(part, whole, Swap::IsTwoChanges, std::numeric_limits<int>::max(), true);
+    return distance(part, whole, Swap::IsOneChange, std::numeric_limits<int>::max(), true);
 }
 
 int PxEditDistance::distance(const QString &from, const QString &to, Swap swap, int atMost,

@@ -87,12 +87,13 @@ QString PxSpelling::separated(const QString &names)
 QStringList PxSpelling::nearestThree(const QString &word, const QStringList &candidates)
 {
     const QString wanted = word.trimmed().toUpper();
+    constexpr auto swap = PxEditDistance::Swap::IsOneChange;
     QVector<std::tuple<int, int, QString>> near;
     for (const QString &candidate : candidates) {
         const QString upper = candidate.toUpper();
         const int distance = PxEditDistance::toPartOf(upper, wanted);
         if (!wanted.isEmpty() && distance <= wanted.size() / 3)
-            near.append({distance, PxEditDistance::between(wanted, upper), candidate});
+            near.append({distance, PxEditDistance::between(wanted, upper, swap), candidate});
     }
     std::sort(near.begin(), near.end());
     QStringList nearest;
