@@ -22,7 +22,7 @@ struct PxCommandUsage
     };
 
     QString name;
-    QString description; ///< the list of commands shows only its first line
+    QString description; ///< lines of any length; the list of commands shows only the first one
     /** First its own, then those that other commands have, too; without those of every command. */
     QVector<PxOption> options;
     Arguments arguments = {};

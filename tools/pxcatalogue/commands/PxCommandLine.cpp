@@ -1,6 +1,8 @@
 #include "commands/PxCommandLine.h"
 
+#include "check/words/PxSpelling.h"
 #include "commands/PxCommand.h"
+#include "writing/PxTerminal.h"
 
 #include <QCoreApplication>
 
@@ -8,16 +10,29 @@
 
 namespace {
 
+constexpr int helpWidth = 80;
+
 constexpr const char *introduction =
     "Shows the products of a catalogue as the product properties library understands\n"
-    "their files. Tables fit the terminal (COLUMNS): texts that are too long are shortened.\n"
-    "\nCommands (--help after a command shows its options):\n";
+    "their files.\n"
+    "\nCommands (\"pxcatalogue help COMMAND\" shows the options of one):\n";
 constexpr const char *exitStatus =
-    "\nExit status: 0 done; 1 the answer is \"no\": there is no such product or\n"
-    "theme, no other product that is interchangeable, no theme to order, or no variant;\n"
-    "2 wrong usage, a directory or a producttypes.xml that cannot be read, or output that\n"
-    "cannot be written.\n"
-    "\"draw --help\" shows more reasons, \"check --help\" the exit status of check.";
+    "\nExit status: 0 done; 1 the answer is \"no\": there is no such product or theme, several "
+    "products fit the name, no product fits the filters, there is no other product that is "
+    "interchangeable, no theme to order, or no variant; 2 wrong usage, a directory or a "
+    "producttypes.xml that cannot be read, or output that cannot be written. \"pxcatalogue help "
+    "draw\" shows more reasons, \"pxcatalogue help check\" the exit status of check.";
+
+/** Each line that is too long, in several; the others as they are. */
+QString wrapped(const QString &text)
+{
+    QStringList paragraphs = text.split('\n');
+    for (QString &paragraph : paragraphs) {
+        if (paragraph.size() > helpWidth)
+            paragraph = PxTerminal::wrapped(paragraph, helpWidth);
+    }
+    return paragraphs.join('\n');
+}
 
 QString programDescription()
 {
@@ -30,56 +45,118 @@ QString programDescription()
     return description + exitStatus;
 }
 
-bool takes(const PxCommand *command, const PxOption &option)
+bool takes(const PxCommand *command, const QString &option)
 {
     const QVector<PxOption> options = command->usage().options;
     return std::any_of(options.begin(), options.end(),
-                       [&option](const PxOption &other) { return other.name == option.name; });
+                       [&option](const PxOption &other) { return other.name == option; });
 }
 
-/** The names of the commands, or of those that take the option. */
-QString commandNames(const PxOption *option = nullptr)
+QStringList commandNames()
+{
+    QStringList names;
+    for (const PxCommand *command : PxCommand::all())
+        names.append(command->usage().name);
+    return names;
+}
+
+/** The commands that take the option. */
+QStringList commandsWith(const QString &option)
 {
     QStringList names;
     for (const PxCommand *command : PxCommand::all()) {
-        if (!option || takes(command, *option))
+        if (takes(command, option))
             names.append(command->usage().name);
     }
-    return names.join(", ");
+    return names;
 }
 
-/** An option shared by adjacent commands comes after the own options of the last of them. */
+void addOptions(QCommandLineParser *parser, const QVector<PxOption> &options,
+                QCommandLineOption::Flags flags = {})
+{
+    for (const PxOption &option : options) {
+        QStringList names{option.name};
+        if (option.name == "help")
+            names.prepend("h");
+        QCommandLineOption added(names, option.description, option.value);
+        added.setFlags(flags);
+        parser->addOption(added);
+    }
+}
+
+/** Each option once, though commands explain it differently. */
 QVector<PxOption> optionsOfAllCommands()
 {
-    const QVector<const PxCommand *> commands = PxCommand::all();
     QVector<PxOption> all;
     QStringList names;
-    for (int i = 0; i < commands.size(); ++i) {
-        for (const PxOption &option : commands[i]->usage().options) {
-            const bool isSharedWithNext = i + 1 < commands.size() && takes(commands[i + 1], option);
-            if (isSharedWithNext || names.contains(option.name))
-                continue;
+    for (const PxCommand *command : PxCommand::all()) {
+        for (const PxOption &option : command->usage().options) {
+            if (!names.contains(option.name))
+                all.append(option);
             names.append(option.name);
-            all.append(option);
-            all.last().description.prepend(commandNames(&option) + ": ");
         }
     }
-    return all + PxOption::ofEveryCommand();
+    return all;
 }
 
-void addOptions(QCommandLineParser *parser, const QVector<PxOption> &options)
+/** Begins with the name of the program, not with its path. */
+QString helpOf(const QCommandLineParser &parser)
 {
+    const QString program = QCoreApplication::arguments().value(0);
+    const QString text = parser.helpText();
+    return text.left(text.indexOf(program)) + QCoreApplication::applicationName() +
+           text.mid(text.indexOf(program) + program.size());
+}
+
+/** `options` are those that would have been understood. */
+QString problemOfParsing(const QCommandLineParser &parser, const QVector<PxOption> &options)
+{
+    if (parser.unknownOptionNames().isEmpty())
+        return parser.errorText();
+    const QString name = parser.unknownOptionNames().constFirst();
+    const QString problem =
+        QString("unknown option \"%1%2\"").arg(name.size() > 1 ? "--" : "-", name);
+    const QStringList others = commandsWith(name);
+    if (!others.isEmpty())
+        return problem + ": it belongs to " + others.join(", ");
+    if (name.size() == 1) // nearly every name has the letter
+        return problem;
+    QStringList names;
     for (const PxOption &option : options)
-        parser->addOption({option.name, option.description, option.value});
+        names.append(option.name);
+    QStringList nearest = PxSpelling::nearestThree(name, names);
+    for (QString &near : nearest)
+        near.prepend("--");
+    return nearest.isEmpty() ? problem : problem + ": " + PxSpelling::didYouMean(nearest);
+}
+
+QString problemOfCommand(const QString &name)
+{
+    const QStringList names = commandNames();
+    const QString near = PxSpelling::didYouMean(PxSpelling::nearestThree(name, names));
+    return QString("unknown command \"%1\": %2")
+        .arg(name, near.isEmpty() ? "use " + names.join(", ") : near);
 }
 
 } // namespace
 
 PxCommandLine::PxCommandLine(const QStringList &words)
 {
-    findCommand(words);
+    QCommandLineParser parser;
+    addOptions(&parser, optionsOfAllCommands(), QCommandLineOption::HiddenFromHelp);
+    addOptions(&parser, PxOption::ofEveryCommand());
+    parser.addPositionalArgument("command", "One of the above.");
+    parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
+    parser.setApplicationDescription(wrapped(programDescription()));
+    parser.parse(words);
+    QStringList understood = words;
+    if (parser.positionalArguments().value(0) == "help") { // is the same as --help
+        understood.removeAt(words.size() - parser.positionalArguments().size());
+        understood.insert(1, "--help");
+    }
+    findCommand(understood, &parser);
     if (m_command)
-        readOptions(words);
+        readOptions(understood);
 }
 
 QStringList PxCommandLine::keywords(const QString &option) const
@@ -92,15 +169,10 @@ QStringList PxCommandLine::keywords(const QString &option) const
 }
 
 /** Options may precede the command; they are read once the command is known. */
-void PxCommandLine::findCommand(const QStringList &words)
+void PxCommandLine::findCommand(const QStringList &words, QCommandLineParser *parser)
 {
-    QCommandLineParser parser;
-    addOptions(&parser, optionsOfAllCommands());
-    parser.addPositionalArgument("command", "One of the above.");
-    parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
-    parser.setApplicationDescription(programDescription());
-    const bool isUnderstood = parser.parse(words);
-    const QString name = parser.positionalArguments().value(0);
+    const bool isUnderstood = parser->parse(words);
+    const QString name = parser->positionalArguments().value(0);
     for (const PxCommand *command : PxCommand::all()) {
         if (name == command->usage().name)
             m_command = command;
@@ -108,11 +180,11 @@ void PxCommandLine::findCommand(const QStringList &words)
     if (m_command)
         return;
     if (!isUnderstood)
-        setProblem(parser.errorText());
-    else if (!name.isEmpty())
-        setProblem(QString("unknown command \"%1\": use %2").arg(name, commandNames()));
-    else if (!informs(parser))
-        setProblem("a command is missing: use " + commandNames());
+        setProblem(problemOfParsing(*parser, optionsOfAllCommands() + PxOption::ofEveryCommand()));
+    else if (!name.isEmpty() && name != "help")
+        setProblem(problemOfCommand(name));
+    else if (!informs(*parser))
+        setProblem("a command is missing: use " + commandNames().join(", "));
 }
 
 void PxCommandLine::readOptions(const QStringList &words)
@@ -120,12 +192,12 @@ void PxCommandLine::readOptions(const QStringList &words)
     const PxCommandUsage usage = m_command->usage();
     const QVector<PxOption> options = usage.options + PxOption::ofEveryCommand();
     addOptions(&m_parser, options);
-    m_parser.setApplicationDescription(usage.description);
+    m_parser.setApplicationDescription(wrapped(usage.description));
     m_parser.addPositionalArgument(usage.name, "The command.", usage.name);
     if (usage.arguments.most > 0)
         m_parser.addPositionalArgument(usage.arguments.name, usage.arguments.meaning);
     if (!m_parser.parse(words))
-        setProblem(m_parser.errorText());
+        setProblem(problemOfParsing(m_parser, options));
     else if (!informs(m_parser)) {
         checkArguments();
         checkValues(options);
@@ -136,7 +208,7 @@ void PxCommandLine::readOptions(const QStringList &words)
 bool PxCommandLine::informs(const QCommandLineParser &parser)
 {
     if (parser.isSet("help"))
-        m_information = parser.helpText();
+        m_information = helpOf(parser);
     else if (parser.isSet("version"))
         m_information = QCoreApplication::applicationName() + ' ' +
                         QCoreApplication::applicationVersion() + '\n';
@@ -174,6 +246,9 @@ void PxCommandLine::checkValues(const QVector<PxOption> &options)
 /** Only the first problem is reported. */
 void PxCommandLine::setProblem(const QString &problem)
 {
+    const QString explained =
+        m_command ? QString("help %1\" explains the options").arg(m_command->usage().name)
+                  : "--help\" explains everything";
     if (!m_problem)
-        m_problem = PxProblem{problem + " (\"pxcatalogue --help\" explains everything)"};
+        m_problem = PxProblem{problem + " (\"pxcatalogue " + explained + ')'};
 }

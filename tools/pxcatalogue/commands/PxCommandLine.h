@@ -36,7 +36,7 @@ public:
     QStringList values(const QString &option) const { return m_parser.values(option); }
 
 private:
-    void findCommand(const QStringList &words);
+    void findCommand(const QStringList &words, QCommandLineParser *parser);
     void readOptions(const QStringList &words);
     bool informs(const QCommandLineParser &parser);
     void checkArguments();

@@ -66,9 +66,9 @@ PxCommandUsage PxDrawCommand::usage() const
 {
     // clang-format off
     return {"draw",
-        "A drawing of one product: its sheets with bleed, spine and safe area.\n"
-        "Sheets that look the same are drawn once. In SVG and PDF a millimetre is a millimetre;\n"
-        "SVG needs no fonts. Exit status 1 also if the product has no such page or cover, is not\n"
+        "A drawing of one product: sheets, bleed, spine and safe area.\n"
+        "Sheets that look the same are drawn once. In SVG and PDF a millimetre is a millimetre; SVG "
+        "needs no fonts. Exit status 1 also if the product has no such page or cover, is not "
         "offered with so many pages, has no size, or is too large for the file.",
         PxDrawOptions::all(), PxNamedProduct::argument()};
     // clang-format on

@@ -20,7 +20,7 @@ constexpr int listedProducts = 10;
 
 QString suggestionOf(const QStringList &nearest)
 {
-    return nearest.isEmpty() ? QString() : QString(": did you mean %1?").arg(nearest.join(", "));
+    return nearest.isEmpty() ? QString() : ": " + PxSpelling::didYouMean(nearest);
 }
 
 /** The name of the product, and what it is called in the shop. */

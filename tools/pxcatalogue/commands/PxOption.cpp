@@ -55,7 +55,8 @@ std::optional<PxProblem> PxOption::problemOf(const QString &text) const
     for (const QString &word : words) {
         if (!keywordOf(word, *this).isEmpty())
             continue;
-        const QString near = PxSpelling::hint(word.mid(prefixOf(word, *this).size()), keywords);
+        const QString near = PxSpelling::didYouMean(
+            PxSpelling::nearestThree(word.mid(prefixOf(word, *this).size()), keywords));
         return PxProblem{
             QString("--%1 does not know \"%2\": %3")
                 .arg(name, word, near.isEmpty() ? "use " + keywords.join(", ") : near)};

@@ -13,7 +13,7 @@
 PxCommandUsage PxVariantsCommand::usage() const
 {
     return {"variants",
-            "The variants of one product, such as its colours, with their names.\n"
+            "The variants of one product, such as its colours.\n"
             "Variants without a name are not on offer and are left out.",
             {PxOption::json()},
             PxNamedProduct::argument()};

@@ -97,8 +97,11 @@ QStringList PxSpelling::nearestThree(const QString &word, const QStringList &can
     }
     std::sort(near.begin(), near.end());
     QStringList nearest;
-    for (const auto &candidate : near.mid(0, 3))
-        nearest.append(std::get<QString>(candidate));
+    for (const auto &candidate : near.mid(0, 3)) {
+        // What has the word as a part is meant, not what is similar to it.
+        if (std::get<0>(candidate) == 0 || std::get<0>(near[0]) > 0)
+            nearest.append(std::get<QString>(candidate));
+    }
     return nearest;
 }
 
@@ -110,6 +113,11 @@ bool PxSpelling::isNear(const QString &word, const QString &name)
 QString PxSpelling::didYouMean(const QString &name)
 {
     return QString("did you mean \"%1\"?").arg(name);
+}
+
+QString PxSpelling::didYouMean(const QStringList &names)
+{
+    return names.isEmpty() ? QString() : QString("did you mean %1?").arg(names.join(", "));
 }
 
 QStringList PxSpelling::words(const QString &list)

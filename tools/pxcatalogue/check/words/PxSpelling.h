@@ -19,8 +19,8 @@ public:
     /** Names with semicolons between them, as the list that is meant. */
     static QString separated(const QString &names);
     /**
-     * At most three candidates that are similar to the word or have a part that is, the most
-     * similar first.
+     * At most three candidates that have the word as a part; if none has, those that are similar
+     * to the word or have a part that is. The most similar first.
      */
     static QStringList nearestThree(const QString &word, const QStringList &candidates);
     /** Whether the name is similar to the word. */
@@ -32,6 +32,8 @@ public:
     static QString lookalike(const QString &word, const QString &name);
     /** The question for a name that is known to be similar. */
     static QString didYouMean(const QString &name);
+    /** The question for several names; empty for none. */
+    static QString didYouMean(const QStringList &names);
     /** The words of a list with separators other than commas. A very long list counts as one word.
      */
     static QStringList words(const QString &list);

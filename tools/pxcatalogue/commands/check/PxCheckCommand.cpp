@@ -104,13 +104,13 @@ PxCommandUsage PxCheckCommand::usage() const
     // clang-format off
     return {"check",
         "What authors should know about the files of a catalogue.\n"
-        "Shows each place where the library does something else than the file says, with line and\n"
-        "column, what the library does now, and what the author probably meant. PATH is a resource\n"
-        "directory, or single files, each of which is checked by itself; default: the catalogue of the\n"
+        "Shows each place where the library does something else than the file says, with line and "
+        "column, what the library does now, and what the author probably meant. PATH is a resource "
+        "directory, or single files, each of which is checked by itself; default: the catalogue of the "
         "other commands. The environment counts only then.\n"
-        "The comment <!-- check: allow TAG reason --> silences a tag for the next element; as the first\n"
+        "The comment <!-- check: allow TAG reason --> silences a tag for the next element; as the first "
         "thing in a theme, for that theme.\n"
-        "Exit status: 0 no finding is as bad as --fail-on says; 1 at least one is; 2 wrong usage, or\n"
+        "Exit status: 0 no finding is as bad as --fail-on says; 1 at least one is; 2 wrong usage, or "
         "something cannot be read or written; 3 a fault of the program.",
         PxCheckOptions::all(),
         {"[PATH…]", "A resource directory, or files.", {}, std::numeric_limits<int>::max()}};
