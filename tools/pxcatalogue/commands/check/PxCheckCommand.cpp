@@ -1,6 +1,7 @@
 #include "commands/check/PxCheckCommand.h"
 
 #include "check/catalogue/PxCheck.h"
+#include "check/findings/PxCheckTags.h"
 #include "commands/PxCatalogueDirectories.h"
 #include "commands/PxCommandLine.h"
 #include "commands/check/PxCheckExplanation.h"
@@ -22,9 +23,13 @@ using Format = PxCheckOptions::Format;
 
 PxExitStatus explain(const PxCheckOptions &options)
 {
+    const PxCheckTag *tag = options.explainedTag();
+    if (options.format() == Format::Json)
+        return PxCommand::printed(
+            PxCheckExplanation::json(tag ? QVector{tag} : PxCheckTags::all()));
     QString text = PxCheckExplanation::table();
-    if (options.explainedTag())
-        text = PxCheckExplanation::of(*options.explainedTag());
+    if (tag)
+        text = PxCheckExplanation::of(*tag);
     else if (options.format() == Format::Markdown)
         text = PxCheckExplanation::markdown();
     return PxCommand::printed(PxOutputText(text));

@@ -6,9 +6,13 @@
 #include "report/PxTextTable.h"
 #include "writing/PxTerminal.h"
 
+#include <QJsonArray>
 #include <QStringList>
 
 namespace {
+
+constexpr int formatVersion = 1; // raise it when JSON changes, except for new members
+constexpr ushort mark = 0x00BB;  // stands in the example before the place of the finding
 
 constexpr const char *markdownStart =
     "# What `pxcatalogue check` finds\n"
@@ -57,12 +61,21 @@ QString indented(const QString &text)
 QString pointedExampleOf(const PxCheckTag &tag)
 {
     const QString bad = QString::fromUtf8(tag.bad);
-    const int mark = bad.indexOf(QChar(0x00BB));
-    const int column = mark - 1 - bad.lastIndexOf('\n', mark);
-    int lineEnd = bad.indexOf('\n', mark);
+    const int place = bad.indexOf(QChar(mark));
+    const int column = place - 1 - bad.lastIndexOf('\n', place);
+    int lineEnd = bad.indexOf('\n', place);
     lineEnd = lineEnd < 0 ? bad.size() : lineEnd;
     return indented(
-        QString(bad).insert(lineEnd, '\n' + QString(column, ' ') + '^').remove(mark, 1));
+        QString(bad).insert(lineEnd, '\n' + QString(column, ' ') + '^').remove(place, 1));
+}
+
+QJsonValue exampleOf(const PxCheckTag &tag)
+{
+    if (qstrlen(tag.bad) == 0)
+        return QJsonValue();
+    return QJsonObject{{"file", tag.file},
+                       {"bad", QString::fromUtf8(tag.bad).remove(QChar(mark))},
+                       {"good", QString::fromUtf8(tag.good)}};
 }
 
 } // namespace
@@ -105,4 +118,17 @@ QString PxCheckExplanation::markdown()
     for (const PxCheckTag *tag : PxCheckTags::all())
         text += QString("\n## %1\n\n").arg(tag->name) + PxTagHelp::markdown(*tag);
     return text;
+}
+
+QJsonObject PxCheckExplanation::json(const QVector<const PxCheckTag *> &tags)
+{
+    QJsonArray array;
+    for (const PxCheckTag *tag : tags)
+        array.append(QJsonObject{{"tag", tag->name},
+                                 {"severity", severityOf(*tag)},
+                                 {"summary", QString::fromUtf8(tag->summary)},
+                                 {"explanation", QString::fromUtf8(tag->explanation)},
+                                 {"needsCatalogue", tag->needsCatalogue},
+                                 {"example", exampleOf(*tag)}});
+    return {{"format", formatVersion}, {"tags", array}};
 }

@@ -2,7 +2,9 @@
 
 #include "check/findings/PxCheckTag.h"
 
+#include <QJsonObject>
 #include <QString>
+#include <QVector>
 
 /** Explains the tags of findings. */
 class PxCheckExplanation
@@ -14,4 +16,5 @@ public:
     static QString table();
     /** All tags with their examples: the contents of docs/checks.md. */
     static QString markdown();
+    static QJsonObject json(const QVector<const PxCheckTag *> &tags);
 };

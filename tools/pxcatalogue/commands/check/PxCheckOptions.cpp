@@ -18,7 +18,7 @@ constexpr struct
     bool isOfTags;
 } formats[] = {
     {"text", Format::Text, true, true},
-    {"json", Format::Json, true, false},
+    {"json", Format::Json, true, true},
     {"sarif", Format::Sarif, true, false},
     {"markdown", Format::Markdown, false, true},
 };
@@ -54,7 +54,7 @@ QVector<PxOption> PxCheckOptions::all()
         {"baseline", "FILE", "Hide the findings that are listed in this file."},
         {"write-baseline", "FILE", "List all findings in this file instead of printing them."},
         {"explain", "TAG", "What a tag means, with an example. Nothing is checked."},
-        {"list-tags", "", "A table of all tags, with --format markdown also their explanations. Nothing is checked."},
+        {"list-tags", "", "A table of all tags; with --format markdown or json, their explanations, too. Nothing is checked."},
     };
     // clang-format on
 }
