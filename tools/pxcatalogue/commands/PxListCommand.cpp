@@ -23,8 +23,9 @@ std::optional<PxProblem> problemOf(const PxCommandLine &line)
 PxOutputText separatedLines(const PxProductTable &table, bool isByCommas)
 {
     PxOutputText text;
+    const auto add = isByCommas ? &PxOutputText::addCommaSeparated : &PxOutputText::addTabSeparated;
     for (const QStringList &row : table.texts())
-        isByCommas ? text.addCommaSeparated(row) : text.addTabSeparated(row);
+        (text.*add)(row);
     return text;
 }
 

@@ -64,31 +64,46 @@ bool hasOneOf(const QStringList &keywords, PxKeywordSet set, int value)
     return false;
 }
 
-bool hasKeywords(const Asked &asked, const PxCommandLine &line)
+/** Removes the products for which the condition does not hold. */
+template <typename CONDITION>
+void keep(QVector<Asked> *products, CONDITION condition)
 {
-    return std::all_of(
-        std::begin(keywordFilters), std::end(keywordFilters), [&](const auto &filter) {
-            return !line.isSet(filter.option) ||
-                   hasOneOf(line.keywords(filter.option), filter.set, filter.value(asked));
+    const auto isRefused = [&condition](const Asked &asked) { return !condition(asked); };
+    products->erase(std::remove_if(products->begin(), products->end(), isRefused), products->end());
+}
+
+void keepKeywords(QVector<Asked> *products, const PxCommandLine &line)
+{
+    for (const auto &filter : keywordFilters) {
+        const QStringList keywords = line.keywords(filter.option);
+        if (line.isSet(filter.option))
+            keep(products, [&](const Asked &asked) {
+                return hasOneOf(keywords, filter.set, filter.value(asked));
+            });
+    }
+}
+
+void keepSizes(QVector<Asked> *products, const PxCommandLine &line)
+{
+    for (const auto &filter : sizeFilters) {
+        const auto limit = double(qRound64(line.value(filter.option).toDouble() * 10));
+        if (line.isSet(filter.option))
+            keep(products, [&](const Asked &asked) {
+                return asked.size.isValid() && filter.isWithin(asked.size, limit);
+            });
+    }
+}
+
+void keepOffers(QVector<Asked> *products, const PxCommandLine &line)
+{
+    const int pages = line.value("pages").toInt();
+    if (line.isSet("pages"))
+        keep(products,
+             [pages](const Asked &asked) { return asked.product->isPageCountOffered(pages); });
+    if (line.isSet("not-offered"))
+        keep(products, [](const Asked &asked) {
+            return !PxCatalogueProducts::isOffered(asked.registry, asked.type);
         });
-}
-
-bool isWithinSizes(const Asked &asked, const PxCommandLine &line)
-{
-    return std::all_of(std::begin(sizeFilters), std::end(sizeFilters), [&](const auto &filter) {
-        const double limit = qRound64(line.value(filter.option).toDouble() * 10);
-        return !line.isSet(filter.option) ||
-               (asked.size.isValid() && filter.isWithin(asked.size, limit));
-    });
-}
-
-bool isLetThrough(const Asked &asked, const PxCommandLine &line)
-{
-    if (line.isSet("pages") && !asked.product->isPageCountOffered(line.value("pages").toInt()))
-        return false;
-    if (line.isSet("not-offered") && PxCatalogueProducts::isOffered(asked.registry, asked.type))
-        return false;
-    return hasKeywords(asked, line) && isWithinSizes(asked, line);
 }
 
 /** The themes of which one must allow a product; those that the key account may order, if any. */
@@ -104,18 +119,16 @@ PxThemeList themesOf(const PxCommandLine &line)
     return themes.contains(theme) ? PxThemeList(theme) : PxThemeList();
 }
 
-PxProductTypeList allowedByThemes(const PxProductTypeList &products, const PxThemeList &themes)
+void keepAllowed(QVector<Asked> *products, const PxCommandLine &line)
 {
-    PxProductTypeList allowed;
-    for (const PxProductType &type : products) {
-        const bool isAllowed =
-            std::any_of(themes.begin(), themes.end(), [&type](const PxTheme &theme) {
-                return PxProductContext(type, theme).isValid();
-            });
-        if (isAllowed)
-            allowed.append(type);
-    }
-    return allowed;
+    if (!line.isSet("theme") && !line.isSet("key-account"))
+        return;
+    const PxThemeList themes = themesOf(line);
+    keep(products, [&themes](const Asked &asked) {
+        return std::any_of(themes.begin(), themes.end(), [&asked](const PxTheme &theme) {
+            return PxProductContext(asked.type, theme).isValid();
+        });
+    });
 }
 
 } // namespace
@@ -154,11 +167,15 @@ QString PxProductFilter::given(const PxCommandLine &line)
 PxProductTypeList PxProductFilter::filtered(const PxProductTypeConfigRegistry *registry,
                                             const PxCommandLine &line)
 {
-    PxProductTypeList products;
-    for (const PxProductType &type : PxCatalogueProducts::of(registry)) {
-        if (isLetThrough({registry, type}, line))
-            products.append(type);
-    }
-    const bool mustAskThemes = line.isSet("theme") || line.isSet("key-account");
-    return mustAskThemes ? allowedByThemes(products, themesOf(line)) : products;
+    QVector<Asked> products;
+    for (const PxProductType &type : PxCatalogueProducts::of(registry))
+        products.append({registry, type});
+    keepKeywords(&products, line);
+    keepSizes(&products, line);
+    keepOffers(&products, line);
+    keepAllowed(&products, line);
+    PxProductTypeList types;
+    for (const Asked &asked : qAsConst(products))
+        types.append(asked.type);
+    return types;
 }
