@@ -89,10 +89,14 @@ QStringList PxSpelling::nearestThree(const QString &word, const QStringList &can
     const QString wanted = word.trimmed().toUpper();
     constexpr auto swap = PxEditDistance::Swap::IsOneChange;
     QVector<std::tuple<int, int, QString>> near;
+    if (wanted.isEmpty() || wanted.size() > PxCheckLimits::comparedLength)
+        return {};
     for (const QString &candidate : candidates) {
+        if (candidate.size() > PxCheckLimits::comparedLength)
+            continue;
         const QString upper = candidate.toUpper();
         const int distance = PxEditDistance::toPartOf(upper, wanted);
-        if (!wanted.isEmpty() && distance <= wanted.size() / 3)
+        if (distance <= wanted.size() / 3)
             near.append({distance, PxEditDistance::between(wanted, upper, swap), candidate});
     }
     std::sort(near.begin(), near.end());
