@@ -4,24 +4,25 @@
 #include "drawing/PxProductFile.h"
 #include "format/PxCatalogueKeywords.h"
 #include "report/PxCatalogueProducts.h"
+#include "report/PxShownProduct.h"
 
 #include <PxProductProperties.h>
 
 #include <QHash>
 #include <QJsonArray>
 #include <QList>
-#include <QMap>
 #include <QRect>
 #include <QStringList>
 #include <QVector>
 
 #include <algorithm>
 #include <iterator>
-#include <tuple>
 
 namespace {
 
 using Format = PxReportFormat;
+using Shown = PxShownProduct;
+constexpr auto ForThisPageCount = PxReport::ForThisPageCount;
 
 constexpr int iconWidth = 300;
 
@@ -71,31 +72,6 @@ int shownPageCount(const PxProductTypeDescription &product, const QList<int> &of
     return limit;
 }
 
-/** All properties of a surrounding, as a key that can be sorted. */
-auto orderOf(const PxSurroundingDescription &surrounding)
-{
-    const QRect rect = surrounding.imageRect();
-    return std::make_tuple(int(surrounding.surroundingType()), int(surrounding.pageTypes().value()),
-                           int(surrounding.alignments()), surrounding.pageNr(),
-                           surrounding.paintOnTop(), surrounding.hasBindingShade(),
-                           surrounding.image(), rect.left(), rect.top(), rect.right(),
-                           rect.bottom());
-}
-
-/** The product with the page count and the theme in which it is shown. */
-struct Shown
-{
-    const PxProductTypeConfigRegistry *registry;
-    PxProductType type;
-    QString themeId; // empty for none
-    const PxProductTypeDescription *product = registry->description(type);
-    QList<int> offeredPageCounts = product->offeredPageCounts();
-    int pageCount = 0;
-    QList<PxPageContext> pages = {};      // all pages in their order, covers included
-    QList<PxPageContext> kinds = {};      // each different page once
-    QVector<QList<int>> pagesOfKind = {}; // page numbers, by the index of the kind
-};
-
 void addPagesTo(Shown *shown)
 {
     for (const PxPageType &pageType : shown->product->pageTypes(shown->pageCount)) {
@@ -107,6 +83,26 @@ void addPagesTo(Shown *shown)
         }
         shown->pagesOfKind[shown->kinds.indexOf(page)].append(number);
         shown->pages.append(page);
+    }
+    shown->redirectedPages = shown->pages.size();
+}
+
+void addSurroundingsTo(Shown *shown)
+{
+    for (int page = 0; page < shown->pages.size(); ++page) {
+        const PxSurroundingDescription surrounding =
+            shown->product->findSurrounding(PxSurroundingKey(shown->pages[page], page));
+        if (surrounding.isValid())
+            shown->surroundings[shown->indexOf(surrounding)].second.append(page);
+    }
+}
+
+void addBarcodesTo(Shown *shown)
+{
+    for (int page = 0; page < shown->pages.size(); ++page) {
+        const PxBarcode barcode = shown->product->barcodeOnPage(page, shown->pages.size());
+        if (barcode.isValid())
+            shown->barcodes.append({barcode, page});
     }
 }
 
@@ -120,6 +116,8 @@ Shown shownProduct(const PxProductTypeConfigRegistry *registry, const PxProductT
         qWarning("%s", qUtf8Printable(PxPageCounts::notOffered(type, shown.offeredPageCounts,
                                                                shown.pageCount)));
     addPagesTo(&shown);
+    addSurroundingsTo(&shown);
+    addBarcodesTo(&shown);
     return shown;
 }
 
@@ -169,10 +167,10 @@ void addPages(const Shown &shown, PxReport *report)
         {"pageCounts", "Page counts", PxReportValue::pageCounts(shown.offeredPageCounts, shown.product->pageIncrement()), Format::PageCounts},
         {"defaultSellingPages", "Sold with", sellingPages == -1 ? QJsonValue() : sellingPages},
         {"explicitNumberOfNormalPages", "Normal pages", shown.product->explicitNumberOfNormalPages()},
-        {"pageCount", "Shown with", shown.pageCount},
-        {"isPageCountOffered", "Offered with these", shown.product->isPageCountOffered(shown.pageCount)},
-        {"nearestPageCounts", "Nearest offered", PxReportValue::numbers(nearest)},
-        {"printedPages", "With covers and spine", shown.pages.size()},
+        {"pageCount", "Shown with", shown.pageCount, Format::Plain, ForThisPageCount},
+        {"isPageCountOffered", "Offered with these", shown.product->isPageCountOffered(shown.pageCount), Format::Plain, ForThisPageCount},
+        {"nearestPageCounts", "Nearest offered", PxReportValue::numbers(nearest), Format::Plain, ForThisPageCount},
+        {"printedPages", "With covers and spine", shown.pages.size(), Format::Plain, ForThisPageCount},
         {"listEntries", "Entries of page list", shown.product->countAbstractPages()},
         {"hasCover", "Cover", shown.product->hasCover()},
         {"isSimplex", "Printed on one side", shown.product->isSimplex()},
@@ -180,7 +178,7 @@ void addPages(const Shown &shown, PxReport *report)
         {"hasCardStyleAlignment", "Card style", shown.product->hasCardStyleAlignment()},
         {"namingStyle", "Page names", keywordArray(shown.product->pageNamingStyle(), EnumHelper::globalMapPageNamingStyleString)},
         {"editorStartDoublePage", "Editor starts at", shown.product->editorStartDoublePage()},
-        {"pagesWithContent", "Pages with content", pagesWithContent(shown, *shown.product), Format::PageNumbers},
+        {"pagesWithContent", "Pages with content", pagesWithContent(shown, *shown.product), Format::PageNumbers, ForThisPageCount},
     });
 }
 
@@ -216,10 +214,10 @@ void addPageKinds(const Shown &shown, PxReport *report)
     report->addTable("pageKinds", "Size of each kind of page (bleed: top/bottom/left/right)", {
         {"pageType", "Page", Format::Key},
         {"alignment", "Side", Format::Key},
-        {"pages", "Numbers", Format::PageNumbers},
-        {"usableSize", "Usable", Format::Size},
-        {"bleed", "Bleed", Format::Margins},
-        {"totalSize", "Total", Format::Size},
+        {"pages", "Numbers", Format::PageNumbers, ForThisPageCount},
+        {"usableSize", "Usable", Format::Size, ForThisPageCount},
+        {"bleed", "Bleed", Format::Margins, ForThisPageCount},
+        {"totalSize", "Total", Format::Size, ForThisPageCount},
         {"safetyMargins", "", Format::JsonOnly},
         {"clamp", "Clamp", Format::Length},
     }, rows);
@@ -229,42 +227,23 @@ void addSpine(const Shown &shown, PxReport *report)
 {
     report->addFields("spine", "Spine", {
         {"hasSpine", "Printed", shown.product->hasSpine()},
-        {"width", "Width", shown.product->spineWidth(shown.pageCount), Format::Length},
-        {"maxFontHeight", "Largest text height", shown.product->spineMaxFontHeight(shown.pageCount), Format::Length},
+        {"width", "Width", shown.product->spineWidth(shown.pageCount), Format::Length, ForThisPageCount},
+        {"maxFontHeight", "Largest text height", shown.product->spineMaxFontHeight(shown.pageCount), Format::Length, ForThisPageCount},
         {"hasLogo", "Maker's logo", shown.product->mustPaintVemoLogoOnSpine()},
     });
-}
-
-/** Each different surrounding, with the numbers of its pages. */
-QVector<QPair<PxSurroundingDescription, QList<int>>> surroundingsOf(const Shown &shown)
-{
-    QVector<QPair<PxSurroundingDescription, QList<int>>> found;
-    QMap<decltype(orderOf(PxSurroundingDescription())), int> indexes; // in `found`
-    for (int page = 0; page < shown.pages.size(); ++page) {
-        const PxSurroundingDescription surrounding =
-            shown.product->findSurrounding(PxSurroundingKey(shown.pages[page], page));
-        if (!surrounding.isValid())
-            continue;
-        const auto same =
-            indexes.insert(orderOf(surrounding), indexes.value(orderOf(surrounding), found.size()));
-        if (*same == found.size())
-            found.append({surrounding, {}});
-        found[*same].second.append(page);
-    }
-    return found;
 }
 
 void addSurroundings(const Shown &shown, PxReport *report)
 {
     QVector<QJsonArray> rows;
-    for (const auto &[surrounding, pages] : surroundingsOf(shown))
+    for (const auto &[surrounding, pages] : shown.surroundings)
         rows.append({PxReportValue::numbers(pages),
                      keywordArray(surrounding.surroundingType(),
                                   EnumHelper::globalMapSurroundingTypeString),
                      PxReportValue::rect(surrounding.imageRect()), surrounding.paintOnTop(),
                      surrounding.hasBindingShade(), surrounding.image()});
     report->addTable("surroundings", "Surroundings", {
-        {"pages", "Numbers", Format::PageNumbers},
+        {"pages", "Numbers", Format::PageNumbers, ForThisPageCount},
         {"type", "Type", Format::Key},
         {"rect", "Place", Format::Rect},
         {"paintOnTop", "On top", Format::Key},
@@ -276,12 +255,9 @@ void addSurroundings(const Shown &shown, PxReport *report)
 void addBarcodes(const Shown &shown, PxReport *report)
 {
     QVector<QJsonArray> rows;
-    for (int page = 0; page < shown.pages.size(); ++page) {
-        const PxBarcode barcode = shown.product->barcodeOnPage(page, shown.pages.size());
-        if (barcode.isValid())
-            rows.append({page, PxReportValue::rect(barcode.rect()), barcode.reverseOrder(),
-                         barcode.imageName()});
-    }
+    for (const auto &[barcode, page] : shown.barcodes)
+        rows.append({page, PxReportValue::rect(barcode.rect()), barcode.reverseOrder(),
+                     barcode.imageName()});
     report->addTable("barcodes", "Barcodes", {
         {"page", "Number", Format::Key},
         {"rect", "Place", Format::Rect},
@@ -314,7 +290,7 @@ void addTemplates(const Shown &shown, PxReport *report)
     report->addTable("templates", heading.toUtf8(), {
         {"pageType", "Page", Format::Key},
         {"alignment", "Side", Format::Key},
-        {"pages", "Numbers", Format::PageNumbers},
+        {"pages", "Numbers", Format::PageNumbers, ForThisPageCount},
         {"layout", "Layout"},
         {"background", "Background"},
     }, rows);
@@ -420,8 +396,8 @@ void addLegacy(const Shown &shown, PxReport *report)
         {"replacedBy", "Replaced by", successor.productName()},
         {"replaces", "Replaces", legacy.productName()},
         {"replacedPage", "Its page", sizeOf(sizes->usablePrintSize(legacy, PxPageTypeNormalPage, shown.pageCount)), Format::Size},
-        {"replacedSpine", "Its spine", sizeOf(sizes->usablePrintSize(legacy, PxPageTypeSpine, shown.pageCount)), Format::Size},
-        {"replacedCover", "Its open cover", sizeOf(sizes->usableSize(legacy, shown.pageCount, cover)), Format::Size},
+        {"replacedSpine", "Its spine", sizeOf(sizes->usablePrintSize(legacy, PxPageTypeSpine, shown.pageCount)), Format::Size, ForThisPageCount},
+        {"replacedCover", "Its open cover", sizeOf(sizes->usableSize(legacy, shown.pageCount, cover)), Format::Size, ForThisPageCount},
     });
 }
 
@@ -429,7 +405,7 @@ void addProduction(const Shown &shown, PxReport *report)
 {
     const QList<int> numbering = shown.product->productionNumberingList(shown.pages.size());
     report->addFields("production", "Production", {
-        {"numbering", "Numbers of the pages", PxReportValue::numbers(numbering), Format::PageNumbers},
+        {"numbering", "Numbers of the pages", PxReportValue::numbers(numbering), Format::PageNumbers, ForThisPageCount},
         {"pageNumberHorizontalIndent", "Page number from side", shown.product->pageNumberHorizontalIndent(), Format::Length},
         {"pageNumberVerticalIndent", "Above or below", shown.product->pageNumberVerticalIndent(), Format::Length},
         {"pageNumberFontSize", "Page number type size", shown.product->pageNumberFontSize()},
@@ -451,7 +427,7 @@ void addRedirects(const Shown &shown, PxReport *report)
 {
     QVector<QJsonArray> contents;
     QVector<QJsonArray> rotations;
-    for (int page = -1; page < shown.pages.size(); ++page) { // -1 means no page of the product
+    for (int page = -1; page < shown.redirectedPages; ++page) { // -1 means no page of the product
         const int target = shown.product->contentDropRedirect(page);
         if (target != page)
             contents.append({page, target});
@@ -477,7 +453,11 @@ void addRedirects(const Shown &shown, PxReport *report)
 PxReport PxProductReport::of(const PxProductTypeConfigRegistry *registry, const PxProductType &type,
                              int pageCount, const QString &themeId)
 {
-    const Shown shown = shownProduct(registry, type, pageCount, themeId);
+    return of(shownProduct(registry, type, pageCount, themeId));
+}
+
+PxReport PxProductReport::of(const PxShownProduct &shown)
+{
     PxReport report;
     for (const auto add : {addProduct, addPages, addSizes, addPageKinds, addSpine, addSurroundings,
                            addBarcodes, addTemplates, addTheme, addDesign, addVariants,

@@ -7,6 +7,7 @@
 #include <QString>
 
 class PxProductTypeConfigRegistry;
+struct PxShownProduct;
 
 /** Everything that the library knows about one product with a certain page count. */
 class PxProductReport
@@ -23,4 +24,5 @@ public:
      */
     static PxReport of(const PxProductTypeConfigRegistry *registry, const PxProductType &type,
                        int pageCount, const QString &themeId);
+    static PxReport of(const PxShownProduct &shown);
 };

@@ -6,8 +6,7 @@
 
 namespace {
 
-constexpr int formatVersion = 1; // raise it when JSON changes, except for new members
-constexpr int labelWidth = 22;   // the same in all sections, so that the values are aligned
+constexpr int labelWidth = 22; // the same in all sections, so that the values are aligned
 
 PxTextTable::Kind kindOf(PxReportFormat format)
 {
@@ -27,53 +26,83 @@ PxTextTable::Kind kindOf(PxReportFormat format)
 
 void PxReport::addFields(const char *key, const char *heading, const QVector<Field> &fields)
 {
-    QJsonObject json;
-    PxTextTable table;
-    table.addColumn(QString(), PxTextTable::Kind::Key);
-    table.addColumn(QString(), PxTextTable::Kind::Text);
-    for (const Field &field : fields) {
-        json.insert(field.key, field.value);
-        const QString text = PxReportValue::text(field.value, field.format);
-        if (text.isEmpty())
-            continue;
-        table.addRow({QString::fromUtf8(field.label).leftJustified(labelWidth),
-                      text + PxReportValue::unit(field.format)});
-    }
-    m_json.insert(key, json);
-    m_sections.append({heading, table});
+    m_sections.append({key, heading, fields, {}, {}});
 }
 
 void PxReport::addTable(const char *key, const char *heading, const QVector<Column> &columns,
                         const QVector<QJsonArray> &rows)
 {
-    PxTextTable table;
-    for (const Column &column : columns) {
-        if (column.format != PxReportFormat::JsonOnly)
-            table.addColumn(column.label + PxReportValue::unit(column.format),
-                            kindOf(column.format), column.givesWay);
-    }
-    QJsonArray json;
-    for (const QJsonArray &row : rows) {
-        QJsonObject object;
-        QStringList texts;
-        for (int i = 0; i < columns.size(); ++i) {
-            object.insert(columns[i].key, row[i]);
-            if (columns[i].format != PxReportFormat::JsonOnly)
-                texts.append(PxReportValue::text(row[i], columns[i].format));
-        }
-        json.append(object);
-        table.addRow(texts);
-    }
-    m_json.insert(key, json);
-    m_sections.append({heading, table});
+    m_sections.append({key, heading, {}, columns, rows});
 }
 
 QJsonObject PxReport::json() const
 {
-    QJsonObject json = m_json;
+    QJsonObject json = sections(ForThisPageCount);
     json.insert("format", formatVersion);
-    json.insert("lengthUnit", "tenths of a millimetre");
+    json.insert("lengthUnit", lengthUnit);
     return json;
+}
+
+QJsonObject PxReport::sections(Validity most) const
+{
+    QJsonObject json;
+    for (const Section &section : m_sections)
+        json.insert(section.key, section.columns.isEmpty() ? QJsonValue(object(section, most))
+                                                           : QJsonValue(array(section, most)));
+    return json;
+}
+
+QJsonObject PxReport::object(const Section &section, Validity most)
+{
+    QJsonObject object;
+    for (const Field &field : section.fields) {
+        if (field.validity <= most)
+            object.insert(field.key, field.value);
+    }
+    return object;
+}
+
+QJsonArray PxReport::array(const Section &section, Validity most)
+{
+    QJsonArray array;
+    for (const QJsonArray &row : section.rows) {
+        QJsonObject object;
+        for (int i = 0; i < section.columns.size(); ++i) {
+            if (section.columns[i].validity <= most)
+                object.insert(section.columns[i].key, row[i]);
+        }
+        array.append(object);
+    }
+    return array;
+}
+
+PxTextTable PxReport::table(const Section &section)
+{
+    PxTextTable table;
+    if (section.columns.isEmpty()) {
+        table.addColumn(QString(), PxTextTable::Kind::Key);
+        table.addColumn(QString(), PxTextTable::Kind::Text);
+    }
+    for (const Field &field : section.fields) {
+        const QString text = PxReportValue::text(field.value, field.format);
+        if (!text.isEmpty())
+            table.addRow({QString::fromUtf8(field.label).leftJustified(labelWidth),
+                          text + PxReportValue::unit(field.format)});
+    }
+    for (const Column &column : section.columns) {
+        if (column.format != PxReportFormat::JsonOnly)
+            table.addColumn(column.label + PxReportValue::unit(column.format),
+                            kindOf(column.format), column.givesWay);
+    }
+    for (const QJsonArray &row : section.rows) {
+        QStringList texts;
+        for (int i = 0; i < section.columns.size(); ++i) {
+            if (section.columns[i].format != PxReportFormat::JsonOnly)
+                texts.append(PxReportValue::text(row[i], section.columns[i].format));
+        }
+        table.addRow(texts);
+    }
+    return table;
 }
 
 PxOutputText PxReport::text(int width) const
@@ -81,7 +110,8 @@ PxOutputText PxReport::text(int width) const
     PxOutputText text;
     bool isFirst = true;
     for (const Section &section : m_sections) {
-        if (section.table.isEmpty())
+        const PxTextTable table = PxReport::table(section);
+        if (table.isEmpty())
             continue;
         const QString indent = section.heading.isEmpty() ? QString() : "  ";
         if (!isFirst)
@@ -89,7 +119,7 @@ PxOutputText PxReport::text(int width) const
         isFirst = false;
         if (!section.heading.isEmpty())
             text.addLine(PxTerminal::shortened(section.heading, width));
-        for (const QString &line : section.table.lines(width - indent.size()))
+        for (const QString &line : table.lines(width - indent.size()))
             text.addLine(PxTerminal::shortened(indent + line, width));
     }
     return text;
