@@ -7,6 +7,8 @@
 
 #include <optional>
 
+class PxJsonLines;
+
 /** Writes files. */
 class PxOutputFile
 {
@@ -19,8 +21,10 @@ public:
      * place. Anything else is refused. The problem also says what the user can do.
      */
     static std::optional<PxProblem> write(const QString &path, const QByteArray &contents);
+    static std::optional<PxProblem> write(const QString &path, const PxJsonLines &lines);
 
     /** Writes to an open file. Returns 0, or the error number of the system. */
     static int write(int descriptor, const QByteArray &contents);
+    static int write(int descriptor, const PxJsonLines &lines);
     static QString errorText(int error);
 };

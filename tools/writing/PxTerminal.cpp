@@ -1,5 +1,6 @@
 #include "writing/PxTerminal.h"
 
+#include "writing/PxJsonLines.h"
 #include "writing/PxOutputFile.h"
 #include "writing/PxOutputText.h"
 #include "writing/PxVisibleText.h"
@@ -41,7 +42,8 @@ constexpr struct
     {0x20000, 0x3FFFD}, // more ideographs
 };
 
-bool writeOutput(const QByteArray &output)
+template <typename OUTPUT>
+bool writeOutput(const OUTPUT &output)
 {
     const int error = PxOutputFile::write(STDOUT_FILENO, output);
     if (error != 0 && error != EPIPE)
@@ -129,6 +131,11 @@ bool PxTerminal::write(const PxOutputText &text)
 bool PxTerminal::write(const QJsonObject &json)
 {
     return writeOutput(PxVisibleText::json(QJsonDocument(json).toJson()).toUtf8());
+}
+
+bool PxTerminal::write(const PxJsonLines &lines)
+{
+    return writeOutput(lines);
 }
 
 void PxTerminal::printError(const QString &message)

@@ -4,6 +4,7 @@
 
 #include <limits>
 
+class PxJsonLines;
 class PxOutputText;
 class QJsonObject;
 
@@ -38,6 +39,7 @@ public:
      */
     static bool write(const PxOutputText &text);
     static bool write(const QJsonObject &json);
+    static bool write(const PxJsonLines &lines);
 
     /** One line on stderr, with the name of the program before it. */
     static void printError(const QString &message);

@@ -11,6 +11,8 @@
 class PxVisibleText
 {
 public:
+    /** Whether a character is shown as it is. */
+    static bool isVisible(uint character);
     /**
      * Returns a single line. Escapes look like \u202E, or \U000E0041 for characters beyond 16 bits.
      * Escaping a line again does not change it.

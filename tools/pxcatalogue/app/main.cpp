@@ -47,7 +47,8 @@ PxExitStatus run(const PxCommandLine &line)
                             : line.command().showsWarnings() ? Shown::Warnings
                                                              : Shown::Nothing);
     loadTexts();
-    installTranslation(line.value("lang"));
+    installTranslation(line.isSet("lang") || line.command().dependsOnLocale() ? line.value("lang")
+                                                                              : "de");
     return line.command().run(line);
 }
 

@@ -2,6 +2,7 @@
 
 #include "commands/PxCompatibleCommand.h"
 #include "commands/PxDrawCommand.h"
+#include "commands/PxExportCommand.h"
 #include "commands/PxListCommand.h"
 #include "commands/PxShowCommand.h"
 #include "commands/PxThemesCommand.h"
@@ -27,7 +28,7 @@ QVector<const PxCommand *> PxCommand::all()
     return {
         command<PxListCommand>(),       command<PxShowCommand>(),   command<PxDrawCommand>(),
         command<PxCompatibleCommand>(), command<PxThemesCommand>(), command<PxCheckCommand>(),
-        command<PxVariantsCommand>(),
+        command<PxVariantsCommand>(),   command<PxExportCommand>(),
     };
 }
 

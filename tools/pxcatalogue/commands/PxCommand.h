@@ -42,6 +42,8 @@ public:
     virtual bool showsWarnings() const { return true; }
     /** Whether it paints texts, which takes a QGuiApplication. */
     virtual bool needsFonts(const PxCommandLine & /*line*/) const { return false; }
+    /** Whether display names are in the language of the locale without --lang; else in German. */
+    virtual bool dependsOnLocale() const { return true; }
     /** Runs the command. The line has been checked against usage(). */
     virtual PxExitStatus run(const PxCommandLine &line) const = 0;
 

@@ -1,57 +1,11 @@
 #include "commands/PxThemesCommand.h"
 
 #include "commands/PxCommandLine.h"
-#include "format/PxCatalogueKeywords.h"
-#include "report/PxCatalogueProducts.h"
+#include "report/PxThemeTable.h"
 
 #include <PxProductProperties.h>
 
-#include <QJsonArray>
-#include <QVector>
-
-#include <algorithm>
 #include <limits>
-
-namespace {
-
-using Format = PxReportFormat;
-
-QJsonArray rowOf(const PxTheme &theme)
-{
-    return {theme.id(),
-            theme.description(),
-            keywordsOf(theme.productGroup().value(), EnumHelper::globalMapProductGroupEnumString)
-                .join(", "),
-            theme.expiryDayToOrderTxt(),
-            theme.isExpired(),
-            PxReportValue::numbers(theme.keyAccounts()),
-            PxCatalogueProducts::nameArray(theme.allowedProductTypes().values())};
-}
-
-/** Lists the themes, with who may order them and which products they allow. */
-void addTable(PxThemeList themes, PxReport *report)
-{
-    // The library reads the files in the order of the file system. Among themes with the same id
-    // the first one read stays first.
-    std::stable_sort(themes.begin(), themes.end(),
-                     [](const PxTheme &a, const PxTheme &b) { return a.id() < b.id(); });
-    QVector<QJsonArray> rows;
-    for (const PxTheme &theme : qAsConst(themes))
-        rows.append(rowOf(theme));
-    // clang-format off
-    report->addTable("themes", "", {
-        {"id", "Id", Format::Key},
-        {"description", "Description"},
-        {"group", "Group", Format::Key},
-        {"expiryDay", "Until", Format::Key},
-        {"isExpired", "Expired", Format::Key},
-        {"keyAccounts", "Key accounts"},
-        {"allowedProducts", "Products", Format::CountOrAll},
-    }, rows);
-    // clang-format on
-}
-
-} // namespace
 
 PxCommandUsage PxThemesCommand::usage() const
 {
@@ -72,7 +26,7 @@ PxReportCommand::Answer PxThemesCommand::answer(const PxCommandLine &line) const
     const PxThemeList themes =
         line.isSet("key-account") ? factory->themeList(keyAccount) : factory->themeList();
     PxReport report;
-    addTable(themes, &report);
+    PxThemeTable::addTo(&report, themes);
     if (!themes.isEmpty())
         return {report};
     if (!factory->themeList().isEmpty())

@@ -20,13 +20,18 @@ bool hasFile(const PxProductTypeConfigRegistry *registry, const PxProductType &t
 
 PxProductTypeList PxCatalogueProducts::of(const PxProductTypeConfigRegistry *registry)
 {
-    PxProductTypeList types = registry->products();
-    const PxListedProductTypes listed(false);
-    for (const PxProductType &type : listed.types()) {
-        if (hasFile(registry, type) && !registry->exists(type))
-            types.append(type);
+    return sorted(of(registry, PxListedProductTypes(false).types()));
+}
+
+PxProductTypeList PxCatalogueProducts::of(const PxProductTypeConfigRegistry *registry,
+                                          const PxProductTypeList &types)
+{
+    PxProductTypeList products;
+    for (const PxProductType &type : types) {
+        if (hasFile(registry, type))
+            products.append(type);
     }
-    return sorted(types);
+    return products;
 }
 
 QStringList PxCatalogueProducts::names()

@@ -13,6 +13,9 @@ class PxCatalogueProducts
 public:
     /** Sorted by class and name, including those not on offer because they have no size. */
     static PxProductTypeList of(const PxProductTypeConfigRegistry *registry);
+    /** Those of the types that have a file. */
+    static PxProductTypeList of(const PxProductTypeConfigRegistry *registry,
+                                const PxProductTypeList &types);
     /** The names of all current and legacy products. */
     static QStringList names();
 

@@ -4,6 +4,7 @@
 #include "drawing/PxProductFile.h"
 #include "format/PxCatalogueKeywords.h"
 #include "report/PxCatalogueProducts.h"
+#include "report/PxReplacedProduct.h"
 #include "report/PxShownProduct.h"
 
 #include <PxProductProperties.h>
@@ -215,9 +216,9 @@ void addPageKinds(const Shown &shown, PxReport *report)
         {"pageType", "Page", Format::Key},
         {"alignment", "Side", Format::Key},
         {"pages", "Numbers", Format::PageNumbers, ForThisPageCount},
-        {"usableSize", "Usable", Format::Size, ForThisPageCount},
-        {"bleed", "Bleed", Format::Margins, ForThisPageCount},
-        {"totalSize", "Total", Format::Size, ForThisPageCount},
+        {"usableSize", "Usable", Format::Size},
+        {"bleed", "Bleed", Format::Margins},
+        {"totalSize", "Total", Format::Size},
         {"safetyMargins", "", Format::JsonOnly},
         {"clamp", "Clamp", Format::Length},
     }, rows);
@@ -227,8 +228,8 @@ void addSpine(const Shown &shown, PxReport *report)
 {
     report->addFields("spine", "Spine", {
         {"hasSpine", "Printed", shown.product->hasSpine()},
-        {"width", "Width", shown.product->spineWidth(shown.pageCount), Format::Length, ForThisPageCount},
-        {"maxFontHeight", "Largest text height", shown.product->spineMaxFontHeight(shown.pageCount), Format::Length, ForThisPageCount},
+        {"width", "Width", shown.product->spineWidth(shown.pageCount), Format::Length},
+        {"maxFontHeight", "Largest text height", shown.product->spineMaxFontHeight(shown.pageCount), Format::Length},
         {"hasLogo", "Maker's logo", shown.product->mustPaintVemoLogoOnSpine()},
     });
 }
@@ -379,25 +380,15 @@ void addClassification(const Shown &shown, PxReport *report)
 
 void addLegacy(const Shown &shown, PxReport *report)
 {
-    const PxProductType legacy = shown.product->legacyProduct();
+    const PxReplacedProduct replaced(*shown.product);
     const PxProductType successor =
         PxProductTypeConfigRegistry::instance()->findProductForLegacy(shown.type);
-    const auto *sizes = PxLegacyProductTypeConfig::instance();
-    const bool isKnown = PxCatalogueProducts::isLegacy(legacy);
-    QList<PxPageType> cover;
-    for (const PxPageType &pageType : sizes->description(legacy)->pageTypes(shown.pageCount)) {
-        if (pageType.matches(PxPageTypeCover))
-            cover.append(pageType);
-    }
-    const auto sizeOf = [&](const QSizeF &size) {
-        return isKnown && !size.isEmpty() ? PxReportValue::size(size.toSize()) : QJsonValue();
-    };
     report->addFields("legacy", "Earlier and later catalogues", {
         {"replacedBy", "Replaced by", successor.productName()},
-        {"replaces", "Replaces", legacy.productName()},
-        {"replacedPage", "Its page", sizeOf(sizes->usablePrintSize(legacy, PxPageTypeNormalPage, shown.pageCount)), Format::Size},
-        {"replacedSpine", "Its spine", sizeOf(sizes->usablePrintSize(legacy, PxPageTypeSpine, shown.pageCount)), Format::Size, ForThisPageCount},
-        {"replacedCover", "Its open cover", sizeOf(sizes->usableSize(legacy, shown.pageCount, cover)), Format::Size, ForThisPageCount},
+        {"replaces", "Replaces", replaced.name()},
+        {"replacedPage", "Its page", PxReportValue::size(replaced.page()), Format::Size},
+        {"replacedSpine", "Its spine", PxReportValue::size(replaced.spine(shown.pageCount)), Format::Size},
+        {"replacedCover", "Its open cover", PxReportValue::size(replaced.cover(shown.pageCount)), Format::Size},
     });
 }
 

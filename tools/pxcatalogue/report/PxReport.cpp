@@ -47,8 +47,9 @@ QJsonObject PxReport::sections(Validity most) const
 {
     QJsonObject json;
     for (const Section &section : m_sections)
-        json.insert(section.key, section.columns.isEmpty() ? QJsonValue(object(section, most))
-                                                           : QJsonValue(array(section, most)));
+        json.insert(QLatin1String(section.key), section.columns.isEmpty()
+                                                    ? QJsonValue(object(section, most))
+                                                    : QJsonValue(array(section, most)));
     return json;
 }
 
@@ -57,7 +58,7 @@ QJsonObject PxReport::object(const Section &section, Validity most)
     QJsonObject object;
     for (const Field &field : section.fields) {
         if (field.validity <= most)
-            object.insert(field.key, field.value);
+            object.insert(QLatin1String(field.key), field.value);
     }
     return object;
 }
@@ -69,7 +70,7 @@ QJsonArray PxReport::array(const Section &section, Validity most)
         QJsonObject object;
         for (int i = 0; i < section.columns.size(); ++i) {
             if (section.columns[i].validity <= most)
-                object.insert(section.columns[i].key, row[i]);
+                object.insert(QLatin1String(section.columns[i].key), row[i]);
         }
         array.append(object);
     }

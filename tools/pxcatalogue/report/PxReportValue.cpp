@@ -1,5 +1,7 @@
 #include "report/PxReportValue.h"
 
+#include "report/PxNumberRanges.h"
+
 #include <geometry/PxMargins.h>
 
 #include <QJsonArray>
@@ -14,8 +16,7 @@ namespace {
 /** A ratio with six digits, but of a whole number all of them. */
 QString numberText(double number)
 {
-    return std::floor(number) == number ? QString::number(number, 'f', 0)
-                                        : QString::number(number);
+    return std::floor(number) == number ? QString::number(number, 'f', 0) : QString::number(number);
 }
 
 QString lengthText(const QJsonValue &tenths)
@@ -49,42 +50,12 @@ QString pageCountsText(const QJsonValue &counts)
     return QString("%1-%2/%3").arg(minimum).arg(maximum).arg(counts["increment"].toInt());
 }
 
-/**
- * The index behind the run that begins at `first`, in steps of 1 or 2. Negative numbers begin no
- * run, because "-3--1" is hard to read.
- */
-int endOfRun(const QJsonArray &numbers, int first)
+QString pageNumbersText(const QJsonArray &array)
 {
-    int end = first + 1;
-    const auto stepTo = [&numbers](int i) {
-        return qint64(numbers[i].toInt()) - numbers[i - 1].toInt();
-    };
-    if (end == numbers.size() || numbers[first].toInt() < 0 ||
-        (stepTo(end) != 1 && stepTo(end) != 2))
-        return end;
-    const qint64 step = stepTo(end);
-    while (end < numbers.size() && stepTo(end) == step)
-        ++end;
-    return end;
-}
-
-QString pageNumbersText(const QJsonArray &numbers)
-{
-    QStringList parts;
-    for (int first = 0; first < numbers.size();) {
-        const int end = endOfRun(numbers, first);
-        const int number = numbers[first].toInt();
-        const int last = numbers[end - 1].toInt();
-        if (end - first < 3) {
-            parts.append(QString::number(number));
-            ++first;
-            continue;
-        }
-        const QString run = QString("%1-%2").arg(QString::number(number), QString::number(last));
-        parts.append(last - number == end - first - 1 ? run : run + "/2");
-        first = end;
-    }
-    return parts.join(", ");
+    QList<int> numbers;
+    for (const auto &number : array)
+        numbers.append(number.toInt());
+    return PxNumberRanges::text(numbers, 0, numbers.size(), 2); // a larger step would be chance
 }
 
 QString plainText(const QJsonValue &value)
@@ -111,21 +82,30 @@ QJsonValue PxReportValue::size(const QSizeF &size)
 {
     if (!size.isValid())
         return QJsonValue();
-    return QJsonObject{{"width", qRound64(size.width())}, {"height", qRound64(size.height())}};
+    QJsonObject json; // an export has so many that the keys are better not converted
+    json.insert(QLatin1String("width"), qRound64(size.width()));
+    json.insert(QLatin1String("height"), qRound64(size.height()));
+    return json;
 }
 
 QJsonValue PxReportValue::rect(const QRect &rect)
 {
-    return QJsonObject{
-        {"x", rect.x()}, {"y", rect.y()}, {"width", rect.width()}, {"height", rect.height()}};
+    QJsonObject json;
+    json.insert(QLatin1String("x"), rect.x());
+    json.insert(QLatin1String("y"), rect.y());
+    json.insert(QLatin1String("width"), rect.width());
+    json.insert(QLatin1String("height"), rect.height());
+    return json;
 }
 
 QJsonValue PxReportValue::margins(const PxMargins &margins)
 {
-    return QJsonObject{{"top", margins.top()},
-                       {"bottom", margins.bottom()},
-                       {"left", margins.left()},
-                       {"right", margins.right()}};
+    QJsonObject json;
+    json.insert(QLatin1String("top"), margins.top());
+    json.insert(QLatin1String("bottom"), margins.bottom());
+    json.insert(QLatin1String("left"), margins.left());
+    json.insert(QLatin1String("right"), margins.right());
+    return json;
 }
 
 QJsonValue PxReportValue::name(const QString &keyword, const QString &displayName)

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <PxProductTypeList.h>
+#include <themes/PxThemeList.h>
+
+#include <QJsonObject>
+
+#include <optional>
+
+/**
+ * The whole catalogue, object by object: a header, the product types, the products, those of
+ * earlier catalogues, and the themes, each sorted by name.
+ *
+ * The same files give the same objects, whatever the day and the order in which they were read.
+ */
+class PxCatalogueExport
+{
+public:
+    PxCatalogueExport();
+
+    /** Nothing after the last object. */
+    std::optional<QJsonObject> next();
+
+private:
+    QJsonObject header() const;
+    QJsonObject object(int index) const;
+
+    PxProductTypeList m_types;
+    PxProductTypeList m_products;
+    PxProductTypeList m_legacyProducts;
+    PxThemeList m_themes;
+    int m_next = -1; // -1 for the header
+};

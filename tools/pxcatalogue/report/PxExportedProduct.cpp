@@ -1,0 +1,212 @@
+#include "report/PxExportedProduct.h"
+
+#include "format/PxCatalogueKeywords.h"
+#include "report/PxNumberRanges.h"
+#include "report/PxPageCountTable.h"
+#include "report/PxPageRuns.h"
+#include "report/PxProductReport.h"
+#include "report/PxShownProduct.h"
+
+#include <QJsonArray>
+#include <QSet>
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+using PageCounts = QList<int>;
+
+/** No surrounding is pinned to it. */
+constexpr int anyPage = std::numeric_limits<int>::max();
+
+QString side(PxPageAlignment alignment)
+{
+    return keywordsOf(alignment, EnumHelper::globalMapPageAlignmentString).join(", ");
+}
+
+/** Makes the product, section by section. */
+class Exported
+{
+public:
+    Exported(const PxProductTypeConfigRegistry *registry, const PxProductType &type)
+        : m_shown{registry, type, {}}
+        , m_runs(product())
+    {
+        addKinds();
+        m_shown.redirectedPages = qMin(printedPages(), PxExportedProduct::maximumPages);
+        m_shown.pageCount = pageCounts().value(0, 1);
+        addSurroundings();
+        addBarcodes();
+        m_json = PxProductReport::of(m_shown).jsonForAnyPageCount();
+        changePages();
+        changeSurroundings();
+        changeProduction();
+        m_json.insert("byPageCount", PxPageCountTable(m_shown).moveFrom(&m_json));
+    }
+
+    QJsonObject json() const { return m_json; }
+
+private:
+    const PxProductTypeDescription &product() const { return *m_shown.product; }
+    const PageCounts &pageCounts() const { return m_shown.offeredPageCounts; }
+    /** With the largest page count. */
+    int printedPages() const
+    {
+        return m_runs.pageCount(pageCounts().isEmpty() ? 1 : pageCounts().constLast());
+    }
+
+    void addKinds();
+    void addSurroundings();
+    void addSurroundingsOf(int page);
+    void addPlace(const PxSurroundingDescription &surrounding, const QJsonObject &place);
+    void addBarcodes();
+    void changePages();
+    void changeSurroundings();
+    void changeProduction();
+
+    PxShownProduct m_shown;
+    PxPageRuns m_runs;
+    QVector<PxSurroundingDescription> m_surroundingOfKind;
+    QVector<QJsonArray> m_places; // of the surroundings
+    QJsonObject m_json;
+};
+
+/** A longer product has all kinds of a shorter one, unless it begins on the other side. */
+void Exported::addKinds()
+{
+    const PageCounts pageCounts = this->pageCounts().isEmpty() ? PageCounts{1} : this->pageCounts();
+    const auto add = [this, &pageCounts](auto isWanted) {
+        const auto found = std::find_if(pageCounts.begin(), pageCounts.end(), isWanted);
+        if (found != pageCounts.end())
+            m_runs.addKindsTo(&m_shown.kinds, *found);
+    };
+    add([](int pageCount) { return pageCount > 1 && pageCount % 2 == 0; });
+    add([](int pageCount) { return pageCount > 1 && pageCount % 2 != 0; });
+    add([](int pageCount) { return pageCount == 1; });
+    m_shown.pagesOfKind.resize(m_shown.kinds.size());
+}
+
+void Exported::addPlace(const PxSurroundingDescription &surrounding, const QJsonObject &place)
+{
+    const int index = m_shown.indexOf(surrounding);
+    m_places.resize(m_shown.surroundings.size());
+    m_places[index].append(place);
+}
+
+/** A surrounding belongs to kinds of pages, and to single pages that another one would have. */
+void Exported::addSurroundings()
+{
+    for (const PxPageContext &kind : qAsConst(m_shown.kinds)) {
+        m_surroundingOfKind.append(product().findSurrounding(PxSurroundingKey(kind, anyPage)));
+        if (m_surroundingOfKind.constLast().isValid())
+            addPlace(m_surroundingOfKind.constLast(), {{"pageType", keywordOf(kind.pageType())},
+                                                       {"alignment", side(kind.alignment())},
+                                                       {"page", QJsonValue()}});
+    }
+    const int pages = qMin(printedPages(), PxExportedProduct::maximumPages);
+    for (int page = 0; page < pages; ++page)
+        addSurroundingsOf(page);
+}
+
+void Exported::addSurroundingsOf(int page)
+{
+    const PxPageAlignment alignment = product().pageAlignment(page);
+    QVector<QPair<PxPageType, PxSurroundingDescription>> found;
+    int kindsOfSide = 0;
+    for (int i = 0; i < m_shown.kinds.size(); ++i) {
+        const PxPageContext &kind = m_shown.kinds[i];
+        if (kind.alignment() != alignment)
+            continue;
+        ++kindsOfSide;
+        const auto surrounding = product().findSurrounding(PxSurroundingKey(kind, page));
+        if (surrounding != m_surroundingOfKind[i])
+            found.append({kind.pageType(), surrounding});
+    }
+    const bool isOfAll =
+        found.size() == kindsOfSide &&
+        std::all_of(found.begin(), found.end(), [&found](const auto &surroundingOfType) {
+            return surroundingOfType.second == found.constFirst().second;
+        });
+    if (isOfAll && !found.isEmpty())
+        found.resize(1);
+    for (const auto &[pageType, surrounding] : qAsConst(found))
+        addPlace(surrounding, {{"pageType", isOfAll ? QJsonValue() : keywordOf(pageType)},
+                               {"alignment", side(alignment)},
+                               {"page", page}});
+}
+
+/** Where a barcode is says the barcode itself: its page, counted from the front or the back. */
+void Exported::addBarcodes()
+{
+    QSet<QPair<bool, int>> known;
+    const auto add = [&](int pageCount) {
+        const int pages = m_runs.pageCount(pageCount);
+        for (int page = 0; page < pages; ++page) {
+            const PxBarcode barcode = product().barcodeOnPage(page, pages);
+            const auto place = qMakePair(barcode.reverseOrder(), barcode.pageNr());
+            if (barcode.isValid() && !known.contains(place)) {
+                known.insert(place);
+                m_shown.barcodes.append({barcode, barcode.pageNr()});
+            }
+        }
+    };
+    add(pageCounts().isEmpty() ? 1 : pageCounts().constLast());
+    if (pageCounts().size() > 1)
+        add(pageCounts().constFirst()); // there the same page may have another one
+}
+
+void Exported::changePages()
+{
+    QJsonObject pages = m_json["pages"].toObject();
+    pages.remove("pageCounts");
+    pages.insert("offered", PxNumberRanges::text(pageCounts()));
+    pages.insert("list", m_runs.toJson());
+    pages.insert("sides", QJsonObject{{"first", side(product().pageAlignment(0))},
+                                      {"second", side(product().pageAlignment(1))},
+                                      {"even", side(product().pageAlignment(2))},
+                                      {"odd", side(product().pageAlignment(3))}});
+    QList<int> withContent;
+    const int count = printedPages();
+    for (int page = 0; page < count; ++page) {
+        if (product().contentAllowedOnPage(page))
+            withContent.append(page);
+    }
+    pages.insert("pagesWithContent",
+                 withContent.size() == count ? "all" : PxNumberRanges::text(withContent));
+    m_json.insert("pages", pages);
+}
+
+void Exported::changeSurroundings()
+{
+    QJsonArray surroundings = m_json["surroundings"].toArray();
+    for (int i = 0; i < surroundings.size(); ++i) {
+        QJsonObject surrounding = surroundings[i].toObject();
+        surrounding.insert("places", m_places[i]);
+        surroundings[i] = surrounding;
+    }
+    m_json.insert("surroundings", surroundings);
+}
+
+/** The numbers up to the one from which they count on. */
+void Exported::changeProduction()
+{
+    const QList<int> numbers = product().productionNumberingList(printedPages());
+    int last = numbers.size() - 1;
+    while (last > 0 && qint64(numbers[last - 1]) + 1 == numbers[last])
+        --last;
+    QString text = PxNumberRanges::text(numbers.mid(0, qMax(0, last)));
+    if (last >= 0)
+        text += (text.isEmpty() ? "" : ", ") + QString::number(numbers[last]) + '-';
+    QJsonObject production = m_json["production"].toObject();
+    production.insert("numbering", text);
+    m_json.insert("production", production);
+}
+
+} // namespace
+
+QJsonObject PxExportedProduct::of(const PxProductTypeConfigRegistry *registry,
+                                  const PxProductType &type)
+{
+    return Exported(registry, type).json();
+}
