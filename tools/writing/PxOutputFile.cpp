@@ -1,7 +1,5 @@
 #include "writing/PxOutputFile.h"
 
-#include "writing/PxJsonLines.h"
-
 #include <QFile>
 #include <QSaveFile>
 
@@ -28,7 +26,10 @@ Parts onePart(const QByteArray &contents)
 
 Parts partsOf(const PxJsonLines &lines)
 {
-    return [&lines] { return lines.nextLine(); };
+    return [&lines] {
+        const std::optional<PxJsonLine> line = lines();
+        return line ? line->toUtf8() : QByteArray();
+    };
 }
 
 /** Returns 0, or the error number of the system. */

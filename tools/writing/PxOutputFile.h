@@ -1,13 +1,12 @@
 #pragma once
 
+#include "writing/PxJsonLines.h"
 #include "writing/PxProblem.h"
 
 #include <QByteArray>
 #include <QString>
 
 #include <optional>
-
-class PxJsonLines;
 
 /** Writes files. */
 class PxOutputFile

@@ -1,6 +1,5 @@
 #include "writing/PxTerminal.h"
 
-#include "writing/PxJsonLines.h"
 #include "writing/PxOutputFile.h"
 #include "writing/PxOutputText.h"
 #include "writing/PxVisibleText.h"

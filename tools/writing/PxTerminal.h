@@ -1,10 +1,11 @@
 #pragma once
 
+#include "writing/PxJsonLines.h"
+
 #include <QString>
 
 #include <limits>
 
-class PxJsonLines;
 class PxOutputText;
 class QJsonObject;
 

@@ -24,6 +24,30 @@ constexpr struct
     {0xE0000, 0xE0FFF}, // tags and variation selectors
 };
 
+bool isVisible(uint character)
+{
+    if (character < 0x7F)
+        return character >= 0x20;
+    const bool isListed =
+        std::any_of(std::begin(invisible), std::end(invisible), [character](const auto &range) {
+            return range.first <= character && character <= range.last;
+        });
+    if (isListed)
+        return false;
+    switch (QChar::category(character)) {
+    case QChar::Other_Control:
+    case QChar::Other_Format:
+    case QChar::Other_Surrogate:
+    case QChar::Other_PrivateUse:
+    case QChar::Other_NotAssigned:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return false;
+    default:
+        return true;
+    }
+}
+
 QString escape(uint unit, int digits)
 {
     return QString::number(unit, 16).toUpper().rightJustified(digits, '0');
@@ -60,7 +84,7 @@ QString escaped(const QString &text, bool hasLines, QString (*escapeOf)(uint))
         const uint character =
             isPair ? QChar::surrogateToUcs4(unit, text[i + 1]) : uint(unit.unicode());
         const int next = i + (isPair ? 2 : 1);
-        if (!PxVisibleText::isVisible(character) && !(hasLines && unit == '\n')) {
+        if (!isVisible(character) && !(hasLines && unit == '\n')) {
             visible += text.midRef(copied, i - copied);
             visible += isHalf ? QString(QChar::ReplacementCharacter) : escapeOf(character);
             copied = next;
@@ -72,33 +96,14 @@ QString escaped(const QString &text, bool hasLines, QString (*escapeOf)(uint))
 
 } // namespace
 
-bool PxVisibleText::isVisible(uint character)
-{
-    if (character < 0x7F)
-        return character >= 0x20;
-    const bool isListed =
-        std::any_of(std::begin(invisible), std::end(invisible), [character](const auto &range) {
-            return range.first <= character && character <= range.last;
-        });
-    if (isListed)
-        return false;
-    switch (QChar::category(character)) {
-    case QChar::Other_Control:
-    case QChar::Other_Format:
-    case QChar::Other_Surrogate:
-    case QChar::Other_PrivateUse:
-    case QChar::Other_NotAssigned:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-        return false;
-    default:
-        return true;
-    }
-}
-
 QString PxVisibleText::line(const QString &text)
 {
     return escaped(text, false, escapedInText);
+}
+
+QString PxVisibleText::inJson(const QString &text)
+{
+    return escaped(text, false, escapedInJson);
 }
 
 QString PxVisibleText::json(const QByteArray &json)

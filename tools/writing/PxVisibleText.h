@@ -11,13 +11,13 @@
 class PxVisibleText
 {
 public:
-    /** Whether a character is shown as it is. */
-    static bool isVisible(uint character);
     /**
      * Returns a single line. Escapes look like \u202E, or \U000E0041 for characters beyond 16 bits.
      * Escaping a line again does not change it.
      */
     static QString line(const QString &text);
+    /** The same with the escapes of JSON, for a text without quotes and backslashes. */
+    static QString inJson(const QString &text);
     /** The same for JSON from QJsonDocument, with the escapes of JSON; line breaks are kept. */
     static QString json(const QByteArray &json);
     /** The same for XML in UTF-8, with the references of XML. */

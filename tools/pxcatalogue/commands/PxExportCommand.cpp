@@ -3,7 +3,6 @@
 #include "commands/PxCatalogueDirectories.h"
 #include "commands/PxCommandLine.h"
 #include "report/PxCatalogueExport.h"
-#include "writing/PxJsonLines.h"
 #include "writing/PxOutputFile.h"
 #include "writing/PxTerminal.h"
 
@@ -44,7 +43,7 @@ PxExitStatus PxExportCommand::run(const PxCommandLine &line) const
     becomeIndependentOfUser(line);
     PxProductPropertiesInitializer::setupModule();
     PxCatalogueExport catalogue;
-    const PxJsonLines lines([&catalogue] { return catalogue.next(); });
+    const PxJsonLines lines = [&catalogue] { return catalogue.next(); };
     if (!line.isSet("output"))
         return printed(lines);
     const QString path = line.value("output");

@@ -20,18 +20,13 @@ PxProductTypeList sortedByName(PxProductTypeList types)
     return types;
 }
 
-QJsonObject ofType(const char *type, QJsonObject object)
+void addProductType(const PxProductType &type, PxJsonLine *line)
 {
-    object.insert("type", type);
-    return object;
-}
-
-QJsonObject productType(const PxProductType &type)
-{
-    return {{"name", type.productName()},
-            {"shortName", type.shortProductName()},
-            {"code", int(type.type())},
-            {"class", PxCatalogueProducts::className(type)}};
+    line->add("type", "productType");
+    line->add("name", type.productName());
+    line->add("shortName", type.shortProductName());
+    line->add("code", int(type.type()));
+    line->add("class", PxCatalogueProducts::className(type));
 }
 
 } // namespace
@@ -44,41 +39,49 @@ PxCatalogueExport::PxCatalogueExport()
     , m_themes(PxThemeTable::sorted(PxThemeFactory::instance()->themeList()))
 {}
 
-std::optional<QJsonObject> PxCatalogueExport::next()
+std::optional<PxJsonLine> PxCatalogueExport::next()
 {
     const int index = m_next++;
-    if (index == -1)
-        return header();
     const int count =
         m_types.size() + m_products.size() + m_legacyProducts.size() + m_themes.size();
-    return index < count ? std::optional(object(index)) : std::nullopt;
+    if (index == count)
+        return std::nullopt;
+    PxJsonLine line;
+    if (index < 0)
+        addHeader(&line);
+    else
+        addObject(index, &line);
+    return line;
 }
 
-QJsonObject PxCatalogueExport::header() const
+void PxCatalogueExport::addHeader(PxJsonLine *line) const
 {
-    return ofType("catalogue", {{"format", PxReport::formatVersion},
-                                {"lengthUnit", PxReport::lengthUnit},
-                                {"productTypes", m_types.size()},
-                                {"products", m_products.size()},
-                                {"legacyProducts", m_legacyProducts.size()},
-                                {"themes", m_themes.size()}});
+    line->add("type", "catalogue");
+    line->add("format", PxReport::formatVersion);
+    line->add("lengthUnit", PxReport::lengthUnit);
+    line->add("productTypes", m_types.size());
+    line->add("products", m_products.size());
+    line->add("legacyProducts", m_legacyProducts.size());
+    line->add("themes", m_themes.size());
 }
 
-QJsonObject PxCatalogueExport::object(int index) const
+void PxCatalogueExport::addObject(int index, PxJsonLine *line) const
 {
-    if (index < m_types.size())
-        return ofType("productType", productType(m_types[index]));
-    index -= m_types.size();
-    if (index < m_products.size())
-        return ofType("product", PxExportedProduct::of(PxProductTypeConfigRegistry::instance(),
-                                                       m_products[index]));
-    index -= m_products.size();
-    if (index < m_legacyProducts.size())
-        return ofType("legacyProduct",
-                      PxExportedProduct::of(PxProductTypeConfigRegistry::legacyInstance(),
-                                            m_legacyProducts[index]));
-    index -= m_legacyProducts.size();
-    QJsonObject theme = PxThemeTable::object(m_themes[index]);
-    theme.remove("isExpired"); // tomorrow it may be
-    return ofType("theme", theme);
+    const int product = index - m_types.size();
+    const int legacyProduct = product - m_products.size();
+    const int theme = legacyProduct - m_legacyProducts.size();
+    if (theme >= 0) {
+        line->add("type", "theme");
+        PxThemeTable::addTo(line, m_themes[theme]);
+    } else if (legacyProduct >= 0) {
+        line->add("type", "legacyProduct");
+        PxExportedProduct::addTo(line, PxProductTypeConfigRegistry::legacyInstance(),
+                                 m_legacyProducts[legacyProduct]);
+    } else if (product >= 0) {
+        line->add("type", "product");
+        PxExportedProduct::addTo(line, PxProductTypeConfigRegistry::instance(),
+                                 m_products[product]);
+    } else {
+        addProductType(m_types[index], line);
+    }
 }

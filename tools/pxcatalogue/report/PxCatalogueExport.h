@@ -1,9 +1,9 @@
 #pragma once
 
+#include "writing/PxJsonLine.h"
+
 #include <PxProductTypeList.h>
 #include <themes/PxThemeList.h>
-
-#include <QJsonObject>
 
 #include <optional>
 
@@ -18,12 +18,12 @@ class PxCatalogueExport
 public:
     PxCatalogueExport();
 
-    /** Nothing after the last object. */
-    std::optional<QJsonObject> next();
+    /** The next object; nothing after the last one. */
+    std::optional<PxJsonLine> next();
 
 private:
-    QJsonObject header() const;
-    QJsonObject object(int index) const;
+    void addHeader(PxJsonLine *line) const;
+    void addObject(int index, PxJsonLine *line) const;
 
     PxProductTypeList m_types;
     PxProductTypeList m_products;

@@ -6,8 +6,10 @@
 #include "report/PxPageRuns.h"
 #include "report/PxProductReport.h"
 #include "report/PxShownProduct.h"
+#include "writing/PxJsonLine.h"
 
 #include <QJsonArray>
+#include <QJsonObject>
 #include <QSet>
 
 #include <algorithm>
@@ -38,14 +40,18 @@ public:
         m_shown.pageCount = pageCounts().value(0, 1);
         addSurroundings();
         addBarcodes();
-        m_json = PxProductReport::of(m_shown).jsonForAnyPageCount();
+        m_report = PxProductReport::of(m_shown);
         changePages();
         changeSurroundings();
-        changeProduction();
-        m_json.insert("byPageCount", PxPageCountTable(m_shown).moveFrom(&m_json));
+        m_report.addField("production", {"numbering", "", numbering()});
     }
 
-    QJsonObject json() const { return m_json; }
+    void addTo(PxJsonLine *line)
+    {
+        const PxPageCountTable table(m_shown, &m_report);
+        m_report.addTo(line);
+        table.addTo(line);
+    }
 
 private:
     const PxProductTypeDescription &product() const { return *m_shown.product; }
@@ -63,13 +69,14 @@ private:
     void addBarcodes();
     void changePages();
     void changeSurroundings();
-    void changeProduction();
+    QString numbering() const;
+    QString pagesWithContent() const;
 
     PxShownProduct m_shown;
     PxPageRuns m_runs;
     QVector<PxSurroundingDescription> m_surroundingOfKind;
     QVector<QJsonArray> m_places; // of the surroundings
-    QJsonObject m_json;
+    PxReport m_report;
 };
 
 /** A longer product has all kinds of a shorter one, unless it begins on the other side. */
@@ -158,55 +165,52 @@ void Exported::addBarcodes()
 
 void Exported::changePages()
 {
-    QJsonObject pages = m_json["pages"].toObject();
-    pages.remove("pageCounts");
-    pages.insert("offered", PxNumberRanges::text(pageCounts()));
-    pages.insert("list", m_runs.toJson());
-    pages.insert("sides", QJsonObject{{"first", side(product().pageAlignment(0))},
-                                      {"second", side(product().pageAlignment(1))},
-                                      {"even", side(product().pageAlignment(2))},
-                                      {"odd", side(product().pageAlignment(3))}});
-    QList<int> withContent;
+    const QJsonObject sides{{"first", side(product().pageAlignment(0))},
+                            {"second", side(product().pageAlignment(1))},
+                            {"even", side(product().pageAlignment(2))},
+                            {"odd", side(product().pageAlignment(3))}};
+    m_report.addField("pages", {"offered", "", PxNumberRanges::text(pageCounts())});
+    m_report.addField("pages", {"list", "", m_runs.toJson()});
+    m_report.addField("pages", {"sides", "", sides});
+    m_report.addField("pages", {"pagesWithContent", "", pagesWithContent()});
+}
+
+QString Exported::pagesWithContent() const
+{
+    QList<int> pages;
     const int count = printedPages();
     for (int page = 0; page < count; ++page) {
         if (product().contentAllowedOnPage(page))
-            withContent.append(page);
+            pages.append(page);
     }
-    pages.insert("pagesWithContent",
-                 withContent.size() == count ? "all" : PxNumberRanges::text(withContent));
-    m_json.insert("pages", pages);
+    return pages.size() == count ? "all" : PxNumberRanges::text(pages);
 }
 
 void Exported::changeSurroundings()
 {
-    QJsonArray surroundings = m_json["surroundings"].toArray();
-    for (int i = 0; i < surroundings.size(); ++i) {
-        QJsonObject surrounding = surroundings[i].toObject();
-        surrounding.insert("places", m_places[i]);
-        surroundings[i] = surrounding;
-    }
-    m_json.insert("surroundings", surroundings);
+    QVector<QJsonValue> places;
+    for (const QJsonArray &placesOfOne : qAsConst(m_places))
+        places.append(placesOfOne);
+    m_report.addColumn("surroundings", {"places", ""}, places);
 }
 
-/** The numbers up to the one from which they count on. */
-void Exported::changeProduction()
+/** The numbers of production up to the one from which they count on. */
+QString Exported::numbering() const
 {
     const QList<int> numbers = product().productionNumberingList(printedPages());
     int last = numbers.size() - 1;
     while (last > 0 && qint64(numbers[last - 1]) + 1 == numbers[last])
         --last;
-    QString text = PxNumberRanges::text(numbers.mid(0, qMax(0, last)));
-    if (last >= 0)
-        text += (text.isEmpty() ? "" : ", ") + QString::number(numbers[last]) + '-';
-    QJsonObject production = m_json["production"].toObject();
-    production.insert("numbering", text);
-    m_json.insert("production", production);
+    QString text = PxNumberRanges::text(numbers.mid(0, last));
+    if (!text.isEmpty())
+        text += ", ";
+    return text + QString::number(numbers[last]) + '-';
 }
 
 } // namespace
 
-QJsonObject PxExportedProduct::of(const PxProductTypeConfigRegistry *registry,
-                                  const PxProductType &type)
+void PxExportedProduct::addTo(PxJsonLine *line, const PxProductTypeConfigRegistry *registry,
+                              const PxProductType &type)
 {
-    return Exported(registry, type).json();
+    Exported(registry, type).addTo(line);
 }

@@ -2,16 +2,14 @@
 
 #include <PxProductType.h>
 
-#include <QJsonObject>
-
+class PxJsonLine;
 class PxProductTypeConfigRegistry;
 
 /**
  * Everything that the library knows about one product with any of its page counts.
  *
- * The members are those of the report of one page count. A value that changes with the page count
- * is a table instead: an array with an object for each run of page counts that have the same value.
- * Whatever numbers single pages is described without a page count.
+ * The members are those of the report of one page count. Values that change with the page count
+ * are a table. Where pages have numbers, these are described for all page counts at once.
  */
 class PxExportedProduct
 {
@@ -19,5 +17,6 @@ public:
     /** The largest page of which surroundings and redirects are exported. */
     static constexpr int maximumPages = 10000;
 
-    static QJsonObject of(const PxProductTypeConfigRegistry *registry, const PxProductType &type);
+    static void addTo(PxJsonLine *line, const PxProductTypeConfigRegistry *registry,
+                      const PxProductType &type);
 };

@@ -1,13 +1,23 @@
 #include "report/PxPageCountTable.h"
 
 #include "report/PxNumberRanges.h"
-#include "report/PxReportValue.h"
+#include "report/PxReport.h"
+#include "writing/PxJsonLine.h"
+
+#include <QJsonObject>
 
 #include <algorithm>
 #include <limits>
 #include <tuple>
 
 namespace {
+
+using Sides = std::tuple<int, int, int, int>;
+
+Sides sidesOf(const PxMargins &margins)
+{
+    return {margins.top(), margins.bottom(), margins.left(), margins.right()};
+}
 
 QJsonValue jsonOf(int number)
 {
@@ -19,23 +29,28 @@ QJsonValue jsonOf(const QSize &size)
     return PxReportValue::size(size);
 }
 
-QJsonValue jsonOf(const std::tuple<int, int, int, int> &margins)
+QJsonValue jsonOf(const Sides &sides)
 {
-    return PxReportValue::margins(std::make_from_tuple<PxMargins>(margins));
-}
-
-std::tuple<int, int, int, int> sidesOf(const PxMargins &margins)
-{
-    return {margins.top(), margins.bottom(), margins.left(), margins.right()};
+    return PxReportValue::margins(std::make_from_tuple<PxMargins>(sides));
 }
 
 } // namespace
 
-PxPageCountTable::PxPageCountTable(const PxShownProduct &product)
+PxPageCountTable::PxPageCountTable(const PxShownProduct &product, PxReport *report)
     : m_shown(product)
     , m_replaced(*product.product)
 {
-    // All that changes follows from the spines, and a single page has no inner edge.
+    findRows();
+    if (m_rows.size() < 2)
+        return;
+    moveSpine(report);
+    movePageKinds(report);
+    moveLegacy(report);
+}
+
+/** All that changes follows from the spines, and a product of a single page has no inner edge. */
+void PxPageCountTable::findRows()
+{
     const auto answers = [this](int pageCount) {
         return std::make_tuple(m_shown.product->spineWidth(pageCount),
                                m_shown.product->spineMaxFontHeight(pageCount),
@@ -54,91 +69,105 @@ PxPageCountTable::PxPageCountTable(const PxShownProduct &product)
     }
 }
 
-QJsonValue PxPageCountTable::moveFrom(QJsonObject *product)
+/** The answer for each row. */
+template <typename Ask>
+auto PxPageCountTable::answers(Ask ask) const
 {
-    if (m_rows.size() < 2)
-        return QJsonValue();
-    QJsonObject spine = product->value(QLatin1String("spine")).toObject();
-    QJsonArray kinds = product->value(QLatin1String("pageKinds")).toArray();
-    QJsonObject legacy = product->value(QLatin1String("legacy")).toObject();
-    moveFromSpine(&spine);
-    moveFromPageKinds(&kinds);
-    moveFromLegacy(&legacy);
-    if (m_columns.isEmpty())
-        return QJsonValue();
-    product->insert("spine", spine);
-    product->insert("pageKinds", kinds);
-    product->insert("legacy", legacy);
-    return QJsonObject{{"pageCounts", m_pageCounts}, {"values", m_columns}};
+    QVector<decltype(ask(0))> answers;
+    answers.reserve(m_rows.size());
+    for (const int pageCount : m_rows)
+        answers.append(ask(pageCount));
+    return answers;
 }
 
-void PxPageCountTable::moveFromSpine(QJsonObject *spine)
+/** What remains of a value: itself if it is the same in all rows, else null. */
+template <typename Answer>
+QJsonValue PxPageCountTable::moved(const QByteArray &pointer, const QVector<Answer> &answers)
 {
-    move("/spine/width", spine, "width",
-         [this](int pageCount) { return m_shown.product->spineWidth(pageCount); });
-    move("/spine/maxFontHeight", spine, "maxFontHeight",
-         [this](int pageCount) { return m_shown.product->spineMaxFontHeight(pageCount); });
+    if (answers.count(answers.constFirst()) == answers.size())
+        return jsonOf(answers.constFirst());
+    QVector<QJsonValue> values;
+    values.reserve(answers.size());
+    for (const Answer &answer : answers)
+        values.append(jsonOf(answer));
+    m_columns.append({pointer, values});
+    return QJsonValue();
 }
 
-void PxPageCountTable::moveFromPageKinds(QJsonArray *kinds)
+/** Mostly only the width changes. A size that some rows do not have is moved as a whole. */
+QJsonValue PxPageCountTable::movedSize(const QByteArray &pointer, const QVector<QSize> &sizes)
 {
-    for (int i = 0; i < kinds->size(); ++i) {
+    const bool areValid =
+        std::all_of(sizes.begin(), sizes.end(), [](const QSize &size) { return size.isValid(); });
+    if (!areValid)
+        return moved(pointer, sizes);
+    QVector<int> widths;
+    QVector<int> heights;
+    for (const QSize &size : sizes) {
+        widths.append(size.width());
+        heights.append(size.height());
+    }
+    return QJsonObject{{"width", moved(pointer + "/width", widths)},
+                       {"height", moved(pointer + "/height", heights)}};
+}
+
+void PxPageCountTable::moveSpine(PxReport *report)
+{
+    const auto widths =
+        answers([this](int pageCount) { return m_shown.product->spineWidth(pageCount); });
+    const auto heights =
+        answers([this](int pageCount) { return m_shown.product->spineMaxFontHeight(pageCount); });
+    report->setValue("spine", "width", moved("/spine/width", widths));
+    report->setValue("spine", "maxFontHeight", moved("/spine/maxFontHeight", heights));
+}
+
+void PxPageCountTable::movePageKinds(PxReport *report)
+{
+    for (int i = 0; i < m_shown.kinds.size(); ++i) {
         const PxPageContext &kind = m_shown.kinds[i];
         if (m_rows.constFirst() > 1 && !kind.pageType().matches(PxPageTypeSpine))
             continue;
-        const auto size = [&](int pageCount) {
-            return m_shown.product->sizeSpec(PxPageSizeKey(kind, pageCount));
+        const auto ask = [&](auto part) {
+            return answers([&](int pageCount) {
+                return part(m_shown.product->sizeSpec(PxPageSizeKey(kind, pageCount)));
+            });
         };
-        const QString pointer = QString("/pageKinds/%1/").arg(i);
-        QJsonObject object = kinds->at(i).toObject();
-        moveSize(pointer + "usableSize", &object, "usableSize",
-                 [&](int pageCount) { return size(pageCount).usableSize(); });
-        move(pointer + "bleed", &object, "bleed",
-             [&](int pageCount) { return sidesOf(size(pageCount).bleedMargins()); });
-        moveSize(pointer + "totalSize", &object, "totalSize",
-                 [&](int pageCount) { return size(pageCount).totalSize(); });
-        kinds->replace(i, object);
+        const auto usable = ask([](const PxPageSizeSpec &size) { return size.usableSize(); });
+        const auto bleed =
+            ask([](const PxPageSizeSpec &size) { return sidesOf(size.bleedMargins()); });
+        const auto total = ask([](const PxPageSizeSpec &size) { return size.totalSize(); });
+        const QByteArray pointer = "/pageKinds/" + QByteArray::number(i);
+        report->setValue("pageKinds", "usableSize", movedSize(pointer + "/usableSize", usable), i);
+        report->setValue("pageKinds", "bleed", moved(pointer + "/bleed", bleed), i);
+        report->setValue("pageKinds", "totalSize", movedSize(pointer + "/totalSize", total), i);
     }
 }
 
-void PxPageCountTable::moveFromLegacy(QJsonObject *legacy)
+void PxPageCountTable::moveLegacy(PxReport *report)
 {
-    moveSize("/legacy/replacedSpine", legacy, "replacedSpine",
-             [this](int pageCount) { return m_replaced.spine(pageCount); });
-    moveSize("/legacy/replacedCover", legacy, "replacedCover",
-             [this](int pageCount) { return m_replaced.cover(pageCount); });
+    const auto spines = answers([this](int pageCount) { return m_replaced.spine(pageCount); });
+    const auto covers = answers([this](int pageCount) { return m_replaced.cover(pageCount); });
+    report->setValue("legacy", "replacedSpine", movedSize("/legacy/replacedSpine", spines));
+    report->setValue("legacy", "replacedCover", movedSize("/legacy/replacedCover", covers));
 }
 
-/** Mostly only the width changes. A size that is missing in a row is moved as a whole. */
-template <typename Ask>
-void PxPageCountTable::moveSize(const QString &pointer, QJsonObject *object, const char *key,
-                                Ask ask)
+void PxPageCountTable::addTo(PxJsonLine *line) const
 {
-    const bool areValid = std::all_of(m_rows.begin(), m_rows.end(),
-                                      [&](int pageCount) { return ask(pageCount).isValid(); });
-    if (!areValid) {
-        move(pointer, object, key, ask);
+    if (m_columns.isEmpty()) {
+        line->add("byPageCount", QJsonValue());
         return;
     }
-    QJsonObject size = object->value(QLatin1String(key)).toObject();
-    move(pointer + "/width", &size, "width", [&](int pageCount) { return ask(pageCount).width(); });
-    move(pointer + "/height", &size, "height",
-         [&](int pageCount) { return ask(pageCount).height(); });
-    object->insert(QLatin1String(key), size);
-}
-
-/** Moves a value of the object, unless it is the same in all rows. */
-template <typename Ask>
-void PxPageCountTable::move(const QString &pointer, QJsonObject *object, const char *key, Ask ask)
-{
-    const auto first = ask(m_rows.constFirst());
-    const bool isChanging = std::any_of(m_rows.begin(), m_rows.end(),
-                                        [&](int pageCount) { return ask(pageCount) != first; });
-    if (!isChanging)
-        return;
-    QJsonArray values;
-    for (const int pageCount : qAsConst(m_rows))
-        values.append(jsonOf(ask(pageCount)));
-    m_columns.insert(pointer, values);
-    object->remove(QLatin1String(key));
+    const auto addArray = [line](const char *key, const auto &values) {
+        line->beginArray(key);
+        for (const auto &value : values)
+            line->add(value);
+        line->endArray();
+    };
+    line->beginObject("byPageCount");
+    addArray("pageCounts", m_pageCounts);
+    line->beginObject("values");
+    for (const Column &column : m_columns)
+        addArray(column.pointer.constData(), column.values);
+    line->endObject();
+    line->endObject();
 }

@@ -3,10 +3,14 @@
 #include "report/PxReplacedProduct.h"
 #include "report/PxShownProduct.h"
 
-#include <QJsonArray>
-#include <QJsonObject>
+#include <QByteArray>
+#include <QJsonValue>
+#include <QSize>
 #include <QString>
 #include <QVector>
+
+class PxJsonLine;
+class PxReport;
 
 /**
  * The values of a product that change with the page count: a table with a row for each run of page
@@ -15,23 +19,32 @@
 class PxPageCountTable
 {
 public:
-    explicit PxPageCountTable(const PxShownProduct &product);
+    /** Moves the values out of the report, where null takes their place. */
+    PxPageCountTable(const PxShownProduct &product, PxReport *report);
 
-    /** Moves the values that change out of the product into the table; null if none changes. */
-    QJsonValue moveFrom(QJsonObject *product);
+    /** Adds the table as "byPageCount"; null if no value changes. */
+    void addTo(PxJsonLine *line) const;
 
 private:
-    void moveFromSpine(QJsonObject *spine);
-    void moveFromPageKinds(QJsonArray *kinds);
-    void moveFromLegacy(QJsonObject *legacy);
+    struct Column
+    {
+        QByteArray pointer;
+        QVector<QJsonValue> values;
+    };
+
+    void findRows();
+    void moveSpine(PxReport *report);
+    void movePageKinds(PxReport *report);
+    void moveLegacy(PxReport *report);
     template <typename Ask>
-    void moveSize(const QString &pointer, QJsonObject *object, const char *key, Ask ask);
-    template <typename Ask>
-    void move(const QString &pointer, QJsonObject *object, const char *key, Ask ask);
+    auto answers(Ask ask) const;
+    template <typename Answer>
+    QJsonValue moved(const QByteArray &pointer, const QVector<Answer> &answers);
+    QJsonValue movedSize(const QByteArray &pointer, const QVector<QSize> &sizes);
 
     const PxShownProduct &m_shown;
     PxReplacedProduct m_replaced;
     QVector<int> m_rows; // the first page count of each row
-    QJsonArray m_pageCounts;
-    QJsonObject m_columns;
+    QVector<QString> m_pageCounts;
+    QVector<Column> m_columns;
 };

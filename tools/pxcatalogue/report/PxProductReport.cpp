@@ -23,7 +23,7 @@ namespace {
 
 using Format = PxReportFormat;
 using Shown = PxShownProduct;
-constexpr auto ForThisPageCount = PxReport::ForThisPageCount;
+constexpr auto ShownOnly = PxReport::ShownOnly;
 
 constexpr int iconWidth = 300;
 
@@ -116,6 +116,7 @@ Shown shownProduct(const PxProductTypeConfigRegistry *registry, const PxProductT
     if (pageCount > 0 && !shown.product->isPageCountOffered(shown.pageCount))
         qWarning("%s", qUtf8Printable(PxPageCounts::notOffered(type, shown.offeredPageCounts,
                                                                shown.pageCount)));
+    shown.file = PxProductFile::pathOf(type, shown.isLegacy());
     addPagesTo(&shown);
     addSurroundingsTo(&shown);
     addBarcodesTo(&shown);
@@ -139,15 +140,14 @@ QJsonValue pagesWithContent(const Shown &shown, const Product &product)
 
 void addProduct(const Shown &shown, PxReport *report)
 {
-    const bool isLegacy = shown.registry != PxProductTypeConfigRegistry::instance();
     report->addFields("product", "Product", {
         {"name", "Name", shown.type.productName()},
         {"shortName", "Short name", shown.type.shortProductName()},
         {"code", "Code", int(shown.type.type())},
         {"class", "Class", PxCatalogueProducts::className(shown.type)},
         {"isOffered", "Offered", PxCatalogueProducts::isOffered(shown.registry, shown.type)},
-        {"isLegacy", "Of earlier catalogue", isLegacy},
-        {"file", "File", PxProductFile::pathOf(shown.type, isLegacy)},
+        {"isLegacy", "Of earlier catalogue", shown.isLegacy()},
+        {"file", "File", shown.file, Format::Plain, ShownOnly},
         {"binding", "Binding", PxReportValue::name(shown.product->binding()), Format::Name},
         {"paper", "Paper", PxReportValue::name(shown.product->paperType()), Format::Name},
         {"orientation", "Orientation", keywordOf(shown.product->orientation())},
@@ -165,13 +165,13 @@ void addPages(const Shown &shown, PxReport *report)
     const int sellingPages = shown.product->defaultSellingPages();
     const QList<int> nearest = PxPageCounts::nearest(shown.offeredPageCounts, shown.pageCount);
     report->addFields("pages", "Pages", {
-        {"pageCounts", "Page counts", PxReportValue::pageCounts(shown.offeredPageCounts, shown.product->pageIncrement()), Format::PageCounts},
+        {"pageCounts", "Page counts", PxReportValue::pageCounts(shown.offeredPageCounts, shown.product->pageIncrement()), Format::PageCounts, ShownOnly},
         {"defaultSellingPages", "Sold with", sellingPages == -1 ? QJsonValue() : sellingPages},
         {"explicitNumberOfNormalPages", "Normal pages", shown.product->explicitNumberOfNormalPages()},
-        {"pageCount", "Shown with", shown.pageCount, Format::Plain, ForThisPageCount},
-        {"isPageCountOffered", "Offered with these", shown.product->isPageCountOffered(shown.pageCount), Format::Plain, ForThisPageCount},
-        {"nearestPageCounts", "Nearest offered", PxReportValue::numbers(nearest), Format::Plain, ForThisPageCount},
-        {"printedPages", "With covers and spine", shown.pages.size(), Format::Plain, ForThisPageCount},
+        {"pageCount", "Shown with", shown.pageCount, Format::Plain, ShownOnly},
+        {"isPageCountOffered", "Offered with these", shown.product->isPageCountOffered(shown.pageCount), Format::Plain, ShownOnly},
+        {"nearestPageCounts", "Nearest offered", PxReportValue::numbers(nearest), Format::Plain, ShownOnly},
+        {"printedPages", "With covers and spine", shown.pages.size(), Format::Plain, ShownOnly},
         {"listEntries", "Entries of page list", shown.product->countAbstractPages()},
         {"hasCover", "Cover", shown.product->hasCover()},
         {"isSimplex", "Printed on one side", shown.product->isSimplex()},
@@ -179,7 +179,7 @@ void addPages(const Shown &shown, PxReport *report)
         {"hasCardStyleAlignment", "Card style", shown.product->hasCardStyleAlignment()},
         {"namingStyle", "Page names", keywordArray(shown.product->pageNamingStyle(), EnumHelper::globalMapPageNamingStyleString)},
         {"editorStartDoublePage", "Editor starts at", shown.product->editorStartDoublePage()},
-        {"pagesWithContent", "Pages with content", pagesWithContent(shown, *shown.product), Format::PageNumbers, ForThisPageCount},
+        {"pagesWithContent", "Pages with content", pagesWithContent(shown, *shown.product), Format::PageNumbers, ShownOnly},
     });
 }
 
@@ -215,7 +215,7 @@ void addPageKinds(const Shown &shown, PxReport *report)
     report->addTable("pageKinds", "Size of each kind of page (bleed: top/bottom/left/right)", {
         {"pageType", "Page", Format::Key},
         {"alignment", "Side", Format::Key},
-        {"pages", "Numbers", Format::PageNumbers, ForThisPageCount},
+        {"pages", "Numbers", Format::PageNumbers, ShownOnly},
         {"usableSize", "Usable", Format::Size},
         {"bleed", "Bleed", Format::Margins},
         {"totalSize", "Total", Format::Size},
@@ -244,7 +244,7 @@ void addSurroundings(const Shown &shown, PxReport *report)
                      PxReportValue::rect(surrounding.imageRect()), surrounding.paintOnTop(),
                      surrounding.hasBindingShade(), surrounding.image()});
     report->addTable("surroundings", "Surroundings", {
-        {"pages", "Numbers", Format::PageNumbers, ForThisPageCount},
+        {"pages", "Numbers", Format::PageNumbers, ShownOnly},
         {"type", "Type", Format::Key},
         {"rect", "Place", Format::Rect},
         {"paintOnTop", "On top", Format::Key},
@@ -291,7 +291,7 @@ void addTemplates(const Shown &shown, PxReport *report)
     report->addTable("templates", heading.toUtf8(), {
         {"pageType", "Page", Format::Key},
         {"alignment", "Side", Format::Key},
-        {"pages", "Numbers", Format::PageNumbers, ForThisPageCount},
+        {"pages", "Numbers", Format::PageNumbers, ShownOnly},
         {"layout", "Layout"},
         {"background", "Background"},
     }, rows);
@@ -396,7 +396,7 @@ void addProduction(const Shown &shown, PxReport *report)
 {
     const QList<int> numbering = shown.product->productionNumberingList(shown.pages.size());
     report->addFields("production", "Production", {
-        {"numbering", "Numbers of the pages", PxReportValue::numbers(numbering), Format::PageNumbers, ForThisPageCount},
+        {"numbering", "Numbers of the pages", PxReportValue::numbers(numbering), Format::PageNumbers, ShownOnly},
         {"pageNumberHorizontalIndent", "Page number from side", shown.product->pageNumberHorizontalIndent(), Format::Length},
         {"pageNumberVerticalIndent", "Above or below", shown.product->pageNumberVerticalIndent(), Format::Length},
         {"pageNumberFontSize", "Page number type size", shown.product->pageNumberFontSize()},

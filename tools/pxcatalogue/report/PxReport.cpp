@@ -1,8 +1,11 @@
 #include "report/PxReport.h"
 
+#include "writing/PxJsonLine.h"
 #include "writing/PxTerminal.h"
 
 #include <QStringList>
+
+#include <algorithm>
 
 namespace {
 
@@ -22,6 +25,15 @@ PxTextTable::Kind kindOf(PxReportFormat format)
     }
 }
 
+template <typename Part>
+int indexOf(const QVector<Part> &parts, const char *key)
+{
+    const auto found = std::find_if(parts.begin(), parts.end(), [key](const Part &part) {
+        return qstrcmp(part.key, key) == 0;
+    });
+    return int(found - parts.begin());
+}
+
 } // namespace
 
 void PxReport::addFields(const char *key, const char *heading, const QVector<Field> &fields)
@@ -35,46 +47,81 @@ void PxReport::addTable(const char *key, const char *heading, const QVector<Colu
     m_sections.append({key, heading, {}, columns, rows});
 }
 
+void PxReport::addField(const char *section, const Field &field)
+{
+    this->section(section).fields.append(field);
+}
+
+void PxReport::addColumn(const char *section, const Column &column,
+                         const QVector<QJsonValue> &values)
+{
+    Section &table = this->section(section);
+    table.columns.append(column);
+    for (int row = 0; row < table.rows.size(); ++row)
+        table.rows[row].append(values[row]);
+}
+
+void PxReport::setValue(const char *section, const char *key, const QJsonValue &value, int row)
+{
+    Section &found = this->section(section);
+    if (found.columns.isEmpty())
+        found.fields[indexOf(found.fields, key)].value = value;
+    else
+        found.rows[row].replace(indexOf(found.columns, key), value);
+}
+
+PxReport::Section &PxReport::section(const char *key)
+{
+    return m_sections[indexOf(m_sections, key)];
+}
+
 QJsonObject PxReport::json() const
 {
-    QJsonObject json = sections(ForThisPageCount);
-    json.insert("format", formatVersion);
-    json.insert("lengthUnit", lengthUnit);
-    return json;
-}
-
-QJsonObject PxReport::sections(Validity most) const
-{
-    QJsonObject json;
+    QJsonObject json{{"format", formatVersion}, {"lengthUnit", lengthUnit}};
     for (const Section &section : m_sections)
-        json.insert(QLatin1String(section.key), section.columns.isEmpty()
-                                                    ? QJsonValue(object(section, most))
-                                                    : QJsonValue(array(section, most)));
+        json.insert(section.key, jsonOf(section));
     return json;
 }
 
-QJsonObject PxReport::object(const Section &section, Validity most)
+QJsonValue PxReport::jsonOf(const Section &section)
 {
     QJsonObject object;
-    for (const Field &field : section.fields) {
-        if (field.validity <= most)
-            object.insert(QLatin1String(field.key), field.value);
-    }
-    return object;
-}
-
-QJsonArray PxReport::array(const Section &section, Validity most)
-{
+    for (const Field &field : section.fields)
+        object.insert(field.key, field.value);
+    if (section.columns.isEmpty())
+        return object;
     QJsonArray array;
     for (const QJsonArray &row : section.rows) {
-        QJsonObject object;
-        for (int i = 0; i < section.columns.size(); ++i) {
-            if (section.columns[i].validity <= most)
-                object.insert(QLatin1String(section.columns[i].key), row[i]);
-        }
+        for (int i = 0; i < section.columns.size(); ++i)
+            object.insert(section.columns[i].key, row[i]);
         array.append(object);
     }
     return array;
+}
+
+void PxReport::addTo(PxJsonLine *line) const
+{
+    for (const Section &section : m_sections) {
+        if (section.columns.isEmpty()) {
+            line->beginObject(section.key);
+            for (const Field &field : section.fields) {
+                if (field.use == Exported)
+                    line->add(field.key, field.value);
+            }
+            line->endObject();
+            continue;
+        }
+        line->beginArray(section.key);
+        for (const QJsonArray &row : section.rows) {
+            line->beginObject();
+            for (int i = 0; i < section.columns.size(); ++i) {
+                if (section.columns[i].use == Exported)
+                    line->add(section.columns[i].key, row[i]);
+            }
+            line->endObject();
+        }
+        line->endArray();
+    }
 }
 
 PxTextTable PxReport::table(const Section &section)

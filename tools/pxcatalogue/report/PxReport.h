@@ -9,6 +9,8 @@
 #include <QString>
 #include <QVector>
 
+class PxJsonLine;
+
 /**
  * The report of a command: sections with single values or a table, printed as text or as JSON.
  *
@@ -17,8 +19,11 @@
 class PxReport
 {
 public:
-    /** Whether a value holds only for the page count with which a product is shown. */
-    enum Validity { ForAnyPageCount, ForThisPageCount };
+    /**
+     * What holds only today, or for the page count with which a product is shown, is not exported;
+     * nor is the file in which a product was found.
+     */
+    enum Use { Exported, ShownOnly };
 
     struct Field
     {
@@ -26,14 +31,14 @@ public:
         const char *label;
         QJsonValue value;
         PxReportFormat format = PxReportFormat::Plain;
-        Validity validity = ForAnyPageCount;
+        Use use = Exported;
     };
     struct Column
     {
         const char *key;
         const char *label;
         PxReportFormat format = PxReportFormat::Plain;
-        Validity validity = ForAnyPageCount;
+        Use use = Exported;
         int givesWay = 0; ///< which columns are left out first where there is little room
     };
 
@@ -46,9 +51,15 @@ public:
     void addTable(const char *key, const char *heading, const QVector<Column> &columns,
                   const QVector<QJsonArray> &rows);
 
+    // Changes of sections that were added before; a row counts in a table only
+    void addField(const char *section, const Field &field);
+    /** The column has a value for each row. */
+    void addColumn(const char *section, const Column &column, const QVector<QJsonValue> &values);
+    void setValue(const char *section, const char *key, const QJsonValue &value, int row = 0);
+
     QJsonObject json() const;
-    /** The sections alone, without what holds only for one page count. */
-    QJsonObject jsonForAnyPageCount() const { return sections(ForAnyPageCount); }
+    /** Adds the sections with all that is exported. */
+    void addTo(PxJsonLine *line) const;
     PxOutputText text(int width) const;
 
 private:
@@ -61,10 +72,9 @@ private:
         QVector<QJsonArray> rows;
     };
 
-    static QJsonObject object(const Section &section, Validity most);
-    static QJsonArray array(const Section &section, Validity most);
+    static QJsonValue jsonOf(const Section &section);
     static PxTextTable table(const Section &section);
-    QJsonObject sections(Validity most) const;
+    Section &section(const char *key);
 
     QVector<Section> m_sections;
 };

@@ -16,6 +16,8 @@ struct PxShownProduct
     const PxProductTypeConfigRegistry *registry;
     PxProductType type;
     QString themeId; ///< empty for none
+    /** In the catalogue. Finding it takes reading all files, so it is empty in an export. */
+    QString file = {};
     const PxProductTypeDescription *product = registry->description(type);
     QList<int> offeredPageCounts = product->offeredPageCounts();
     int pageCount = 0;
@@ -32,6 +34,7 @@ struct PxShownProduct
     using SurroundingKey = std::tuple<int, int, int, int, bool, bool, QString, int, int, int, int>;
     QMap<SurroundingKey, int> indexOfSurrounding = {}; ///< in the list
 
+    bool isLegacy() const { return registry != PxProductTypeConfigRegistry::instance(); }
     /** The index of a surrounding in the list, to which it is added if it is new. */
     int indexOf(const PxSurroundingDescription &surrounding);
 };

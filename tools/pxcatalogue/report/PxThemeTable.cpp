@@ -3,6 +3,7 @@
 #include "format/PxCatalogueKeywords.h"
 #include "report/PxCatalogueProducts.h"
 #include "report/PxReport.h"
+#include "writing/PxJsonLine.h"
 
 #include <PxProductProperties.h>
 
@@ -37,7 +38,7 @@ const QVector<PxReport::Column> &columns()
         {"description", "Description"},
         {"group", "Group", Format::Key},
         {"expiryDay", "Until", Format::Key},
-        {"isExpired", "Expired", Format::Key},
+        {"isExpired", "Expired", Format::Key, PxReport::ShownOnly},
         {"keyAccounts", "Key accounts"},
         {"allowedProducts", "Products", Format::CountOrAll},
     };
@@ -83,11 +84,11 @@ PxThemeList PxThemeTable::sorted(PxThemeList themes)
     return themes;
 }
 
-QJsonObject PxThemeTable::object(const PxTheme &theme)
+void PxThemeTable::addTo(PxJsonLine *line, const PxTheme &theme)
 {
-    QJsonObject object;
     const QJsonArray row = rowOf(theme);
-    for (int i = 0; i < row.size(); ++i)
-        object.insert(columns()[i].key, row[i]);
-    return object;
+    for (int i = 0; i < row.size(); ++i) {
+        if (columns()[i].use == PxReport::Exported)
+            line->add(columns()[i].key, row[i]);
+    }
 }

@@ -2,8 +2,7 @@
 
 #include <themes/PxThemeList.h>
 
-#include <QJsonObject>
-
+class PxJsonLine;
 class PxReport;
 
 /** A table of themes. */
@@ -15,6 +14,6 @@ public:
 
     /** Sorts them by id, and those with the same id by what they contain. */
     static PxThemeList sorted(PxThemeList themes);
-    /** The row of one theme, by the keys of the columns. */
-    static QJsonObject object(const PxTheme &theme);
+    /** Adds what is exported of the row of one theme. */
+    static void addTo(PxJsonLine *line, const PxTheme &theme);
 };
