@@ -46,6 +46,9 @@ PxProductTypeConfigRegistry::PxProductTypeConfigRegistry(const QDir &directory)
     m_products.reserve(m_descriptions.size());
     for (auto it = m_descriptions.constBegin(); it != m_descriptions.constEnd(); ++it)
         m_products.append({it.key(), it.value()});
+    // By code: the order of the hash is another one in each process.
+    std::sort(m_products.begin(), m_products.end(),
+              [](const Product &a, const Product &b) { return a.type < b.type; });
 }
 
 PxProductTypeConfigRegistry::~PxProductTypeConfigRegistry() = default;

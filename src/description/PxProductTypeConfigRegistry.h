@@ -92,7 +92,10 @@ public:
     // Across products
     /** The products on offer, for which exists() is true, by product class and then by name. */
     PxProductTypeList products() const;
-    /** The current product that replaces a legacy one; type 0 if there is none. */
+    /**
+     * The current product that replaces a legacy one; type 0 if there is none, and of several the
+     * one with the smallest code.
+     */
     PxProductType findProductForLegacy(const PxProductType &legacy) const;
     /** The products on offer that are interchangeable with the type, including the type itself. */
     PxProductTypeList findCompatibleProducts(const PxProductType &type,
@@ -124,7 +127,7 @@ private:
 
     QHash<PxProductType, PxProductTypeDescription *> m_descriptions;
     PxProductTypeDescription *m_defaultDescription;
-    // The same products in an array: iterating over the hash would wait for memory at each node.
+    // The same products in an array, by code: iterating over the hash would wait for memory at each node.
     QVector<Product> m_products;
 };
 

@@ -23,6 +23,7 @@ private slots:
     void unknownTypeIsAnsweredFromDefaults();
     void listsTheProductsOnOffer();
     void findsSuccessorsOfLegacyProducts();
+    void ofTwoSuccessorsTheOneWithTheSmallerCodeIsFound();
     void findsOfferedProductsOfTheSameClass();
 
 private:
@@ -42,7 +43,8 @@ static QByteArray product(const QByteArray &attributes, const QByteArray &childr
 void PxProductTypeConfigRegistryTest::initTestCase()
 {
     m_directory.writeProductTypes("1 book BOOK\n2 book LEGACY\n3 calendar CAL\n4 book SMALL\n"
-                                  "5 book INVALID\n6 gift GIFT\n7 book OTHER");
+                                  "5 book INVALID\n6 gift GIFT\n7 book OTHER\n1009 book 1009\n"
+                                  "2003 book 2003\n3001 book 3001\n4007 book 4007\n5003 book 5003");
     const QByteArray portrait = "<usablesize width='2000' height='3000'/>";
     write("products/book.xml", product("name='BOOK' legacy='LEGACY' space='xl'",
                                        portrait + "<classification cm='20x30' group='Leinwand'/>"));
@@ -128,6 +130,16 @@ void PxProductTypeConfigRegistryTest::findsSuccessorsOfLegacyProducts()
     QCOMPARE(m_registry->findProductForLegacy(1), PxProductType(0));
     // Most products replace none, which is type 0 as well.
     QCOMPARE(m_registry->findProductForLegacy(0), PxProductType(0));
+}
+
+void PxProductTypeConfigRegistryTest::ofTwoSuccessorsTheOneWithTheSmallerCodeIsFound()
+{
+    for (const int code : {3001, 2003, 1009, 4007, 5003})
+        write(qPrintable(QString("successors/%1.xml").arg(code)),
+              product("legacy='LEGACY' name='" + QByteArray::number(code) + '\''));
+    // Kept, as every registry: see its destructor.
+    const auto *registry = new PxProductTypeConfigRegistry(directory("successors"));
+    QCOMPARE(registry->findProductForLegacy(2), PxProductType(1009));
 }
 
 void PxProductTypeConfigRegistryTest::findsOfferedProductsOfTheSameClass()

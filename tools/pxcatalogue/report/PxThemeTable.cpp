@@ -24,7 +24,7 @@ QJsonArray rowOf(const PxTheme &theme)
             theme.description(),
             keywordsOf(theme.productGroup().value(), EnumHelper::globalMapProductGroupEnumString)
                 .join(", "),
-            theme.expiryDayToOrderTxt(),
+            theme.expiryDate().date().toString(Qt::ISODate), // with the same digits everywhere
             theme.isExpired(),
             PxReportValue::numbers(theme.keyAccounts()),
             PxCatalogueProducts::nameArray(theme.allowedProductTypes().values())};

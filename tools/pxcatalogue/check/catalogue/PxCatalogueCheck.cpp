@@ -196,7 +196,7 @@ void PxCatalogueCheck::checkPredecessors() const
             m_report
                 .add(PxTag::LegacyClaimedTwice, product.legacy, "%1 is also replaced by %2, in %3",
                      legacy.productName(), other->type.productName(), other->legacy)
-                .now("either of the two may be found for it");
+                .now("the one with the smaller code is found for it");
         else
             other = &product;
     }

@@ -18,7 +18,7 @@ static constexpr PxCheckTag rows[] = {
      "<»frame id=\"Uferweg Sand\"/>",
      "<frame id=\"Uferweg Sand\" name=\"Uferweg Sand\"/>"},
     {PxTag::LegacyClaimedTwice, "legacy-claimed-twice", PxSeverity::Warning, "two products replace the same older one",
-     "An application that asks which product replaces the older one gets either of the two, and not always the same. Keep \"legacy\" only in the product that really replaces it.",
+     "An application that asks which product replaces the older one gets the one with the smaller code, whichever is meant. Keep \"legacy\" only in the product that really replaces it.",
      "products/book_a4_portrait_glossy.xml",
      "name=\"BOOK_A4_PORTRAIT_GLOSSY\" legacy=\"»BOOK_CLASSIC_A4\"",
      "name=\"BOOK_A4_PORTRAIT_GLOSSY\"", true},
