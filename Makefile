@@ -50,6 +50,7 @@ valgrind: PACKAGES += valgrind
 valgrind: RUN = valgrind --quiet --leak-check=full --error-exitcode=1
 valgrind: demo
 
+check quick: PACKAGES += python3-jsonschema
 check: build
 	ctest --preset $(PRESET) -j $(JOBS)
 
