@@ -180,7 +180,7 @@ void PxHostileCommandsTest::commandIsBounded_data()
         "list,list --json,list --format tsv --sort -size --theme wild,themes,themes --json,"
         "show KEYWORDS --pages 26,show DEFAULTS --theme wild --json,draw KEYWORDS,"
         "compatible PAGES --json,variants VARIANTS --json,"
-        "check,check --format json,check --format sarif";
+        "check,check --format json,check --format sarif,export";
     for (const QString &command : commands.split(','))
         QTest::newRow(qPrintable(command)) << command;
 

@@ -91,16 +91,21 @@ for resources in (sample, str(catalogue)):
 if sorted(lines) != ["catalogue", "legacyProduct", "product", "productType", "theme"]:
     fail(f"export has the types {sorted(lines)}")
 
-for words in (
+commands = (
     ["list"], ["list", "--earlier"], ["list", "--columns", "size,space"], ["themes"], ["themes", "--key-account", "1"],
     ["show", "BOOK_A4_PORTRAIT"], ["show", "BOOK_A4_PORTRAIT", "--theme", "hochzeit", "--pages", "27"],
     ["show", "BOOK_CLASSIC_A4"], ["show", "CUP2"], ["show", "PDT1"], ["show", "BOOK_MINI"],
     ["compatible", "BOOK_A4_PORTRAIT"],
     ["compatible", "CUP2", "--criterion", "paper", "--theme", "hochzeit"], ["variants", "CUP2"],
     ["check", "--pedantic"],
-):
+)
+for words in commands:
     text = run(*words, "--json", "--resources", str(catalogue))
     check(" ".join(words), output_validator(words[0]), json.loads(text))
+for command in subprocess.run([program], stderr=subprocess.PIPE, check=False).stderr.decode().partition(
+        ": use ")[2].partition(" (")[0].split(", "):
+    if "--json" in run(command, "--help") and command not in [words[0] for words in commands]:
+        fail(f"no output of {command} is validated")
 baseline = catalogue / "known.json"
 run("check", "--resources", str(catalogue), "--pedantic", "--write-baseline", str(baseline))
 check("baseline", output_validator("baseline"), json.loads(baseline.read_text(encoding="utf-8")))

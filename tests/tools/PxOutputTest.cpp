@@ -59,6 +59,9 @@ void PxOutputTest::keepsTheFileThatItCannotReplace_data()
     QTest::newRow("no file may have a size")
         << "sh" << withoutRoom + "\"$0\" check --quiet --write-baseline \"$1/known.json\""
         << "File too large; make room";
+    QTest::newRow("no line of an export has room")
+        << "sh" << withoutRoom + "\"$0\" export --output \"$1/known.json\""
+        << "File too large; make room";
     // What is in the file system ends with the last process that sees it.
     QTest::newRow("the disk is full")
         << "unshare"

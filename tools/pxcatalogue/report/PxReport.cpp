@@ -85,13 +85,15 @@ QJsonObject PxReport::json() const
 
 QJsonValue PxReport::jsonOf(const Section &section)
 {
-    QJsonObject object;
-    for (const Field &field : section.fields)
-        object.insert(field.key, field.value);
-    if (section.columns.isEmpty())
+    if (section.columns.isEmpty()) {
+        QJsonObject object;
+        for (const Field &field : section.fields)
+            object.insert(field.key, field.value);
         return object;
+    }
     QJsonArray array;
     for (const QJsonArray &row : section.rows) {
+        QJsonObject object;
         for (int i = 0; i < section.columns.size(); ++i)
             object.insert(section.columns[i].key, row[i]);
         array.append(object);
