@@ -2,7 +2,7 @@
 
 #include "commands/PxCatalogueDirectories.h"
 #include "commands/PxCommandLine.h"
-#include "report/PxCatalogueExport.h"
+#include "export/PxCatalogueExport.h"
 #include "writing/PxOutputFile.h"
 #include "writing/PxTerminal.h"
 

@@ -1,9 +1,9 @@
-#include "report/PxExportedProduct.h"
+#include "export/PxExportedProduct.h"
 
+#include "export/PxPageCountTable.h"
+#include "export/PxPageRuns.h"
 #include "format/PxCatalogueKeywords.h"
 #include "report/PxNumberRanges.h"
-#include "report/PxPageCountTable.h"
-#include "report/PxPageRuns.h"
 #include "report/PxProductReport.h"
 #include "report/PxShownProduct.h"
 #include "writing/PxJsonLine.h"
@@ -16,8 +16,6 @@
 #include <limits>
 
 namespace {
-
-using PageCounts = QList<int>;
 
 /** No surrounding is pinned to it. */
 constexpr int anyPage = std::numeric_limits<int>::max();
@@ -55,7 +53,7 @@ public:
 
 private:
     const PxProductTypeDescription &product() const { return *m_shown.product; }
-    const PageCounts &pageCounts() const { return m_shown.offeredPageCounts; }
+    const QList<int> &pageCounts() const { return m_shown.offeredPageCounts; }
     /** With the largest page count. */
     int printedPages() const
     {
@@ -82,7 +80,7 @@ private:
 /** A longer product has all kinds of a shorter one, unless it begins on the other side. */
 void Exported::addKinds()
 {
-    const PageCounts pageCounts = this->pageCounts().isEmpty() ? PageCounts{1} : this->pageCounts();
+    const QList<int> pageCounts = this->pageCounts().isEmpty() ? QList<int>{1} : this->pageCounts();
     const auto add = [this, &pageCounts](auto isWanted) {
         const auto found = std::find_if(pageCounts.begin(), pageCounts.end(), isWanted);
         if (found != pageCounts.end())

@@ -1,4 +1,4 @@
-#include "report/PxPageCountTable.h"
+#include "export/PxPageCountTable.h"
 
 #include "report/PxNumberRanges.h"
 #include "report/PxReport.h"

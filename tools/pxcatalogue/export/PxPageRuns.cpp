@@ -1,4 +1,4 @@
-#include "report/PxPageRuns.h"
+#include "export/PxPageRuns.h"
 
 #include "format/PxCatalogueKeywords.h"
 

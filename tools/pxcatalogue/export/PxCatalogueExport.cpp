@@ -1,8 +1,8 @@
-#include "report/PxCatalogueExport.h"
+#include "export/PxCatalogueExport.h"
 
 #include "check/words/PxListedProductTypes.h"
+#include "export/PxExportedProduct.h"
 #include "report/PxCatalogueProducts.h"
-#include "report/PxExportedProduct.h"
 #include "report/PxReport.h"
 #include "report/PxThemeTable.h"
 
