@@ -138,8 +138,8 @@ void PxProductTypeConfigRegistryTest::ofTwoSuccessorsTheOneWithTheSmallerCodeIsF
         write(qPrintable(QString("successors/%1.xml").arg(code)),
               product("legacy='LEGACY' name='" + QByteArray::number(code) + '\''));
     // Kept, as every registry: see its destructor.
-    const auto *registry = new PxProductTypeConfigRegistry(directory("successors"));
-    QCOMPARE(registry->findProductForLegacy(2), PxProductType(1009));
+    static const auto *ourRegistry = new PxProductTypeConfigRegistry(directory("successors"));
+    QCOMPARE(ourRegistry->findProductForLegacy(2), PxProductType(1009));
 }
 
 void PxProductTypeConfigRegistryTest::findsOfferedProductsOfTheSameClass()
