@@ -1,0 +1,24 @@
+#pragma once
+
+#include "origins/PxOrigin.h"
+
+#include <QJsonObject>
+#include <QMap>
+
+struct PxShownProduct;
+
+/** The origins of all values that "show" prints of a product. */
+class PxOrigins
+{
+public:
+    /** Reads the files that it needs, with the places of what is in them. */
+    explicit PxOrigins(const PxShownProduct &shown);
+
+    /** Of the value at a JSON pointer: its own or that of the nearest object or array around it. */
+    PxOrigin at(const QString &pointer) const;
+    /** All of them by JSON pointer. */
+    QJsonObject json() const;
+
+private:
+    QMap<QString, PxOrigin> m_origins;
+};
