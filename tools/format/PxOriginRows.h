@@ -4,36 +4,41 @@
 
 #include <QStringList>
 
-/** Where a row of origins holds, if not for every product and in every row of a table. */
+/** When a row of origins holds. */
 enum class PxOriginCase {
     Always,
-    Given,   ///< the first input is there, and not the text that means the default
-    Written, ///< the first input is not empty
-    Asked,   ///< the page count is from the command line
-    Sold,    ///< the product says with how many pages it is sold
-    Legacy,
-    Book,
-    Calendar,
-    Pieces,     ///< gifts, cards and decoration
+    Given,      ///< the first input is there, and not the text that means the default
+    Written,    ///< the first input is there, if only as a word that nobody knows
+    Asked,      ///< the page count is from the command line
+    Sold,       ///< the product says with how many pages it is sold
+    Legacy,     ///< the product is of an earlier catalogue
+    Book,       ///< the product is of this class, …
+    Calendar,   ///< …
+    Pieces,     ///< … gifts, cards and decoration
     WideSpines, ///< a book whose spines gain what the covers lose
-    Spines,     ///< the product has a table of spines
-    Simplex,
-    SpineKind, ///< the page in this row is the spine, …
-    SizeOfCover,
-    BleedOfCover,
+    Spines,     ///< a book with spines
+    Simplex,    ///< the binding is one-sided
+    // Of rows that are about a kind of page
+    SpineKind,
+    CoverSize,  ///< it is as large as the cover
+    CoverBleed, ///< it has the bleed of the cover
     NormalPage,
-    EmptyPage, ///< … a page that stays empty
+    WhitePage, ///< it stays empty, and the product is shown in a theme
 };
 
 /**
  * Where a value of the report about a product comes from. The first row that holds is used.
  *
  * Inputs are separated by blanks; of those joined by "|" the first that is there counts:
- * - "/sizes/page" is another value, "/pageKinds/&#42;/bleed" one in the same row of a table;
+ * - "/sizes/page" is another value, "/pageKinds/&#42;/bleed" one in the same row of the table;
  * - "@binding", "usablesize@width" and "pages" are attributes and elements of the product file,
  *   below its "product"; "[…]" says which one of several elements is meant;
- * - the same with "theme:" is below the "theme", with "type:" below the "producttype";
- * - "asked:pages", "asked:theme" and "clock:" are none of files.
+ * - "user:", "theme:" and "type:" are below the defaults of the user, the theme and the row of the
+ *   product type; "replaced:" and "successor:" are below other products;
+ * - "asked:" is the command line, "file:" the product file as a whole, "clock:" the time.
+ *
+ * What stands behind a ";" chooses between elements. The row of a table ("/barcodes/&#42;") has
+ * what chooses for all its values.
  */
 struct PxOriginRow
 {

@@ -2,7 +2,9 @@
 
 #include "commands/PxCommandLine.h"
 #include "commands/PxNamedProduct.h"
+#include "origins/PxOrigins.h"
 #include "report/PxProductReport.h"
+#include "report/PxShownProduct.h"
 
 PxCommandUsage PxShowCommand::usage() const
 {
@@ -13,6 +15,7 @@ PxCommandUsage PxShowCommand::usage() const
         "from 4 to 28. Empty values are left out.", {
         {"pages", "N", "Show the product with this many pages, 1 to 9999. Default: as many as it is sold with.", 1, PxProductReport::maximumPageCount},
         PxOption::theme(),
+        {"origin", "", "Say where each value comes from: which place in which file, a default, or a rule."},
         PxOption::json(),
     }, PxNamedProduct::argument()};
     // clang-format on
@@ -23,6 +26,13 @@ PxReportCommand::Answer PxShowCommand::answer(const PxCommandLine &line) const
     const PxNamedProduct named = PxNamedProduct::of(line);
     if (named.no)
         return {std::nullopt, named.no};
-    return {PxProductReport::of(named.registry, named.type, line.value("pages").toInt(),
-                                named.themeId)};
+    const PxShownProduct shown = PxProductReport::shown(named.registry, named.type,
+                                                        line.value("pages").toInt(), named.themeId);
+    PxReport report = PxProductReport::of(shown);
+    if (line.isSet("origin")) {
+        const PxOrigins origins(shown);
+        report.setOrigins(origins.json(),
+                          [origins](const QString &pointer) { return origins.at(pointer).text(); });
+    }
+    return {report};
 }

@@ -71,6 +71,25 @@ QString PxOrigin::text() const
     case Kind::Question:
         return "asked";
     default:
-        return rule.isEmpty() ? QString(keyword(kind)) : rule;
+        return rule.isEmpty() ? QString(keyword(kind)) : rule + otherPlaces();
     }
+}
+
+/** The first places that the rule does not have, in brackets; of each file the path once. */
+QString PxOrigin::otherPlaces() const
+{
+    constexpr int most = 3;
+    QStringList places;
+    QString last;
+    for (const QString &input : from) {
+        if (input.startsWith('/') || rule.contains('('))
+            continue;
+        const QString path = input.section(':', 0, -3);
+        places.append(path == last ? input.section(':', -2) : input);
+        last = path;
+    }
+    if (places.isEmpty())
+        return QString();
+    const bool areMore = places.size() > most;
+    return QString(" (%1)").arg(places.mid(0, most).join(", ") + (areMore ? ", …" : ""));
 }

@@ -34,4 +34,7 @@ struct PxOrigin
     QJsonObject json() const;
     /** For example "products/x.xml:6:12" or "spine 74 (products/x.xml:62:26) + 20". */
     QString text() const;
+
+private:
+    QString otherPlaces() const;
 };

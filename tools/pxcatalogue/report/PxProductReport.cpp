@@ -107,22 +107,6 @@ void addBarcodesTo(Shown *shown)
     }
 }
 
-/** `pageCount` is what the user asked for, or 0. */
-Shown shownProduct(const PxProductTypeConfigRegistry *registry, const PxProductType &type,
-                   int pageCount, const QString &themeId)
-{
-    Shown shown{registry, type, themeId};
-    shown.pageCount = shownPageCount(*shown.product, shown.offeredPageCounts, pageCount);
-    if (pageCount > 0 && !shown.product->isPageCountOffered(shown.pageCount))
-        qWarning("%s", qUtf8Printable(PxPageCounts::notOffered(type, shown.offeredPageCounts,
-                                                               shown.pageCount)));
-    shown.file = PxProductFile::pathOf(type, shown.isLegacy());
-    addPagesTo(&shown);
-    addSurroundingsTo(&shown);
-    addBarcodesTo(&shown);
-    return shown;
-}
-
 /** `product` is a product description, or the context of the product and a theme. */
 template <typename Product>
 QJsonValue pagesWithContent(const Shown &shown, const Product &product)
@@ -441,10 +425,21 @@ void addRedirects(const Shown &shown, PxReport *report)
 
 } // namespace
 
-PxReport PxProductReport::of(const PxProductTypeConfigRegistry *registry, const PxProductType &type,
-                             int pageCount, const QString &themeId)
+PxShownProduct PxProductReport::shown(const PxProductTypeConfigRegistry *registry,
+                                      const PxProductType &type, int pageCount,
+                                      const QString &themeId)
 {
-    return of(shownProduct(registry, type, pageCount, themeId));
+    Shown shown{registry, type, themeId};
+    shown.pageCount = shownPageCount(*shown.product, shown.offeredPageCounts, pageCount);
+    shown.isPageCountAsked = pageCount > 0;
+    if (pageCount > 0 && !shown.product->isPageCountOffered(shown.pageCount))
+        qWarning("%s", qUtf8Printable(PxPageCounts::notOffered(type, shown.offeredPageCounts,
+                                                               shown.pageCount)));
+    shown.file = PxProductFile::pathOf(type, shown.isLegacy());
+    addPagesTo(&shown);
+    addSurroundingsTo(&shown);
+    addBarcodesTo(&shown);
+    return shown;
 }
 
 PxReport PxProductReport::of(const PxShownProduct &shown)

@@ -17,12 +17,12 @@ public:
     static constexpr int maximumPageCount = 9999;
 
     /**
-     * Reports the product as `registry`, the current or the legacy one, describes it.
+     * The product as `registry`, the current or the legacy one, describes it.
      *
      * A `pageCount` of 0 means the one with which the product is sold. A warning is logged if the
      * product is not offered with another `pageCount`. `themeId` must be empty for legacy products.
      */
-    static PxReport of(const PxProductTypeConfigRegistry *registry, const PxProductType &type,
-                       int pageCount, const QString &themeId);
+    static PxShownProduct shown(const PxProductTypeConfigRegistry *registry,
+                                const PxProductType &type, int pageCount, const QString &themeId);
     static PxReport of(const PxShownProduct &shown);
 };

@@ -1,8 +1,11 @@
 #include "report/PxReport.h"
 
+#include "report/PxNumberRanges.h"
+#include "report/PxOriginColumn.h"
 #include "writing/PxJsonLine.h"
 #include "writing/PxTerminal.h"
 
+#include <QHash>
 #include <QStringList>
 
 #include <algorithm>
@@ -75,11 +78,20 @@ PxReport::Section &PxReport::section(const char *key)
     return m_sections[indexOf(m_sections, key)];
 }
 
+void PxReport::setOrigins(const QJsonObject &origins,
+                          const std::function<QString(const QString &pointer)> &originAt)
+{
+    m_origins = origins;
+    m_originAt = originAt;
+}
+
 QJsonObject PxReport::json() const
 {
     QJsonObject json{{"format", formatVersion}, {"lengthUnit", lengthUnit}};
     for (const Section &section : m_sections)
         json.insert(section.key, jsonOf(section));
+    if (m_originAt)
+        json.insert("origins", m_origins);
     return json;
 }
 
@@ -155,6 +167,45 @@ PxTextTable PxReport::table(const Section &section)
     return table;
 }
 
+QStringList PxReport::linesWithOrigins(const Section &section, int width) const
+{
+    const QString key = QString("/%1/").arg(section.key);
+    PxOriginColumn origins;
+    for (const Field &field : section.fields) {
+        const QString text = PxReportValue::text(field.value, field.format);
+        if (!text.isEmpty())
+            origins.add(QString::fromUtf8(field.label), text + PxReportValue::unit(field.format),
+                        m_originAt(key + field.key));
+    }
+    if (section.columns.isEmpty())
+        return origins.lines(width);
+    for (const Column &column : section.columns) {
+        if (column.format != PxReportFormat::JsonOnly)
+            addOrigins(section, column, &origins);
+    }
+    return table(section).lines(width) + origins.lines(width);
+}
+
+/** One for all rows, or each with the numbers of its rows. */
+void PxReport::addOrigins(const Section &section, const Column &column,
+                          PxOriginColumn *origins) const
+{
+    QStringList different;
+    QHash<QString, QList<int>> rowsOf;
+    for (int row = 0; row < section.rows.size(); ++row) {
+        const QString origin =
+            m_originAt(QString("/%1/%2/%3").arg(section.key, QString::number(row), column.key));
+        if (!rowsOf.contains(origin))
+            different.append(origin);
+        rowsOf[origin].append(row + 1);
+    }
+    for (const QString &origin : qAsConst(different)) {
+        const QString rows = "row " + PxNumberRanges::text(rowsOf[origin]);
+        origins->add("  " + QString::fromUtf8(column.label),
+                     different.size() == 1 ? QString() : rows, origin);
+    }
+}
+
 PxOutputText PxReport::text(int width) const
 {
     PxOutputText text;
@@ -169,7 +220,8 @@ PxOutputText PxReport::text(int width) const
         isFirst = false;
         if (!section.heading.isEmpty())
             text.addLine(PxTerminal::shortened(section.heading, width));
-        for (const QString &line : table.lines(width - indent.size()))
+        const int room = width - indent.size();
+        for (const QString &line : m_originAt ? linesWithOrigins(section, room) : table.lines(room))
             text.addLine(PxTerminal::shortened(indent + line, width));
     }
     return text;

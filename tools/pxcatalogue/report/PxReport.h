@@ -9,7 +9,10 @@
 #include <QString>
 #include <QVector>
 
+#include <functional>
+
 class PxJsonLine;
+class PxOriginColumn;
 
 /**
  * The report of a command: sections with single values or a table, printed as text or as JSON.
@@ -57,6 +60,13 @@ public:
     void addColumn(const char *section, const Column &column, const QVector<QJsonValue> &values);
     void setValue(const char *section, const char *key, const QJsonValue &value, int row = 0);
 
+    /**
+     * Says where each value comes from: as the member "origins", and in a column of the text or
+     * below a table. `originAt` returns the text for a JSON pointer.
+     */
+    void setOrigins(const QJsonObject &origins,
+                    const std::function<QString(const QString &pointer)> &originAt);
+
     QJsonObject json() const;
     /** Adds the sections with all that is exported. */
     void addTo(PxJsonLine *line) const;
@@ -74,7 +84,11 @@ private:
 
     static QJsonValue jsonOf(const Section &section);
     static PxTextTable table(const Section &section);
+    QStringList linesWithOrigins(const Section &section, int width) const;
+    void addOrigins(const Section &section, const Column &column, PxOriginColumn *origins) const;
     Section &section(const char *key);
 
     QVector<Section> m_sections;
+    QJsonObject m_origins;
+    std::function<QString(const QString &pointer)> m_originAt; // null without origins
 };

@@ -21,6 +21,7 @@ struct PxShownProduct
     const PxProductTypeDescription *product = registry->description(type);
     QList<int> offeredPageCounts = product->offeredPageCounts();
     int pageCount = 0;
+    bool isPageCountAsked = false;        ///< rather than the one with which it is sold
     QList<PxPageContext> pages = {};      ///< all pages in their order, covers included
     QList<PxPageContext> kinds = {};      ///< each different page once
     QVector<QList<int>> pagesOfKind = {}; ///< page numbers, by the index of the kind

@@ -1,0 +1,135 @@
+#include "origins/PxOriginFile.h"
+
+#include "format/PxFormat.h"
+
+#include <PxDirectoryConfig.h>
+#include <PxProductTypeCatalogue.h>
+#include <PxXMLLoader.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStringList>
+
+#include <algorithm>
+
+namespace {
+
+using Kind = PxOrigin::Kind;
+
+QString resource(const QString &name)
+{
+    return PxDirectoryConfig::instance()->resource(name, false);
+}
+
+/** "themes/x.xml" for a file in the directory of the catalogue with this name, else its path. */
+QString shownPath(const QString &directory, const QString &name, const QString &file)
+{
+    return QDir::cleanPath(directory) == QDir::cleanPath(resource(name)) ? name + '/' + file
+                                                                         : directory + '/' + file;
+}
+
+bool isThemeWith(const QString &id, const QString &idInFile)
+{
+    return idInFile.toLower() == id;
+}
+
+/** Whether the library finds a theme in a file, which it reads like this. */
+bool hasTheme(const QFileInfo &file, const QString &id)
+{
+    const QDomElement root = PxXMLLoader::loadDocumentElement(file);
+    if (root.tagName().toLower() != QLatin1String("themes"))
+        return false;
+    for (QDomElement e = root.firstChildElement(); !e.isNull(); e = e.nextSiblingElement()) {
+        if (isThemeWith(id, e.attribute("id", "unbekannt")))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+PxOriginFile::PxOriginFile(Kind kind, PxFileKind format, const QString &file, const QString &path)
+    : m_kind(kind)
+    , m_format(format)
+    , m_path(path)
+    , m_source(std::make_shared<PxCheckedFile>(file))
+{}
+
+PxOriginFile PxOriginFile::product(const QString &name)
+{
+    if (name.isEmpty())
+        return {};
+    PxOriginFile file(Kind::File, PxFileKind::Product, resource(name), name);
+    if (file.root())
+        file.m_element = file.root()->firstChild("product");
+    return file;
+}
+
+PxOriginFile PxOriginFile::userDefaults(const QString &productName)
+{
+    const QString directory = PxDirectoryConfig::instance()->userDefaultsPath();
+    const QString name = productName + ".xml";
+    const QString path = QDir::cleanPath(directory + '/' + name);
+    if (!path.startsWith(QDir::cleanPath(directory) + '/'))
+        return {}; // the library does not leave the directory either
+    PxOriginFile file(Kind::UserDefaults, PxFileKind::UserDefaults, path,
+                      shownPath(directory, "defaults", name));
+    // Nothing is read from a file with anything before its document element.
+    if (file.root() && file.m_source->document().firstChild().isElement())
+        file.m_element = file.root()->firstChild("defaults");
+    return file;
+}
+
+PxOriginFile PxOriginFile::theme(const QString &id)
+{
+    if (id.isEmpty())
+        return {};
+    const QDir directory = PxDirectoryConfig::instance()->lumoThemesDirectory(false);
+    for (const QFileInfo &info :
+         directory.entryInfoList({"*.XML", "*.xml"}, QDir::Files, QDir::Unsorted)) {
+        if (!hasTheme(info, id))
+            continue;
+        PxOriginFile file(Kind::Theme, PxFileKind::Theme, info.absoluteFilePath(),
+                          shownPath(directory.absolutePath(), "themes", info.fileName()));
+        if (!file.root())
+            return file;
+        for (const PxSourceElement *theme : file.root()->children) {
+            const bool hasId = theme->attribute("id");
+            if (!file.m_element && isThemeWith(id, hasId ? theme->value("id") : "unbekannt"))
+                file.m_element = theme;
+        }
+        return file;
+    }
+    return {};
+}
+
+PxOriginFile PxOriginFile::productType(const PxProductType &type)
+{
+    const QString name = "producttypes.xml";
+    PxOriginFile file(Kind::ProductTypes, PxFileKind::ProductTypes, resource(name), name);
+    if (!file.root())
+        return file;
+    for (const PxSourceElement *row : file.root()->childrenNamed("producttype")) {
+        // A row that is left out may have the same code, but not all of this.
+        if (!file.m_element && row->number("code") == int(type.type()) &&
+            row->value("name").trimmed() == type.productName() &&
+            PxFormat::isKeyword(PxKeywordSet::ProductClass, row->value("class")))
+            file.m_element = row;
+    }
+    return file;
+}
+
+PxPlace PxOriginFile::place(const PxSourceRange &range) const
+{
+    PxPlace place = m_source->place(range);
+    place.path = m_path;
+    return place;
+}
+
+const PxElementRow *PxOriginFile::rowOf(const PxSourceElement &element) const
+{
+    QStringList names;
+    for (const PxSourceElement *e = &element; e->parent; e = e->parent)
+        names.prepend(e->name);
+    return PxFormat::find(m_format, names.join('/'));
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "check/source/PxCheckedFile.h"
+#include "format/PxFormatRows.h"
+#include "origins/PxOrigin.h"
+
+#include <PxProductType.h>
+
+#include <memory>
+
+/** A file in which values of a product stand, and the element that they are below. */
+class PxOriginFile
+{
+public:
+    /** No file. */
+    PxOriginFile() = default;
+    /** Of the catalogue, as "products/x.xml" or "products/legacy/x.xml"; may be empty. */
+    static PxOriginFile product(const QString &name);
+    /** With the "defaults" of the user for a product that is called so in its file. */
+    static PxOriginFile userDefaults(const QString &productName);
+    /** With the "theme" that the library finds by this id. */
+    static PxOriginFile theme(const QString &id);
+    /** With the row of the product type. */
+    static PxOriginFile productType(const PxProductType &type);
+
+    PxOrigin::Kind kind() const { return m_kind; }
+    /** The product, theme, list or row; null if there is none. */
+    const PxSourceElement *element() const { return m_element; }
+    const PxCheckedFile &source() const { return *m_source; }
+    /** The place, with the path as it is shown. */
+    PxPlace place(const PxSourceRange &range) const;
+    /** The row of the format for an element; null if the library does not read it. */
+    const PxElementRow *rowOf(const PxSourceElement &element) const;
+
+private:
+    PxOriginFile(PxOrigin::Kind kind, PxFileKind format, const QString &file, const QString &path);
+    const PxSourceElement *root() const { return m_source->root(); }
+
+    PxOrigin::Kind m_kind = PxOrigin::Kind::Default;
+    PxFileKind m_format = PxFileKind::Product;
+    QString m_path;
+    std::shared_ptr<const PxCheckedFile> m_source;
+    const PxSourceElement *m_element = nullptr;
+};

@@ -1,0 +1,333 @@
+#include "origins/PxOriginReader.h"
+
+#include "check/rules/PxElementReading.h"
+#include "check/words/PxMessageText.h"
+#include "drawing/PxProductFile.h"
+#include "format/PxFormat.h"
+#include "report/PxProductReport.h"
+#include "report/PxShownProduct.h"
+
+#include <PxListParts.h>
+#include <PxXMLParser.h>
+
+#include <QDateTime>
+#include <QJsonArray>
+
+#include <algorithm>
+
+namespace {
+
+using Kind = PxOrigin::Kind;
+using When = PxOriginCase;
+
+QMap<QString, PxOriginFile> filesOf(const PxShownProduct &shown)
+{
+    QMap<QString, PxOriginFile> files;
+    const PxOriginFile product = PxOriginFile::product(shown.file);
+    files.insert("", product);
+    if (product.element())
+        files.insert("user", PxOriginFile::userDefaults(product.element()->value("name")));
+    files.insert("theme", PxOriginFile::theme(shown.themeId));
+    files.insert("type", PxOriginFile::productType(shown.type));
+    const PxProductType replaced = shown.product->legacyProduct();
+    if (replaced.isValid())
+        files.insert("replaced", PxOriginFile::product(PxProductFile::pathOf(replaced, true)));
+    const PxProductType successor =
+        PxProductTypeConfigRegistry::instance()->findProductForLegacy(shown.type);
+    if (successor.isValid())
+        files.insert("successor", PxOriginFile::product(PxProductFile::pathOf(successor, false)));
+    return files;
+}
+
+/** Whether the library uses what is written, not the default. */
+bool isRead(const PxSourceElement &element, const PxSourceAttribute &attribute,
+            const PxAttributeRow &row)
+{
+    bool isAnyKeyword = false;
+    switch (row.type) {
+    case PxValueType::Keyword:
+    case PxValueType::KeywordList:
+        pxForEachPart(attribute.value, [&](QStringView part) {
+            isAnyKeyword =
+                isAnyKeyword || PxFormat::isKeyword(row.keywords, part.trimmed().toString());
+        });
+        return isAnyKeyword;
+    case PxValueType::DateTime:
+        return PxXMLParser::dateTimeAttribute(element.dom, attribute.name, QString()).isValid();
+    default:
+        break;
+    }
+    const bool isEmptyDefault = row.defaultText && *row.defaultText == 0;
+    return PxElementReading::isReadable(element, attribute, row) &&
+           !(isEmptyDefault && attribute.value.isEmpty());
+}
+
+bool isAsLargeAsCover(const PxPageType &type)
+{
+    switch (type.value()) {
+    case PxPageTypeFullCover:
+    case PxPageTypeClampCoverFront:
+    case PxPageTypeClampCoverBack:
+    case PxPageTypeCromolinen:
+    case PxPageTypeLeather:
+    case PxPageTypeArtificialLeather:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+PxOriginReader::PxOriginReader(const PxShownProduct &shown)
+    : m_shown(shown)
+    , m_report(PxProductReport::of(shown).json())
+    , m_files(filesOf(shown))
+    , m_entries(shown, m_report, m_files[""], m_files["user"], m_files["theme"])
+{}
+
+QMap<QString, PxOrigin> PxOriginReader::read()
+{
+    QString last;
+    for (const PxOriginRow &row : PxOriginRows::all()) {
+        const QString pattern = row.pointer;
+        if (pattern == last) // the rows of a pattern stand together
+            continue;
+        last = pattern;
+        for (int index = 0; index < rowsOf(pattern); ++index)
+            readRow(pattern, index);
+    }
+    return m_origins;
+}
+
+/** How many values a pattern has: 1 unless it is about the rows of a table. */
+int PxOriginReader::rowsOf(const QString &pattern) const
+{
+    const auto section = m_report.constFind(pattern.section('/', 1, 1));
+    if (section == m_report.constEnd())
+        return 0;
+    return pattern.contains('*') ? qMin(section->toArray().size(), PxOriginEntries::maximumRows)
+                                 : 1;
+}
+
+void PxOriginReader::readRow(const QString &pattern, int index)
+{
+    if (const PxOriginRow *row = rowFor(pattern, index))
+        m_origins.insert(QString(pattern).replace('*', QString::number(index)),
+                         originOf(*row, index));
+}
+
+/** The first that holds; null if none does. */
+const PxOriginRow *PxOriginReader::rowFor(const QString &pattern, int index) const
+{
+    const auto rows = PxOriginRows::of(pattern);
+    const auto found = std::find_if(rows.begin(), rows.end(),
+                                    [&](const PxOriginRow *row) { return holds(*row, index); });
+    return found == rows.end() ? nullptr : *found;
+}
+
+bool PxOriginReader::holds(const PxOriginRow &row, int index) const
+{
+    const PxProductTypeDescription &product = *m_shown.product;
+    const auto isClass = [this](PxProductClass classes) {
+        return m_shown.type.isProductClass(classes);
+    };
+    switch (row.when) {
+    case When::Always:
+        return true;
+    case When::Given: {
+        const Inputs inputs = inputsOf(row, false, index);
+        return !inputs.isEmpty() && !inputs.constFirst().isDefault;
+    }
+    case When::Written:
+        return input(QString(row.inputs), index).isWritten;
+    case When::Asked:
+        return m_shown.isPageCountAsked;
+    case When::Sold:
+        return product.defaultSellingPages() > 0;
+    case When::Legacy:
+        return m_shown.isLegacy();
+    case When::Book:
+        return isClass(PxProductClassBook);
+    case When::Calendar:
+        return isClass(PxProductClassCalendar);
+    case When::Pieces:
+        return isClass(PxProductClassGift) || isClass(PxProductClassCard) ||
+               isClass(PxProductClassDecoration);
+    case When::WideSpines:
+        // The library widens all spines if the smallest one is not 0 wide.
+        return isClass(PxProductClassBook) && product.spineWidth(product.minPages()) > 0;
+    case When::Spines:
+        return isClass(PxProductClassBook) && product.minPages() <= product.maxPages();
+    case When::Simplex:
+        return product.isSimplex();
+    default:
+        return holdsForPage(row.when, index);
+    }
+}
+
+bool PxOriginReader::holdsForPage(PxOriginCase when, int index) const
+{
+    const PxPageType type = m_shown.kinds.value(index).pageType();
+    switch (when) {
+    case When::SpineKind:
+        return type.hasValue(PxPageTypeSpine);
+    case When::CoverSize:
+        return isAsLargeAsCover(type);
+    case When::CoverBleed:
+        return type.matches(PxPageTypeCover);
+    case When::NormalPage:
+        return type.matches(PxPageTypeNormalPage);
+    case When::WhitePage:
+        return !m_shown.themeId.isEmpty() && type.hasValue(PxPageTypeEmptyPage);
+    default:
+        return false;
+    }
+}
+
+PxOrigin PxOriginReader::originOf(const PxOriginRow &row, int index) const
+{
+    const Inputs inputs = inputsOf(row, false, index);
+    Inputs choosing = inputsOf(row, true, index);
+    const QString pattern = row.pointer;
+    const QString table = pattern.section('*', 0, 0) + '*';
+    if (pattern != table && pattern.contains('*')) {
+        if (const PxOriginRow *whole = rowFor(table, index))
+            choosing += inputsOf(*whole, true, index);
+    }
+    PxOrigin origin;
+    if (row.rule && (!inputs.isEmpty() || !*row.inputs))
+        origin.rule = filled(QString::fromUtf8(row.rule), inputs);
+    if (!inputs.isEmpty())
+        origin.kind = row.rule ? Kind::Computed : inputs.constFirst().kind;
+    for (const Input &input : inputs) {
+        if (origin.place.path.isEmpty())
+            origin.place = input.place;
+        if (input.kind == Kind::Clock)
+            origin.kind = Kind::Clock;
+    }
+    for (const Input &input : inputs + choosing) {
+        const bool isItself = !row.rule && input.from == PxOrigin::text(origin.place);
+        if (!input.from.isEmpty() && !isItself && !origin.from.contains(input.from))
+            origin.from.append(input.from);
+    }
+    if (origin.kind == Kind::Theme)
+        origin.rule = "theme " + m_shown.themeId;
+    if (origin.kind == Kind::UserDefaults) // whose file is found by the name in the product file
+        origin.from.append(inputAt("@name", 0).from);
+    return origin;
+}
+
+PxOriginReader::Inputs PxOriginReader::inputsOf(const PxOriginRow &row, bool areChoosing,
+                                                int index) const
+{
+    Inputs inputs;
+    const QString part = QString(row.inputs).section(';', areChoosing ? 1 : 0, areChoosing ? 1 : 0);
+    for (const QString &alternatives : part.split(' ', Qt::SkipEmptyParts)) {
+        const Input found = input(alternatives, index);
+        if (found.isThere || (row.rule && QString(row.rule).contains('%')))
+            inputs.append(found);
+    }
+    // A formula needs all its inputs, but at least one that is there.
+    const bool isAny =
+        std::any_of(inputs.begin(), inputs.end(), [](const Input &input) { return input.isThere; });
+    return isAny ? inputs : Inputs();
+}
+
+/** The first alternative that says something; the last one if none does. */
+PxOriginReader::Input PxOriginReader::input(const QString &alternatives, int index) const
+{
+    Input found;
+    for (const QString &term : alternatives.split('|')) {
+        found = inputAt(term, index);
+        if (found.isThere && !found.isDefault)
+            break;
+    }
+    return found;
+}
+
+PxOriginReader::Input PxOriginReader::inputAt(const QString &term, int index) const
+{
+    Input input;
+    input.isThere = true;
+    if (term.startsWith('/')) {
+        input.from = QString(term).replace('*', QString::number(index));
+        return input;
+    }
+    const QString file = term.contains(':') ? term.section(':', 0, 0) : QString();
+    if (file == "asked" || file == "clock") {
+        input.kind = file == "asked" ? Kind::Question : Kind::Clock;
+        return input;
+    }
+    if (file == "file") {
+        input.kind = Kind::File;
+        input.place.path = m_shown.file;
+        return input;
+    }
+    const QString path = term.section(':', -1).section('@', 0, 0);
+    const PxOriginElement owner = elementAt(file, path, index);
+    if (term.contains('@'))
+        return attributeOf(owner, term.section('@', 1));
+    input.isThere = owner.element;
+    if (owner.element) {
+        input.kind = owner.file->kind();
+        input.place = owner.file->place(owner.element->nameRange);
+        input.from = PxOrigin::text(input.place);
+    }
+    return input;
+}
+
+PxOriginElement PxOriginReader::elementAt(const QString &file, const QString &path, int index) const
+{
+    const auto source = m_files.constFind(file);
+    if (source == m_files.constEnd())
+        return {};
+    PxOriginElement found{&*source, source->element()};
+    for (const QString &step : path.split('/', Qt::SkipEmptyParts)) {
+        if (step.endsWith(']'))
+            found = m_entries.find(step, index);
+        else if (found.element)
+            found.element = found.element->firstChild(step.toUtf8().constData());
+    }
+    return found;
+}
+
+PxOriginReader::Input PxOriginReader::attributeOf(const PxOriginElement &owner, const QString &name)
+{
+    Input input;
+    const PxElementRow *element = owner.element ? owner.file->rowOf(*owner.element) : nullptr;
+    const PxAttributeRow *row = element ? PxFormat::attribute(*element, name) : nullptr;
+    const PxSourceAttribute *attribute =
+        owner.element ? owner.element->attribute(name.toUtf8().constData()) : nullptr;
+    if (row && row->defaultText)
+        input.value = QString::fromUtf8(row->defaultText);
+    input.isWritten = attribute && !attribute->value.isEmpty();
+    if (!row || !attribute || !isRead(*owner.element, *attribute, *row))
+        return input;
+    input.isThere = true;
+    input.isDefault = row->defaultText && attribute->value.trimmed() == input.value;
+    input.kind = owner.file->kind();
+    input.place = owner.file->place(attribute->nameRange);
+    input.from = PxOrigin::text(input.place);
+    input.value = PxMessageText::shortened(attribute->value);
+    return input;
+}
+
+/** The rule with the inputs, and their places, for %1, %2 and so on. */
+QString PxOriginReader::filled(const QString &rule, const Inputs &inputs) const
+{
+    QString text;
+    for (int i = 0; i < rule.size(); ++i) {
+        const bool isNumber = rule[i] == '%' && i + 1 < rule.size() && rule[i + 1].isDigit();
+        if (!isNumber) {
+            text += rule[i];
+            continue;
+        }
+        const Input input = inputs.value(rule[++i].digitValue() - 1);
+        if (input.place.line > 0)
+            text += QString("%1 (%2)").arg(input.value, input.from);
+        else
+            text += input.from.isEmpty() ? input.value : m_origins.value(input.from).text();
+    }
+    return text;
+}
