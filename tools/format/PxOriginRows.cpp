@@ -4,7 +4,8 @@ namespace {
 
 using When = PxOriginCase;
 
-// Most of the following code consists of tables.
+// Most of the following code consists of tables. Binding and orientation always have a value, unless
+// a page has no area: what needs them names the size alone.
 // clang-format off
 constexpr PxOriginRow rows[] = {
     {"/format", "", "of this output"},
@@ -15,7 +16,7 @@ constexpr PxOriginRow rows[] = {
     {"/product/code", "type:@code"},
     {"/product/class", "type:@class"},
     {"/product/isOffered", "/product/isLegacy", "no product of an earlier catalogue is offered", When::Legacy},
-    {"/product/isOffered", "@binding /product/orientation usablesize@width usablesize@height", "binding, orientation and page size are known"},
+    {"/product/isOffered", "usablesize@width usablesize@height", "the page has a size"},
     {"/product/isLegacy", "file:"},
     {"/product/file", "file:"},
     {"/product/binding", "@binding"},
@@ -30,16 +31,18 @@ constexpr PxOriginRow rows[] = {
     {"/product/hasHook", "@hasHook"},
     {"/product/hasHole", "@hasHole"},
 
-    {"/pages/pageCounts", "spines /spine/hasSpine /product/class @binding /product/orientation usablesize@width usablesize@height", "the page counts of the spines", When::Book},
-    {"/pages/pageCounts", "@binding /product/class /product/orientation usablesize@width usablesize@height", "as many as a calendar with this binding has", When::Calendar},
-    {"/pages/pageCounts", "@numOfNormalPages /product/class @binding /product/orientation usablesize@width usablesize@height", "normal pages %1", When::Pieces},
-    {"/pages/pageCounts", "/product/class @binding /product/orientation usablesize@width usablesize@height", "one page"},
+    {"/pages/pageCounts", "spines; /product/class usablesize@width usablesize@height", "the page counts of the spines", When::Book},
+    {"/pages/pageCounts", "@binding; /product/class usablesize@width usablesize@height", "as many as a calendar with this binding has", When::Calendar},
+    {"/pages/pageCounts", "@numOfNormalPages; /product/class usablesize@width usablesize@height", "normal pages %1", When::Pieces},
+    {"/pages/pageCounts", "/product/class; usablesize@width usablesize@height", "one page"},
     {"/pages/defaultSellingPages", "@defaultSellingPages"},
     {"/pages/explicitNumberOfNormalPages", "@numOfNormalPages"},
     {"/pages/pageCount", "asked:pages", nullptr, When::Asked},
     {"/pages/pageCount", "@defaultSellingPages", nullptr, When::Sold},
     {"/pages/pageCount", "/pages/pageCounts", "the smallest that is offered, else 1"},
+    {"/pages/isPageCountOffered", "/pages/pageCount /pages/pageCounts /spine/hasSpine", "a book with a spine has one for each page count", When::NoSpine},
     {"/pages/isPageCountOffered", "/pages/pageCount /pages/pageCounts", "the page count is one of those offered"},
+    {"/pages/nearestPageCounts", "/pages/pageCount /pages/pageCounts /spine/hasSpine", "the nearest of those offered", When::NoSpine},
     {"/pages/nearestPageCounts", "/pages/pageCount /pages/pageCounts", "the nearest of those offered"},
     {"/pages/printedPages", "pages /pages/pageCount", "the pages of the page list"},
     {"/pages/listEntries", "pages", "the entries of the page list"},
@@ -52,8 +55,8 @@ constexpr PxOriginRow rows[] = {
     {"/pages/pagesWithContent", "pageswithcontent /pages/printedPages", "those that the file lists, else all"},
 
     {"/sizes/page", "usablesize@width usablesize@height"},
-    {"/sizes/page/width", "usablesize@width; usablesize@height"},
-    {"/sizes/page/height", "usablesize@height; usablesize@width"},
+    {"/sizes/page/width", "usablesize@width"},
+    {"/sizes/page/height", "usablesize@height"},
     {"/sizes/cover/width", "usablesize@width @coverextrahorizontal /product/class; spines/spine[smallest]@width spines", "page %1 + %2 - 10", When::WideSpines},
     {"/sizes/cover/width", "usablesize@width @coverextrahorizontal /product/class; spines", "page %1 + %2", When::Spines},
     {"/sizes/cover/width", "usablesize@width @coverextrahorizontal", "page %1 + %2"},
@@ -64,7 +67,7 @@ constexpr PxOriginRow rows[] = {
     {"/sizes/coverBleed/top", "@bleedmargincoververtical|@bleedmargincover"},
     {"/sizes/safetyMargins", "@safetymargin"},
     {"/sizes/foldMargin", "@foldmargin", nullptr, When::Given},
-    {"/sizes/foldMargin", "surroundings /sizes/page/width /product/orientation", "a part of the page's width if a surrounding has a binding shade"},
+    {"/sizes/foldMargin", "surroundings /sizes/page /product/orientation", "a part of the page's width if a surrounding has a binding shade"},
     {"/sizes/clamp", "@normalpagehorizontalclamp"},
 
     {"/pageKinds", "pages /pages/pageCount; @horizontalPages @binding @cardStyleAlignment @varioSingleCardStyleAlignment @collegeBlockStyleAlignment", "the pages of the page list, by type and side", When::Simplex},
@@ -148,7 +151,8 @@ constexpr PxOriginRow rows[] = {
     {"/design/backgroundCategories", "/product/class", "\"Einfarbig\" for decoration, else all"},
     {"/design/fullBackgroundOnEachPage", "@fullBackgroundOnEachPage", nullptr, When::Given},
     {"/design/fullBackgroundOnEachPage", "/product/class", "for calendars, gifts and cards"},
-    {"/design/backgroundSize", "/sizes/page @horizontalPages /product/class", "a page, or a spread of a book"},
+    {"/design/backgroundSize", "/sizes/page @horizontalPages /product/class", "a spread, or one page if pages are not side by side", When::Book},
+    {"/design/backgroundSize", "/sizes/page /product/class", "one page"},
     {"/design/backgroundRatio", "/design/backgroundSize", "width by height"},
     {"/design/imagesPerPage", "/product/space", "that of the size class"},
     {"/design/pointSize", "/product/space /sizes/page", "that of the size class, else by the area of the page"},

@@ -17,6 +17,7 @@ enum class PxOriginCase {
     Pieces,     ///< … gifts, cards and decoration
     WideSpines, ///< a book whose spines gain what the covers lose
     Spines,     ///< a book with spines
+    NoSpine,    ///< a book without a spine for the page count
     Simplex,    ///< the binding is one-sided
     // Of rows that are about a kind of page
     SpineKind,

@@ -91,7 +91,8 @@ QMap<QString, PxOrigin> PxOriginReader::read()
     QString last;
     for (const PxOriginRow &row : PxOriginRows::all()) {
         const QString pattern = row.pointer;
-        if (pattern == last) // the rows of a pattern stand together
+        // The rows of a pattern stand together. The row of a table is no value of its own.
+        if (pattern == last || pattern.endsWith('*'))
             continue;
         last = pattern;
         for (int index = 0; index < rowsOf(pattern); ++index)
@@ -159,6 +160,8 @@ bool PxOriginReader::holds(const PxOriginRow &row, int index) const
         return isClass(PxProductClassBook) && product.spineWidth(product.minPages()) > 0;
     case When::Spines:
         return isClass(PxProductClassBook) && product.minPages() <= product.maxPages();
+    case When::NoSpine:
+        return isClass(PxProductClassBook) && !m_entries.find("spine[shown]", 0).element;
     case When::Simplex:
         return product.isSimplex();
     default:
