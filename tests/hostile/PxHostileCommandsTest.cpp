@@ -179,6 +179,7 @@ void PxHostileCommandsTest::commandIsBounded_data()
     const QString commands =
         "list,list --json,list --format tsv --sort -size --theme wild,themes,themes --json,"
         "show KEYWORDS --pages 26,show DEFAULTS --theme wild --json,draw KEYWORDS,"
+        "show ITEMS --pages 9999 --origin,show DEFAULTS --theme wild --origin --json,"
         "compatible PAGES --json,variants VARIANTS --json,"
         "check,check --format json,check --format sarif,export";
     for (const QString &command : commands.split(','))

@@ -94,6 +94,7 @@ if sorted(lines) != ["catalogue", "legacyProduct", "product", "productType", "th
 commands = (
     ["list"], ["list", "--earlier"], ["list", "--columns", "size,space"], ["themes"], ["themes", "--key-account", "1"],
     ["show", "BOOK_A4_PORTRAIT"], ["show", "BOOK_A4_PORTRAIT", "--theme", "hochzeit", "--pages", "27"],
+    ["show", "BOOK_A4_PORTRAIT", "--origin", "--theme", "hochzeit"],
     ["show", "BOOK_CLASSIC_A4"], ["show", "CUP2"], ["show", "PDT1"], ["show", "BOOK_MINI"],
     ["compatible", "BOOK_A4_PORTRAIT"],
     ["compatible", "CUP2", "--criterion", "paper", "--theme", "hochzeit"], ["variants", "CUP2"],

@@ -70,8 +70,10 @@ QString PxOrigin::text() const
         return QString("user defaults (%1)").arg(at);
     case Kind::Question:
         return "asked";
+    case Kind::Default:
+        return rule.isEmpty() ? QString("default") : "default: " + rule;
     default:
-        return rule.isEmpty() ? QString(keyword(kind)) : rule + otherPlaces();
+        return rule + otherPlaces();
     }
 }
 

@@ -199,8 +199,9 @@ PxOrigin PxOriginReader::originOf(const PxOriginRow &row, int index) const
             choosing += inputsOf(*whole, true, index);
     }
     PxOrigin origin;
-    if (row.rule && (!inputs.isEmpty() || !*row.inputs))
-        origin.rule = filled(QString::fromUtf8(row.rule), inputs);
+    const QString rule = QString::fromUtf8(row.rule);
+    if (!inputs.isEmpty() || !rule.contains('%'))
+        origin.rule = filled(rule, inputs);
     if (!inputs.isEmpty())
         origin.kind = row.rule ? Kind::Computed : inputs.constFirst().kind;
     for (const Input &input : inputs) {
@@ -228,7 +229,7 @@ PxOriginReader::Inputs PxOriginReader::inputsOf(const PxOriginRow &row, bool are
     const QString part = QString(row.inputs).section(';', areChoosing ? 1 : 0, areChoosing ? 1 : 0);
     for (const QString &alternatives : part.split(' ', Qt::SkipEmptyParts)) {
         const Input found = input(alternatives, index);
-        if (found.isThere || (row.rule && QString(row.rule).contains('%')))
+        if (found.isThere || QString::fromUtf8(row.rule).contains('%'))
             inputs.append(found);
     }
     // A formula needs all its inputs, but at least one that is there.
