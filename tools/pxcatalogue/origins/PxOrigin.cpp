@@ -77,10 +77,9 @@ QString PxOrigin::text() const
     }
 }
 
-/** The first places that the rule does not have, in brackets; of each file the path once. */
+/** The places that the rule does not have, in brackets; of each file the path once. */
 QString PxOrigin::otherPlaces() const
 {
-    constexpr int most = 3;
     QStringList places;
     QString last;
     for (const QString &input : from) {
@@ -90,8 +89,5 @@ QString PxOrigin::otherPlaces() const
         places.append(path == last ? input.section(':', -2) : input);
         last = path;
     }
-    if (places.isEmpty())
-        return QString();
-    const bool areMore = places.size() > most;
-    return QString(" (%1)").arg(places.mid(0, most).join(", ") + (areMore ? ", …" : ""));
+    return places.isEmpty() ? QString() : QString(" (%1)").arg(places.join(", "));
 }

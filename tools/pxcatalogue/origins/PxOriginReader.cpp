@@ -39,24 +39,25 @@ QMap<QString, PxOriginFile> filesOf(const PxShownProduct &shown)
     return files;
 }
 
+/** Whether one of the words is known, or at least means something else than the default. */
+bool isReadAsKeywords(const QString &text, const PxAttributeRow &row)
+{
+    bool isAnyKnown = false;
+    pxForEachPart(text, [&](QStringView part) {
+        isAnyKnown = isAnyKnown || PxFormat::isKeyword(row.keywords, part.trimmed().toString());
+    });
+    return isAnyKnown || PxFormat::decode(row.keywords, text) !=
+                             PxFormat::decode(row.keywords, QString::fromUtf8(row.defaultText));
+}
+
 /** Whether the library uses what is written, not the default. */
 bool isRead(const PxSourceElement &element, const PxSourceAttribute &attribute,
             const PxAttributeRow &row)
 {
-    bool isAnyKeyword = false;
-    switch (row.type) {
-    case PxValueType::Keyword:
-    case PxValueType::KeywordList:
-        pxForEachPart(attribute.value, [&](QStringView part) {
-            isAnyKeyword =
-                isAnyKeyword || PxFormat::isKeyword(row.keywords, part.trimmed().toString());
-        });
-        return isAnyKeyword;
-    case PxValueType::DateTime:
+    if (row.keywords != PxKeywordSet::None)
+        return isReadAsKeywords(attribute.value, row);
+    if (row.type == PxValueType::DateTime)
         return PxXMLParser::dateTimeAttribute(element.dom, attribute.name, QString()).isValid();
-    default:
-        break;
-    }
     const bool isEmptyDefault = row.defaultText && *row.defaultText == 0;
     return PxElementReading::isReadable(element, attribute, row) &&
            !(isEmptyDefault && attribute.value.isEmpty());
@@ -255,6 +256,7 @@ PxOriginReader::Input PxOriginReader::inputAt(const QString &term, int index) co
     Input input;
     input.isThere = true;
     if (term.startsWith('/')) {
+        input.isThere = m_report.contains(term.section('/', 1, 1)); // a theme may not be
         input.from = QString(term).replace('*', QString::number(index));
         return input;
     }
