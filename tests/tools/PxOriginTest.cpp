@@ -28,6 +28,12 @@ private slots:
 
 namespace {
 
+#ifdef PX_SANITIZED
+constexpr int everyNth = 10; // of ten edits only one, which takes long enough
+#else
+constexpr int everyNth = 1;
+#endif
+
 QJsonObject show(const PxSampleCopy &sample, const QString &arguments)
 {
     return PxProgramRun(PX_CATALOGUE_PROGRAM, ("show " + arguments + " --json").split(' ') +
@@ -121,7 +127,7 @@ QStringList valuesOf(const PxAttributeRow &row, const QString &old)
     case PxValueType::Integer:
     case PxValueType::Length:
     case PxValueType::RectanglePart:
-        return {QString::number(old.toInt() + 2), "0", "1", "-1", "9999", "x"};
+        return {QString::number(old.toInt() + 2), "9999", "-1", "0", "x"};
     case PxValueType::Boolean:
         return {"true", "false", "x"};
     case PxValueType::Keyword:
@@ -135,7 +141,7 @@ QStringList valuesOf(const PxAttributeRow &row, const QString &old)
     case PxValueType::ProductName:
         return {"BOOK_CLASSIC_SQUARE", "CUP2", old.toLower()};
     default:
-        return {"x", "x,y", "", "hochzeit", "images/barcode.png", old.toLower()};
+        return {"x,y", "", "hochzeit", "images/barcode.png", old.toLower()};
     }
 }
 
@@ -156,9 +162,12 @@ QStringList textsOf(const PxElementRow &row)
     }
 }
 
-/** All edits of one file, or of the first element that has this attribute with this value. */
+/**
+ * Edits of a file, or of what is in its element with this id or name. Exact ones change in many
+ * ways what is there, the others also add what is not.
+ */
 QVector<Edit> editsOf(const PxSampleCopy &sample, const QString &name, PxFileKind kind,
-                      const QString &only)
+                      const QString &only, bool isExact)
 {
     const PxCheckedFile file(sample.filePath(name));
     const QString text = file.source().text();
@@ -166,7 +175,9 @@ QVector<Edit> editsOf(const PxSampleCopy &sample, const QString &name, PxFileKin
         const PxPlace place = file.place({index, index});
         return QString("%1:%2:%3").arg(name).arg(place.line).arg(place.column);
     };
-    constexpr int most = 4; // of equal elements more would only take time
+    // More would only take time.
+    constexpr int elements = 3; // that are equal
+    const int values = isExact ? 20 : 2;
     QMap<QString, int> countOf;
     QVector<Edit> edits;
     file.source().forEachElement([&](const PxSourceElement &element) {
@@ -179,7 +190,7 @@ QVector<Edit> editsOf(const PxSampleCopy &sample, const QString &name, PxFileKin
             isMeant = isMeant || e->value("id") == only || e->value("name") == only;
         }
         const PxElementRow *row = PxFormat::find(kind, path.join('/'));
-        if (!row || !isMeant || path.isEmpty() || ++countOf[path.join('/')] > most)
+        if (!row || !isMeant || path.isEmpty() || ++countOf[path.join('/')] > elements)
             return;
         const auto add = [&](const QStringList &places, const PxSourceRange &range,
                              const QString &part, const QString &what) {
@@ -195,9 +206,11 @@ QVector<Edit> editsOf(const PxSampleCopy &sample, const QString &name, PxFileKin
                 QStringList{placeOf(own ? own->nameRange.begin : behind + 1)} + around;
             if (own)
                 add(places, {own->nameRange.begin, own->valueRange.end + 1}, QString(), what);
-            else if (countOf[path.join('/')] > 1)
+            else if (isExact || countOf[path.join('/')] > 1)
                 continue;
-            for (const QString &value : valuesOf(attribute, own ? own->value : QString())) {
+            for (const QString &value : valuesOf(attribute, own ? own->value : "").mid(0, values)) {
+                if (own && own->value == value)
+                    continue;
                 const QString all = QString("%1=\"%2\"").arg(attribute.name, value);
                 if (own)
                     add(places, {own->nameRange.begin, own->valueRange.end + 1}, all, what);
@@ -346,9 +359,12 @@ void PxOriginTest::valuesChangeWithTheirOrigins()
     const QJsonObject origins = before["origins"].toObject();
     QStringList wrong;
     QJsonObject absent;
+    int count = 0;
     QMap<QString, QString> edited; // what, by its place
     QSet<QString> changing;        // pattern and place
-    for (const Edit &edit : editsOf(sample, file, PxFileKind(kind), only)) {
+    for (const Edit &edit : editsOf(sample, file, PxFileKind(kind), only, isExact)) {
+        if (++count % everyNth != 0)
+            continue;
         sample.write(file, edit.text);
         const QJsonObject after = show(sample, question + " --origin");
         if (edit.isNew || edit.isRemoval)
@@ -356,7 +372,7 @@ void PxOriginTest::valuesChangeWithTheirOrigins()
         if (after.isEmpty())
             continue; // the product is gone
         wrong += unnamedChanges(before, after, edit);
-        if (edit.what.contains('@') && !absent.isEmpty())
+        if (everyNth == 1 && edit.what.contains('@') && !absent.isEmpty())
             wrong += wrongDefaults(absent, after, edit);
         if (!edit.isNew)
             edited[edit.places[0]] = edit.what;
@@ -370,8 +386,8 @@ void PxOriginTest::valuesChangeWithTheirOrigins()
     for (const QString &pointer : origins.keys()) {
         const QString pattern = PxOriginRows::patternOf(pointer);
         for (const QString &place : namedBy(origins, pointer)) {
-            if (isExact && edited.contains(place) && !changing.contains(pattern + ' ' + place) &&
-                !isException(pattern, edited[place]))
+            if (isExact && everyNth == 1 && edited.contains(place) &&
+                !changing.contains(pattern + ' ' + place) && !isException(pattern, edited[place]))
                 wrong.append(edited[place] + " does not change " + pattern);
         }
     }
