@@ -21,6 +21,8 @@ class PxOriginTest : public QObject
     Q_OBJECT
 
 private slots:
+    void saysAllOfAnOrigin();
+    void fitsTheTerminalAndIsWholeElsewhere();
     void everyValueHasAnOrigin();
     void valuesChangeWithTheirOrigins_data();
     void valuesChangeWithTheirOrigins();
@@ -28,7 +30,7 @@ private slots:
 
 namespace {
 
-#ifdef PX_SANITIZED
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 constexpr int everyNth = 10; // of ten edits only one, which takes long enough
 #else
 constexpr int everyNth = 1;
@@ -273,6 +275,60 @@ QStringList wrongDefaults(const QJsonObject &absent, const QJsonObject &after, c
 
 } // namespace
 
+void PxOriginTest::saysAllOfAnOrigin()
+{
+    const PxSampleCopy sample;
+    const QJsonObject origins =
+        show(sample, "BOOK_A4_PORTRAIT --pages 28 --theme hochzeit --origin")["origins"].toObject();
+    const QString file = "products/book_a4_portrait.xml";
+    QCOMPARE(origins["/spine/width"].toObject(),
+             (QJsonObject{
+                 {"kind", "computed"},
+                 {"path", file},
+                 {"line", 71},
+                 {"column", 25},
+                 {"from", QJsonArray{file + ":71:25", file + ":71:14", "/pages/pageCount",
+                                     "/product/class", file + ":70:25", file + ":69:6"}},
+                 {"rule", "spine 76 (" + file + ":71:25) + 20"},
+             }));
+    const auto kindOf = [&](const char *pointer) {
+        return origins[QLatin1String(pointer)].toObject()["kind"].toString();
+    };
+    QCOMPARE(kindOf("/product/binding"), QString("file"));
+    QCOMPARE(kindOf("/product/hasHook"), QString("default"));
+    QCOMPARE(kindOf("/templates/3/layout"), QString("default"));
+    QCOMPARE(kindOf("/theme/expiryDay"), QString("theme"));
+    QCOMPARE(kindOf("/theme/isExpired"), QString("clock"));
+    QCOMPARE(kindOf("/pages/pageCount"), QString("question"));
+    QCOMPARE(kindOf("/product/shortName"), QString("productTypes"));
+
+    // Directories elsewhere; files in the catalogue are named from there.
+    QVERIFY(QDir(sample.path()).rename("products", "other") &&
+            QDir(sample.path()).rename("defaults", "own"));
+    const QString other =
+        QString("CARD_FOLDED_A6 --origin --products %1/other --user-defaults %1/own")
+            .arg(sample.path());
+    const QJsonObject moved = show(sample, other)["origins"].toObject();
+    QCOMPARE(moved["/product/binding"].toObject()["path"],
+             QJsonValue("products/card_folded_a6.xml"));
+    const QJsonObject background = moved["/templates/0/background"].toObject();
+    QCOMPARE(background["kind"], QJsonValue("userDefaults"));
+    QCOMPARE(background["path"], QJsonValue(sample.filePath("own/CARD_FOLDED_A6.xml")));
+}
+
+void PxOriginTest::fitsTheTerminalAndIsWholeElsewhere()
+{
+    for (const int columns : {1, 40, 80, 0}) {
+        const PxProgramRun run(PX_CATALOGUE_PROGRAM,
+                               {"show", "BOOK_A4_PORTRAIT", "--theme", "hochzeit", "--origin"},
+                               {{"COLUMNS", columns > 0 ? QString::number(columns) : ""}});
+        QVERIFY(run.output().size() > 100);
+        for (const QString &line : run.output())
+            QVERIFY2(columns > 0 ? line.size() <= columns : !line.contains(QChar(0x2026)),
+                     qPrintable(line));
+    }
+}
+
 void PxOriginTest::everyValueHasAnOrigin()
 {
     const PxSampleCopy sample;
@@ -392,7 +448,7 @@ void PxOriginTest::valuesChangeWithTheirOrigins()
         }
     }
     wrong.removeDuplicates();
-    QCOMPARE(wrong.join('\n'), QString());
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
 }
 
 QTEST_GUILESS_MAIN(PxOriginTest)

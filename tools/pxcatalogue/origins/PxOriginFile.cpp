@@ -59,7 +59,10 @@ PxOriginFile PxOriginFile::product(const QString &name)
 {
     if (name.isEmpty())
         return {};
-    PxOriginFile file(Kind::File, PxFileKind::Product, resource(name), name);
+    // The directory may be another one than that of the catalogue.
+    const QDir directory(resource(name.section('/', 0, -2)));
+    PxOriginFile file(Kind::File, PxFileKind::Product, directory.filePath(name.section('/', -1)),
+                      name);
     if (file.root())
         file.m_element = file.root()->firstChild("product");
     return file;

@@ -58,6 +58,8 @@ QStringList PxOriginColumn::linesOf(const Row &row, int column, int width)
     const bool isBelow = longestWord(row.origin) > width - column;
     const int begin = isBelow ? indent : column;
     QString line = row.label + QString(gap, ' ') + row.value;
+    while (line.endsWith(' '))
+        line.chop(1);
     QStringList lines;
     if (!isBeside || isBelow) {
         lines.append(line);
