@@ -180,6 +180,7 @@ void PxHostileCommandsTest::commandIsBounded_data()
         "list,list --json,list --format tsv --sort -size --theme wild,themes,themes --json,"
         "show KEYWORDS --pages 26,show DEFAULTS --theme wild --json,draw KEYWORDS,"
         "show ITEMS --pages 9999 --origin,show DEFAULTS --theme wild --origin --json,"
+        "why DEFAULTS --page 1 --theme wild --json,why PAGES --pages 100000 --page 99999,"
         "compatible PAGES --json,variants VARIANTS --json,"
         "check,check --format json,check --format sarif,export";
     for (const QString &command : commands.split(','))
@@ -199,7 +200,7 @@ void PxHostileCommandsTest::commandIsBounded()
     const double start = usageOfChildren().seconds;
     const PxProgramRun found = run(ourCatalogue.filePath(""), command);
     const double seconds = usageOfChildren().seconds - start;
-    QCOMPARE(found.status(), command.contains(QRegularExpression("check|variants")) ? 1 : 0);
+    QCOMPARE(found.status(), command.contains(QRegularExpression("check|variants|why")) ? 1 : 0);
     QVERIFY2(seconds <= maximumSecondsOfAll, qPrintable(QString::number(seconds)));
     QVERIFY(!found.output().isEmpty());
     QCOMPARE(!found.json().isEmpty(), command.contains(QRegularExpression("json|sarif")));

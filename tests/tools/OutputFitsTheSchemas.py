@@ -97,6 +97,9 @@ commands = (
     ["show", "BOOK_A4_PORTRAIT", "--origin", "--theme", "hochzeit"],
     ["show", "BOOK_CLASSIC_A4"], ["show", "CUP2"], ["show", "PDT1"], ["show", "BOOK_MINI"],
     ["compatible", "BOOK_A4_PORTRAIT"],
+    ["why", "CUP2"], ["why", "BOOK_CLASSIC_A4", "--pages", "26", "--theme", "hochzeit", "--key-account", "1"],
+    ["why", "BOOK_A4_PORTRAIT", "--pages", "27", "--theme", "design", "--page", "5", "--compatible-with", "BOOK_MINI",
+     "--criterion", "binding,paper,space,increment"],
     ["compatible", "CUP2", "--criterion", "paper", "--theme", "hochzeit"], ["variants", "CUP2"],
     ["check", "--pedantic"],
 )

@@ -81,6 +81,7 @@ void PxCatalogueTest::fitsTheTerminal()
     for (int columns : {1, 30, 80, 100})
         fit("list", columns);
     fit("show BOOK_A4_PORTRAIT", 50);
+    fit("why BOOK_A4_PORTRAIT --page 0 --pages 26 --compatible-with CUP2", 60);
 }
 
 void PxCatalogueTest::explainsEachCommand()

@@ -7,6 +7,7 @@
 #include "commands/PxShowCommand.h"
 #include "commands/PxThemesCommand.h"
 #include "commands/PxVariantsCommand.h"
+#include "commands/PxWhyCommand.h"
 #include "commands/check/PxCheckCommand.h"
 #include "writing/PxTerminal.h"
 
@@ -26,9 +27,9 @@ PxCommand::~PxCommand() = default;
 QVector<const PxCommand *> PxCommand::all()
 {
     return {
-        command<PxListCommand>(),       command<PxShowCommand>(),   command<PxDrawCommand>(),
-        command<PxCompatibleCommand>(), command<PxThemesCommand>(), command<PxCheckCommand>(),
-        command<PxVariantsCommand>(),   command<PxExportCommand>(),
+        command<PxListCommand>(),  command<PxShowCommand>(),       command<PxWhyCommand>(),
+        command<PxDrawCommand>(),  command<PxCompatibleCommand>(), command<PxThemesCommand>(),
+        command<PxCheckCommand>(), command<PxVariantsCommand>(),   command<PxExportCommand>(),
     };
 }
 

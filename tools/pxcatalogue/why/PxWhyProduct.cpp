@@ -1,0 +1,45 @@
+#include "why/PxWhyProduct.h"
+
+#include "drawing/PxPageCounts.h"
+#include "drawing/PxProductFile.h"
+#include "report/PxCatalogueProducts.h"
+
+static PxShownProduct shownProduct(const PxProductTypeConfigRegistry *registry,
+                                   const PxProductType &type, const QString &themeId, int pageCount)
+{
+    // No theme applies to a product of an earlier catalogue.
+    PxShownProduct shown{registry, type, PxCatalogueProducts::isCurrent(type) ? themeId : ""};
+    shown.file = PxProductFile::pathOf(type, shown.isLegacy());
+    shown.isPageCountAsked = pageCount > 0;
+    shown.pageCount = shown.isPageCountAsked
+                          ? pageCount
+                          : PxPageCounts::standard(*shown.product, shown.offeredPageCounts);
+    return shown;
+}
+
+PxWhyProduct::PxWhyProduct(const PxProductTypeConfigRegistry *registry, const PxProductType &type,
+                           const QString &themeId, int pageCount)
+    : m_shown(shownProduct(registry, type, themeId, pageCount))
+    , m_file(PxOriginFile::product(m_shown.file))
+    , m_theme(PxOriginFile::theme(themeId))
+    , m_origins(m_shown)
+{
+    if (m_file.element())
+        m_userDefaults = PxOriginFile::userDefaults(m_file.element()->value("name"));
+}
+
+bool PxWhyProduct::isCurrent() const
+{
+    return PxCatalogueProducts::isCurrent(type());
+}
+
+bool PxWhyProduct::isDescribed() const
+{
+    return isCurrent() || PxCatalogueProducts::isLegacy(type());
+}
+
+QVector<const PxSourceElement *> PxWhyProduct::entries(const char *list, const char *entry) const
+{
+    const PxSourceElement *found = m_file.element() ? m_file.element()->firstChild(list) : nullptr;
+    return found ? found->childrenNamed(entry) : QVector<const PxSourceElement *>();
+}
