@@ -182,7 +182,8 @@ void PxHostileCommandsTest::commandIsBounded_data()
         "show ITEMS --pages 9999 --origin,show DEFAULTS --theme wild --origin --json,"
         "why DEFAULTS --page 1 --theme wild --json,why PAGES --pages 100000 --page 99999,"
         "compatible PAGES --json,variants VARIANTS --json,"
-        "check,check --format json,check --format sarif,export";
+        "check,check --format json,check --format sarif,export,"
+        "diff SAMPLE HOSTILE,diff HOSTILE SAMPLE --json";
     for (const QString &command : commands.split(','))
         QTest::newRow(qPrintable(command)) << command;
 
@@ -197,10 +198,14 @@ void PxHostileCommandsTest::commandIsBounded()
 {
     static const HostileCatalogue ourCatalogue;
     QFETCH(QString, command);
+    const QString words = QString(command)
+                              .replace("SAMPLE", PX_SAMPLE_DIRECTORY)
+                              .replace("HOSTILE", ourCatalogue.filePath(""));
     const double start = usageOfChildren().seconds;
-    const PxProgramRun found = run(ourCatalogue.filePath(""), command);
+    const PxProgramRun found = run(ourCatalogue.filePath(""), words);
     const double seconds = usageOfChildren().seconds - start;
-    QCOMPARE(found.status(), command.contains(QRegularExpression("check|variants|why")) ? 1 : 0);
+    QCOMPARE(found.status(),
+             command.contains(QRegularExpression("check|diff|variants|why")) ? 1 : 0);
     QVERIFY2(seconds <= maximumSecondsOfAll, qPrintable(QString::number(seconds)));
     QVERIFY(!found.output().isEmpty());
     QCOMPARE(!found.json().isEmpty(), command.contains(QRegularExpression("json|sarif")));

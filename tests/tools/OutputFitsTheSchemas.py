@@ -106,9 +106,10 @@ commands = (
 for words in commands:
     text = run(*words, "--json", "--resources", str(catalogue))
     check(" ".join(words), output_validator(words[0]), json.loads(text))
+check("diff", output_validator("diff"), json.loads(run("diff", sample, str(catalogue), "--json")))
 for command in subprocess.run([program], stderr=subprocess.PIPE, check=False).stderr.decode().partition(
         ": use ")[2].partition(" (")[0].split(", "):
-    if "--json" in run(command, "--help") and command not in [words[0] for words in commands]:
+    if "--json" in run(command, "--help") and command not in ["diff", *(words[0] for words in commands)]:
         fail(f"no output of {command} is validated")
 baseline = catalogue / "known.json"
 run("check", "--resources", str(catalogue), "--pedantic", "--write-baseline", str(baseline))

@@ -134,6 +134,15 @@ std::optional<PxProblem> findResources(const PxCommandLine &line, const QStringL
     return resources->isEmpty() ? findResourcesAbove(paths, resources) : std::nullopt;
 }
 
+/** A named catalogue comes with its own themes and defaults. */
+void useResources(const QStringList &directories)
+{
+    auto *config = PxDirectoryConfig::instance();
+    config->setResourceDirectories(directories);
+    config->setUserDefaultsPath(config->resource("defaults", false));
+    config->setThemesDirectory(config->resource("themes", false));
+}
+
 std::optional<PxProblem> useGivenOnes(const PxCommandLine &line, const QStringList &paths)
 {
     QStringList resources;
@@ -151,11 +160,8 @@ std::optional<PxProblem> useGivenOnes(const PxCommandLine &line, const QStringLi
             return problem;
     }
     auto *config = PxDirectoryConfig::instance();
-    if (!resources.isEmpty()) { // a named catalogue comes with its own themes and defaults
-        config->setResourceDirectories(resources);
-        config->setUserDefaultsPath(config->resource("defaults", false));
-        config->setThemesDirectory(config->resource("themes", false));
-    }
+    if (!resources.isEmpty())
+        useResources(resources);
     if (!userDefaults.isEmpty())
         config->setUserDefaultsPath(userDefaults);
     if (!themes.isEmpty())
@@ -200,6 +206,15 @@ std::optional<PxProblem> PxCatalogueDirectories::apply(const PxCommandLine &line
     auto problem = useGivenOnes(line, {});
     if (!problem)
         problem = findFiles(true, howToNameIt);
+    return problem ? problem : readTypes();
+}
+
+std::optional<PxProblem> PxCatalogueDirectories::applyResources(const QString &directory)
+{
+    if (const auto problem = problemOf(directory))
+        return problem;
+    useResources({directory});
+    const auto problem = findFiles(true, QString());
     return problem ? problem : readTypes();
 }
 

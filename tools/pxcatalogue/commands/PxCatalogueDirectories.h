@@ -14,6 +14,8 @@ class PxCatalogueDirectories
 public:
     /** Sets the directories in the platform, where the library looks for them. */
     static std::optional<PxProblem> apply(const PxCommandLine &line);
+    /** The same for one resource directory and what is in it. */
+    static std::optional<PxProblem> applyResources(const QString &directory);
     /**
      * The same for a check, whose arguments are the resource directory or files.
      *

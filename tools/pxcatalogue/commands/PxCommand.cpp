@@ -1,6 +1,7 @@
 #include "commands/PxCommand.h"
 
 #include "commands/PxCompatibleCommand.h"
+#include "commands/PxDiffCommand.h"
 #include "commands/PxDrawCommand.h"
 #include "commands/PxExportCommand.h"
 #include "commands/PxListCommand.h"
@@ -30,6 +31,7 @@ QVector<const PxCommand *> PxCommand::all()
         command<PxListCommand>(),  command<PxShowCommand>(),       command<PxWhyCommand>(),
         command<PxDrawCommand>(),  command<PxCompatibleCommand>(), command<PxThemesCommand>(),
         command<PxCheckCommand>(), command<PxVariantsCommand>(),   command<PxExportCommand>(),
+        command<PxDiffCommand>(),
     };
 }
 

@@ -19,9 +19,12 @@ constexpr const char *introduction =
 constexpr const char *exitStatus =
     "\nExit status: 0 done; 1 the answer is \"no\": there is no such product or theme, several "
     "products fit the name, no product fits the filters, there is no other product that is "
-    "interchangeable, no theme to order, no variant, or why says no; 2 wrong usage, a directory or "
-    "a producttypes.xml that cannot be read, or output that cannot be written. \"pxcatalogue help "
-    "draw\" shows more reasons, \"pxcatalogue help check\" the exit status of check.";
+    "interchangeable, no theme to order, no variant, why says no, or two catalogues differ; 2 "
+    "wrong "
+    "usage, a directory or a producttypes.xml that cannot be read, or output that cannot be "
+    "written. "
+    "\"pxcatalogue help draw\" shows more reasons, \"pxcatalogue help check\" the exit status of "
+    "check.";
 
 /** Each line that is too long, in several; the others as they are. */
 QString wrapped(const QString &text)

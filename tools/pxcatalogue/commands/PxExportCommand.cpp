@@ -8,21 +8,6 @@
 
 #include <PxProductProperties.h>
 
-namespace {
-
-/** Makes what the library reads the same for every user on every machine. */
-void becomeIndependentOfUser(const PxCommandLine &line)
-{
-    // Expiry dates are read as local time: in UTC no hour is missing, nor any day.
-    qputenv("TZ", "UTC");
-    // The default templates of whoever runs the command are no part of the catalogue.
-    auto *config = PxDirectoryConfig::instance();
-    if (!line.isSet("user-defaults"))
-        config->setUserDefaultsPath(config->resource("defaults", false));
-}
-
-} // namespace
-
 PxCommandUsage PxExportCommand::usage() const
 {
     // clang-format off
@@ -40,7 +25,7 @@ PxExitStatus PxExportCommand::run(const PxCommandLine &line) const
 {
     if (const auto problem = PxCatalogueDirectories::apply(line))
         return fail(*problem);
-    becomeIndependentOfUser(line);
+    PxCatalogueExport::becomeIndependentOfUser(line.isSet("user-defaults"));
     PxProductPropertiesInitializer::setupModule();
     PxCatalogueExport catalogue;
     const PxJsonLines lines = [&catalogue] { return catalogue.next(); };

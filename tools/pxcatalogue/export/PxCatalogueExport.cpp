@@ -39,6 +39,16 @@ PxCatalogueExport::PxCatalogueExport()
     , m_themes(PxThemeTable::sorted(PxThemeFactory::instance()->themeList()))
 {}
 
+void PxCatalogueExport::becomeIndependentOfUser(bool hasDefaults)
+{
+    // Expiry dates are read as local time: in UTC no hour is missing, nor any day.
+    qputenv("TZ", "UTC");
+    // The default templates of whoever runs the command are no part of the catalogue.
+    auto *config = PxDirectoryConfig::instance();
+    if (!hasDefaults)
+        config->setUserDefaultsPath(config->resource("defaults", false));
+}
+
 std::optional<PxJsonLine> PxCatalogueExport::next()
 {
     const int index = m_next++;

@@ -18,6 +18,12 @@ class PxCatalogueExport
 public:
     PxCatalogueExport();
 
+    /**
+     * Makes what the library reads the same for every user on every machine. Call it before the
+     * library reads anything; `hasDefaults` says that the user's default templates are asked for.
+     */
+    static void becomeIndependentOfUser(bool hasDefaults);
+
     /** The next object; nothing after the last one. */
     std::optional<PxJsonLine> next();
 

@@ -1,5 +1,8 @@
 #include "report/PxNumberRanges.h"
 
+#include <QRegularExpression>
+#include <QVector>
+
 #include <limits>
 
 namespace {
@@ -46,4 +49,27 @@ QString PxNumberRanges::text(const QList<int> &numbers, int begin, int end, int 
 QString PxNumberRanges::text(const QList<int> &numbers)
 {
     return text(numbers, 0, numbers.size(), std::numeric_limits<int>::max());
+}
+
+std::optional<QList<int>> PxNumberRanges::numbers(const QString &text, int most)
+{
+    static const QRegularExpression ourRange(
+        "^(-?[0-9]{1,10})(?:-([0-9]{1,10})(?:/([0-9]{1,10}))?)?$");
+    QList<int> numbers;
+    const QVector<QStringRef> parts =
+        text.isEmpty() ? QVector<QStringRef>() : text.splitRef(QLatin1String(", "));
+    for (const QStringRef &part : parts) {
+        const auto match = ourRange.match(part);
+        const qint64 first = match.capturedRef(1).toLongLong();
+        const qint64 last =
+            match.lastCapturedIndex() < 2 ? first : match.capturedRef(2).toLongLong();
+        const qint64 step = match.lastCapturedIndex() < 3 ? 1 : match.capturedRef(3).toLongLong();
+        if (!match.hasMatch() || step < 1 || last < first ||
+            first < std::numeric_limits<int>::min() || last > std::numeric_limits<int>::max() ||
+            (last - first) / step >= most - numbers.size())
+            return std::nullopt;
+        for (qint64 number = first; number <= last; number += step)
+            numbers.append(int(number));
+    }
+    return numbers;
 }

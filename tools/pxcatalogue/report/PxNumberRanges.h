@@ -3,6 +3,8 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
+
 /** Numbers as a short text: "3-7, 26-154/2" means 3 to 7, then 26 to 154 in steps of 2. */
 class PxNumberRanges
 {
@@ -14,4 +16,6 @@ public:
     static QString text(const QList<int> &numbers, int begin, int end, int largestStep);
     /** All numbers, in ranges of any step. */
     static QString text(const QList<int> &numbers);
+    /** The numbers of a text; nothing if it is none, or if there are more than `most`. */
+    static std::optional<QList<int>> numbers(const QString &text, int most);
 };

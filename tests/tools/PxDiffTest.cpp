@@ -1,0 +1,145 @@
+#include "PxProgramRun.h"
+#include "PxSampleCopy.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+/** What "diff" says of catalogues of which it is known how they differ. */
+class PxDiffTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void namesEachChangeOnce();
+};
+
+namespace {
+
+PxProgramRun run(const QStringList &words, const QMap<QString, QString> &environment = {})
+{
+    return PxProgramRun(PX_CATALOGUE_PROGRAM, words, environment);
+}
+
+QString textOf(const QJsonValue &value)
+{
+    const QByteArray json = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+    return QString::fromUtf8(json.mid(1, json.size() - 2)).remove('"');
+}
+
+/** Each difference in a line: "products BOOK_MINI /pages/offered: 18-42/4 -> 18-38/4". */
+QStringList differencesIn(const QJsonObject &json)
+{
+    QStringList lines;
+    for (const QString kind : {"products", "legacyProducts", "themes"}) {
+        const QJsonObject diff = json[kind].toObject();
+        for (const char *list : {"added", "removed", "renamed"}) {
+            for (const auto &name : diff[QLatin1String(list)].toArray())
+                lines.append(QString("%1 %2 %3").arg(kind, list, textOf(name)));
+        }
+        for (const auto &object : diff["changed"].toArray()) {
+            for (const auto &value : object.toObject()["changes"].toArray()) {
+                const QJsonObject change = value.toObject();
+                const QString pageCounts = change["pageCounts"].toString();
+                lines.append(QString("%1 %2 %3%4: %5 -> %6")
+                                 .arg(kind, object.toObject()["name"].toString(),
+                                      change["key"].toString(),
+                                      pageCounts.isEmpty() ? "" : " for " + pageCounts,
+                                      textOf(change["before"]), textOf(change["after"])));
+            }
+        }
+    }
+    return lines;
+}
+
+QStringList without(QStringList lines, const QStringList &others)
+{
+    for (const QString &line : others)
+        lines.removeAll(line);
+    return lines;
+}
+
+/** A change of a file: without an old text a new file, without a new one the end of a file. */
+struct Edit
+{
+    const char *file;
+    const char *before;
+    const char *after;
+    const char *difference; ///< what is said of it; lines
+};
+
+// clang-format off
+constexpr Edit edits[] = {
+    // 1: three rows of a table, of which the last is shown with one page count more
+    {"products/book_a4_portrait.xml", R"(<spine pages="26" width="74")", R"(<spine pages="26" width="76")", "products BOOK_A4_PORTRAIT /spine/width for 26: 94 -> 96"},
+    {"products/book_a4_portrait.xml", R"(<spine pages="28" width="76")", R"(<spine pages="28" width="78")", "products BOOK_A4_PORTRAIT /spine/width for 28: 96 -> 98"},
+    // 2 and 3: a page of another size, and a cover that is larger by itself
+    {"products/book_a4_landscape.xml", R"(<usablesize width="2970")", R"(<usablesize width="2990")", "products BOOK_A4_LANDSCAPE /sizes/page: {height:2100,width:2970} -> {height:2100,width:2990}"},
+    {"products/book_a4_portrait_soft.xml", R"(coverextravertical="0")", R"(coverextravertical="20")", "products BOOK_A4_PORTRAIT_SOFT /sizes/cover: {height:2970,width:2110} -> {height:2990,width:2110}"},
+    // 4 and 5: page counts
+    {"products/book_mini.xml", R"(<spine pages="42" width="111" maxfontheight="72"/>)", " ", "products BOOK_MINI /pages/offered: 18-42/4 -> 18-38/4"},
+    {"products/book_compact.xml", R"(<spine pages="90" width="107" maxfontheight="69"/>)", R"(<spine pages="90" width="107" maxfontheight="69"/><spine pages="92" width="110"/>)", "products BOOK_COMPACT /pages/offered: 26-90/2 -> 26-92/2"},
+    // 6 to 9: what the product is made of
+    {"products/book_square_linen.xml", R"(bleedmargin="30")", R"(bleedmargin="40")", "products BOOK_SQUARE_LINEN /sizes/bleed: {bottom:30,left:30,right:30,top:30} -> {bottom:40,left:40,right:40,top:40}"},
+    {"products/book_square_linen.xml", R"(paper="indigo-matt")", R"(paper="glossy")", "products BOOK_SQUARE_LINEN /product/paper: {keyword:indigo-matt,name:Digitaldruck Premium-Matt} -> {keyword:glossy,name:Digitaldruck mit Hochglanz-Veredelung}"},
+    {"products/book_xl_square.xml", R"(binding="ARTIFICIALLEATHER")", R"(binding="LEATHER")", "products BOOK_XL_SQUARE /product/binding: {keyword:ARTIFICIALLEATHER,name:Kunstleder} -> {keyword:LEATHER,name:Leder}"},
+    {"products/calendar_wall_a4.xml", R"(numOfSpirals="34")", R"(numOfSpirals="36")", "products CALENDAR_WALL_A4 /product/numberOfSpiralLoops: 34 -> 36"},
+    // 10 to 13: rows of tables, one of them before the others
+    {"products/book_xxl_portrait.xml", R"(<surroundings>)", R"(<surroundings><surrounding type="PHOTOPAPERBOOK" pageType="emptypage" image="images/new.png" x="1" y="2" width="3" height="4"/>)", "products BOOK_XXL_PORTRAIT /surroundings/1: null -> {hasBindingShade:false,image:images/new.png,paintOnTop:true,places:[{alignment:left,page:null,pageType:emptypage},{alignment:right,page:null,pageType:emptypage}],rect:{height:4,width:3,x:1,y:2},type:[photopaperbook]}"},
+    {"products/book_foil_small.xml", R"(x="0" y="0" width="1400")", R"(x="10" y="0" width="1400")", "products BOOK_FOIL_SMALL /surroundings/0/rect: {height:1400,width:1400,x:0,y:0} -> {height:1400,width:1400,x:10,y:0}"},
+    {"products/book_foil_small.xml", R"(y="1300")", R"(y="1310")", "products BOOK_FOIL_SMALL /barcodes/0/rect: {height:60,width:240,x:540,y:1300} -> {height:60,width:240,x:540,y:1310}"},
+    {"products/canvas_40x30.xml", R"(Einfarbig Weiß,Bild ganzseitig)", R"(Einfarbig Weiß,Bild quer)", "products CANVAS_40X30 /templates/0/layout: Bild ganzseitig -> Bild quer"},
+    // 14 and 15: product types; themes that are for books allow it no longer
+    {"producttypes.xml", R"(shortname="Collegeblock A5")", R"(shortname="Block A5")", "products CB6 /product/shortName: Collegeblock A5 -> Block A5"},
+    {"producttypes.xml", R"(name="CARD_POSTCARD" class="card")", R"(name="CARD_POSTCARD" class="gift")", "products CARD_POSTCARD /product/class: card -> gift"},
+    // 16 and 17: themes
+    {"themes/grundthemen.xml", R"(id="schule" producttype="gift" expiry="205008312359")", R"(id="schule" producttype="gift" expiry="205107312359")", "themes schule expiryDay: 2050-08-31 -> 2051-07-31"},
+    {"themes/JAHRESZEITEN.XML", R"(<theme id="herbst")", R"(<theme id="herbst-2">)" "</theme><theme id=\"herbst\"", "themes added herbst-2"},
+    // 18 to 22: products that come, go and get another name
+    {"products/legacy/cup1.xml", R"(width="1950")", R"(width="1940")", "legacyProducts CUP1 /sizes/page: {height:950,width:1950} -> {height:950,width:1940}"},
+    {"products/foam_direct_40x60.xml", "x", "", "products removed FOAM_DIRECT_40X60"},
+    {"producttypes.xml", R"(<!-- Calendars -->)", R"(<producttype code="9999" name="CUP3" class="gift"/>)", "products added CUP3"},
+    {"products/cup3.xml", "", R"(<d><product name="CUP3" binding="GIFT" orientation="panorama"><pages>normalpage</pages><usablesize width="2000" height="950"/></product></d>)", ""},
+    {"producttypes.xml", R"(name="BOOK_A4_PORTRAIT_PHOTO")", R"(name="BOOK_A4_PHOTO")", "products renamed {code:104,from:BOOK_A4_PORTRAIT_PHOTO,to:BOOK_A4_PHOTO}"},
+    {"products/book_a4_portrait_photo.xml", R"(name="BOOK_A4_PORTRAIT_PHOTO")", R"(name="BOOK_A4_PHOTO")", ""},
+    {"themes/grundthemen.xml", R"(<product>BOOK_A4_PORTRAIT_PHOTO</product>)", R"(<product>BOOK_A4_PHOTO</product>)", ""},
+    {"products/legacy/canvas_classic_40x30.xml", "x", "", "legacyProducts removed CANVAS_CLASSIC_40X30"},
+};
+// clang-format on
+
+void apply(const PxSampleCopy &copy, const Edit &edit)
+{
+    if (qstrlen(edit.before) == 0)
+        copy.write(edit.file, QString::fromUtf8(edit.after));
+    else if (qstrlen(edit.after) == 0)
+        QVERIFY(QFile::remove(copy.filePath(edit.file)));
+    else
+        copy.replace(edit.file, QString::fromUtf8(edit.before), QString::fromUtf8(edit.after));
+}
+
+} // namespace
+
+void PxDiffTest::namesEachChangeOnce()
+{
+    const PxSampleCopy copy;
+    QStringList expected;
+    for (const Edit &edit : edits) {
+        apply(copy, edit);
+        expected += QString::fromUtf8(edit.difference).split('\n', Qt::SkipEmptyParts);
+    }
+    const PxProgramRun found = run({"diff", PX_SAMPLE_DIRECTORY, copy.path(), "--json"});
+    QCOMPARE(found.errors(), QStringList());
+    QCOMPARE(found.status(), 1);
+    const QStringList differences = differencesIn(found.json());
+    QVERIFY2(without(differences, expected).isEmpty(),
+             qPrintable("too much:\n" + without(differences, expected).join('\n')));
+    QVERIFY2(without(expected, differences).isEmpty(),
+             qPrintable("missing:\n" + without(expected, differences).join('\n')));
+    QCOMPARE(differences.size(), expected.size());
+}
+
+QTEST_GUILESS_MAIN(PxDiffTest)
+#include "PxDiffTest.moc"

@@ -1,0 +1,124 @@
+#include "commands/PxDiffCommand.h"
+
+#include "commands/PxCatalogueDirectories.h"
+#include "commands/PxCommandLine.h"
+#include "diff/PxCatalogueDiff.h"
+#include "diff/PxDiffJson.h"
+#include "diff/PxDiffText.h"
+#include "diff/PxExportProcess.h"
+#include "export/PxCatalogueExport.h"
+
+#include <PxProductProperties.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+std::optional<PxProblem> problemOf(const PxCommandLine &line)
+{
+    const QStringList paths = line.arguments();
+    if (paths.size() < 2)
+        return PxProblem{"diff needs two catalogues, the old one and the new one"};
+    for (const char *option : {"resources", "products", "legacy", "user-defaults", "themes"}) {
+        if (line.isSet(option))
+            return PxProblem{
+                QString("--%1 and diff do not go together: both catalogues are named").arg(option)};
+    }
+    const bool isJson = line.value("format").isEmpty() || line.keywords("format").contains("json");
+    if (line.isSet("json") && !isJson)
+        return PxProblem{"--json and another --format do not go together"};
+    for (const QString &path : paths) {
+        if (QFileInfo(path).isDir() && path.contains(QDir::listSeparator()))
+            return PxProblem{QString("the directory \"%1\" has a \"%2\" in its name")
+                                 .arg(path, QDir::listSeparator())};
+    }
+    return std::nullopt;
+}
+
+std::optional<PxProblem> readFile(const QString &path, PxExportedCatalogue *catalogue)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return PxProblem{QString("\"%1\" cannot be read: %2").arg(path, file.errorString())};
+    return catalogue->read(&file);
+}
+
+/** Reads the catalogue that this process holds. */
+std::optional<PxProblem> readDirectory(const QString &path, PxExportedCatalogue *catalogue)
+{
+    if (const auto problem = PxCatalogueDirectories::applyResources(path))
+        return problem;
+    PxCatalogueExport::becomeIndependentOfUser(false);
+    PxProductPropertiesInitializer::setupModule();
+    PxCatalogueExport exported;
+    while (const auto line = exported.next()) {
+        if (const auto problem = catalogue->addLine(line->toUtf8()))
+            return problem;
+    }
+    return catalogue->problemOfEnd();
+}
+
+QStringList optionsOfExport(const PxCommandLine &line)
+{
+    QStringList options;
+    if (line.isSet("lang"))
+        options.append({"--lang", line.value("lang")});
+    if (line.isSet("verbose"))
+        options.append("--verbose");
+    return options;
+}
+
+/** Reads both, if possible at the same time. */
+std::optional<PxProblem> readBoth(const PxCommandLine &line, PxExportedCatalogue *oldCatalogue,
+                                  PxExportedCatalogue *newCatalogue)
+{
+    const QString oldPath = line.arguments().value(0);
+    const QString newPath = line.arguments().value(1);
+    std::optional<PxExportProcess> process;
+    if (QFileInfo(oldPath).isDir())
+        process.emplace(oldPath, optionsOfExport(line));
+    else if (const auto problem = readFile(oldPath, oldCatalogue))
+        return problem;
+    const auto problem = QFileInfo(newPath).isDir() ? readDirectory(newPath, newCatalogue)
+                                                    : readFile(newPath, newCatalogue);
+    const auto problemOfOld = process ? process->read(oldCatalogue) : std::nullopt;
+    return problemOfOld ? problemOfOld : problem;
+}
+
+} // namespace
+
+PxCommandUsage PxDiffCommand::usage() const
+{
+    // clang-format off
+    return {"diff",
+        "How two catalogues differ: first what customers notice.\n"
+        "Each is a resource directory or what \"pxcatalogue export\" wrote. A value that follows from others "
+        "that changed is not listed. Exit status: 0 there is no difference, 1 there is one, 2 a catalogue cannot be read.", {
+        {"only", "KEYS", "Only changes of these values or sections, as in --json with \"*\" for an index, and of themes their members: /sizes, /barcodes/*/rect, expiryDay; added, removed and renamed stand for what is added, removed and renamed.", 0, 0, PxDiffKeys::all()},
+        {"format", "FORMAT", "text, json or markdown. Default: text.", 0, 0, {"text", "json", "markdown"}, PxOption::Form::OneKeyword},
+        {"json", "", "The same as --format json, with all lengths in tenths of a millimetre."},
+    }, {"OLD NEW", "Two catalogues.", "two catalogues, the old one and the new one", 2}};
+    // clang-format on
+}
+
+PxExitStatus PxDiffCommand::run(const PxCommandLine &line) const
+{
+    if (const auto problem = problemOf(line))
+        return fail(*problem);
+    PxExportedCatalogue oldCatalogue(line.arguments().constFirst());
+    PxExportedCatalogue newCatalogue(line.arguments().constLast());
+    if (const auto problem = readBoth(line, &oldCatalogue, &newCatalogue))
+        return fail(*problem);
+    PxDiff diff = PxCatalogueDiff::of(oldCatalogue, newCatalogue);
+    PxCatalogueDiff::filter(&diff, line.keywords("only"));
+    const QString format = line.isSet("json") ? "json" : line.keywords("format").value(0, "text");
+    const PxExitStatus status =
+        format == "json"
+            ? printed(PxDiffJson::of(diff))
+            : printed(PxDiffText::of(diff, format == "markdown" ? PxDiffText::Form::Markdown
+                                                                : PxDiffText::Form::Plain));
+    const PxExitStatus answer = diff.isEmpty() ? PxExitStatus::Done : PxExitStatus::AnswerIsNo;
+    return status == PxExitStatus::Done ? answer : status;
+}

@@ -1,0 +1,224 @@
+#include "diff/PxCatalogueDiff.h"
+
+#include "diff/PxProductDiff.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+
+namespace {
+
+/** The keys of a map that another one does not have. */
+template <typename Map>
+QList<typename Map::key_type> missingIn(const Map &other, const Map &map)
+{
+    QList<typename Map::key_type> missing;
+    for (auto object = map.begin(); object != map.end(); ++object) {
+        if (!other.contains(object.key()))
+            missing.append(object.key());
+    }
+    return missing;
+}
+
+QStringList namesOf(const QList<PxExportedCatalogue::Key> &keys)
+{
+    QStringList names;
+    for (const auto &key : keys)
+        names.append(key.first);
+    return names;
+}
+
+bool hasChange(const PxChangedObject &object, const char *key)
+{
+    return std::any_of(object.changes.begin(), object.changes.end(), [key](const PxChange &change) {
+        return qstrcmp(change.key->pointer, key) == 0;
+    });
+}
+
+/** Whether `only` has the key of a value, or its section. */
+bool isWanted(const PxDiffKey &key, const QStringList &only)
+{
+    const QString pointer = key.pointer;
+    return only.contains(pointer) || only.contains(pointer.section('/', 0, 1));
+}
+
+void filterKind(PxDiffOfKind *kind, const QStringList &only)
+{
+    if (!only.contains("added"))
+        kind->added.clear();
+    if (!only.contains("removed"))
+        kind->removed.clear();
+    if (!only.contains("renamed"))
+        kind->renamed.clear();
+    QVector<PxChangedObject> changed;
+    for (PxChangedObject object : qAsConst(kind->changed)) {
+        QVector<PxChange> changes;
+        std::copy_if(object.changes.begin(), object.changes.end(), std::back_inserter(changes),
+                     [&only](const PxChange &change) { return isWanted(*change.key, only); });
+        object.changes = changes;
+        if (!changes.isEmpty())
+            changed.append(object);
+    }
+    kind->changed = changed;
+}
+
+} // namespace
+
+PxDiff PxCatalogueDiff::of(const PxExportedCatalogue &oldCatalogue,
+                           const PxExportedCatalogue &newCatalogue)
+{
+    PxCatalogueDiff comparison;
+    PxDiff diff;
+    diff.products = comparison.compareProducts(oldCatalogue.products(), newCatalogue.products());
+    diff.legacyProducts =
+        comparison.compareProducts(oldCatalogue.legacyProducts(), newCatalogue.legacyProducts());
+    comparison.findCauses(diff);
+    comparison.removeExplained(&diff.products, newCatalogue.products());
+    comparison.removeExplained(&diff.legacyProducts, newCatalogue.legacyProducts());
+    diff.themes = comparison.compareThemes(oldCatalogue.themes(), newCatalogue.themes());
+    return diff;
+}
+
+void PxCatalogueDiff::filter(PxDiff *diff, const QStringList &only)
+{
+    if (only.isEmpty())
+        return;
+    for (PxDiffOfKind *kind : {&diff->products, &diff->legacyProducts, &diff->themes})
+        filterKind(kind, only);
+}
+
+PxDiffOfKind PxCatalogueDiff::compareProducts(const Objects &oldProducts,
+                                              const Objects &newProducts)
+{
+    PxDiffOfKind diff;
+    QHash<int, QString> removed; // by code
+    for (const QString &name : namesOf(missingIn(newProducts, oldProducts)))
+        removed.insert(oldProducts[{name, 0}].code, name);
+    QMap<QString, QString> oldNames; // by the new one
+    for (const QString &name : namesOf(missingIn(oldProducts, newProducts))) {
+        const int code = newProducts[{name, 0}].code;
+        const QString oldName = removed.take(code);
+        if (oldName.isEmpty()) {
+            diff.added.append(name);
+            continue;
+        }
+        diff.renamed.append({code, oldName, name});
+        oldNames.insert(name, oldName);
+        m_newNames.insert(oldName, name);
+    }
+    for (const QString &name : namesOf(missingIn(newProducts, oldProducts))) {
+        if (!m_newNames.contains(name))
+            diff.removed.append(name);
+    }
+    for (auto product = newProducts.begin(); product != newProducts.end(); ++product) {
+        const QString name = product.key().first;
+        const auto old = oldProducts.find({oldNames.value(name, name), 0});
+        if (old == oldProducts.end() || old->line == product->line)
+            continue;
+        const QVector<PxChange> changes = PxProductDiff(old->line, product->line).changes();
+        if (!changes.isEmpty())
+            diff.changed.append({name, 0, changes});
+    }
+    return diff;
+}
+
+/** What other products and themes say of a product follows from the changes of that one. */
+void PxCatalogueDiff::findCauses(const PxDiff &diff)
+{
+    for (const PxDiffOfKind *kind : {&diff.products, &diff.legacyProducts}) {
+        for (const QString &name : kind->added + kind->removed)
+            m_onlyInOne.insert(name);
+    }
+    m_changedLegacy = m_onlyInOne;
+    m_replacing = m_onlyInOne;
+    m_reclassified = m_onlyInOne;
+    for (const PxChangedObject &object : diff.legacyProducts.changed)
+        m_changedLegacy.insert(object.name);
+    for (const PxChangedObject &object : diff.products.changed) {
+        if (hasChange(object, "/legacy/replaces"))
+            m_replacing.insert(object.name);
+        if (hasChange(object, "/product/class"))
+            m_reclassified.insert(object.name);
+    }
+}
+
+void PxCatalogueDiff::removeExplained(PxDiffOfKind *products, const Objects &objects) const
+{
+    QVector<PxChangedObject> changed;
+    for (PxChangedObject product : qAsConst(products->changed)) {
+        const QJsonObject object =
+            QJsonDocument::fromJson(objects[{product.name, 0}].line).object();
+        const bool isReplacedChanged =
+            m_changedLegacy.contains(object["legacy"]["replaces"].toString());
+        const auto isExplained = [&](const PxChange &change) {
+            const QString key = change.key->pointer;
+            const QString before = change.before.toString();
+            const QString after = change.after.toString();
+            if (key == "/legacy/replaces")
+                return newName(before) == after;
+            if (key == "/legacy/replacedBy")
+                return newName(before) == after || m_replacing.contains(before) ||
+                       m_replacing.contains(after);
+            return key.startsWith("/legacy/") && isReplacedChanged;
+        };
+        auto &changes = product.changes;
+        changes.erase(std::remove_if(changes.begin(), changes.end(), isExplained), changes.end());
+        if (!changes.isEmpty())
+            changed.append(product);
+    }
+    products->changed = changed;
+}
+
+PxDiffOfKind PxCatalogueDiff::compareThemes(const Objects &oldThemes,
+                                            const Objects &newThemes) const
+{
+    PxDiffOfKind diff;
+    diff.added = namesOf(missingIn(oldThemes, newThemes));
+    diff.removed = namesOf(missingIn(newThemes, oldThemes));
+    for (auto theme = newThemes.begin(); theme != newThemes.end(); ++theme) {
+        const auto old = oldThemes.find(theme.key());
+        if (old == oldThemes.end() || old->line == theme->line)
+            continue;
+        const QVector<PxChange> changes = changesOfTheme(old->line, theme->line);
+        if (!changes.isEmpty())
+            diff.changed.append({theme.key().first, theme.key().second, changes});
+    }
+    return diff;
+}
+
+QVector<PxChange> PxCatalogueDiff::changesOfTheme(const QByteArray &oldLine,
+                                                  const QByteArray &newLine) const
+{
+    const QJsonObject oldTheme = QJsonDocument::fromJson(oldLine).object();
+    const QJsonObject newTheme = QJsonDocument::fromJson(newLine).object();
+    QVector<PxChange> changes;
+    for (const PxDiffKey &key : PxDiffKeys::ofThemes()) {
+        const QString member = key.pointer;
+        const QJsonValue before = oldTheme[member];
+        const QJsonValue after = newTheme[member];
+        if (before.isUndefined() || after.isUndefined() || before == after)
+            continue;
+        if (member != "allowedProducts" || !allowTheSame(before.toArray(), after.toArray()))
+            changes.append({&key, member, QString(), before, after});
+    }
+    return changes;
+}
+
+/**
+ * Whether the same products are allowed, apart from those that were added, removed or renamed, or
+ * that have another class now. An empty list allows all.
+ */
+bool PxCatalogueDiff::allowTheSame(const QJsonArray &before, const QJsonArray &after) const
+{
+    if (before.isEmpty() != after.isEmpty())
+        return false;
+    QSet<QString> oldNames;
+    for (const auto &name : before)
+        oldNames.insert(newName(name.toString()));
+    QSet<QString> newNames;
+    for (const auto &name : after)
+        newNames.insert(name.toString());
+    return oldNames.subtract(m_reclassified) == newNames.subtract(m_reclassified);
+}

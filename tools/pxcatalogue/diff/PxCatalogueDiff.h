@@ -1,0 +1,39 @@
+#pragma once
+
+#include "diff/PxDiff.h"
+#include "diff/PxExportedCatalogue.h"
+
+#include <QHash>
+#include <QSet>
+
+class QJsonArray;
+
+/** Compares two catalogues. */
+class PxCatalogueDiff
+{
+public:
+    static PxDiff of(const PxExportedCatalogue &oldCatalogue,
+                     const PxExportedCatalogue &newCatalogue);
+    /** Leaves only the changes of some keys or sections; "added" and the like are keys, too. */
+    static void filter(PxDiff *diff, const QStringList &only);
+
+private:
+    using Objects = PxExportedCatalogue::Objects;
+
+    PxCatalogueDiff() = default;
+
+    PxDiffOfKind compareProducts(const Objects &oldProducts, const Objects &newProducts);
+    PxDiffOfKind compareThemes(const Objects &oldThemes, const Objects &newThemes) const;
+    QVector<PxChange> changesOfTheme(const QByteArray &oldLine, const QByteArray &newLine) const;
+    bool allowTheSame(const QJsonArray &before, const QJsonArray &after) const;
+    void findCauses(const PxDiff &diff);
+    void removeExplained(PxDiffOfKind *products, const Objects &objects) const;
+    QString newName(const QString &name) const { return m_newNames.value(name, name); }
+
+    QHash<QString, QString> m_newNames; // of products that are renamed, by the old name
+    // Products that explain what others say of them: they are only in one of the catalogues, or …
+    QSet<QString> m_onlyInOne;
+    QSet<QString> m_changedLegacy; // … changed, and of an earlier catalogue
+    QSet<QString> m_replacing;     // … replace another one now
+    QSet<QString> m_reclassified;  // … have another class
+};

@@ -1,0 +1,130 @@
+#include "diff/PxComparedProduct.h"
+
+#include "report/PxNumberRanges.h"
+
+#include <description/PxProductTypeDescription.h>
+
+#include <QHash>
+#include <QJsonDocument>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int most = PxProductTypeDescription::maximumListedPages;
+
+QList<int> numbersOf(const QJsonValue &text)
+{
+    return PxNumberRanges::numbers(text.toString(), most).value_or(QList<int>());
+}
+
+bool isSinglePageFrom(const QJsonValue &row, int pages)
+{
+    return row["page"].isDouble() && !row["isCountedFromBack"].toBool() &&
+           row["page"].toInt() >= pages;
+}
+
+} // namespace
+
+PxComparedProduct::PxComparedProduct(const QByteArray &line)
+    : m_product(QJsonDocument::fromJson(line).object())
+    , m_pageCounts(numbersOf(value("/pages/offered")))
+    , m_rows(m_pageCounts.size(), -1)
+{
+    const QJsonValue table = value("/byPageCount");
+    readRows(table["pageCounts"].toArray());
+    const QJsonObject columns = table["values"].toObject();
+    for (auto column = columns.begin(); column != columns.end(); ++column)
+        m_columns.insert(column.key(), column->toArray());
+}
+
+/** Every page count is in one row. */
+void PxComparedProduct::readRows(const QJsonArray &pageCounts)
+{
+    int read = 0;
+    for (int row = 0; row < pageCounts.size() && read < m_pageCounts.size(); ++row) {
+        for (const int pageCount : numbersOf(pageCounts[row])) {
+            const auto found =
+                std::lower_bound(m_pageCounts.begin(), m_pageCounts.end(), pageCount);
+            if (found != m_pageCounts.end() && *found == pageCount)
+                m_rows[int(found - m_pageCounts.begin())] = row;
+            ++read;
+        }
+    }
+}
+
+int PxComparedProduct::printedPages() const
+{
+    const qint64 pageCount = m_pageCounts.isEmpty() ? 1 : m_pageCounts.constLast();
+    double pages = 0;
+    const QJsonArray list = value("/pages/list").toArray();
+    for (const QJsonValue run : list)
+        pages += run["fixed"].toDouble() + run["perPageCount"].toDouble() * double(pageCount);
+    return int(qBound(0.0, pages, double(most)));
+}
+
+void PxComparedProduct::limitPages(int pages)
+{
+    for (const char *section : {"barcodes", "contentRedirects", "rotationRedirects"}) {
+        QJsonArray rows = table(section);
+        for (int i = 0; i < rows.size(); ++i) {
+            if (isSinglePageFrom(rows[i], pages))
+                rows[i] = QJsonValue();
+        }
+        m_product[QLatin1String(section)] = rows;
+    }
+    QJsonArray surroundings = table("surroundings");
+    for (int i = 0; i < surroundings.size(); ++i) {
+        QJsonObject surrounding = surroundings[i].toObject();
+        QJsonArray places;
+        for (const auto &place : surrounding["places"].toArray()) {
+            if (!isSinglePageFrom(place, pages))
+                places.append(place);
+        }
+        surrounding["places"] = places;
+        surroundings[i] = places.isEmpty() ? QJsonValue() : surrounding;
+    }
+    m_product["surroundings"] = surroundings;
+
+    const QString withContent = value("/pages/pagesWithContent").toString();
+    QList<int> numbers = numbersOf(withContent);
+    numbers.erase(std::lower_bound(numbers.begin(), numbers.end(), pages), numbers.end());
+    const bool isAll = withContent == "all" || numbers.size() == pages;
+    QJsonObject pagesOfProduct = m_product["pages"].toObject();
+    pagesOfProduct["pagesWithContent"] = isAll ? "all" : PxNumberRanges::text(numbers);
+    m_product["pages"] = pagesOfProduct;
+}
+
+QJsonValue PxComparedProduct::value(const QString &pointer) const
+{
+    QJsonValue value = m_product;
+    const QVector<QStringRef> steps = pointer.splitRef('/').mid(1);
+    for (const QStringRef &step : steps)
+        value = value.isArray() ? value[step.toInt()] : value[step.toString()];
+    return value;
+}
+
+PxValueByPageCount PxComparedProduct::valueByPageCount(const QString &pointer) const
+{
+    PxValueByPageCount found{value(pointer), {}};
+    for (auto column = m_columns.lowerBound(pointer);
+         column != m_columns.end() && column.key().startsWith(pointer); ++column) {
+        const QString member = column.key().mid(pointer.size());
+        if (member.isEmpty() || member.startsWith('/'))
+            found.columns.append({member.mid(1), *column});
+    }
+    return found;
+}
+
+QJsonValue PxValueByPageCount::at(int row) const
+{
+    QJsonValue value = fixed;
+    for (const auto &[member, values] : columns) {
+        if (member.isEmpty())
+            return values.at(row);
+        QJsonObject object = value.toObject();
+        object.insert(member, values.at(row));
+        value = object;
+    }
+    return value;
+}

@@ -1,0 +1,170 @@
+#include "diff/PxDiffWords.h"
+
+#include "diff/PxDiff.h"
+#include "report/PxNumberRanges.h"
+#include "writing/PxTerminal.h"
+
+#include <description/PxProductTypeDescription.h>
+
+#include <QJsonArray>
+#include <QSet>
+
+namespace {
+
+using Format = PxReportFormat;
+
+constexpr int longestText = 1000;
+
+/** "0.2 mm wider"; empty for no difference. */
+QString difference(const QJsonValue &before, const QJsonValue &after, PxDiffKey::Words words)
+{
+    const double tenths = after.toDouble() - before.toDouble();
+    if (!before.isDouble() || !after.isDouble() || tenths == 0.0)
+        return QString();
+    return QString("%1%2 %3").arg(PxReportValue::text(qAbs(tenths), Format::Length),
+                                  PxReportValue::unit(Format::Length),
+                                  PxDiffKey::word(words, tenths > 0));
+}
+
+QString differenceOfSize(const QJsonValue &before, const QJsonValue &after)
+{
+    QStringList parts{difference(before["width"], after["width"], PxDiffKey::Words::Width),
+                      difference(before["height"], after["height"], PxDiffKey::Words::Height)};
+    parts.removeAll(QString());
+    return parts.join(", ");
+}
+
+/** Only if all sides changed alike. */
+QString differenceOfMargins(const PxChange &change)
+{
+    QStringList parts;
+    for (const char *side : {"top", "bottom", "left", "right"})
+        parts.append(difference(change.before[side], change.after[side], change.key->words));
+    parts.removeDuplicates();
+    return parts.size() == 1 ? parts.constFirst() : QString();
+}
+
+QStringList partsOf(const QJsonValue &list)
+{
+    QStringList parts;
+    for (const auto &part : list.toArray())
+        parts.append(PxReportValue::text(part, Format::Plain));
+    return parts;
+}
+
+QStringList without(QStringList parts, const QStringList &others)
+{
+    const QSet<QString> known(others.begin(), others.end());
+    parts.erase(std::remove_if(parts.begin(), parts.end(),
+                               [&known](const QString &part) { return known.contains(part); }),
+                parts.end());
+    return parts;
+}
+
+QString pageCountsWithout(const QJsonValue &pageCounts, const QJsonValue &others)
+{
+    const auto numbersOf = [](const QJsonValue &text) {
+        constexpr int most = PxProductTypeDescription::maximumListedPages;
+        return PxNumberRanges::numbers(text.toString(), most).value_or(QList<int>());
+    };
+    const QList<int> known = numbersOf(others);
+    QList<int> left;
+    for (const int number : numbersOf(pageCounts)) {
+        if (!std::binary_search(known.begin(), known.end(), number))
+            left.append(number);
+    }
+    return PxNumberRanges::text(left);
+}
+
+/** What a list gained and lost. */
+QString differenceOfLists(const QString &gained, const QString &lost)
+{
+    QStringList parts;
+    if (!gained.isEmpty())
+        parts.append("now " + gained);
+    if (!lost.isEmpty())
+        parts.append("no longer " + lost);
+    return parts.join(", ");
+}
+
+QString textOf(const QJsonValue &value, const PxChange &change)
+{
+    const QString text = change.key->format == Format::JsonOnly
+                             ? PxDiffWords::ofParts(value)
+                             : PxReportValue::text(value, change.key->format);
+    return text.isEmpty() ? "none" : PxTerminal::shortened(text, longestText);
+}
+
+/** With the unit, if there is a number at all. */
+QString rangeText(const QJsonValue &first, const QJsonValue &last, const PxChange &change)
+{
+    const QString from = textOf(first, change);
+    const QString to = textOf(last, change);
+    return from == to ? from : from + " to " + to;
+}
+
+} // namespace
+
+QString PxDiffWords::ofParts(const QJsonValue &value)
+{
+    QStringList words;
+    switch (value.type()) {
+    case QJsonValue::Double:
+        return QString::number(value.toInt());
+    case QJsonValue::Bool:
+        return value.toBool() ? "from the back" : "";
+    case QJsonValue::Array:
+        for (const auto &part : value.toArray())
+            words.append(ofParts(part));
+        return words.join(", ");
+    case QJsonValue::Object:
+        if (value["perPageCount"].toInt() > 0)
+            words.append("all");
+        for (const char *member :
+             {"pageType", "alignment", "page", "first", "second", "even", "odd"})
+            words.append(ofParts(value[QLatin1String(member)]));
+        words.removeAll(QString());
+        return words.join(' ');
+    default:
+        return value.toString();
+    }
+}
+
+QString PxDiffWords::ofDifference(const PxChange &change)
+{
+    switch (change.key->words) {
+    case PxDiffKey::Words::None:
+        return QString();
+    case PxDiffKey::Words::Size:
+        return differenceOfSize(change.before, change.after);
+    default:
+        return change.key->format == Format::Margins
+                   ? differenceOfMargins(change)
+                   : difference(change.before, change.after, change.key->words);
+    }
+}
+
+QString PxDiffWords::of(const PxChange &first, const PxChange &last)
+{
+    if (QString(first.key->pointer).endsWith('*'))
+        return first.before.isNull() ? "new" : "no longer there";
+    QString difference = ofDifference(first);
+    if (first.pointer == "/pages/offered") {
+        difference = differenceOfLists(pageCountsWithout(first.after, first.before),
+                                       pageCountsWithout(first.before, first.after));
+    } else if (!first.before.toArray().isEmpty() && !first.after.toArray().isEmpty() &&
+               first.key->format != Format::JsonOnly) {
+        const QStringList before = partsOf(first.before);
+        const QStringList after = partsOf(first.after);
+        difference =
+            differenceOfLists(without(after, before).join(", "), without(before, after).join(", "));
+        if (!difference.isEmpty())
+            return PxTerminal::shortened(difference, longestText);
+    }
+    const QString unit = PxReportValue::unit(first.key->format);
+    const QString after = rangeText(first.after, last.after, first);
+    const QString values = rangeText(first.before, last.before, first) + " → " + after;
+    return (difference.isEmpty() ? QString()
+                                 : PxTerminal::shortened(difference, longestText) + ", ") +
+           values + (after == "none" ? QString() : unit);
+}

@@ -1,0 +1,224 @@
+#include "diff/PxExplainedChanges.h"
+
+#include "format/PxOriginRows.h"
+
+#include <QBitArray>
+#include <QHash>
+#include <QRegularExpression>
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+using Keys = QSet<QString>;
+
+/** What only an export has, or what a change is named by though it follows from others. */
+constexpr PxOriginRow exportRows[] = {
+    {"/pages/list", "pages"},
+    {"/pages/sides", "/pageKinds", "where the pages of the list lie"},
+    {"/pages/offered", "/product/isOffered /product/class", "none if it is not offered"},
+    {"/pages/explicitNumberOfNormalPages", "/pages/offered", "as many as are offered"},
+    {"/sizes/page", "/product/isOffered", "none if it is not offered"},
+    {"/pageKinds/*", "/pageKinds", "a row for each kind of page"},
+    {"/templates/*", "/pageKinds", "a row for each kind of page"},
+};
+
+/** Values that follow from others, which explain no further value by that. */
+constexpr const char *ends[] = {"/product/isOffered", "/pages/offered", "/pages/pageCount",
+                                "/pages/pageCounts", "/pages/printedPages"};
+
+bool isEnd(const QString &pointer)
+{
+    return std::any_of(std::begin(ends), std::end(ends),
+                       [&pointer](const char *end) { return pointer == QLatin1String(end); });
+}
+
+/** From which other values each value follows. */
+class Explanations
+{
+public:
+    Explanations()
+    {
+        for (const PxDiffKey &key : PxDiffKeys::ofProducts())
+            m_keys.insert(key.pointer);
+        for (const PxOriginRow &row : PxOriginRows::all()) {
+            if (!isEnd(row.pointer))
+                add(row);
+        }
+        for (const PxOriginRow &row : exportRows)
+            add(row);
+        for (const QString &key : qAsConst(m_keys))
+            m_explaining[key] = explaining(key);
+    }
+
+    Keys explaining(const PxDiffKey &key) const { return m_explaining[key.pointer]; }
+    bool dependsOnPageCount(const PxDiffKey &key) const
+    {
+        return m_byPageCount.contains(key.pointer) || m_byPageCount.intersects(explaining(key));
+    }
+
+private:
+    /** The key of a value, or of the value of which it is a part; itself if there is none. */
+    QString keyOf(const QString &pointer) const
+    {
+        for (QString around = pointer; !around.isEmpty();
+             around.truncate(around.lastIndexOf('/'))) {
+            if (m_keys.contains(around))
+                return around;
+        }
+        return pointer;
+    }
+
+    void add(const PxOriginRow &row)
+    {
+        const QString key = keyOf(row.pointer);
+        const QString inputs = row.inputs;
+        if (inputs.contains("/pages/pageCount"))
+            m_byPageCount.insert(key);
+        if (!row.rule) {
+            for (const QString &attribute :
+                 inputs.section(QRegularExpression("[; ]"), 0, 0).split('|'))
+                m_written[attribute].insert(key);
+            return;
+        }
+        for (const QString &input : inputs.split(QRegularExpression("[;| ]+")))
+            m_inputs[key].insert(input.startsWith('/') ? keyOf(input) : input);
+    }
+
+    /** Other values, and those that are written in an attribute from which this one follows. */
+    Keys explaining(const QString &key) const
+    {
+        Keys found;
+        Keys followed;
+        QStringList open = m_inputs[key].values();
+        while (!open.isEmpty()) {
+            const QString next = open.takeLast();
+            if (followed.contains(next))
+                continue;
+            followed.insert(next);
+            found += m_written[next];
+            if (!isEnd(next))
+                open += m_inputs[next].values();
+        }
+        found += followed;
+        found.remove(key);
+        return found;
+    }
+
+    Keys m_keys;
+    QHash<QString, Keys> m_inputs;  // of computed values: values, attributes and elements
+    QHash<QString, Keys> m_written; // what is read from an attribute as it is
+    QHash<QString, Keys> m_explaining;
+    Keys m_byPageCount;
+};
+
+const Explanations &explanations()
+{
+    static const Explanations ourExplanations;
+    return ourExplanations;
+}
+
+/** With which page counts a value changed: with all, or with those of the bits. */
+struct Extent
+{
+    bool isAll = false;
+    QBitArray pageCounts = {};
+
+    void add(const PxChange &change)
+    {
+        isAll |= !change.dependsOnPageCount();
+        if (pageCounts.size() < change.end)
+            pageCounts.resize(change.end);
+        pageCounts.fill(true, change.begin, change.end);
+    }
+
+    bool overlaps(const PxChange &change) const
+    {
+        if (isAll || !change.dependsOnPageCount())
+            return true;
+        for (int i = change.begin; i < qMin(change.end, pageCounts.size()); ++i) {
+            if (pageCounts[i])
+                return true;
+        }
+        return false;
+    }
+};
+
+QString sectionOf(const QString &pointer)
+{
+    return pointer.section('/', 1, 1);
+}
+
+/** "pageKinds/3" for a value in a table; empty for another. */
+QString rowOf(const PxChange &change)
+{
+    return QString(change.key->pointer).contains('*') ? change.pointer.section('/', 1, 2)
+                                                      : QString();
+}
+
+/** Sizes that have more than one attribute in common with others follow only as a whole. */
+bool isSameDifference(const PxChange &a, const PxChange &b)
+{
+    const auto difference = [](const PxChange &change, const char *side) {
+        return change.after[side].toDouble() - change.before[side].toDouble();
+    };
+    return difference(a, "width") == difference(b, "width") &&
+           difference(a, "height") == difference(b, "height");
+}
+
+/** All changes of a product, by key, and by key and row. */
+class Causes
+{
+public:
+    explicit Causes(const QVector<PxChange> &changes)
+    {
+        for (const PxChange &change : changes) {
+            const QString key = change.key->pointer;
+            m_extents[key].add(change);
+            m_changes.insert(key, &change);
+            if (key.contains('*'))
+                m_extents[key + rowOf(change)].add(change);
+        }
+    }
+
+    bool explain(const PxChange &change) const
+    {
+        const Keys keys = explanations().explaining(*change.key);
+        return std::any_of(keys.begin(), keys.end(),
+                           [&](const QString &key) { return explains(key, change); });
+    }
+
+private:
+    bool explains(const QString &key, const PxChange &change) const
+    {
+        const bool isInSection = sectionOf(key) == sectionOf(change.pointer);
+        const auto extent =
+            m_extents.constFind(key.contains('*') && isInSection ? key + rowOf(change) : key);
+        if (extent == m_extents.constEnd() || !extent->overlaps(change))
+            return false;
+        return !isInSection || key.contains('*') || change.key->format != PxReportFormat::Size ||
+               isSameDifference(*m_changes[key], change);
+    }
+
+    QHash<QString, Extent> m_extents;
+    QHash<QString, const PxChange *> m_changes;
+};
+
+} // namespace
+
+QVector<PxChange> PxExplainedChanges::removedFrom(const QVector<PxChange> &changes)
+{
+    const Causes causes(changes);
+    QVector<PxChange> left;
+    for (const PxChange &change : changes) {
+        if (!causes.explain(change))
+            left.append(change);
+    }
+    return left;
+}
+
+bool PxExplainedChanges::dependsOnPageCount(const PxDiffKey &key)
+{
+    return explanations().dependsOnPageCount(key);
+}
