@@ -8,21 +8,46 @@
 #include <QDir>
 #include <QDomElement>
 #include <QFileInfo>
+#include <QHash>
+
+namespace {
+
+/** The files of a directory, read as far as a product had to be looked for. */
+struct Files
+{
+    QString directory = {};
+    QFileInfoList unread = {};
+    QHash<int, QString> names = {}; // by product type
+};
+
+/** Of two files for one product the library uses the one that the directory lists later. */
+void readLast(Files *files)
+{
+    const QFileInfo file = files->unread.takeLast();
+    const QDomElement product =
+        PxXMLLoader::loadDocumentElement(file).firstChildElement(QStringLiteral("product"));
+    const PxProductType type(product.attribute(QStringLiteral("name")));
+    if (type.isValid() && !files->names.contains(int(type.type())))
+        files->names.insert(int(type.type()), file.fileName());
+}
+
+} // namespace
 
 QString PxProductFile::pathOf(const PxProductType &type, bool isLegacy)
 {
-    const QString directory =
-        isLegacy ? QStringLiteral("products/legacy") : QStringLiteral("products");
-    const QDir products(PxDirectoryConfig::instance()->resource(directory, false));
-    const QFileInfoList files = products.entryInfoList(PxProductTypeDescriptionReader::fileFilter(),
-                                                       QDir::Files, QDir::Unsorted);
-    // Of two files for one product the library uses the one that the directory lists later.
-    for (auto file = files.crbegin(); file != files.crend(); ++file) {
-        const QDomElement product =
-            PxXMLLoader::loadDocumentElement(*file).firstChildElement(QStringLiteral("product"));
-        const PxProductType found(product.attribute(QStringLiteral("name")));
-        if (found.isValid() && found == type)
-            return directory + QLatin1Char('/') + file->fileName();
-    }
+    static Files ourFiles[2];
+    Files &files = ourFiles[isLegacy ? 1 : 0];
+    const QString name = isLegacy ? QStringLiteral("products/legacy") : QStringLiteral("products");
+    const QDir directory(PxDirectoryConfig::instance()->resource(name, false));
+    if (files.directory != directory.path())
+        files = {directory.path(),
+                 directory.entryInfoList(PxProductTypeDescriptionReader::fileFilter(), QDir::Files,
+                                         QDir::Unsorted)};
+    const int code = int(type.type());
+    while (!files.names.contains(code) && !files.unread.isEmpty())
+        readLast(&files);
+    if (files.names.contains(code))
+        return name + QLatin1Char('/') + files.names[code];
+    files = Files(); // it may come
     return QString();
 }

@@ -11,7 +11,7 @@ namespace PxProductFile {
  * "products/x.xml", or "products/legacy/x.xml" for one of an earlier catalogue. Empty if there is
  * none.
  *
- * Reads the product files until it knows.
+ * Reads the product files until it knows, each of them once: they must not change.
  */
 QString pathOf(const PxProductType &type, bool isLegacy);
 

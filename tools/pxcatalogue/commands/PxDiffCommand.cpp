@@ -4,6 +4,7 @@
 #include "commands/PxCommandLine.h"
 #include "diff/PxCatalogueDiff.h"
 #include "diff/PxDiffJson.h"
+#include "diff/PxDiffPlaces.h"
 #include "diff/PxDiffText.h"
 #include "diff/PxExportProcess.h"
 #include "export/PxCatalogueExport.h"
@@ -113,6 +114,8 @@ PxExitStatus PxDiffCommand::run(const PxCommandLine &line) const
         return fail(*problem);
     PxDiff diff = PxCatalogueDiff::of(oldCatalogue, newCatalogue);
     PxCatalogueDiff::filter(&diff, line.keywords("only"));
+    if (QFileInfo(line.arguments().constLast()).isDir())
+        PxDiffPlaces::addTo(&diff, newCatalogue);
     const QString format = line.isSet("json") ? "json" : line.keywords("format").value(0, "text");
     const PxExitStatus status =
         format == "json"
