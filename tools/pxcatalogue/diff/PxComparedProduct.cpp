@@ -73,19 +73,6 @@ void PxComparedProduct::limitPages(int pages)
         }
         m_product[QLatin1String(section)] = rows;
     }
-    QJsonArray surroundings = table("surroundings");
-    for (int i = 0; i < surroundings.size(); ++i) {
-        QJsonObject surrounding = surroundings[i].toObject();
-        QJsonArray places;
-        for (const auto &place : surrounding["places"].toArray()) {
-            if (!isSinglePageFrom(place, pages))
-                places.append(place);
-        }
-        surrounding["places"] = places;
-        surroundings[i] = places.isEmpty() ? QJsonValue() : surrounding;
-    }
-    m_product["surroundings"] = surroundings;
-
     const QString withContent = value("/pages/pagesWithContent").toString();
     QList<int> numbers = numbersOf(withContent);
     numbers.erase(std::lower_bound(numbers.begin(), numbers.end(), pages), numbers.end());
@@ -93,6 +80,33 @@ void PxComparedProduct::limitPages(int pages)
     QJsonObject pagesOfProduct = m_product["pages"].toObject();
     pagesOfProduct["pagesWithContent"] = isAll ? "all" : PxNumberRanges::text(numbers);
     m_product["pages"] = pagesOfProduct;
+}
+
+QSet<QString> PxComparedProduct::kindsOfPages() const
+{
+    QSet<QString> kinds;
+    for (const QJsonValue kind : table("pageKinds"))
+        kinds.insert(kind["pageType"].toString() + ' ' + kind["alignment"].toString());
+    return kinds;
+}
+
+void PxComparedProduct::limitSurroundings(int pages, const QSet<QString> &kinds)
+{
+    QJsonArray surroundings = table("surroundings");
+    for (int i = 0; i < surroundings.size(); ++i) {
+        QJsonObject surrounding = surroundings[i].toObject();
+        QJsonArray places;
+        for (const QJsonValue place : surrounding["places"].toArray()) {
+            const QString type = place["pageType"].toString();
+            const bool isKnown =
+                type.isEmpty() || kinds.contains(type + ' ' + place["alignment"].toString());
+            if (isKnown && !isSinglePageFrom(place, pages))
+                places.append(place);
+        }
+        surrounding["places"] = places;
+        surroundings[i] = places.isEmpty() ? QJsonValue() : surrounding;
+    }
+    m_product["surroundings"] = surroundings;
 }
 
 QJsonValue PxComparedProduct::value(const QString &pointer) const

@@ -5,6 +5,7 @@
 #include <QList>
 #include <QMap>
 #include <QPair>
+#include <QSet>
 #include <QString>
 #include <QVector>
 
@@ -31,6 +32,10 @@ public:
     int printedPages() const;
     /** Leaves out what is known of pages behind these, which another product does not have. */
     void limitPages(int pages);
+    /** "normalpage left" for each kind of page. */
+    QSet<QString> kindsOfPages() const;
+    /** Leaves out where surroundings are on such pages, and on kinds of pages other than these. */
+    void limitSurroundings(int pages, const QSet<QString> &kinds);
 
     /** The rows of a table of the product; null for one that is left out. */
     QJsonArray table(const QString &section) const { return m_product[section].toArray(); }

@@ -111,8 +111,10 @@ const QVector<PxDiffKey> &PxDiffKeys::ofProducts()
         {"/extraPages/*/layer", "layer"},
         {"/extraPages/*/file", "file"},
         {"/contentRedirects/*", ""},
+        {"/contentRedirects/*/page", "page"},
         {"/contentRedirects/*/target", "goes to"},
         {"/rotationRedirects/*", ""},
+        {"/rotationRedirects/*/page", "page"},
         {"/rotationRedirects/*/target", "goes to"},
         {"/rotationRedirects/*/angleInvert", "angle by"},
     };
@@ -139,8 +141,8 @@ const QVector<PxDiffTable> &PxDiffKeys::tables()
         {"barcodes", "barcode on page", {{"page", "isCountedFromBack"}, {"rect", "image"}}},
         {"templates", "default template of", {{"pageType", "alignment"}}},
         {"extraPages", "extra production pages", {{"pages", "type", "layer"}, {"type", "layer", "file"}}},
-        {"contentRedirects", "content dropped on page", {{"page"}}},
-        {"rotationRedirects", "rotation of page", {{"page", "target"}, {"page"}}},
+        {"contentRedirects", "content dropped on page", {{"page"}, {"target"}}},
+        {"rotationRedirects", "rotation of page", {{"page", "target"}, {"page"}, {"target", "angleInvert"}}},
     };
     return ourTables;
 }

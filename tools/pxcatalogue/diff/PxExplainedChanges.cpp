@@ -22,6 +22,9 @@ constexpr PxOriginRow exportRows[] = {
     {"/sizes/page", "/product/isOffered", "none if it is not offered"},
     {"/pageKinds/*", "/pageKinds", "a row for each kind of page"},
     {"/templates/*", "/pageKinds", "a row for each kind of page"},
+    {"/legacy/replacedPage", "/legacy/replaces", "of the replaced product"},
+    {"/legacy/replacedSpine", "/legacy/replaces", "of the replaced product"},
+    {"/legacy/replacedCover", "/legacy/replaces", "of the replaced product"},
 };
 
 /** Values that follow from others, which explain no further value by that. */
@@ -167,6 +170,16 @@ bool isSameDifference(const PxChange &a, const PxChange &b)
            difference(a, "height") == difference(b, "height");
 }
 
+/** One default template is for several kinds of pages, of which the first is named. */
+bool isOfSameTemplate(const QVector<PxChange> &known, const PxChange &change)
+{
+    return sectionOf(change.pointer) == "templates" &&
+           std::any_of(known.begin(), known.end(), [&change](const PxChange &other) {
+               return other.key == change.key && other.before == change.before &&
+                      other.after == change.after;
+           });
+}
+
 /** All changes of a product, by key, and by key and row. */
 class Causes
 {
@@ -212,7 +225,7 @@ QVector<PxChange> PxExplainedChanges::removedFrom(const QVector<PxChange> &chang
     const Causes causes(changes);
     QVector<PxChange> left;
     for (const PxChange &change : changes) {
-        if (!causes.explain(change))
+        if (!causes.explain(change) && !isOfSameTemplate(left, change))
             left.append(change);
     }
     return left;

@@ -29,9 +29,12 @@ PxProductDiff::PxProductDiff(const QByteArray &oldLine, const QByteArray &newLin
     , m_new(newLine)
 {
     const int pages = qMin(m_old.printedPages(), m_new.printedPages());
+    const QSet<QString> kinds = m_old.kindsOfPages() & m_new.kindsOfPages();
     for (PxComparedProduct *product : {&m_old, &m_new}) {
         if (product->printedPages() > pages)
             product->limitPages(pages);
+        if (product->printedPages() > pages || product->kindsOfPages() != kinds)
+            product->limitSurroundings(pages, kinds);
     }
     findCommonPageCounts();
 }
