@@ -95,15 +95,17 @@ void PxComparedProduct::limitSurroundings(int pages, const QSet<QString> &kinds)
     QJsonArray surroundings = table("surroundings");
     for (int i = 0; i < surroundings.size(); ++i) {
         QJsonObject surrounding = surroundings[i].toObject();
-        QJsonArray places;
+        QMap<QString, QJsonValue> places; // in an order that does not depend on other pages
         for (const QJsonValue place : surrounding["places"].toArray()) {
             const QString type = place["pageType"].toString();
-            const bool isKnown =
-                type.isEmpty() || kinds.contains(type + ' ' + place["alignment"].toString());
-            if (isKnown && !isSinglePageFrom(place, pages))
-                places.append(place);
+            const QString kind = type + ' ' + place["alignment"].toString();
+            if ((type.isEmpty() || kinds.contains(kind)) && !isSinglePageFrom(place, pages))
+                places.insert(QString("%1 %2").arg(place["page"].toInt(-1)).arg(kind), place);
         }
-        surrounding["places"] = places;
+        QJsonArray sorted;
+        for (const QJsonValue &place : qAsConst(places))
+            sorted.append(place);
+        surrounding["places"] = sorted;
         surroundings[i] = places.isEmpty() ? QJsonValue() : surrounding;
     }
     m_product["surroundings"] = surroundings;

@@ -29,11 +29,13 @@ PxProductDiff::PxProductDiff(const QByteArray &oldLine, const QByteArray &newLin
     , m_new(newLine)
 {
     const int pages = qMin(m_old.printedPages(), m_new.printedPages());
+    const bool havePages = m_old.printedPages() == m_new.printedPages();
     const QSet<QString> kinds = m_old.kindsOfPages() & m_new.kindsOfPages();
+    const bool haveKinds = m_old.kindsOfPages() == m_new.kindsOfPages();
     for (PxComparedProduct *product : {&m_old, &m_new}) {
         if (product->printedPages() > pages)
             product->limitPages(pages);
-        if (product->printedPages() > pages || product->kindsOfPages() != kinds)
+        if (!havePages || !haveKinds)
             product->limitSurroundings(pages, kinds);
     }
     findCommonPageCounts();
@@ -109,9 +111,8 @@ void PxProductDiff::compare(const PxDiffKey &key, const QString &oldPointer,
         return;
     }
     // Values with page counts that only one of them has cannot be compared.
-    const bool isComparable = !m_common.isEmpty() || m_old.pageCounts().isEmpty() ||
-                              m_new.pageCounts().isEmpty() ||
-                              !PxExplainedChanges::dependsOnPageCount(key);
+    const bool haveSamePageCounts = !m_common.isEmpty() || m_old.pageCounts() == m_new.pageCounts();
+    const bool isComparable = haveSamePageCounts || !PxExplainedChanges::dependsOnPageCount(key);
     if (isComparable && !areSame(key, before.fixed, after.fixed))
         m_changes.append(change);
 }
