@@ -6,6 +6,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTest>
 
 /** What "diff" says of catalogues of which it is known how they differ. */
@@ -15,6 +17,12 @@ class PxDiffTest : public QObject
 
 private slots:
     void namesEachChangeOnce();
+    void findsNothingInTheSame_data();
+    void findsNothingInTheSame();
+    void refusesWhatIsNoExport_data();
+    void refusesWhatIsNoExport();
+    void joinsPageCountsThatChangeAlike();
+    void comparesEveryExportedValue();
 };
 
 namespace {
@@ -139,6 +147,151 @@ void PxDiffTest::namesEachChangeOnce()
     QVERIFY2(without(expected, differences).isEmpty(),
              qPrintable("missing:\n" + without(expected, differences).join('\n')));
     QCOMPARE(differences.size(), expected.size());
+    QVERIFY(!found.printed().contains("\"place\": null"));
+
+    // Exports have the same differences, whoever made them, but no places.
+    const QString oldFile = copy.filePath("old.jsonl");
+    const QString newFile = copy.filePath("new.jsonl");
+    const QMap<QString, QString> elsewhere{{"LC_ALL", "C"}, {"TZ", "Pacific/Kiritimati"}};
+    run({"export", "--resources", PX_SAMPLE_DIRECTORY, "--output", oldFile}, elsewhere);
+    run({"export", "--resources", copy.path(), "--output", newFile});
+    const PxProgramRun ofExports = run({"diff", oldFile, newFile, "--json"}, elsewhere);
+    QCOMPARE(differencesIn(ofExports.json()), differences);
+    QVERIFY(!ofExports.printed().contains("\"place\": \""));
+}
+
+void PxDiffTest::findsNothingInTheSame_data()
+{
+    QTest::addColumn<QString>("catalogues");
+    for (const char *catalogues :
+         {"SAMPLE SAMPLE", "SAMPLE EXPORT", "EXPORT SAMPLE", "ENGLISH EXPORT"})
+        QTest::newRow(catalogues) << catalogues;
+}
+
+void PxDiffTest::findsNothingInTheSame()
+{
+    QFETCH(QString, catalogues);
+    const QTemporaryDir directory;
+    const QString german = directory.filePath("de.jsonl");
+    const QString english = directory.filePath("en.jsonl");
+    run({"export", "--resources", PX_SAMPLE_DIRECTORY, "--output", german});
+    run({"export", "--resources", PX_SAMPLE_DIRECTORY, "--output", english, "--lang", "en"});
+    catalogues.replace("SAMPLE", PX_SAMPLE_DIRECTORY);
+    catalogues.replace("EXPORT", german).replace("ENGLISH", english);
+    const PxProgramRun found = run(QStringList{"diff", "--json"} + catalogues.split(' '));
+    QCOMPARE(found.errors(), QStringList());
+    QCOMPARE(found.status(), 0);
+    QCOMPARE(differencesIn(found.json()), QStringList());
+}
+
+void PxDiffTest::refusesWhatIsNoExport_data()
+{
+    QTest::addColumn<QByteArray>("contents");
+    QTest::addColumn<QString>("problem");
+    const QByteArray header = R"({"type":"catalogue","format":1,"lengthUnit":"tenths of a )"
+                              R"(millimetre","products":2,"themes":0})"
+                              "\n";
+    const QByteArray product =
+        R"({"type":"product","product":{"name":"A"},"pages":{"offered":"1"}})"
+        "\n";
+    const QByteArray manyPages = QByteArray(product).replace("\"1\"", "\"1-2000000000\"");
+    // clang-format off
+    const struct { const char *name; QByteArray contents; const char *problem; } rows[] = {
+        {"nothing", "", "is empty"},
+        {"other text", "\x1b[31m<xml>\n", "line 1: this is neither a resource directory nor"},
+        {"later format", R"({"type":"catalogue","format":2})", "line 1: the export has another format"},
+        {"lines are missing", header + product, "line 2: the export ends here, but 1 of type \"product\" are missing"},
+        {"cut off", header + product + product.left(30), "line 3: no JSON at byte "},
+        {"more lines", header + product + R"({"type":"theme","id":"a"})", "line 3: there is no type \"theme\""},
+        {"product twice", header + product + product, "line 3: there is another product \"A\""},
+        {"too many page counts", header + manyPages, "line 2: the page counts of \"A\" are none"},
+        {"deep", header + QByteArray(100000, '['), "line 2: no JSON at byte 1025: too deeply nested document"},
+        {"long", header + "{\"type\":\"" + QByteArray(17 * 1024 * 1024, 'x') + "\"}", "line 2: the line is longer than 16 MiB"},
+        {"wide", header + '[' + QByteArray("[],").repeated(3 * 1024 * 1024) + "0]", "line 2: no JSON object"},
+    };
+    // clang-format on
+    for (const auto &row : rows)
+        QTest::newRow(row.name) << row.contents << QString(row.problem);
+}
+
+void PxDiffTest::refusesWhatIsNoExport()
+{
+    QFETCH(QByteArray, contents);
+    QFETCH(QString, problem);
+    const QTemporaryDir directory;
+    QFile file(directory.filePath("x.jsonl"));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size());
+    file.close();
+    QElapsedTimer timer;
+    timer.start();
+    for (const QStringList &catalogues : {QStringList{file.fileName(), PX_SAMPLE_DIRECTORY},
+                                          QStringList{PX_SAMPLE_DIRECTORY, file.fileName()}}) {
+        const PxProgramRun found = run(QStringList("diff") + catalogues);
+        QCOMPARE(found.status(), 2);
+        QCOMPARE(found.errors().size(), 1);
+        QVERIFY2(found.errors()[0].startsWith("pxcatalogue: \"" + file.fileName() + '"') &&
+                     found.errors()[0].contains(problem),
+                 qPrintable(found.errors()[0]));
+    }
+    QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
+}
+
+void PxDiffTest::joinsPageCountsThatChangeAlike()
+{
+    const PxSampleCopy copies[2];
+    for (int i = 0; i < 2; ++i) {
+        QString spines;
+        for (int pages = 1; pages <= 30000; ++pages) {
+            const int width = pages % 1000 + (pages == 20000 ? 0 : 3 * i);
+            spines += QString("<spine pages='%1' width='%2'/>").arg(pages).arg(width);
+        }
+        copies[i].write("products/book_mini.xml",
+                        "<d><product name='BOOK_MINI' binding='SOFTCOVER'><pages>spine,normalpages"
+                        "</pages><spines>" +
+                            spines +
+                            "<spine pages='100000'/></spines>"
+                            "<usablesize width='900' height='1200'/></product></d>");
+    }
+    const PxProgramRun found = run({"diff", copies[0].path(), copies[1].path()});
+    QCOMPARE(found.status(), 1);
+    QCOMPARE(
+        found.output().join('\n').remove(QRegularExpression(" \\(products.*?\\)")),
+        QString("What customers notice\n  BOOK_MINI\n"
+                "    spine for 1 to 19999 pages: 0.3 mm wider, 2.1 to 101.9 → 2.4 to 102.2 mm\n"
+                "    spine for 20001 to 30000 pages: 0.3 mm wider, 2.1 to 2 → 2.4 to 2.3 mm"));
+}
+
+/** A value that is exported but not compared would be a change that nobody sees. */
+void PxDiffTest::comparesEveryExportedValue()
+{
+    QFile file(PX_SOURCE_DIRECTORY "/docs/export.schema.json");
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QJsonObject types = QJsonDocument::fromJson(file.readAll()).object()["$defs"].toObject();
+    const auto resolved = [&types](const QJsonValue &type) {
+        const QString name = type["$ref"].toString().section('/', -1);
+        return name.isEmpty() ? type.toObject() : types[name].toObject();
+    };
+    QStringList keys;
+    const QJsonObject sections = types["productLine"].toObject()["properties"].toObject();
+    for (const QString &section : sections.keys()) {
+        const QJsonObject type = resolved(sections[section]);
+        const bool isTable = type["type"] == "array";
+        const QJsonObject row = isTable ? resolved(type["items"]) : type;
+        for (const QString &member : row["properties"].toObject().keys())
+            keys.append(QString(isTable ? "/%1/*/%2" : "/%1/%2").arg(section, member));
+    }
+    for (const QString &member : types["themeLine"].toObject()["properties"].toObject().keys())
+        keys.append(member);
+    QVERIFY(keys.size() > 90);
+    // They say which product, theme or row it is.
+    for (const char *identity :
+         {"/product/name", "/product/isLegacy", "/pageKinds/*/pageType", "/pageKinds/*/alignment",
+          "/templates/*/pageType", "/templates/*/alignment", "id", "type"})
+        QCOMPARE(keys.removeAll(identity), 1);
+    const PxProgramRun found =
+        run({"diff", PX_SAMPLE_DIRECTORY, PX_SAMPLE_DIRECTORY, "--only", keys.join(',')});
+    QCOMPARE(found.errors(), QStringList());
+    QCOMPARE(found.status(), 0);
 }
 
 QTEST_GUILESS_MAIN(PxDiffTest)

@@ -121,6 +121,7 @@ void PxSessionsTest::isAnswered()
     QStringList words = QString(session.command)
                             .replace("DATA/", PX_TEST_DATA_DIRECTORY "/")
                             .replace("SAMPLE", m_sample.path())
+                            .replace("UNCHANGED", PX_SAMPLE_DIRECTORY)
                             .split(' ', Qt::SkipEmptyParts);
     for (QString &word : words)
         word = unescaped(word); // so that a blank within one is written \u0020

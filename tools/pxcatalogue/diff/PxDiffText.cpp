@@ -61,7 +61,7 @@ QString lineOf(const PxChange &first, const PxChange &last)
         line += QString(" for %1").arg(first.firstPageCount);
         if (last.lastPageCount != first.firstPageCount)
             line += QString(" to %1").arg(last.lastPageCount);
-        line += " pages";
+        line += last.lastPageCount == 1 ? " page" : " pages";
     }
     line += ": " + PxDiffWords::of(first, last);
     return first.place.isEmpty() ? line : QString("%1 (%2)").arg(line, first.place);
