@@ -170,6 +170,11 @@ bool isSameDifference(const PxChange &a, const PxChange &b)
            difference(a, "height") == difference(b, "height");
 }
 
+bool isNothing(const QJsonValue &value)
+{
+    return value.isNull() || value == QString();
+}
+
 /** One default template is for several kinds of pages, of which the first is named. */
 bool isOfSameTemplate(const QVector<PxChange> &known, const PxChange &change)
 {
@@ -210,6 +215,8 @@ private:
             m_extents.constFind(key.contains('*') && isInSection ? key + rowOf(change) : key);
         if (extent == m_extents.constEnd() || !extent->overlaps(change))
             return false;
+        if (key == "/product/isOffered") // what a product that is not offered lacks
+            return isNothing(change.before) || isNothing(change.after);
         return !isInSection || key.contains('*') || change.key->format != PxReportFormat::Size ||
                isSameDifference(*m_changes[key], change);
     }
