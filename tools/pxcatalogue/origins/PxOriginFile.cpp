@@ -109,7 +109,10 @@ PxOriginFile PxOriginFile::theme(const QString &id)
 PxOriginFile PxOriginFile::productType(const PxProductType &type)
 {
     const QString name = "producttypes.xml";
-    PxOriginFile file(Kind::ProductTypes, PxFileKind::ProductTypes, resource(name), name);
+    // The one large file that is the same for all products, so that it is read once.
+    static const PxOriginFile ourTypes(Kind::ProductTypes, PxFileKind::ProductTypes, resource(name),
+                                       name);
+    PxOriginFile file = ourTypes;
     if (!file.root())
         return file;
     for (const PxSourceElement *row : file.root()->childrenNamed("producttype")) {
