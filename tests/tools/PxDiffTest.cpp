@@ -81,32 +81,37 @@ struct Edit
 
 // clang-format off
 constexpr Edit edits[] = {
-    // 1: three rows of a table, of which the last is shown with one page count more
+    // Spines of some page counts; a larger page, and a cover that is larger by itself, too
     {"products/book_a4_portrait.xml", R"(<spine pages="26" width="74")", R"(<spine pages="26" width="76")", "products BOOK_A4_PORTRAIT /spine/width for 26: 94 -> 96"},
     {"products/book_a4_portrait.xml", R"(<spine pages="28" width="76")", R"(<spine pages="28" width="78")", "products BOOK_A4_PORTRAIT /spine/width for 28: 96 -> 98"},
-    // 2 and 3: a page of another size, and a cover that is larger by itself
     {"products/book_a4_landscape.xml", R"(<usablesize width="2970")", R"(<usablesize width="2990")", "products BOOK_A4_LANDSCAPE /sizes/page: {height:2100,width:2970} -> {height:2100,width:2990}"},
-    {"products/book_a4_portrait_soft.xml", R"(coverextravertical="0")", R"(coverextravertical="20")", "products BOOK_A4_PORTRAIT_SOFT /sizes/cover: {height:2970,width:2110} -> {height:2990,width:2110}"},
-    // 4 and 5: page counts
+    {"products/book_a4_landscape.xml", R"(coverextravertical="60")", R"(coverextravertical="70")", "products BOOK_A4_LANDSCAPE /sizes/cover: {height:2160,width:3030} -> {height:2170,width:3050}"},
+    // Page counts, whether it is offered at all, and pages that lie otherwise
     {"products/book_mini.xml", R"(<spine pages="42" width="111" maxfontheight="72"/>)", " ", "products BOOK_MINI /pages/offered: 18-42/4 -> 18-38/4"},
     {"products/book_compact.xml", R"(<spine pages="90" width="107" maxfontheight="69"/>)", R"(<spine pages="90" width="107" maxfontheight="69"/><spine pages="92" width="110"/>)", "products BOOK_COMPACT /pages/offered: 26-90/2 -> 26-92/2"},
-    // 6 to 9: what the product is made of
+    {"products/gallery_30x90.xml", R"(<usablesize)", R"(<size)", "products GALLERY_30X90 /product/isOffered: true -> false"},
+    {"products/calendar_desk_a5.xml", R"(horizontalPages="false")", R"(horizontalPages="true")", "products CALENDAR_DESK_A5 /pages/horizontalPages: false -> true"},
+    // What the product is made of, and which earlier one it replaces
     {"products/book_square_linen.xml", R"(bleedmargin="30")", R"(bleedmargin="40")", "products BOOK_SQUARE_LINEN /sizes/bleed: {bottom:30,left:30,right:30,top:30} -> {bottom:40,left:40,right:40,top:40}"},
     {"products/book_square_linen.xml", R"(paper="indigo-matt")", R"(paper="glossy")", "products BOOK_SQUARE_LINEN /product/paper: {keyword:indigo-matt,name:Digitaldruck Premium-Matt} -> {keyword:glossy,name:Digitaldruck mit Hochglanz-Veredelung}"},
     {"products/book_xl_square.xml", R"(binding="ARTIFICIALLEATHER")", R"(binding="LEATHER")", "products BOOK_XL_SQUARE /product/binding: {keyword:ARTIFICIALLEATHER,name:Kunstleder} -> {keyword:LEATHER,name:Leder}"},
     {"products/calendar_wall_a4.xml", R"(numOfSpirals="34")", R"(numOfSpirals="36")", "products CALENDAR_WALL_A4 /product/numberOfSpiralLoops: 34 -> 36"},
-    // 10 to 13: rows of tables, one of them before the others
+    {"products/card_folded_a6.xml", R"(legacy="CARD_CLASSIC_FOLDED")", R"(legacy="CUP1")", "products CARD_FOLDED_A6 /legacy/replaces: CARD_CLASSIC_FOLDED -> CUP1"},
+    // Rows of tables, one of them before the others, one for two kinds of pages
     {"products/book_xxl_portrait.xml", R"(<surroundings>)", R"(<surroundings><surrounding type="PHOTOPAPERBOOK" pageType="emptypage" image="images/new.png" x="1" y="2" width="3" height="4"/>)", "products BOOK_XXL_PORTRAIT /surroundings/1: null -> {hasBindingShade:false,image:images/new.png,paintOnTop:true,places:[{alignment:left,page:null,pageType:emptypage},{alignment:right,page:null,pageType:emptypage}],rect:{height:4,width:3,x:1,y:2},type:[photopaperbook]}"},
     {"products/book_foil_small.xml", R"(x="0" y="0" width="1400")", R"(x="10" y="0" width="1400")", "products BOOK_FOIL_SMALL /surroundings/0/rect: {height:1400,width:1400,x:0,y:0} -> {height:1400,width:1400,x:10,y:0}"},
     {"products/book_foil_small.xml", R"(y="1300")", R"(y="1310")", "products BOOK_FOIL_SMALL /barcodes/0/rect: {height:60,width:240,x:540,y:1300} -> {height:60,width:240,x:540,y:1310}"},
     {"products/canvas_40x30.xml", R"(Einfarbig Weiß,Bild ganzseitig)", R"(Einfarbig Weiß,Bild quer)", "products CANVAS_40X30 /templates/0/layout: Bild ganzseitig -> Bild quer"},
-    // 14 and 15: product types; themes that are for books allow it no longer
+    {"products/book_clamp_a4_landscape.xml", R"("Weiß,1 Bild mittig")", R"("Weiß,1 Bild oben")", "products BOOK_CLAMP_A4_LANDSCAPE /templates/3/layout: 1 Bild mittig -> 1 Bild oben"},
+    {"products/book_a4_portrait.xml", R"(<contentredirect from="1" to="2"/>)", R"(<contentredirect from="5" to="2"/>)", "products BOOK_A4_PORTRAIT /contentRedirects/1/page: 1 -> 5"},
+    // Product types
     {"producttypes.xml", R"(shortname="Collegeblock A5")", R"(shortname="Block A5")", "products CB6 /product/shortName: Collegeblock A5 -> Block A5"},
     {"producttypes.xml", R"(name="CARD_POSTCARD" class="card")", R"(name="CARD_POSTCARD" class="gift")", "products CARD_POSTCARD /product/class: card -> gift"},
-    // 16 and 17: themes
+    // Themes
     {"themes/grundthemen.xml", R"(id="schule" producttype="gift" expiry="205008312359")", R"(id="schule" producttype="gift" expiry="205107312359")", "themes schule expiryDay: 2050-08-31 -> 2051-07-31"},
     {"themes/JAHRESZEITEN.XML", R"(<theme id="herbst")", R"(<theme id="herbst-2">)" "</theme><theme id=\"herbst\"", "themes added herbst-2"},
-    // 18 to 22: products that come, go and get another name
+    {"themes/JAHRESZEITEN.XML", R"(id="winter-2022")", R"(id="winter-2023")", "themes added winter-2023\nthemes removed winter-2022"},
+    // Products that come, go and get another name
     {"products/legacy/cup1.xml", R"(width="1950")", R"(width="1940")", "legacyProducts CUP1 /sizes/page: {height:950,width:1950} -> {height:950,width:1940}"},
     {"products/foam_direct_40x60.xml", "x", "", "products removed FOAM_DIRECT_40X60"},
     {"producttypes.xml", R"(<!-- Calendars -->)", R"(<producttype code="9999" name="CUP3" class="gift"/>)", "products added CUP3"},

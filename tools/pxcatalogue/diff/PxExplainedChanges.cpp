@@ -160,7 +160,7 @@ QString rowOf(const PxChange &change)
                                                       : QString();
 }
 
-/** Sizes that have more than one attribute in common with others follow only as a whole. */
+/** The cover is larger than the page by attributes of its own, which may have changed as well. */
 bool isSameDifference(const PxChange &a, const PxChange &b)
 {
     const auto difference = [](const PxChange &change, const char *side) {
@@ -217,7 +217,7 @@ private:
             return false;
         if (key == "/product/isOffered") // what a product that is not offered lacks
             return isNothing(change.before) || isNothing(change.after);
-        return !isInSection || key.contains('*') || change.key->format != PxReportFormat::Size ||
+        return key != "/sizes/page" || QString(change.key->pointer) != "/sizes/cover" ||
                isSameDifference(*m_changes[key], change);
     }
 
