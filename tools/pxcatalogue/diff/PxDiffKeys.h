@@ -1,5 +1,6 @@
 #pragma once
 
+#include "format/PxFormatRows.h"
 #include "report/PxReportValue.h"
 
 #include <QString>
@@ -26,17 +27,19 @@ struct PxDiffKey
 struct PxDiffTable
 {
     const char *section;
-    const char *label;               ///< of a row, before what identifies it
-    QVector<QStringList> identities; ///< columns; what is the same in them is the same row
+    const char *label;      ///< of a row, before what identifies it
+    const char *identities; ///< sets of columns: rows that are equal in one are the same row
+
+    QVector<QStringList> identityColumns() const;
 };
 
 /** What is compared, in the order in which changes are listed. */
 class PxDiffKeys
 {
 public:
-    static const QVector<PxDiffKey> &ofProducts();
-    static const QVector<PxDiffKey> &ofThemes();
-    static const QVector<PxDiffTable> &tables();
+    static PxRows<PxDiffKey> ofProducts();
+    static PxRows<PxDiffKey> ofThemes();
+    static PxRows<PxDiffTable> tables();
 
     /** The keys and the sections that they are in, as --only takes them. */
     static QStringList all();

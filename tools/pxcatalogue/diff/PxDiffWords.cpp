@@ -95,7 +95,12 @@ QString textOf(const QJsonValue &value, const PxChange &change)
     return text.isEmpty() ? "none" : PxTerminal::shortened(text, longestText);
 }
 
-/** With the unit, if there is a number at all. */
+QString textWithUnit(const QJsonValue &value, const PxChange &change)
+{
+    return textOf(value, change) +
+           (value.isNull() ? QString() : PxReportValue::unit(change.key->format));
+}
+
 QString rangeText(const QJsonValue &first, const QJsonValue &last, const PxChange &change)
 {
     const QString from = textOf(first, change);
@@ -161,10 +166,12 @@ QString PxDiffWords::of(const PxChange &first, const PxChange &last)
         if (!difference.isEmpty())
             return PxTerminal::shortened(difference, longestText);
     }
-    const QString unit = PxReportValue::unit(first.key->format);
-    const QString after = rangeText(first.after, last.after, first);
-    const QString values = rangeText(first.before, last.before, first) + " → " + after;
-    return (difference.isEmpty() ? QString()
-                                 : PxTerminal::shortened(difference, longestText) + ", ") +
-           values + (after == "none" ? QString() : unit);
+    const QString values =
+        first.before.isNull() || first.after.isNull()
+            ? textWithUnit(first.before, first) + " → " + textWithUnit(first.after, first)
+            : rangeText(first.before, last.before, first) + " → " +
+                  rangeText(first.after, last.after, first) +
+                  PxReportValue::unit(first.key->format);
+    return difference.isEmpty() ? values
+                                : PxTerminal::shortened(difference, longestText) + ", " + values;
 }

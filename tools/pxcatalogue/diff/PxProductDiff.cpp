@@ -16,7 +16,8 @@ bool areSame(const PxDiffKey &key, const QJsonValue &a, const QJsonValue &b)
 QString nameOf(const PxDiffTable &table, const QJsonValue &row)
 {
     QStringList words{table.label};
-    for (const QString &column : table.identities.constFirst())
+    const QStringList columns = table.identityColumns().constFirst();
+    for (const QString &column : columns)
         words.append(PxDiffWords::ofParts(row[column]));
     words.removeAll(QString());
     return words.join(' ');
@@ -78,7 +79,8 @@ void PxProductDiff::compareTable(const PxDiffTable &table)
         return product.valueByPageCount(QString("/%1/%2").arg(table.section).arg(row))
             .columns.isEmpty();
     };
-    for (const auto &[oldRow, newRow] : PxMatchedRows::of(oldRows, newRows, table.identities)) {
+    for (const auto &[oldRow, newRow] :
+         PxMatchedRows::of(oldRows, newRows, table.identityColumns())) {
         const QJsonValue before = oldRow < 0 ? QJsonValue() : oldRows[oldRow];
         const QJsonValue after = newRow < 0 ? QJsonValue() : newRows[newRow];
         if (before == after && isFixed(m_old, oldRow) && isFixed(m_new, newRow))
