@@ -106,7 +106,7 @@ constexpr Edit edits[] = {
     {"products/book_a4_portrait.xml", R"(<contentredirect from="1" to="2"/>)", R"(<contentredirect from="5" to="2"/>)", "products BOOK_A4_PORTRAIT /contentRedirects/1/page: 1 -> 5"},
     // Product types
     {"producttypes.xml", R"(shortname="Collegeblock A5")", R"(shortname="Block A5")", "products CB6 /product/shortName: Collegeblock A5 -> Block A5"},
-    {"producttypes.xml", R"(name="CARD_POSTCARD" class="card")", R"(name="CARD_POSTCARD" class="gift")", "products CARD_POSTCARD /product/class: card -> gift"},
+    {"producttypes.xml", R"(name="PILLOW_PREMIUM" class="gift")", R"(name="PILLOW_PREMIUM" class="book")", "products PILLOW_PREMIUM /product/class: gift -> book"},
     // Themes
     {"themes/grundthemen.xml", R"(id="schule" producttype="gift" expiry="205008312359")", R"(id="schule" producttype="gift" expiry="205107312359")", "themes schule expiryDay: 2050-08-31 -> 2051-07-31"},
     {"themes/JAHRESZEITEN.XML", R"(<theme id="herbst")", R"(<theme id="herbst-2">)" "</theme><theme id=\"herbst\"", "themes added herbst-2"},

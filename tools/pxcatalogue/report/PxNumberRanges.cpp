@@ -1,6 +1,5 @@
 #include "report/PxNumberRanges.h"
 
-#include <QRegularExpression>
 #include <QVector>
 
 #include <limits>
@@ -53,20 +52,20 @@ QString PxNumberRanges::text(const QList<int> &numbers)
 
 std::optional<QList<int>> PxNumberRanges::numbers(const QString &text, int most)
 {
-    static const QRegularExpression ourRange(
-        "^(-?[0-9]{1,10})(?:-([0-9]{1,10})(?:/([0-9]{1,10}))?)?$");
     QList<int> numbers;
     const QVector<QStringRef> parts =
         text.isEmpty() ? QVector<QStringRef>() : text.splitRef(QLatin1String(", "));
     for (const QStringRef &part : parts) {
-        const auto match = ourRange.match(part);
-        const qint64 first = match.capturedRef(1).toLongLong();
-        const qint64 last =
-            match.lastCapturedIndex() < 2 ? first : match.capturedRef(2).toLongLong();
-        const qint64 step = match.lastCapturedIndex() < 3 ? 1 : match.capturedRef(3).toLongLong();
-        if (!match.hasMatch() || step < 1 || last < first ||
-            first < std::numeric_limits<int>::min() || last > std::numeric_limits<int>::max() ||
-            (last - first) / step >= most - numbers.size())
+        const int dash = part.indexOf('-', 1); // behind the sign
+        const int slash = part.indexOf('/');
+        bool isFirst = false;
+        bool isLast = true;
+        bool isStep = true;
+        const int first = part.left(dash < 0 ? slash : dash).toInt(&isFirst);
+        const int last = dash < 0 ? first : part.mid(dash + 1, slash - dash - 1).toInt(&isLast);
+        const int step = slash < 0 ? 1 : part.mid(slash + 1).toInt(&isStep);
+        if (!isFirst || !isLast || !isStep || step < 1 || last < first ||
+            (qint64(last) - first) / step >= most - numbers.size())
             return std::nullopt;
         for (qint64 number = first; number <= last; number += step)
             numbers.append(int(number));
