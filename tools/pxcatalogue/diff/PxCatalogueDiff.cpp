@@ -156,7 +156,8 @@ void PxCatalogueDiff::removeExplained(PxDiffOfKind *products, const Objects &obj
             const QString key = change.key->pointer;
             const QString before = change.before.toString();
             const QString after = change.after.toString();
-            if (key == "/legacy/replaces")
+            // Without a name in the shop a product is called by its own name there.
+            if (key == "/legacy/replaces" || key == "/product/shortName")
                 return newName(before) == after;
             if (key == "/legacy/replacedBy")
                 return newName(before) == after || m_replacing.contains(before) ||
