@@ -99,6 +99,7 @@ constexpr Edit edits[] = {
     {"products/card_folded_a6.xml", R"(legacy="CARD_CLASSIC_FOLDED")", R"(legacy="CUP1")", "products CARD_FOLDED_A6 /legacy/replaces: CARD_CLASSIC_FOLDED -> CUP1"},
     // Rows of tables, one of them before the others, one for two kinds of pages
     {"products/book_xxl_portrait.xml", R"(<surroundings>)", R"(<surroundings><surrounding type="PHOTOPAPERBOOK" pageType="emptypage" image="images/new.png" x="1" y="2" width="3" height="4"/>)", "products BOOK_XXL_PORTRAIT /surroundings/1: null -> {hasBindingShade:false,image:images/new.png,paintOnTop:true,places:[{alignment:left,page:null,pageType:emptypage},{alignment:right,page:null,pageType:emptypage}],rect:{height:4,width:3,x:1,y:2},type:[photopaperbook]}"},
+    {"products/book_a4_portrait.xml", R"(<extra_production_pages>)", R"(<extra_production_pages><item><target_pages>3</target_pages><pdf filename="a" type="background" layer="0"/></item>)", "products BOOK_A4_PORTRAIT /extraPages/0: null -> {file:a,layer:0,pages:[3],type:background}"},
     {"products/book_foil_small.xml", R"(x="0" y="0" width="1400")", R"(x="10" y="0" width="1400")", "products BOOK_FOIL_SMALL /surroundings/0/rect: {height:1400,width:1400,x:0,y:0} -> {height:1400,width:1400,x:10,y:0}"},
     {"products/book_foil_small.xml", R"(y="1300")", R"(y="1310")", "products BOOK_FOIL_SMALL /barcodes/0/rect: {height:60,width:240,x:540,y:1300} -> {height:60,width:240,x:540,y:1310}"},
     {"products/canvas_40x30.xml", R"(Einfarbig Weiß,Bild ganzseitig)", R"(Einfarbig Weiß,Bild quer)", "products CANVAS_40X30 /templates/0/layout: Bild ganzseitig -> Bild quer"},
@@ -243,27 +244,42 @@ void PxDiffTest::refusesWhatIsNoExport()
 
 void PxDiffTest::joinsPageCountsThatChangeAlike()
 {
+    constexpr int most = 30000;
     const PxSampleCopy copies[2];
     for (int i = 0; i < 2; ++i) {
         QString spines;
-        for (int pages = 1; pages <= 30000; ++pages) {
+        for (int pages = 1; pages <= most - i; ++pages) {
             const int width = pages % 1000 + (pages == 20000 ? 0 : 3 * i);
             spines += QString("<spine pages='%1' width='%2'/>").arg(pages).arg(width);
         }
+        // The last page has a barcode and content in the longer product only.
         copies[i].write("products/book_mini.xml",
                         "<d><product name='BOOK_MINI' binding='SOFTCOVER'><pages>spine,normalpages"
-                        "</pages><spines>" +
+                        "</pages><barcodes><barcode pageNr='30000' image='x' width='9' height='9'/>"
+                        "</barcodes><pageswithcontent>1,30000</pageswithcontent><spines>" +
                             spines +
-                            "<spine pages='100000'/></spines>"
-                            "<usablesize width='900' height='1200'/></product></d>");
+                            "</spines><usablesize width='900' height='1200'/></product></d>");
     }
-    const PxProgramRun found = run({"diff", copies[0].path(), copies[1].path()});
-    QCOMPARE(found.status(), 1);
-    QCOMPARE(
-        found.output().join('\n').remove(QRegularExpression(" \\(products.*?\\)")),
-        QString("What customers notice\n  BOOK_MINI\n"
-                "    spine for 1 to 19999 pages: 0.3 mm wider, 2.1 to 101.9 → 2.4 to 102.2 mm\n"
-                "    spine for 20001 to 30000 pages: 0.3 mm wider, 2.1 to 2 → 2.4 to 2.3 mm"));
+    for (const bool isLonger : {false, true}) {
+        const QStringList paths{copies[0].path(), copies[1].path()};
+        const PxProgramRun found = run({"diff", paths[isLonger ? 1 : 0], paths[isLonger ? 0 : 1],
+                                        "--only", "/pages,/barcodes,/spine"});
+        QCOMPARE(found.status(), 1);
+        const QString lines =
+            found.output().join('\n').remove(QRegularExpression(" \\(products.*?\\)"));
+        const QString expected =
+            isLonger
+                ? "    page counts: now 30000, 1-29999 → 1-30000\n"
+                  "    spine for 1 to 19999 pages: 0.3 mm narrower, 2.4 to 102.2 → 2.1 to 101.9 "
+                  "mm\n"
+                  "    spine for 20001 to 29999 pages: 0.3 mm narrower, 2.4 to 102.2 → 2.1 to "
+                  "101.9 mm"
+                : "    page counts: no longer 30000, 1-30000 → 1-29999\n"
+                  "    spine for 1 to 19999 pages: 0.3 mm wider, 2.1 to 101.9 → 2.4 to 102.2 mm\n"
+                  "    spine for 20001 to 29999 pages: 0.3 mm wider, 2.1 to 101.9 → 2.4 to 102.2 "
+                  "mm";
+        QCOMPARE(lines, "What customers notice\n  BOOK_MINI\n" + expected);
+    }
 }
 
 /** A value that is exported but not compared would be a change that nobody sees. */

@@ -128,19 +128,18 @@ PxDiffOfKind PxCatalogueDiff::compareProducts(const Objects &oldProducts,
 void PxCatalogueDiff::findCauses(const PxDiff &diff)
 {
     for (const PxDiffOfKind *kind : {&diff.products, &diff.legacyProducts}) {
-        for (const QString &name : kind->added + kind->removed)
-            m_onlyInOne.insert(name);
+        for (const QString &name : kind->removed)
+            m_removed.insert(name);
+        for (const QString &name : kind->added + kind->removed) {
+            m_changedLegacy.insert(name);
+            m_replacing.insert(name);
+        }
     }
-    m_changedLegacy = m_onlyInOne;
-    m_replacing = m_onlyInOne;
-    m_reclassified = m_onlyInOne;
     for (const PxChangedObject &object : diff.legacyProducts.changed)
         m_changedLegacy.insert(object.name);
     for (const PxChangedObject &object : diff.products.changed) {
         if (hasChange(object, "/legacy/replaces"))
             m_replacing.insert(object.name);
-        if (hasChange(object, "/product/class"))
-            m_reclassified.insert(object.name);
     }
 }
 
@@ -207,10 +206,7 @@ QVector<PxChange> PxCatalogueDiff::changesOfTheme(const QByteArray &oldLine,
     return changes;
 }
 
-/**
- * Whether the same products are allowed, apart from those that were added, removed or renamed, or
- * that have another class now. An empty list allows all.
- */
+/** Apart from products that are gone or have another name. An empty list allows all. */
 bool PxCatalogueDiff::allowTheSame(const QJsonArray &before, const QJsonArray &after) const
 {
     if (before.isEmpty() != after.isEmpty())
@@ -221,5 +217,5 @@ bool PxCatalogueDiff::allowTheSame(const QJsonArray &before, const QJsonArray &a
     QSet<QString> newNames;
     for (const auto &name : after)
         newNames.insert(name.toString());
-    return oldNames.subtract(m_reclassified) == newNames.subtract(m_reclassified);
+    return oldNames.subtract(m_removed) == newNames.subtract(m_removed);
 }

@@ -31,9 +31,8 @@ private:
     QString newName(const QString &name) const { return m_newNames.value(name, name); }
 
     QHash<QString, QString> m_newNames; // of products that are renamed, by the old name
+    QSet<QString> m_removed;
     // Products that explain what others say of them: they are only in one of the catalogues, or …
-    QSet<QString> m_onlyInOne;
     QSet<QString> m_changedLegacy; // … changed, and of an earlier catalogue
     QSet<QString> m_replacing;     // … replace another one now
-    QSet<QString> m_reclassified;  // … have another class
 };

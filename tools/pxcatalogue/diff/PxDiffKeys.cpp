@@ -124,7 +124,7 @@ constexpr PxDiffTable tableRows[] = {
     {"surroundings", "surrounding on", "places; type rect image; places type"},
     {"barcodes", "barcode on page", "page isCountedFromBack; rect image"},
     {"templates", "default template of", "pageType alignment"},
-    {"extraPages", "extra production pages", "pages type layer; type layer file"},
+    {"extraPages", "extra production pages", "pages type layer file; pages type layer; type layer file"},
     {"contentRedirects", "content dropped on page", "page; target"},
     {"rotationRedirects", "rotation of page", "page target; page; target angleInvert"},
 };

@@ -2,7 +2,6 @@
 
 #include "format/PxOriginRows.h"
 
-#include <QBitArray>
 #include <QHash>
 #include <QRegularExpression>
 #include <QSet>
@@ -122,32 +121,6 @@ const Explanations &explanations()
     return ourExplanations;
 }
 
-/** With which page counts a value changed: with all, or with those of the bits. */
-struct Extent
-{
-    bool isAll = false;
-    QBitArray pageCounts = {};
-
-    void add(const PxChange &change)
-    {
-        isAll |= !change.dependsOnPageCount();
-        if (pageCounts.size() < change.end)
-            pageCounts.resize(change.end);
-        pageCounts.fill(true, change.begin, change.end);
-    }
-
-    bool overlaps(const PxChange &change) const
-    {
-        if (isAll || !change.dependsOnPageCount())
-            return true;
-        for (int i = change.begin; i < qMin(change.end, pageCounts.size()); ++i) {
-            if (pageCounts[i])
-                return true;
-        }
-        return false;
-    }
-};
-
 QString sectionOf(const QString &pointer)
 {
     return pointer.section('/', 1, 1);
@@ -193,10 +166,9 @@ public:
     {
         for (const PxChange &change : changes) {
             const QString key = change.key->pointer;
-            m_extents[key].add(change);
             m_changes.insert(key, &change);
             if (key.contains('*'))
-                m_extents[key + rowOf(change)].add(change);
+                m_changes.insert(key + rowOf(change), &change);
         }
     }
 
@@ -210,18 +182,16 @@ public:
 private:
     bool explains(const QString &key, const PxChange &change) const
     {
-        const bool isInSection = sectionOf(key) == sectionOf(change.pointer);
-        const auto extent =
-            m_extents.constFind(key.contains('*') && isInSection ? key + rowOf(change) : key);
-        if (extent == m_extents.constEnd() || !extent->overlaps(change))
+        const bool isOfRow = key.contains('*') && sectionOf(key) == sectionOf(change.pointer);
+        const PxChange *cause = m_changes.value(isOfRow ? key + rowOf(change) : key);
+        if (!cause)
             return false;
         if (key == "/product/isOffered") // what a product that is not offered lacks
             return isNothing(change.before) || isNothing(change.after);
         return key != "/sizes/page" || QString(change.key->pointer) != "/sizes/cover" ||
-               isSameDifference(*m_changes[key], change);
+               isSameDifference(*cause, change);
     }
 
-    QHash<QString, Extent> m_extents;
     QHash<QString, const PxChange *> m_changes;
 };
 

@@ -6,12 +6,11 @@
 
 namespace {
 
-/** What identifies a row: its values in the columns, or in all of them if none are named. */
 QByteArray identityOf(const QJsonObject &row, const QStringList &columns)
 {
-    QJsonObject identity = columns.isEmpty() ? row : QJsonObject();
+    QJsonArray identity;
     for (const QString &column : columns)
-        identity.insert(column, row[column]);
+        identity.append(row[column]);
     return QJsonDocument(identity).toJson(QJsonDocument::Compact);
 }
 
@@ -22,7 +21,7 @@ PxMatchedRows::Pairs PxMatchedRows::of(const QJsonArray &oldRows, const QJsonArr
 {
     QVector<int> oldOfNew(newRows.size(), -1);
     QVector<bool> isMatched(oldRows.size(), false);
-    for (const QStringList &columns : QVector<QStringList>{{}} + identities) {
+    for (const QStringList &columns : identities) {
         QHash<QByteArray, QVector<int>> free; // the last one first
         for (int i = oldRows.size() - 1; i >= 0; --i) {
             if (!isMatched[i] && oldRows[i].isObject())

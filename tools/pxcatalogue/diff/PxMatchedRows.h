@@ -13,8 +13,8 @@ public:
     using Pairs = QVector<QPair<int, int>>;
 
     /**
-     * Rows that are equal belong together, then those that are equal in the first set of columns,
-     * then in the next. In the order of the new table; what is gone comes last.
+     * Rows that are equal in the first set of columns belong together, of the others those that are
+     * equal in the next one. In the order of the new table; what is gone comes last.
      */
     static Pairs of(const QJsonArray &oldRows, const QJsonArray &newRows,
                     const QVector<QStringList> &identities);
