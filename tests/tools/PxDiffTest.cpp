@@ -114,7 +114,8 @@ constexpr Edit edits[] = {
     {"themes/JAHRESZEITEN.XML", R"(id="winter-2022")", R"(id="winter-2023")", "themes added winter-2023\nthemes removed winter-2022"},
     // Products that come, go and get another name
     {"products/legacy/cup1.xml", R"(width="1950")", R"(width="1940")", "legacyProducts CUP1 /sizes/page: {height:950,width:1950} -> {height:950,width:1940}"},
-    {"products/foam_direct_40x60.xml", "x", "", "products removed FOAM_DIRECT_40X60"},
+    {"products/cb13s3.xml", "x", "", "products removed CB13S3"},
+    {"producttypes.xml", R"(<producttype code="406" name="CB13S3" class="gift" shortname="Schreibhefte 3er-Set"/>)", " ", ""}, // so that a theme has it no longer
     {"producttypes.xml", R"(<!-- Calendars -->)", R"(<producttype code="9999" name="CUP3" class="gift"/>)", "products added CUP3"},
     {"products/cup3.xml", "", R"(<d><product name="CUP3" binding="GIFT" orientation="panorama"><pages>normalpage</pages><usablesize width="2000" height="950"/></product></d>)", ""},
     {"producttypes.xml", R"(name="BOOK_A4_PORTRAIT_PHOTO")", R"(name="BOOK_A4_PHOTO")", "products renamed {code:104,from:BOOK_A4_PORTRAIT_PHOTO,to:BOOK_A4_PHOTO}"},

@@ -121,18 +121,6 @@ const Explanations &explanations()
     return ourExplanations;
 }
 
-QString sectionOf(const QString &pointer)
-{
-    return pointer.section('/', 1, 1);
-}
-
-/** "pageKinds/3" for a value in a table; empty for another. */
-QString rowOf(const PxChange &change)
-{
-    return QString(change.key->pointer).contains('*') ? change.pointer.section('/', 1, 2)
-                                                      : QString();
-}
-
 /** The cover is larger than the page by attributes of its own, which may have changed as well. */
 bool isSameDifference(const PxChange &a, const PxChange &b)
 {
@@ -151,58 +139,38 @@ bool isNothing(const QJsonValue &value)
 /** One default template is for several kinds of pages, of which the first is named. */
 bool isOfSameTemplate(const QVector<PxChange> &known, const PxChange &change)
 {
-    return sectionOf(change.pointer) == "templates" &&
+    return change.pointer.startsWith("/templates/") &&
            std::any_of(known.begin(), known.end(), [&change](const PxChange &other) {
                return other.key == change.key && other.before == change.before &&
                       other.after == change.after;
            });
 }
 
-/** All changes of a product, by key, and by key and row. */
-class Causes
+bool explains(const PxChange &cause, const PxChange &change)
 {
-public:
-    explicit Causes(const QVector<PxChange> &changes)
-    {
-        for (const PxChange &change : changes) {
-            const QString key = change.key->pointer;
-            m_changes.insert(key, &change);
-            if (key.contains('*'))
-                m_changes.insert(key + rowOf(change), &change);
-        }
-    }
-
-    bool explain(const PxChange &change) const
-    {
-        const Keys keys = explanations().explaining(*change.key);
-        return std::any_of(keys.begin(), keys.end(),
-                           [&](const QString &key) { return explains(key, change); });
-    }
-
-private:
-    bool explains(const QString &key, const PxChange &change) const
-    {
-        const bool isOfRow = key.contains('*') && sectionOf(key) == sectionOf(change.pointer);
-        const PxChange *cause = m_changes.value(isOfRow ? key + rowOf(change) : key);
-        if (!cause)
-            return false;
-        if (key == "/product/isOffered") // what a product that is not offered lacks
-            return isNothing(change.before) || isNothing(change.after);
-        return key != "/sizes/page" || QString(change.key->pointer) != "/sizes/cover" ||
-               isSameDifference(*cause, change);
-    }
-
-    QHash<QString, const PxChange *> m_changes;
-};
+    const QString key = cause.key->pointer;
+    if (key == "/product/isOffered") // what a product that is not offered lacks
+        return isNothing(change.before) || isNothing(change.after);
+    return key != "/sizes/page" || change.pointer != "/sizes/cover" ||
+           isSameDifference(cause, change);
+}
 
 } // namespace
 
 QVector<PxChange> PxExplainedChanges::removedFrom(const QVector<PxChange> &changes)
 {
-    const Causes causes(changes);
+    QHash<QString, const PxChange *> causes; // by key
+    for (const PxChange &change : changes)
+        causes.insert(change.key->pointer, &change);
+    const auto isExplained = [&causes](const PxChange &change) {
+        const Keys keys = explanations().explaining(*change.key);
+        return std::any_of(keys.begin(), keys.end(), [&](const QString &key) {
+            return causes.contains(key) && explains(*causes[key], change);
+        });
+    };
     QVector<PxChange> left;
     for (const PxChange &change : changes) {
-        if (!causes.explain(change) && !isOfSameTemplate(left, change))
+        if (!isExplained(change) && !isOfSameTemplate(left, change))
             left.append(change);
     }
     return left;
