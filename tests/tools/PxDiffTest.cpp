@@ -154,7 +154,8 @@ void PxDiffTest::namesEachChangeOnce()
     QVERIFY2(without(expected, differences).isEmpty(),
              qPrintable("missing:\n" + without(expected, differences).join('\n')));
     QCOMPARE(differences.size(), expected.size());
-    QVERIFY(!found.printed().contains("\"place\": null"));
+    // Only the size that a product lacks has no place.
+    QVERIFY(found.printed().count("\"place\": null") <= 1);
 
     // Exports have the same differences, whoever made them, but no places.
     const QString oldFile = copy.filePath("old.jsonl");
