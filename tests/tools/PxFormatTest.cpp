@@ -9,6 +9,7 @@
 #include <description/PxProductTypeDescription.h>
 #include <description/PxProductTypeDescriptionReader.h>
 #include <format/PxFormat.h>
+#include <format/PxOriginRows.h>
 #include <themes/PxThemeFactory.h>
 #include <values/PxHumanReadable.h>
 
@@ -18,6 +19,8 @@
 #include <QImage>
 #include <QRegularExpression>
 #include <QTest>
+
+#include <functional>
 
 /** Compares the rows of the format with what the library really reads. */
 class PxFormatTest : public QObject
@@ -31,6 +34,7 @@ private slots:
     void attributeIsReadAndHasItsDefault();
     void elementCountsAsOften_data();
     void elementCountsAsOften();
+    void originsNameTheFormat();
     void framesAreReadOnce();
     void keywordsAreThoseOfTheLibrary();
     void platformKnowsTheSameKeywords();
@@ -330,6 +334,53 @@ void PxFormatTest::elementCountsAsOften()
 }
 
 /** Which can't be repeated: one file has to show it all. */
+/** Each row of origins names what exists; each attribute is named, but for what "show" does not
+ * print. */
+void PxFormatTest::originsNameTheFormat()
+{
+    const QMap<QString, QPair<PxFileKind, QString>> roots = {
+        {"", {PxFileKind::Product, "product"}},
+        {"replaced", {PxFileKind::Product, "product"}},
+        {"successor", {PxFileKind::Product, "product"}},
+        {"user", {PxFileKind::UserDefaults, "defaults"}},
+        {"theme", {PxFileKind::Theme, "theme"}},
+        {"type", {PxFileKind::ProductTypes, "producttype"}}};
+    QSet<QString> named;
+    for (const PxOriginRow &row : PxOriginRows::all()) {
+        for (QString term : QString(row.inputs).split(QRegularExpression("[ ;|]+"))) {
+            const QString prefix = term.contains(':') ? term.section(':', 0, 0) : "";
+            if (term.startsWith('/'))
+                QVERIFY2(!PxOriginRows::of(term).isEmpty(), qPrintable(term));
+            if (term.isEmpty() || term.startsWith('/') || !roots.contains(prefix))
+                continue;
+            const auto [kind, root] = roots[prefix];
+            term = term.section(':', -1).remove(QRegularExpression("\\[\\w+\\]"));
+            const QString path = root + '/' + term.section('@', 0, 0);
+            const PxElementRow *element =
+                PxFormat::find(kind, path.endsWith('/') ? path.chopped(1) : path);
+            QVERIFY2(element, qPrintable(path));
+            const QString attribute = term.section('@', 1);
+            QVERIFY2(attribute.isEmpty() || PxFormat::attribute(*element, attribute),
+                     qPrintable(term));
+            named.insert(QString(element->name) + '@' + attribute);
+        }
+    }
+    QStringList unnamed;
+    const std::function<void(const PxElementRow &)> look = [&](const PxElementRow &element) {
+        for (const PxAttributeRow &attribute : element.attributes) {
+            const QString name = QString("%1@%2").arg(element.name, attribute.name);
+            if (!named.contains(name))
+                unnamed.append(name);
+        }
+        for (const PxElementRow &child : element.children)
+            look(child);
+    };
+    for (const auto &root : roots)
+        look(PxFormat::root(root.first));
+    unnamed.removeDuplicates();
+    QCOMPARE(unnamed.join(' '), QString("theme@id theme@producttype theme@thumbnail"));
+}
+
 void PxFormatTest::framesAreReadOnce()
 {
     QStringList names;

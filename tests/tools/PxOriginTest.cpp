@@ -379,14 +379,16 @@ void PxOriginTest::valuesChangeWithTheirOrigins_data()
     const char *book = "BOOK_A4_PORTRAIT --pages 26";
     const char *wedding = "BOOK_A4_PORTRAIT --pages 26 --theme hochzeit";
     add("book", wedding, "products/book_a4_portrait.xml", PxFileKind::Product);
+    add("distinct values", "BOOK_MINI --pages 28", "products/book_mini.xml", PxFileKind::Product,
+        "", false);
+    add("replaced product", book, "products/legacy/book_classic_a4.xml", PxFileKind::Product);
+    add("successor", "CUP1", "products/cup2.xml", PxFileKind::Product);
     add("its user defaults", book, "defaults/BOOK_A4_PORTRAIT.xml", PxFileKind::UserDefaults);
     add("its theme", wedding, "themes/grundthemen.xml", PxFileKind::Theme, "hochzeit");
     add("its type", book, "producttypes.xml", PxFileKind::ProductTypes, "BOOK_A4_PORTRAIT");
     add("calendar", "CALENDAR_WALL_A4", "products/calendar_wall_a4.xml", PxFileKind::Product, "",
         false);
     add("card", "CARD_FOLDED_A6", "products/card_folded_a6.xml", PxFileKind::Product, "", false);
-    add("legacy", "BOOK_CLASSIC_A4", "products/legacy/book_classic_a4.xml", PxFileKind::Product, "",
-        false);
 }
 
 void PxOriginTest::valuesChangeWithTheirOrigins()
@@ -399,12 +401,18 @@ void PxOriginTest::valuesChangeWithTheirOrigins()
     const PxSampleCopy sample;
     // What tells nothing more would only take time.
     for (const QString &other : QDir(sample.filePath("products")).entryList({"*.xml"})) {
-        if (!QRegularExpression("book_a4_portrait(_glossy)?|calendar_wall|card_folded")
+        if (!QRegularExpression("book_a4_portrait(_glossy)?|mini|cup2|calendar_wall|card_folded")
                  .match(other)
                  .hasMatch())
             QFile::remove(sample.filePath("products/" + other));
     }
     QString text = sample.read(file);
+    if (file.contains("mini")) {
+        QFile all(PX_TEST_DATA_DIRECTORY "/distinct-values.xml");
+        QVERIFY(all.open(QIODevice::ReadOnly));
+        text = QString::fromUtf8(all.readAll()).replace("PROBEBOOK", "BOOK_MINI");
+        sample.write(file, text);
+    }
     text.remove(QRegularExpression("      <spine pages=\"(3[2-57-9]|[4-9].|1..)\".*\n"));
     // So that counting from the front there is no such page.
     text.replace("pageNr=\"2\" reverseOrder", "pageNr=\"31\" reverseOrder");

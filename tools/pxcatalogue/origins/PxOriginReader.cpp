@@ -42,7 +42,7 @@ QMap<QString, PxOriginFile> filesOf(const PxShownProduct &shown)
 /** Whether one of the words is known, or at least means something else than the default. */
 bool isReadAsKeywords(const QString &text, const PxAttributeRow &row)
 {
-    bool isAnyKnown = false;
+    bool isAnyKnown = row.keywords == PxKeywordSet::Material; // unknown ones are kept as they are
     pxForEachPart(text, [&](QStringView part) {
         isAnyKnown = isAnyKnown || PxFormat::isKeyword(row.keywords, part.trimmed().toString());
     });
@@ -227,11 +227,16 @@ PxOriginReader::Inputs PxOriginReader::inputsOf(const PxOriginRow &row, bool are
                                                 int index) const
 {
     Inputs inputs;
+    const bool isFormula = QString::fromUtf8(row.rule).contains('%');
     const QString part = QString(row.inputs).section(';', areChoosing ? 1 : 0, areChoosing ? 1 : 0);
     for (const QString &alternatives : part.split(' ', Qt::SkipEmptyParts)) {
-        const Input found = input(alternatives, index);
-        if (found.isThere || QString::fromUtf8(row.rule).contains('%'))
-            inputs.append(found);
+        Input found = input(alternatives, index);
+        if (row.when == When::Written && inputs.isEmpty())
+            found.isThere = found.isWritten; // even if it means nothing
+        Input absent;
+        absent.value = found.value;
+        if (found.isThere || isFormula)
+            inputs.append(found.isThere ? found : absent);
     }
     // A formula needs all its inputs, but at least one that is there.
     const bool isAny =
@@ -305,17 +310,20 @@ PxOriginReader::Input PxOriginReader::attributeOf(const PxOriginElement &owner, 
     const PxAttributeRow *row = element ? PxFormat::attribute(*element, name) : nullptr;
     const PxSourceAttribute *attribute =
         owner.element ? owner.element->attribute(name.toUtf8().constData()) : nullptr;
-    if (row && row->defaultText)
-        input.value = QString::fromUtf8(row->defaultText);
-    input.isWritten = attribute && !attribute->value.isEmpty();
-    if (!row || !attribute || !isRead(*owner.element, *attribute, *row))
+    if (!row)
         return input;
-    input.isThere = true;
-    input.isDefault = row->defaultText && attribute->value.trimmed() == input.value;
+    const QString defaultText = QString::fromUtf8(row->defaultText);
+    input.value = defaultText;
+    if (!attribute)
+        return input;
+    input.isWritten = !attribute->value.isEmpty();
+    input.isThere = isRead(*owner.element, *attribute, *row);
+    input.isDefault = row->defaultText && attribute->value.trimmed() == defaultText;
     input.kind = owner.file->kind();
     input.place = owner.file->place(attribute->nameRange);
     input.from = PxOrigin::text(input.place);
-    input.value = PxMessageText::shortened(attribute->value);
+    if (input.isThere)
+        input.value = PxMessageText::shortened(attribute->value);
     return input;
 }
 
