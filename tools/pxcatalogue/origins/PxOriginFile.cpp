@@ -3,7 +3,6 @@
 #include "format/PxFormat.h"
 
 #include <PxDirectoryConfig.h>
-#include <PxProductTypeCatalogue.h>
 #include <PxXMLLoader.h>
 
 #include <QDir>
