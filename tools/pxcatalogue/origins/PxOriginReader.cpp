@@ -237,11 +237,28 @@ PxOriginReader::Inputs PxOriginReader::inputsOf(const PxOriginRow &row, bool are
         absent.value = found.value;
         if (found.isThere || isFormula)
             inputs.append(found.isThere ? found : absent);
+        if (!alternatives.contains('@') && found.place.line > 0)
+            inputs += furtherLists(alternatives);
     }
     // A formula needs all its inputs, but at least one that is there.
     const bool isAny =
         std::any_of(inputs.begin(), inputs.end(), [](const Input &input) { return input.isThere; });
     return isAny ? inputs : Inputs();
+}
+
+/** The other elements with that name, if the library reads them, too. */
+PxOriginReader::Inputs PxOriginReader::furtherLists(const QString &term) const
+{
+    constexpr int most = 10; // nobody writes as many
+    Inputs inputs;
+    const PxOriginElement first = elementAt(QString(), term, 0);
+    if (term.contains(':') || term.contains('[') || !first.element ||
+        first.file->rowOf(*first.element)->occurrence != PxOccurrence::Any)
+        return inputs;
+    const QByteArray name = first.element->name.toUtf8();
+    for (const PxSourceElement *list : first.element->parent->childrenNamed(name).mid(1, most))
+        inputs.append(inputOf({first.file, list}));
+    return inputs;
 }
 
 /** The first alternative that says something; the last one if none does. */
@@ -279,12 +296,16 @@ PxOriginReader::Input PxOriginReader::inputAt(const QString &term, int index) co
     const PxOriginElement owner = elementAt(file, path, index);
     if (term.contains('@'))
         return attributeOf(owner, term.section('@', 1));
-    input.isThere = owner.element;
-    if (owner.element) {
-        input.kind = owner.file->kind();
-        input.place = owner.file->place(owner.element->nameRange);
-        input.from = PxOrigin::text(input.place);
-    }
+    return owner.element ? inputOf(owner) : Input();
+}
+
+PxOriginReader::Input PxOriginReader::inputOf(const PxOriginElement &element)
+{
+    Input input;
+    input.isThere = true;
+    input.kind = element.file->kind();
+    input.place = element.file->place(element.element->nameRange);
+    input.from = PxOrigin::text(input.place);
     return input;
 }
 

@@ -41,9 +41,11 @@ private:
     PxOrigin originOf(const PxOriginRow &row, int index) const;
     /** The inputs before or behind the ";" of a row, those that are not there left out. */
     Inputs inputsOf(const PxOriginRow &row, bool areChoosing, int index) const;
+    Inputs furtherLists(const QString &term) const;
     Input input(const QString &alternatives, int index) const;
     Input inputAt(const QString &term, int index) const;
     PxOriginElement elementAt(const QString &file, const QString &path, int index) const;
+    static Input inputOf(const PxOriginElement &element);
     static Input attributeOf(const PxOriginElement &owner, const QString &name);
     QString filled(const QString &rule, const Inputs &inputs) const;
 
