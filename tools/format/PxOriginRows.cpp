@@ -4,8 +4,8 @@ namespace {
 
 using When = PxOriginCase;
 
-// Most of the following code consists of tables. Binding and orientation always have a value, unless
-// a page has no area: what needs them names the size alone.
+// Most of the following code consists of tables. Binding and orientation always have a value,
+// unless a page has no area: what needs them names the size alone.
 // clang-format off
 constexpr PxOriginRow rows[] = {
     {"/format", "", "of this output"},
