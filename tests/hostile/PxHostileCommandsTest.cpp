@@ -184,14 +184,17 @@ void PxHostileCommandsTest::commandIsBounded_data()
         "compatible PAGES --json,variants VARIANTS --json,"
         "check,check --format json,check --format sarif,export,"
         "diff SAMPLE HOSTILE,diff HOSTILE SAMPLE --json";
-    for (const QString &command : commands.split(','))
+    QStringList run;
+    for (const QString &command : commands.split(',')) {
         QTest::newRow(qPrintable(command)) << command;
+        run.append(command.section(' ', 0, 0));
+    }
 
     // Without a command, the program says which ones there are.
     const QString names =
         PxProgramRun(PX_CATALOGUE_PROGRAM, {}).errors().value(0).section(": use ", 1);
     for (const QString &name : names.section(" (", 0, 0).split(", "))
-        QVERIFY2(commands.contains(name), qPrintable("no row runs " + name));
+        QVERIFY2(run.contains(name), qPrintable("no row runs " + name));
 }
 
 void PxHostileCommandsTest::commandIsBounded()

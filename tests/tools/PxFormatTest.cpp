@@ -333,9 +333,10 @@ void PxFormatTest::elementCountsAsOften()
     QCOMPARE(withBoth == empty, row.occurrence == PxOccurrence::First);
 }
 
-/** Which can't be repeated: one file has to show it all. */
-/** Each row of origins names what exists; each attribute is named, but for what "show" does not
- * print. */
+/**
+ * Each row of origins names what exists; each attribute is named, but for what "show" does not
+ * print.
+ */
 void PxFormatTest::originsNameTheFormat()
 {
     const QMap<QString, QPair<PxFileKind, QString>> roots = {
@@ -381,6 +382,7 @@ void PxFormatTest::originsNameTheFormat()
     QCOMPARE(unnamed.join(' '), QString("theme@id theme@producttype theme@thumbnail"));
 }
 
+/** In a process they are read once, so one file has to show it all. */
 void PxFormatTest::framesAreReadOnce()
 {
     QStringList names;

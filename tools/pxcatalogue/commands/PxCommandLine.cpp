@@ -17,14 +17,9 @@ constexpr const char *introduction =
     "their files.\n"
     "\nCommands (\"pxcatalogue help COMMAND\" shows the options of one):\n";
 constexpr const char *exitStatus =
-    "\nExit status: 0 done; 1 the answer is \"no\": there is no such product or theme, several "
-    "products fit the name, no product fits the filters, there is no other product that is "
-    "interchangeable, no theme to order, no variant, why says no, or two catalogues differ; 2 "
-    "wrong "
-    "usage, a directory or a producttypes.xml that cannot be read, or output that cannot be "
-    "written. "
-    "\"pxcatalogue help draw\" shows more reasons, \"pxcatalogue help check\" the exit status of "
-    "check.";
+    "\nExit status: 0 done; 1 the answer is \"no\", as when there is no such product or theme, or "
+    "several fit; the help of a command names its further reasons; 2 wrong usage, a directory or a "
+    "producttypes.xml that cannot be read, or output that cannot be written.";
 
 /** Each line that is too long, in several; the others as they are. */
 QString wrapped(const QString &text)

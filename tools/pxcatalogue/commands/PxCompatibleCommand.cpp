@@ -18,7 +18,8 @@ PxCommandUsage PxCompatibleCommand::usage() const
         "The other products that are interchangeable with this one.\n"
         "These have the same class and the same orientation, and their page lists have the same number "
         "of entries (a range of pages is one entry), all with a spine or all without. Page counts are "
-        "not compared. --criterion names further properties that must be the same.", {
+        "not compared. --criterion names further properties that must be the same. Exit status 1 if there "
+        "is no such product.", {
         {"criterion", "KEYWORDS", "What else must be the same: binding, paper, space, increment; several with commas. Default: nothing.", 0, 0, keywordList(criterionRows)},
         PxOption::theme(),
         PxOption::json(),

@@ -51,7 +51,7 @@ PxCommandUsage PxListCommand::usage() const
     return {"list",
         "A table of the products, by class and name.\n"
         "Pages 26-154/2 means from 26 to 154 in steps of 2; 26, 30 means these two. "
-        "Only products are shown that all the given options let through. Where there is little room, the least important columns are left out.", PxProductFilter::options() + own};
+        "Only products are shown that all the given options let through. Where there is little room, the least important columns are left out. Exit status 1 if no product fits.", PxProductFilter::options() + own};
     // clang-format on
 }
 

@@ -12,7 +12,7 @@ PxCommandUsage PxThemesCommand::usage() const
     // clang-format off
     return {"themes",
         "A table of the design themes, by id.\n"
-        "The column Products has the number of products that a theme allows; JSON names them.", {
+        "The column Products has the number of products that a theme allows; JSON names them. Exit status 1 if there is no theme to show.", {
         {"key-account", "N", "Only the themes that this key account may order today.", 0, std::numeric_limits<int>::max()},
         PxOption::json(),
     }};

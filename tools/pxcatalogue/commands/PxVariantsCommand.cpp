@@ -14,7 +14,8 @@ PxCommandUsage PxVariantsCommand::usage() const
 {
     return {"variants",
             "The variants of one product, such as its colours.\n"
-            "Variants without a name are not on offer and are left out.",
+            "Variants without a name are not on offer and are left out. Exit status 1 if none is "
+            "left.",
             {PxOption::json()},
             PxNamedProduct::argument()};
 }
