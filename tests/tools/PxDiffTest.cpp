@@ -86,6 +86,12 @@ constexpr Edit edits[] = {
     {"products/book_a4_portrait.xml", R"(<spine pages="28" width="76")", R"(<spine pages="28" width="78")", "products BOOK_A4_PORTRAIT /spine/width for 28: 96 -> 98"},
     {"products/book_a4_landscape.xml", R"(<usablesize width="2970")", R"(<usablesize width="2990")", "products BOOK_A4_LANDSCAPE /sizes/page: {height:2100,width:2970} -> {height:2100,width:2990}"},
     {"products/book_a4_landscape.xml", R"(coverextravertical="60")", R"(coverextravertical="70")", "products BOOK_A4_LANDSCAPE /sizes/cover: {height:2160,width:3030} -> {height:2170,width:3050}"},
+    // Values that would follow from others that change, too, but are written themselves
+    {"products/book_a4_landscape.xml", R"(orientation="landscape")", R"(orientation="panorama")", "products BOOK_A4_LANDSCAPE /product/orientation: landscape -> panorama\nproducts BOOK_A4_LANDSCAPE /sizes/foldMargin: 121 -> 0"},
+    {"products/book_xxl_portrait.xml", R"(<usablesize width="3000")", R"(<usablesize width="3100")", "products BOOK_XXL_PORTRAIT /sizes/page: {height:4000,width:3000} -> {height:4000,width:3100}"},
+    {"products/book_xxl_portrait.xml", R"(foldmargin="100")", R"(foldmargin="110")", "products BOOK_XXL_PORTRAIT /sizes/foldMargin: 100 -> 110"},
+    {"producttypes.xml", R"(name="PILLOW_PREMIUM" class="gift")", R"(name="PILLOW_PREMIUM" class="book")", "products PILLOW_PREMIUM /product/class: gift -> book\nproducts PILLOW_PREMIUM /design/fullBackgroundOnEachPage: true -> false"},
+    {"products/pillow_premium.xml", R"(<product name="PILLOW_PREMIUM")", R"(<product name="PILLOW_PREMIUM" coverBackgroundCategories="Leinen")", "products PILLOW_PREMIUM /design/backgroundCategories: [] -> [Leinen]"},
     // Page counts, whether it is offered at all, and pages that lie otherwise
     {"products/book_mini.xml", R"(<spine pages="42" width="111" maxfontheight="72"/>)", " ", "products BOOK_MINI /pages/offered: 18-42/4 -> 18-38/4"},
     {"products/book_compact.xml", R"(<spine pages="90" width="107" maxfontheight="69"/>)", R"(<spine pages="90" width="107" maxfontheight="69"/><spine pages="92" width="110"/>)", "products BOOK_COMPACT /pages/offered: 26-90/2 -> 26-92/2"},
@@ -107,7 +113,6 @@ constexpr Edit edits[] = {
     {"products/book_a4_portrait.xml", R"(<contentredirect from="1" to="2"/>)", R"(<contentredirect from="5" to="2"/>)", "products BOOK_A4_PORTRAIT /contentRedirects/1/page: 1 -> 5"},
     // Product types
     {"producttypes.xml", R"(shortname="Collegeblock A5")", R"(shortname="Block A5")", "products CB6 /product/shortName: Collegeblock A5 -> Block A5"},
-    {"producttypes.xml", R"(name="PILLOW_PREMIUM" class="gift")", R"(name="PILLOW_PREMIUM" class="book")", "products PILLOW_PREMIUM /product/class: gift -> book"},
     // Themes
     {"themes/grundthemen.xml", R"(id="schule" producttype="gift" expiry="205008312359")", R"(id="schule" producttype="gift" expiry="205107312359")", "themes schule expiryDay: 2050-08-31 -> 2051-07-31"},
     {"themes/JAHRESZEITEN.XML", R"(<theme id="herbst")", R"(<theme id="herbst-2">)" "</theme><theme id=\"herbst\"", "themes added herbst-2"},

@@ -55,6 +55,8 @@ public:
     }
 
     Keys explaining(const PxDiffKey &key) const { return m_explaining[key.pointer]; }
+    /** Whether a file may say a value itself, which else follows from others. */
+    bool mayBeWritten(const PxDiffKey &key) const { return m_writable.contains(key.pointer); }
     bool dependsOnPageCount(const PxDiffKey &key) const
     {
         return m_byPageCount.contains(key.pointer) || m_byPageCount.intersects(explaining(key));
@@ -79,6 +81,8 @@ private:
         if (inputs.contains("/pages/pageCount"))
             m_byPageCount.insert(key);
         if (!row.rule) {
+            if (row.when != PxOriginCase::Always)
+                m_writable.insert(key);
             for (const QString &attribute :
                  inputs.section(QRegularExpression("[; ]"), 0, 0).split('|'))
                 m_written[attribute].insert(key);
@@ -109,6 +113,7 @@ private:
     }
 
     Keys m_keys;
+    Keys m_writable;                // some files say it, others leave it to a rule
     QHash<QString, Keys> m_inputs;  // of computed values: values, attributes and elements
     QHash<QString, Keys> m_written; // what is read from an attribute as it is
     QHash<QString, Keys> m_explaining;
@@ -151,6 +156,8 @@ bool explains(const PxChange &cause, const PxChange &change)
     const QString key = cause.key->pointer;
     if (key == "/product/isOffered") // what a product that is not offered lacks
         return isNothing(change.before) || isNothing(change.after);
+    if (explanations().mayBeWritten(*change.key))
+        return false;
     return key != "/sizes/page" || change.pointer != "/sizes/cover" ||
            isSameDifference(cause, change);
 }
