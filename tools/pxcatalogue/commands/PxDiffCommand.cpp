@@ -112,8 +112,7 @@ PxExitStatus PxDiffCommand::run(const PxCommandLine &line) const
     PxExportedCatalogue newCatalogue(line.arguments().constLast());
     if (const auto problem = readBoth(line, &oldCatalogue, &newCatalogue))
         return fail(*problem);
-    PxDiff diff = PxCatalogueDiff::of(oldCatalogue, newCatalogue);
-    PxCatalogueDiff::filter(&diff, line.keywords("only"));
+    PxDiff diff = PxCatalogueDiff::of(oldCatalogue, newCatalogue, line.keywords("only"));
     if (QFileInfo(line.arguments().constLast()).isDir())
         PxDiffPlaces::addTo(&diff, newCatalogue);
     const QString format = line.isSet("json") ? "json" : line.keywords("format").value(0, "text");

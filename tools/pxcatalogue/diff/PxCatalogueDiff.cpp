@@ -1,5 +1,6 @@
 #include "diff/PxCatalogueDiff.h"
 
+#include "diff/PxExplainedChanges.h"
 #include "diff/PxProductDiff.h"
 
 #include <QJsonArray>
@@ -37,39 +38,12 @@ bool hasChange(const PxChangedObject &object, const char *key)
     });
 }
 
-/** Whether `only` has the key of a value, or its section. */
-bool isWanted(const PxDiffKey &key, const QStringList &only)
-{
-    const QString pointer = key.pointer;
-    return only.contains(pointer) || only.contains(pointer.section('/', 0, 1));
-}
-
-void filterKind(PxDiffOfKind *kind, const QStringList &only)
-{
-    if (!only.contains("added"))
-        kind->added.clear();
-    if (!only.contains("removed"))
-        kind->removed.clear();
-    if (!only.contains("renamed"))
-        kind->renamed.clear();
-    QVector<PxChangedObject> changed;
-    for (PxChangedObject object : qAsConst(kind->changed)) {
-        QVector<PxChange> changes;
-        std::copy_if(object.changes.begin(), object.changes.end(), std::back_inserter(changes),
-                     [&only](const PxChange &change) { return isWanted(*change.key, only); });
-        object.changes = changes;
-        if (!changes.isEmpty())
-            changed.append(object);
-    }
-    kind->changed = changed;
-}
-
 } // namespace
 
 PxDiff PxCatalogueDiff::of(const PxExportedCatalogue &oldCatalogue,
-                           const PxExportedCatalogue &newCatalogue)
+                           const PxExportedCatalogue &newCatalogue, const QStringList &only)
 {
-    PxCatalogueDiff comparison;
+    PxCatalogueDiff comparison(only);
     PxDiff diff;
     diff.products = comparison.compareProducts(oldCatalogue.products(), newCatalogue.products());
     diff.legacyProducts =
@@ -81,12 +55,16 @@ PxDiff PxCatalogueDiff::of(const PxExportedCatalogue &oldCatalogue,
     return diff;
 }
 
-void PxCatalogueDiff::filter(PxDiff *diff, const QStringList &only)
+bool PxCatalogueDiff::wants(const QString &key) const
 {
-    if (only.isEmpty())
-        return;
-    for (PxDiffOfKind *kind : {&diff->products, &diff->legacyProducts, &diff->themes})
-        filterKind(kind, only);
+    return m_only.isEmpty() || m_only.contains(key) || m_only.contains(key.section('/', 0, 1));
+}
+
+QVector<PxChange> PxCatalogueDiff::wanted(QVector<PxChange> changes) const
+{
+    const auto isUnwanted = [this](const PxChange &change) { return !wants(change.key->pointer); };
+    changes.erase(std::remove_if(changes.begin(), changes.end(), isUnwanted), changes.end());
+    return changes;
 }
 
 PxDiffOfKind PxCatalogueDiff::compareProducts(const Objects &oldProducts,
@@ -100,16 +78,18 @@ PxDiffOfKind PxCatalogueDiff::compareProducts(const Objects &oldProducts,
     for (const QString &name : namesOf(missingIn(oldProducts, newProducts))) {
         const int code = newProducts[{name, 0}].code;
         const QString oldName = removed.take(code);
-        if (oldName.isEmpty()) {
+        if (!oldName.isEmpty())
+            oldNames.insert(name, oldName);
+        else if (wants("added"))
             diff.added.append(name);
+        if (oldName.isEmpty() || !wants("renamed"))
             continue;
-        }
         diff.renamed.append({code, oldName, name});
-        oldNames.insert(name, oldName);
         m_newNames.insert(oldName, name);
     }
+    const QSet<QString> renamed(oldNames.begin(), oldNames.end());
     for (const QString &name : namesOf(missingIn(newProducts, oldProducts))) {
-        if (!m_newNames.contains(name))
+        if (!renamed.contains(name) && wants("removed"))
             diff.removed.append(name);
     }
     for (auto product = newProducts.begin(); product != newProducts.end(); ++product) {
@@ -117,7 +97,8 @@ PxDiffOfKind PxCatalogueDiff::compareProducts(const Objects &oldProducts,
         const auto old = oldProducts.find({oldNames.value(name, name), 0});
         if (old == oldProducts.end() || old->line == product->line)
             continue;
-        const QVector<PxChange> changes = PxProductDiff(old->line, product->line).changes();
+        const QVector<PxChange> changes = PxExplainedChanges::removedFrom(
+            wanted(PxProductDiff(old->line, product->line).changes()));
         if (!changes.isEmpty())
             diff.changed.append({name, 0, changes});
     }
@@ -175,13 +156,15 @@ PxDiffOfKind PxCatalogueDiff::compareThemes(const Objects &oldThemes,
                                             const Objects &newThemes) const
 {
     PxDiffOfKind diff;
-    diff.added = namesOf(missingIn(oldThemes, newThemes));
-    diff.removed = namesOf(missingIn(newThemes, oldThemes));
+    if (wants("added"))
+        diff.added = namesOf(missingIn(oldThemes, newThemes));
+    if (wants("removed"))
+        diff.removed = namesOf(missingIn(newThemes, oldThemes));
     for (auto theme = newThemes.begin(); theme != newThemes.end(); ++theme) {
         const auto old = oldThemes.find(theme.key());
         if (old == oldThemes.end() || old->line == theme->line)
             continue;
-        const QVector<PxChange> changes = changesOfTheme(old->line, theme->line);
+        const QVector<PxChange> changes = wanted(changesOfTheme(old->line, theme->line));
         if (!changes.isEmpty())
             diff.changed.append({theme.key().first, theme.key().second, changes});
     }

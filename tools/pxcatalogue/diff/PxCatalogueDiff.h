@@ -12,16 +12,20 @@ class QJsonArray;
 class PxCatalogueDiff
 {
 public:
+    /**
+     * The changes of some keys or sections, "added" and the like among them; of all without any.
+     * Whatever follows from a change that is not wanted is a change itself.
+     */
     static PxDiff of(const PxExportedCatalogue &oldCatalogue,
-                     const PxExportedCatalogue &newCatalogue);
-    /** Leaves only the changes of some keys or sections; "added" and the like are keys, too. */
-    static void filter(PxDiff *diff, const QStringList &only);
+                     const PxExportedCatalogue &newCatalogue, const QStringList &only);
 
 private:
     using Objects = PxExportedCatalogue::Objects;
 
-    PxCatalogueDiff() = default;
+    explicit PxCatalogueDiff(const QStringList &only) : m_only(only) {}
 
+    bool wants(const QString &key) const;
+    QVector<PxChange> wanted(QVector<PxChange> changes) const;
     PxDiffOfKind compareProducts(const Objects &oldProducts, const Objects &newProducts);
     PxDiffOfKind compareThemes(const Objects &oldThemes, const Objects &newThemes) const;
     QVector<PxChange> changesOfTheme(const QByteArray &oldLine, const QByteArray &newLine) const;
@@ -30,6 +34,7 @@ private:
     void removeExplained(PxDiffOfKind *products, const Objects &objects) const;
     QString newName(const QString &name) const { return m_newNames.value(name, name); }
 
+    QStringList m_only;
     QHash<QString, QString> m_newNames; // of products that are renamed, by the old name
     QSet<QString> m_removed;
     // Products that explain what others say of them: they are only in one of the catalogues, or …

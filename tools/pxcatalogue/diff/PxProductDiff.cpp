@@ -67,7 +67,7 @@ QVector<PxChange> PxProductDiff::changes()
                 compareTable(table);
         }
     }
-    return PxExplainedChanges::removedFrom(m_changes);
+    return m_changes;
 }
 
 void PxProductDiff::compareTable(const PxDiffTable &table)

@@ -9,7 +9,7 @@ class PxProductDiff
 public:
     PxProductDiff(const QByteArray &oldLine, const QByteArray &newLine);
 
-    /** In the order of the keys; without those that follow from others. */
+    /** In the order of the keys; with those that follow from others. */
     QVector<PxChange> changes();
 
 private:
