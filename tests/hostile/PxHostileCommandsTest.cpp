@@ -21,6 +21,7 @@ private slots:
     void checkOfOneFileIsBounded();
     void commandIsBounded_data();
     void commandIsBounded();
+    void diffOfExportsIsBounded();
 };
 
 namespace {
@@ -212,6 +213,32 @@ void PxHostileCommandsTest::commandIsBounded()
     QVERIFY2(seconds <= maximumSecondsOfAll, qPrintable(QString::number(seconds)));
     QVERIFY(!found.output().isEmpty());
     QCOMPARE(!found.json().isEmpty(), command.contains(QRegularExpression("json|sarif")));
+}
+
+/** Exports may have more rows than any catalogue, each of them changed. */
+void PxHostileCommandsTest::diffOfExportsIsBounded()
+{
+    const PxSampleCopy sample;
+    const QString header =
+        R"({"type":"catalogue","format":1,"lengthUnit":"tenths of a millimetre","products":1})"
+        "\n";
+    for (const char *layout : {"old", "new"}) {
+        QString rows;
+        for (int i = 0; i < 40000 / share; ++i)
+            rows += QString(R"({"pageType":"%1","alignment":"left","layout":"%2%1"},)")
+                        .arg(QString::number(i), layout);
+        sample.write(layout,
+                     header +
+                         R"({"type":"product","product":{"name":"A"},"pages":{"offered":"1"},)" +
+                         QString(R"("templates":[%1{}]})").arg(rows));
+    }
+    const double start = usageOfChildren().seconds;
+    const PxProgramRun found =
+        run(sample.path(), "diff " + sample.filePath("old") + ' ' + sample.filePath("new"));
+    const double seconds = usageOfChildren().seconds - start;
+    QCOMPARE(found.status(), 1);
+    QVERIFY(found.output().size() > 40000 / share);
+    QVERIFY2(seconds <= maximumSeconds, qPrintable(QString::number(seconds)));
 }
 
 QTEST_GUILESS_MAIN(PxHostileCommandsTest)

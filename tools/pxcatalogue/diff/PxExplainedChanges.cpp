@@ -3,6 +3,8 @@
 #include "format/PxOriginRows.h"
 
 #include <QHash>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QRegularExpression>
 #include <QSet>
 
@@ -142,14 +144,23 @@ bool isNothing(const QJsonValue &value)
 }
 
 /** One default template is for several kinds of pages, of which the first is named. */
-bool isOfSameTemplate(const QVector<PxChange> &known, const PxChange &change)
+class NamedTemplates
 {
-    return change.pointer.startsWith("/templates/") &&
-           std::any_of(known.begin(), known.end(), [&change](const PxChange &other) {
-               return other.key == change.key && other.before == change.before &&
-                      other.after == change.after;
-           });
-}
+public:
+    bool isNamedAgain(const PxChange &change)
+    {
+        if (!change.pointer.startsWith("/templates/"))
+            return false;
+        const QJsonArray values{change.key->pointer, change.before, change.after};
+        const QByteArray text = QJsonDocument(values).toJson(QJsonDocument::Compact);
+        const bool isKnown = m_known.contains(text);
+        m_known.insert(text);
+        return isKnown;
+    }
+
+private:
+    QSet<QByteArray> m_known;
+};
 
 bool explains(const PxChange &cause, const PxChange &change)
 {
@@ -175,9 +186,10 @@ QVector<PxChange> PxExplainedChanges::removedFrom(const QVector<PxChange> &chang
             return causes.contains(key) && explains(*causes[key], change);
         });
     };
+    NamedTemplates templates;
     QVector<PxChange> left;
     for (const PxChange &change : changes) {
-        if (!isExplained(change) && !isOfSameTemplate(left, change))
+        if (!isExplained(change) && !templates.isNamedAgain(change))
             left.append(change);
     }
     return left;
