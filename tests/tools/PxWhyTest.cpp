@@ -1,3 +1,4 @@
+#include "drawing/PxProductFile.h"
 #include "report/PxCatalogueProducts.h"
 #include "why/PxWhyProduct.h"
 #include "why/PxWhyQuestions.h"
@@ -28,6 +29,7 @@ private slots:
     void explainsCompatibility();
     void explainsPages();
     void documentsEachRule();
+    void readsEachFileOnce();
 
 private:
     QString elementAt(const PxPlace &place) const;
@@ -253,8 +255,21 @@ void PxWhyTest::documentsEachRule()
     QFile file(PX_SOURCE_DIRECTORY "/docs/pxcatalogue.md");
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QString text = QString::fromUtf8(file.readAll());
+    QVERIFY(ourTags.size() > 30); // those of the tests before
     for (const QString &tag : qAsConst(ourTags))
         QVERIFY2(text.contains('`' + tag + '`'), qPrintable(tag));
+}
+
+/** Else looking for products without a file would take the square of their number. */
+void PxWhyTest::readsEachFileOnce()
+{
+    const PxProductType product("NO_FILE");
+    m_sample.write("few/products/some.xml", "<d><product name='CUP1'/></d>");
+    PxDirectoryConfig::instance()->setResourceDirectories({m_sample.filePath("few")});
+    QCOMPARE(PxProductFile::pathOf(product, false), QString());
+    m_sample.write("few/products/some.xml", "<d><product name='NO_FILE'/></d>");
+    QCOMPARE(PxProductFile::pathOf(product, false), QString());
+    QCOMPARE(PxProductFile::pathOf(PxProductType("CUP1"), false), QString("products/some.xml"));
 }
 
 QTEST_GUILESS_MAIN(PxWhyTest)

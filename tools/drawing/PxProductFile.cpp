@@ -46,8 +46,6 @@ QString PxProductFile::pathOf(const PxProductType &type, bool isLegacy)
     const int code = int(type.type());
     while (!files.names.contains(code) && !files.unread.isEmpty())
         readLast(&files);
-    if (files.names.contains(code))
-        return name + QLatin1Char('/') + files.names[code];
-    files = Files(); // it may come
-    return QString();
+    const auto file = files.names.constFind(code);
+    return file == files.names.constEnd() ? QString() : name + QLatin1Char('/') + *file;
 }

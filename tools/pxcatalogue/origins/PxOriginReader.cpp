@@ -4,6 +4,7 @@
 #include "check/words/PxMessageText.h"
 #include "drawing/PxProductFile.h"
 #include "format/PxFormat.h"
+#include "report/PxCatalogueProducts.h"
 #include "report/PxProductReport.h"
 #include "report/PxShownProduct.h"
 
@@ -30,11 +31,11 @@ QMap<QString, PxOriginFile> filesOf(const PxShownProduct &shown)
     files.insert("theme", PxOriginFile::theme(shown.themeId));
     files.insert("type", PxOriginFile::productType(shown.type));
     const PxProductType replaced = shown.product->legacyProduct();
-    if (replaced.isValid())
+    if (PxCatalogueProducts::isLegacy(replaced))
         files.insert("replaced", PxOriginFile::product(PxProductFile::pathOf(replaced, true)));
     const PxProductType successor =
         PxProductTypeConfigRegistry::instance()->findProductForLegacy(shown.type);
-    if (successor.isValid())
+    if (PxCatalogueProducts::isCurrent(successor))
         files.insert("successor", PxOriginFile::product(PxProductFile::pathOf(successor, false)));
     return files;
 }
