@@ -22,6 +22,7 @@ class PxOriginTest : public QObject
 
 private slots:
     void saysAllOfAnOrigin();
+    void formulasGiveTheirValues();
     void fitsTheTerminalAndIsWholeElsewhere();
     void everyValueHasAnOrigin();
     void valuesChangeWithTheirOrigins_data();
@@ -273,6 +274,28 @@ QStringList wrongDefaults(const QJsonObject &absent, const QJsonObject &after, c
     return wrong;
 }
 
+/** What the formulas in a rule give, for example "page 2100 (…) + 70 (…)"; empty without one. */
+QVector<double> resultsOf(QString rule)
+{
+    static const QRegularExpression place(" \\([^()]+:[0-9]+:[0-9]+\\)");
+    static const QRegularExpression start("^(page|normal pages|spine) (?=[-+×0-9 ])");
+    QVector<double> results;
+    for (QString formula : rule.remove(place).split(" by ")) {
+        if (!formula.contains(start) || formula.contains(',')) // "page 3, from the front"
+            return {};
+        const QStringList parts = formula.remove(start).split(' ');
+        double result = parts[0].isEmpty() ? qQNaN() : parts[0].toInt();
+        for (int i = 1; i < parts.size(); i += 2) {
+            const double number = parts.value(i + 1).isEmpty() ? qQNaN() : parts[i + 1].toInt();
+            result = parts[i] == "+"   ? result + number
+                     : parts[i] == "-" ? result - number
+                                       : result * number;
+        }
+        results.append(result);
+    }
+    return results;
+}
+
 /** Leaves few files and elements; what is left has an effect each. */
 void prepare(const PxSampleCopy &sample, const QString &file)
 {
@@ -341,6 +364,42 @@ void PxOriginTest::saysAllOfAnOrigin()
     const QJsonObject background = moved["/templates/0/background"].toObject();
     QCOMPARE(background["kind"], QJsonValue("userDefaults"));
     QCOMPARE(background["path"], QJsonValue(sample.filePath("own/CARD_FOLDED_A6.xml")));
+}
+
+/** A formula in numbers gives its value, also if some of the numbers are missing. */
+void PxOriginTest::formulasGiveTheirValues()
+{
+    const PxSampleCopy sample;
+    const auto edit = [&](const char *file, const QString &pattern, const char *text) {
+        sample.write(file, sample.read(file).replace(QRegularExpression(pattern), text));
+    };
+    edit("products/book_a4_portrait.xml", "<usablesize width=\"[0-9]+\"", "<usablesize");
+    edit("products/book_mini.xml", "coverextrahorizontal=\"[0-9]+\"", "coverextrahorizontal=\"\"");
+    edit("products/cup2.xml", "<usablesize[^>]*>", "");
+    edit("products/card_folded_a6.xml", "height=\"[0-9]+\"", "height=\"x\"");
+    int count = 0;
+    for (const QString &name :
+         PxProgramRun(PX_CATALOGUE_PROGRAM, {"list", "--json", "--resources", sample.path()})
+             .jsonColumn("products", "name")) {
+        const QJsonObject output = show(sample, name + " --origin");
+        const QJsonObject origins = output["origins"].toObject();
+        for (const QString &pointer : origins.keys()) {
+            const QString rule = origins[pointer]["rule"].toString();
+            const QJsonValue value = valueAt(output, pointer);
+            const QVector<double> results = resultsOf(rule);
+            if (results.isEmpty() || value.isUndefined() || value.isNull())
+                continue;
+            const QString what = QString("%1 %2: %3").arg(name, pointer, rule);
+            const QVector<double> expected =
+                value.isDouble() ? QVector<double>{value.toDouble()}
+                : pointer == "/sizes/cover"
+                    ? QVector<double>{value["width"].toDouble(), value["height"].toDouble()}
+                    : QVector<double>{value["minimum"].toDouble()};
+            QVERIFY2(results == expected, qPrintable(what));
+            ++count;
+        }
+    }
+    QVERIFY(count > 150);
 }
 
 void PxOriginTest::fitsTheTerminalAndIsWholeElsewhere()

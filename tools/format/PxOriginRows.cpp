@@ -1,11 +1,13 @@
 #include "format/PxOriginRows.h"
 
+#include <QStringList>
+
 namespace {
 
 using When = PxOriginCase;
 
-// Most of the following code consists of tables. Binding and orientation always have a value,
-// unless a page has no area: what needs them names the size alone.
+// An offered product needs a binding, an orientation and a size. The first two have defaults, so
+// rows about offers name only the width and the height.
 // clang-format off
 constexpr PxOriginRow rows[] = {
     {"/format", "", "of this output"},
@@ -163,6 +165,7 @@ constexpr PxOriginRow rows[] = {
     {"/classification/material", "classification@group"},
     {"/classification/sizeCm", "classification@cm"},
     {"/classification/sizeInch", "classification@inch"},
+    {"/classification/area", "usablesize@width usablesize@height", "0 without a width or a height", When::Missing},
     {"/classification/area", "usablesize@width usablesize@height", "page %1 × %2"},
 
     {"/legacy/replacedBy", "successor:@legacy; successor:@name", "the product that names this one"},
@@ -209,20 +212,6 @@ QVector<const PxOriginRow *> PxOriginRows::of(const QString &pointer)
             found.append(&row);
     }
     return found;
-}
-
-QStringList PxOriginRows::inputsOf(const QString &pointer)
-{
-    QStringList inputs;
-    for (const PxOriginRow *row : of(pointer)) {
-        const QString all = QString(row->inputs).replace(';', ' ');
-        for (QString input : all.split(' ', Qt::SkipEmptyParts)) {
-            if (input.startsWith('/'))
-                inputs.append(input.replace('*', pointer.section('/', 2, 2)));
-        }
-    }
-    inputs.removeDuplicates();
-    return inputs;
 }
 
 QString PxOriginRows::patternOf(const QString &pointer)

@@ -2,13 +2,15 @@
 
 #include "format/PxFormatRows.h"
 
-#include <QStringList>
+#include <QString>
+#include <QVector>
 
 /** When a row of origins holds. */
 enum class PxOriginCase {
     Always,
     Given,      ///< the first input is there, and not the text that means the default
     Written,    ///< the first input is there, if only as a word that nobody knows
+    Missing,    ///< one of the inputs is not there
     Asked,      ///< the page count is from the command line
     Sold,       ///< the product says with how many pages it is sold
     Legacy,     ///< the product is of an earlier catalogue
@@ -27,20 +29,18 @@ enum class PxOriginCase {
     WhitePage, ///< it stays empty, and the product is shown in a theme
 };
 
-/**
- * Where a value of the report about a product comes from. The first row that holds is used.
- *
- * Inputs are separated by blanks; of those joined by "|" the first that is there counts:
- * - "/sizes/page" is another value, "/pageKinds/&#42;/bleed" one in the same row of the table;
- * - "@binding", "usablesize@width" and "pages" are attributes and elements of the product file,
- *   below its "product"; "[…]" says which one of several elements is meant;
- * - "user:", "theme:" and "type:" are below the defaults of the user, the theme and the row of the
- *   product type; "replaced:" and "successor:" are below other products;
- * - "asked:" is the command line, "file:" the product file as a whole, "clock:" the time.
- *
- * What stands behind a ";" chooses between elements. The row of a table ("/barcodes/&#42;") has
- * what chooses for all its values.
- */
+// Where a value of the report about a product comes from. The first row that holds is used.
+//
+// Inputs are separated by blanks; of those joined by "|" the first that is there counts:
+// - "/sizes/page" is another value, "/pageKinds/*/bleed" one in the same row of the table;
+// - "@binding", "usablesize@width" and "pages" are attributes and elements of the product file,
+//   below its "product"; "[…]" says which one of several elements is meant;
+// - "user:", "theme:" and "type:" are below the defaults of the user, the theme and the row of the
+//   product type; "replaced:" and "successor:" are below other products;
+// - "asked:" is the command line, "file:" the product file as a whole, "clock:" the time.
+//
+// What stands behind a ";" chooses between elements. The row of a table ("/barcodes/*") has what
+// chooses for all its values.
 struct PxOriginRow
 {
     const char *pointer; ///< to the value in the JSON; "*" is any row of a table
@@ -57,11 +57,6 @@ public:
     static PxRows<PxOriginRow> all();
     /** The rows of a value, or of a pattern of values. */
     static QVector<const PxOriginRow *> of(const QString &pointer);
-    /**
-     * The other values of the report from which a value is computed, as JSON pointers. A pointer
-     * may lead to a part, such as "/sizes/coverBleed/top".
-     */
-    static QStringList inputsOf(const QString &pointer);
-    /** "/pageKinds/3/bleed" as "/pageKinds/&#42;/bleed". */
+    // "/pageKinds/3/bleed" as "/pageKinds/*/bleed".
     static QString patternOf(const QString &pointer);
 };

@@ -144,6 +144,11 @@ bool PxOriginReader::holds(const PxOriginRow &row, int index) const
     }
     case When::Written:
         return input(QString(row.inputs), index).isWritten;
+    case When::Missing: {
+        const QStringList inputs = QString(row.inputs).split(' ');
+        return std::any_of(inputs.begin(), inputs.end(),
+                           [&](const QString &term) { return !input(term, index).isThere; });
+    }
     case When::Asked:
         return m_shown.isPageCountAsked;
     case When::Sold:
@@ -244,7 +249,14 @@ PxOriginReader::Inputs PxOriginReader::inputsOf(const PxOriginRow &row, bool are
     // A formula needs all its inputs, but at least one that is there.
     const bool isAny =
         std::any_of(inputs.begin(), inputs.end(), [](const Input &input) { return input.isThere; });
-    return isAny ? inputs : Inputs();
+    if (!isAny)
+        return {};
+    for (Input &input : inputs) {
+        // Of the numbers in formulas only the size of a page has no default: the library reads -1.
+        if (!input.isThere && input.value.isEmpty())
+            input.value = "-1";
+    }
+    return inputs;
 }
 
 /** The other elements with that name, if the library reads them, too. */
