@@ -17,6 +17,7 @@ class PxDiffTest : public QObject
 
 private slots:
     void namesEachChangeOnce();
+    void placesOnlyThemesThatAreToldApart();
     void findsNothingInTheSame_data();
     void findsNothingInTheSame();
     void refusesWhatIsNoExport_data();
@@ -171,6 +172,27 @@ void PxDiffTest::namesEachChangeOnce()
     const PxProgramRun ofExports = run({"diff", oldFile, newFile, "--json"}, elsewhere);
     QCOMPARE(differencesIn(ofExports.json()), differences);
     QVERIFY(!ofExports.printed().contains("\"place\": \""));
+}
+
+void PxDiffTest::placesOnlyThemesThatAreToldApart()
+{
+    const PxSampleCopy copies[2];
+    for (int i = 0; i < 2; ++i) {
+        const QString day = QString("producttype='book' expiry='2050010%1'").arg(10000 * (i + 1));
+        copies[i].write("themes/own.xml",
+                        QString("<themes>\n<theme %1/>\n<theme id='A' %1/>\n<theme id='a' %1/>\n"
+                                "<theme id='b' %1/>\n</themes>")
+                            .arg(day));
+        copies[i].write("themes/other.xml", "<others><theme id='b' expiry='1'/></others>");
+    }
+    const PxProgramRun found =
+        run({"diff", copies[0].path(), copies[1].path(), "--only", "expiryDay"});
+    const QString days = "    until: 2050-01-01 → 2050-01-02";
+    const QStringList expected{"  theme a",         days,
+                               "  theme a",         days,
+                               "  theme b",         days + " (themes/own.xml:5:34)",
+                               "  theme unbekannt", days + " (themes/own.xml:2:27)"};
+    QCOMPARE(found.output().mid(1).join('\n'), expected.join('\n'));
 }
 
 void PxDiffTest::findsNothingInTheSame_data()

@@ -100,7 +100,7 @@ PxDiffOfKind PxCatalogueDiff::compareProducts(const Objects &oldProducts,
         const QVector<PxChange> changes = PxExplainedChanges::removedFrom(
             wanted(PxProductDiff(old->line, product->line).changes()));
         if (!changes.isEmpty())
-            diff.changed.append({name, 0, changes});
+            diff.changed.append({name, changes});
     }
     return diff;
 }
@@ -166,7 +166,7 @@ PxDiffOfKind PxCatalogueDiff::compareThemes(const Objects &oldThemes,
             continue;
         const QVector<PxChange> changes = wanted(changesOfTheme(old->line, theme->line));
         if (!changes.isEmpty())
-            diff.changed.append({theme.key().first, theme.key().second, changes});
+            diff.changed.append({theme.key().first, changes});
     }
     return diff;
 }

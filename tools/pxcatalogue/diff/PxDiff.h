@@ -29,8 +29,7 @@ struct PxChange
 /** A product or theme that both catalogues have. */
 struct PxChangedObject
 {
-    QString name;     ///< the new one
-    int position = 0; ///< among themes with this id
+    QString name; ///< the new one
     QVector<PxChange> changes;
 };
 

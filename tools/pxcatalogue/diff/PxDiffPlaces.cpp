@@ -171,7 +171,7 @@ private:
     QHash<QString, QHash<int, int>> m_rows;
 };
 
-/** Finds the places of themes, reading each file once. */
+/** Finds the places of themes whose id no other one has, reading each file once. */
 class ThemePlaces
 {
 public:
@@ -183,19 +183,23 @@ public:
             m_files.push_back(std::make_unique<PxCheckedFile>(info.absoluteFilePath()));
             const PxCheckedFile &file = *m_files.back();
             const QString path = "themes/" + info.fileName();
-            for (Element theme : file.root() ? file.root()->children : QVector<Element>()) {
-                const QString id = theme->value("id").toLower();
-                if (!m_themes.contains(id)) // the first theme with an id is used
-                    m_themes.insert(id, {&file, theme, path});
+            const bool hasThemes = file.root() && file.root()->name.toLower() == "themes";
+            for (Element theme : hasThemes ? file.root()->children : QVector<Element>()) {
+                const bool hasId = theme->attribute("id");
+                m_themes[hasId ? theme->value("id").toLower() : "unbekannt"].append(
+                    {&file, theme, path});
             }
         }
     }
 
     QString of(const QString &id, const QString &member) const
     {
-        const Theme theme = m_themes.value(id);
+        const QVector<Theme> themes = m_themes.value(id);
+        if (themes.size() != 1)
+            return QString();
+        const Theme &theme = themes.constFirst();
         for (const auto &row : themeRows) {
-            if (!theme.element || member != row.member)
+            if (member != row.member)
                 continue;
             const PxSourceAttribute *attribute = theme.element->attribute(row.name);
             const Element child = theme.element->firstChild(row.name);
@@ -216,7 +220,7 @@ private:
     };
 
     std::vector<std::unique_ptr<PxCheckedFile>> m_files;
-    QHash<QString, Theme> m_themes;
+    QHash<QString, QVector<Theme>> m_themes;
 };
 
 void addPlaces(PxDiffOfKind *products, const PxExportedCatalogue::Objects &exported,
@@ -241,6 +245,6 @@ void PxDiffPlaces::addTo(PxDiff *diff, const PxExportedCatalogue &newCatalogue)
     const ThemePlaces places;
     for (PxChangedObject &theme : diff->themes.changed) {
         for (PxChange &change : theme.changes)
-            change.place = theme.position == 0 ? places.of(theme.name, change.pointer) : QString();
+            change.place = places.of(theme.name, change.pointer);
     }
 }
