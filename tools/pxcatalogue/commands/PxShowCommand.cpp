@@ -26,8 +26,10 @@ PxReportCommand::Answer PxShowCommand::answer(const PxCommandLine &line) const
     const PxNamedProduct named = PxNamedProduct::of(line);
     if (named.no)
         return {std::nullopt, named.no};
-    const PxShownProduct shown = PxProductReport::shown(named.registry, named.type,
-                                                        line.value("pages").toInt(), named.themeId);
+    const int pageCount = line.value("pages").toInt();
+    const PxShownProduct shown =
+        PxProductReport::shown(named.registry, named.type, pageCount, named.themeId);
+    PxProductReport::warnOfPageCount(shown, pageCount);
     PxReport report = PxProductReport::of(shown);
     if (line.isSet("origin")) {
         const PxOrigins origins(shown);

@@ -57,20 +57,18 @@ QJsonArray backgroundCategoriesOf(const PxProductTypeDescription *product)
     return QJsonArray::fromStringList(categories);
 }
 
-/**
- * Returns `wanted`, or the page count with which the product is sold if `wanted` is 0. Lowers a
- * count that is too large, with a warning.
- */
-int shownPageCount(const PxProductTypeDescription &product, const QList<int> &offered, int wanted)
+/** Returns `wanted`, or the page count with which the product is sold if `wanted` is 0. */
+int wantedPageCount(const Shown &shown, int wanted)
+{
+    return wanted > 0 ? wanted : PxPageCounts::standard(*shown.product, shown.offeredPageCounts);
+}
+
+/** The largest page count that is shown. */
+int pageCountLimit(const PxProductTypeDescription &product)
 {
     // Each entry of the page list may stand for that many pages, so the total is limited, too.
     const int entries = qMax(1, product.countAbstractPages());
-    const int limit = qBound(1, 1000000 / entries, PxProductReport::maximumPageCount);
-    const int pageCount = wanted > 0 ? wanted : PxPageCounts::standard(product, offered);
-    if (pageCount <= limit)
-        return pageCount;
-    qWarning("%d pages are too many to show: %d are shown", pageCount, limit);
-    return limit;
+    return qBound(1, 1000000 / entries, PxProductReport::maximumPageCount);
 }
 
 void addPagesTo(Shown *shown)
@@ -430,16 +428,23 @@ PxShownProduct PxProductReport::shown(const PxProductTypeConfigRegistry *registr
                                       const QString &themeId)
 {
     Shown shown{registry, type, themeId};
-    shown.pageCount = shownPageCount(*shown.product, shown.offeredPageCounts, pageCount);
+    shown.pageCount = qMin(wantedPageCount(shown, pageCount), pageCountLimit(*shown.product));
     shown.isPageCountAsked = pageCount > 0;
-    if (pageCount > 0 && !shown.product->isPageCountOffered(shown.pageCount))
-        qWarning("%s", qUtf8Printable(PxPageCounts::notOffered(type, shown.offeredPageCounts,
-                                                               shown.pageCount)));
     shown.file = PxProductFile::pathOf(type, shown.isLegacy());
     addPagesTo(&shown);
     addSurroundingsTo(&shown);
     addBarcodesTo(&shown);
     return shown;
+}
+
+void PxProductReport::warnOfPageCount(const PxShownProduct &shown, int pageCount)
+{
+    const int wanted = wantedPageCount(shown, pageCount);
+    if (wanted > shown.pageCount)
+        qWarning("%d pages are too many to show: %d are shown", wanted, shown.pageCount);
+    if (pageCount > 0 && !shown.product->isPageCountOffered(shown.pageCount))
+        qWarning("%s", qUtf8Printable(PxPageCounts::notOffered(shown.type, shown.offeredPageCounts,
+                                                               shown.pageCount)));
 }
 
 PxReport PxProductReport::of(const PxShownProduct &shown)

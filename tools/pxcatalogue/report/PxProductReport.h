@@ -19,10 +19,12 @@ public:
     /**
      * The product as `registry`, the current or the legacy one, describes it.
      *
-     * A `pageCount` of 0 means the one with which the product is sold. A warning is logged if the
-     * product is not offered with another `pageCount`. `themeId` must be empty for legacy products.
+     * A `pageCount` of 0 means the one with which the product is sold; too large a one is lowered.
+     * `themeId` must be empty for legacy products.
      */
     static PxShownProduct shown(const PxProductTypeConfigRegistry *registry,
                                 const PxProductType &type, int pageCount, const QString &themeId);
+    /** Tells a user who asked for this `pageCount` if it is lowered, or not offered. */
+    static void warnOfPageCount(const PxShownProduct &shown, int pageCount);
     static PxReport of(const PxShownProduct &shown);
 };
