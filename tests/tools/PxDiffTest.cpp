@@ -239,7 +239,7 @@ void PxDiffTest::refusesWhatIsNoExport_data()
         {"cut off", header + product + product.left(30), "line 3: no JSON at byte "},
         {"more lines", header + product + R"({"type":"theme","id":"a"})", "line 3: there is no type \"theme\""},
         {"product twice", header + product + product, "line 3: there is another product \"A\""},
-        {"too many page counts", header + manyPages, "line 2: the page counts of \"A\" are none"},
+        {"too many page counts", header + manyPages, "line 2: the page counts of \"A\" cannot be read, or are more than 100 000"},
         {"deep", header + QByteArray(100000, '['), "line 2: no JSON at byte 1025: too deeply nested document"},
         {"long", header + "{\"type\":\"" + QByteArray(17 * 1024 * 1024, 'x') + "\"}", "line 2: the line is longer than 16 MiB"},
         {"wide", header + '[' + QByteArray("[],").repeated(3 * 1024 * 1024) + "0]", "line 2: no JSON object"},

@@ -97,7 +97,7 @@ PxCommandUsage PxDiffCommand::usage() const
         "How two catalogues differ: first what customers notice.\n"
         "Each is a resource directory or what \"pxcatalogue export\" wrote. A value that follows from others "
         "that changed is not listed. Exit status: 0 there is no difference, 1 there is one, 2 a catalogue cannot be read.", {
-        {"only", "KEYS", "Only changes of these values or sections, as in --json with \"*\" for an index, and of themes their members: /sizes, /barcodes/*/rect, expiryDay; added, removed and renamed stand for what is added, removed and renamed.", 0, 0, PxDiffKeys::all()},
+        {"only", "KEYS", "Only changes of these values or sections, as in --json with \"*\" for an index, and of themes their members: /sizes, /barcodes/*/rect, expiryDay; added, removed and renamed are keys, too.", 0, 0, PxDiffKeys::all()},
         {"format", "FORMAT", "text, json or markdown. Default: text.", 0, 0, {"text", "json", "markdown"}, PxOption::Form::OneKeyword},
         {"json", "", "The same as --format json, with all lengths in tenths of a millimetre."},
     }, {"OLD NEW", "Two catalogues.", "two catalogues, the old one and the new one", 2}};

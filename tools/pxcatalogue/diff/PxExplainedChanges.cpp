@@ -28,7 +28,7 @@ constexpr PxOriginRow exportRows[] = {
     {"/legacy/replacedCover", "/legacy/replaces", "of the replaced product"},
 };
 
-/** Values that follow from others, which explain no further value by that. */
+/** Values whose inputs explain nothing beyond them: only their own changes explain others. */
 constexpr const char *ends[] = {"/product/isOffered", "/pages/offered", "/pages/pageCount",
                                 "/pages/pageCounts", "/pages/printedPages"};
 

@@ -99,7 +99,8 @@ std::optional<PxProblem> PxExportedCatalogue::addObject(const QString &type,
         return problem(QString("there is another product \"%1\" before").arg(name));
     if (!isTheme && !PxNumberRanges::numbers(object["pages"]["offered"].toString(),
                                              PxProductTypeDescription::maximumListedPages))
-        return problem(QString("the page counts of \"%1\" are none").arg(name));
+        return problem(QString("the page counts of \"%1\" cannot be read, or are more than 100 000")
+                           .arg(name));
     objects.insert(key, {line, product["code"].toInt()});
     return std::nullopt;
 }

@@ -16,6 +16,6 @@ public:
     static QString text(const QList<int> &numbers, int begin, int end, int largestStep);
     /** All numbers, in ranges of any step. */
     static QString text(const QList<int> &numbers);
-    /** The numbers of a text; nothing if it is none, or if there are more than `most`. */
+    /** The numbers of a text; nothing if it cannot be read, or if there are more than `most`. */
     static std::optional<QList<int>> numbers(const QString &text, int most);
 };
