@@ -13,11 +13,6 @@ namespace {
 
 constexpr int most = PxProductTypeDescription::maximumListedPages;
 
-QList<int> numbersOf(const QJsonValue &text)
-{
-    return PxNumberRanges::numbers(text.toString(), most).value_or(QList<int>());
-}
-
 bool isSinglePageFrom(const QJsonValue &row, int pages)
 {
     return row["page"].isDouble() && !row["isCountedFromBack"].toBool() &&
@@ -25,6 +20,11 @@ bool isSinglePageFrom(const QJsonValue &row, int pages)
 }
 
 } // namespace
+
+QList<int> PxComparedProduct::numbersOf(const QJsonValue &text)
+{
+    return PxNumberRanges::numbers(text.toString(), most).value_or(QList<int>());
+}
 
 PxComparedProduct::PxComparedProduct(const QByteArray &line)
     : m_product(QJsonDocument::fromJson(line).object())

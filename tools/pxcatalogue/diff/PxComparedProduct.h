@@ -25,6 +25,9 @@ class PxComparedProduct
 public:
     explicit PxComparedProduct(const QByteArray &line);
 
+    /** Page numbers or page counts, as an export has them; none if they cannot be read. */
+    static QList<int> numbersOf(const QJsonValue &text);
+
     const QList<int> &pageCounts() const { return m_pageCounts; }
     /** The row of the table of page counts in which a page count of the list is; -1 if in none. */
     int rowOf(int index) const { return m_rows[index]; }

@@ -1,10 +1,9 @@
 #include "diff/PxDiffWords.h"
 
+#include "diff/PxComparedProduct.h"
 #include "diff/PxDiff.h"
 #include "report/PxNumberRanges.h"
 #include "writing/PxTerminal.h"
-
-#include <description/PxProductTypeDescription.h>
 
 #include <QJsonArray>
 #include <QSet>
@@ -63,13 +62,9 @@ QStringList without(QStringList parts, const QStringList &others)
 
 QString pageCountsWithout(const QJsonValue &pageCounts, const QJsonValue &others)
 {
-    const auto numbersOf = [](const QJsonValue &text) {
-        constexpr int most = PxProductTypeDescription::maximumListedPages;
-        return PxNumberRanges::numbers(text.toString(), most).value_or(QList<int>());
-    };
-    const QList<int> known = numbersOf(others);
+    const QList<int> known = PxComparedProduct::numbersOf(others);
     QList<int> left;
-    for (const int number : numbersOf(pageCounts)) {
+    for (const int number : PxComparedProduct::numbersOf(pageCounts)) {
         if (!std::binary_search(known.begin(), known.end(), number))
             left.append(number);
     }
