@@ -354,16 +354,22 @@ void PxOriginTest::saysAllOfAnOrigin()
 
     // Directories elsewhere; files in the catalogue are named from there.
     QVERIFY(QDir(sample.path()).rename("products", "other") &&
-            QDir(sample.path()).rename("defaults", "own"));
-    const QString other =
-        QString("CARD_FOLDED_A6 --origin --products %1/other --user-defaults %1/own")
-            .arg(sample.path());
-    const QJsonObject moved = show(sample, other)["origins"].toObject();
+            QDir(sample.path()).rename("defaults", "own") &&
+            QDir(sample.path()).rename("themes", "designs"));
+    const QString other = "CARD_FOLDED_A6 --origin --products %1/other --user-defaults %1/own";
+    const QJsonObject moved = show(sample, other.arg(sample.path()))["origins"].toObject();
     QCOMPARE(moved["/product/binding"].toObject()["path"],
-             QJsonValue("products/card_folded_a6.xml"));
+             QJsonValue(sample.filePath("other/card_folded_a6.xml")));
     const QJsonObject background = moved["/templates/0/background"].toObject();
     QCOMPARE(background["kind"], QJsonValue("userDefaults"));
     QCOMPARE(background["path"], QJsonValue(sample.filePath("own/CARD_FOLDED_A6.xml")));
+    // A rule is followed by its places, also by those that begin with "/".
+    const PxProgramRun run(PX_CATALOGUE_PROGRAM,
+                           {"show", "CUP2", "--resources", sample.path(), "--products",
+                            sample.filePath("other"), "--themes", sample.filePath("designs"),
+                            "--theme", "hochzeit", "--origin"});
+    const QString expired = "(" + sample.filePath("designs/grundthemen.xml:");
+    QVERIFY(run.output().filter("whether this is in the past").join(' ').contains(expired));
 }
 
 /** A formula in numbers gives its value, also if some of the numbers are missing. */

@@ -108,7 +108,7 @@ PxExitStatus PxWhyCommand::run(const PxCommandLine &line) const
         other.emplace(otherNamed.registry, otherNamed.type);
     }
     const PxWhyAnswer answer(questionsOf(line, product, other ? &*other : nullptr),
-                             product.shown().file);
+                             product.file().path());
     const bool isWritten =
         line.isSet("json")
             ? PxTerminal::write(answer.json())

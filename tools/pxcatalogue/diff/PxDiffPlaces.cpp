@@ -11,7 +11,6 @@
 
 #include <QDir>
 #include <QJsonDocument>
-#include <QRegularExpression>
 
 #include <memory>
 #include <vector>
@@ -147,16 +146,16 @@ private:
     /** A computed value has the place of the first input that has one. */
     QString placeOf(const QString &pointer, int depth) const
     {
-        static const QRegularExpression ourPlace(":[0-9]+:[0-9]+$");
         constexpr int deepest = 5;
         if (pointer.isEmpty() || depth > deepest)
             return QString();
         const PxOrigin origin = m_origins.at(pointer);
         if (origin.place.line > 0)
             return PxOrigin::text(origin.place);
-        for (const QString &from : origin.from) {
-            const QString place = from.startsWith('/') ? placeOf(from, depth + 1) : from;
-            if (place.contains(ourPlace))
+        for (const PxOrigin::Part &from : origin.from) {
+            const QString place =
+                from.isPlace() ? PxOrigin::text(from.place) : placeOf(from.text, depth + 1);
+            if (!place.isEmpty())
                 return place;
         }
         return QString();

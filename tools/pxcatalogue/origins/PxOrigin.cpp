@@ -37,57 +37,84 @@ QJsonValue orNull(int number)
     return number == 0 ? QJsonValue() : number;
 }
 
+QString joined(const QVector<PxOrigin::Part> &parts, const PxOrigin::Naming &naming)
+{
+    QString text;
+    for (const PxOrigin::Part &part : parts)
+        text += !part.isPlace() ? part.text
+                : naming        ? naming(part.place)
+                                : PxOrigin::text(part.place);
+    return text;
+}
+
 } // namespace
+
+bool PxOrigin::Part::operator==(const Part &other) const
+{
+    return text == other.text && PxOrigin::text(place) == PxOrigin::text(other.place);
+}
 
 QString PxOrigin::text(const PxPlace &place)
 {
-    return place.line == 0
-               ? place.path
-               : QStringList{place.path, QString::number(place.line), QString::number(place.column)}
-                     .join(':');
+    return place.line == 0 ? place.path : place.path + ':' + position(place);
+}
+
+QString PxOrigin::position(const PxPlace &place)
+{
+    return QString("%1:%2").arg(place.line).arg(place.column);
 }
 
 QJsonObject PxOrigin::json() const
 {
+    QJsonArray inputs;
+    for (const Part &input : from)
+        inputs.append(joined({input}, nullptr));
     return {{"kind", keyword(kind)},
             {"path", orNull(place.path)},
             {"line", orNull(place.line)},
             {"column", orNull(place.column)},
-            {"from", QJsonArray::fromStringList(from)},
-            {"rule", orNull(rule)}};
+            {"from", inputs},
+            {"rule", orNull(formula.isEmpty() ? rule : joined(formula, nullptr))}};
 }
 
-QString PxOrigin::text() const
+QString PxOrigin::text(const Naming &naming) const
 {
-    const QString at = text(place);
+    return joined(parts(), naming);
+}
+
+QVector<PxOrigin::Part> PxOrigin::parts() const
+{
+    const Part at{QString(), place};
     switch (kind) {
     case Kind::File:
     case Kind::ProductTypes:
-        return at;
+        return {at};
     case Kind::Theme:
-        return QString("%1 (%2)").arg(rule, at);
+        return {{rule + " ("}, at, {")"}};
     case Kind::UserDefaults:
-        return QString("user defaults (%1)").arg(at);
+        return {{"user defaults ("}, at, {")"}};
     case Kind::Question:
-        return "asked";
+        return {{"asked"}};
     case Kind::Default:
-        return rule.isEmpty() ? QString("default") : "default: " + rule;
+        return {{rule.isEmpty() ? QString("default") : "default: " + rule}};
     default:
-        return rule + otherPlaces();
+        return formula.isEmpty() ? QVector<Part>{{rule}} + otherPlaces() : formula;
     }
 }
 
 /** The places that the rule does not have, in brackets; of each file the path once. */
-QString PxOrigin::otherPlaces() const
+QVector<PxOrigin::Part> PxOrigin::otherPlaces() const
 {
-    QStringList places;
+    QVector<Part> places;
     QString last;
-    for (const QString &input : from) {
-        if (input.startsWith('/') || rule.contains('('))
+    for (const Part &input : from) {
+        if (!input.isPlace())
             continue;
-        const QString path = input.section(':', 0, -3);
-        places.append(path == last ? input.section(':', -2) : input);
-        last = path;
+        places.append({places.isEmpty() ? " (" : ", "});
+        places.append(input.place.path == last ? Part{position(input.place)} : input);
+        last = input.place.path;
     }
-    return places.isEmpty() ? QString() : QString(" (%1)").arg(places.join(", "));
+    if (!places.isEmpty())
+        places.append({")"});
+    return places;
 }

@@ -4,7 +4,9 @@
 
 #include <QJsonObject>
 #include <QString>
-#include <QStringList>
+#include <QVector>
+
+#include <functional>
 
 /** Where a value comes from. */
 struct PxOrigin
@@ -20,21 +22,38 @@ struct PxOrigin
         Clock,
     };
 
+    /** A text, or a place if it has a path. */
+    struct Part
+    {
+        QString text = {};
+        PxPlace place = nowhere();
+
+        bool isPlace() const { return !place.path.isEmpty(); }
+        bool operator==(const Part &other) const;
+    };
+    /** How a place is written. */
+    using Naming = std::function<QString(const PxPlace &place)>;
+
     Kind kind = Kind::Default;
     /** Of an attribute's name, or of an element's. Line 0 if there is none. */
-    PxPlace place = {QString(), 0, 0, 0, 0};
-    /** JSON pointers into the same output, and places as "path:line:column". */
-    QStringList from = {};
-    QString rule = {}; ///< a sentence or a formula; may be empty
+    PxPlace place = nowhere();
+    QVector<Part> from = {};    ///< JSON pointers into the same output, and places
+    QString rule = {};          ///< a sentence; may be empty
+    QVector<Part> formula = {}; ///< in place of a rule; may be empty
 
+    static PxPlace nowhere() { return {QString(), 0, 0, 0, 0}; }
     /** "path:line:column", only the path without a line, empty without a path. */
     static QString text(const PxPlace &place);
+    /** "line:column". */
+    static QString position(const PxPlace &place);
 
     /** The members kind, path, line, column, from and rule; null what there is none of. */
     QJsonObject json() const;
     /** For example "products/x.xml:6:12" or "spine 74 (products/x.xml:62:26) + 20". */
-    QString text() const;
+    QString text(const Naming &naming = nullptr) const;
+    /** What text() consists of. */
+    QVector<Part> parts() const;
 
 private:
-    QString otherPlaces() const;
+    QVector<Part> otherPlaces() const;
 };

@@ -3,7 +3,6 @@
 #include "check/design/PxDefaultsEntry.h"
 #include "report/PxShownProduct.h"
 
-#include <PxXMLParser.h>
 #include <geometry/PxBarcodeList.h>
 
 #include <QHash>

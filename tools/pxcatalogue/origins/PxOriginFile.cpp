@@ -9,8 +9,6 @@
 #include <QFileInfo>
 #include <QStringList>
 
-#include <algorithm>
-
 namespace {
 
 using Kind = PxOrigin::Kind;
@@ -20,11 +18,18 @@ QString resource(const QString &name)
     return PxDirectoryConfig::instance()->resource(name, false);
 }
 
+/** As resource(), whatever directory the command line names instead. */
+QString inCatalogue(const QString &name)
+{
+    return resource(name + "/."); // under which nothing else is set
+}
+
 /** "themes/x.xml" for a file in the directory of the catalogue with this name, else its path. */
 QString shownPath(const QString &directory, const QString &name, const QString &file)
 {
-    return QDir::cleanPath(directory) == QDir::cleanPath(resource(name)) ? name + '/' + file
-                                                                         : directory + '/' + file;
+    return QDir::cleanPath(directory) == QDir::cleanPath(inCatalogue(name))
+               ? name + '/' + file
+               : directory + '/' + file;
 }
 
 bool isThemeWith(const QString &id, const QString &idInFile)
@@ -58,13 +63,14 @@ PxOriginFile PxOriginFile::product(const QString &name)
 {
     if (name.isEmpty())
         return {};
-    // The directory may be another one than that of the catalogue.
-    const QDir directory(resource(name.section('/', 0, -2)));
-    PxOriginFile file(Kind::File, PxFileKind::Product, directory.filePath(name.section('/', -1)),
-                      name);
-    if (file.root())
-        file.m_element = file.root()->firstChild("product");
-    return file;
+    const QString kind = name.section('/', 0, -2);
+    const QString file = name.section('/', -1);
+    const QString directory = resource(kind);
+    PxOriginFile product(Kind::File, PxFileKind::Product, QDir(directory).filePath(file),
+                         shownPath(directory, kind, file));
+    if (product.root())
+        product.m_element = product.root()->firstChild("product");
+    return product;
 }
 
 PxOriginFile PxOriginFile::userDefaults(const QString &productName)

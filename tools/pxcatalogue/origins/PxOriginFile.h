@@ -14,7 +14,7 @@ class PxOriginFile
 public:
     /** No file. */
     PxOriginFile() = default;
-    /** Of the catalogue, as "products/x.xml" or "products/legacy/x.xml"; may be empty. */
+    /** By the name "products/x.xml" or "products/legacy/x.xml", wherever these directories are. */
     static PxOriginFile product(const QString &name);
     /** With the "defaults" of the user for a product that is called so in its file. */
     static PxOriginFile userDefaults(const QString &productName);
@@ -27,6 +27,8 @@ public:
     /** The product, theme, list or row; null if there is none. */
     const PxSourceElement *element() const { return m_element; }
     const PxCheckedFile &source() const { return *m_source; }
+    /** As it is shown; empty without a file. */
+    QString path() const { return m_path; }
     /** The place, with the path as it is shown. */
     PxPlace place(const PxSourceRange &range) const;
     /** The row of the format for an element; null if the library does not read it. */

@@ -207,8 +207,10 @@ PxOrigin PxOriginReader::originOf(const PxOriginRow &row, int index) const
     }
     PxOrigin origin;
     const QString rule = QString::fromUtf8(row.rule);
-    if (!inputs.isEmpty() || !rule.contains('%'))
-        origin.rule = filled(rule, inputs);
+    if (rule.contains('%'))
+        origin.formula = inputs.isEmpty() ? QVector<PxOrigin::Part>() : filled(rule, inputs);
+    else
+        origin.rule = rule;
     if (!inputs.isEmpty())
         origin.kind = row.rule ? Kind::Computed : inputs.constFirst().kind;
     for (const Input &input : inputs) {
@@ -218,14 +220,15 @@ PxOrigin PxOriginReader::originOf(const PxOriginRow &row, int index) const
             origin.kind = Kind::Clock;
     }
     for (const Input &input : inputs + choosing) {
-        const bool isItself = !row.rule && input.from == PxOrigin::text(origin.place);
-        if (!input.from.isEmpty() && !isItself && !origin.from.contains(input.from))
-            origin.from.append(input.from);
+        const PxOrigin::Part part = input.part();
+        const bool isItself = !row.rule && part == PxOrigin::Part{QString(), origin.place};
+        if (input.isNamed() && !isItself && !origin.from.contains(part))
+            origin.from.append(part);
     }
     if (origin.kind == Kind::Theme)
         origin.rule = "theme " + m_shown.themeId;
     if (origin.kind == Kind::UserDefaults) // whose file is found by the name in the product file
-        origin.from.append(inputAt("@name", 0).from);
+        origin.from.append(inputAt("@name", 0).part());
     return origin;
 }
 
@@ -292,7 +295,7 @@ PxOriginReader::Input PxOriginReader::inputAt(const QString &term, int index) co
     input.isThere = true;
     if (term.startsWith('/')) {
         input.isThere = m_report.contains(term.section('/', 1, 1)); // a theme may not be
-        input.from = QString(term).replace('*', QString::number(index));
+        input.pointer = QString(term).replace('*', QString::number(index));
         return input;
     }
     const QString file = term.contains(':') ? term.section(':', 0, 0) : QString();
@@ -302,7 +305,7 @@ PxOriginReader::Input PxOriginReader::inputAt(const QString &term, int index) co
     }
     if (file == "file") {
         input.kind = Kind::File;
-        input.place.path = m_shown.file;
+        input.place.path = m_files[""].path();
         return input;
     }
     const QString path = term.section(':', -1).section('@', 0, 0);
@@ -318,7 +321,6 @@ PxOriginReader::Input PxOriginReader::inputOf(const PxOriginElement &element)
     input.isThere = true;
     input.kind = element.file->kind();
     input.place = element.file->place(element.element->nameRange);
-    input.from = PxOrigin::text(input.place);
     return input;
 }
 
@@ -355,27 +357,28 @@ PxOriginReader::Input PxOriginReader::attributeOf(const PxOriginElement &owner, 
     input.isDefault = row->defaultText && attribute->value.trimmed() == defaultText;
     input.kind = owner.file->kind();
     input.place = owner.file->place(attribute->nameRange);
-    input.from = PxOrigin::text(input.place);
     if (input.isThere)
         input.value = PxMessageText::shortened(attribute->value);
     return input;
 }
 
 /** The rule with the inputs, and their places, for %1, %2 and so on. */
-QString PxOriginReader::filled(const QString &rule, const Inputs &inputs) const
+QVector<PxOrigin::Part> PxOriginReader::filled(const QString &rule, const Inputs &inputs) const
 {
-    QString text;
+    QVector<PxOrigin::Part> parts;
     for (int i = 0; i < rule.size(); ++i) {
         const bool isNumber = rule[i] == '%' && i + 1 < rule.size() && rule[i + 1].isDigit();
         if (!isNumber) {
-            text += rule[i];
+            parts.append({QString(rule[i])});
             continue;
         }
         const Input input = inputs.value(rule[++i].digitValue() - 1);
-        if (input.place.line > 0)
-            text += QString("%1 (%2)").arg(input.value, input.from);
+        if (!input.pointer.isEmpty())
+            parts += m_origins.value(input.pointer).parts();
+        else if (input.place.line > 0)
+            parts += {{input.value + " ("}, input.part(), {")"}};
         else
-            text += input.from.isEmpty() ? input.value : m_origins.value(input.from).text();
+            parts.append({input.value});
     }
-    return text;
+    return parts;
 }

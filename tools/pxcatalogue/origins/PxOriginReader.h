@@ -27,9 +27,12 @@ private:
         bool isWritten = false; ///< is there, though perhaps it cannot be read
         bool isDefault = false; ///< says the same as if it was not there
         PxOrigin::Kind kind = PxOrigin::Kind::Computed;
-        PxPlace place = {QString(), 0, 0, 0, 0};
-        QString from = {};
+        PxPlace place = PxOrigin::nowhere();
+        QString pointer = {}; ///< to another value
         QString value = {};
+
+        bool isNamed() const { return !pointer.isEmpty() || place.line > 0; }
+        PxOrigin::Part part() const { return {pointer, place}; }
     };
     using Inputs = QVector<Input>;
 
@@ -47,7 +50,7 @@ private:
     PxOriginElement elementAt(const QString &file, const QString &path, int index) const;
     static Input inputOf(const PxOriginElement &element);
     static Input attributeOf(const PxOriginElement &owner, const QString &name);
-    QString filled(const QString &rule, const Inputs &inputs) const;
+    QVector<PxOrigin::Part> filled(const QString &rule, const Inputs &inputs) const;
 
     const PxShownProduct &m_shown;
     QJsonObject m_report;

@@ -184,10 +184,13 @@ QString PxWhyAnswer::placesOf(const PxWhyRule &rule) const
 /** Shorter than with the whole path, which stands above; a formula with the places in it. */
 QString PxWhyAnswer::placeOf(const PxOrigin &origin) const
 {
-    const bool isFormula = origin.kind == PxOrigin::Kind::Computed && origin.rule.contains('(');
-    QString text =
-        origin.place.line == 0 || isFormula ? origin.text() : PxOrigin::text(origin.place);
-    if (!origin.place.path.isEmpty())
-        text.replace(origin.place.path + ':', QString(wordFor(origin, m_file)) + ' ');
-    return m_file.isEmpty() ? text : text.replace(m_file + ':', "file ");
+    const auto naming = [&](const PxPlace &place) {
+        const bool isOwn = place.path == origin.place.path;
+        if (place.line == 0 || (!isOwn && place.path != m_file))
+            return PxOrigin::text(place);
+        return QString("%1 %2").arg(isOwn ? wordFor(origin, m_file) : "file",
+                                    PxOrigin::position(place));
+    };
+    const bool isWhole = origin.place.line == 0 || !origin.formula.isEmpty();
+    return isWhole ? origin.text(naming) : naming(origin.place);
 }

@@ -38,8 +38,9 @@ PxWhyRule sizeRule(const PxWhyProduct &product, const Page &page)
         product.description().sizeSpec(PxPageSizeKey(page.context, shown.pageCount));
     // A page is as large as all of its kind: better the place where that is written.
     PxOrigin origin = PxOrigins(shown).at("/pageKinds/0/usableSize");
-    if (origin.place.line == 0 && origin.from.value(0).startsWith('/'))
-        origin = product.origin(origin.from[0]);
+    const PxOrigin::Part first = origin.from.value(0);
+    if (origin.place.line == 0 && !first.text.isEmpty())
+        origin = product.origin(first.text);
     return {"page-size",
             true,
             {kindOf(page)},
