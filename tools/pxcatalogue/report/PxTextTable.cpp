@@ -10,7 +10,7 @@
 namespace {
 
 constexpr int gap = 2;
-constexpr int legible = 8;  // a text that is shorter hardly tells anything
+constexpr int legible = 8;  // texts do not become narrower
 constexpr int shortest = 3; // the smallest width of a shortened text
 
 /** Limits the length of every text, because all rows are padded to the longest one. */

@@ -15,7 +15,6 @@ struct Row
     const char *tag;
     PxProductComparationCriterion criterion; ///< none for what is always compared
     const char *pointer;
-    int (*compared)(const Product &product);
     QJsonValue (*shown)(const Product &product);
 };
 
@@ -29,14 +28,14 @@ QJsonValue incrementOf(const Product &product)
 
 /** In the order in which the library compares them. */
 constexpr Row rows[] = {
-    {"same-class", PxProductComparationNone, "/product/class", [](const Product &p) { return int(p.type().productClass()); }, [](const Product &p) { return QJsonValue(PxCatalogueProducts::className(p.type())); }},
-    {"same-orientation", PxProductComparationNone, "/product/orientation", [](const Product &p) { return int(p.description().orientation().value()); }, [](const Product &p) { return PxWhyRules::keyword(p.description().orientation()); }},
-    {"same-spine", PxProductComparationNone, "/spine/hasSpine", [](const Product &p) { return int(p.description().hasSpine()); }, [](const Product &p) { return QJsonValue(p.description().hasSpine()); }},
-    {"same-page-list", PxProductComparationNone, "/pages/listEntries", [](const Product &p) { return p.description().countAbstractPages(); }, [](const Product &p) { return QJsonValue(p.description().countAbstractPages()); }},
-    {"same-binding", PxProductComparationBinding, "/product/binding", [](const Product &p) { return int(p.description().binding().value()); }, [](const Product &p) { return PxWhyRules::keyword(p.description().binding()); }},
-    {"same-space", PxProductComparationSpaceMagnitude, "/product/space", [](const Product &p) { return int(p.description().spaceMagnitude().value()); }, [](const Product &p) { return PxWhyRules::keyword(p.description().spaceMagnitude()); }},
-    {"same-paper", PxProductComparationPaperType, "/product/paper", [](const Product &p) { return int(p.description().paperType().value()); }, [](const Product &p) { return PxWhyRules::keyword(p.description().paperType()); }},
-    {"same-increment", PxProductComparationPageIncrement, "/pages/pageCounts", [](const Product &p) { return p.description().pageIncrement(); }, incrementOf},
+    {"same-class", PxProductComparationNone, "/product/class", [](const Product &p) { return QJsonValue(PxCatalogueProducts::className(p.type())); }},
+    {"same-orientation", PxProductComparationNone, "/product/orientation", [](const Product &p) { return PxWhyRules::keyword(p.description().orientation()); }},
+    {"same-spine", PxProductComparationNone, "/spine/hasSpine", [](const Product &p) { return QJsonValue(p.description().hasSpine()); }},
+    {"same-page-list", PxProductComparationNone, "/pages/listEntries", [](const Product &p) { return QJsonValue(p.description().countAbstractPages()); }},
+    {"same-binding", PxProductComparationBinding, "/product/binding", [](const Product &p) { return PxWhyRules::keyword(p.description().binding()); }},
+    {"same-space", PxProductComparationSpaceMagnitude, "/product/space", [](const Product &p) { return PxWhyRules::keyword(p.description().spaceMagnitude()); }},
+    {"same-paper", PxProductComparationPaperType, "/product/paper", [](const Product &p) { return PxWhyRules::keyword(p.description().paperType()); }},
+    {"same-increment", PxProductComparationPageIncrement, "/pages/pageCounts", incrementOf},
 };
 
 // clang-format on
@@ -52,7 +51,7 @@ PxWhyQuestion PxWhyQuestions::compatible(const PxWhyProduct &product, const PxWh
         if (row.criterion != PxProductComparationNone && (row.criterion & criterion) == 0)
             continue;
         rules.append({row.tag,
-                      row.compared(product) == row.compared(other),
+                      row.shown(product) == row.shown(other),
                       {row.shown(product)},
                       {row.shown(other)},
                       {product.origin(row.pointer), other.origin(row.pointer)}});
