@@ -1,6 +1,9 @@
 #include "origins/PxOriginFile.h"
 
+#include "drawing/PxProductFile.h"
 #include "format/PxFormat.h"
+#include "report/PxCatalogueProducts.h"
+#include "report/PxShownProduct.h"
 
 #include <PxDirectoryConfig.h>
 #include <PxXMLLoader.h>
@@ -143,4 +146,20 @@ const PxElementRow *PxOriginFile::rowOf(const PxSourceElement &element) const
     for (const PxSourceElement *e = &element; e->parent; e = e->parent)
         names.prepend(e->name);
     return PxFormat::find(m_format, names.join('/'));
+}
+
+PxOriginFiles::PxOriginFiles(const PxShownProduct &shown)
+    : product(PxOriginFile::product(shown.file))
+    , theme(PxOriginFile::theme(shown.themeId))
+    , type(PxOriginFile::productType(shown.type))
+{
+    if (product.element())
+        userDefaults = PxOriginFile::userDefaults(product.element()->value("name"));
+    const PxProductType old = shown.product->legacyProduct();
+    if (PxCatalogueProducts::isLegacy(old))
+        replaced = PxOriginFile::product(PxProductFile::pathOf(old, true));
+    const PxProductType later =
+        PxProductTypeConfigRegistry::instance()->findProductForLegacy(shown.type);
+    if (PxCatalogueProducts::isCurrent(later))
+        successor = PxOriginFile::product(PxProductFile::pathOf(later, false));
 }

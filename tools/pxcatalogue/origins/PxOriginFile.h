@@ -8,6 +8,8 @@
 
 #include <memory>
 
+struct PxShownProduct;
+
 /** A file in which values of a product stand, and the element that they are below. */
 class PxOriginFile
 {
@@ -43,4 +45,17 @@ private:
     QString m_path;
     std::shared_ptr<const PxCheckedFile> m_source;
     const PxSourceElement *m_element = nullptr;
+};
+
+/** The files in which the values of one product stand. */
+struct PxOriginFiles
+{
+    explicit PxOriginFiles(const PxShownProduct &shown);
+
+    PxOriginFile product = {};
+    PxOriginFile userDefaults = {};
+    PxOriginFile theme = {};
+    PxOriginFile type = {};
+    PxOriginFile replaced = {};  ///< of the product that this one replaces
+    PxOriginFile successor = {}; ///< of the product that replaces this one
 };

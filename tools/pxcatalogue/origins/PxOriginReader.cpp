@@ -2,9 +2,7 @@
 
 #include "check/rules/PxElementReading.h"
 #include "check/words/PxMessageText.h"
-#include "drawing/PxProductFile.h"
 #include "format/PxFormat.h"
-#include "report/PxCatalogueProducts.h"
 #include "report/PxProductReport.h"
 #include "report/PxShownProduct.h"
 
@@ -21,23 +19,11 @@ namespace {
 using Kind = PxOrigin::Kind;
 using When = PxOriginCase;
 
-QMap<QString, PxOriginFile> filesOf(const PxShownProduct &shown)
+/** By their prefix in the rows. */
+QMap<QString, PxOriginFile> byPrefix(const PxOriginFiles &files)
 {
-    QMap<QString, PxOriginFile> files;
-    const PxOriginFile product = PxOriginFile::product(shown.file);
-    files.insert("", product);
-    if (product.element())
-        files.insert("user", PxOriginFile::userDefaults(product.element()->value("name")));
-    files.insert("theme", PxOriginFile::theme(shown.themeId));
-    files.insert("type", PxOriginFile::productType(shown.type));
-    const PxProductType replaced = shown.product->legacyProduct();
-    if (PxCatalogueProducts::isLegacy(replaced))
-        files.insert("replaced", PxOriginFile::product(PxProductFile::pathOf(replaced, true)));
-    const PxProductType successor =
-        PxProductTypeConfigRegistry::instance()->findProductForLegacy(shown.type);
-    if (PxCatalogueProducts::isCurrent(successor))
-        files.insert("successor", PxOriginFile::product(PxProductFile::pathOf(successor, false)));
-    return files;
+    return {{"", files.product},  {"user", files.userDefaults}, {"theme", files.theme},
+            {"type", files.type}, {"replaced", files.replaced}, {"successor", files.successor}};
 }
 
 /** Whether one of the words is known, or at least means something else than the default. */
@@ -81,10 +67,10 @@ bool isAsLargeAsCover(const PxPageType &type)
 
 } // namespace
 
-PxOriginReader::PxOriginReader(const PxShownProduct &shown)
+PxOriginReader::PxOriginReader(const PxShownProduct &shown, const PxOriginFiles &files)
     : m_shown(shown)
     , m_report(PxProductReport::of(shown).json())
-    , m_files(filesOf(shown))
+    , m_files(byPrefix(files))
     , m_entries(shown, m_report, m_files[""], m_files["user"], m_files["theme"])
 {}
 

@@ -14,7 +14,7 @@ struct PxShownProduct;
 class PxOriginReader
 {
 public:
-    explicit PxOriginReader(const PxShownProduct &shown);
+    PxOriginReader(const PxShownProduct &shown, const PxOriginFiles &files);
 
     /** By JSON pointer. Of long tables only the first rows have origins of their own. */
     QMap<QString, PxOrigin> read();

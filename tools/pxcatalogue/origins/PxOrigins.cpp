@@ -2,7 +2,11 @@
 
 #include "origins/PxOriginReader.h"
 
-PxOrigins::PxOrigins(const PxShownProduct &shown) : m_origins(PxOriginReader(shown).read()) {}
+PxOrigins::PxOrigins(const PxShownProduct &shown) : PxOrigins(shown, PxOriginFiles(shown)) {}
+
+PxOrigins::PxOrigins(const PxShownProduct &shown, const PxOriginFiles &files)
+    : m_origins(PxOriginReader(shown, files).read())
+{}
 
 PxOrigin PxOrigins::at(const QString &pointer) const
 {

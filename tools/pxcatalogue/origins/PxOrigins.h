@@ -5,6 +5,7 @@
 #include <QJsonObject>
 #include <QMap>
 
+struct PxOriginFiles;
 struct PxShownProduct;
 
 /** The origins of all values that "show" prints of a product. */
@@ -13,6 +14,8 @@ class PxOrigins
 public:
     /** Reads the files that it needs, with the places of what is in them. */
     explicit PxOrigins(const PxShownProduct &shown);
+    /** With files that are already read. */
+    PxOrigins(const PxShownProduct &shown, const PxOriginFiles &files);
 
     /** Of the value at a JSON pointer: its own or that of the nearest object or array around it. */
     PxOrigin at(const QString &pointer) const;

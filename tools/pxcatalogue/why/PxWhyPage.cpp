@@ -37,7 +37,7 @@ PxWhyRule sizeRule(const PxWhyProduct &product, const Page &page)
     const PxPageSizeSpec size =
         product.description().sizeSpec(PxPageSizeKey(page.context, shown.pageCount));
     // A page is as large as all of its kind: better the place where that is written.
-    PxOrigin origin = PxOrigins(shown).at("/pageKinds/0/usableSize");
+    PxOrigin origin = PxOrigins(shown, product.files()).at("/pageKinds/0/usableSize");
     const PxOrigin::Part first = origin.from.value(0);
     if (origin.place.line == 0 && !first.text.isEmpty())
         origin = product.origin(first.text);

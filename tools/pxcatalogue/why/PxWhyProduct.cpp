@@ -20,12 +20,11 @@ static PxShownProduct shownProduct(const PxProductTypeConfigRegistry *registry,
 PxWhyProduct::PxWhyProduct(const PxProductTypeConfigRegistry *registry, const PxProductType &type,
                            const QString &themeId, int pageCount)
     : m_shown(shownProduct(registry, type, themeId, pageCount))
-    , m_file(PxOriginFile::product(m_shown.file))
-    , m_theme(PxOriginFile::theme(themeId))
-    , m_origins(m_shown)
+    , m_files(m_shown)
+    , m_origins(m_shown, m_files)
 {
-    if (m_file.element())
-        m_userDefaults = PxOriginFile::userDefaults(m_file.element()->value("name"));
+    if (m_shown.themeId != themeId)
+        m_files.theme = PxOriginFile::theme(themeId); // to say why it does not apply
 }
 
 bool PxWhyProduct::isCurrent() const
@@ -40,6 +39,6 @@ bool PxWhyProduct::isDescribed() const
 
 QVector<const PxSourceElement *> PxWhyProduct::entries(const char *list, const char *entry) const
 {
-    const PxSourceElement *found = m_file.element() ? m_file.element()->firstChild(list) : nullptr;
+    const PxSourceElement *found = file().element() ? file().element()->firstChild(list) : nullptr;
     return found ? found->childrenNamed(entry) : QVector<const PxSourceElement *>();
 }

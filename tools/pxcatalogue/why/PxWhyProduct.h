@@ -21,9 +21,10 @@ public:
     /** Whether a file describes it, which may be that of an earlier catalogue. */
     bool isDescribed() const;
 
-    const PxOriginFile &file() const { return m_file; }
-    const PxOriginFile &userDefaults() const { return m_userDefaults; }
-    const PxOriginFile &theme() const { return m_theme; }
+    const PxOriginFiles &files() const { return m_files; }
+    const PxOriginFile &file() const { return m_files.product; }
+    const PxOriginFile &userDefaults() const { return m_files.userDefaults; }
+    const PxOriginFile &theme() const { return m_files.theme; }
     /** The children of this name in the first child with that name of the product. */
     QVector<const PxSourceElement *> entries(const char *list, const char *entry) const;
     /** Of a value that "show" prints, named by its JSON pointer. */
@@ -31,8 +32,6 @@ public:
 
 private:
     PxShownProduct m_shown;
-    PxOriginFile m_file;
-    PxOriginFile m_userDefaults;
-    PxOriginFile m_theme;
+    PxOriginFiles m_files;
     PxOrigins m_origins;
 };
