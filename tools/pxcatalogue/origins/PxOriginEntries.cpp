@@ -36,7 +36,7 @@ PageRange rangeOf(Element redirect)
 bool isFor(const PxDefaultsEntry &entry, const QString &theme, const PxPageContext &page)
 {
     const int side = page.alignment();
-    return (side & (side - 1)) == 0 && (entry.alignments() & side) != 0 &&
+    return (entry.alignments() & side) != 0 &&
            entry.pageTypes().contains(page.pageType().value()) && entry.themes().contains(theme);
 }
 
@@ -81,7 +81,7 @@ PxOriginEntries::PxOriginEntries(const PxShownProduct &shown, const QJsonObject 
     addBarcodes(rows("barcodes"), shown.pages.size());
     addTemplates(shown, userDefaults);
     addLogo(shown.type, theme);
-    for (Element item : all("extra_production_pages", "item").mid(0, maximumRows))
+    for (Element item : m_product.entries("extra_production_pages", "item").mid(0, maximumRows))
         add("item[row]", item);
     addContentRedirects(rows("contentRedirects"));
     addRotationRedirects(rows("rotationRedirects"));
@@ -90,13 +90,6 @@ PxOriginEntries::PxOriginEntries(const PxShownProduct &shown, const QJsonObject 
 PxOriginElement PxOriginEntries::find(const QString &name, int row) const
 {
     return m_entries.value(name).value(qMax(0, row));
-}
-
-QVector<const PxSourceElement *> PxOriginEntries::all(const char *list, const char *name) const
-{
-    const PxSourceElement *parent =
-        m_product.element() ? m_product.element()->firstChild(list) : nullptr;
-    return parent ? parent->childrenNamed(name) : Elements();
 }
 
 void PxOriginEntries::add(const char *name, const PxSourceElement *element)
@@ -109,7 +102,7 @@ void PxOriginEntries::addSpines(int pageCount)
 {
     Element shown = nullptr;
     Element smallest = nullptr;
-    for (Element spine : all("spines", "spine")) {
+    for (Element spine : m_product.entries("spines", "spine")) {
         const int pages = spine->number("pages");
         if (pages == pageCount)
             shown = spine;
@@ -157,7 +150,7 @@ void PxOriginEntries::addSurroundings(const PxShownProduct &shown)
 
 void PxOriginEntries::addBarcodes(const QJsonArray &rows, int pageCount)
 {
-    const Elements elements = all("barcodes", "barcode");
+    const Elements elements = m_product.entries("barcodes", "barcode");
     const PxSourceElement *list = elements.isEmpty() ? nullptr : elements.constFirst()->parent;
     const PxBarcodeList barcodes(list ? list->dom : QDomElement());
     for (int row = 0; row < qMin(rows.size(), maximumRows); ++row) {
@@ -172,7 +165,7 @@ void PxOriginEntries::addBarcodes(const QJsonArray &rows, int pageCount)
 void PxOriginEntries::addContentRedirects(const QJsonArray &rows)
 {
     QVector<PageRange> ranges;
-    for (Element redirect : all("contentredirects", "contentredirect"))
+    for (Element redirect : m_product.entries("contentredirects", "contentredirect"))
         ranges.prepend(rangeOf(redirect)); // a later one overrides an earlier one
     for (int row = 0; row < qMin(rows.size(), maximumRows); ++row) {
         const int page = rows[row]["page"].toInt();
@@ -187,7 +180,7 @@ void PxOriginEntries::addContentRedirects(const QJsonArray &rows)
 void PxOriginEntries::addRotationRedirects(const QJsonArray &rows)
 {
     QHash<int, Elements> redirectsOfPage;
-    for (Element redirect : all("rotationredirects", "rotationredirect")) {
+    for (Element redirect : m_product.entries("rotationredirects", "rotationredirect")) {
         const int from = redirect->number("from", -2);
         if (from >= -1 && redirect->number("to", -2) >= -1)
             redirectsOfPage[from].append(redirect);

@@ -31,8 +31,6 @@ public:
     PxOriginElement find(const QString &name, int row) const;
 
 private:
-    /** Elements of a list in the product file. */
-    QVector<const PxSourceElement *> all(const char *list, const char *name) const;
     void add(const char *name, const PxSourceElement *element);
     void addSpines(int pageCount);
     void addSurroundings(const PxShownProduct &shown);

@@ -133,6 +133,12 @@ PxOriginFile PxOriginFile::productType(const PxProductType &type)
     return file;
 }
 
+QVector<const PxSourceElement *> PxOriginFile::entries(const char *list, const char *name) const
+{
+    const PxSourceElement *parent = m_element ? m_element->firstChild(list) : nullptr;
+    return parent ? parent->childrenNamed(name) : QVector<const PxSourceElement *>();
+}
+
 PxPlace PxOriginFile::place(const PxSourceRange &range) const
 {
     PxPlace place = m_source->place(range);

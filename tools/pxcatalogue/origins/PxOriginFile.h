@@ -29,6 +29,8 @@ public:
     /** The product, theme, list or row; null if there is none. */
     const PxSourceElement *element() const { return m_element; }
     const PxCheckedFile &source() const { return *m_source; }
+    /** The children with one name of the first child with the other name. */
+    QVector<const PxSourceElement *> entries(const char *list, const char *name) const;
     /** As it is shown; empty without a file. */
     QString path() const { return m_path; }
     /** The place, with the path as it is shown. */

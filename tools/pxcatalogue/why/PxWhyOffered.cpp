@@ -11,7 +11,7 @@ namespace {
 const PxSourceElement *spineOf(const PxWhyProduct &product, int pageCount)
 {
     const PxSourceElement *found = nullptr;
-    for (const PxSourceElement *spine : product.entries("spines", "spine")) {
+    for (const PxSourceElement *spine : product.file().entries("spines", "spine")) {
         if (spine->number("pages") == pageCount)
             found = spine;
     }

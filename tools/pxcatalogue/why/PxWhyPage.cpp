@@ -94,7 +94,7 @@ PxWhyRule surroundingRule(const PxWhyProduct &product, const Page &page)
 
 PxWhyRule barcodeRule(const PxWhyProduct &product, const Page &page)
 {
-    const Elements elements = product.entries("barcodes", "barcode");
+    const Elements elements = product.file().entries("barcodes", "barcode");
     const PxBarcodeList barcodes(elements.isEmpty() ? QDomElement() : elements[0]->parent->dom);
     const PxBarcode answer = product.description().barcodeOnPage(page.number, page.pages);
     PxWhyRule rule{"barcode", true, {page.number}, {}, {}};

@@ -36,9 +36,3 @@ bool PxWhyProduct::isDescribed() const
 {
     return isCurrent() || PxCatalogueProducts::isLegacy(type());
 }
-
-QVector<const PxSourceElement *> PxWhyProduct::entries(const char *list, const char *entry) const
-{
-    const PxSourceElement *found = file().element() ? file().element()->firstChild(list) : nullptr;
-    return found ? found->childrenNamed(entry) : QVector<const PxSourceElement *>();
-}

@@ -25,8 +25,6 @@ public:
     const PxOriginFile &file() const { return m_files.product; }
     const PxOriginFile &userDefaults() const { return m_files.userDefaults; }
     const PxOriginFile &theme() const { return m_files.theme; }
-    /** The children of this name in the first child with that name of the product. */
-    QVector<const PxSourceElement *> entries(const char *list, const char *entry) const;
     /** Of a value that "show" prints, named by its JSON pointer. */
     PxOrigin origin(const QString &pointer) const { return m_origins.at(pointer); }
 
