@@ -352,6 +352,20 @@ void PxOriginTest::saysAllOfAnOrigin()
     QCOMPARE(kindOf("/pages/pageCount"), QString("question"));
     QCOMPARE(kindOf("/product/shortName"), QString("productTypes"));
 
+    // Of a product without a size no pointer leads to its width.
+    sample.replace("products/cup2.xml", "<usablesize", "<size");
+    const QJsonObject cup = show(sample, "CUP2 --origin");
+    const QJsonObject ofCup = cup["origins"].toObject();
+    for (auto origin = ofCup.begin(); origin != ofCup.end(); ++origin) {
+        QStringList pointers{origin.key()};
+        for (const auto &part : origin.value()["from"].toArray()) {
+            if (part.toString().startsWith('/'))
+                pointers.append(part.toString());
+        }
+        for (const QString &pointer : qAsConst(pointers))
+            QVERIFY2(!valueAt(cup, pointer).isUndefined(), qPrintable(pointer));
+    }
+
     // Directories elsewhere; files in the catalogue are named from there.
     QVERIFY(QDir(sample.path()).rename("products", "other") &&
             QDir(sample.path()).rename("defaults", "own") &&

@@ -26,6 +26,8 @@ struct PxCommandUsage
     /** First its own, then those that other commands have, too; without those of every command. */
     QVector<PxOption> options;
     Arguments arguments = {};
+    /** Whether the arguments are catalogues: the options that name one are refused then. */
+    bool hasCatalogues = false;
 };
 
 /** A command of the program. */

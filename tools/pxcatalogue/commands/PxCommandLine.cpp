@@ -128,6 +128,11 @@ QString problemOfParsing(const QCommandLineParser &parser, const QVector<PxOptio
     return nearest.isEmpty() ? problem : problem + ": " + PxSpelling::didYouMean(nearest);
 }
 
+QString oneTooMany(const QString &argument)
+{
+    return QString("\"%1\" is one argument too many").arg(argument);
+}
+
 QString problemOfCommand(const QString &name)
 {
     const QStringList names = commandNames();
@@ -148,9 +153,14 @@ PxCommandLine::PxCommandLine(const QStringList &words)
     parser.setApplicationDescription(wrapped(programDescription()));
     parser.parse(words);
     QStringList understood = words;
-    if (parser.positionalArguments().value(0) == "help") { // is the same as --help
-        understood.removeAt(words.size() - parser.positionalArguments().size());
+    const QStringList arguments = parser.positionalArguments();
+    if (arguments.value(0) == "help") { // is the same as --help
+        understood.removeAt(words.size() - arguments.size());
         understood.insert(1, "--help");
+        const bool areWords =
+            arguments.size() > 2 && !arguments[1].startsWith('-') && !arguments[2].startsWith('-');
+        if (areWords)
+            setProblem(oneTooMany(arguments[2]));
     }
     findCommand(understood, &parser);
     if (m_command)
@@ -189,7 +199,12 @@ void PxCommandLine::readOptions(const QStringList &words)
 {
     const PxCommandUsage usage = m_command->usage();
     const QVector<PxOption> options = usage.options + PxOption::ofEveryCommand();
-    addOptions(&m_parser, options);
+    const QVector<PxOption> ofCatalogue = PxOption::ofCatalogue();
+    const auto refused =
+        usage.hasCatalogues ? QCommandLineOption::HiddenFromHelp : QCommandLineOption::Flags();
+    addOptions(&m_parser, usage.options);
+    addOptions(&m_parser, ofCatalogue, refused);
+    addOptions(&m_parser, PxOption::ofEveryCommand().mid(ofCatalogue.size()));
     m_parser.setApplicationDescription(wrapped(usage.description));
     m_parser.addPositionalArgument(usage.name, "The command.", usage.name);
     if (usage.arguments.most > 0)
@@ -220,8 +235,7 @@ void PxCommandLine::checkArguments()
     if (given.isEmpty() && !usage.arguments.needed.isEmpty())
         setProblem(usage.name + " needs " + usage.arguments.needed);
     else if (given.size() > usage.arguments.most)
-        setProblem(
-            QString("\"%1\" is one argument too many").arg(given.value(usage.arguments.most)));
+        setProblem(oneTooMany(given.value(usage.arguments.most)));
 }
 
 void PxCommandLine::checkValues(const QVector<PxOption> &options)

@@ -22,10 +22,10 @@ std::optional<PxProblem> problemOf(const PxCommandLine &line)
     const QStringList paths = line.arguments();
     if (paths.size() < 2)
         return PxProblem{"diff needs two catalogues, the old one and the new one"};
-    for (const char *option : {"resources", "products", "legacy", "user-defaults", "themes"}) {
-        if (line.isSet(option))
-            return PxProblem{
-                QString("--%1 and diff do not go together: both catalogues are named").arg(option)};
+    for (const PxOption &option : PxOption::ofCatalogue()) {
+        if (line.isSet(option.name))
+            return PxProblem{QString("--%1 and diff do not go together: both catalogues are named")
+                                 .arg(option.name)};
     }
     const bool isJson = line.value("format").isEmpty() || line.keywords("format").contains("json");
     if (line.isSet("json") && !isJson)
@@ -100,7 +100,7 @@ PxCommandUsage PxDiffCommand::usage() const
         {"only", "KEYS", "Only changes of these values or sections, as in --json with \"*\" for an index, and of themes their members: /sizes, /barcodes/*/rect, expiryDay; added, removed and renamed are keys, too.", 0, 0, PxDiffKeys::all()},
         {"format", "FORMAT", "text, json or markdown. Default: text.", 0, 0, {"text", "json", "markdown"}, PxOption::Form::OneKeyword},
         {"json", "", "The same as --format json, with all lengths in tenths of a millimetre."},
-    }, {"OLD NEW", "Two catalogues.", "two catalogues, the old one and the new one", 2}};
+    }, {"OLD NEW", "Two catalogues.", "two catalogues, the old one and the new one", 2}, true};
     // clang-format on
 }
 

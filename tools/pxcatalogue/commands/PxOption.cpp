@@ -84,7 +84,7 @@ PxOption PxOption::json()
     return {"json", "", "JSON, with all lengths in tenths of a millimetre, instead of text."};
 }
 
-QVector<PxOption> PxOption::ofEveryCommand()
+QVector<PxOption> PxOption::ofCatalogue()
 {
     return {
         {"resources", "DIR[:DIR]", "The resource directories of a catalogue, whose themes and defaults are used, too. Default: PX_RESOURCE_DIRS, else the catalogue installed with the library."},
@@ -92,6 +92,12 @@ QVector<PxOption> PxOption::ofEveryCommand()
         {"legacy", "DIR", "The directory of the legacy product files. Default: products/legacy in the resource directories."},
         {"user-defaults", "DIR", "The directory of the user's default templates. Default: defaults in the catalogue that the command line names, else PX_USER_DEFAULTS_DIR, else defaults in the data directory of the user."},
         {"themes", "DIR", "The directory of the theme files. Default: themes in the catalogue that the command line names, else PX_THEMES_DIR, else themes in the resource directories."},
+    };
+}
+
+QVector<PxOption> PxOption::ofEveryCommand()
+{
+    return ofCatalogue() + QVector<PxOption>{
         {"lang", "LANGUAGE", "The language of display names: en or de. Default: that of the locale, else German."},
         {"verbose", "", "Print the debug messages of the library, too. The reason why a product or theme file could not be read is printed anyway, except by check, which prints no messages of the library without this."},
         {"help", "", "This text."},

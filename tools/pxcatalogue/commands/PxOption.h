@@ -34,5 +34,7 @@ struct PxOption
     // Options that several commands have, and those that every command has.
     static PxOption theme();
     static PxOption json();
+    /** Those that name a catalogue, or a part of one; the first of ofEveryCommand(). */
+    static QVector<PxOption> ofCatalogue();
     static QVector<PxOption> ofEveryCommand();
 };

@@ -56,7 +56,7 @@ constexpr PxDiffKey productKeys[] = {
     {"/pages/list", "page list", Format::JsonOnly},
     {"/pages/listEntries", "entries of the page list"},
     {"/pages/sides", "sides of pages", Format::JsonOnly},
-    {"/pages/hasCover", "cover"},
+    {"/pages/hasCover", "cover", Format::Plain, Customers},
     {"/pages/isSimplex", "printed on one side"},
     {"/pages/horizontalPages", "pages side by side"},
     {"/pages/hasCardStyleAlignment", "card style"},

@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QJsonDocument>
 
+#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -77,11 +78,14 @@ public:
 
     QString of(const PxChange &change)
     {
-        const bool isGone = QString(change.key->pointer).contains('*') && change.after.isNull();
+        const QString pattern = change.key->pointer;
+        const bool isGone = change.after.isNull() || change.after == QString();
         if (isGone)
             return QString();
-        const QString place = change.dependsOnPageCount() ? placeOfSpine(change) : QString();
-        return place.isEmpty() ? placeOf(shownPointer(change), 0) : place;
+        if (change.dependsOnPageCount() && pattern.startsWith("/spine/"))
+            return placeOfSpine(change);
+        const QString pointer = shownPointer(change);
+        return pattern.endsWith('*') ? placeOfRow(pattern, pointer) : placeOf(pointer, 0);
     }
 
 private:
@@ -89,9 +93,6 @@ private:
     QString placeOfSpine(const PxChange &change)
     {
         const QString attribute = QString(change.key->pointer).section('/', -1).toLower();
-        const QString pointer = change.key->pointer;
-        if (!pointer.startsWith("/spine/"))
-            return QString();
         if (m_spines.isEmpty())
             findSpines();
         const Element spine = m_spines.value(change.firstPageCount);
@@ -143,13 +144,34 @@ private:
         return rows;
     }
 
-    /** A computed value has the place of the first input that has one. */
+    /** Of a new row the place of the first of its values that a file says. */
+    QString placeOfRow(const QString &pattern, const QString &pointer) const
+    {
+        for (const PxDiffKey &key : PxDiffKeys::ofProducts()) {
+            const QString value = key.pointer;
+            if (!value.startsWith(pattern + '/'))
+                continue;
+            const PxOrigin origin = m_origins.at(pointer + '/' + value.section('/', -1));
+            if (origin.kind == PxOrigin::Kind::File && origin.place.line > 0)
+                return PxOrigin::text(origin.place);
+        }
+        return QString();
+    }
+
+    /**
+     * A computed value has the place of the first input that has one. None has what no file says,
+     * nor a sum: nobody knows here which of its parts changed.
+     */
     QString placeOf(const QString &pointer, int depth) const
     {
         constexpr int deepest = 5;
         if (pointer.isEmpty() || depth > deepest)
             return QString();
         const PxOrigin origin = m_origins.at(pointer);
+        const auto terms = std::count_if(origin.formula.begin(), origin.formula.end(),
+                                         [](const PxOrigin::Part &part) { return part.isPlace(); });
+        if (origin.kind == PxOrigin::Kind::Default || terms > 1)
+            return QString();
         if (origin.place.line > 0)
             return PxOrigin::text(origin.place);
         for (const PxOrigin::Part &from : origin.from) {

@@ -103,6 +103,19 @@ QString rangeText(const QJsonValue &first, const QJsonValue &last, const PxChang
     return from == to ? from : from + " to " + to;
 }
 
+/** How many pages an entry of the page list is, such as "all and 2"; empty for a single one. */
+QString numberOfPages(const QJsonValue &entry)
+{
+    const int fixed = entry["fixed"].toInt();
+    const int perPageCount = entry["perPageCount"].toInt();
+    QString text;
+    if (perPageCount > 0)
+        text = perPageCount > 1 ? QString("%1 times all").arg(perPageCount) : QString("all");
+    if (perPageCount > 0 && fixed > 0)
+        text += " and ";
+    return fixed > 1 || (perPageCount > 0 && fixed > 0) ? text + QString::number(fixed) : text;
+}
+
 } // namespace
 
 QString PxDiffWords::ofParts(const QJsonValue &value)
@@ -118,8 +131,7 @@ QString PxDiffWords::ofParts(const QJsonValue &value)
             words.append(ofParts(part));
         return words.join(", ");
     case QJsonValue::Object:
-        if (value["perPageCount"].toInt() > 0)
-            words.append("all");
+        words.append(numberOfPages(value));
         for (const char *member :
              {"pageType", "alignment", "page", "first", "second", "even", "odd"})
             words.append(ofParts(value[QLatin1String(member)]));

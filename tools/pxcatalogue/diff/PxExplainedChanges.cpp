@@ -21,6 +21,8 @@ constexpr PxOriginRow exportRows[] = {
     {"/pages/offered", "/product/isOffered /product/class", "none if it is not offered"},
     {"/pages/explicitNumberOfNormalPages", "/pages/offered", "as many as are offered"},
     {"/sizes/page", "/product/isOffered", "none if it is not offered"},
+    {"/spine/width", "/spine/hasSpine", "none without a spine"},
+    {"/spine/maxFontHeight", "/spine/hasSpine", "none without a spine"},
     {"/pageKinds/*", "/pageKinds /pages/offered", "a row for each kind of page"},
     {"/templates/*", "/pageKinds /pages/offered", "a row for each kind of page"},
     {"/legacy/replacedPage", "/legacy/replaces", "of the replaced product"},
@@ -32,10 +34,20 @@ constexpr PxOriginRow exportRows[] = {
 constexpr const char *ends[] = {"/product/isOffered", "/pages/offered", "/pages/pageCount",
                                 "/pages/pageCounts", "/pages/printedPages"};
 
+/** Values that follow from the page list, which nobody reads who looks for what customers notice.
+ */
+constexpr const char *alwaysNamed[] = {"/spine/hasSpine", "/pages/hasCover"};
+
+template <std::size_t COUNT>
+bool isOneOf(const char *const (&pointers)[COUNT], const QString &pointer)
+{
+    return std::any_of(std::begin(pointers), std::end(pointers),
+                       [&pointer](const char *other) { return pointer == QLatin1String(other); });
+}
+
 bool isEnd(const QString &pointer)
 {
-    return std::any_of(std::begin(ends), std::end(ends),
-                       [&pointer](const char *end) { return pointer == QLatin1String(end); });
+    return isOneOf(ends, pointer);
 }
 
 /** From which other values each value follows. */
@@ -128,6 +140,11 @@ const Explanations &explanations()
     return ourExplanations;
 }
 
+bool isNothing(const QJsonValue &value)
+{
+    return value.isNull() || value == QString();
+}
+
 /** The cover is larger than the page by attributes of its own, which may have changed as well. */
 bool isSameDifference(const PxChange &a, const PxChange &b)
 {
@@ -136,11 +153,6 @@ bool isSameDifference(const PxChange &a, const PxChange &b)
     };
     return difference(a, "width") == difference(b, "width") &&
            difference(a, "height") == difference(b, "height");
-}
-
-bool isNothing(const QJsonValue &value)
-{
-    return value.isNull() || value == QString();
 }
 
 /** One default template is for several kinds of pages, of which the first is named. */
@@ -167,10 +179,12 @@ bool explains(const PxChange &cause, const PxChange &change)
     const QString key = cause.key->pointer;
     if (key == "/product/isOffered") // what a product that is not offered lacks
         return isNothing(change.before) || isNothing(change.after);
+    if (key == "/spine/hasSpine")
+        return change.pointer.startsWith("/spine/");
     if (explanations().mayBeWritten(*change.key))
         return false;
-    return key != "/sizes/page" || change.pointer != "/sizes/cover" ||
-           isSameDifference(cause, change);
+    return key != "/sizes/page" || change.pointer != "/sizes/cover" || isNothing(cause.before) ||
+           isNothing(cause.after) || isSameDifference(cause, change);
 }
 
 } // namespace
@@ -182,9 +196,10 @@ QVector<PxChange> PxExplainedChanges::removedFrom(const QVector<PxChange> &chang
         causes.insert(change.key->pointer, &change);
     const auto isExplained = [&causes](const PxChange &change) {
         const Keys keys = explanations().explaining(*change.key);
-        return std::any_of(keys.begin(), keys.end(), [&](const QString &key) {
-            return causes.contains(key) && explains(*causes[key], change);
-        });
+        return !isOneOf(alwaysNamed, change.pointer) &&
+               std::any_of(keys.begin(), keys.end(), [&](const QString &key) {
+                   return causes.contains(key) && explains(*causes[key], change);
+               });
     };
     NamedTemplates templates;
     QVector<PxChange> left;

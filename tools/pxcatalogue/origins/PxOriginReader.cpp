@@ -13,6 +13,7 @@
 #include <QJsonArray>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -86,7 +87,26 @@ QMap<QString, PxOrigin> PxOriginReader::read()
         for (int index = 0; index < rowsOf(pattern); ++index)
             readRow(pattern, index);
     }
+    removeUnprinted();
     return m_origins;
+}
+
+/** A product without a size has no width to point at, only the size, which is null. */
+void PxOriginReader::removeUnprinted()
+{
+    const auto isPrinted = [this](const QString &pointer) {
+        QJsonValue value = m_report;
+        for (const QString &part : pointer.split('/', Qt::SkipEmptyParts))
+            value = value.isArray() ? QJsonValue(value[part.toInt()]) : QJsonValue(value[part]);
+        return !value.isUndefined();
+    };
+    for (auto origin = m_origins.begin(); origin != m_origins.end();) {
+        for (PxOrigin::Part &part : origin->from) {
+            while (!isPrinted(part.text))
+                part.text.truncate(part.text.lastIndexOf('/'));
+        }
+        origin = isPrinted(origin.key()) ? std::next(origin) : m_origins.erase(origin);
+    }
 }
 
 /** How many values a pattern has: 1 unless it is about the rows of a table. */

@@ -36,6 +36,7 @@ private:
     };
     using Inputs = QVector<Input>;
 
+    void removeUnprinted();
     int rowsOf(const QString &pattern) const;
     void readRow(const QString &pattern, int index);
     const PxOriginRow *rowFor(const QString &pattern, int index) const;

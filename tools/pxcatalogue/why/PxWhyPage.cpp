@@ -119,17 +119,18 @@ PxWhyQuestion PxWhyQuestions::page(const PxWhyProduct &product, int number)
     const PxProductTypeDescription &description = product.description();
     const int pageCount = product.shown().pageCount;
     const PxPageTypeList pages = description.pageTypes(pageCount);
-    const bool isPage = number < pages.size();
+    const bool isPage = product.isDescribed() && number < pages.size();
     PxWhyQuestion question{QString("Has %1 a page %2, with %3 %4?")
                                .arg(product.name(), QString::number(number),
                                     QString::number(pageCount), pageCount == 1 ? "page" : "pages"),
-                           product.isDescribed() && isPage,
-                           {PxWhyRules::file(product)}};
-    question.rules.append({"page",
                            isPage,
-                           {number},
-                           {QString("0-%1").arg(pages.size() - 1)},
-                           {PxWhyRules::asked("page"), product.origin("/pages/printedPages")}});
+                           {PxWhyRules::file(product)}};
+    question.rules.append(
+        {"page",
+         isPage,
+         {number},
+         {product.isDescribed() ? QString("0-%1").arg(pages.size() - 1) : QJsonValue()},
+         {PxWhyRules::asked("page"), product.origin("/pages/printedPages")}});
     if (!question.answer)
         return question;
     const Page page{number, pages.size(), {pages[number], description.pageAlignment(number)}};

@@ -3,6 +3,12 @@
 #include "why/PxWhyProduct.h"
 #include "why/PxWhyRules.h"
 
+namespace {
+
+constexpr const char *white = "a page that stays empty is white";
+
+} // namespace
+
 PxWhyTemplates::PxWhyTemplates(const PxWhyProduct &product, const PxPageContext &page)
     : m_product(product)
     , m_page(page)
@@ -38,18 +44,22 @@ PxWhyRule PxWhyTemplates::rule(const QString &tag, DefaultTemplateType type) con
 {
     const QString theme = m_lists[0].themes[0];
     PxWhyRule rule{tag, true, {theme}, {PxWhyRules::orNull(answer(type))}, {}};
-    // In a theme the background of an empty page is white, whatever the files say.
-    if (!m_product.shown().themeId.isEmpty() && type == DefaultTemplateTypeBackground &&
-        m_page.isPageType(PxPageTypeEmptyPage))
-        return rule;
-    const Used used = find(type);
+    const Used found = find(type);
+    if (isWhite(type)) {
+        PxOrigin origin;
+        origin.kind = PxOrigin::Kind::Computed;
+        origin.rule = white;
+        rule.origins.append(origin);
+    }
     for (const List &list : m_lists) {
         for (int i = 0; i < list.entries.size(); ++i) {
             const PxSourceElement &element = list.entries[i].element();
-            if (&list == used.list && i == used.index)
+            const bool isFound = &list == found.list && i == found.index;
+            if (isFound && !isWhite(type))
                 rule.origins.append(PxWhyRules::in(list.file, &element));
             else
-                PxWhyRules::addLost(list.file, element, reason(list, i, used), &rule);
+                PxWhyRules::addLost(list.file, element,
+                                    isFound ? QString(white) : reason(list, i, found), &rule);
         }
     }
     return rule;
@@ -63,6 +73,13 @@ QString PxWhyTemplates::answer(DefaultTemplateType type) const
         return m_product.description().findDefaultTemplate({"normal", m_page, type}, true, true);
     return PxProductContext(m_product.type(), theme)
         .defaultTemplateForPage(type == DefaultTemplateTypeLayout, m_page, true);
+}
+
+/** In a theme the background of an empty page is white, whatever the files say. */
+bool PxWhyTemplates::isWhite(DefaultTemplateType type) const
+{
+    return !m_product.shown().themeId.isEmpty() && type == DefaultTemplateTypeBackground &&
+           m_page.isPageType(PxPageTypeEmptyPage);
 }
 
 bool PxWhyTemplates::isForPage(const PxDefaultsEntry &entry) const

@@ -37,6 +37,7 @@ private:
     void add(const PxOriginFile &file, const PxSourceElement *list, const QStringList &themes);
     Used find(DefaultTemplateType type) const;
     QString answer(DefaultTemplateType type) const;
+    bool isWhite(DefaultTemplateType type) const;
     bool isForPage(const PxDefaultsEntry &entry) const;
     QString reason(const List &list, int index, const Used &used) const;
 
