@@ -51,10 +51,8 @@ namespace {
 
 #ifdef PX_SANITIZED
 constexpr int slowness = 20;
-#elif defined(NDEBUG)
-constexpr int slowness = 3; // others use the machine, too
 #else
-constexpr int slowness = 6;
+constexpr int slowness = 6; // of the machine, its disk and a build for debugging
 #endif
 constexpr int maximumMilliseconds = 250 * slowness;
 constexpr rlim_t maximumMemory = 150 << 20;
