@@ -108,6 +108,11 @@ public:
      */
     QString findDefaultTemplate(const PxDefaultTemplateKey &key, bool useFallback,
                                 bool useUserDefaults) const;
+    /**
+     * The ids of the themes for which the product file or the user has default templates, "normal"
+     * and ids without a theme included; in ascending order.
+     */
+    QStringList themesWithDefaultTemplates() const;
 
     // Pages
     /**

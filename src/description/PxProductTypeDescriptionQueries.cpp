@@ -73,6 +73,14 @@ QString PxProductTypeDescription::findDefaultTemplate(const PxDefaultTemplateKey
     return m_defaultTemplates.findTemplate(key, useFallback);
 }
 
+QStringList PxProductTypeDescription::themesWithDefaultTemplates() const
+{
+    QStringList themes = m_defaultTemplates.themes() + m_userDefaultTemplates.themes();
+    themes.sort();
+    themes.removeDuplicates();
+    return themes;
+}
+
 int PxProductTypeDescription::minPages() const
 {
     return m_spines.isEmpty() ? std::numeric_limits<int>::max() : m_spines.constFirst().pageCount;

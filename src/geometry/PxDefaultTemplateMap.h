@@ -4,6 +4,7 @@
 
 #include <QMap>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 class QDomElement;
@@ -21,6 +22,9 @@ public:
      * With `useFallback` a theme without a template of its own gets that of the theme "normal".
      */
     QString findTemplate(const PxDefaultTemplateKey &key, bool useFallback) const;
+
+    /** The themes that the lists name, in ascending order. */
+    QStringList themes() const { return m_defaultsOfTheme.keys(); }
 
     /**
      * Reads the "defaults" children of the element. A later one overrides an earlier one, even with

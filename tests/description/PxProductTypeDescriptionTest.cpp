@@ -94,6 +94,7 @@ void PxProductTypeDescriptionTest::userDefaultsComeFirst()
         QCOMPARE(d.findDefaultTemplate(key, true, false), QString("file"));
         const PxDefaultTemplateKey themed("other", {}, DefaultTemplateTypeBackground);
         QCOMPARE(d.findDefaultTemplate(themed, true, true), QString("other"));
+        QCOMPARE(d.themesWithDefaultTemplates(), QStringList({"normal", "other"}));
     }
     QCOMPARE(log.texts(), QStringList());
 }

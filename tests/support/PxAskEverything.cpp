@@ -58,8 +58,8 @@ void askAboutTheProduct(const PxProductTypeDescription &asked, QDebug &answers)
     PX_ASK(hasHole()); PX_ASK(numberOfSpiralLoops()); PX_ASK(variantDescription()); PX_ASK(variants());
     PX_ASK(explicitNumberOfProducts()); PX_ASK(explicitNumberOfNormalPages()); PX_ASK(hasContentCategoryBox());
     PX_ASK(isCompatible(PxProductTypeDescription(), PxProductComparationAllButBinding));
-    PX_ASK(limitBackgroundCategories()); PX_ASK(fullBackgroundOnEachPage()); PX_ASK(minPages()); PX_ASK(maxPages());
-    PX_ASK(pageIncrement()); PX_ASK(offeredPageCounts().mid(0, 100)); PX_ASK(defaultSellingPages());
+    PX_ASK(limitBackgroundCategories()); PX_ASK(fullBackgroundOnEachPage()); PX_ASK(themesWithDefaultTemplates());
+    PX_ASK(minPages()); PX_ASK(maxPages()); PX_ASK(pageIncrement()); PX_ASK(offeredPageCounts().mid(0, 100)); PX_ASK(defaultSellingPages());
     PX_ASK(countAbstractPages()); PX_ASK(hasPages()); PX_ASK(hasCover()); PX_ASK(isSimplex());
     PX_ASK(pageNamingStyle()); PX_ASK(horizontalPages()); PX_ASK(hasCardStyleAlignment());
     PX_ASK(editorStartDoublePage()); PX_ASK(coverSize()); PX_ASK(bleedMarginNormal()); PX_ASK(bleedMarginCover());

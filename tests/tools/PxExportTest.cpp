@@ -99,8 +99,8 @@ public:
         json["barcodes"] = barcodes();
         for (const char *key : {"contentRedirects", "rotationRedirects"})
             json[QLatin1String(key)] = redirects(json[QLatin1String(key)].toArray());
-        json.remove("byPageCount");
-        json.remove("type");
+        for (const char *ofExports : {"byPageCount", "themeTemplates", "type"})
+            json.remove(QLatin1String(ofExports));
         return json;
     }
 

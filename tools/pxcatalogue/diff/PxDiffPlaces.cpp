@@ -1,6 +1,7 @@
 #include "diff/PxDiffPlaces.h"
 
 #include "check/source/PxCheckedFile.h"
+#include "diff/PxComparedProduct.h"
 #include "diff/PxDiff.h"
 #include "diff/PxMatchedRows.h"
 #include "origins/PxOrigins.h"
@@ -68,10 +69,10 @@ class ProductPlaces
 {
 public:
     ProductPlaces(const PxProductTypeConfigRegistry *registry, const QString &name,
-                  const QByteArray &exported)
-        : m_shown(PxProductReport::shown(registry, PxProductType(name), 0, QString()))
+                  const QJsonObject &exported, const QString &theme = QString())
+        : m_shown(PxProductReport::shown(registry, PxProductType(name), 0, theme))
         , m_report(PxProductReport::of(m_shown).json())
-        , m_exported(QJsonDocument::fromJson(exported).object())
+        , m_exported(exported)
         , m_origins(m_shown)
         , m_file(PxDirectoryConfig::instance()->resource(m_shown.file, false))
     {}
@@ -82,24 +83,67 @@ public:
         const bool isGone = change.after.isNull() || change.after == QString();
         if (isGone)
             return QString();
+        if (pattern.startsWith("/themeTemplates/"))
+            return placeInTheme(change);
+        if (pattern == "/pages/offered")
+            return placeOfSpine(firstGained(change), "pages");
         if (change.dependsOnPageCount() && pattern.startsWith("/spine/"))
-            return placeOfSpine(change);
-        const QString pointer = shownPointer(change);
-        return pattern.endsWith('*') ? placeOfRow(pattern, pointer) : placeOf(pointer, 0);
+            return placeOfSpine(change.firstPageCount, pattern.section('/', -1).toLower());
+        const QString pointer = shownPointer(pattern, change.pointer);
+        return placeIn(pattern, pointer, change);
     }
 
 private:
-    /** Of two spines for a page count the later one is used. */
-    QString placeOfSpine(const PxChange &change)
+    QString placeIn(const QString &pattern, const QString &pointer, const PxChange &change) const
     {
-        const QString attribute = QString(change.key->pointer).section('/', -1).toLower();
+        const QString place = pattern.endsWith('*') ? QString() : placeOf(pointer, change);
+        const bool isOfRow = place.isEmpty() && pattern.contains('*');
+        return isOfRow ? placeOfRow(pattern.section('/', 0, 2), pointer.section('/', 0, 2)) : place;
+    }
+
+    /** A report tells the templates of one theme at a time, as those of the product. */
+    QString placeInTheme(const PxChange &change)
+    {
+        const int row = change.pointer.section('/', 2, 2).toInt();
+        const QJsonArray rows = m_exported["themeTemplates"].toArray();
+        const QString theme = rows[row].toObject()["theme"].toString();
+        ThemedPlaces &places = m_themes[theme];
+        if (!places) {
+            QJsonArray ofTheme;
+            for (const auto &other : rows)
+                ofTheme.append(other.toObject()["theme"] == theme ? QJsonValue(other)
+                                                                  : QJsonValue());
+            const QJsonObject themed{{"templates", ofTheme}};
+            places = std::make_shared<ProductPlaces>(m_shown.registry, m_shown.type.productName(),
+                                                     themed, theme);
+        }
+        const QString shownPattern =
+            QString(change.key->pointer).replace("/themeTemplates", "/templates");
+        const QString pointer = places->shownPointer(shownPattern, change.pointer);
+        return places->placeIn(shownPattern, pointer, change);
+    }
+
+    /** Of two spines for a page count the later one is used. */
+    QString placeOfSpine(int pageCount, const QString &attribute)
+    {
         if (m_spines.isEmpty())
             findSpines();
-        const Element spine = m_spines.value(change.firstPageCount);
+        const Element spine = m_spines.value(pageCount);
         if (!spine)
             return QString();
         const PxSourceAttribute *found = spine->attribute(attribute.toUtf8().constData());
         return textOf(m_file.place(found ? found->nameRange : spine->nameRange), m_shown.file);
+    }
+
+    /** The smallest of the page counts that are new; 0 if there is none. */
+    static int firstGained(const PxChange &change)
+    {
+        const QList<int> before = PxComparedProduct::numbersOf(change.before);
+        for (const int pageCount : PxComparedProduct::numbersOf(change.after)) {
+            if (!std::binary_search(before.begin(), before.end(), pageCount))
+                return pageCount;
+        }
+        return 0;
     }
 
     void findSpines()
@@ -111,9 +155,8 @@ private:
     }
 
     /** The pointer to the same value in a report; empty if it is not there. */
-    QString shownPointer(const PxChange &change)
+    QString shownPointer(QString pointer, const QString &exported)
     {
-        QString pointer = change.key->pointer;
         for (const auto &row : pointerRows) {
             if (pointer == row.exported)
                 pointer = row.shown;
@@ -121,7 +164,7 @@ private:
         if (!pointer.contains('*'))
             return pointer;
         const QString section = pointer.section('/', 1, 1);
-        const int index = change.pointer.section('/', 2, 2).toInt();
+        const int index = exported.section('/', 2, 2).toInt();
         const int shown = rowsOf(section).value(index, -1);
         return shown < 0 ? QString() : pointer.replace('*', QString::number(shown));
     }
@@ -144,7 +187,7 @@ private:
         return rows;
     }
 
-    /** Of a new row the place of the first of its values that a file says. */
+    /** Of a row the place of the first of its values that a file says. */
     QString placeOfRow(const QString &pattern, const QString &pointer) const
     {
         for (const PxDiffKey &key : PxDiffKeys::ofProducts()) {
@@ -159,29 +202,43 @@ private:
     }
 
     /**
-     * A computed value has the place of the first input that has one. None has what no file says,
-     * nor a sum: nobody knows here which of its parts changed.
+     * A computed value has the place of its only input. None has what follows from several: nobody
+     * knows here which of them changed. Of a size one side may have changed, which has its place.
      */
-    QString placeOf(const QString &pointer, int depth) const
+    QString placeOf(const QString &pointer, const PxChange &change) const
+    {
+        QStringList sides;
+        for (const QString &side : change.after.toObject().keys()) {
+            if (change.after[side] != change.before[side])
+                sides.append('/' + side);
+        }
+        QStringList places;
+        addPlaces(sides.size() == 1 ? pointer + sides.constFirst() : pointer, 0, &places);
+        places.removeDuplicates();
+        return places.size() == 1 ? places.constFirst() : QString();
+    }
+
+    void addPlaces(const QString &pointer, int depth, QStringList *places) const
     {
         constexpr int deepest = 5;
         if (pointer.isEmpty() || depth > deepest)
-            return QString();
+            return;
         const PxOrigin origin = m_origins.at(pointer);
-        const auto terms = std::count_if(origin.formula.begin(), origin.formula.end(),
-                                         [](const PxOrigin::Part &part) { return part.isPlace(); });
-        if (origin.kind == PxOrigin::Kind::Default || terms > 1)
-            return QString();
-        if (origin.place.line > 0)
-            return PxOrigin::text(origin.place);
-        for (const PxOrigin::Part &from : origin.from) {
-            const QString place =
-                from.isPlace() ? PxOrigin::text(from.place) : placeOf(from.text, depth + 1);
-            if (!place.isEmpty())
-                return place;
+        if (origin.kind == PxOrigin::Kind::Default)
+            return;
+        if (origin.kind != PxOrigin::Kind::Computed && origin.place.line > 0) {
+            places->append(PxOrigin::text(origin.place));
+            return;
         }
-        return QString();
+        for (const PxOrigin::Part &from : origin.from) {
+            if (from.isPlace())
+                places->append(PxOrigin::text(from.place));
+            else
+                addPlaces(from.text, depth + 1, places);
+        }
     }
+
+    using ThemedPlaces = std::shared_ptr<ProductPlaces>;
 
     PxShownProduct m_shown;
     QJsonObject m_report;
@@ -190,6 +247,7 @@ private:
     PxCheckedFile m_file;
     QHash<int, Element> m_spines; // by page count
     QHash<QString, QHash<int, int>> m_rows;
+    QHash<QString, ThemedPlaces> m_themes;
 };
 
 /** Finds the places of themes whose id no other one has, reading each file once. */
@@ -248,7 +306,8 @@ void addPlaces(PxDiffOfKind *products, const PxExportedCatalogue::Objects &expor
                const PxProductTypeConfigRegistry *registry)
 {
     for (PxChangedObject &product : products->changed) {
-        ProductPlaces places(registry, product.name, exported[{product.name, 0}].line);
+        const QJsonDocument line = QJsonDocument::fromJson(exported[{product.name, 0}].line);
+        ProductPlaces places(registry, product.name, line.object());
         for (PxChange &change : product.changes)
             change.place = places.of(change);
     }

@@ -25,6 +25,7 @@ constexpr PxOriginRow exportRows[] = {
     {"/spine/maxFontHeight", "/spine/hasSpine", "none without a spine"},
     {"/pageKinds/*", "/pageKinds /pages/offered", "a row for each kind of page"},
     {"/templates/*", "/pageKinds /pages/offered", "a row for each kind of page"},
+    {"/themeTemplates/*", "/pageKinds /pages/offered", "a row for each kind of page"},
     {"/legacy/replacedPage", "/legacy/replaces", "of the replaced product"},
     {"/legacy/replacedSpine", "/legacy/replaces", "of the replaced product"},
     {"/legacy/replacedCover", "/legacy/replaces", "of the replaced product"},
@@ -161,9 +162,11 @@ class NamedTemplates
 public:
     bool isNamedAgain(const PxChange &change)
     {
-        if (!change.pointer.startsWith("/templates/"))
+        if (!change.pointer.startsWith("/templates/") &&
+            !change.pointer.startsWith("/themeTemplates/"))
             return false;
-        const QJsonArray values{change.key->pointer, change.before, change.after};
+        const QString rowWithoutKind = change.row.section(' ', 0, -3);
+        const QJsonArray values{rowWithoutKind, change.key->pointer, change.before, change.after};
         const QByteArray text = QJsonDocument(values).toJson(QJsonDocument::Compact);
         const bool isKnown = m_known.contains(text);
         m_known.insert(text);

@@ -41,6 +41,7 @@ public:
         m_report = PxProductReport::of(m_shown);
         changePages();
         changeSurroundings();
+        addThemeTemplates();
         m_report.addField("production", {"numbering", "", numbering()});
     }
 
@@ -67,6 +68,7 @@ private:
     void addBarcodes();
     void changePages();
     void changeSurroundings();
+    void addThemeTemplates();
     QString numbering() const;
     QString pagesWithContent() const;
 
@@ -190,6 +192,35 @@ void Exported::changeSurroundings()
     for (const QJsonArray &placesOfOne : qAsConst(m_places))
         places.append(placesOfOne);
     m_report.addColumn("surroundings", {"places", ""}, places);
+}
+
+/** Those of the theme "normal", which other themes without their own have, are a table already. */
+void Exported::addThemeTemplates()
+{
+    QVector<QJsonArray> rows;
+    for (const QString &theme : product().themesWithDefaultTemplates()) {
+        if (theme == "normal" || !PxThemeFactory::instance()->contains(theme))
+            continue;
+        for (const PxPageContext &kind : qAsConst(m_shown.kinds)) {
+            const auto own = [&](DefaultTemplateType type) {
+                return product().findDefaultTemplate({theme, kind, type}, false, true);
+            };
+            const QString layout = own(DefaultTemplateTypeLayout);
+            const QString background = own(DefaultTemplateTypeBackground);
+            if (!layout.isEmpty() || !background.isEmpty())
+                rows.append({theme, keywordOf(kind.pageType()), side(kind.alignment()), layout,
+                             background});
+        }
+    }
+    m_report.addTable("themeTemplates", "",
+                      {
+                          {"theme", ""},
+                          {"pageType", ""},
+                          {"alignment", ""},
+                          {"layout", ""},
+                          {"background", ""},
+                      },
+                      rows);
 }
 
 /** The numbers of production up to the one from which they count on. */
