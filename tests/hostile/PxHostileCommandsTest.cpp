@@ -22,6 +22,7 @@ private slots:
     void commandIsBounded_data();
     void commandIsBounded();
     void diffOfExportsIsBounded();
+    void placesOfTemplatesAreBounded();
 };
 
 namespace {
@@ -239,6 +240,34 @@ void PxHostileCommandsTest::diffOfExportsIsBounded()
     QCOMPARE(found.status(), 1);
     QVERIFY(found.output().size() > 40000 / share);
     QVERIFY2(seconds <= maximumSeconds, qPrintable(QString::number(seconds)));
+}
+
+/** Each theme has a template of its own, and all of them change. */
+void PxHostileCommandsTest::placesOfTemplatesAreBounded()
+{
+    const QString theme = "<theme id='t%1' producttype='book'/>";
+    const QString entry = "<defaults theme='t%1' pageType='normalpage' alignment='left' "
+                          "layout='%2%1'/>";
+    const PxSampleCopy samples[2];
+    for (const QString layout : {"old", "new"}) {
+        const PxSampleCopy &sample = samples[layout == "old" ? 0 : 1];
+        QString themes;
+        QString entries;
+        for (int i = 0; i < 10000 / share; ++i) {
+            themes += theme.arg(i);
+            entries += entry.arg(QString::number(i), layout);
+        }
+        sample.write("themes/many.xml", "<themes>" + themes + "</themes>");
+        sample.replace("products/book_mini.xml", "<defaults>", "<defaults>" + entries);
+    }
+    const double start = usageOfChildren().seconds;
+    const PxProgramRun found =
+        run(samples[0].path(), "diff " + samples[0].path() + ' ' + samples[1].path());
+    const double seconds = usageOfChildren().seconds - start;
+    QCOMPARE(found.status(), 1);
+    QCOMPARE(found.output().filter("layout: old").filter("(products/book_mini.xml:").size(),
+             10000 / share);
+    QVERIFY2(seconds <= maximumSecondsOfAll, qPrintable(QString::number(seconds)));
 }
 
 QTEST_GUILESS_MAIN(PxHostileCommandsTest)

@@ -136,7 +136,8 @@ QString oneTooMany(const QString &argument)
 QString problemOfCommand(const QString &name)
 {
     const QStringList names = commandNames();
-    const QString near = PxSpelling::didYouMean(PxSpelling::nearestThree(name, names));
+    const QString near =
+        PxSpelling::didYouMean(PxSpelling::nearestThree(name, names + QStringList("help")));
     return QString("unknown command \"%1\": %2")
         .arg(name, near.isEmpty() ? "use " + names.join(", ") : near);
 }

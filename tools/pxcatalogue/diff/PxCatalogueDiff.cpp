@@ -44,6 +44,11 @@ PxDiff PxCatalogueDiff::of(const PxExportedCatalogue &oldCatalogue,
                            const PxExportedCatalogue &newCatalogue, const QStringList &only)
 {
     PxCatalogueDiff comparison(only);
+    for (auto theme = newCatalogue.themes().begin(); theme != newCatalogue.themes().end();
+         ++theme) {
+        if (oldCatalogue.themes().contains(theme.key()))
+            comparison.m_commonThemes.insert(theme.key().first);
+    }
     PxDiff diff;
     diff.products = comparison.compareProducts(oldCatalogue.products(), newCatalogue.products());
     diff.legacyProducts =
@@ -98,7 +103,7 @@ PxDiffOfKind PxCatalogueDiff::compareProducts(const Objects &oldProducts,
         if (old == oldProducts.end() || old->line == product->line)
             continue;
         const QVector<PxChange> changes = PxExplainedChanges::removedFrom(
-            wanted(PxProductDiff(old->line, product->line).changes()));
+            wanted(PxProductDiff(old->line, product->line, m_commonThemes).changes()));
         if (!changes.isEmpty())
             diff.changed.append({name, changes});
     }

@@ -35,6 +35,7 @@ private:
     QString newName(const QString &name) const { return m_newNames.value(name, name); }
 
     QStringList m_only;
+    QSet<QString> m_commonThemes;       // ids
     QHash<QString, QString> m_newNames; // of products that are renamed, by the old name
     QSet<QString> m_removed;
     // Products that explain what others say of them: they are only in one of the catalogues, or …

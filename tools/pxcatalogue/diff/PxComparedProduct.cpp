@@ -111,6 +111,17 @@ void PxComparedProduct::limitSurroundings(int pages, const QSet<QString> &kinds)
     m_product["surroundings"] = surroundings;
 }
 
+void PxComparedProduct::limitThemes(const QSet<QString> &ids)
+{
+    QJsonArray templates = table("themeTemplates");
+    for (int i = 0; i < templates.size(); ++i) {
+        if (!ids.contains(templates[i].toObject()["theme"].toString()))
+            templates[i] = QJsonValue();
+    }
+    if (!templates.isEmpty())
+        m_product["themeTemplates"] = templates;
+}
+
 QJsonValue PxComparedProduct::value(const QString &pointer) const
 {
     QJsonValue value = m_product;

@@ -39,6 +39,8 @@ public:
     QSet<QString> kindsOfPages() const;
     /** Leaves out where surroundings are on such pages, and on kinds of pages other than these. */
     void limitSurroundings(int pages, const QSet<QString> &kinds);
+    /** Leaves out the templates of other themes than these. */
+    void limitThemes(const QSet<QString> &ids);
 
     /** The rows of a table of the product; null for one that is left out. */
     QJsonArray table(const QString &section) const { return m_product[section].toArray(); }

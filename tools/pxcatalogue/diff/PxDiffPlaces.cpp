@@ -4,7 +4,10 @@
 #include "diff/PxComparedProduct.h"
 #include "diff/PxDiff.h"
 #include "diff/PxMatchedRows.h"
+#include "format/PxCatalogueKeywords.h"
+#include "origins/PxOriginFile.h"
 #include "origins/PxOrigins.h"
+#include "origins/PxTemplateEntries.h"
 #include "report/PxProductReport.h"
 #include "report/PxShownProduct.h"
 
@@ -69,12 +72,12 @@ class ProductPlaces
 {
 public:
     ProductPlaces(const PxProductTypeConfigRegistry *registry, const QString &name,
-                  const QJsonObject &exported, const QString &theme = QString())
-        : m_shown(PxProductReport::shown(registry, PxProductType(name), 0, theme))
+                  const QJsonObject &exported)
+        : m_shown(PxProductReport::shown(registry, PxProductType(name), 0, QString()))
         , m_report(PxProductReport::of(m_shown).json())
         , m_exported(exported)
-        , m_origins(m_shown)
-        , m_file(PxDirectoryConfig::instance()->resource(m_shown.file, false))
+        , m_files(m_shown)
+        , m_origins(m_shown, m_files)
     {}
 
     QString of(const PxChange &change)
@@ -90,37 +93,46 @@ public:
         if (change.dependsOnPageCount() && pattern.startsWith("/spine/"))
             return placeOfSpine(change.firstPageCount, pattern.section('/', -1).toLower());
         const QString pointer = shownPointer(pattern, change.pointer);
-        return placeIn(pattern, pointer, change);
+        return pattern.endsWith('*') ? placeOfRow(pattern, pointer) : placeOf(pointer, change);
     }
 
 private:
-    QString placeIn(const QString &pattern, const QString &pointer, const PxChange &change) const
-    {
-        const QString place = pattern.endsWith('*') ? QString() : placeOf(pointer, change);
-        const bool isOfRow = place.isEmpty() && pattern.contains('*');
-        return isOfRow ? placeOfRow(pattern.section('/', 0, 2), pointer.section('/', 0, 2)) : place;
-    }
-
-    /** A report tells the templates of one theme at a time, as those of the product. */
+    /** A report has the templates of one theme only. */
     QString placeInTheme(const PxChange &change)
     {
-        const int row = change.pointer.section('/', 2, 2).toInt();
-        const QJsonArray rows = m_exported["themeTemplates"].toArray();
-        const QString theme = rows[row].toObject()["theme"].toString();
-        ThemedPlaces &places = m_themes[theme];
-        if (!places) {
-            QJsonArray ofTheme;
-            for (const auto &other : rows)
-                ofTheme.append(other.toObject()["theme"] == theme ? QJsonValue(other)
-                                                                  : QJsonValue());
-            const QJsonObject themed{{"templates", ofTheme}};
-            places = std::make_shared<ProductPlaces>(m_shown.registry, m_shown.type.productName(),
-                                                     themed, theme);
+        const int index = change.pointer.section('/', 2, 2).toInt();
+        const QJsonValue row = m_exported["themeTemplates"].toArray().at(index);
+        const QString member = QString(change.key->pointer).section('/', -1);
+        for (const QString &name :
+             member == "*" ? QStringList{"layout", "background"} : QStringList{member}) {
+            const QString place = placeOfTemplate(row, name);
+            if (!place.isEmpty())
+                return place;
         }
-        const QString shownPattern =
-            QString(change.key->pointer).replace("/themeTemplates", "/templates");
-        const QString pointer = places->shownPointer(shownPattern, change.pointer);
-        return places->placeIn(shownPattern, pointer, change);
+        return QString();
+    }
+
+    QString placeOfTemplate(const QJsonValue &row, const QString &name) const
+    {
+        const auto isOfRow = [&row](const PxPageContext &page) {
+            return keywordOf(page.pageType()) == row["pageType"].toString() &&
+                   keywordsOf(page.alignment(), EnumHelper::globalMapPageAlignmentString)
+                           .join(", ") == row["alignment"].toString();
+        };
+        const auto page = std::find_if(m_shown.kinds.begin(), m_shown.kinds.end(), isOfRow);
+        if (page == m_shown.kinds.end())
+            return QString();
+        const QString theme = row["theme"].toString();
+        for (const auto &[file, entries] : {std::pair(&m_files.userDefaults, &m_userTemplates),
+                                            std::pair(&m_files.product, &m_templates)}) {
+            const Element entry = entries->find(theme, *page, name == "layout");
+            const auto *attribute = entry ? entry->attribute(name.toLatin1().constData()) : nullptr;
+            if (entry && !attribute)
+                attribute = entry->attribute("templates");
+            if (attribute)
+                return PxOrigin::text(file->place(attribute->nameRange));
+        }
+        return QString();
     }
 
     /** Of two spines for a page count the later one is used. */
@@ -132,7 +144,7 @@ private:
         if (!spine)
             return QString();
         const PxSourceAttribute *found = spine->attribute(attribute.toUtf8().constData());
-        return textOf(m_file.place(found ? found->nameRange : spine->nameRange), m_shown.file);
+        return PxOrigin::text(m_files.product.place(found ? found->nameRange : spine->nameRange));
     }
 
     /** The smallest of the page counts that are new; 0 if there is none. */
@@ -148,9 +160,7 @@ private:
 
     void findSpines()
     {
-        const Element product = m_file.root() ? m_file.root()->firstChild("product") : nullptr;
-        const Element spines = product ? product->firstChild("spines") : nullptr;
-        for (Element spine : spines ? spines->childrenNamed("spine") : QVector<Element>())
+        for (Element spine : m_files.product.entries("spines", "spine"))
             m_spines.insert(spine->number("pages"), spine);
     }
 
@@ -195,7 +205,7 @@ private:
             if (!value.startsWith(pattern + '/'))
                 continue;
             const PxOrigin origin = m_origins.at(pointer + '/' + value.section('/', -1));
-            if (origin.kind == PxOrigin::Kind::File && origin.place.line > 0)
+            if (origin.kind != PxOrigin::Kind::Computed && origin.place.line > 0)
                 return PxOrigin::text(origin.place);
         }
         return QString();
@@ -212,42 +222,54 @@ private:
             if (change.after[side] != change.before[side])
                 sides.append('/' + side);
         }
-        QStringList places;
-        addPlaces(sides.size() == 1 ? pointer + sides.constFirst() : pointer, 0, &places);
-        places.removeDuplicates();
-        return places.size() == 1 ? places.constFirst() : QString();
-    }
-
-    void addPlaces(const QString &pointer, int depth, QStringList *places) const
-    {
+        const bool isInRow = QString(change.key->pointer).contains('*');
+        QString next = sides.size() == 1 ? pointer + sides.constFirst() : pointer;
         constexpr int deepest = 5;
-        if (pointer.isEmpty() || depth > deepest)
-            return;
-        const PxOrigin origin = m_origins.at(pointer);
-        if (origin.kind == PxOrigin::Kind::Default)
-            return;
-        if (origin.kind != PxOrigin::Kind::Computed && origin.place.line > 0) {
-            places->append(PxOrigin::text(origin.place));
-            return;
+        for (int depth = 0; depth < deepest && !next.isEmpty(); ++depth) {
+            const PxOrigin origin = m_origins.at(next);
+            const bool isRead = origin.kind != PxOrigin::Kind::Computed;
+            const bool isOnly = depth == 0 || !hasPlaces(origin);
+            if (isRead || (isInRow && depth == 0 && origin.place.line > 0))
+                return isOnly && origin.kind != PxOrigin::Kind::Default
+                           ? PxOrigin::text(origin.place)
+                           : QString();
+            const QVector<PxOrigin::Part> inputs = inputsOf(origin);
+            if (inputs.size() != 1)
+                return QString();
+            if (inputs.constFirst().isPlace())
+                return PxOrigin::text(inputs.constFirst().place);
+            next = inputs.constFirst().text;
         }
-        for (const PxOrigin::Part &from : origin.from) {
-            if (from.isPlace())
-                places->append(PxOrigin::text(from.place));
-            else
-                addPlaces(from.text, depth + 1, places);
-        }
+        return QString();
     }
 
-    using ThemedPlaces = std::shared_ptr<ProductPlaces>;
+    static bool hasPlaces(const PxOrigin &origin)
+    {
+        return std::any_of(origin.from.begin(), origin.from.end(),
+                           [](const PxOrigin::Part &part) { return part.isPlace(); });
+    }
+
+    /** Page counts, whose changes are changes of their own, left out. */
+    static QVector<PxOrigin::Part> inputsOf(const PxOrigin &origin)
+    {
+        QVector<PxOrigin::Part> inputs;
+        for (const PxOrigin::Part &part : origin.from) {
+            if (part.text != "/pages/printedPages" && part.text != "/pages/pageCount")
+                inputs.append(part);
+        }
+        return inputs;
+    }
 
     PxShownProduct m_shown;
     QJsonObject m_report;
     QJsonObject m_exported;
+    PxOriginFiles m_files;
     PxOrigins m_origins;
-    PxCheckedFile m_file;
+    PxTemplateEntries m_userTemplates{m_files.userDefaults.element()};
+    PxTemplateEntries m_templates{
+        m_files.product.element() ? m_files.product.element()->firstChild("defaults") : nullptr};
     QHash<int, Element> m_spines; // by page count
     QHash<QString, QHash<int, int>> m_rows;
-    QHash<QString, ThemedPlaces> m_themes;
 };
 
 /** Finds the places of themes whose id no other one has, reading each file once. */

@@ -116,6 +116,29 @@ QString numberOfPages(const QJsonValue &entry)
     return fixed > 1 || (perPageCount > 0 && fixed > 0) ? text + QString::number(fixed) : text;
 }
 
+/** What a row says beside what it is called by: "layout Collage, background Holz". */
+QString valuesOfRow(const PxDiffKey &rowKey, const QJsonValue &row)
+{
+    const QString rows = QString(rowKey.pointer).chopped(1);
+    QStringList naming;
+    for (const PxDiffTable &table : PxDiffKeys::tables()) {
+        if (rows == QString("/%1/").arg(table.section))
+            naming = table.identityColumns().constFirst();
+    }
+    QStringList texts;
+    for (const PxDiffKey &key : PxDiffKeys::ofProducts()) {
+        const QString pointer = key.pointer;
+        const QString member = pointer.section('/', -1);
+        const QJsonValue value = row[member];
+        if (!pointer.startsWith(rows) || naming.contains(member) || value == false)
+            continue;
+        const QString text = PxReportValue::text(value, key.format);
+        if (!text.isEmpty())
+            texts.append(QString("%1 %2%3").arg(key.label, text, PxReportValue::unit(key.format)));
+    }
+    return PxTerminal::shortened(texts.join(", "), longestText);
+}
+
 } // namespace
 
 QString PxDiffWords::ofParts(const QJsonValue &value)
@@ -158,8 +181,11 @@ QString PxDiffWords::ofDifference(const PxChange &change)
 
 QString PxDiffWords::of(const PxChange &first, const PxChange &last)
 {
-    if (QString(first.key->pointer).endsWith('*'))
-        return first.before.isNull() ? "new" : "no longer there";
+    if (QString(first.key->pointer).endsWith('*')) {
+        const bool isNew = first.before.isNull();
+        const QString values = valuesOfRow(*first.key, isNew ? first.after : first.before);
+        return (isNew ? "new" : "no longer there") + (values.isEmpty() ? "" : ", " + values);
+    }
     QString difference = ofDifference(first);
     if (first.pointer == "/pages/offered") {
         difference = differenceOfLists(pageCountsWithout(first.after, first.before),

@@ -5,6 +5,8 @@
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
+#include <QMap>
 #include <QRegularExpression>
 #include <QSet>
 
@@ -21,6 +23,7 @@ constexpr PxOriginRow exportRows[] = {
     {"/pages/offered", "/product/isOffered /product/class", "none if it is not offered"},
     {"/pages/explicitNumberOfNormalPages", "/pages/offered", "as many as are offered"},
     {"/sizes/page", "/product/isOffered", "none if it is not offered"},
+    {"/sizes/cover", "/pages/offered", "larger by what the spines say"},
     {"/spine/width", "/spine/hasSpine", "none without a spine"},
     {"/spine/maxFontHeight", "/spine/hasSpine", "none without a spine"},
     {"/pageKinds/*", "/pageKinds /pages/offered", "a row for each kind of page"},
@@ -156,25 +159,38 @@ bool isSameDifference(const PxChange &a, const PxChange &b)
            difference(a, "height") == difference(b, "height");
 }
 
-/** One default template is for several kinds of pages, of which the first is named. */
+/** One default template is for both sides: the first one is named, with the other in its text. */
 class NamedTemplates
 {
 public:
-    bool isNamedAgain(const PxChange &change)
+    /** Adds the change, or names its side in the one that is there already. */
+    void addTo(QVector<PxChange> *changes, const PxChange &change)
     {
-        if (!change.pointer.startsWith("/templates/") &&
-            !change.pointer.startsWith("/themeTemplates/"))
-            return false;
-        const QString rowWithoutKind = change.row.section(' ', 0, -3);
-        const QJsonArray values{rowWithoutKind, change.key->pointer, change.before, change.after};
+        const QString pointer = change.key->pointer;
+        if (!pointer.startsWith("/templates/") && !pointer.startsWith("/themeTemplates/")) {
+            changes->append(change);
+            return;
+        }
+        const QJsonArray values{change.row.section(' ', 0, -2), pointer, withoutSide(change.before),
+                                withoutSide(change.after)};
         const QByteArray text = QJsonDocument(values).toJson(QJsonDocument::Compact);
-        const bool isKnown = m_known.contains(text);
-        m_known.insert(text);
-        return isKnown;
+        const int index = m_known.value(text, changes->size());
+        m_known.insert(text, index);
+        if (index < changes->size())
+            (*changes)[index].row += ", " + change.row.section(' ', -1);
+        else
+            changes->append(change);
     }
 
 private:
-    QSet<QByteArray> m_known;
+    static QJsonValue withoutSide(const QJsonValue &value)
+    {
+        QJsonObject row = value.toObject();
+        row.remove("alignment");
+        return value.isObject() ? QJsonValue(row) : value;
+    }
+
+    QMap<QByteArray, int> m_known; // places in the list
 };
 
 bool explains(const PxChange &cause, const PxChange &change)
@@ -184,6 +200,8 @@ bool explains(const PxChange &cause, const PxChange &change)
         return isNothing(change.before) || isNothing(change.after);
     if (key == "/spine/hasSpine")
         return change.pointer.startsWith("/spine/");
+    if (key == "/pages/offered" && change.pointer == "/sizes/cover")
+        return isNothing(cause.before) || isNothing(cause.after);
     if (explanations().mayBeWritten(*change.key))
         return false;
     return key != "/sizes/page" || change.pointer != "/sizes/cover" || isNothing(cause.before) ||
@@ -207,8 +225,8 @@ QVector<PxChange> PxExplainedChanges::removedFrom(const QVector<PxChange> &chang
     NamedTemplates templates;
     QVector<PxChange> left;
     for (const PxChange &change : changes) {
-        if (!isExplained(change) && !templates.isNamedAgain(change))
-            left.append(change);
+        if (!isExplained(change))
+            templates.addTo(&left, change);
     }
     return left;
 }

@@ -25,7 +25,8 @@ QString nameOf(const PxDiffTable &table, const QJsonValue &row)
 
 } // namespace
 
-PxProductDiff::PxProductDiff(const QByteArray &oldLine, const QByteArray &newLine)
+PxProductDiff::PxProductDiff(const QByteArray &oldLine, const QByteArray &newLine,
+                             const QSet<QString> &themes)
     : m_old(oldLine)
     , m_new(newLine)
 {
@@ -38,6 +39,7 @@ PxProductDiff::PxProductDiff(const QByteArray &oldLine, const QByteArray &newLin
             product->limitPages(pages);
         if (!havePages || !haveKinds)
             product->limitSurroundings(pages, kinds);
+        product->limitThemes(themes);
     }
     findCommonPageCounts();
 }
@@ -72,6 +74,9 @@ QVector<PxChange> PxProductDiff::changes()
 
 void PxProductDiff::compareTable(const PxDiffTable &table)
 {
+    const QString section = QString("/%1").arg(table.section);
+    if (m_old.value(section).isUndefined() || m_new.value(section).isUndefined())
+        return; // written by another version
     const QJsonArray oldRows = m_old.table(table.section);
     const QJsonArray newRows = m_new.table(table.section);
     const QString rows = QString("/%1/*").arg(table.section);

@@ -7,7 +7,9 @@
 class PxProductDiff
 {
 public:
-    PxProductDiff(const QByteArray &oldLine, const QByteArray &newLine);
+    /** `themes` are the ids of those that both catalogues have. */
+    PxProductDiff(const QByteArray &oldLine, const QByteArray &newLine,
+                  const QSet<QString> &themes);
 
     /** In the order of the keys; with those that follow from others. */
     QVector<PxChange> changes();

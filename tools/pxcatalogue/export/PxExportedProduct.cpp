@@ -198,9 +198,10 @@ void Exported::changeSurroundings()
 void Exported::addThemeTemplates()
 {
     QVector<QJsonArray> rows;
-    for (const QString &theme : product().themesWithDefaultTemplates()) {
-        if (theme == "normal" || !PxThemeFactory::instance()->contains(theme))
-            continue;
+    QStringList ids = product().themesWithDefaultTemplates();
+    ids.removeOne("normal");
+    for (const PxTheme &known : PxThemeFactory::instance()->findThemes(ids)) {
+        const QString theme = known.id();
         for (const PxPageContext &kind : qAsConst(m_shown.kinds)) {
             const auto own = [&](DefaultTemplateType type) {
                 return product().findDefaultTemplate({theme, kind, type}, false, true);

@@ -1,6 +1,6 @@
 #include "origins/PxOriginEntries.h"
 
-#include "check/design/PxDefaultsEntry.h"
+#include "origins/PxTemplateEntries.h"
 #include "report/PxShownProduct.h"
 
 #include <geometry/PxBarcodeList.h>
@@ -31,39 +31,6 @@ PageRange rangeOf(Element redirect)
     const int last = from.midRef(from.lastIndexOf('-') + 1).toInt(&hasLast);
     const bool isRead = hasFirst && hasLast && redirect->number("to", -1) >= 0;
     return isRead ? PageRange{redirect, first, last} : PageRange{redirect, 0, -1};
-}
-
-bool isFor(const PxDefaultsEntry &entry, const QString &theme, const PxPageContext &page)
-{
-    const int side = page.alignment();
-    return (entry.alignments() & side) != 0 &&
-           entry.pageTypes().contains(page.pageType().value()) && entry.themes().contains(theme);
-}
-
-/** The entries of a list of default templates, in the order in which the library tries them. */
-QVector<PxDefaultsEntry> entriesOf(Element list)
-{
-    QVector<PxDefaultsEntry> entries;
-    if (!list)
-        return entries;
-    const Elements elements = list->childrenNamed("defaults");
-    for (auto element = elements.crbegin(); element != elements.crend(); ++element)
-        entries.append(PxDefaultsEntry(**element));
-    return entries;
-}
-
-/** Null if the entry that decides has no such template, or if there is none. */
-Element templateOf(const QVector<PxDefaultsEntry> &entries, const QString &theme,
-                   const PxPageContext &page, bool isLayout)
-{
-    for (const PxDefaultsEntry &entry : entries) {
-        if (!isFor(entry, theme, page))
-            continue;
-        const auto templates = entry.templates();
-        const bool isEmpty = (isLayout ? templates.layout : templates.background).isEmpty();
-        return isEmpty ? nullptr : &entry.element();
-    }
-    return nullptr;
 }
 
 } // namespace
@@ -196,16 +163,16 @@ void PxOriginEntries::addTemplates(const PxShownProduct &shown, const PxOriginFi
 {
     const QString normal = "normal";
     const QString theme = shown.themeId.isEmpty() ? normal : shown.themeId;
-    const auto own = entriesOf(userDefaults.element());
-    const auto common =
-        entriesOf(m_product.element() ? m_product.element()->firstChild("defaults") : nullptr);
+    const PxTemplateEntries own(userDefaults.element());
+    const PxTemplateEntries common(m_product.element() ? m_product.element()->firstChild("defaults")
+                                                       : nullptr);
     for (const PxPageContext &page : shown.kinds) {
         for (const bool isLayout : {true, false}) {
-            PxOriginElement found{&userDefaults, templateOf(own, theme, page, isLayout)};
+            PxOriginElement found{&userDefaults, own.find(theme, page, isLayout)};
             if (!found.element)
-                found = {&m_product, templateOf(common, theme, page, isLayout)};
+                found = {&m_product, common.find(theme, page, isLayout)};
             if (!found.element)
-                found.element = templateOf(common, normal, page, isLayout);
+                found.element = common.find(normal, page, isLayout);
             m_entries[isLayout ? "defaults[layout]" : "defaults[background]"].append(found);
         }
     }
