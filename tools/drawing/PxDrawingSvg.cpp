@@ -105,12 +105,13 @@ QString pathData(const QVector<PxDrawnStep> &steps)
 class Writer
 {
 public:
-    explicit Writer(QIODevice *device) : m_xml(device)
-    {
-        m_xml.setAutoFormatting(true);
-        m_xml.setAutoFormattingIndent(1);
-    }
+    /** Without a prefix of ids for a file of its own. */
+    explicit Writer(QXmlStreamWriter *xml, const QString &prefix = QString())
+        : m_xml(*xml)
+        , m_prefix(prefix)
+    {}
 
+    void writeFile(const PxDrawing &drawing);
     void write(const PxDrawing &drawing);
 
 private:
@@ -122,26 +123,41 @@ private:
     void writeTitles(const QString &title, const QString &description, bool haveIds);
     void attribute(const char *name, const QString &value)
     {
-        m_xml.writeAttribute(QLatin1String(name), holdable(value));
+        m_xml.writeAttribute(QLatin1String(name), held(value));
+    }
+    /** In a page, characters that cannot be seen are escapes: a reference would be one of them. */
+    QString held(const QString &text) const
+    {
+        return m_prefix.isEmpty() ? holdable(text) : PxVisibleText::line(text);
     }
 
-    QXmlStreamWriter m_xml;
+    QXmlStreamWriter &m_xml;
+    const QString m_prefix; ///< of ids
 };
 
-void Writer::write(const PxDrawing &drawing)
+void Writer::writeFile(const PxDrawing &drawing)
 {
-    const QSize size = drawing.size();
-    const PxDrawnProduct &product = drawing.product;
+    m_xml.setAutoFormatting(true);
+    m_xml.setAutoFormattingIndent(1);
     m_xml.writeStartDocument();
     m_xml.writeStartElement("svg");
     m_xml.writeDefaultNamespace(nameOfSvg);
     m_xml.writeNamespace(nameOfLayers, "inkscape");
+    write(drawing);
+    m_xml.writeEndDocument();
+}
+
+/** The element, which is open. */
+void Writer::write(const PxDrawing &drawing)
+{
+    const QSize size = drawing.size();
+    const PxDrawnProduct &product = drawing.product;
     attribute("width", number(size.width() / 10.0) + "mm");
     attribute("height", number(size.height() / 10.0) + "mm");
     attribute("viewBox", box(QRect(QPoint(), size)));
     attribute("xml:lang", QCoreApplication::translate("PxDrawing", "de", "code of the language"));
     attribute("role", "img");
-    attribute("aria-labelledby", "title desc");
+    attribute("aria-labelledby", m_prefix + "title " + m_prefix + "desc");
     attribute("font-family", pxDrawnFontFamilies().join(", "));
     attribute("data-format", "1");
     attribute("data-product", product.type.productName());
@@ -154,7 +170,7 @@ void Writer::write(const PxDrawing &drawing)
     writeTitles(drawing.title, drawing.description, true);
     for (int i = 0; i < drawing.sheets.size(); ++i)
         writeSheet(drawing.sheets[i], drawing.positionOf(i));
-    m_xml.writeEndDocument();
+    m_xml.writeEndElement();
 }
 
 /** The union of the pages with their bleed. With a negative bleed it lies within the trim. */
@@ -172,7 +188,7 @@ void Writer::writeSheet(const PxDrawingSheet &sheet, const QPoint &position)
     QVector<int> pages;
     for (const PxDrawnPage &page : sheet.sheet.pages)
         pages.append(page.number);
-    const QString id = "sheet-" + QString::number(pages.value(0));
+    const QString id = m_prefix + "sheet-" + QString::number(pages.value(0));
     m_xml.writeStartElement("g");
     attribute("id", id);
     attribute("class", "sheet");
@@ -193,8 +209,10 @@ void Writer::writeSheet(const PxDrawingSheet &sheet, const QPoint &position)
         m_xml.writeStartElement("g");
         attribute("id", id + '-' + name);
         attribute("class", "layer " + name);
-        m_xml.writeAttribute(nameOfLayers, "groupmode", "layer");
-        m_xml.writeAttribute(nameOfLayers, "label", pxDrawnLayerLabel(layer));
+        if (m_prefix.isEmpty()) {
+            m_xml.writeAttribute(nameOfLayers, "groupmode", "layer");
+            m_xml.writeAttribute(nameOfLayers, "label", pxDrawnLayerLabel(layer));
+        }
         for (const PxDrawnShape &shape : shapes)
             writeShape(shape);
         m_xml.writeEndElement();
@@ -207,8 +225,8 @@ void Writer::writeTitles(const QString &title, const QString &description, bool 
     for (const auto &[tag, text] : {std::pair("title", title), std::pair("desc", description)}) {
         m_xml.writeStartElement(tag);
         if (haveIds)
-            attribute("id", tag);
-        m_xml.writeCharacters(holdable(text));
+            attribute("id", m_prefix + tag);
+        m_xml.writeCharacters(held(text));
         m_xml.writeEndElement();
     }
 }
@@ -307,7 +325,7 @@ void Writer::writeLetters(const PxDrawnShape &shape)
         attribute("text-anchor", shape.anchor == PxDrawnShape::Anchor::End ? "end" : "middle");
     if (shape.fill.isValid())
         attribute("fill", shape.fill.name());
-    m_xml.writeCharacters(holdable(shape.text));
+    m_xml.writeCharacters(held(shape.text));
 }
 
 } // namespace
@@ -316,7 +334,15 @@ void PxDrawingSvg::write(const PxDrawing &drawing, QIODevice *device)
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    Writer(&buffer).write(drawing);
+    QXmlStreamWriter xml(&buffer);
+    Writer(&xml).writeFile(drawing);
     // No program needs to see them as they are, and terminals must not.
     device->write(PxVisibleText::xml(buffer.data()).toUtf8());
+}
+
+void PxDrawingSvg::write(const PxDrawing &drawing, const QString &prefix, QXmlStreamWriter *page)
+{
+    page->writeStartElement("svg");
+    page->writeAttribute("xmlns", nameOfSvg);
+    Writer(page, prefix).write(drawing);
 }

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QString>
+
 class QIODevice;
+class QXmlStreamWriter;
 struct PxDrawing;
 
 /** Writes drawings as SVG, with text as text. It needs no fonts. */
@@ -9,4 +12,9 @@ class PxDrawingSvg
 public:
     /** The device must be open. The bytes depend on nothing but the drawing and the language. */
     static void write(const PxDrawing &drawing, QIODevice *device);
+    /**
+     * Writes the element into a page of HTML. All ids in it begin with `prefix`, so that a page may
+     * have several drawings.
+     */
+    static void write(const PxDrawing &drawing, const QString &prefix, QXmlStreamWriter *page);
 };

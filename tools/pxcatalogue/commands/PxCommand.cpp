@@ -5,6 +5,7 @@
 #include "commands/PxDrawCommand.h"
 #include "commands/PxExportCommand.h"
 #include "commands/PxListCommand.h"
+#include "commands/PxProofCommand.h"
 #include "commands/PxShowCommand.h"
 #include "commands/PxThemesCommand.h"
 #include "commands/PxVariantsCommand.h"
@@ -31,7 +32,7 @@ QVector<const PxCommand *> PxCommand::all()
         command<PxListCommand>(),  command<PxShowCommand>(),       command<PxWhyCommand>(),
         command<PxDrawCommand>(),  command<PxCompatibleCommand>(), command<PxThemesCommand>(),
         command<PxCheckCommand>(), command<PxVariantsCommand>(),   command<PxExportCommand>(),
-        command<PxDiffCommand>(),
+        command<PxDiffCommand>(),  command<PxProofCommand>(),
     };
 }
 

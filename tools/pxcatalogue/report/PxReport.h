@@ -66,6 +66,15 @@ public:
      */
     void setOrigins(const QJsonObject &origins,
                     const std::function<QString(const QString &pointer)> &originAt);
+    struct Section
+    {
+        const char *key;
+        QString heading;
+        QVector<Field> fields; ///< of a table none
+        QVector<Column> columns;
+        QVector<QJsonArray> rows;
+    };
+    const QVector<Section> &sections() const { return m_sections; }
 
     QJsonObject json() const;
     /** Adds the sections with all that is exported. */
@@ -73,15 +82,6 @@ public:
     PxOutputText text(int width) const;
 
 private:
-    struct Section
-    {
-        const char *key;
-        QString heading;
-        QVector<Field> fields; // of a table none
-        QVector<Column> columns;
-        QVector<QJsonArray> rows;
-    };
-
     static QJsonValue jsonOf(const Section &section);
     static PxTextTable table(const Section &section);
     QStringList linesWithOrigins(const Section &section, int width) const;

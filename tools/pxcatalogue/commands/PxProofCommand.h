@@ -1,0 +1,12 @@
+#pragma once
+
+#include "commands/PxCommand.h"
+
+/** Writes the catalogue as a folder of pages for a browser. */
+class PxProofCommand : public PxCommand
+{
+public:
+    PxCommandUsage usage() const override;
+    bool needsFonts(const PxCommandLine &line) const override; ///< it has images
+    PxExitStatus run(const PxCommandLine &line) const override;
+};

@@ -1,0 +1,83 @@
+#include "proof/PxProof.h"
+
+#include "export/PxCatalogueExport.h"
+#include "proof/PxPageNames.h"
+#include "proof/PxProofCatalogue.h"
+#include "proof/PxProofDrawings.h"
+#include "proof/PxProofFolder.h"
+#include "proof/PxProofIndex.h"
+#include "proof/PxProofProductPage.h"
+#include "proof/PxProofThemePage.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QImage>
+
+namespace {
+
+/** The style sheet and the script, which stand in the program. */
+std::optional<PxProblem> writeResource(const char *name, const PxProofFolder &folder)
+{
+    QFile file(QString(":/proof/") + name);
+    file.open(QIODevice::ReadOnly);
+    return folder.write(name, file.readAll());
+}
+
+std::optional<PxProblem> writeExport(const PxProofFolder &folder)
+{
+    QByteArray lines;
+    PxCatalogueExport catalogue;
+    while (auto line = catalogue.next())
+        lines += line->toUtf8();
+    return folder.write("catalogue.json", lines);
+}
+
+std::optional<PxProblem> writeProduct(const PxProofCatalogue &catalogue,
+                                      const PxProofProduct &product, const PxProofFolder &folder)
+{
+    if (auto problem = folder.write(product.page + ".html",
+                                    PxProofProductPage::page(catalogue, product)))
+        return problem;
+    const QByteArray small = PxProofDrawings::small(product);
+    return small.isEmpty() ? std::nullopt
+                           : folder.write("drawings/" + product.page + ".svg", small);
+}
+
+std::optional<PxProblem> writeTheme(const PxProofCatalogue &catalogue, const PxTheme &theme,
+                                    const PxProofFolder &folder)
+{
+    const QString page = PxPageNames::of(PxPageNames::Kind::Theme, theme.id());
+    if (auto problem = folder.write(page + ".html", PxProofThemePage::page(catalogue, theme)))
+        return problem;
+    const QImage picture = theme.thumbnail();
+    if (picture.isNull())
+        return std::nullopt;
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    picture.save(&buffer, "PNG");
+    return folder.write("drawings/" + page + ".png", buffer.data());
+}
+
+} // namespace
+
+std::optional<PxProblem> PxProof::write(const PxProofCatalogue &catalogue,
+                                        const PxProofFolder &folder)
+{
+    for (const char *name : {"proof.css", "proof.js"}) {
+        if (auto problem = writeResource(name, folder))
+            return problem;
+    }
+    if (auto problem = folder.write("index.html", PxProofIndex::page(catalogue)))
+        return problem;
+    for (const auto *products : {&catalogue.products, &catalogue.legacyProducts}) {
+        for (const PxProofProduct &product : *products) {
+            if (auto problem = writeProduct(catalogue, product, folder))
+                return problem;
+        }
+    }
+    for (const PxTheme &theme : catalogue.themes) {
+        if (auto problem = writeTheme(catalogue, theme, folder))
+            return problem;
+    }
+    return writeExport(folder);
+}
