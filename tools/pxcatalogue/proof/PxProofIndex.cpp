@@ -82,7 +82,7 @@ void addHeads(PxHtml *html)
 
 void addNumber(PxHtml *html, const QString &text, double order)
 {
-    html->element("td", text, {{"class", "number"}, {"data-sort", QString::number(order)}});
+    html->element("td", text, {{"class", "number"}, {"data-sort", QString::number(order, 'f', 0)}});
 }
 
 void addRow(const Row &row, PxHtml *html)
