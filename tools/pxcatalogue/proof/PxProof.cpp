@@ -35,8 +35,8 @@ std::optional<PxProblem> writeExport(const PxProofFolder &folder)
 std::optional<PxProblem> writeProduct(const PxProofCatalogue &catalogue,
                                       const PxProofProduct &product, const PxProofFolder &folder)
 {
-    if (auto problem = folder.write(product.page + ".html",
-                                    PxProofProductPage::page(catalogue, product)))
+    if (auto problem =
+            folder.write(product.page + ".html", PxProofProductPage::page(catalogue, product)))
         return problem;
     const QByteArray small = PxProofDrawings::small(product);
     return small.isEmpty() ? std::nullopt

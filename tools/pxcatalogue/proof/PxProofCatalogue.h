@@ -17,7 +17,7 @@ struct PxProofProduct
     const PxProductTypeConfigRegistry *registry;
     PxProductType type;
     bool isLegacy;
-    QString page;                    ///< the name of its file without ending
+    QString page; ///< the name of its file without ending
     QVector<PxFinding> findings = {};
     QStringList themes = {}; ///< the ids of those that allow it
 };

@@ -18,9 +18,9 @@ namespace {
 
 /** What a switch shows or hides. */
 constexpr PxDrawnLayer switched[] = {
-    PxDrawnLayer::Surroundings, PxDrawnLayer::Fittings, PxDrawnLayer::Barcodes,
-    PxDrawnLayer::PageNumbers,  PxDrawnLayer::Folds,    PxDrawnLayer::Spine,
-    PxDrawnLayer::Safe,         PxDrawnLayer::Bleed,    PxDrawnLayer::Trim,
+    PxDrawnLayer::Surroundings, PxDrawnLayer::Fittings,   PxDrawnLayer::Barcodes,
+    PxDrawnLayer::PageNumbers,  PxDrawnLayer::Folds,      PxDrawnLayer::Spine,
+    PxDrawnLayer::Safe,         PxDrawnLayer::Bleed,      PxDrawnLayer::Trim,
     PxDrawnLayer::Marks,        PxDrawnLayer::Dimensions, PxDrawnLayer::Labels,
     PxDrawnLayer::Legend,
 };

@@ -33,8 +33,8 @@ std::optional<PxProblem> PxProofFolder::begin()
     const QDir folder(m_path);
     if (info.exists() && !info.isDir())
         return cannot(m_path, "it is a file");
-    const bool isEmpty = folder.isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System |
-                                        QDir::NoDotAndDotDot);
+    const bool isEmpty =
+        folder.isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     if (info.exists() && !isEmpty && !(folder.exists(mark) && folder.exists("catalogue.json")))
         return cannot(m_path, "it has files and is not an earlier proof; name another folder");
     const QString unfinished =

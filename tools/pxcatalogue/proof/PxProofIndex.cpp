@@ -121,7 +121,10 @@ void addRow(const Row &row, PxHtml *html)
 
 void addTable(const QVector<PxProofProduct> &products, const QString &id, PxHtml *html)
 {
-    html->open("div", {{"class", "wide"}, {"tabindex", "0"}, {"role", "region"}, {"aria-label", PxProofWords::tr("Tabelle der Produkte")}});
+    html->open("div", {{"class", "wide"},
+                       {"tabindex", "0"},
+                       {"role", "region"},
+                       {"aria-label", PxProofWords::tr("Tabelle der Produkte")}});
     html->open("table", {{"id", id}, {"class", "products"}});
     addHeads(html);
     html->open("tbody");
@@ -183,7 +186,10 @@ void addFilter(const QVector<PxProofProduct> &products, PxHtml *html)
 
 void addThemes(const PxProofCatalogue &catalogue, PxHtml *html)
 {
-    html->open("div", {{"class", "wide"}, {"tabindex", "0"}, {"role", "region"}, {"aria-label", PxProofWords::tr("Tabelle der Themen")}});
+    html->open("div", {{"class", "wide"},
+                       {"tabindex", "0"},
+                       {"role", "region"},
+                       {"aria-label", PxProofWords::tr("Tabelle der Themen")}});
     html->open("table", {{"class", "themes"}});
     html->open("thead");
     html->open("tr");
@@ -199,7 +205,8 @@ void addThemes(const PxProofCatalogue &catalogue, PxHtml *html)
         html->open("tr");
         html->open("td");
         if (!theme.thumbnail().isNull())
-            html->single("img", {{"src", "drawings/" + page + ".png"}, {"alt", ""}, {"loading", "lazy"}});
+            html->single("img",
+                         {{"src", "drawings/" + page + ".png"}, {"alt", ""}, {"loading", "lazy"}});
         html->close();
         html->open("th", {{"scope", "row"}, {"class", "name"}});
         html->element("a", theme.id(), {{"href", page + ".html"}});

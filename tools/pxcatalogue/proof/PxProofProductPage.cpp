@@ -44,8 +44,7 @@ void addThemes(PxProofPage *page, const PxProofProduct &product)
     html.open("ul");
     for (const QString &id : product.themes) {
         html.open("li");
-        html.element("a", id,
-                     {{"href", PxPageNames::of(PxPageNames::Kind::Theme, id) + ".html"}});
+        html.element("a", id, {{"href", PxPageNames::of(PxPageNames::Kind::Theme, id) + ".html"}});
         html.close();
     }
     html.close();
@@ -65,9 +64,11 @@ void addVariants(PxProofPage *page, const PxProofProduct &product)
         const QImage swatch =
             PxProductVariantListModel::colorDescriptionToPixmap(it.value()).toImage();
         if (!swatch.isNull()) {
-            html.open("svg", {{"class", "swatch"}, {"viewBox", "0 0 1 1"}, {"aria-hidden", "true"}});
-            html.element("rect", QString(),
-                         {{"width", "1"}, {"height", "1"}, {"fill", swatch.pixelColor(0, 0).name()}});
+            html.open("svg",
+                      {{"class", "swatch"}, {"viewBox", "0 0 1 1"}, {"aria-hidden", "true"}});
+            html.element(
+                "rect", QString(),
+                {{"width", "1"}, {"height", "1"}, {"fill", swatch.pixelColor(0, 0).name()}});
             html.close();
         }
         html.text(QString(" %1 (%2)").arg(it.value(), it.key()));
@@ -91,9 +92,9 @@ QHash<PxProductType, QStringList> agreements(const PxProofProduct &product)
 void addCompatible(PxProofPage *page, const PxProofProduct &product)
 {
     PxProductTypeList others =
-        product.isLegacy ? PxProductTypeList()
-                         : product.registry->findCompatibleProducts(product.type,
-                                                                    PxProductComparationNone);
+        product.isLegacy
+            ? PxProductTypeList()
+            : product.registry->findCompatibleProducts(product.type, PxProductComparationNone);
     others.removeAll(product.type);
     if (others.isEmpty())
         return;
@@ -103,9 +104,9 @@ void addCompatible(PxProofPage *page, const PxProofProduct &product)
     html.open("ul");
     for (const PxProductType &other : PxCatalogueProducts::sorted(others)) {
         html.open("li");
-        html.element("a", other.productName(),
-                     {{"href", PxPageNames::of(PxPageNames::Kind::Product, other.productName()) +
-                                   ".html"}});
+        html.element(
+            "a", other.productName(),
+            {{"href", PxPageNames::of(PxPageNames::Kind::Product, other.productName()) + ".html"}});
         const QString same = agreeing.value(other).join(", ");
         if (!same.isEmpty())
             html.text(" (" + PxProofWords::tr("gleich: %1").arg(same) + ')');
@@ -116,7 +117,8 @@ void addCompatible(PxProofPage *page, const PxProofProduct &product)
 
 } // namespace
 
-QByteArray PxProofProductPage::page(const PxProofCatalogue &catalogue, const PxProofProduct &product)
+QByteArray PxProofProductPage::page(const PxProofCatalogue &catalogue,
+                                    const PxProofProduct &product)
 {
     PxProofPage page(catalogue.title, product.type.productName());
     PxHtml &html = page.html();

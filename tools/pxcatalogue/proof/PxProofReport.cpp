@@ -6,16 +6,22 @@
 
 namespace {
 
+QString textOf(const QJsonValue &value, PxReportFormat format)
+{
+    return value.isBool() ? PxProofWords::yesOrNo(value.toBool())
+                          : PxReportValue::text(value, format);
+}
+
 void addFields(const PxReport::Section &section, PxHtml *html)
 {
     html->open("table", {{"class", "values"}});
     html->open("tbody");
     for (const PxReport::Field &field : section.fields) {
-        const QString text = PxReportValue::text(field.value, field.format);
+        const QString text = textOf(field.value, field.format);
         if (text.isEmpty())
             continue;
         html->open("tr");
-        html->element("th", PxProofWords::of(QString::fromUtf8(field.label)), {{"scope", "row"}});
+        html->element("th", PxProofWords::label(field.label), {{"scope", "row"}});
         html->element("td", text + PxReportValue::unit(field.format));
         html->close();
     }
@@ -32,8 +38,7 @@ void addTable(const PxReport::Section &section, PxHtml *html)
     for (const PxReport::Column &column : section.columns) {
         if (column.format != PxReportFormat::JsonOnly)
             html->element("th",
-                          PxProofWords::of(QString::fromUtf8(column.label)) +
-                              PxReportValue::unit(column.format),
+                          PxProofWords::label(column.label) + PxReportValue::unit(column.format),
                           {{"scope", "col"}});
     }
     html->close();
@@ -43,7 +48,7 @@ void addTable(const PxReport::Section &section, PxHtml *html)
         html->open("tr");
         for (int i = 0; i < section.columns.size(); ++i) {
             if (section.columns[i].format != PxReportFormat::JsonOnly)
-                html->element("td", PxReportValue::text(row[i], section.columns[i].format));
+                html->element("td", textOf(row[i], section.columns[i].format));
         }
         html->close();
     }
@@ -68,7 +73,7 @@ void PxProofReport::addTo(PxHtml *html, const PxReport &report)
     for (const PxReport::Section &section : report.sections()) {
         if (isEmpty(section))
             continue;
-        html->element("h3", PxProofWords::of(section.heading));
+        html->element("h3", PxProofWords::heading(section.key, section.heading));
         if (section.columns.isEmpty())
             addFields(section, html);
         else

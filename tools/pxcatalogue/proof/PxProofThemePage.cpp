@@ -31,10 +31,10 @@ QByteArray PxProofThemePage::page(const PxProofCatalogue &catalogue, const PxThe
     PxHtml &html = page.html();
     html.element("p", theme.description(), {{"class", "quiet"}});
     if (!theme.thumbnail().isNull())
-        html.single("img", {{"src", "drawings/" +
-                                        PxPageNames::of(PxPageNames::Kind::Theme, theme.id()) +
-                                        ".png"},
-                            {"alt", theme.description()}});
+        html.single(
+            "img",
+            {{"src", "drawings/" + PxPageNames::of(PxPageNames::Kind::Theme, theme.id()) + ".png"},
+             {"alt", theme.description()}});
     page.addHeading(PxProofWords::tr("Alle Werte"));
     PxReport report;
     PxThemeTable::addTo(&report, PxThemeList(theme));

@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <QString>
 
-/** The words of the proof, in the language of the display names. */
+/** The words of the proof, in the language of the display names: German or English. */
 class PxProofWords
 {
     Q_DECLARE_TR_FUNCTIONS(PxProof)
@@ -11,7 +11,9 @@ class PxProofWords
 public:
     /** "de" or "en". */
     static QString language();
-    /** A heading or a label of a report, which are English, in the language. */
-    static QString of(const QString &label);
+    /** A label of a report, which is English. */
+    static QString label(const char *english);
+    /** The heading of the section of a report with this key, which is `english`. */
+    static QString heading(const char *key, const QString &english);
     static QString yesOrNo(bool is);
 };

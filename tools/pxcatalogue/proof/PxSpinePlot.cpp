@@ -50,7 +50,9 @@ void PxSpinePlot::addPlot(PxHtml *html) const
         return QPointF(frame.left() + (width.first - first) / span * frame.width(),
                        frame.bottom() - width.second / widest * frame.height());
     };
-    html->open("svg", {{"class", "plot"}, {"viewBox", box}, {"role", "img"},
+    html->open("svg", {{"class", "plot"},
+                       {"viewBox", box},
+                       {"role", "img"},
                        {"aria-label", PxProofWords::tr("Breite des Rückens nach Seitenzahl")}});
     QString points;
     for (const auto &width : m_widths) {
@@ -58,10 +60,11 @@ void PxSpinePlot::addPlot(PxHtml *html) const
         points += number(point.x()) + ',' + number(point.y()) + ' ';
     }
     html->element("path", QString(),
-                  {{"class", "axis"}, {"fill", "none"},
+                  {{"class", "axis"},
+                   {"fill", "none"},
                    {"d", QString("M%1 %2V%3H%4")
-                             .arg(number(frame.left()), number(frame.top()),
-                                  number(frame.bottom()), number(frame.right()))}});
+                             .arg(number(frame.left()), number(frame.top()), number(frame.bottom()),
+                                  number(frame.right()))}});
     html->element("polyline", QString(), {{"class", "curve"}, {"points", points.trimmed()}});
     addText(frame.topLeft() + QPointF(-6, 4), millimetres(int(widest)) + " mm", "end", html);
     addText(frame.bottomLeft() + QPointF(-6, 4), "0", "end", html);
