@@ -11,6 +11,7 @@
 #include "proof/PxSpinePlot.h"
 #include "report/PxCatalogueProducts.h"
 #include "report/PxProductReport.h"
+#include "report/PxShownProduct.h"
 
 #include <PxProductProperties.h>
 #include <variants/PxProductVariantListModel.h>
@@ -132,6 +133,8 @@ QByteArray PxProofProductPage::page(const PxProofCatalogue &catalogue,
     addVariants(&page, product);
     addCompatible(&page, product);
     page.addHeading(PxProofWords::tr("Alle Werte"));
-    PxProofReport::addTo(&html, PxProductReport::of(product.registry, product.type, 0, QString()));
+    const PxShownProduct shown =
+        PxProductReport::shown(product.registry, product.type, 0, QString());
+    PxProofReport::addTo(&html, PxProductReport::of(shown));
     return page.finished();
 }
