@@ -2,17 +2,16 @@
 
 #include "commands/PxCatalogueDirectories.h"
 #include "commands/PxCommandLine.h"
+#include "commands/PxOtherCatalogue.h"
 #include "diff/PxCatalogueDiff.h"
 #include "diff/PxDiffJson.h"
 #include "diff/PxDiffPlaces.h"
 #include "diff/PxDiffText.h"
-#include "diff/PxExportProcess.h"
 #include "export/PxCatalogueExport.h"
 
 #include <PxProductProperties.h>
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 namespace {
@@ -38,14 +37,6 @@ std::optional<PxProblem> problemOf(const PxCommandLine &line)
     return std::nullopt;
 }
 
-std::optional<PxProblem> readFile(const QString &path, PxExportedCatalogue *catalogue)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return PxProblem{QString("\"%1\" cannot be read: %2").arg(path, file.errorString())};
-    return catalogue->read(&file);
-}
-
 /** Reads the catalogue that this process holds. */
 std::optional<PxProblem> readDirectory(const QString &path, PxExportedCatalogue *catalogue)
 {
@@ -61,30 +52,20 @@ std::optional<PxProblem> readDirectory(const QString &path, PxExportedCatalogue 
     return catalogue->problemOfEnd();
 }
 
-QStringList optionsOfExport(const PxCommandLine &line)
-{
-    QStringList options;
-    if (line.isSet("lang"))
-        options.append({"--lang", line.value("lang")});
-    if (line.isSet("verbose"))
-        options.append("--verbose");
-    return options;
-}
-
 /** Reads both, if possible at the same time. */
 std::optional<PxProblem> readBoth(const PxCommandLine &line, PxExportedCatalogue *oldCatalogue,
                                   PxExportedCatalogue *newCatalogue)
 {
-    const QString oldPath = line.arguments().value(0);
+    PxOtherCatalogue other(line.arguments().value(0), line);
+    if (!other.isDirectory()) {
+        if (const auto problem = other.read(oldCatalogue))
+            return problem;
+    }
     const QString newPath = line.arguments().value(1);
-    std::optional<PxExportProcess> process;
-    if (QFileInfo(oldPath).isDir())
-        process.emplace(oldPath, optionsOfExport(line));
-    else if (const auto problem = readFile(oldPath, oldCatalogue))
-        return problem;
-    const auto problem = QFileInfo(newPath).isDir() ? readDirectory(newPath, newCatalogue)
-                                                    : readFile(newPath, newCatalogue);
-    const auto problemOfOld = process ? process->read(oldCatalogue) : std::nullopt;
+    const auto problem = QFileInfo(newPath).isDir()
+                             ? readDirectory(newPath, newCatalogue)
+                             : PxOtherCatalogue(newPath, line).read(newCatalogue);
+    const auto problemOfOld = other.isDirectory() ? other.read(oldCatalogue) : std::nullopt;
     return problemOfOld ? problemOfOld : problem;
 }
 
