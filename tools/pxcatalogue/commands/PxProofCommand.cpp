@@ -4,35 +4,75 @@
 #include "check/findings/PxFindings.h"
 #include "commands/PxCatalogueDirectories.h"
 #include "commands/PxCommandLine.h"
+#include "commands/PxOtherCatalogue.h"
 #include "commands/check/PxCheckFiles.h"
+#include "diff/PxCatalogueDiff.h"
+#include "diff/PxDiffPlaces.h"
+#include "export/PxCatalogueExport.h"
 #include "proof/PxProof.h"
 #include "proof/PxProofCatalogue.h"
 #include "proof/PxProofFolder.h"
+#include "proof/PxProofWords.h"
 
 #include <PxProductProperties.h>
 
 namespace {
 
-std::optional<PxProblem> check(const PxCommandLine &line, PxCheckReport *report)
+std::optional<PxProblem> addFindings(const PxCommandLine &line, PxProofCatalogue *catalogue)
 {
     PxCheckFiles files(line);
     if (const auto problem = files.find())
         return problem;
     PxFindings findings{{}};
-    PxCheck check(files.paths(), findings);
-    check.run();
-    report->findings = findings.sorted();
-    report->catalogueNames = files.catalogueNames();
+    PxCheck(files.paths(), findings).run();
+    PxCheckReport report;
+    report.findings = findings.sorted();
+    report.catalogueNames = files.catalogueNames();
+    catalogue->addFindings(report);
     return std::nullopt;
 }
 
-std::optional<PxProblem> write(const PxCommandLine &line, PxProofFolder *folder)
+QVector<QByteArray> exportedLines()
 {
-    PxCheckReport report;
-    if (const auto problem = check(line, &report))
+    QVector<QByteArray> lines;
+    PxCatalogueExport catalogue;
+    while (const auto line = catalogue.next())
+        lines.append(line->toUtf8());
+    return lines;
+}
+
+std::optional<PxProblem> addChanges(PxOtherCatalogue *other, const QString &name,
+                                    const QVector<QByteArray> &lines, PxProofCatalogue *catalogue)
+{
+    PxExportedCatalogue oldCatalogue(name);
+    if (const auto problem = other->read(&oldCatalogue))
         return problem;
-    const QString title = line.value("title").isEmpty() ? QString("Katalog") : line.value("title");
-    const auto problem = PxProof::write(PxProofCatalogue::of(title, report), *folder);
+    PxExportedCatalogue newCatalogue("the catalogue");
+    for (const QByteArray &line : lines) {
+        if (const auto problem = newCatalogue.addLine(line))
+            return problem;
+    }
+    PxDiff diff = PxCatalogueDiff::of(oldCatalogue, newCatalogue, {});
+    PxDiffPlaces::addTo(&diff, newCatalogue);
+    catalogue->addChanges(diff);
+    return std::nullopt;
+}
+
+std::optional<PxProblem> write(const PxCommandLine &line, PxOtherCatalogue *other,
+                               PxProofFolder *folder)
+{
+    PxProofCatalogue catalogue;
+    catalogue.title = line.isSet("title") ? line.value("title") : PxProofWords::tr("Katalog");
+    if (const auto problem = addFindings(line, &catalogue))
+        return problem;
+    const QVector<QByteArray> lines = exportedLines();
+    for (const QByteArray &exported : lines)
+        catalogue.exported += exported;
+    if (other) {
+        if (const auto problem = addChanges(other, line.value("previous"), lines, &catalogue))
+            return problem;
+    }
+    const auto problem = PxProof::write(catalogue, *folder);
     return problem ? problem : folder->finish();
 }
 
@@ -42,9 +82,12 @@ PxCommandUsage PxProofCommand::usage() const
 {
     // clang-format off
     return {"proof",
-        "The catalogue as pages for a browser, in a folder.\n"
-        "index.html opens from a disk or from any web server. The folder must be empty, absent or an earlier proof, which is replaced when all is written.", {
+        "The whole catalogue as pages for a browser, in a folder.\n"
+        "index.html opens from a disk or from any web server. The folder must be absent, empty or an earlier proof, "
+        "which is replaced when all is written. The same files give the same bytes everywhere. Pages are German unless "
+        "--lang is given; what the checks find, what changed and where values come from is English.", {
         {"output", "DIR", "The folder to write."},
+        {"previous", "OLD", "Also show what changed since this catalogue: a resource directory, or what \"pxcatalogue export\" wrote, such as catalogue.json of an earlier proof."},
         {"title", "TEXT", "What the pages call the catalogue. Default: Katalog."},
     }};
     // clang-format on
@@ -64,8 +107,11 @@ PxExitStatus PxProofCommand::run(const PxCommandLine &line) const
     PxProofFolder folder(line.value("output"));
     if (const auto problem = folder.begin())
         return fail(*problem);
+    std::optional<PxOtherCatalogue> other;
+    if (line.isSet("previous"))
+        other.emplace(line.value("previous"), line);
+    PxCatalogueExport::becomeIndependentOfUser(line.isSet("user-defaults"));
     PxProductPropertiesInitializer::setupModule();
-    if (const auto problem = write(line, &folder))
-        return fail(*problem);
-    return PxExitStatus::Done;
+    const auto problem = write(line, other ? &*other : nullptr, &folder);
+    return problem ? fail(*problem) : PxExitStatus::Done;
 }

@@ -8,5 +8,6 @@ class PxProofCommand : public PxCommand
 public:
     PxCommandUsage usage() const override;
     bool needsFonts(const PxCommandLine &line) const override; ///< it has images
+    bool dependsOnLocale() const override { return false; }
     PxExitStatus run(const PxCommandLine &line) const override;
 };

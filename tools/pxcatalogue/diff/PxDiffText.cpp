@@ -107,15 +107,22 @@ void PxDiffText::addNames(const QString &kind, const PxDiffOfKind &diff)
 void PxDiffText::addObject(const QString &name, const PxChangedObject &object, bool forCustomers)
 {
     addObjectName(name);
-    const QVector<PxChange> &changes = object.changes;
+    for (const QString &line : linesOf(object.changes, forCustomers))
+        addItemOfObject(line);
+}
+
+QStringList PxDiffText::linesOf(const QVector<PxChange> &changes, bool forCustomers)
+{
+    QStringList lines;
     for (int i = 0; i < changes.size(); ++i) {
         if (changes[i].key->forCustomers != forCustomers)
             continue;
         const int first = i;
         while (i + 1 < changes.size() && isContinuedBy(changes[i], changes[i + 1]))
             ++i;
-        addItemOfObject(lineOf(changes[first], changes[i]));
+        lines.append(lineOf(changes[first], changes[i]));
     }
+    return lines;
 }
 
 void PxDiffText::addHeading(const QString &text)

@@ -9,6 +9,8 @@ class PxDiffText
 public:
     enum class Form { Plain, Markdown };
     static PxOutputText of(const PxDiff &diff, Form form);
+    /** The changes of one object that customers notice, or the others: a line for each. */
+    static QStringList linesOf(const QVector<PxChange> &changes, bool forCustomers);
 
 private:
     explicit PxDiffText(Form form) : m_form(form) {}

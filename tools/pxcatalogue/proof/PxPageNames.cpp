@@ -5,7 +5,7 @@
 namespace {
 
 constexpr int longestName = 60;
-constexpr int digestLength = 12;
+constexpr int digestLength = 32;
 
 bool isPlain(QChar unit)
 {
@@ -13,22 +13,26 @@ bool isPlain(QChar unit)
            (unit >= '0' && unit <= '9');
 }
 
+QString digestOf(const QString &name)
+{
+    const QByteArray digest = QCryptographicHash::hash(name.toUtf8(), QCryptographicHash::Sha256);
+    return QString::fromLatin1(digest.toHex().left(digestLength));
+}
+
 } // namespace
 
 QString PxPageNames::of(Kind kind, const QString &name)
 {
     QString plain;
-    bool isWhole = name.size() <= longestName;
+    bool isWhole = !name.isEmpty() && name.size() <= longestName;
     for (const QChar unit : name.left(longestName)) {
         isWhole = isWhole && (isPlain(unit) || unit == '_');
         plain += isPlain(unit) ? unit.toLower() : QChar('-');
     }
-    // No two names differ in case only: those of products do not, and ids of themes have one case.
-    if (!isWhole || plain.isEmpty())
-        plain += '-' + QString::fromLatin1(
-                           QCryptographicHash::hash(name.toUtf8(), QCryptographicHash::Sha256)
-                               .toHex()
-                               .left(digestLength));
+    // Names never differ in case only. No whole name has a "_" any more, so that none can look
+    // like one with a digest.
+    if (!isWhole)
+        plain += '_' + digestOf(name);
     switch (kind) {
     case Kind::Product:
         return "product-" + plain;

@@ -1,7 +1,5 @@
 #include "proof/PxProof.h"
 
-#include "export/PxCatalogueExport.h"
-#include "proof/PxPageNames.h"
 #include "proof/PxProofCatalogue.h"
 #include "proof/PxProofDrawings.h"
 #include "proof/PxProofFolder.h"
@@ -23,15 +21,6 @@ std::optional<PxProblem> writeResource(const char *name, const PxProofFolder &fo
     return folder.write(name, file.readAll());
 }
 
-std::optional<PxProblem> writeExport(const PxProofFolder &folder)
-{
-    QByteArray lines;
-    PxCatalogueExport catalogue;
-    while (auto line = catalogue.next())
-        lines += line->toUtf8();
-    return folder.write("catalogue.json", lines);
-}
-
 std::optional<PxProblem> writeProduct(const PxProofCatalogue &catalogue,
                                       const PxProofProduct &product, const PxProofFolder &folder)
 {
@@ -43,19 +32,18 @@ std::optional<PxProblem> writeProduct(const PxProofCatalogue &catalogue,
                            : folder.write("drawings/" + product.page + ".svg", small);
 }
 
-std::optional<PxProblem> writeTheme(const PxProofCatalogue &catalogue, const PxTheme &theme,
+std::optional<PxProblem> writeTheme(const PxProofCatalogue &catalogue, const PxProofTheme &theme,
                                     const PxProofFolder &folder)
 {
-    const QString page = PxPageNames::of(PxPageNames::Kind::Theme, theme.id());
-    if (auto problem = folder.write(page + ".html", PxProofThemePage::page(catalogue, theme)))
+    if (auto problem = folder.write(theme.page + ".html", PxProofThemePage::page(catalogue, theme)))
         return problem;
-    const QImage picture = theme.thumbnail();
+    const QImage picture = theme.theme.thumbnail();
     if (picture.isNull())
         return std::nullopt;
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     picture.save(&buffer, "PNG");
-    return folder.write("drawings/" + page + ".png", buffer.data());
+    return folder.write("drawings/" + theme.page + ".png", buffer.data());
 }
 
 } // namespace
@@ -75,9 +63,9 @@ std::optional<PxProblem> PxProof::write(const PxProofCatalogue &catalogue,
                 return problem;
         }
     }
-    for (const PxTheme &theme : catalogue.themes) {
+    for (const PxProofTheme &theme : catalogue.themes) {
         if (auto problem = writeTheme(catalogue, theme, folder))
             return problem;
     }
-    return writeExport(folder);
+    return folder.write("catalogue.json", catalogue.exported);
 }

@@ -6,49 +6,101 @@
 #include "report/PxThemeTable.h"
 
 #include <PxProductProperties.h>
-
-#include <QHash>
+#include <variants/PxProductVariantListModel.h>
 
 namespace {
 
 using Kind = PxPageNames::Kind;
 
+/** Themes may have the same id: the second one has the page "theme-id_2". */
+QVector<PxProofTheme> allThemes()
+{
+    QVector<PxProofTheme> themes;
+    QHash<QString, int> counts;
+    for (const PxTheme &theme : PxThemeTable::sorted(PxThemeFactory::instance()->themeList())) {
+        const QString page = PxPageNames::of(Kind::Theme, theme.id());
+        const int count = ++counts[page];
+        themes.append({theme, count == 1 ? page : QString("%1_%2").arg(page).arg(count)});
+    }
+    return themes;
+}
+
+QVector<PxProofVariant> variantsOf(const PxProductType &type)
+{
+    const PxProductVariantListModel model(type);
+    QVector<PxProofVariant> variants;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        const QModelIndex index = model.index(row, 0);
+        variants.append({index.data(PxProductVariantListModel::IdentifierRole).toString(),
+                         index.data().toString(),
+                         index.data(PxProductVariantListModel::ColorRole).value<QColor>()});
+    }
+    return variants;
+}
+
 QVector<PxProofProduct> productsOf(const PxProductTypeConfigRegistry *registry, Kind kind,
-                                   const PxThemeList &themes)
+                                   const QVector<PxProofTheme> &themes)
 {
     QVector<PxProofProduct> products;
     for (const PxProductType &type : PxCatalogueProducts::of(registry)) {
         PxProofProduct product{registry, type, kind == Kind::LegacyProduct,
                                PxPageNames::of(kind, type.productName())};
-        for (const PxTheme &theme : themes) {
-            if (!product.isLegacy && PxProductContext(type, theme).isValid())
-                product.themes.append(theme.id());
+        for (int i = 0; i < themes.size() && !product.isLegacy; ++i) {
+            if (PxProductContext(type, themes[i].theme).isValid())
+                product.themes.append(i);
         }
+        product.variants = variantsOf(type);
         products.append(product);
     }
     return products;
 }
 
+/** The changes of all objects of a kind, by name. */
+QHash<QString, PxProofChanges> byName(const PxDiffOfKind &diff)
+{
+    QHash<QString, PxProofChanges> changes;
+    for (const QString &name : diff.added)
+        changes[name].isNew = true;
+    for (const PxRenamedProduct &product : diff.renamed)
+        changes[product.to].oldName = product.from;
+    for (const PxChangedObject &object : diff.changed)
+        changes[object.name].changes = object.changes;
+    return changes;
+}
+
 } // namespace
 
-PxProofCatalogue PxProofCatalogue::of(const QString &title, const PxCheckReport &check)
+PxProofCatalogue::PxProofCatalogue() : themes(allThemes())
 {
-    PxProofCatalogue catalogue;
-    catalogue.title = title;
-    catalogue.themes = PxThemeTable::sorted(PxThemeFactory::instance()->themeList());
-    catalogue.products =
-        productsOf(PxProductTypeConfigRegistry::instance(), Kind::Product, catalogue.themes);
-    catalogue.legacyProducts = productsOf(PxProductTypeConfigRegistry::legacyInstance(),
-                                          Kind::LegacyProduct, catalogue.themes);
+    products = productsOf(PxProductTypeConfigRegistry::instance(), Kind::Product, themes);
+    legacyProducts =
+        productsOf(PxProductTypeConfigRegistry::legacyInstance(), Kind::LegacyProduct, themes);
+}
+
+void PxProofCatalogue::addFindings(const PxCheckReport &check)
+{
+    fileNames = check.catalogueNames;
     QHash<QString, PxProofProduct *> productOfFile;
-    for (QVector<PxProofProduct> *products : {&catalogue.products, &catalogue.legacyProducts}) {
-        for (PxProofProduct &product : *products)
+    for (QVector<PxProofProduct> *list : {&products, &legacyProducts}) {
+        for (PxProofProduct &product : *list)
             productOfFile.insert(PxProductFile::pathOf(product.type, product.isLegacy), &product);
     }
     for (const PxFinding &finding : check.findings) {
-        PxProofProduct *product =
-            productOfFile.value(check.catalogueNames.value(finding.place.path));
-        (product ? product->findings : catalogue.findings).append(finding);
+        PxProofProduct *product = productOfFile.value(fileNames.value(finding.place.path));
+        (product ? product->findings : findings).append(finding);
     }
-    return catalogue;
+}
+
+void PxProofCatalogue::addChanges(const PxDiff &changes)
+{
+    diff = changes;
+    const auto ofProducts = byName(changes.products);
+    for (PxProofProduct &product : products)
+        product.changes = ofProducts.value(product.type.productName());
+    const auto ofLegacyProducts = byName(changes.legacyProducts);
+    for (PxProofProduct &product : legacyProducts)
+        product.changes = ofLegacyProducts.value(product.type.productName());
+    const auto ofThemes = byName(changes.themes);
+    for (PxProofTheme &theme : themes)
+        theme.changes = ofThemes.value(theme.theme.id());
 }

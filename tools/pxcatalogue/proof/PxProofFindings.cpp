@@ -2,6 +2,7 @@
 
 #include "check/findings/PxCheckTags.h"
 #include "check/source/PxSourceLines.h"
+#include "origins/PxOrigin.h"
 #include "output/PxSourceFrame.h"
 #include "proof/PxHtml.h"
 #include "proof/PxProofWords.h"
@@ -10,9 +11,17 @@ namespace {
 
 constexpr int sourceWidth = 100;
 
-QString textOf(const PxPlace &place)
+QString nameOf(const QString &path, const QHash<QString, QString> &fileNames)
 {
-    return QString("%1:%2:%3").arg(place.path).arg(place.line).arg(place.column);
+    return fileNames.value(path, path);
+}
+
+/** The finding as it is where the catalogue is not known, so that moving it changes nothing. */
+PxFinding inCatalogue(PxFinding finding, const QHash<QString, QString> &fileNames)
+{
+    finding.place.path = nameOf(finding.place.path, fileNames);
+    finding.related.path = nameOf(finding.related.path, fileNames);
+    return finding;
 }
 
 QVector<PxPlace> placesOf(const QVector<PxFinding> &findings)
@@ -23,16 +32,15 @@ QVector<PxPlace> placesOf(const QVector<PxFinding> &findings)
     return places;
 }
 
-void addFinding(PxHtml *html, const PxFinding &finding, const PxSourceLines &lines)
+void addFinding(PxHtml *html, const PxFinding &finding, const PxSourceLines::Piece &piece)
 {
     const QString severity = PxCheckTags::severityName(finding.severity);
     html->open("article", {{"class", "finding " + severity}, {"lang", "en"}});
     html->open("p");
     html->element("span", severity, {{"class", "severity-" + severity}});
     html->text(": " + finding.text() + ' ');
-    html->element("span", textOf(finding.place), {{"class", "quiet"}});
+    html->element("span", PxOrigin::text(finding.place), {{"class", "quiet"}});
     html->close();
-    const PxSourceLines::Piece piece = lines.at(finding.place);
     if (finding.restCount == 0 && !piece.text.trimmed().isEmpty()) {
         const PxSourceFrame frame(piece, finding.place, sourceWidth);
         html->open("pre", {{"tabindex", "0"}});
@@ -50,7 +58,8 @@ void addFinding(PxHtml *html, const PxFinding &finding, const PxSourceLines &lin
 
 } // namespace
 
-void PxProofFindings::addTo(PxHtml *html, const QVector<PxFinding> &findings)
+void PxProofFindings::addTo(PxHtml *html, const QVector<PxFinding> &findings,
+                            const QHash<QString, QString> &fileNames)
 {
     if (findings.isEmpty()) {
         html->element("p", PxProofWords::tr("Keine Befunde."), {{"class", "quiet"}});
@@ -58,5 +67,5 @@ void PxProofFindings::addTo(PxHtml *html, const QVector<PxFinding> &findings)
     }
     const PxSourceLines lines(placesOf(findings));
     for (const PxFinding &finding : findings)
-        addFinding(html, finding, lines);
+        addFinding(html, inCatalogue(finding, fileNames), lines.at(finding.place));
 }

@@ -2,6 +2,8 @@
 
 #include "check/findings/PxFinding.h"
 
+#include <QHash>
+#include <QString>
 #include <QVector>
 
 class PxHtml;
@@ -10,5 +12,7 @@ class PxHtml;
 class PxProofFindings
 {
 public:
-    static void addTo(PxHtml *html, const QVector<PxFinding> &findings);
+    /** `fileNames` are those to show, by path. */
+    static void addTo(PxHtml *html, const QVector<PxFinding> &findings,
+                      const QHash<QString, QString> &fileNames);
 };

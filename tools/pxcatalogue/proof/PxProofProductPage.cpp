@@ -1,8 +1,10 @@
 #include "proof/PxProofProductPage.h"
 
 #include "format/PxCatalogueKeywords.h"
+#include "origins/PxOrigins.h"
 #include "proof/PxPageNames.h"
 #include "proof/PxProofCatalogue.h"
+#include "proof/PxProofDifferences.h"
 #include "proof/PxProofDrawings.h"
 #include "proof/PxProofFindings.h"
 #include "proof/PxProofPage.h"
@@ -12,70 +14,117 @@
 #include "report/PxCatalogueProducts.h"
 #include "report/PxProductReport.h"
 #include "report/PxShownProduct.h"
+#include "writing/PxTerminal.h"
 
 #include <PxProductProperties.h>
-#include <variants/PxProductVariantListModel.h>
 
 #include <QHash>
-#include <QImage>
-#include <QPixmap>
+#include <QJsonDocument>
 
 namespace {
 
-void addSpine(PxProofPage *page, const PxProofProduct &product)
+constexpr int longestName = 1000;
+constexpr int mostCompatible = 500; // in a large catalogue each page would link to all others
+
+/** What the page is about. */
+struct Subject
 {
-    const PxProductTypeDescription &description = *product.registry->description(product.type);
-    if (!description.hasSpine())
-        return;
-    QVector<QPair<int, int>> widths;
-    for (const int count : description.offeredPageCounts())
-        widths.append({count, description.spineWidth(count)});
-    if (widths.isEmpty())
-        return;
-    page->addHeading(PxProofWords::tr("Rücken"));
-    PxSpinePlot(widths).addTo(&page->html());
+    const PxProofCatalogue &catalogue;
+    const PxProofProduct &product;
+    PxShownProduct shown;
+    PxProductTypeList compatible;
+};
+
+void addLink(PxHtml *html, const QString &name, const QString &page)
+{
+    html->element("a", PxTerminal::shortened(name, longestName), {{"href", page + ".html"}});
 }
 
-void addThemes(PxProofPage *page, const PxProofProduct &product)
+void addChanges(PxHtml *html, const Subject &subject)
 {
-    if (product.themes.isEmpty())
-        return;
-    page->addHeading(PxProofWords::tr("Themen"));
-    PxHtml &html = page->html();
-    html.open("ul");
-    for (const QString &id : product.themes) {
-        html.open("li");
-        html.element("a", id, {{"href", PxPageNames::of(PxPageNames::Kind::Theme, id) + ".html"}});
-        html.close();
+    PxProofDifferences::addTo(html, subject.product.changes);
+}
+
+void addFindings(PxHtml *html, const Subject &subject)
+{
+    PxProofFindings::addTo(html, subject.product.findings, subject.catalogue.fileNames);
+}
+
+void addDrawings(PxHtml *html, const Subject &subject)
+{
+    PxProofDrawings::addTo(html, subject.product);
+}
+
+bool hasSpine(const Subject &subject)
+{
+    return subject.shown.product->hasSpine() && !subject.shown.offeredPageCounts.isEmpty();
+}
+
+void addSpine(PxHtml *html, const Subject &subject)
+{
+    QVector<QPair<int, int>> widths;
+    for (const int count : subject.shown.offeredPageCounts)
+        widths.append({count, subject.shown.product->spineWidth(count)});
+    PxSpinePlot(widths).addTo(html);
+}
+
+void addValues(PxHtml *html, const Subject &subject)
+{
+    const PxOrigins origins(subject.shown);
+    PxReport report = PxProductReport::of(subject.shown);
+    report.setOrigins({},
+                      [&origins](const QString &pointer) { return origins.at(pointer).text(); });
+    PxProofReport::addTo(html, report);
+}
+
+/** Themes that show the product alike stand together. */
+void addThemes(PxHtml *html, const Subject &subject)
+{
+    QVector<QPair<PxReport, QVector<int>>> groups;
+    QHash<QByteArray, int> groupOf;
+    PxShownProduct shown = subject.shown;
+    for (const int theme : subject.product.themes) {
+        shown.themeId = subject.catalogue.themes[theme].theme.id();
+        const PxReport report = PxProductReport::ofTheme(shown);
+        const QByteArray key = QJsonDocument(report.json()).toJson(QJsonDocument::Compact);
+        if (!groupOf.contains(key)) {
+            groupOf.insert(key, groups.size());
+            groups.append({report, {}});
+        }
+        groups[groupOf[key]].second.append(theme);
     }
-    html.close();
+    for (const auto &[report, themes] : groups) {
+        html->open("ul", {{"class", "names"}});
+        for (const int theme : themes) {
+            html->open("li");
+            addLink(html, subject.catalogue.themes[theme].theme.id(),
+                    subject.catalogue.themes[theme].page);
+            html->close();
+        }
+        html->close();
+        PxProofReport::addTables(html, report);
+    }
+}
+
+void addSwatch(PxHtml *html, const QColor &color)
+{
+    html->open("svg", {{"class", "swatch"}, {"viewBox", "0 0 1 1"}, {"aria-hidden", "true"}});
+    html->element("rect", QString(), {{"width", "1"}, {"height", "1"}, {"fill", color.name()}});
+    html->close();
 }
 
 /** A variant whose name is a colour has a swatch of it. */
-void addVariants(PxProofPage *page, const PxProofProduct &product)
+void addVariants(PxHtml *html, const Subject &subject)
 {
-    const auto variants = PxProductVariantIdentifiers::instance()->variants(product.type);
-    if (variants.isEmpty())
-        return;
-    page->addHeading(PxProofWords::tr("Varianten"));
-    PxHtml &html = page->html();
-    html.open("ul");
-    for (auto it = variants.begin(); it != variants.end(); ++it) {
-        html.open("li");
-        const QImage swatch =
-            PxProductVariantListModel::colorDescriptionToPixmap(it.value()).toImage();
-        if (!swatch.isNull()) {
-            html.open("svg",
-                      {{"class", "swatch"}, {"viewBox", "0 0 1 1"}, {"aria-hidden", "true"}});
-            html.element(
-                "rect", QString(),
-                {{"width", "1"}, {"height", "1"}, {"fill", swatch.pixelColor(0, 0).name()}});
-            html.close();
-        }
-        html.text(QString(" %1 (%2)").arg(it.value(), it.key()));
-        html.close();
+    html->open("ul", {{"class", "variants"}});
+    for (const PxProofVariant &variant : subject.product.variants) {
+        html->open("li");
+        if (variant.color.isValid())
+            addSwatch(html, variant.color);
+        html->text(QString(" %1 (%2)").arg(variant.name, variant.identifier));
+        html->close();
     }
-    html.close();
+    html->close();
 }
 
 /** The criteria in which each compatible product agrees with this one. */
@@ -85,35 +134,69 @@ QHash<PxProductType, QStringList> agreements(const PxProofProduct &product)
     for (const auto &row : criterionRows) {
         for (const PxProductType &other :
              product.registry->findCompatibleProducts(product.type, row.value))
-            agreeing[other].append(row.keyword);
+            agreeing[other].append(PxProofWords::criterion(row.keyword));
     }
     return agreeing;
 }
 
-void addCompatible(PxProofPage *page, const PxProofProduct &product)
+void addCompatible(PxHtml *html, const Subject &subject)
 {
-    PxProductTypeList others =
-        product.isLegacy
-            ? PxProductTypeList()
-            : product.registry->findCompatibleProducts(product.type, PxProductComparationNone);
-    others.removeAll(product.type);
-    if (others.isEmpty())
-        return;
-    page->addHeading(PxProofWords::tr("Austauschbar mit"));
-    const QHash<PxProductType, QStringList> agreeing = agreements(product);
-    PxHtml &html = page->html();
-    html.open("ul");
-    for (const PxProductType &other : PxCatalogueProducts::sorted(others)) {
-        html.open("li");
-        html.element(
-            "a", other.productName(),
-            {{"href", PxPageNames::of(PxPageNames::Kind::Product, other.productName()) + ".html"}});
+    const QHash<PxProductType, QStringList> agreeing = agreements(subject.product);
+    html->open("ul");
+    for (const PxProductType &other : subject.compatible.mid(0, mostCompatible)) {
         const QString same = agreeing.value(other).join(", ");
+        html->open("li");
+        addLink(html, other.productName(),
+                PxPageNames::of(PxPageNames::Kind::Product, other.productName()));
         if (!same.isEmpty())
-            html.text(" (" + PxProofWords::tr("gleich: %1").arg(same) + ')');
-        html.close();
+            html->text(' ' + PxProofWords::tr("(gleich: %1)").arg(same));
+        html->close();
     }
-    html.close();
+    html->close();
+    const int rest = subject.compatible.size() - mostCompatible;
+    if (rest > 0)
+        html->element("p", PxProofWords::tr("Weitere: %1").arg(rest));
+}
+
+/** The sections of the page, in their order. */
+constexpr struct
+{
+    const char *id;
+    const char *heading;
+    void (*add)(PxHtml *html, const Subject &subject);
+    bool (*isThere)(const Subject &subject);
+} sections[] = {
+    // clang-format off
+    {"changes", QT_TRANSLATE_NOOP("PxProof", "Änderungen"), addChanges, [](const Subject &subject) { return subject.catalogue.diff.has_value(); }},
+    {"findings", QT_TRANSLATE_NOOP("PxProof", "Befunde"), addFindings, [](const Subject &) { return true; }},
+    {"drawings", QT_TRANSLATE_NOOP("PxProof", "Zeichnungen"), addDrawings, [](const Subject &) { return true; }},
+    {"spine", QT_TRANSLATE_NOOP("PxProof", "Rücken"), addSpine, hasSpine},
+    {"values", QT_TRANSLATE_NOOP("PxProof", "Alle Werte"), addValues, [](const Subject &) { return true; }},
+    {"in-themes", QT_TRANSLATE_NOOP("PxProof", "Seiten und Vorlagen in Themen"), addThemes, [](const Subject &subject) { return !subject.product.themes.isEmpty(); }},
+    {"variants", QT_TRANSLATE_NOOP("PxProof", "Varianten"), addVariants, [](const Subject &subject) { return !subject.product.variants.isEmpty(); }},
+    {"compatible", QT_TRANSLATE_NOOP("PxProof", "Austauschbar mit"), addCompatible, [](const Subject &subject) { return !subject.compatible.isEmpty(); }},
+    // clang-format on
+};
+
+void addContents(PxHtml *html, const Subject &subject)
+{
+    html->open("nav", {{"class", "contents"}, {"aria-label", PxProofWords::tr("Diese Seite")}});
+    for (const auto &section : sections) {
+        if (section.isThere(subject))
+            html->element("a", PxProofWords::tr(section.heading),
+                          {{"href", QString("#") + section.id}});
+    }
+    html->close();
+}
+
+PxProductTypeList compatibleWith(const PxProofProduct &product)
+{
+    if (product.isLegacy)
+        return {};
+    PxProductTypeList others =
+        product.registry->findCompatibleProducts(product.type, PxProductComparationNone);
+    others.removeAll(product.type);
+    return PxCatalogueProducts::sorted(others);
 }
 
 } // namespace
@@ -121,20 +204,20 @@ void addCompatible(PxProofPage *page, const PxProofProduct &product)
 QByteArray PxProofProductPage::page(const PxProofCatalogue &catalogue,
                                     const PxProofProduct &product)
 {
+    const Subject subject{catalogue, product,
+                          PxProductReport::shown(product.registry, product.type, 0, QString()),
+                          compatibleWith(product)};
     PxProofPage page(catalogue.title, product.type.productName());
     PxHtml &html = page.html();
+    if (product.isLegacy)
+        html.element("p", PxProofWords::tr("Aus einem früheren Katalog"), {{"class", "quiet"}});
     html.element("p", product.type.shortProductName(), {{"class", "quiet"}});
-    page.addHeading(PxProofWords::tr("Zeichnungen"));
-    PxProofDrawings::addTo(&html, product);
-    addSpine(&page, product);
-    page.addHeading(PxProofWords::tr("Befunde"));
-    PxProofFindings::addTo(&html, product.findings);
-    addThemes(&page, product);
-    addVariants(&page, product);
-    addCompatible(&page, product);
-    page.addHeading(PxProofWords::tr("Alle Werte"));
-    const PxShownProduct shown =
-        PxProductReport::shown(product.registry, product.type, 0, QString());
-    PxProofReport::addTo(&html, PxProductReport::of(shown));
+    addContents(&html, subject);
+    for (const auto &section : sections) {
+        if (!section.isThere(subject))
+            continue;
+        page.addHeading(PxProofWords::tr(section.heading), section.id);
+        section.add(&html, subject);
+    }
     return page.finished();
 }

@@ -2,17 +2,27 @@
 
 #include "proof/PxHtml.h"
 #include "proof/PxProofWords.h"
-#include "report/PxReport.h"
+#include "writing/PxTerminal.h"
 
 namespace {
+
+using Section = PxReport::Section;
+
+constexpr int longest = 10000; // characters of a value or an origin
 
 QString textOf(const QJsonValue &value, PxReportFormat format)
 {
     return value.isBool() ? PxProofWords::yesOrNo(value.toBool())
-                          : PxReportValue::text(value, format);
+                          : PxTerminal::shortened(PxReportValue::text(value, format), longest);
 }
 
-void addFields(const PxReport::Section &section, PxHtml *html)
+/** Null for none, so that no attribute is written. */
+QString shortenedOrigin(const QString &origin)
+{
+    return origin.isEmpty() ? QString() : PxTerminal::shortened(origin, longest);
+}
+
+void addFields(PxHtml *html, const PxReport &report, const Section &section)
 {
     html->open("table", {{"class", "values"}});
     html->open("tbody");
@@ -20,19 +30,20 @@ void addFields(const PxReport::Section &section, PxHtml *html)
         const QString text = textOf(field.value, field.format);
         if (text.isEmpty())
             continue;
+        const QString origin = shortenedOrigin(report.origin(section, field));
         html->open("tr");
         html->element("th", PxProofWords::label(field.label), {{"scope", "row"}});
-        html->element("td", text + PxReportValue::unit(field.format));
+        html->element("td", text + PxReportValue::unit(field.format), {{"title", origin}});
+        if (!origin.isEmpty())
+            html->element("td", origin, {{"class", "origin"}, {"lang", "en"}});
         html->close();
     }
     html->close();
     html->close();
 }
 
-void addTable(const PxReport::Section &section, PxHtml *html)
+void addHeads(PxHtml *html, const Section &section)
 {
-    html->open("div", {{"class", "wide"}});
-    html->open("table");
     html->open("thead");
     html->open("tr");
     for (const PxReport::Column &column : section.columns) {
@@ -43,21 +54,61 @@ void addTable(const PxReport::Section &section, PxHtml *html)
     }
     html->close();
     html->close();
+}
+
+void addRow(PxHtml *html, const PxReport &report, const Section &section, int row)
+{
+    html->open("tr");
+    for (int i = 0; i < section.columns.size(); ++i) {
+        const PxReport::Column &column = section.columns[i];
+        if (column.format != PxReportFormat::JsonOnly)
+            html->element("td", textOf(section.rows[row][i], column.format),
+                          {{"title", shortenedOrigin(report.origin(section, column, row))}});
+    }
+    html->close();
+}
+
+/** Under a table: a line for each column, or for the rows of it that have the same origin. */
+void addOrigins(PxHtml *html, const PxReport &report, const Section &section)
+{
+    html->open("details", {{"class", "origins"}});
+    html->element("summary", PxProofWords::tr("Herkunft"));
+    html->open("table", {{"class", "values"}});
     html->open("tbody");
-    for (const QJsonArray &row : section.rows) {
-        html->open("tr");
-        for (int i = 0; i < section.columns.size(); ++i) {
-            if (section.columns[i].format != PxReportFormat::JsonOnly)
-                html->element("td", textOf(row[i], section.columns[i].format));
+    for (const PxReport::Column &column : section.columns) {
+        if (column.format == PxReportFormat::JsonOnly)
+            continue;
+        for (const PxReport::RowsOrigin &origin : report.origins(section, column)) {
+            const QString rows = PxProofWords::tr("Zeile %1").arg(origin.rows);
+            html->open("tr");
+            html->element("th", PxProofWords::label(column.label), {{"scope", "row"}});
+            html->element("td", origin.rows.isEmpty() ? QString() : rows);
+            html->element("td", shortenedOrigin(origin.origin),
+                          {{"class", "origin"}, {"lang", "en"}});
+            html->close();
         }
-        html->close();
     }
     html->close();
     html->close();
     html->close();
 }
 
-bool isEmpty(const PxReport::Section &section)
+void addTable(PxHtml *html, const PxReport &report, const Section &section)
+{
+    html->open("div", {{"class", "wide"}});
+    html->open("table");
+    addHeads(html, section);
+    html->open("tbody");
+    for (int row = 0; row < section.rows.size(); ++row)
+        addRow(html, report, section, row);
+    html->close();
+    html->close();
+    html->close();
+    if (report.hasOrigins())
+        addOrigins(html, report, section);
+}
+
+bool isEmpty(const Section &section)
 {
     for (const PxReport::Field &field : section.fields) {
         if (!PxReportValue::text(field.value, field.format).isEmpty())
@@ -66,17 +117,30 @@ bool isEmpty(const PxReport::Section &section)
     return section.rows.isEmpty();
 }
 
+void addSection(PxHtml *html, const PxReport &report, const Section &section)
+{
+    if (section.columns.isEmpty())
+        addFields(html, report, section);
+    else
+        addTable(html, report, section);
+}
+
 } // namespace
 
 void PxProofReport::addTo(PxHtml *html, const PxReport &report)
 {
-    for (const PxReport::Section &section : report.sections()) {
+    for (const Section &section : report.sections()) {
         if (isEmpty(section))
             continue;
         html->element("h3", PxProofWords::heading(section.key, section.heading));
-        if (section.columns.isEmpty())
-            addFields(section, html);
-        else
-            addTable(section, html);
+        addSection(html, report, section);
+    }
+}
+
+void PxProofReport::addTables(PxHtml *html, const PxReport &report)
+{
+    for (const Section &section : report.sections()) {
+        if (!isEmpty(section))
+            addSection(html, report, section);
     }
 }

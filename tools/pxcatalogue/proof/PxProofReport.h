@@ -1,12 +1,15 @@
 #pragma once
 
-class PxHtml;
-class PxReport;
+#include "report/PxReport.h"
 
-/** A report as HTML: a table for each of its sections. Empty ones are left out, like in its text.
- */
+class PxHtml;
+
+/** A report as HTML: a table for each of its sections, with where each value comes from. */
 class PxProofReport
 {
 public:
+    /** Empty sections are left out, as in the text of a report. */
     static void addTo(PxHtml *html, const PxReport &report);
+    /** Without headings. */
+    static void addTables(PxHtml *html, const PxReport &report);
 };

@@ -1,23 +1,27 @@
 #include "proof/PxProofThemePage.h"
 
-#include "proof/PxPageNames.h"
 #include "proof/PxProofCatalogue.h"
+#include "proof/PxProofDifferences.h"
 #include "proof/PxProofPage.h"
 #include "proof/PxProofReport.h"
 #include "proof/PxProofWords.h"
-#include "report/PxReport.h"
 #include "report/PxThemeTable.h"
+#include "writing/PxTerminal.h"
 
 namespace {
 
-void addProducts(PxHtml *html, const PxProofCatalogue &catalogue, const PxTheme &theme)
+constexpr int longestName = 1000;
+
+void addProducts(PxHtml *html, const PxProofCatalogue &catalogue, const PxProofTheme &theme)
 {
-    html->open("ul");
+    const int index = int(&theme - catalogue.themes.constData());
+    html->open("ul", {{"class", "names"}});
     for (const PxProofProduct &product : catalogue.products) {
-        if (!product.themes.contains(theme.id()))
+        if (!product.themes.contains(index))
             continue;
         html->open("li");
-        html->element("a", product.type.productName(), {{"href", product.page + ".html"}});
+        html->element("a", PxTerminal::shortened(product.type.productName(), longestName),
+                      {{"href", product.page + ".html"}});
         html->close();
     }
     html->close();
@@ -25,20 +29,22 @@ void addProducts(PxHtml *html, const PxProofCatalogue &catalogue, const PxTheme 
 
 } // namespace
 
-QByteArray PxProofThemePage::page(const PxProofCatalogue &catalogue, const PxTheme &theme)
+QByteArray PxProofThemePage::page(const PxProofCatalogue &catalogue, const PxProofTheme &theme)
 {
-    PxProofPage page(catalogue.title, theme.id());
+    PxProofPage page(catalogue.title, theme.theme.id());
     PxHtml &html = page.html();
-    html.element("p", theme.description(), {{"class", "quiet"}});
-    if (!theme.thumbnail().isNull())
-        html.single(
-            "img",
-            {{"src", "drawings/" + PxPageNames::of(PxPageNames::Kind::Theme, theme.id()) + ".png"},
-             {"alt", theme.description()}});
+    html.element("p", theme.theme.description(), {{"class", "quiet"}});
+    if (!theme.theme.thumbnail().isNull())
+        html.single("img", {{"src", "drawings/" + theme.page + ".png"},
+                            {"alt", theme.theme.description()}});
+    if (catalogue.diff) {
+        page.addHeading(PxProofWords::tr("Änderungen"));
+        PxProofDifferences::addTo(&html, theme.changes);
+    }
     page.addHeading(PxProofWords::tr("Alle Werte"));
     PxReport report;
-    PxThemeTable::addTo(&report, PxThemeList(theme));
-    PxProofReport::addTo(&html, report);
+    PxThemeTable::addFieldsTo(&report, theme.theme);
+    PxProofReport::addTables(&html, report);
     page.addHeading(PxProofWords::tr("Produkte"));
     addProducts(&html, catalogue, theme);
     return page.finished();

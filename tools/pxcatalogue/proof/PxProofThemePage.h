@@ -1,14 +1,13 @@
 #pragma once
 
-#include <themes/PxTheme.h>
-
 #include <QByteArray>
 
 struct PxProofCatalogue;
+struct PxProofTheme;
 
 /** The page of a theme. */
 class PxProofThemePage
 {
 public:
-    static QByteArray page(const PxProofCatalogue &catalogue, const PxTheme &theme);
+    static QByteArray page(const PxProofCatalogue &catalogue, const PxProofTheme &theme);
 };

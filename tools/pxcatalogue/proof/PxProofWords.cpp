@@ -143,6 +143,13 @@ constexpr Word headings[] = {
     {"themes", "Thema"},
 };
 
+constexpr Word criteria[] = {
+    {"binding", "Bindung"},
+    {"paper", "Papier"},
+    {"space", "Größenklasse"},
+    {"increment", "Schritt der Seitenzahlen"},
+};
+
 template <std::size_t COUNT>
 QString germanOf(const Word (&words)[COUNT], const char *of)
 {
@@ -168,6 +175,11 @@ QString PxProofWords::label(const char *english)
 QString PxProofWords::heading(const char *key, const QString &english)
 {
     return language() == "de" ? germanOf(headings, key) : english;
+}
+
+QString PxProofWords::criterion(const char *keyword)
+{
+    return language() == "de" ? germanOf(criteria, keyword) : QString::fromUtf8(keyword);
 }
 
 QString PxProofWords::yesOrNo(bool is)

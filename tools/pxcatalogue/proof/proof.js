@@ -1,99 +1,101 @@
-// The proof of a catalogue: sorts and filters the table of products, and switches parts of
-// drawings. Everything that it needs stands in the page. Without it all is shown.
+// The proof of a catalogue: sorts and filters tables, and switches parts of drawings. Everything
+// that it needs stands in the page. Without it all is shown.
 'use strict';
 
 (() => {
   document.documentElement.classList.add('has-script');
 
-  const products = document.getElementById('products');
-  if (products)
-    listProducts(products);
+  for (const list of document.querySelectorAll('.list'))
+    makeList(list);
   for (const drawings of document.querySelectorAll('.drawings'))
     switchDrawings(drawings);
 
-  // The state of the form is in the address, behind "#", so that a link shows the same.
-  function listProducts(table) {
-    const form = document.getElementById('filter');
-    const hits = document.getElementById('hits');
-    const body = table.tBodies[0];
-    const rows = Array.from(body.rows, row => ({
-      row,
-      text: row.dataset.text,
-      data: row.dataset,
-      counts: ranges(row.dataset.counts),
-    }));
-    const heads = Array.from(table.tHead.rows[0].cells);
-    const fields = Array.from(form.elements).filter(field => field.name);
-    let sorted = '';
+  // The state of all lists is in the address, behind "#", so that a link shows the same. Without
+  // a "=" there stands the name of a heading.
+  function readState() {
+    const text = location.hash.slice(1);
+    return new URLSearchParams(text.includes('=') ? text : '');
+  }
 
-    function ranges(text) {
-      return text.split(' ').filter(Boolean).map(part => part.split(/[-/]/).map(Number));
-    }
-    function offers(counts, pages) {
-      return counts.some(([first, last = first, step = 1]) =>
-        pages >= first && pages <= last && (pages - first) % step === 0);
-    }
-    function fits(entry, asked) {
-      const { data } = entry;
-      const words = asked.text.toLowerCase().split(/\s+/);
-      return words.every(word => entry.text.includes(word))
-        && ['class', 'binding', 'paper', 'orientation']
-          .every(key => !asked[key] || data[key] === asked[key])
-        && (!asked.from || Number(data.longest) >= asked.from * 10)
-        && (!asked.to || (data.longest && Number(data.longest) <= asked.to * 10))
-        && (!asked.pages || offers(entry.counts, Number(asked.pages)));
-    }
+  // "26-154/2" is every second count from 26 to 154.
+  function countsOf(text) {
+    return text.split(' ').filter(Boolean).map(part => part.split(/[-/]/).map(Number));
+  }
+  function offers(counts, pages) {
+    return counts.some(([first, last = first, step = 1]) =>
+      pages >= first && pages <= last && (pages - first) % step === 0);
+  }
+
+  // By the name of a field: whether a row fits what the field asks for.
+  const tests = {
+    text: (row, asked) => asked.toLowerCase().split(/\s+/).every(word => row.text.includes(word)),
+    from: (row, asked) => Number(row.longest) >= asked * 10,
+    to: (row, asked) => row.longest && Number(row.longest) <= asked * 10,
+    pages: (row, asked) => offers(row.counts, Number(asked)),
+  };
+
+  function makeList(list) {
+    const { prefix } = list.dataset;
+    const form = list.querySelector('form');
+    const table = list.querySelector('table');
+    const rows = Array.from(table.tBodies[0].rows, element => {
+      const row = { element, ...element.dataset };
+      row.counts = countsOf(row.counts ?? '');
+      return row;
+    });
+    const heads = Array.from(table.tHead.rows[0].cells);
+    const fields = Array.from(form?.elements ?? []).filter(field => field.name);
+    let sorted = ''; // the key of a column, after "-" if it descends
+
     function filter() {
-      const asked = Object.fromEntries(fields.map(field => [field.name, field.value]));
-      let count = 0;
-      for (const entry of rows) {
-        const isShown = fits(entry, asked);
-        entry.row.hidden = !isShown;
-        count += isShown;
+      const asked = fields.filter(field => field.value);
+      let hits = 0;
+      for (const row of rows) {
+        const fits = asked.every(({ name, value }) =>
+          name in tests ? tests[name](row, value) : row[name] === value);
+        row.element.hidden = !fits;
+        hits += fits;
       }
-      hits.textContent = `${count} / ${rows.length}`;
+      if (form)
+        form.querySelector('output').textContent = `${hits} / ${rows.length}`;
     }
     function sort() {
-      const [key, isDown] = sorted.startsWith('-') ? [sorted.slice(1), true] : [sorted, false];
-      const column = heads.findIndex(head => head.dataset.key === key);
-      heads.forEach((head, index) => {
-        if (index === column)
-          head.setAttribute('aria-sort', isDown ? 'descending' : 'ascending');
-        else
-          head.removeAttribute('aria-sort');
-      });
+      const isDown = sorted.startsWith('-');
+      const column = heads.findIndex(head => head.dataset.key === sorted.replace('-', ''));
+      for (const head of heads)
+        head.removeAttribute('aria-sort');
       const order = rows.slice();
-      if (column >= 0) {
-        const valueOf = entry => entry.row.cells[column].dataset.sort
-          ?? entry.row.cells[column].textContent;
-        const values = new Map(order.map(entry => [entry, valueOf(entry)]));
+      if (sorted && column >= 0) {
+        heads[column].setAttribute('aria-sort', isDown ? 'descending' : 'ascending');
         const compare = new Intl.Collator(document.documentElement.lang, { numeric: true }).compare;
+        const valueOf = ({ element: { cells } }) =>
+          cells[column].dataset.sort ?? cells[column].textContent;
+        const values = new Map(rows.map(row => [row, valueOf(row)]));
         order.sort((a, b) => (isDown ? -1 : 1) * compare(values.get(a), values.get(b)));
       }
-      body.append(...order.map(entry => entry.row));
+      table.tBodies[0].append(...order.map(row => row.element));
     }
     function remember() {
-      const state = new URLSearchParams();
-      for (const field of fields) {
-        if (field.value)
-          state.set(field.name, field.value);
+      const state = readState();
+      for (const { name, value } of [...fields, { name: 'sort', value: sorted }]) {
+        if (value)
+          state.set(prefix + name, value);
+        else
+          state.delete(prefix + name);
       }
-      if (sorted)
-        state.set('sort', sorted);
-      const text = state.toString();
-      history.replaceState(null, '', text ? `#${text}` : location.pathname + location.search);
+      history.replaceState(null, '', `#${state}`);
     }
     function recall() {
-      const state = new URLSearchParams(location.hash.slice(1));
+      const state = readState();
       for (const field of fields)
-        field.value = state.get(field.name) ?? '';
-      sorted = state.get('sort') ?? '';
+        field.value = state.get(prefix + field.name) ?? '';
+      sorted = state.get(prefix + 'sort') ?? '';
       sort();
       filter();
     }
 
     for (const head of heads) {
-      const key = head.dataset.key;
+      const { key } = head.dataset;
       if (!key)
         continue;
       const button = document.createElement('button');
@@ -106,10 +108,13 @@
       });
       head.append(button);
     }
-    form.addEventListener('submit', event => event.preventDefault());
-    form.addEventListener('input', () => { filter(); remember(); });
-    form.addEventListener('reset', () => setTimeout(() => { filter(); remember(); }));
-    addEventListener('hashchange', recall);
+    form?.addEventListener('submit', event => event.preventDefault());
+    form?.addEventListener('input', () => { filter(); remember(); });
+    form?.addEventListener('reset', () => setTimeout(() => { filter(); remember(); }));
+    addEventListener('hashchange', () => {
+      if (location.hash.includes('='))
+        recall();
+    });
     recall();
   }
 

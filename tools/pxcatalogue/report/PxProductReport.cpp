@@ -456,3 +456,14 @@ PxReport PxProductReport::of(const PxShownProduct &shown)
         add(shown, &report);
     return report;
 }
+
+PxReport PxProductReport::ofTheme(const PxShownProduct &shown)
+{
+    const PxProductContext context(shown.type, shown.themeId);
+    PxReport report;
+    report.addFields("theme", "",
+                     {{"pagesWithContent", "Pages with content", pagesWithContent(shown, context),
+                       Format::PageNumbers}});
+    addTemplates(shown, &report);
+    return report;
+}

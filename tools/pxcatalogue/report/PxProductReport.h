@@ -27,4 +27,6 @@ public:
     /** Tells a user who asked for this `pageCount` if it is lowered, or not offered. */
     static void warnOfPageCount(const PxShownProduct &shown, int pageCount);
     static PxReport of(const PxShownProduct &shown);
+    /** The pages with content and the default templates alone, in the theme of `shown`. */
+    static PxReport ofTheme(const PxShownProduct &shown);
 };

@@ -167,43 +167,54 @@ PxTextTable PxReport::table(const Section &section)
     return table;
 }
 
-QStringList PxReport::linesWithOrigins(const Section &section, int width) const
+QString PxReport::origin(const Section &section, const Field &field) const
 {
-    const QString key = QString("/%1/").arg(section.key);
-    PxOriginColumn origins;
-    for (const Field &field : section.fields) {
-        const QString text = PxReportValue::text(field.value, field.format);
-        if (!text.isEmpty())
-            origins.add(QString::fromUtf8(field.label), text + PxReportValue::unit(field.format),
-                        m_originAt(key + field.key));
-    }
-    if (section.columns.isEmpty())
-        return origins.lines(width);
-    for (const Column &column : section.columns) {
-        if (column.format != PxReportFormat::JsonOnly)
-            addOrigins(section, column, &origins);
-    }
-    return table(section).lines(width) + origins.lines(width);
+    return m_originAt ? m_originAt(QString("/%1/%2").arg(section.key, field.key)) : QString();
 }
 
-/** One for all rows, or each with the numbers of its rows. */
-void PxReport::addOrigins(const Section &section, const Column &column,
-                          PxOriginColumn *origins) const
+QString PxReport::origin(const Section &section, const Column &column, int row) const
+{
+    return m_originAt
+               ? m_originAt(QString("/%1/%2/%3").arg(section.key, QString::number(row), column.key))
+               : QString();
+}
+
+QVector<PxReport::RowsOrigin> PxReport::origins(const Section &section, const Column &column) const
 {
     QStringList different;
     QHash<QString, QList<int>> rowsOf;
-    for (int row = 0; row < section.rows.size(); ++row) {
-        const QString origin =
-            m_originAt(QString("/%1/%2/%3").arg(section.key, QString::number(row), column.key));
+    for (int row = 0; m_originAt && row < section.rows.size(); ++row) {
+        const QString origin = this->origin(section, column, row);
         if (!rowsOf.contains(origin))
             different.append(origin);
         rowsOf[origin].append(row + 1);
     }
-    for (const QString &origin : qAsConst(different)) {
-        const QString rows = "row " + PxNumberRanges::text(rowsOf[origin]);
-        origins->add("  " + QString::fromUtf8(column.label),
-                     different.size() == 1 ? QString() : rows, origin);
+    QVector<RowsOrigin> origins;
+    for (const QString &origin : qAsConst(different))
+        origins.append(
+            {different.size() == 1 ? QString() : PxNumberRanges::text(rowsOf[origin]), origin});
+    return origins;
+}
+
+QStringList PxReport::linesWithOrigins(const Section &section, int width) const
+{
+    PxOriginColumn lines;
+    for (const Field &field : section.fields) {
+        const QString text = PxReportValue::text(field.value, field.format);
+        if (!text.isEmpty())
+            lines.add(QString::fromUtf8(field.label), text + PxReportValue::unit(field.format),
+                      origin(section, field));
     }
+    if (section.columns.isEmpty())
+        return lines.lines(width);
+    for (const Column &column : section.columns) {
+        if (column.format == PxReportFormat::JsonOnly)
+            continue;
+        for (const RowsOrigin &origin : origins(section, column))
+            lines.add("  " + QString::fromUtf8(column.label),
+                      origin.rows.isEmpty() ? QString() : "row " + origin.rows, origin.origin);
+    }
+    return table(section).lines(width) + lines.lines(width);
 }
 
 PxOutputText PxReport::text(int width) const

@@ -12,7 +12,6 @@
 #include <functional>
 
 class PxJsonLine;
-class PxOriginColumn;
 
 /**
  * The report of a command: sections with single values or a table, printed as text or as JSON.
@@ -66,6 +65,7 @@ public:
      */
     void setOrigins(const QJsonObject &origins,
                     const std::function<QString(const QString &pointer)> &originAt);
+
     struct Section
     {
         const char *key;
@@ -75,6 +75,18 @@ public:
         QVector<QJsonArray> rows;
     };
     const QVector<Section> &sections() const { return m_sections; }
+    bool hasOrigins() const { return bool(m_originAt); }
+    /** Where the value of a field comes from. Empty without origins, like the next ones. */
+    QString origin(const Section &section, const Field &field) const;
+    QString origin(const Section &section, const Column &column, int row) const;
+
+    /** Where values of a column come from. */
+    struct RowsOrigin
+    {
+        QString rows; ///< their numbers, beginning at 1; empty for all
+        QString origin;
+    };
+    QVector<RowsOrigin> origins(const Section &section, const Column &column) const;
 
     QJsonObject json() const;
     /** Adds the sections with all that is exported. */
@@ -85,7 +97,6 @@ private:
     static QJsonValue jsonOf(const Section &section);
     static PxTextTable table(const Section &section);
     QStringList linesWithOrigins(const Section &section, int width) const;
-    void addOrigins(const Section &section, const Column &column, PxOriginColumn *origins) const;
     Section &section(const char *key);
 
     QVector<Section> m_sections;

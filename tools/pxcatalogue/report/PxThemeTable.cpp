@@ -92,3 +92,15 @@ void PxThemeTable::addTo(PxJsonLine *line, const PxTheme &theme)
             line->add(columns()[i].key, row[i]);
     }
 }
+
+void PxThemeTable::addFieldsTo(PxReport *report, const PxTheme &theme)
+{
+    const QJsonArray row = rowOf(theme);
+    QVector<PxReport::Field> fields;
+    for (int i = 0; i < row.size(); ++i) {
+        const PxReport::Column &column = columns()[i];
+        if (column.use == PxReport::Exported)
+            fields.append({column.key, column.label, row[i], column.format});
+    }
+    report->addFields("themes", "", fields);
+}

@@ -16,4 +16,6 @@ public:
     static PxThemeList sorted(PxThemeList themes);
     /** Adds what is exported of the row of one theme. */
     static void addTo(PxJsonLine *line, const PxTheme &theme);
+    /** Adds what is exported of a theme as single values. */
+    static void addFieldsTo(PxReport *report, const PxTheme &theme);
 };
