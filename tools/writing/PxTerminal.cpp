@@ -143,3 +143,12 @@ void PxTerminal::printError(const QString &message)
     line.addLine(QCoreApplication::applicationName() + ": " + message);
     PxOutputFile::write(STDERR_FILENO, line.toUtf8()); // a failure cannot be reported
 }
+
+void PxTerminal::showProgress(const QString &text)
+{
+    if (isatty(STDERR_FILENO) == 0)
+        return;
+    const QString name = text.isEmpty() ? QString() : QCoreApplication::applicationName() + ": ";
+    const QString line = PxVisibleText::line(name + text);
+    PxOutputFile::write(STDERR_FILENO, ("\r" + line + "\x1b[K").toUtf8());
+}

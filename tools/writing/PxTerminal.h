@@ -44,4 +44,6 @@ public:
 
     /** One line on stderr, with the name of the program before it. */
     static void printError(const QString &message);
+    /** If stderr is a terminal: in place of the line shown before. An empty text removes it. */
+    static void showProgress(const QString &text);
 };

@@ -6,6 +6,7 @@
 #include "proof/PxProofIndex.h"
 #include "proof/PxProofProductPage.h"
 #include "proof/PxProofThemePage.h"
+#include "writing/PxProgress.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -57,15 +58,20 @@ std::optional<PxProblem> PxProof::write(const PxProofCatalogue &catalogue,
     }
     if (auto problem = folder.write("index.html", PxProofIndex::page(catalogue)))
         return problem;
+    PxProgress progress(catalogue.products.size() + catalogue.legacyProducts.size() +
+                            catalogue.themes.size(),
+                        "pages");
     for (const auto *products : {&catalogue.products, &catalogue.legacyProducts}) {
         for (const PxProofProduct &product : *products) {
             if (auto problem = writeProduct(catalogue, product, folder))
                 return problem;
+            progress.advance();
         }
     }
     for (const PxProofTheme &theme : catalogue.themes) {
         if (auto problem = writeTheme(catalogue, theme, folder))
             return problem;
+        progress.advance();
     }
     return folder.write("catalogue.json", catalogue.exported);
 }

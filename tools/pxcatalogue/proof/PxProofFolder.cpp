@@ -1,14 +1,47 @@
 #include "proof/PxProofFolder.h"
 
-#include <QCoreApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 namespace {
 
-/** A folder with this file is an earlier proof. */
-constexpr const char *mark = "proof.css";
+constexpr const char *writtenLast = "catalogue.json";
+
+QString placeOf(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() ? info.canonicalFilePath() : QDir::cleanPath(info.absoluteFilePath());
+}
+
+/** Whether nobody has put a file of another kind into the folder. */
+bool hasOnlyFilesOfProofs(const QString &path)
+{
+    static const QRegularExpression ourNames(
+        "^(catalogue[.]json|proof[.](css|js)|index[.]html|drawings"
+        "|(product|earlier|theme)-[a-z0-9_-]+[.]html"
+        "|drawings/(product|earlier|theme)-[a-z0-9_-]+[.](svg|png))$");
+    QDirIterator files(path, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        if (!ourNames.match(files.next().mid(path.size() + 1)).hasMatch())
+            return false;
+    }
+    return true;
+}
+
+bool isEmpty(const QString &path)
+{
+    return QDir(path).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System |
+                              QDir::NoDotAndDotDot);
+}
+
+bool isProof(const QString &path)
+{
+    return QFileInfo::exists(path + '/' + writtenLast) && hasOnlyFilesOfProofs(path);
+}
 
 PxProblem cannot(const QString &path, const QString &why)
 {
@@ -18,30 +51,57 @@ PxProblem cannot(const QString &path, const QString &why)
 } // namespace
 
 PxProofFolder::PxProofFolder(const QString &path)
-    : m_path(QDir::cleanPath(QFileInfo(path).absoluteFilePath()))
-{}
+    : m_path(placeOf(path))
+    , m_unfinished(m_path + ".unfinished")
+    , m_old(m_path + ".old")
+    , m_lock(m_path + ".lock")
+{
+    m_lock.setStaleLockTime(0); // a run may take long; one that was killed is noticed anyway
+}
 
 PxProofFolder::~PxProofFolder()
 {
-    if (!m_unfinished.isEmpty())
+    if (m_isBegun)
         QDir(m_unfinished).removeRecursively();
 }
 
 std::optional<PxProblem> PxProofFolder::begin()
 {
+    if (const auto problem = problemOfPlace())
+        return problem;
+    if (!QDir().mkpath(QFileInfo(m_path).path()) || !m_lock.tryLock(0))
+        return cannot(m_path, m_lock.error() == QLockFile::LockFailedError
+                                  ? "another run writes it"
+                                  : "no file can be made beside it");
+    if (const auto problem = clearLeftovers())
+        return problem;
+    m_isBegun = QDir().mkpath(m_unfinished + "/drawings");
+    return m_isBegun ? std::nullopt
+                     : std::optional(cannot(m_path, "no folder can be made beside it"));
+}
+
+std::optional<PxProblem> PxProofFolder::problemOfPlace() const
+{
     const QFileInfo info(m_path);
-    const QDir folder(m_path);
-    if (info.exists() && !info.isDir())
-        return cannot(m_path, "it is a file");
-    const bool isEmpty =
-        folder.isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    if (info.exists() && !isEmpty && !(folder.exists(mark) && folder.exists("catalogue.json")))
+    if (!info.exists())
+        return std::nullopt;
+    if (!info.isDir())
+        return cannot(m_path, "it is a file; name another folder");
+    if (!isEmpty(m_path) && !isProof(m_path))
         return cannot(m_path, "it has files and is not an earlier proof; name another folder");
-    const QString unfinished =
-        QString("%1.unfinished-%2").arg(m_path).arg(QCoreApplication::applicationPid());
-    if (!QDir().mkpath(unfinished) || !QDir(unfinished).mkdir("drawings"))
-        return cannot(m_path, "no folder can be made beside it");
-    m_unfinished = unfinished;
+    return std::nullopt;
+}
+
+std::optional<PxProblem> PxProofFolder::clearLeftovers() const
+{
+    // A run that was killed after it had moved the earlier proof away.
+    if (!QFileInfo::exists(m_path) && isProof(m_old) && !QDir().rename(m_old, m_path))
+        return cannot(m_path, QString("\"%1\" cannot be moved back").arg(m_old));
+    for (const QString &leftover : {m_unfinished, m_old}) {
+        if (QFileInfo::exists(leftover) &&
+            !(hasOnlyFilesOfProofs(leftover) && QDir(leftover).removeRecursively()))
+            return cannot(m_path, QString("\"%1\" is in the way").arg(leftover));
+    }
     return std::nullopt;
 }
 
@@ -56,14 +116,13 @@ std::optional<PxProblem> PxProofFolder::write(const QString &name, const QByteAr
 
 std::optional<PxProblem> PxProofFolder::finish()
 {
-    const QString old = m_unfinished + ".old";
-    if (QFileInfo::exists(m_path) && !QDir().rename(m_path, old))
+    if (QFileInfo::exists(m_path) && !QDir().rename(m_path, m_old))
         return cannot(m_path, "the earlier proof cannot be moved away");
     if (!QDir().rename(m_unfinished, m_path)) {
-        QDir().rename(old, m_path);
+        QDir().rename(m_old, m_path);
         return cannot(m_path, "the new one cannot be moved to its place");
     }
-    m_unfinished.clear();
-    QDir(old).removeRecursively();
+    m_isBegun = false;
+    QDir(m_old).removeRecursively();
     return std::nullopt;
 }
