@@ -379,6 +379,249 @@
     </message>
 </context>
 <context>
+    <name>PxProof</name>
+    <message>
+        <source>Katalog</source>
+        <translation>Catalogue</translation>
+    </message>
+    <message>
+        <source>neu</source>
+        <translation>new</translation>
+    </message>
+    <message>
+        <source>hieß %1</source>
+        <translation>was %1</translation>
+    </message>
+    <message>
+        <source>Änderungen, die Kunden bemerken: %1</source>
+        <translation>changes that customers notice: %1</translation>
+    </message>
+    <message>
+        <source>Änderungen nur für die Produktion: %1</source>
+        <translation>changes for production only: %1</translation>
+    </message>
+    <message>
+        <source>nicht mehr da</source>
+        <translation>no longer there</translation>
+    </message>
+    <message>
+        <source>Nichts hat sich geändert.</source>
+        <translation>Nothing has changed.</translation>
+    </message>
+    <message>
+        <source>Im früheren Katalog gibt es das nicht.</source>
+        <translation>The earlier catalogue does not have this.</translation>
+    </message>
+    <message>
+        <source>Hieß im früheren Katalog %1.</source>
+        <translation>In the earlier catalogue it was called %1.</translation>
+    </message>
+    <message>
+        <source>Was Kunden bemerken</source>
+        <translation>What customers notice</translation>
+    </message>
+    <message>
+        <source>Was nur die Produktion bemerkt</source>
+        <translation>What only production notices</translation>
+    </message>
+    <message>
+        <source>Produkte</source>
+        <translation>Products</translation>
+    </message>
+    <message>
+        <source>Frühere Produkte</source>
+        <translation>Earlier products</translation>
+    </message>
+    <message>
+        <source>Themen</source>
+        <translation>Themes</translation>
+    </message>
+    <message>
+        <source>Seitenzahl</source>
+        <translation>Page count</translation>
+    </message>
+    <message>
+        <source>Ebenen</source>
+        <translation>Layers</translation>
+    </message>
+    <message>
+        <source>Mit %1 Seiten</source>
+        <translation>With %1 pages</translation>
+    </message>
+    <message>
+        <source>Keine Befunde.</source>
+        <translation>No findings.</translation>
+    </message>
+    <message>
+        <source>Bild</source>
+        <translation>Picture</translation>
+    </message>
+    <message>
+        <source>Produkt</source>
+        <translation>Product</translation>
+    </message>
+    <message>
+        <source>Name im Shop</source>
+        <translation>Name in the shop</translation>
+    </message>
+    <message>
+        <source>Klasse</source>
+        <translation>Class</translation>
+    </message>
+    <message>
+        <source>Bindung</source>
+        <translation>Binding</translation>
+    </message>
+    <message>
+        <source>Papier</source>
+        <translation>Paper</translation>
+    </message>
+    <message>
+        <source>Größe in mm</source>
+        <translation>Size in mm</translation>
+    </message>
+    <message>
+        <source>Seiten</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Befunde</source>
+        <translation>Findings</translation>
+    </message>
+    <message>
+        <source>Thema</source>
+        <translation>Theme</translation>
+    </message>
+    <message>
+        <source>Beschreibung</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Produktgruppe</source>
+        <translation>Product group</translation>
+    </message>
+    <message>
+        <source>Bestellbar bis</source>
+        <translation>Can be ordered until</translation>
+    </message>
+    <message>
+        <source>Alle zeigen</source>
+        <translation>Show all</translation>
+    </message>
+    <message>
+        <source>alle</source>
+        <translation>all</translation>
+    </message>
+    <message>
+        <source>Produkte suchen</source>
+        <translation>Search the products</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Orientation</translation>
+    </message>
+    <message>
+        <source>Längere Seite ab mm</source>
+        <translation>Longer side from mm</translation>
+    </message>
+    <message>
+        <source>bis mm</source>
+        <translation>to mm</translation>
+    </message>
+    <message>
+        <source>Tabelle der Produkte</source>
+        <translation>Table of the products</translation>
+    </message>
+    <message>
+        <source>Themen suchen</source>
+        <translation>Search the themes</translation>
+    </message>
+    <message>
+        <source>Tabelle der Themen</source>
+        <translation>Table of the themes</translation>
+    </message>
+    <message>
+        <source>Änderungen</source>
+        <translation>Changes</translation>
+    </message>
+    <message>
+        <source>Befunde in anderen Dateien</source>
+        <translation>Findings in other files</translation>
+    </message>
+    <message>
+        <source>Zum Inhalt</source>
+        <translation>Skip to the contents</translation>
+    </message>
+    <message>
+        <source>(gleich: %1)</source>
+        <translation>(the same: %1)</translation>
+    </message>
+    <message>
+        <source>Weitere: %1</source>
+        <translation>Others: %1</translation>
+    </message>
+    <message>
+        <source>Zeichnungen</source>
+        <translation>Drawings</translation>
+    </message>
+    <message>
+        <source>Rücken</source>
+        <translation>Spine</translation>
+    </message>
+    <message>
+        <source>Alle Werte</source>
+        <translation>All values</translation>
+    </message>
+    <message>
+        <source>Seiten und Vorlagen in Themen</source>
+        <translation>Pages and templates in themes</translation>
+    </message>
+    <message>
+        <source>Varianten</source>
+        <translation>Variants</translation>
+    </message>
+    <message>
+        <source>Austauschbar mit</source>
+        <translation>Interchangeable with</translation>
+    </message>
+    <message>
+        <source>Diese Seite</source>
+        <translation>This page</translation>
+    </message>
+    <message>
+        <source>Aus einem früheren Katalog</source>
+        <translation>From an earlier catalogue</translation>
+    </message>
+    <message>
+        <source>Herkunft</source>
+        <translation>Where it comes from</translation>
+    </message>
+    <message>
+        <source>Zeile %1</source>
+        <translation>Row %1</translation>
+    </message>
+    <message>
+        <source>ja</source>
+        <translation>yes</translation>
+    </message>
+    <message>
+        <source>nein</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>Breite des Rückens nach Seitenzahl</source>
+        <translation>Width of the spine by page count</translation>
+    </message>
+    <message>
+        <source>Breite mm</source>
+        <translation>Width in mm</translation>
+    </message>
+</context>
+<context>
     <name>PxSheetLabels</name>
     <message>
         <source>Rücken: %1</source>
