@@ -99,8 +99,14 @@ struct ProductRow
     /** All words by which the product is searched for, themes that are not named among them. */
     QString text() const
     {
-        const QStringList words{
-            name, shopName, productClass, binding, paper, sizeText(), shortened(themes.join(' '))};
+        const QStringList words{name,
+                                shopName,
+                                PxProofWords::keyword(productClass),
+                                binding,
+                                paper,
+                                PxProofWords::keyword(orientation),
+                                sizeText(),
+                                shortened(themes.join(' '))};
         return words.join(' ').toLower();
     }
 };
@@ -136,7 +142,16 @@ void addPicture(PxHtml *html, const QString &file)
 void addName(PxHtml *html, const QString &name, const QString &page)
 {
     html->open("th", {{"scope", "row"}, {"class", "name"}});
-    html->element("a", shortened(name), {{"href", page + ".html"}});
+    html->open("a", {{"href", page + ".html"}});
+    const QStringList parts = shortened(name).split('_');
+    for (int i = 0; i < parts.size(); ++i) {
+        if (i > 0) {
+            html->text("_");
+            html->single("wbr", {}); // a narrow column breaks the name here
+        }
+        html->text(parts[i]);
+    }
+    html->close();
     html->close();
 }
 
@@ -153,7 +168,8 @@ void addRow(PxHtml *html, const ProductRow &row)
                       {"data-counts", PxNumberRanges::text(row.pageCounts).remove(',')}});
     addPicture(html, hasSize ? row.product.page + ".svg" : QString());
     addName(html, row.name, row.product.page);
-    for (const QString &text : {row.shopName, row.productClass, row.binding, row.paper})
+    for (const QString &text :
+         {row.shopName, PxProofWords::keyword(row.productClass), row.binding, row.paper})
         addCell(html, text);
     addNumber(html, row.sizeText(), hasSize ? row.size.width() * row.size.height() : -1);
     addNumber(html, PxNumberRanges::text(row.pageCounts), row.pageCounts.value(0));
@@ -212,7 +228,8 @@ void openFilter(PxHtml *html, const QString &label)
 void closeFilter(PxHtml *html)
 {
     html->element("button", PxProofWords::tr("Alle zeigen"), {{"type", "reset"}});
-    html->element("output", QString(), {{"aria-live", "polite"}});
+    html->element("output", QString(),
+                  {{"aria-live", "polite"}, {"data-text", PxProofWords::tr("%1 von %2", "hits")}});
     html->close();
 }
 
@@ -224,7 +241,7 @@ void addChoice(PxHtml *html, const char *name, const QString &label, const QStri
     html->element("option", PxProofWords::tr("alle"), {{"value", ""}});
     for (const QString &value : values) {
         if (!value.isEmpty())
-            html->element("option", value, {{"value", value}});
+            html->element("option", PxProofWords::keyword(value), {{"value", value}});
     }
     html->close();
     html->close();

@@ -134,7 +134,7 @@ QHash<PxProductType, QStringList> agreements(const PxProofProduct &product)
     for (const auto &row : criterionRows) {
         for (const PxProductType &other :
              product.registry->findCompatibleProducts(product.type, row.value))
-            agreeing[other].append(PxProofWords::criterion(row.keyword));
+            agreeing[other].append(PxProofWords::keyword(row.keyword));
     }
     return agreeing;
 }

@@ -143,7 +143,20 @@ constexpr Word headings[] = {
     {"themes", "Thema"},
 };
 
-constexpr Word criteria[] = {
+constexpr Word keywords[] = {
+    {"book", "Buch"},
+    {"calendar", "Kalender"},
+    {"gift", "Geschenk"},
+    {"card", "Karte"},
+    {"deko", "Wandbild"},
+    {"print", "Abzug"},
+    {"portrait", "hoch"},
+    {"landscape", "quer"},
+    {"quadratic", "quadratisch"},
+    {"square", "quadratisch"},
+    {"panorama", "Panorama"},
+    {"portraitpanorama", "Panorama hoch"},
+    {"round", "rund"},
     {"binding", "Bindung"},
     {"paper", "Papier"},
     {"space", "Größenklasse"},
@@ -177,9 +190,9 @@ QString PxProofWords::heading(const char *key, const QString &english)
     return language() == "de" ? germanOf(headings, key) : english;
 }
 
-QString PxProofWords::criterion(const char *keyword)
+QString PxProofWords::keyword(const QString &keyword)
 {
-    return language() == "de" ? germanOf(criteria, keyword) : QString::fromUtf8(keyword);
+    return language() == "de" ? germanOf(keywords, keyword.toUtf8().constData()) : keyword;
 }
 
 QString PxProofWords::yesOrNo(bool is)

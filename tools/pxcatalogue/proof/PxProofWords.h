@@ -15,7 +15,7 @@ public:
     static QString label(const char *english);
     /** The heading of the section of a report with this key, which is `english`. */
     static QString heading(const char *key, const QString &english);
-    /** In what products agree: a keyword of the option --criterion. */
-    static QString criterion(const char *keyword);
+    /** A class, an orientation, or a keyword of the option --criterion. */
+    static QString keyword(const QString &keyword);
     static QString yesOrNo(bool is);
 };

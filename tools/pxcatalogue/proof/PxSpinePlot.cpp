@@ -11,7 +11,7 @@
 
 namespace {
 
-const QRectF frame(56, 16, 520, 200); // of the curve, in the unit of the plot
+const QRectF frame(72, 16, 504, 200); // of the curve, in the unit of the plot
 constexpr const char *box = "0 0 600 260";
 
 QString number(double value)

@@ -56,8 +56,9 @@
         row.element.hidden = !fits;
         hits += fits;
       }
-      if (form)
-        form.querySelector('output').textContent = `${hits} / ${rows.length}`;
+      const output = form?.querySelector('output');
+      if (output)
+        output.textContent = output.dataset.text.replace('%1', hits).replace('%2', rows.length);
     }
     function sort() {
       const isDown = sorted.startsWith('-');
