@@ -99,7 +99,7 @@ QVector<PxOption> PxOption::ofEveryCommand()
 {
     return ofCatalogue() + QVector<PxOption>{
         {"lang", "LANGUAGE", "The language of display names: en or de. Default: that of the locale, else German."},
-        {"verbose", "", "Print the debug messages of the library, too. The reason why a product or theme file could not be read is printed anyway, except by check, which prints no messages of the library without this."},
+        {"verbose", "", "Print the debug messages of the library, too. The reason why a product or theme file could not be read is printed anyway, except by check and proof, which print no messages of the library without this."},
         {"help", "", "This text."},
         {"version", "", "The version of the program."},
     };
