@@ -213,7 +213,9 @@ void PxHostileCommandsTest::commandIsBounded()
     const double seconds = usageOfChildren().seconds - start;
     QCOMPARE(found.status(),
              command.contains(QRegularExpression("check|diff|variants|why")) ? 1 : 0);
-    QVERIFY2(seconds <= maximumSecondsOfAll, qPrintable(QString::number(seconds)));
+    // One of the themes files has many thousand themes, and each has a page of its own.
+    const double slower = command.startsWith("proof") ? 3 : 1;
+    QVERIFY2(seconds <= maximumSecondsOfAll * slower, qPrintable(QString::number(seconds)));
     QCOMPARE(found.output().isEmpty(), command.startsWith("proof"));
     QCOMPARE(!found.json().isEmpty(), command.contains(QRegularExpression("json|sarif")));
 }

@@ -14,6 +14,8 @@
 
 namespace {
 
+constexpr int largestPicture = 480; // pixels
+
 /** The style sheet and the script, which stand in the program. */
 std::optional<PxProblem> writeResource(const char *name, const PxProofFolder &folder)
 {
@@ -38,9 +40,12 @@ std::optional<PxProblem> writeTheme(const PxProofCatalogue &catalogue, const PxP
 {
     if (auto problem = folder.write(theme.page + ".html", PxProofThemePage::page(catalogue, theme)))
         return problem;
-    const QImage picture = theme.theme.thumbnail();
-    if (picture.isNull())
+    if (!theme.hasPicture)
         return std::nullopt;
+    QImage picture = theme.theme.thumbnail();
+    if (picture.width() > largestPicture || picture.height() > largestPicture)
+        picture = picture.scaled(largestPicture, largestPicture, Qt::KeepAspectRatio,
+                                 Qt::SmoothTransformation);
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     picture.save(&buffer, "PNG");

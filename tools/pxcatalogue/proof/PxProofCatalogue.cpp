@@ -20,7 +20,8 @@ QVector<PxProofTheme> allThemes()
     for (const PxTheme &theme : PxThemeTable::sorted(PxThemeFactory::instance()->themeList())) {
         const QString page = PxPageNames::of(Kind::Theme, theme.id());
         const int count = ++counts[page];
-        themes.append({theme, count == 1 ? page : QString("%1_%2").arg(page).arg(count)});
+        themes.append({theme, count == 1 ? page : QString("%1_%2").arg(page).arg(count),
+                       !theme.thumbnail().isNull()});
     }
     return themes;
 }

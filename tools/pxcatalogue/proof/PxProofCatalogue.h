@@ -41,7 +41,7 @@ struct PxProofProduct
     bool isLegacy;
     QString page; ///< the name of its file without ending
     QVector<PxFinding> findings = {};
-    QVector<int> themes = {}; ///< the indices of those that allow it
+    QVector<int> themes = {}; ///< the indices of those that allow it, ascending
     QVector<PxProofVariant> variants = {};
     PxProofChanges changes = {};
 };
@@ -51,6 +51,7 @@ struct PxProofTheme
 {
     PxTheme theme;
     QString page;
+    bool hasPicture;
     PxProofChanges changes = {};
 };
 

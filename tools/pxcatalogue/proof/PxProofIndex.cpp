@@ -184,7 +184,7 @@ void addRow(PxHtml *html, const PxProofTheme &row, int productCount)
     const QString group = groupOf(theme);
     const QStringList words{theme.id(), theme.description(), group};
     html->open("tr", {{"data-text", shortened(words.join(' ').toLower())}, {"data-group", group}});
-    addPicture(html, theme.thumbnail().isNull() ? QString() : row.page + ".png");
+    addPicture(html, row.hasPicture ? row.page + ".png" : QString());
     addName(html, theme.id(), row.page);
     addCell(html, shortened(theme.description()));
     addCell(html, group);

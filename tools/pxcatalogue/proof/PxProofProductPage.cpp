@@ -24,7 +24,9 @@
 namespace {
 
 constexpr int longestName = 1000;
-constexpr int mostCompatible = 500; // in a large catalogue each page would link to all others
+// In a large catalogue each page would link to all others.
+constexpr int mostCompatible = 500;
+constexpr int mostThemes = 500;
 
 /** What the page is about. */
 struct Subject
@@ -38,6 +40,13 @@ struct Subject
 void addLink(PxHtml *html, const QString &name, const QString &page)
 {
     html->element("a", PxTerminal::shortened(name, longestName), {{"href", page + ".html"}});
+}
+
+/** How many are left out of a list. */
+void addRest(PxHtml *html, int count)
+{
+    if (count > 0)
+        html->element("p", PxProofWords::tr("Weitere: %1").arg(count));
 }
 
 void addChanges(PxHtml *html, const Subject &subject)
@@ -82,10 +91,9 @@ void addThemes(PxHtml *html, const Subject &subject)
 {
     QVector<QPair<PxReport, QVector<int>>> groups;
     QHash<QByteArray, int> groupOf;
-    PxShownProduct shown = subject.shown;
-    for (const int theme : subject.product.themes) {
-        shown.themeId = subject.catalogue.themes[theme].theme.id();
-        const PxReport report = PxProductReport::ofTheme(shown);
+    for (const int theme : subject.product.themes.mid(0, mostThemes)) {
+        const PxReport report =
+            PxProductReport::ofTheme(subject.shown, subject.catalogue.themes[theme].theme);
         const QByteArray key = QJsonDocument(report.json()).toJson(QJsonDocument::Compact);
         if (!groupOf.contains(key)) {
             groupOf.insert(key, groups.size());
@@ -104,6 +112,7 @@ void addThemes(PxHtml *html, const Subject &subject)
         html->close();
         PxProofReport::addTables(html, report);
     }
+    addRest(html, subject.product.themes.size() - mostThemes);
 }
 
 void addSwatch(PxHtml *html, const QColor &color)
@@ -153,9 +162,7 @@ void addCompatible(PxHtml *html, const Subject &subject)
         html->close();
     }
     html->close();
-    const int rest = subject.compatible.size() - mostCompatible;
-    if (rest > 0)
-        html->element("p", PxProofWords::tr("Weitere: %1").arg(rest));
+    addRest(html, subject.compatible.size() - mostCompatible);
 }
 
 /** The sections of the page, in their order. */

@@ -8,6 +8,8 @@
 #include "report/PxThemeTable.h"
 #include "writing/PxTerminal.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int longestName = 1000;
@@ -17,7 +19,7 @@ void addProducts(PxHtml *html, const PxProofCatalogue &catalogue, const PxProofT
     const int index = int(&theme - catalogue.themes.constData());
     html->open("ul", {{"class", "names"}});
     for (const PxProofProduct &product : catalogue.products) {
-        if (!product.themes.contains(index))
+        if (!std::binary_search(product.themes.begin(), product.themes.end(), index))
             continue;
         html->open("li");
         html->element("a", PxTerminal::shortened(product.type.productName(), longestName),
@@ -34,7 +36,7 @@ QByteArray PxProofThemePage::page(const PxProofCatalogue &catalogue, const PxPro
     PxProofPage page(catalogue.title, theme.theme.id());
     PxHtml &html = page.html();
     html.element("p", theme.theme.description(), {{"class", "quiet"}});
-    if (!theme.theme.thumbnail().isNull())
+    if (theme.hasPicture)
         html.single("img", {{"src", "drawings/" + theme.page + ".png"},
                             {"alt", theme.theme.description()}});
     if (catalogue.diff) {

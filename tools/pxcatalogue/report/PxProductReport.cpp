@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 
 namespace {
 
@@ -249,24 +250,26 @@ void addBarcodes(const Shown &shown, PxReport *report)
     }, rows);
 }
 
-QString defaultTemplate(const Shown &shown, const PxPageContext &kind, DefaultTemplateType type)
+using ThemeContext = std::optional<PxProductContext>; // nothing without a theme
+
+QString defaultTemplate(const Shown &shown, const ThemeContext &context, const PxPageContext &kind,
+                        DefaultTemplateType type)
 {
-    if (shown.themeId.isEmpty())
+    if (!context)
         return shown.product->findDefaultTemplate({"normal", kind, type}, true, true);
     // Asks like the editor, which has its own background for empty pages.
-    return PxProductContext(shown.type, shown.themeId)
-        .defaultTemplateForPage(type == DefaultTemplateTypeLayout, kind, true);
+    return context->defaultTemplateForPage(type == DefaultTemplateTypeLayout, kind, true);
 }
 
-void addTemplates(const Shown &shown, PxReport *report)
+void addTemplates(const Shown &shown, const ThemeContext &context, PxReport *report)
 {
     QVector<QJsonArray> rows;
     for (int i = 0; i < shown.kinds.size(); ++i) {
         const PxPageContext &kind = shown.kinds[i];
         rows.append({keywordOf(kind.pageType()), sideOf(kind),
                      PxReportValue::numbers(shown.pagesOfKind[i]),
-                     defaultTemplate(shown, kind, DefaultTemplateTypeLayout),
-                     defaultTemplate(shown, kind, DefaultTemplateTypeBackground)});
+                     defaultTemplate(shown, context, kind, DefaultTemplateTypeLayout),
+                     defaultTemplate(shown, context, kind, DefaultTemplateTypeBackground)});
     }
     const QString heading = QString("Default templates (theme %1, with the user's own)")
                                 .arg(shown.themeId.isEmpty() ? "normal" : shown.themeId);
@@ -277,6 +280,15 @@ void addTemplates(const Shown &shown, PxReport *report)
         {"layout", "Layout"},
         {"background", "Background"},
     }, rows);
+}
+
+void addTemplates(const Shown &shown, PxReport *report)
+{
+    addTemplates(shown,
+                 shown.themeId.isEmpty()
+                     ? ThemeContext()
+                     : ThemeContext(PxProductContext(shown.type, shown.themeId)),
+                 report);
 }
 
 void addTheme(const Shown &shown, PxReport *report)
@@ -450,20 +462,21 @@ void PxProductReport::warnOfPageCount(const PxShownProduct &shown, int pageCount
 PxReport PxProductReport::of(const PxShownProduct &shown)
 {
     PxReport report;
-    for (const auto add : {addProduct, addPages, addSizes, addPageKinds, addSpine, addSurroundings,
-                           addBarcodes, addTemplates, addTheme, addDesign, addVariants,
-                           addClassification, addLegacy, addProduction, addRedirects})
+    for (void (*const add)(const Shown &, PxReport *) :
+         {addProduct, addPages, addSizes, addPageKinds, addSpine, addSurroundings, addBarcodes,
+          addTemplates, addTheme, addDesign, addVariants, addClassification, addLegacy,
+          addProduction, addRedirects})
         add(shown, &report);
     return report;
 }
 
-PxReport PxProductReport::ofTheme(const PxShownProduct &shown)
+PxReport PxProductReport::ofTheme(const PxShownProduct &shown, const PxTheme &theme)
 {
-    const PxProductContext context(shown.type, shown.themeId);
+    const PxProductContext context(shown.type, theme);
     PxReport report;
     report.addFields("theme", "",
                      {{"pagesWithContent", "Pages with content", pagesWithContent(shown, context),
                        Format::PageNumbers}});
-    addTemplates(shown, &report);
+    addTemplates(shown, context, &report);
     return report;
 }

@@ -7,6 +7,7 @@
 #include <QString>
 
 class PxProductTypeConfigRegistry;
+class PxTheme;
 struct PxShownProduct;
 
 /** Everything that the library knows about one product with a certain page count. */
@@ -27,6 +28,6 @@ public:
     /** Tells a user who asked for this `pageCount` if it is lowered, or not offered. */
     static void warnOfPageCount(const PxShownProduct &shown, int pageCount);
     static PxReport of(const PxShownProduct &shown);
-    /** The pages with content and the default templates alone, in the theme of `shown`. */
-    static PxReport ofTheme(const PxShownProduct &shown);
+    /** The pages with content and the default templates alone, in a theme. */
+    static PxReport ofTheme(const PxShownProduct &shown, const PxTheme &theme);
 };
