@@ -13,10 +13,12 @@ PACKAGES = ccache cmake g++ libqpdf-dev librsvg2-bin libxml2-utils ninja-build p
     qttools5-dev-tools tzdata
 ROOT = $(if $(filter 0,$(shell id -u)),,sudo)
 
-.PHONY: help demo pictures check quick mutants platform bench benchmarks fuzz valgrind clang tidy build setup clean
+.PHONY: help demo proof browser pictures check quick mutants platform bench benchmarks fuzz valgrind clang tidy build setup clean
 
 help:
 	@echo "make demo       set up, build, and show what the library answers about the sample catalogue, and draw a book"
+	@echo "make proof      set up, build, and write the sample catalogue as pages for a browser"
+	@echo "make browser    set up, build, and test these pages in Chromium"
 	@echo "make pictures   write the pictures of README.md again, into docs/pictures"
 	@echo "make check      set up, build, and run every test (PRESET=debug|release|asan|tsan, WERROR=ON)"
 	@echo "make quick      the same without the tests that take long (hostile files, headers alone)"
@@ -41,9 +43,21 @@ demo: build
 	$(RUN) $(BUILD)/bin/pxcatalogue draw BOOK_A4_PORTRAIT --pages 26 --resources data/sample --output $(BUILD)/book.svg
 	@echo "The drawing of the book: $(BUILD)/book.svg"
 
+proof: build
+	$(BUILD)/bin/pxcatalogue proof --resources data/sample --output $(BUILD)/proof
+	@echo "Open this in a browser: file://$(CURDIR)/$(BUILD)/proof/index.html"
+
+# The tests write the proofs that they open.
+browser pictures: PACKAGES += chromium nodejs npm tidy
+browser: build
+	cd tests/browser && npm ci --no-audit --no-fund && \
+	    PROGRAM=$(CURDIR)/$(BUILD)/bin/pxcatalogue SAMPLE=$(CURDIR)/data/sample node --test
+
 pictures: build
 	$(BUILD)/bin/pxcatalogue draw BOOK_A4_PORTRAIT --pages 26 --sheet cover --lang en --resources data/sample --output docs/pictures/cover.svg
 	$(BUILD)/bin/pxcatalogue draw CALENDAR_WALL_A4 --sheet 1 --lang en --resources data/sample --output docs/pictures/calendar.svg
+	$(BUILD)/bin/pxcatalogue proof --lang en --title "Sample catalogue" --resources data/sample --output $(BUILD)/proof-en
+	cd tests/browser && npm ci --no-audit --no-fund && node pictures.js $(CURDIR)/$(BUILD)/proof-en $(CURDIR)/docs/pictures
 
 # What the design keeps until exit is still reachable then, and no leak.
 valgrind: PACKAGES += valgrind

@@ -153,7 +153,7 @@ void PxProofTest::pagesShowWhatElseIsKnown()
     const QString faulty = section(page("product-book-mini"), "findings");
     QVERIFY(faulty.contains("did you mean \"normalpages\"?"));
     QVERIFY(faulty.contains("products/book_mini.xml:26:48"));
-    QVERIFY(faulty.contains("fullcover,normalpags"));
+    QVERIFY(faulty.contains("emptypage,normalpags"));
     const QDomDocument book = page("product-book-a4-portrait");
     QVERIFY(section(book, "findings").contains("No findings."));
     QVERIFY(section(book, "spine").contains("20.3"));

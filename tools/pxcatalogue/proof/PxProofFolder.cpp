@@ -43,15 +43,11 @@ bool isProof(const QString &path)
     return QFileInfo::exists(path + '/' + writtenLast) && hasOnlyFilesOfProofs(path);
 }
 
-PxProblem cannot(const QString &path, const QString &why)
-{
-    return {QString("the folder \"%1\" cannot be written: %2").arg(path, why)};
-}
-
 } // namespace
 
 PxProofFolder::PxProofFolder(const QString &path)
-    : m_path(placeOf(path))
+    : m_given(path)
+    , m_path(placeOf(path))
     , m_unfinished(m_path + ".unfinished")
     , m_old(m_path + ".old")
     , m_lock(m_path + ".lock")
@@ -65,19 +61,23 @@ PxProofFolder::~PxProofFolder()
         QDir(m_unfinished).removeRecursively();
 }
 
+PxProblem PxProofFolder::cannot(const QString &why) const
+{
+    return {QString("the folder \"%1\" cannot be written: %2").arg(m_given, why)};
+}
+
 std::optional<PxProblem> PxProofFolder::begin()
 {
     if (const auto problem = problemOfPlace())
         return problem;
     if (!QDir().mkpath(QFileInfo(m_path).path()) || !m_lock.tryLock(0))
-        return cannot(m_path, m_lock.error() == QLockFile::LockFailedError
-                                  ? "another run writes it"
-                                  : "no file can be made beside it");
+        return cannot(m_lock.error() == QLockFile::LockFailedError
+                          ? "another run writes it"
+                          : "no file can be made beside it");
     if (const auto problem = clearLeftovers())
         return problem;
     m_isBegun = QDir().mkpath(m_unfinished + "/drawings");
-    return m_isBegun ? std::nullopt
-                     : std::optional(cannot(m_path, "no folder can be made beside it"));
+    return m_isBegun ? std::nullopt : std::optional(cannot("no folder can be made beside it"));
 }
 
 std::optional<PxProblem> PxProofFolder::problemOfPlace() const
@@ -86,9 +86,9 @@ std::optional<PxProblem> PxProofFolder::problemOfPlace() const
     if (!info.exists())
         return std::nullopt;
     if (!info.isDir())
-        return cannot(m_path, "it is a file; name another folder");
+        return cannot("it is a file; name another folder");
     if (!isEmpty(m_path) && !isProof(m_path))
-        return cannot(m_path, "it has files and is not an earlier proof; name another folder");
+        return cannot("it has files and is not an earlier proof; name another folder");
     return std::nullopt;
 }
 
@@ -96,11 +96,11 @@ std::optional<PxProblem> PxProofFolder::clearLeftovers() const
 {
     // A run that was killed after it had moved the earlier proof away.
     if (!QFileInfo::exists(m_path) && isProof(m_old) && !QDir().rename(m_old, m_path))
-        return cannot(m_path, QString("\"%1\" cannot be moved back").arg(m_old));
+        return cannot(QString("\"%1\" cannot be moved back").arg(m_old));
     for (const QString &leftover : {m_unfinished, m_old}) {
         if (QFileInfo::exists(leftover) &&
             !(hasOnlyFilesOfProofs(leftover) && QDir(leftover).removeRecursively()))
-            return cannot(m_path, QString("\"%1\" is in the way").arg(leftover));
+            return cannot(QString("\"%1\" is in the way").arg(leftover));
     }
     return std::nullopt;
 }
@@ -110,17 +110,16 @@ std::optional<PxProblem> PxProofFolder::write(const QString &name, const QByteAr
     QFile file(m_unfinished + '/' + name);
     const bool isWritten = file.open(QIODevice::WriteOnly | QIODevice::NewOnly) &&
                            file.write(contents) == contents.size() && file.flush();
-    return isWritten ? std::nullopt
-                     : std::optional(cannot(m_path, name + ": " + file.errorString()));
+    return isWritten ? std::nullopt : std::optional(cannot(name + ": " + file.errorString()));
 }
 
 std::optional<PxProblem> PxProofFolder::finish()
 {
     if (QFileInfo::exists(m_path) && !QDir().rename(m_path, m_old))
-        return cannot(m_path, "the earlier proof cannot be moved away");
+        return cannot("the earlier proof cannot be moved away");
     if (!QDir().rename(m_unfinished, m_path)) {
         QDir().rename(m_old, m_path);
-        return cannot(m_path, "the new one cannot be moved to its place");
+        return cannot("the new one cannot be moved to its place");
     }
     m_isBegun = false;
     QDir(m_old).removeRecursively();

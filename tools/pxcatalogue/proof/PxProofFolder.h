@@ -35,6 +35,9 @@ private:
     std::optional<PxProblem> problemOfPlace() const;
     std::optional<PxProblem> clearLeftovers() const;
 
+    PxProblem cannot(const QString &why) const;
+
+    const QString m_given; ///< as the user calls it
     QString m_path;
     QString m_unfinished; ///< what is written, until it is finished
     QString m_old;        ///< an earlier proof, until the new one is at its place

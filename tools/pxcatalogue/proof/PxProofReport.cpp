@@ -95,7 +95,10 @@ void addOrigins(PxHtml *html, const PxReport &report, const Section &section)
 
 void addTable(PxHtml *html, const PxReport &report, const Section &section)
 {
-    html->open("div", {{"class", "wide"}});
+    html->open("div", {{"class", "wide"},
+                       {"tabindex", "0"}, // it can be scrolled sideways
+                       {"role", "region"},
+                       {"aria-label", PxProofWords::heading(section.key, section.heading)}});
     html->open("table");
     addHeads(html, section);
     html->open("tbody");

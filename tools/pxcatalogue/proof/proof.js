@@ -5,11 +5,6 @@
 (() => {
   document.documentElement.classList.add('has-script');
 
-  for (const list of document.querySelectorAll('.list'))
-    makeList(list);
-  for (const drawings of document.querySelectorAll('.drawings'))
-    switchDrawings(drawings);
-
   // The state of all lists is in the address, behind "#", so that a link shows the same. Without
   // a "=" there stands the name of a heading.
   function readState() {
@@ -132,4 +127,9 @@
     drawings.addEventListener('change', update);
     update();
   }
+
+  for (const list of document.querySelectorAll('.list'))
+    makeList(list);
+  for (const drawings of document.querySelectorAll('.drawings'))
+    switchDrawings(drawings);
 })();
