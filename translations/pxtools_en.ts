@@ -620,6 +620,11 @@
         <source>Breite mm</source>
         <translation>Width in mm</translation>
     </message>
+    <message>
+        <source>%1 von %2</source>
+        <comment>hits</comment>
+        <translation>%1 of %2</translation>
+    </message>
 </context>
 <context>
     <name>PxSheetLabels</name>
