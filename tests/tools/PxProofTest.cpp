@@ -17,6 +17,7 @@ private slots:
     void init();
     void valuesHaveTheirOrigins();
     void pagesShowWhatElseIsKnown();
+    void wordsAreTranslated();
     void changesAreShown_data();
     void changesAreShown();
     void hostileNamesAreTexts();
@@ -167,6 +168,32 @@ void PxProofTest::pagesShowWhatElseIsKnown()
     QVERIFY(!elements(cup, "rect").isEmpty());
     QCOMPARE(linkTo(page("theme-hochzeit"), "BOOK_A4_PORTRAIT"),
              QString("product-book-a4-portrait.html"));
+}
+
+/** Labels of reports are English in the source, all other words of the pages are German. */
+void PxProofTest::wordsAreTranslated()
+{
+    const QSet<QString> alike{"Name",     "Layout", "Layouts", "Material",
+                              "Cliparts", "Text",   "Barcodes"};
+    QMap<QString, QSet<QString>> words;
+    for (const QString language : {"de", "en"}) {
+        QCOMPARE(write({"--lang", language, "--title", "x"}).status(), 0);
+        for (const char *name : {"index", "product-book-a4-portrait", "product-cup2",
+                                 "product-book-square-linen", "theme-hochzeit"}) {
+            const QDomDocument page = this->page(name);
+            for (const char *tag : {"th", "h2", "h3", "legend", "label", "button", "summary"}) {
+                for (const QDomElement &element : elements(page, tag)) {
+                    const bool isName = element.attribute("class") == "name";
+                    const QString text = element.firstChild().toText().data().trimmed();
+                    if (!isName && text.contains(QRegularExpression("[a-z]")))
+                        words[language].insert(text);
+                }
+            }
+        }
+    }
+    QVERIFY(words["de"].size() > 100);
+    const QSet<QString> untranslated = words["de"] & words["en"];
+    QCOMPARE(QStringList((untranslated - alike).values()).join(", "), QString());
 }
 
 void PxProofTest::changesAreShown_data()
