@@ -2,116 +2,131 @@
 
 #include "drawing/PxDrawing.h"
 #include "drawing/PxDrawnFont.h"
-#include "writing/PxVisibleText.h"
+#include "writing/PxMarkup.h"
 
-#include <QBuffer>
 #include <QCoreApplication>
-#include <QXmlStreamWriter>
+#include <QIODevice>
 
 #include <cmath>
+#include <cstdlib>
 #include <initializer_list>
+#include <iterator>
 
 namespace {
 
 constexpr const char *nameOfSvg = "http://www.w3.org/2000/svg";
 constexpr const char *nameOfLayers = "http://www.inkscape.org/namespaces/inkscape";
 
+/** The value as it is written, with two decimals. */
+qint64 hundredths(double value)
+{
+    constexpr double surelyExact = 1e9;
+    const double product = value * 100;
+    const double below = std::floor(product);
+    // In the middle between two numbers the exact value decides, and the product is not exact.
+    const bool isInMiddle = std::abs(product - below - 0.5) < 1e-3;
+    if (isInMiddle || std::abs(product) > surelyExact)
+        return QByteArray::number(value, 'f', 2).replace(".", "").toLongLong();
+    return qint64(std::floor(product + 0.5));
+}
+
 /** With a point, at most two decimals and no exponent. */
-QString number(double value)
+void appendNumber(QByteArray *text, qint64 hundredths)
 {
-    QString text = QString::number(value, 'f', 2);
-    while (text.endsWith('0'))
-        text.chop(1);
-    if (text.endsWith('.'))
-        text.chop(1);
-    return text == QLatin1String("-0") ? QString("0") : text;
-}
-
-QString numbers(std::initializer_list<double> values)
-{
-    QString text;
-    for (const double value : values)
-        text += (text.isEmpty() ? QString() : QString(' ')) + number(value);
-    return text;
-}
-
-/** Space-separated, like numbers(). */
-QString list(const QVector<int> &values)
-{
-    QString text;
-    for (const int value : values)
-        text += (text.isEmpty() ? QString() : QString(' ')) + QString::number(value);
-    return text;
-}
-
-QString box(const QRect &rect)
-{
-    return numbers(
-        {double(rect.x()), double(rect.y()), double(rect.width()), double(rect.height())});
-}
-
-QString translation(double x, double y)
-{
-    return "translate(" + numbers({x, y}) + ')';
-}
-
-/** The text with U+FFFD for what no XML file can hold, escaped or not. */
-QString holdable(const QString &text)
-{
-    QString held = text;
-    for (int i = 0; i < text.size(); ++i) {
-        const QChar unit = text[i];
-        if (unit.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate()) {
-            ++i;
-            continue;
-        }
-        const bool isControl = unit < ' ' && unit != '\t' && unit != '\n' && unit != '\r';
-        if (isControl || unit.isSurrogate() || unit.unicode() >= 0xFFFE)
-            held[i] = QChar::ReplacementCharacter;
+    quint64 rest = quint64(std::llabs(hundredths));
+    int decimals = 2;
+    for (; decimals > 0 && rest % 10 == 0; --decimals)
+        rest /= 10;
+    char digits[32];
+    char *first = std::end(digits);
+    for (int written = 0; rest > 0 || written <= decimals; ++written, rest /= 10) {
+        if (decimals > 0 && written == decimals)
+            *--first = '.';
+        *--first = char('0' + rest % 10);
     }
-    return held;
+    if (hundredths < 0)
+        *--first = '-';
+    text->append(first, int(std::end(digits) - first));
+}
+
+void appendNumber(QByteArray *text, double value)
+{
+    appendNumber(text, hundredths(value));
+}
+
+/** With a blank between two. */
+template <typename Numbers>
+void appendNumbers(QByteArray *text, const Numbers &numbers)
+{
+    bool isFirst = true;
+    for (const auto number : numbers) {
+        if (!isFirst)
+            *text += ' ';
+        appendNumber(text, double(number));
+        isFirst = false;
+    }
+}
+
+void appendTranslation(QByteArray *text, double x, double y)
+{
+    *text += "translate(";
+    appendNumbers(text, std::initializer_list<double>{x, y});
+    *text += ')';
+}
+
+void appendColor(QByteArray *text, const QColor &color)
+{
+    static constexpr char ourDigits[] = "0123456789abcdef";
+    *text += '#';
+    for (int shift = 20; shift >= 0; shift -= 4)
+        *text += ourDigits[(color.rgb() >> shift) & 0xF];
 }
 
 /** The commands of a path: M, L or H or V, A, and Z. */
-QString pathData(const QVector<PxDrawnStep> &steps)
+void appendPath(QByteArray *data, const QVector<PxDrawnStep> &steps)
 {
-    QString data;
-    QPointF at;
+    qint64 atX = 0;
+    qint64 atY = 0;
     for (const PxDrawnStep &step : steps) {
-        const QString x = number(step.to.x());
-        const QString y = number(step.to.y());
-        switch (step.kind) {
-        case PxDrawnStep::Move:
-            data += 'M' + x + ' ' + y;
-            break;
-        case PxDrawnStep::Line:
-            data += y == number(at.y())   ? 'H' + x
-                    : x == number(at.x()) ? 'V' + y
-                                          : 'L' + x + ' ' + y;
-            break;
-        case PxDrawnStep::Arc:
-            data += 'A' + numbers({step.radius, step.radius, 0, 0, double(step.isClockwise)}) +
-                    ' ' + x + ' ' + y;
-            break;
-        case PxDrawnStep::Close:
-            data += 'Z';
+        if (step.kind == PxDrawnStep::Close) {
+            *data += 'Z';
             continue;
         }
-        at = step.to;
+        const qint64 x = hundredths(step.to.x());
+        const qint64 y = hundredths(step.to.y());
+        const bool isLine = step.kind == PxDrawnStep::Line;
+        const bool isLevel = isLine && y == atY;
+        const bool isUpright = isLine && !isLevel && x == atX;
+        if (step.kind == PxDrawnStep::Arc) {
+            *data += 'A';
+            appendNumbers(data, std::initializer_list<double>{step.radius, step.radius, 0, 0,
+                                                              double(step.isClockwise)});
+            *data += ' ';
+        } else {
+            *data += !isLine ? 'M' : isLevel ? 'H' : isUpright ? 'V' : 'L';
+        }
+        if (!isUpright)
+            appendNumber(data, x);
+        if (!isUpright && !isLevel)
+            *data += ' ';
+        if (!isLevel)
+            appendNumber(data, y);
+        atX = x;
+        atY = y;
     }
-    return data;
 }
 
 class Writer
 {
 public:
-    /** Without a prefix of ids for a file of its own. */
-    explicit Writer(QXmlStreamWriter *xml, const QString &prefix = QString())
+    /** All ids begin with the prefix. */
+    explicit Writer(PxMarkup *xml, const QString &prefix = QString())
         : m_xml(*xml)
         , m_prefix(prefix)
-    {}
+    {
+        m_value.reserve(256); // it is filled again and again
+    }
 
-    void writeFile(const PxDrawing &drawing);
     void write(const PxDrawing &drawing);
 
 private:
@@ -121,56 +136,78 @@ private:
     void writePaint(const PxDrawnShape &shape);
     void writeLetters(const PxDrawnShape &shape);
     void writeTitles(const QString &title, const QString &description, bool haveIds);
-    void attribute(const char *name, const QString &value)
+
+    void attribute(const char *name, const QString &value) { m_xml.attribute(name, value); }
+    void word(const char *name, const char *value)
     {
-        m_xml.writeAttribute(QLatin1String(name), held(value));
+        m_xml.plainAttribute(name, QLatin1String(value));
     }
-    /** In a page, characters that cannot be seen are escapes: a reference would be one of them. */
-    QString held(const QString &text) const
+    /** An attribute whose value `append` writes. */
+    template <typename Append>
+    void value(const char *name, Append append)
     {
-        return m_prefix.isEmpty() ? holdable(text) : PxVisibleText::line(text);
+        m_value.resize(0);
+        append(&m_value);
+        m_xml.plainAttribute(name, QLatin1String(m_value.constData(), m_value.size()));
+    }
+    template <typename Numbers>
+    void numbers(const char *name, const Numbers &values)
+    {
+        value(name, [&values](QByteArray *text) { appendNumbers(text, values); });
+    }
+    void number(const char *name, double number)
+    {
+        value(name, [number](QByteArray *text) { appendNumber(text, number); });
+    }
+    void color(const char *name, const QColor &color)
+    {
+        value(name, [&color](QByteArray *text) { appendColor(text, color); });
+    }
+    void box(const char *name, const QRect &rect)
+    {
+        numbers(name, std::initializer_list<int>{rect.x(), rect.y(), rect.width(), rect.height()});
+    }
+    void millimetres(const char *name, int length)
+    {
+        value(name, [length](QByteArray *text) {
+            appendNumber(text, length / 10.0);
+            *text += "mm";
+        });
+    }
+    void translation(const QPoint &by)
+    {
+        value("transform", [&by](QByteArray *text) { appendTranslation(text, by.x(), by.y()); });
     }
 
-    QXmlStreamWriter &m_xml;
-    const QString m_prefix; ///< of ids
+    PxMarkup &m_xml;
+    const QString m_prefix;
+    QByteArray m_value;
 };
-
-void Writer::writeFile(const PxDrawing &drawing)
-{
-    m_xml.setAutoFormatting(true);
-    m_xml.setAutoFormattingIndent(1);
-    m_xml.writeStartDocument();
-    m_xml.writeStartElement("svg");
-    m_xml.writeDefaultNamespace(nameOfSvg);
-    m_xml.writeNamespace(nameOfLayers, "inkscape");
-    write(drawing);
-    m_xml.writeEndDocument();
-}
 
 /** The element, which is open. */
 void Writer::write(const PxDrawing &drawing)
 {
     const QSize size = drawing.size();
     const PxDrawnProduct &product = drawing.product;
-    attribute("width", number(size.width() / 10.0) + "mm");
-    attribute("height", number(size.height() / 10.0) + "mm");
-    attribute("viewBox", box(QRect(QPoint(), size)));
+    millimetres("width", size.width());
+    millimetres("height", size.height());
+    box("viewBox", QRect(QPoint(), size));
     attribute("xml:lang", QCoreApplication::translate("PxDrawing", "de", "code of the language"));
-    attribute("role", "img");
+    word("role", "img");
     attribute("aria-labelledby", m_prefix + "title " + m_prefix + "desc");
     attribute("font-family", pxDrawnFontFamilies().join(", "));
-    attribute("data-format", "1");
+    word("data-format", "1");
     attribute("data-product", product.type.productName());
     attribute("data-class", product.className);
-    attribute("data-page-count", QString::number(product.pageCount));
+    number("data-page-count", product.pageCount);
     if (!product.themeId.isEmpty())
         attribute("data-theme", product.themeId);
-    attribute("data-units-per-mm", "10");
-    attribute("data-annotation", QString::number(drawing.annotation));
+    word("data-units-per-mm", "10");
+    number("data-annotation", drawing.annotation);
     writeTitles(drawing.title, drawing.description, true);
     for (int i = 0; i < drawing.sheets.size(); ++i)
         writeSheet(drawing.sheets[i], drawing.positionOf(i));
-    m_xml.writeEndElement();
+    m_xml.close();
 }
 
 /** The union of the pages with their bleed. With a negative bleed it lies within the trim. */
@@ -189,45 +226,44 @@ void Writer::writeSheet(const PxDrawingSheet &sheet, const QPoint &position)
     for (const PxDrawnPage &page : sheet.sheet.pages)
         pages.append(page.number);
     const QString id = m_prefix + "sheet-" + QString::number(pages.value(0));
-    m_xml.writeStartElement("g");
+    m_xml.open("g");
     attribute("id", id);
-    attribute("class", "sheet");
-    attribute("data-kind", ourKinds[int(sheet.sheet.kind)]);
-    attribute("data-pages", list(pages));
-    attribute("data-stands-for", list(sheet.sheet.standsFor));
-    attribute("data-trim", box(sheet.sheet.trim));
-    attribute("data-total", box(totalOf(sheet.sheet)));
-    attribute("data-canvas", box(sheet.canvas));
-    const QPoint origin = position - sheet.canvas.topLeft();
-    attribute("transform", translation(origin.x(), origin.y()));
+    word("class", "sheet");
+    word("data-kind", ourKinds[int(sheet.sheet.kind)]);
+    numbers("data-pages", pages);
+    numbers("data-stands-for", sheet.sheet.standsFor);
+    box("data-trim", sheet.sheet.trim);
+    box("data-total", totalOf(sheet.sheet));
+    box("data-canvas", sheet.canvas);
+    translation(position - sheet.canvas.topLeft());
     writeTitles(sheet.title, sheet.description, false);
     for (int layer = 0; layer < pxDrawnLayerCount; ++layer) {
         const QVector<PxDrawnShape> &shapes = sheet.layers[std::size_t(layer)];
         if (shapes.isEmpty())
             continue;
         const QString name = pxDrawnLayerName(layer);
-        m_xml.writeStartElement("g");
+        m_xml.open("g");
         attribute("id", id + '-' + name);
         attribute("class", "layer " + name);
-        if (m_prefix.isEmpty()) {
-            m_xml.writeAttribute(nameOfLayers, "groupmode", "layer");
-            m_xml.writeAttribute(nameOfLayers, "label", pxDrawnLayerLabel(layer));
+        if (m_xml.kind() == PxMarkup::Kind::File) {
+            word("inkscape:groupmode", "layer");
+            attribute("inkscape:label", pxDrawnLayerLabel(layer));
         }
         for (const PxDrawnShape &shape : shapes)
             writeShape(shape);
-        m_xml.writeEndElement();
+        m_xml.close();
     }
-    m_xml.writeEndElement();
+    m_xml.close();
 }
 
 void Writer::writeTitles(const QString &title, const QString &description, bool haveIds)
 {
     for (const auto &[tag, text] : {std::pair("title", title), std::pair("desc", description)}) {
-        m_xml.writeStartElement(tag);
+        m_xml.open(tag);
         if (haveIds)
             attribute("id", m_prefix + tag);
-        m_xml.writeCharacters(held(text));
-        m_xml.writeEndElement();
+        m_xml.text(text);
+        m_xml.close();
     }
 }
 
@@ -235,15 +271,15 @@ void Writer::writeShape(const PxDrawnShape &shape)
 {
     static constexpr const char *ourTags[] = {"g",      "rect",    "line", "path",
                                               "circle", "ellipse", "text"};
-    m_xml.writeStartElement(ourTags[shape.kind]);
+    m_xml.open(ourTags[shape.kind]);
     if (!shape.className.isEmpty())
-        attribute("class", QString::fromUtf8(shape.className));
+        word("class", shape.className.constData());
     writeGeometry(shape);
     for (const auto &[name, value] : shape.attributes)
         attribute(name.constData(), value);
     if (shape.kind == PxDrawnShape::Group) {
         if (!shape.translation.isNull() || shape.className == "panel")
-            attribute("transform", translation(shape.translation.x(), shape.translation.y()));
+            translation(shape.translation);
         for (const PxDrawnShape &child : shape.children)
             writeShape(child);
     } else if (shape.kind == PxDrawnShape::Text) {
@@ -251,7 +287,7 @@ void Writer::writeShape(const PxDrawnShape &shape)
     } else {
         writePaint(shape);
     }
-    m_xml.writeEndElement();
+    m_xml.close();
 }
 
 void Writer::writeGeometry(const PxDrawnShape &shape)
@@ -262,38 +298,40 @@ void Writer::writeGeometry(const PxDrawnShape &shape)
     case PxDrawnShape::Group:
         break;
     case PxDrawnShape::Rect:
-        attribute("x", number(rect.x()));
-        attribute("y", number(rect.y()));
-        attribute("width", number(rect.width()));
-        attribute("height", number(rect.height()));
+        number("x", rect.x());
+        number("y", rect.y());
+        number("width", rect.width());
+        number("height", rect.height());
         break;
     case PxDrawnShape::Line:
-        attribute("x1", number(shape.line.x1()));
-        attribute("y1", number(shape.line.y1()));
-        attribute("x2", number(shape.line.x2()));
-        attribute("y2", number(shape.line.y2()));
+        number("x1", shape.line.x1());
+        number("y1", shape.line.y1());
+        number("x2", shape.line.x2());
+        number("y2", shape.line.y2());
         break;
     case PxDrawnShape::Path:
-        attribute("d", pathData(shape.steps));
+        value("d", [&shape](QByteArray *data) { appendPath(data, shape.steps); });
         break;
     case PxDrawnShape::Circle:
-        attribute("cx", number(center.x()));
-        attribute("cy", number(center.y()));
-        attribute("r", number(rect.width() / 2));
+        number("cx", center.x());
+        number("cy", center.y());
+        number("r", rect.width() / 2);
         break;
     case PxDrawnShape::Ellipse:
-        attribute("cx", number(center.x()));
-        attribute("cy", number(center.y()));
-        attribute("rx", number(rect.width() / 2));
-        attribute("ry", number(rect.height() / 2));
+        number("cx", center.x());
+        number("cy", center.y());
+        number("rx", rect.width() / 2);
+        number("ry", rect.height() / 2);
         break;
     case PxDrawnShape::Text:
         if (shape.readsUpward) {
-            attribute("transform",
-                      translation(shape.position.x(), shape.position.y()) + " rotate(-90)");
+            value("transform", [&shape](QByteArray *text) {
+                appendTranslation(text, shape.position.x(), shape.position.y());
+                *text += " rotate(-90)";
+            });
         } else {
-            attribute("x", number(shape.position.x()));
-            attribute("y", number(shape.position.y()));
+            number("x", shape.position.x());
+            number("y", shape.position.y());
         }
         break;
     }
@@ -301,48 +339,47 @@ void Writer::writeGeometry(const PxDrawnShape &shape)
 
 void Writer::writePaint(const PxDrawnShape &shape)
 {
-    attribute("fill", shape.fill.isValid() ? shape.fill.name() : QString("none"));
+    if (shape.fill.isValid())
+        color("fill", shape.fill);
+    else
+        word("fill", "none");
     const PxDrawnLine &line = shape.stroke;
     if (line.width <= 0)
         return;
-    attribute("stroke", line.color.name());
-    attribute("stroke-width", number(line.width));
-    QString dashes;
-    for (const double dash : line.dashes)
-        dashes += (dashes.isEmpty() ? QString() : QString(' ')) + number(dash);
-    if (!dashes.isEmpty())
-        attribute("stroke-dasharray", dashes);
+    color("stroke", line.color);
+    number("stroke-width", line.width);
+    if (!line.dashes.isEmpty())
+        numbers("stroke-dasharray", line.dashes);
     if (line.opacity < 1)
-        attribute("stroke-opacity", number(line.opacity));
+        number("stroke-opacity", line.opacity);
 }
 
 void Writer::writeLetters(const PxDrawnShape &shape)
 {
-    attribute("font-size", number(shape.fontSize));
+    number("font-size", shape.fontSize);
     if (shape.isBold)
-        attribute("font-weight", "bold");
+        word("font-weight", "bold");
     if (shape.anchor != PxDrawnShape::Anchor::Start)
-        attribute("text-anchor", shape.anchor == PxDrawnShape::Anchor::End ? "end" : "middle");
+        word("text-anchor", shape.anchor == PxDrawnShape::Anchor::End ? "end" : "middle");
     if (shape.fill.isValid())
-        attribute("fill", shape.fill.name());
-    m_xml.writeCharacters(held(shape.text));
+        color("fill", shape.fill);
+    m_xml.text(shape.text);
 }
 
 } // namespace
 
 void PxDrawingSvg::write(const PxDrawing &drawing, QIODevice *device)
 {
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    QXmlStreamWriter xml(&buffer);
-    Writer(&xml).writeFile(drawing);
-    // No program needs to see them as they are, and terminals must not.
-    device->write(PxVisibleText::xml(buffer.data()).toUtf8());
+    PxMarkup xml(PxMarkup::Kind::File);
+    xml.open("svg");
+    xml.plainAttribute("xmlns", QLatin1String(nameOfSvg));
+    xml.plainAttribute("xmlns:inkscape", QLatin1String(nameOfLayers));
+    Writer(&xml).write(drawing);
+    device->write("<?xml version=\"1.0\" encoding=\"UTF-8\"?>" + xml.bytes() + '\n');
 }
 
-void PxDrawingSvg::write(const PxDrawing &drawing, const QString &prefix, QXmlStreamWriter *page)
+void PxDrawingSvg::write(const PxDrawing &drawing, const QString &prefix, PxMarkup *page)
 {
-    page->writeStartElement("svg");
-    page->writeAttribute("xmlns", nameOfSvg);
+    page->open("svg");
     Writer(page, prefix).write(drawing);
 }

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QBuffer>
+#include "writing/PxMarkup.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QVector>
-#include <QXmlStreamWriter>
 
 /**
  * Writes elements of HTML. All texts are escaped, and characters that cannot be seen become
@@ -20,9 +20,6 @@ public:
     };
     using Attributes = QVector<Attribute>;
 
-    PxHtml();
-    Q_DISABLE_COPY(PxHtml)
-
     /** Opens an element; close() closes the one that was opened last. */
     void open(const char *name, const Attributes &attributes = {});
     void close();
@@ -32,7 +29,7 @@ public:
     /** An element that never has an end tag, such as "img". */
     void single(const char *name, const Attributes &attributes);
     /** For a drawing, which is written by its own writer. */
-    QXmlStreamWriter *writer() { return &m_xml; }
+    PxMarkup *writer() { return &m_html; }
 
     /** The document, with its type. */
     QByteArray document() const;
@@ -40,7 +37,5 @@ public:
 private:
     void writeAttributes(const Attributes &attributes);
 
-    QByteArray m_bytes;
-    QBuffer m_buffer;
-    QXmlStreamWriter m_xml;
+    PxMarkup m_html{PxMarkup::Kind::Page};
 };
