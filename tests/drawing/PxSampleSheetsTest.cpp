@@ -1,6 +1,8 @@
 #include "PxFoundShapes.h"
 
 #include "drawing/PxDrawnProductReader.h"
+#include "drawing/PxDrawnWords.h"
+#include "drawing/PxSharedSheets.h"
 
 #include <PxProductProperties.h>
 
@@ -22,6 +24,7 @@ private slots:
     void itemsHaveTheirPlaces_data() { addProducts(); }
     void itemsHaveTheirPlaces();
     void drawsTheBook();
+    void sharesSheetsBetweenPageCounts();
     void drawsFittings();
     void knowsTheFile();
     void knowsTheTheme();
@@ -274,6 +277,24 @@ void PxSampleSheetsTest::drawsTheBook()
     QCOMPARE(numbers[1].attribute("data-position"), QString("2020 2910"));
     QVERIFY(!book.sheets[1].pages[0].isPrinted && book.sheets[1].pages[1].isPrinted);
     QCOMPARE(pxFindShapes(book.sheets[1], "page-number").size(), 1);
+}
+
+void PxSampleSheetsTest::sharesSheetsBetweenPageCounts()
+{
+    QStringList found;
+    for (const PxSharedSheet &shared :
+         pxSharedSheets({drawn("BOOK_A4_PORTRAIT", 26), drawn("BOOK_A4_PORTRAIT", 28)})) {
+        QStringList uses;
+        for (const PxSharedSheet::Use &use : shared.uses)
+            uses.append(QString::number(use.pageCount) + ": " + PxDrawnWords::pages(use.pages));
+        found.append(PxDrawnWords::heading(shared.sheet) + " (" + uses.join("; ") + ')');
+    }
+    // The spines differ. Numbers are drawn where they do not depend on the page count.
+    QCOMPARE(found, QStringList({"Umschlag, Seiten 0-2 (26: Seiten 0-2)",
+                                 "Umschlag, Seiten 0-2 (28: Seiten 0-2)",
+                                 "Doppelseite, Seiten 3-4 (26: Seiten 3-4; 28: Seiten 3-4)",
+                                 "Doppelseite (26: Seiten 5-28; 28: Seiten 5-30)",
+                                 "Doppelseite (26: Seiten 29-30; 28: Seiten 31-32)"}));
 }
 
 void PxSampleSheetsTest::drawsFittings()

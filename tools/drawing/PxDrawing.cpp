@@ -61,25 +61,26 @@ bool fitsPaper(const QSize &size, int annotation)
     return longer <= longSide * annotation && shorter <= shortSide * annotation;
 }
 
-bool fitsPaper(const PxDrawnProduct &product, const PxDrawnSheet &sheet, int annotation)
+/** Draws every sheet of the product with the smallest annotation with which all fit the paper. */
+QVector<PxDrawingSheet> drawnToFit(const PxDrawnProduct &product, PxDrawnLayers layers,
+                                   int *annotation)
 {
-    return fitsPaper(sheet.total.size(), annotation) &&
-           fitsPaper(drawn(product, sheet, annotation, allLayers).canvas.size(), annotation);
-}
-
-/** The smallest one with which every sheet of the product, with all layers, fits the paper. */
-int annotationFor(const PxDrawnProduct &product)
-{
-    int annotation = 10;
     const int count = product.sheets.size();
+    QVector<PxDrawingSheet> drawings(count);
     // Until all fit, one after the other. What fitted with less need not fit with more.
     for (int i = 0, fitting = 0; fitting < count; i = (i + 1) % count, ++fitting) {
-        while (!fitsPaper(product, product.sheets[i], annotation)) {
-            annotation = nextAnnotation(annotation);
+        const auto fits = [&] {
+            if (!fitsPaper(product.sheets[i].total.size(), *annotation))
+                return false;
+            drawings[i] = drawn(product, product.sheets[i], *annotation, layers);
+            return fitsPaper(drawings[i].canvas.size(), *annotation);
+        };
+        while (!fits()) {
+            *annotation = nextAnnotation(*annotation);
             fitting = 0;
         }
     }
-    return annotation;
+    return drawings;
 }
 
 QString description(const PxDrawnSheet &sheet)
@@ -89,9 +90,12 @@ QString description(const PxDrawnSheet &sheet)
         const PxDrawnPage &page = sheet.pages[i];
         const QString numbers = PxDrawnWords::pages(PxDrawnWords::pagesLike(sheet, i));
         const QString size = PxDrawnWords::size(page.trim.size());
-        parts.append(page.role == PxDrawnPage::Role::Page
-                         ? numbers + " (" + size + ')'
-                         : PxDrawnWords::role(page) + " (" + numbers + ", " + size + ')');
+        if (numbers.isEmpty())
+            parts.append(PxDrawnWords::role(page) + " (" + size + ')');
+        else if (page.role == PxDrawnPage::Role::Page)
+            parts.append(numbers + " (" + size + ')');
+        else
+            parts.append(PxDrawnWords::role(page) + " (" + numbers + ", " + size + ')');
     }
     QString text = parts.join(QStringLiteral(", ")) + ". ";
     text += Words::tr("Endformat %1, Datenformat %2.")
@@ -118,6 +122,17 @@ QString description(const PxDrawing &drawing)
     for (const PxDrawingSheet &sheet : drawing.sheets)
         headings.append(sheet.title);
     return Words::tr("Blätter: %1.").arg(headings.join(QStringLiteral("; ")));
+}
+
+PxDrawing withWords(PxDrawing drawing)
+{
+    for (PxDrawingSheet &sheet : drawing.sheets) {
+        sheet.title = PxDrawnWords::heading(sheet.sheet);
+        sheet.description = description(sheet.sheet);
+    }
+    drawing.title = title(drawing.product);
+    drawing.description = description(drawing);
+    return drawing;
 }
 
 int clamped(qint64 value)
@@ -147,15 +162,20 @@ PxDrawing pxDraw(const PxDrawnProduct &product, const QVector<int> &sheets, PxDr
 {
     PxDrawing drawing;
     drawing.product = product;
+    QVector<PxDrawingSheet> withAllLayers;
     if (layers & readLayers)
-        drawing.annotation = annotationFor(product);
-    for (const int index : sheets) {
-        PxDrawingSheet sheet = drawn(product, product.sheets[index], drawing.annotation, layers);
-        sheet.title = PxDrawnWords::heading(sheet.sheet);
-        sheet.description = description(sheet.sheet);
-        drawing.sheets.append(sheet);
-    }
-    drawing.title = title(product);
-    drawing.description = description(drawing);
-    return drawing;
+        withAllLayers = drawnToFit(product, allLayers, &drawing.annotation);
+    for (const int index : sheets)
+        drawing.sheets.append(layers == allLayers ? withAllLayers[index]
+                                                  : drawn(product, product.sheets[index],
+                                                          drawing.annotation, layers));
+    return withWords(drawing);
+}
+
+PxDrawing pxDrawAll(const PxDrawnProduct &product, PxDrawnLayers layers)
+{
+    PxDrawing drawing;
+    drawing.product = product;
+    drawing.sheets = drawnToFit(product, layers, &drawing.annotation);
+    return withWords(drawing);
 }

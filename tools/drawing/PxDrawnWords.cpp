@@ -206,6 +206,8 @@ QString PxDrawnWords::pageNumbers(const QVector<int> &pages)
 
 QString PxDrawnWords::pages(const QVector<int> &pages)
 {
+    if (pages.isEmpty())
+        return QString();
     const QString text = pages.size() == 1
                              ? QCoreApplication::translate("PxDrawnWords", "Seite %1")
                              : QCoreApplication::translate("PxDrawnWords", "Seiten %1");
@@ -230,6 +232,8 @@ QString PxDrawnWords::heading(const PxDrawnSheet &sheet)
         kind = role(sheet.pages.constFirst());
     else if (!sheet.pages.isEmpty())
         kind = kindOfPage(sheet.pages.constFirst());
+    if (sheet.standsFor.isEmpty())
+        return kind.isEmpty() && !sheet.pages.isEmpty() ? role(sheet.pages.constFirst()) : kind;
     if (kind.isEmpty())
         return pages(sheet.standsFor);
     const QString text = sheet.standsFor.size() == 1

@@ -29,12 +29,12 @@ QString length(qint64 length);
 QString size(const QSize &size);
 /** Ascending page numbers: "0-2, 5, 7 … 27". */
 QString pageNumbers(const QVector<int> &pages);
-/** "Seite 5", "Seiten 5-28" */
+/** "Seite 5", "Seiten 5-28", empty for none */
 QString pages(const QVector<int> &pages);
 /** "26 Seiten" */
 QString pageCount(int count);
 
-/** What kind of sheet it is, and for which pages it stands: "Umschlag, Seiten 0-2". */
+/** What kind of sheet it is, and for which pages it stands, if any: "Umschlag, Seiten 0-2". */
 QString heading(const PxDrawnSheet &sheet);
 /** "Linke Seite" */
 QString role(const PxDrawnPage &page);

@@ -55,7 +55,9 @@ QVector<QPair<QString, bool>> texts(const PxSheetRoom &room, int index)
     QVector<QPair<QString, bool>> texts;
     if (page.role != PxDrawnPage::Role::Page) // the number says that it is a page
         texts.append({PxDrawnWords::role(page), false});
-    texts.append({PxDrawnWords::pages(PxDrawnWords::pagesLike(room.sheet(), index)), true});
+    const QString pages = PxDrawnWords::pages(PxDrawnWords::pagesLike(room.sheet(), index));
+    if (!pages.isEmpty())
+        texts.append({pages, true});
     texts.append({PxDrawnWords::size(page.trim.size()), false});
     const QString kind = PxDrawnWords::kindOfPage(page);
     if (!kind.isEmpty())

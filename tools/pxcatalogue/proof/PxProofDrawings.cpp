@@ -3,7 +3,9 @@
 #include "drawing/PxDrawing.h"
 #include "drawing/PxDrawingSvg.h"
 #include "drawing/PxDrawnProductReader.h"
+#include "drawing/PxDrawnWords.h"
 #include "drawing/PxPageCounts.h"
+#include "drawing/PxSharedSheets.h"
 #include "proof/PxHtml.h"
 #include "proof/PxProofCatalogue.h"
 #include "proof/PxProofWords.h"
@@ -11,8 +13,6 @@
 #include <PxProductProperties.h>
 
 #include <QBuffer>
-
-#include <numeric>
 
 namespace {
 
@@ -24,10 +24,14 @@ constexpr PxDrawnLayer switched[] = {
     PxDrawnLayer::Marks,        PxDrawnLayer::Dimensions, PxDrawnLayer::Labels,
     PxDrawnLayer::Legend,
 };
-constexpr PxDrawnLayers inPage = PxDrawnLayers(0xFFFF);
+// The page itself says what a title block says.
+constexpr PxDrawnLayers inPage =
+    PxDrawnLayers((1 << pxDrawnLayerCount) - 1) & ~PxDrawnLayers(PxDrawnLayer::Title);
 constexpr PxDrawnLayers inTable = PxDrawnLayer::Areas | PxDrawnLayer::Surroundings |
                                   PxDrawnLayer::Spine | PxDrawnLayer::Bleed | PxDrawnLayer::Trim |
                                   PxDrawnLayer::Folds;
+
+constexpr int mostSheets = 100; // nobody looks at more
 
 int numberOf(PxDrawnLayer layer)
 {
@@ -77,11 +81,44 @@ void addSwitches(PxHtml *html, const QString &name, const QList<int> &counts)
     html->close();
 }
 
-QVector<int> allSheets(const PxDrawnProduct &product)
+/** The sheets that look different, of all these page counts. */
+PxDrawnProduct withSheets(PxDrawnProduct product, const QVector<PxSharedSheet> &shared)
 {
-    QVector<int> sheets(product.sheets.size());
-    std::iota(sheets.begin(), sheets.end(), 0);
-    return sheets;
+    product.sheets.clear();
+    for (const PxSharedSheet &sheet : shared)
+        product.sheets.append(sheet.sheet);
+    return product;
+}
+
+/** "Mit 26, 50 Seiten: Umschlag, Seiten 0-2", a line for each way in which pages are numbered. */
+void addCaption(PxHtml *html, const PxSharedSheet &shared)
+{
+    html->open("figcaption");
+    for (auto use = shared.uses.begin(); use != shared.uses.end();) {
+        PxDrawnSheet sheet = shared.sheet;
+        sheet.standsFor = use->pages;
+        QStringList counts;
+        for (; use != shared.uses.end() && use->pages == sheet.standsFor; ++use)
+            counts.append(QString::number(use->pageCount));
+        html->element("p", PxProofWords::tr("Mit %1 Seiten").arg(counts.join(", ")) + ": " +
+                               PxDrawnWords::heading(sheet));
+    }
+    html->close();
+}
+
+void addSheet(PxHtml *html, const PxDrawing &drawing, int index, const PxSharedSheet &shared)
+{
+    QStringList counts;
+    for (const PxSharedSheet::Use &use : shared.uses)
+        counts.append(QString::number(use.pageCount));
+    PxDrawing sheet = drawing;
+    sheet.sheets = {drawing.sheets[index]};
+    sheet.title = sheet.sheets[0].title;
+    sheet.description = sheet.sheets[0].description;
+    html->open("figure", {{"class", "drawing"}, {"data-counts", counts.join(' ')}});
+    PxDrawingSvg::write(sheet, QString("drawing-%1-").arg(index), html->writer());
+    addCaption(html, shared);
+    html->close();
 }
 
 } // namespace
@@ -89,19 +126,23 @@ QVector<int> allSheets(const PxDrawnProduct &product)
 void PxProofDrawings::addTo(PxHtml *html, const PxProofProduct &product)
 {
     const QList<int> counts = shownPageCounts(product);
+    QVector<PxDrawnProduct> products;
+    for (const int count : counts)
+        products.append(
+            PxDrawnProductReader(product.registry).read(product.type, count, QString()));
+    QVector<PxSharedSheet> shared = pxSharedSheets(products);
+    const int rest = shared.size() - mostSheets;
+    shared = shared.mid(0, mostSheets);
+    const PxDrawing drawing = pxDrawAll(withSheets(products.constFirst(), shared), inPage);
     html->open("div", {{"class", "drawings"}});
     addSwitches(html, product.page, counts);
-    for (const int count : counts) {
-        const PxDrawnProduct drawn =
-            PxDrawnProductReader(product.registry).read(product.type, count, QString());
-        html->open("figure", {{"class", "drawing"}, {"data-count", QString::number(count)}});
-        if (drawn.problem.isEmpty())
-            PxDrawingSvg::write(pxDraw(drawn, allSheets(drawn), inPage),
-                                QString("pages-%1-").arg(count), html->writer());
-        else
+    for (int i = 0; i < shared.size(); ++i)
+        addSheet(html, drawing, i, shared[i]);
+    if (rest > 0)
+        html->element("p", PxProofWords::tr("Weitere: %1").arg(rest));
+    for (const PxDrawnProduct &drawn : qAsConst(products)) {
+        if (!drawn.problem.isEmpty())
             html->element("p", drawn.problem, {{"lang", "en"}});
-        html->element("figcaption", PxProofWords::tr("Mit %1 Seiten").arg(count));
-        html->close();
     }
     html->close();
 }

@@ -118,7 +118,8 @@
     const update = () => {
       const chosen = drawings.querySelector('input[type="radio"]:checked');
       for (const drawing of drawings.querySelectorAll('.drawing'))
-        drawing.hidden = chosen !== null && drawing.dataset.count !== chosen.value;
+        drawing.hidden = chosen !== null
+          && !drawing.dataset.counts.split(' ').includes(chosen.value);
       for (const box of drawings.querySelectorAll('input[type="checkbox"]')) {
         for (const layer of drawings.querySelectorAll(`g.layer.${box.value}`))
           layer.style.display = box.checked ? '' : 'none';
