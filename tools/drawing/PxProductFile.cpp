@@ -10,6 +10,8 @@
 #include <QFileInfo>
 #include <QHash>
 
+#include <mutex>
+
 namespace {
 
 /** The files of a directory, read as far as a product had to be looked for. */
@@ -35,7 +37,9 @@ void readLast(Files *files)
 
 QString PxProductFile::pathOf(const PxProductType &type, bool isLegacy)
 {
+    static std::mutex ourMutex; // pages of a proof are written in several threads
     static Files ourFiles[2];
+    const std::lock_guard<std::mutex> lock(ourMutex);
     Files &files = ourFiles[isLegacy ? 1 : 0];
     const QString name = isLegacy ? QStringLiteral("products/legacy") : QStringLiteral("products");
     const QDir directory(PxDirectoryConfig::instance()->resource(name, false));

@@ -1,5 +1,6 @@
 #include "proof/PxProof.h"
 
+#include "proof/PxParallelJobs.h"
 #include "proof/PxProofCatalogue.h"
 #include "proof/PxProofDrawings.h"
 #include "proof/PxProofFolder.h"
@@ -61,22 +62,16 @@ std::optional<PxProblem> PxProof::write(const PxProofCatalogue &catalogue,
         if (auto problem = writeResource(name, folder))
             return problem;
     }
-    if (auto problem = folder.write("index.html", PxProofIndex::page(catalogue)))
-        return problem;
-    PxProgress progress(catalogue.products.size() + catalogue.legacyProducts.size() +
-                            catalogue.themes.size(),
-                        "pages");
+    std::vector<PxParallelJobs::Job> jobs;
+    jobs.push_back([&] { return folder.write("index.html", PxProofIndex::page(catalogue)); });
     for (const auto *products : {&catalogue.products, &catalogue.legacyProducts}) {
-        for (const PxProofProduct &product : *products) {
-            if (auto problem = writeProduct(catalogue, product, folder))
-                return problem;
-            progress.advance();
-        }
+        for (const PxProofProduct &product : *products)
+            jobs.push_back([&] { return writeProduct(catalogue, product, folder); });
     }
-    for (const PxProofTheme &theme : catalogue.themes) {
-        if (auto problem = writeTheme(catalogue, theme, folder))
-            return problem;
-        progress.advance();
-    }
+    for (const PxProofTheme &theme : catalogue.themes)
+        jobs.push_back([&] { return writeTheme(catalogue, theme, folder); });
+    PxProgress progress(int(jobs.size()), "pages");
+    if (auto problem = PxParallelJobs::run(jobs, &progress))
+        return problem;
     return folder.write("catalogue.json", catalogue.exported);
 }
