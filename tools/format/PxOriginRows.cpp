@@ -1,5 +1,6 @@
 #include "format/PxOriginRows.h"
 
+#include <QHash>
 #include <QStringList>
 
 namespace {
@@ -203,15 +204,16 @@ PxRows<PxOriginRow> PxOriginRows::all()
     return rows;
 }
 
-QVector<const PxOriginRow *> PxOriginRows::of(const QString &pointer)
+QVector<const PxOriginRow *> PxOriginRows::of(const QString &pattern)
 {
-    const QString pattern = patternOf(pointer);
-    QVector<const PxOriginRow *> found;
-    for (const PxOriginRow &row : rows) {
-        if (pattern == QLatin1String(row.pointer))
-            found.append(&row);
-    }
-    return found;
+    using Rows = QHash<QString, QVector<const PxOriginRow *>>;
+    static const auto &ourRows = *[] {
+        const auto found = new Rows;
+        for (const PxOriginRow &row : rows)
+            (*found)[row.pointer].append(&row);
+        return found;
+    }();
+    return ourRows.value(pattern);
 }
 
 QString PxOriginRows::patternOf(const QString &pointer)

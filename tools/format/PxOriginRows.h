@@ -55,8 +55,8 @@ class PxOriginRows
 {
 public:
     static PxRows<PxOriginRow> all();
-    /** The rows of a value, or of a pattern of values. */
-    static QVector<const PxOriginRow *> of(const QString &pointer);
+    /** The rows of a value, or of a pattern of values, in their order. */
+    static QVector<const PxOriginRow *> of(const QString &pattern);
     // "/pageKinds/3/bleed" as "/pageKinds/*/bleed".
     static QString patternOf(const QString &pointer);
 };

@@ -51,7 +51,9 @@ QString joined(const QVector<PxOrigin::Part> &parts, const PxOrigin::Naming &nam
 
 bool PxOrigin::Part::operator==(const Part &other) const
 {
-    return text == other.text && PxOrigin::text(place) == PxOrigin::text(other.place);
+    const bool isSamePosition =
+        place.line == other.place.line && (place.line == 0 || place.column == other.place.column);
+    return text == other.text && isSamePosition && place.path == other.place.path;
 }
 
 QString PxOrigin::text(const PxPlace &place)

@@ -10,6 +10,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QHash>
 #include <QStringList>
 
 namespace {
@@ -114,19 +115,29 @@ PxOriginFile PxOriginFile::theme(const QString &id)
     return {};
 }
 
+/** The one large file that is the same for all products, so that it is read once. */
+struct PxOriginFile::ProductTypes
+{
+    PxOriginFile file{Kind::ProductTypes, PxFileKind::ProductTypes, resource("producttypes.xml"),
+                      "producttypes.xml"};
+    QHash<int, QVector<const PxSourceElement *>> rowsOfCode;
+
+    ProductTypes()
+    {
+        if (!file.root())
+            return;
+        for (const PxSourceElement *row : file.root()->childrenNamed("producttype"))
+            rowsOfCode[row->number("code")].append(row);
+    }
+};
+
 PxOriginFile PxOriginFile::productType(const PxProductType &type)
 {
-    const QString name = "producttypes.xml";
-    // The one large file that is the same for all products, so that it is read once.
-    static const PxOriginFile ourTypes(Kind::ProductTypes, PxFileKind::ProductTypes, resource(name),
-                                       name);
-    PxOriginFile file = ourTypes;
-    if (!file.root())
-        return file;
-    for (const PxSourceElement *row : file.root()->childrenNamed("producttype")) {
+    static const auto &ourTypes = *new ProductTypes;
+    PxOriginFile file = ourTypes.file;
+    for (const PxSourceElement *row : ourTypes.rowsOfCode.value(int(type.type()))) {
         // A row that is left out may have the same code, but not all of this.
-        if (!file.m_element && row->number("code") == int(type.type()) &&
-            row->value("name").trimmed() == type.productName() &&
+        if (!file.m_element && row->value("name").trimmed() == type.productName() &&
             PxFormat::isKeyword(PxKeywordSet::ProductClass, row->value("class")))
             file.m_element = row;
     }

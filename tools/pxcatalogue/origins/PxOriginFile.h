@@ -39,6 +39,8 @@ public:
     const PxElementRow *rowOf(const PxSourceElement &element) const;
 
 private:
+    struct ProductTypes;
+
     PxOriginFile(PxOrigin::Kind kind, PxFileKind format, const QString &file, const QString &path);
     const PxSourceElement *root() const { return m_source->root(); }
 
