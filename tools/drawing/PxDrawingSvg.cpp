@@ -11,6 +11,7 @@
 #include <cstdlib>
 #include <initializer_list>
 #include <iterator>
+#include <string>
 
 namespace {
 
@@ -31,7 +32,7 @@ qint64 hundredths(double value)
 }
 
 /** With a point, at most two decimals and no exponent. */
-void appendNumber(QByteArray *text, qint64 hundredths)
+void appendNumber(std::string *text, qint64 hundredths)
 {
     quint64 rest = quint64(std::llabs(hundredths));
     int decimals = 2;
@@ -46,17 +47,17 @@ void appendNumber(QByteArray *text, qint64 hundredths)
     }
     if (hundredths < 0)
         *--first = '-';
-    text->append(first, int(std::end(digits) - first));
+    text->append(first, std::end(digits));
 }
 
-void appendNumber(QByteArray *text, double value)
+void appendNumber(std::string *text, double value)
 {
     appendNumber(text, hundredths(value));
 }
 
 /** With a blank between two. */
 template <typename Numbers>
-void appendNumbers(QByteArray *text, const Numbers &numbers)
+void appendNumbers(std::string *text, const Numbers &numbers)
 {
     bool isFirst = true;
     for (const auto number : numbers) {
@@ -67,14 +68,14 @@ void appendNumbers(QByteArray *text, const Numbers &numbers)
     }
 }
 
-void appendTranslation(QByteArray *text, double x, double y)
+void appendTranslation(std::string *text, double x, double y)
 {
     *text += "translate(";
     appendNumbers(text, std::initializer_list<double>{x, y});
     *text += ')';
 }
 
-void appendColor(QByteArray *text, const QColor &color)
+void appendColor(std::string *text, const QColor &color)
 {
     static constexpr char ourDigits[] = "0123456789abcdef";
     *text += '#';
@@ -83,7 +84,7 @@ void appendColor(QByteArray *text, const QColor &color)
 }
 
 /** The commands of a path: M, L or H or V, A, and Z. */
-void appendPath(QByteArray *data, const QVector<PxDrawnStep> &steps)
+void appendPath(std::string *data, const QVector<PxDrawnStep> &steps)
 {
     qint64 atX = 0;
     qint64 atY = 0;
@@ -123,9 +124,7 @@ public:
     explicit Writer(PxMarkup *xml, const QString &prefix = QString())
         : m_xml(*xml)
         , m_prefix(prefix)
-    {
-        m_value.reserve(256); // it is filled again and again
-    }
+    {}
 
     void write(const PxDrawing &drawing);
 
@@ -146,22 +145,22 @@ private:
     template <typename Append>
     void value(const char *name, Append append)
     {
-        m_value.resize(0);
+        m_value.clear(); // keeps its memory
         append(&m_value);
-        m_xml.plainAttribute(name, QLatin1String(m_value.constData(), m_value.size()));
+        m_xml.plainAttribute(name, QLatin1String(m_value.data(), int(m_value.size())));
     }
     template <typename Numbers>
     void numbers(const char *name, const Numbers &values)
     {
-        value(name, [&values](QByteArray *text) { appendNumbers(text, values); });
+        value(name, [&values](std::string *text) { appendNumbers(text, values); });
     }
     void number(const char *name, double number)
     {
-        value(name, [number](QByteArray *text) { appendNumber(text, number); });
+        value(name, [number](std::string *text) { appendNumber(text, number); });
     }
     void color(const char *name, const QColor &color)
     {
-        value(name, [&color](QByteArray *text) { appendColor(text, color); });
+        value(name, [&color](std::string *text) { appendColor(text, color); });
     }
     void box(const char *name, const QRect &rect)
     {
@@ -169,19 +168,19 @@ private:
     }
     void millimetres(const char *name, int length)
     {
-        value(name, [length](QByteArray *text) {
+        value(name, [length](std::string *text) {
             appendNumber(text, length / 10.0);
             *text += "mm";
         });
     }
     void translation(const QPoint &by)
     {
-        value("transform", [&by](QByteArray *text) { appendTranslation(text, by.x(), by.y()); });
+        value("transform", [&by](std::string *text) { appendTranslation(text, by.x(), by.y()); });
     }
 
     PxMarkup &m_xml;
     const QString m_prefix;
-    QByteArray m_value;
+    std::string m_value;
 };
 
 /** The element, which is open. */
@@ -310,7 +309,7 @@ void Writer::writeGeometry(const PxDrawnShape &shape)
         number("y2", shape.line.y2());
         break;
     case PxDrawnShape::Path:
-        value("d", [&shape](QByteArray *data) { appendPath(data, shape.steps); });
+        value("d", [&shape](std::string *data) { appendPath(data, shape.steps); });
         break;
     case PxDrawnShape::Circle:
         number("cx", center.x());
@@ -325,7 +324,7 @@ void Writer::writeGeometry(const PxDrawnShape &shape)
         break;
     case PxDrawnShape::Text:
         if (shape.readsUpward) {
-            value("transform", [&shape](QByteArray *text) {
+            value("transform", [&shape](std::string *text) {
                 appendTranslation(text, shape.position.x(), shape.position.y());
                 *text += " rotate(-90)";
             });

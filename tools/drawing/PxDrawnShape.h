@@ -29,6 +29,8 @@ struct PxDrawnStep
     bool isClockwise = true;
 };
 
+Q_DECLARE_TYPEINFO(PxDrawnStep, Q_MOVABLE_TYPE);
+
 /**
  * A shape, or a group of them, as it is written or painted: writers need to know no more.
  *
@@ -61,3 +63,5 @@ struct PxDrawnShape
     QPoint translation; ///< of a group
     QVector<PxDrawnShape> children;
 };
+
+Q_DECLARE_TYPEINFO(PxDrawnShape, Q_MOVABLE_TYPE);

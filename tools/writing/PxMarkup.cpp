@@ -3,6 +3,7 @@
 #include "writing/PxVisibleText.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -84,18 +85,14 @@ void PxMarkup::close()
 
 void PxMarkup::attribute(const char *name, const QString &value)
 {
-    m_bytes += ' ';
-    m_bytes += name;
-    m_bytes += "=\"";
+    beginAttribute(name);
     appendEscaped(value, true);
     m_bytes += '"';
 }
 
 void PxMarkup::plainAttribute(const char *name, QLatin1String value)
 {
-    m_bytes += ' ';
-    m_bytes += name;
-    m_bytes += "=\"";
+    beginAttribute(name);
     append(value);
     m_bytes += '"';
 }
@@ -112,6 +109,13 @@ void PxMarkup::plainText(QLatin1String text)
     endTag();
     append(text);
     m_wasTextWritten = true;
+}
+
+void PxMarkup::beginAttribute(const char *name)
+{
+    m_bytes += ' ';
+    m_bytes += name;
+    m_bytes += "=\"";
 }
 
 void PxMarkup::appendEscaped(const QString &text, bool isAttribute)
@@ -135,16 +139,14 @@ void PxMarkup::appendEscaped(const QString &text, bool isAttribute)
 void PxMarkup::appendVisible(const QStringRef &text)
 {
     const QByteArray bytes = text.toUtf8();
-    m_bytes += m_kind == Kind::Page ? bytes : PxVisibleText::xml(bytes).toUtf8();
+    m_bytes += (m_kind == Kind::Page ? bytes : PxVisibleText::xml(bytes).toUtf8()).toStdString();
 }
 
 bool PxMarkup::appendPlain(const QString &text)
 {
     if (!std::all_of(text.begin(), text.end(), isPlain))
         return false;
-    const int size = m_bytes.size();
-    m_bytes.resize(size + text.size());
-    std::transform(text.begin(), text.end(), m_bytes.begin() + size,
+    std::transform(text.begin(), text.end(), std::back_inserter(m_bytes),
                    [](QChar unit) { return unit.toLatin1(); });
     return true;
 }
@@ -154,7 +156,7 @@ void PxMarkup::beginLine()
     if (m_kind == Kind::Page)
         return;
     m_bytes += '\n';
-    m_bytes.append(m_open.size(), ' ');
+    m_bytes.append(std::size_t(m_open.size()), ' ');
 }
 
 void PxMarkup::endTag()

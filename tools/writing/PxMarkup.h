@@ -5,6 +5,8 @@
 #include <QString>
 #include <QVector>
 
+#include <string>
+
 /**
  * Writes elements of XML or HTML as UTF-8. Texts are escaped, so that none of them is ever markup,
  * and so are the characters that PxVisibleText escapes. Names and what is called plain come from
@@ -30,10 +32,11 @@ public:
     void text(const QString &text);
     void plainText(QLatin1String text);
 
-    const QByteArray &bytes() const { return m_bytes; }
+    QByteArray bytes() const { return QByteArray::fromStdString(m_bytes); }
 
 private:
-    void append(QLatin1String text) { m_bytes.append(text.data(), text.size()); }
+    void beginAttribute(const char *name);
+    void append(QLatin1String text) { m_bytes.append(text.data(), std::size_t(text.size())); }
     void appendEscaped(const QString &text, bool isAttribute);
     void appendVisible(const QStringRef &text);
     bool appendPlain(const QString &text);
@@ -41,7 +44,7 @@ private:
     void endTag();
 
     const Kind m_kind;
-    QByteArray m_bytes;
+    std::string m_bytes;
     QVector<const char *> m_open; ///< from the outermost element
     bool m_isInTag = false;       ///< the start tag of the last element can still get attributes
     bool m_wasTextWritten = false;

@@ -77,15 +77,10 @@ PxOriginReader::PxOriginReader(const PxShownProduct &shown, const PxOriginFiles 
 
 QMap<QString, PxOrigin> PxOriginReader::read()
 {
-    QString last;
-    for (const PxOriginRow &row : PxOriginRows::all()) {
-        const QString pattern = row.pointer;
-        // The rows of a pattern stand together. The row of a table is no value of its own.
-        if (pattern == last || pattern.endsWith('*'))
-            continue;
-        last = pattern;
-        for (int index = 0; index < rowsOf(pattern); ++index)
-            readRow(pattern, index);
+    for (const PxOriginRules &value : PxOriginRules::all()) {
+        const int rows = value.isOfWholeRow() ? 0 : rowsOf(value);
+        for (int index = 0; index < rows; ++index)
+            readRow(value, index);
     }
     removeUnprinted();
     return m_origins;
@@ -110,51 +105,47 @@ void PxOriginReader::removeUnprinted()
 }
 
 /** How many values a pattern has: 1 unless it is about the rows of a table. */
-int PxOriginReader::rowsOf(const QString &pattern) const
+int PxOriginReader::rowsOf(const PxOriginRules &value) const
 {
-    const auto section = m_report.constFind(pattern.section('/', 1, 1));
+    const auto section = m_report.constFind(value.section);
     if (section == m_report.constEnd())
         return 0;
-    return pattern.contains('*') ? qMin(section->toArray().size(), PxOriginEntries::maximumRows)
-                                 : 1;
+    return value.isOfRows() ? qMin(section->toArray().size(), PxOriginEntries::maximumRows) : 1;
 }
 
-void PxOriginReader::readRow(const QString &pattern, int index)
+void PxOriginReader::readRow(const PxOriginRules &value, int index)
 {
-    if (const PxOriginRow *row = rowFor(pattern, index))
-        m_origins.insert(QString(pattern).replace('*', QString::number(index)),
-                         originOf(*row, index));
+    if (const PxOriginRule *rule = ruleFor(value, index))
+        m_origins.insert(QString(value.pattern).replace('*', QString::number(index)),
+                         originOf(*rule, index));
 }
 
 /** The first that holds; null if none does. */
-const PxOriginRow *PxOriginReader::rowFor(const QString &pattern, int index) const
+const PxOriginRule *PxOriginReader::ruleFor(const PxOriginRules &value, int index) const
 {
-    const auto rows = PxOriginRows::of(pattern);
-    const auto found = std::find_if(rows.begin(), rows.end(),
-                                    [&](const PxOriginRow *row) { return holds(*row, index); });
-    return found == rows.end() ? nullptr : *found;
+    const auto found = std::find_if(value.rules.begin(), value.rules.end(),
+                                    [&](const PxOriginRule &rule) { return holds(rule, index); });
+    return found == value.rules.end() ? nullptr : &*found;
 }
 
-bool PxOriginReader::holds(const PxOriginRow &row, int index) const
+bool PxOriginReader::holds(const PxOriginRule &rule, int index) const
 {
     const PxProductTypeDescription &product = *m_shown.product;
     const auto isClass = [this](PxProductClass classes) {
         return m_shown.type.isProductClass(classes);
     };
-    switch (row.when) {
+    switch (rule.when) {
     case When::Always:
         return true;
     case When::Given: {
-        const Inputs inputs = inputsOf(row, false, index);
+        const Inputs inputs = inputsOf(rule, rule.inputs, index);
         return !inputs.isEmpty() && !inputs.constFirst().isDefault;
     }
     case When::Written:
-        return input(QString(row.inputs), index).isWritten;
-    case When::Missing: {
-        const QStringList inputs = QString(row.inputs).split(' ');
-        return std::any_of(inputs.begin(), inputs.end(),
-                           [&](const QString &term) { return !input(term, index).isThere; });
-    }
+        return input(rule.inputs.constFirst(), index).isWritten;
+    case When::Missing:
+        return std::any_of(rule.inputs.begin(), rule.inputs.end(),
+                           [&](const auto &terms) { return !input(terms, index).isThere; });
     case When::Asked:
         return m_shown.isPageCountAsked;
     case When::Sold:
@@ -178,7 +169,7 @@ bool PxOriginReader::holds(const PxOriginRow &row, int index) const
     case When::Simplex:
         return product.isSimplex();
     default:
-        return holdsForPage(row.when, index);
+        return holdsForPage(rule.when, index);
     }
 }
 
@@ -201,24 +192,21 @@ bool PxOriginReader::holdsForPage(PxOriginCase when, int index) const
     }
 }
 
-PxOrigin PxOriginReader::originOf(const PxOriginRow &row, int index) const
+PxOrigin PxOriginReader::originOf(const PxOriginRule &rule, int index) const
 {
-    const Inputs inputs = inputsOf(row, false, index);
-    Inputs choosing = inputsOf(row, true, index);
-    const QString pattern = row.pointer;
-    const QString table = pattern.section('*', 0, 0) + '*';
-    if (pattern != table && pattern.contains('*')) {
-        if (const PxOriginRow *whole = rowFor(table, index))
-            choosing += inputsOf(*whole, true, index);
+    const Inputs inputs = inputsOf(rule, rule.inputs, index);
+    Inputs choosing = inputsOf(rule, rule.choosing, index);
+    if (const PxOriginRules *table = PxOriginRules::of(rule.table)) {
+        if (const PxOriginRule *whole = ruleFor(*table, index))
+            choosing += inputsOf(*whole, whole->choosing, index);
     }
     PxOrigin origin;
-    const QString rule = QString::fromUtf8(row.rule);
-    if (rule.contains('%'))
-        origin.formula = inputs.isEmpty() ? QVector<PxOrigin::Part>() : filled(rule, inputs);
+    if (rule.isFormula)
+        origin.formula = inputs.isEmpty() ? QVector<PxOrigin::Part>() : filled(rule.rule, inputs);
     else
-        origin.rule = rule;
+        origin.rule = rule.rule;
     if (!inputs.isEmpty())
-        origin.kind = row.rule ? Kind::Computed : inputs.constFirst().kind;
+        origin.kind = rule.rule.isNull() ? inputs.constFirst().kind : Kind::Computed;
     for (const Input &input : inputs) {
         if (origin.place.path.isEmpty())
             origin.place = input.place;
@@ -227,33 +215,32 @@ PxOrigin PxOriginReader::originOf(const PxOriginRow &row, int index) const
     }
     for (const Input &input : inputs + choosing) {
         const PxOrigin::Part part = input.part();
-        const bool isItself = !row.rule && part == PxOrigin::Part{QString(), origin.place};
+        const bool isItself = rule.rule.isNull() && part == PxOrigin::Part{QString(), origin.place};
         if (input.isNamed() && !isItself && !origin.from.contains(part))
             origin.from.append(part);
     }
     if (origin.kind == Kind::Theme)
         origin.rule = "theme " + m_shown.themeId;
     if (origin.kind == Kind::UserDefaults) // whose file is found by the name in the product file
-        origin.from.append(inputAt("@name", 0).part());
+        origin.from.append(inputAt(PxOriginTerm("@name"), 0).part());
     return origin;
 }
 
-PxOriginReader::Inputs PxOriginReader::inputsOf(const PxOriginRow &row, bool areChoosing,
+PxOriginReader::Inputs PxOriginReader::inputsOf(const PxOriginRule &rule,
+                                                const QVector<PxOriginRule::Alternatives> &terms,
                                                 int index) const
 {
     Inputs inputs;
-    const bool isFormula = QString::fromUtf8(row.rule).contains('%');
-    const QString part = QString(row.inputs).section(';', areChoosing ? 1 : 0, areChoosing ? 1 : 0);
-    for (const QString &alternatives : part.split(' ', Qt::SkipEmptyParts)) {
+    for (const PxOriginRule::Alternatives &alternatives : terms) {
         Input found = input(alternatives, index);
-        if (row.when == When::Written && inputs.isEmpty())
+        if (rule.when == When::Written && inputs.isEmpty())
             found.isThere = found.isWritten; // even if it means nothing
         Input absent;
         absent.value = found.value;
-        if (found.isThere || isFormula)
+        if (found.isThere || rule.isFormula)
             inputs.append(found.isThere ? found : absent);
-        if (!alternatives.contains('@') && found.place.line > 0)
-            inputs += furtherLists(alternatives);
+        if (found.place.line > 0)
+            inputs += furtherLists(alternatives.constFirst());
     }
     // A formula needs all its inputs, but at least one that is there.
     const bool isAny =
@@ -269,13 +256,14 @@ PxOriginReader::Inputs PxOriginReader::inputsOf(const PxOriginRow &row, bool are
 }
 
 /** The other elements with that name, if the library reads them, too. */
-PxOriginReader::Inputs PxOriginReader::furtherLists(const QString &term) const
+PxOriginReader::Inputs PxOriginReader::furtherLists(const PxOriginTerm &term) const
 {
     constexpr int most = 10; // nobody writes as many
     Inputs inputs;
-    const PxOriginElement first = elementAt(QString(), term, 0);
-    if (term.contains(':') || term.contains('[') || !first.element ||
-        first.file->rowOf(*first.element)->occurrence != PxOccurrence::Any)
+    if (!term.attribute.isEmpty() || !term.file.isEmpty() || term.isOneOfSeveral)
+        return inputs;
+    const PxOriginElement first = elementAt(term, 0);
+    if (!first.element || first.file->rowOf(*first.element)->occurrence != PxOccurrence::Any)
         return inputs;
     const QByteArray name = first.element->name.toUtf8();
     for (const PxSourceElement *list : first.element->parent->childrenNamed(name).mid(1, most))
@@ -284,10 +272,11 @@ PxOriginReader::Inputs PxOriginReader::furtherLists(const QString &term) const
 }
 
 /** The first alternative that says something; the last one if none does. */
-PxOriginReader::Input PxOriginReader::input(const QString &alternatives, int index) const
+PxOriginReader::Input PxOriginReader::input(const PxOriginRule::Alternatives &alternatives,
+                                            int index) const
 {
     Input found;
-    for (const QString &term : alternatives.split('|')) {
+    for (const PxOriginTerm &term : alternatives) {
         found = inputAt(term, index);
         if (found.isThere && !found.isDefault)
             break;
@@ -295,29 +284,27 @@ PxOriginReader::Input PxOriginReader::input(const QString &alternatives, int ind
     return found;
 }
 
-PxOriginReader::Input PxOriginReader::inputAt(const QString &term, int index) const
+PxOriginReader::Input PxOriginReader::inputAt(const PxOriginTerm &term, int index) const
 {
     Input input;
     input.isThere = true;
-    if (term.startsWith('/')) {
-        input.isThere = m_report.contains(term.section('/', 1, 1)); // a theme may not be
-        input.pointer = QString(term).replace('*', QString::number(index));
+    if (term.isValue()) {
+        input.isThere = m_report.contains(term.section); // a theme may not be
+        input.pointer = QString(term.pointer).replace('*', QString::number(index));
         return input;
     }
-    const QString file = term.contains(':') ? term.section(':', 0, 0) : QString();
-    if (file == "asked" || file == "clock") {
-        input.kind = file == "asked" ? Kind::Question : Kind::Clock;
+    if (term.file == "asked" || term.file == "clock") {
+        input.kind = term.file == "asked" ? Kind::Question : Kind::Clock;
         return input;
     }
-    if (file == "file") {
+    if (term.file == "file") {
         input.kind = Kind::File;
         input.place.path = m_files[""].path();
         return input;
     }
-    const QString path = term.section(':', -1).section('@', 0, 0);
-    const PxOriginElement owner = elementAt(file, path, index);
-    if (term.contains('@'))
-        return attributeOf(owner, term.section('@', 1));
+    const PxOriginElement owner = elementAt(term, index);
+    if (!term.attribute.isEmpty())
+        return attributeOf(owner, term.attribute);
     return owner.element ? inputOf(owner) : Input();
 }
 
@@ -330,13 +317,13 @@ PxOriginReader::Input PxOriginReader::inputOf(const PxOriginElement &element)
     return input;
 }
 
-PxOriginElement PxOriginReader::elementAt(const QString &file, const QString &path, int index) const
+PxOriginElement PxOriginReader::elementAt(const PxOriginTerm &term, int index) const
 {
-    const auto source = m_files.constFind(file);
+    const auto source = m_files.constFind(term.file);
     if (source == m_files.constEnd())
         return {};
     PxOriginElement found{&*source, source->element()};
-    for (const QString &step : path.split('/', Qt::SkipEmptyParts)) {
+    for (const QString &step : term.path) {
         if (step.endsWith(']'))
             found = m_entries.find(step, index);
         else if (found.element)

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "format/PxOriginRows.h"
 #include "origins/PxOriginEntries.h"
 #include "origins/PxOriginFile.h"
+#include "origins/PxOriginRule.h"
 
 #include <QJsonObject>
 #include <QMap>
@@ -37,18 +37,19 @@ private:
     using Inputs = QVector<Input>;
 
     void removeUnprinted();
-    int rowsOf(const QString &pattern) const;
-    void readRow(const QString &pattern, int index);
-    const PxOriginRow *rowFor(const QString &pattern, int index) const;
-    bool holds(const PxOriginRow &row, int index) const;
+    int rowsOf(const PxOriginRules &value) const;
+    void readRow(const PxOriginRules &value, int index);
+    const PxOriginRule *ruleFor(const PxOriginRules &value, int index) const;
+    bool holds(const PxOriginRule &rule, int index) const;
     bool holdsForPage(PxOriginCase when, int index) const;
-    PxOrigin originOf(const PxOriginRow &row, int index) const;
-    /** The inputs before or behind the ";" of a row, those that are not there left out. */
-    Inputs inputsOf(const PxOriginRow &row, bool areChoosing, int index) const;
-    Inputs furtherLists(const QString &term) const;
-    Input input(const QString &alternatives, int index) const;
-    Input inputAt(const QString &term, int index) const;
-    PxOriginElement elementAt(const QString &file, const QString &path, int index) const;
+    PxOrigin originOf(const PxOriginRule &rule, int index) const;
+    /** Terms of the rule, those that are not there left out. */
+    Inputs inputsOf(const PxOriginRule &rule, const QVector<PxOriginRule::Alternatives> &terms,
+                    int index) const;
+    Inputs furtherLists(const PxOriginTerm &term) const;
+    Input input(const PxOriginRule::Alternatives &alternatives, int index) const;
+    Input inputAt(const PxOriginTerm &term, int index) const;
+    PxOriginElement elementAt(const PxOriginTerm &term, int index) const;
     static Input inputOf(const PxOriginElement &element);
     static Input attributeOf(const PxOriginElement &owner, const QString &name);
     QVector<PxOrigin::Part> filled(const QString &rule, const Inputs &inputs) const;

@@ -1,0 +1,76 @@
+#include "origins/PxOriginRule.h"
+
+#include <QHash>
+
+namespace {
+
+/** The inputs before or behind the ";". */
+QVector<PxOriginRule::Alternatives> parsed(const QString &inputs)
+{
+    QVector<PxOriginRule::Alternatives> terms;
+    for (const QString &alternatives : inputs.split(' ', Qt::SkipEmptyParts)) {
+        terms.append(PxOriginRule::Alternatives());
+        for (const QString &term : alternatives.split('|'))
+            terms.last().append(PxOriginTerm(term));
+    }
+    return terms;
+}
+
+QString tableOf(const QString &pattern)
+{
+    const QString table = pattern.section('*', 0, 0) + '*';
+    return pattern.contains('*') && pattern != table ? table : QString();
+}
+
+} // namespace
+
+PxOriginTerm::PxOriginTerm(const QString &term)
+{
+    if (term.startsWith('/')) {
+        pointer = term;
+        section = term.section('/', 1, 1);
+        return;
+    }
+    if (term.contains(':'))
+        file = term.section(':', 0, 0);
+    path = term.section(':', -1).section('@', 0, 0).split('/', Qt::SkipEmptyParts);
+    attribute = term.section('@', 1);
+    isOneOfSeveral = term.contains('[');
+}
+
+PxOriginRule::PxOriginRule(const PxOriginRow &row)
+    : when(row.when)
+    , pattern(row.pointer)
+    , table(tableOf(pattern))
+    , rule(QString::fromUtf8(row.rule))
+    , isFormula(rule.contains('%'))
+    , inputs(parsed(QString(row.inputs).section(';', 0, 0)))
+    , choosing(parsed(QString(row.inputs).section(';', 1, 1)))
+{}
+
+const QVector<PxOriginRules> &PxOriginRules::all()
+{
+    static const auto &ourRules = *[] {
+        const auto all = new QVector<PxOriginRules>;
+        for (const PxOriginRow &row : PxOriginRows::all()) { // those of a pattern stand together
+            const PxOriginRule rule(row);
+            if (all->isEmpty() || all->constLast().pattern != rule.pattern)
+                all->append({rule.pattern, rule.pattern.section('/', 1, 1), {}});
+            all->last().rules.append(rule);
+        }
+        return all;
+    }();
+    return ourRules;
+}
+
+const PxOriginRules *PxOriginRules::of(const QString &pattern)
+{
+    static const auto &ourIndexes = *[] {
+        const auto indexes = new QHash<QString, int>;
+        for (int i = 0; i < all().size(); ++i)
+            indexes->insert(all()[i].pattern, i);
+        return indexes;
+    }();
+    const int index = ourIndexes.value(pattern, -1);
+    return index < 0 ? nullptr : &all()[index];
+}
