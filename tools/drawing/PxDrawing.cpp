@@ -20,6 +20,8 @@ struct Words
 /** Inner sides of an A4 sheet, in annotation millimetres. */
 constexpr double longSide = 277;
 constexpr double shortSide = 190;
+/** The longer side of a sheet that is drawn small. */
+constexpr int smallSide = 80;
 
 constexpr PxDrawnLayers allLayers((1 << pxDrawnLayerCount) - 1);
 constexpr PxDrawnLayers readLayers =
@@ -177,5 +179,16 @@ PxDrawing pxDrawAll(const PxDrawnProduct &product, PxDrawnLayers layers)
     PxDrawing drawing;
     drawing.product = product;
     drawing.sheets = drawnToFit(product, layers, &drawing.annotation);
+    return withWords(drawing);
+}
+
+PxDrawing pxDrawSmall(const PxDrawnProduct &product, PxDrawnLayers layers)
+{
+    const PxDrawnSheet &sheet = product.sheets.constFirst();
+    PxDrawing drawing;
+    drawing.product = product;
+    drawing.annotation =
+        std::max(1, std::max(sheet.total.width(), sheet.total.height()) / smallSide);
+    drawing.sheets = {drawn(product, sheet, drawing.annotation, layers)};
     return withWords(drawing);
 }

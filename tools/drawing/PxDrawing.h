@@ -46,3 +46,5 @@ PxDrawing pxDraw(const PxDrawnProduct &product, const QVector<int> &sheets, PxDr
  * compared with those of other layers. It is several times as fast.
  */
 PxDrawing pxDrawAll(const PxDrawnProduct &product, PxDrawnLayers layers);
+/** Draws the first sheet with lines so heavy that they are seen when it is an inch wide. */
+PxDrawing pxDrawSmall(const PxDrawnProduct &product, PxDrawnLayers layers);

@@ -3,7 +3,6 @@
 #include "writing/PxVisibleText.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace {
 
@@ -146,8 +145,10 @@ bool PxMarkup::appendPlain(const QString &text)
 {
     if (!std::all_of(text.begin(), text.end(), isPlain))
         return false;
-    std::transform(text.begin(), text.end(), std::back_inserter(m_bytes),
-                   [](QChar unit) { return unit.toLatin1(); });
+    const std::size_t size = m_bytes.size();
+    m_bytes.resize(size + std::size_t(text.size()));
+    std::transform(text.begin(), text.end(), &m_bytes[size],
+                   [](QChar unit) { return char(unit.unicode()); });
     return true;
 }
 

@@ -3,13 +3,14 @@
 #include "check/rules/PxElementReading.h"
 #include "check/words/PxMessageText.h"
 #include "format/PxFormat.h"
-#include "report/PxProductReport.h"
+#include "report/PxReport.h"
 #include "report/PxShownProduct.h"
 
 #include <PxListParts.h>
 #include <PxXMLParser.h>
 
 #include <QDateTime>
+#include <QHash>
 #include <QJsonArray>
 
 #include <algorithm>
@@ -68,9 +69,10 @@ bool isAsLargeAsCover(const PxPageType &type)
 
 } // namespace
 
-PxOriginReader::PxOriginReader(const PxShownProduct &shown, const PxOriginFiles &files)
+PxOriginReader::PxOriginReader(const PxShownProduct &shown, const PxOriginFiles &files,
+                               const PxReport &report)
     : m_shown(shown)
-    , m_report(PxProductReport::of(shown).json())
+    , m_report(report.json())
     , m_files(byPrefix(files))
     , m_entries(shown, m_report, m_files[""], m_files["user"], m_files["theme"])
 {}
@@ -89,11 +91,15 @@ QMap<QString, PxOrigin> PxOriginReader::read()
 /** A product without a size has no width to point at, only the size, which is null. */
 void PxOriginReader::removeUnprinted()
 {
-    const auto isPrinted = [this](const QString &pointer) {
+    QHash<QString, bool> known; // many origins name the same values
+    const auto isPrinted = [&](const QString &pointer) {
+        const auto found = known.constFind(pointer);
+        if (found != known.constEnd())
+            return *found;
         QJsonValue value = m_report;
         for (const QString &part : pointer.split('/', Qt::SkipEmptyParts))
             value = value.isArray() ? QJsonValue(value[part.toInt()]) : QJsonValue(value[part]);
-        return !value.isUndefined();
+        return *known.insert(pointer, !value.isUndefined());
     };
     for (auto origin = m_origins.begin(); origin != m_origins.end();) {
         for (PxOrigin::Part &part : origin->from) {

@@ -8,13 +8,14 @@
 #include <QMap>
 #include <QVector>
 
+class PxReport;
 struct PxShownProduct;
 
 /** Applies the rows of origins to one product. */
 class PxOriginReader
 {
 public:
-    PxOriginReader(const PxShownProduct &shown, const PxOriginFiles &files);
+    PxOriginReader(const PxShownProduct &shown, const PxOriginFiles &files, const PxReport &report);
 
     /** By JSON pointer. Of long tables only the first rows have origins of their own. */
     QMap<QString, PxOrigin> read();

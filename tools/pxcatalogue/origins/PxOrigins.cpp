@@ -1,11 +1,17 @@
 #include "origins/PxOrigins.h"
 
 #include "origins/PxOriginReader.h"
+#include "report/PxProductReport.h"
 
 PxOrigins::PxOrigins(const PxShownProduct &shown) : PxOrigins(shown, PxOriginFiles(shown)) {}
 
 PxOrigins::PxOrigins(const PxShownProduct &shown, const PxOriginFiles &files)
-    : m_origins(PxOriginReader(shown, files).read())
+    : PxOrigins(shown, files, PxProductReport::of(shown))
+{}
+
+PxOrigins::PxOrigins(const PxShownProduct &shown, const PxOriginFiles &files,
+                     const PxReport &report)
+    : m_origins(PxOriginReader(shown, files, report).read())
 {}
 
 PxOrigin PxOrigins::at(const QString &pointer) const

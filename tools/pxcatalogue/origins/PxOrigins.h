@@ -5,6 +5,7 @@
 #include <QJsonObject>
 #include <QMap>
 
+class PxReport;
 struct PxOriginFiles;
 struct PxShownProduct;
 
@@ -16,6 +17,8 @@ public:
     explicit PxOrigins(const PxShownProduct &shown);
     /** With files that are already read. */
     PxOrigins(const PxShownProduct &shown, const PxOriginFiles &files);
+    /** With the report about the product, too. */
+    PxOrigins(const PxShownProduct &shown, const PxOriginFiles &files, const PxReport &report);
 
     /** Of the value at a JSON pointer: its own or that of the nearest object or array around it. */
     PxOrigin at(const QString &pointer) const;

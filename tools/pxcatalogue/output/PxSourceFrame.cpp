@@ -32,6 +32,11 @@ struct Cells
 private:
     void add(uint character)
     {
+        if (character >= ' ' && character < 0x7F) { // as nearly all are
+            texts.append(QChar(character));
+            columns.append(columns.constLast() + 1);
+            return;
+        }
         const QString text = QString::fromUcs4(&character, 1);
         QString visible = PxVisibleText::line(text);
         int width = visible == text ? PxTerminal::width(character) : visible.size();

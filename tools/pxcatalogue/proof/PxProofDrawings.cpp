@@ -155,6 +155,6 @@ QByteArray PxProofDrawings::small(const PxProofProduct &product)
         return QByteArray();
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    PxDrawingSvg::write(pxDraw(drawn, {0}, inTable), &buffer);
+    PxDrawingSvg::write(pxDrawSmall(drawn, inTable), &buffer);
     return buffer.data();
 }

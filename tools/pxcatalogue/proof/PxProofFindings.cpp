@@ -59,13 +59,14 @@ void addFinding(PxHtml *html, const PxFinding &finding, const PxSourceLines::Pie
 } // namespace
 
 void PxProofFindings::addTo(PxHtml *html, const QVector<PxFinding> &findings,
-                            const QHash<QString, QString> &fileNames)
+                            const QHash<QString, QString> &fileNames, const PxCheckedFile *file)
 {
     if (findings.isEmpty()) {
         html->element("p", PxProofWords::tr("Keine Befunde."), {{"class", "quiet"}});
         return;
     }
-    const PxSourceLines lines(placesOf(findings));
+    const QVector<PxPlace> places = placesOf(findings);
+    const PxSourceLines lines = file ? PxSourceLines(*file, places) : PxSourceLines(places);
     for (const PxFinding &finding : findings)
         addFinding(html, inCatalogue(finding, fileNames), lines.at(finding.place));
 }

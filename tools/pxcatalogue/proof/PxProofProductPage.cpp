@@ -1,6 +1,7 @@
 #include "proof/PxProofProductPage.h"
 
 #include "format/PxCatalogueKeywords.h"
+#include "origins/PxOriginFile.h"
 #include "origins/PxOrigins.h"
 #include "proof/PxPageNames.h"
 #include "proof/PxProofCatalogue.h"
@@ -34,6 +35,7 @@ struct Subject
     const PxProofCatalogue &catalogue;
     const PxProofProduct &product;
     PxShownProduct shown;
+    PxOriginFiles files;
     PxProductTypeList compatible;
 };
 
@@ -56,7 +58,9 @@ void addChanges(PxHtml *html, const Subject &subject)
 
 void addFindings(PxHtml *html, const Subject &subject)
 {
-    PxProofFindings::addTo(html, subject.product.findings, subject.catalogue.fileNames);
+    const PxOriginFile &file = subject.files.product;
+    PxProofFindings::addTo(html, subject.product.findings, subject.catalogue.fileNames,
+                           file.path().isEmpty() ? nullptr : &file.source());
 }
 
 void addDrawings(PxHtml *html, const Subject &subject)
@@ -79,8 +83,8 @@ void addSpine(PxHtml *html, const Subject &subject)
 
 void addValues(PxHtml *html, const Subject &subject)
 {
-    const PxOrigins origins(subject.shown);
     PxReport report = PxProductReport::of(subject.shown);
+    const PxOrigins origins(subject.shown, subject.files, report);
     report.setOrigins({},
                       [&origins](const QString &pointer) { return origins.at(pointer).text(); });
     PxProofReport::addTo(html, report);
@@ -211,9 +215,9 @@ PxProductTypeList compatibleWith(const PxProofProduct &product)
 QByteArray PxProofProductPage::page(const PxProofCatalogue &catalogue,
                                     const PxProofProduct &product)
 {
-    const Subject subject{catalogue, product,
-                          PxProductReport::shown(product.registry, product.type, 0, QString()),
-                          compatibleWith(product)};
+    const PxShownProduct shown =
+        PxProductReport::shown(product.registry, product.type, 0, QString());
+    const Subject subject{catalogue, product, shown, PxOriginFiles(shown), compatibleWith(product)};
     PxProofPage page(catalogue.title, product.type.productName());
     PxHtml &html = page.html();
     if (product.isLegacy)

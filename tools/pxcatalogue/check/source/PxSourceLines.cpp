@@ -29,11 +29,23 @@ PxSourceLines::PxSourceLines(const QVector<PxPlace> &places)
 {
     for (const PxPlace &place : places)
         m_pieces[place.path][{place.line, place.column}] = {};
-    for (auto file = m_pieces.begin(); file != m_pieces.end(); ++file) {
-        const PxCheckedFile source(file.key());
-        for (auto piece = file->begin(); piece != file->end(); ++piece)
-            *piece = pieceOf(source.source().line(piece.key().first), piece.key().second);
-    }
+    for (const QString &path : m_pieces.keys())
+        addPieces(path, PxCheckedFile(path));
+}
+
+PxSourceLines::PxSourceLines(const PxCheckedFile &file, const QVector<PxPlace> &places)
+{
+    for (const PxPlace &place : places)
+        m_pieces[place.path][{place.line, place.column}] = {};
+    for (const QString &path : m_pieces.keys())
+        addPieces(path, file);
+}
+
+void PxSourceLines::addPieces(const QString &path, const PxCheckedFile &file)
+{
+    QMap<Spot, Piece> &pieces = m_pieces[path];
+    for (auto piece = pieces.begin(); piece != pieces.end(); ++piece)
+        *piece = pieceOf(file.source().line(piece.key().first), piece.key().second);
 }
 
 PxSourceLines::Piece PxSourceLines::at(const PxPlace &place) const
