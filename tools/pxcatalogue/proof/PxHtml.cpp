@@ -39,7 +39,9 @@ QByteArray PxHtml::document() const
 void PxHtml::writeAttributes(const Attributes &attributes)
 {
     for (const Attribute &attribute : attributes) {
-        if (!attribute.value.isNull())
+        if (attribute.word)
+            m_html.plainAttribute(attribute.name, QLatin1String(attribute.word));
+        else if (!attribute.value.isNull())
             m_html.attribute(attribute.name, attribute.value);
     }
 }

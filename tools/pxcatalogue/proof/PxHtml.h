@@ -4,7 +4,8 @@
 
 #include <QByteArray>
 #include <QString>
-#include <QVector>
+
+#include <initializer_list>
 
 /**
  * Writes elements of HTML. All texts are escaped, and characters that cannot be seen become
@@ -15,10 +16,16 @@ class PxHtml
 public:
     struct Attribute
     {
+        /** A null text leaves the attribute out. */
+        Attribute(const char *attribute, const QString &text) : name(attribute), value(text) {}
+        /** A word of the program, in which nothing has to be escaped. */
+        Attribute(const char *attribute, const char *text) : name(attribute), word(text) {}
+
         const char *name;
-        QString value; ///< a null text leaves the attribute out
+        QString value;
+        const char *word = nullptr;
     };
-    using Attributes = QVector<Attribute>;
+    using Attributes = std::initializer_list<Attribute>;
 
     /** Opens an element; close() closes the one that was opened last. */
     void open(const char *name, const Attributes &attributes = {});
