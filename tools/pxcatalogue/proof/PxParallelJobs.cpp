@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <atomic>
 #include <future>
+#include <system_error>
 
 namespace {
 
@@ -33,12 +34,15 @@ std::optional<PxProblem> PxParallelJobs::run(const std::vector<Job> &jobs, PxPro
                 next = jobs.size();
         }
     };
-    {
-        std::vector<std::future<void>> threads; // each ends before its future is gone
+    std::vector<std::future<void>> threads;
+    try {
         for (int i = 1; i < threadCount(); ++i)
             threads.push_back(std::async(std::launch::async, work));
-        work();
+    } catch (const std::system_error &) { // the system refuses a thread: the others do its work
     }
+    work();
+    for (std::future<void> &thread : threads)
+        thread.get();
     const auto first = std::find_if(problems.begin(), problems.end(),
                                     [](const auto &problem) { return problem.has_value(); });
     return first == problems.end() ? std::nullopt : *first;
