@@ -47,8 +47,8 @@ proof: build
 	$(BUILD)/bin/pxcatalogue proof --resources data/sample --output $(BUILD)/proof
 	@echo "Open this in a browser: file://$(CURDIR)/$(BUILD)/proof/index.html"
 
-# The tests write the proofs that they open.
-browser pictures: PACKAGES += chromium nodejs npm tidy
+# The tests write the proofs that they open. A nodejs from elsewhere brings its own npm, with which Debian's conflicts.
+browser pictures: PACKAGES += chromium tidy $(if $(shell command -v npm),,nodejs npm)
 browser: build
 	cd tests/browser && npm ci --no-audit --no-fund && \
 	    PROGRAM=$(CURDIR)/$(BUILD)/bin/pxcatalogue SAMPLE=$(CURDIR)/data/sample node --test
