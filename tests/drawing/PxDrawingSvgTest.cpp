@@ -13,7 +13,6 @@ class PxDrawingSvgTest : public QObject
 
 private slots:
     void writesEachShape();
-    void roundsNumbersByTheirExactValue();
     void writesEachSheetInItsPlace();
     void writesNamesThatHoldAnything_data();
     void writesNamesThatHoldAnything();
@@ -140,27 +139,6 @@ void PxDrawingSvgTest::writesEachShape()
         "text-anchor=\"end\" fill=\"#123456\">9,4 &lt; &quot;x&quot;</text>",
         "</g>"};
     QCOMPARE(linesOf(group), lines);
-}
-
-void PxDrawingSvgTest::roundsNumbersByTheirExactValue()
-{
-    const auto written = [](double value) {
-        PxDrawnShape shape = ::shape(PxDrawnShape::Line);
-        shape.line.setP1({value, 0});
-        return linesOf(shape).value(0).section('"', 1, 1);
-    };
-    // Just below and above the middle of two hundredths, where a product by 100 would mislead.
-    for (int thousandths = -30005; thousandths < 30000; thousandths += 10) {
-        const double value = thousandths / 1000.0;
-        QString exact = QString::number(value, 'f', 2);
-        while (exact.endsWith('0'))
-            exact.chop(1);
-        if (exact.endsWith('.'))
-            exact.chop(1);
-        QCOMPARE(written(value), exact == "-0" ? "0" : exact);
-    }
-    QCOMPARE(written(-0.09), "-0.09");
-    QCOMPARE(written(2147483647.5), "2147483647.5");
 }
 
 void PxDrawingSvgTest::writesEachSheetInItsPlace()

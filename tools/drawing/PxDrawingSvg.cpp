@@ -2,130 +2,118 @@
 
 #include "drawing/PxDrawing.h"
 #include "drawing/PxDrawnFont.h"
-#include "writing/PxMarkup.h"
+#include "writing/PxVisibleText.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
-#include <QIODevice>
+#include <QXmlStreamWriter>
 
 #include <cmath>
-#include <cstdlib>
 #include <initializer_list>
-#include <iterator>
-#include <string>
 
 namespace {
 
 constexpr const char *nameOfSvg = "http://www.w3.org/2000/svg";
 constexpr const char *nameOfLayers = "http://www.inkscape.org/namespaces/inkscape";
 
-/** The value as it is written, with two decimals. */
-qint64 hundredths(double value)
-{
-    constexpr double surelyExact = 1e9;
-    const double product = value * 100;
-    const double below = std::floor(product);
-    // In the middle between two numbers the exact value decides, and the product is not exact.
-    const bool isInMiddle = std::abs(product - below - 0.5) < 1e-3;
-    if (isInMiddle || std::abs(product) > surelyExact)
-        return QByteArray::number(value, 'f', 2).replace(".", "").toLongLong();
-    return qint64(std::floor(product + 0.5));
-}
-
 /** With a point, at most two decimals and no exponent. */
-void appendNumber(std::string *text, qint64 hundredths)
+QString number(double value)
 {
-    quint64 rest = quint64(std::llabs(hundredths));
-    int decimals = 2;
-    for (; decimals > 0 && rest % 10 == 0; --decimals)
-        rest /= 10;
-    char digits[32];
-    char *first = std::end(digits);
-    for (int written = 0; rest > 0 || written <= decimals; ++written, rest /= 10) {
-        if (decimals > 0 && written == decimals)
-            *--first = '.';
-        *--first = char('0' + rest % 10);
+    if (value == std::trunc(value) && std::abs(value) < 1e9) // as most are
+        return QString::number(int(value));
+    QString text = QString::number(value, 'f', 2);
+    while (text.endsWith('0'))
+        text.chop(1);
+    if (text.endsWith('.'))
+        text.chop(1);
+    return text == QLatin1String("-0") ? QString("0") : text;
+}
+
+QString numbers(std::initializer_list<double> values)
+{
+    QString text;
+    for (const double value : values)
+        text += (text.isEmpty() ? QString() : QString(' ')) + number(value);
+    return text;
+}
+
+/** Space-separated, like numbers(). */
+QString list(const QVector<int> &values)
+{
+    QString text;
+    for (const int value : values)
+        text += (text.isEmpty() ? QString() : QString(' ')) + QString::number(value);
+    return text;
+}
+
+QString box(const QRect &rect)
+{
+    return numbers(
+        {double(rect.x()), double(rect.y()), double(rect.width()), double(rect.height())});
+}
+
+QString translation(double x, double y)
+{
+    return "translate(" + numbers({x, y}) + ')';
+}
+
+/** The text with U+FFFD for what no XML file can hold, escaped or not. */
+QString holdable(const QString &text)
+{
+    QString held = text;
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar unit = text[i];
+        if (unit.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate()) {
+            ++i;
+            continue;
+        }
+        const bool isControl = unit < ' ' && unit != '\t' && unit != '\n' && unit != '\r';
+        if (isControl || unit.isSurrogate() || unit.unicode() >= 0xFFFE)
+            held[i] = QChar::ReplacementCharacter;
     }
-    if (hundredths < 0)
-        *--first = '-';
-    text->append(first, std::end(digits));
-}
-
-void appendNumber(std::string *text, double value)
-{
-    appendNumber(text, hundredths(value));
-}
-
-/** With a blank between two. */
-template <typename Numbers>
-void appendNumbers(std::string *text, const Numbers &numbers)
-{
-    bool isFirst = true;
-    for (const auto number : numbers) {
-        if (!isFirst)
-            *text += ' ';
-        appendNumber(text, double(number));
-        isFirst = false;
-    }
-}
-
-void appendTranslation(std::string *text, double x, double y)
-{
-    *text += "translate(";
-    appendNumbers(text, std::initializer_list<double>{x, y});
-    *text += ')';
-}
-
-void appendColor(std::string *text, const QColor &color)
-{
-    static constexpr char ourDigits[] = "0123456789abcdef";
-    *text += '#';
-    for (int shift = 20; shift >= 0; shift -= 4)
-        *text += ourDigits[(color.rgb() >> shift) & 0xF];
+    return held;
 }
 
 /** The commands of a path: M, L or H or V, A, and Z. */
-void appendPath(std::string *data, const QVector<PxDrawnStep> &steps)
+QString pathData(const QVector<PxDrawnStep> &steps)
 {
-    qint64 atX = 0;
-    qint64 atY = 0;
+    QString data;
+    QPointF at;
     for (const PxDrawnStep &step : steps) {
-        if (step.kind == PxDrawnStep::Close) {
-            *data += 'Z';
+        const QString x = number(step.to.x());
+        const QString y = number(step.to.y());
+        switch (step.kind) {
+        case PxDrawnStep::Move:
+            data += 'M' + x + ' ' + y;
+            break;
+        case PxDrawnStep::Line:
+            data += y == number(at.y())   ? 'H' + x
+                    : x == number(at.x()) ? 'V' + y
+                                          : 'L' + x + ' ' + y;
+            break;
+        case PxDrawnStep::Arc:
+            data += 'A' + numbers({step.radius, step.radius, 0, 0, double(step.isClockwise)}) +
+                    ' ' + x + ' ' + y;
+            break;
+        case PxDrawnStep::Close:
+            data += 'Z';
             continue;
         }
-        const qint64 x = hundredths(step.to.x());
-        const qint64 y = hundredths(step.to.y());
-        const bool isLine = step.kind == PxDrawnStep::Line;
-        const bool isLevel = isLine && y == atY;
-        const bool isUpright = isLine && !isLevel && x == atX;
-        if (step.kind == PxDrawnStep::Arc) {
-            *data += 'A';
-            appendNumbers(data, std::initializer_list<double>{step.radius, step.radius, 0, 0,
-                                                              double(step.isClockwise)});
-            *data += ' ';
-        } else {
-            *data += !isLine ? 'M' : isLevel ? 'H' : isUpright ? 'V' : 'L';
-        }
-        if (!isUpright)
-            appendNumber(data, x);
-        if (!isUpright && !isLevel)
-            *data += ' ';
-        if (!isLevel)
-            appendNumber(data, y);
-        atX = x;
-        atY = y;
+        at = step.to;
     }
+    return data;
 }
 
 class Writer
 {
 public:
-    /** All ids begin with the prefix. */
-    explicit Writer(PxMarkup *xml, const QString &prefix = QString())
+    /** Without a prefix of ids for a file of its own. */
+    explicit Writer(QXmlStreamWriter *xml, const QString &prefix = QString())
         : m_xml(*xml)
         , m_prefix(prefix)
     {}
 
+    void writeFile(const PxDrawing &drawing);
     void write(const PxDrawing &drawing);
 
 private:
@@ -135,78 +123,56 @@ private:
     void writePaint(const PxDrawnShape &shape);
     void writeLetters(const PxDrawnShape &shape);
     void writeTitles(const QString &title, const QString &description, bool haveIds);
-
-    void attribute(const char *name, const QString &value) { m_xml.attribute(name, value); }
-    void word(const char *name, const char *value)
+    void attribute(const char *name, const QString &value)
     {
-        m_xml.plainAttribute(name, QLatin1String(value));
+        m_xml.writeAttribute(QLatin1String(name), held(value));
     }
-    /** An attribute whose value `append` writes. */
-    template <typename Append>
-    void value(const char *name, Append append)
+    /** In a page, characters that cannot be seen are escapes: a reference would be one of them. */
+    QString held(const QString &text) const
     {
-        m_value.clear(); // keeps its memory
-        append(&m_value);
-        m_xml.plainAttribute(name, QLatin1String(m_value.data(), int(m_value.size())));
-    }
-    template <typename Numbers>
-    void numbers(const char *name, const Numbers &values)
-    {
-        value(name, [&values](std::string *text) { appendNumbers(text, values); });
-    }
-    void number(const char *name, double number)
-    {
-        value(name, [number](std::string *text) { appendNumber(text, number); });
-    }
-    void color(const char *name, const QColor &color)
-    {
-        value(name, [&color](std::string *text) { appendColor(text, color); });
-    }
-    void box(const char *name, const QRect &rect)
-    {
-        numbers(name, std::initializer_list<int>{rect.x(), rect.y(), rect.width(), rect.height()});
-    }
-    void millimetres(const char *name, int length)
-    {
-        value(name, [length](std::string *text) {
-            appendNumber(text, length / 10.0);
-            *text += "mm";
-        });
-    }
-    void translation(const QPoint &by)
-    {
-        value("transform", [&by](std::string *text) { appendTranslation(text, by.x(), by.y()); });
+        return m_prefix.isEmpty() ? holdable(text) : PxVisibleText::line(text);
     }
 
-    PxMarkup &m_xml;
-    const QString m_prefix;
-    std::string m_value;
+    QXmlStreamWriter &m_xml;
+    const QString m_prefix; ///< of ids
 };
+
+void Writer::writeFile(const PxDrawing &drawing)
+{
+    m_xml.setAutoFormatting(true);
+    m_xml.setAutoFormattingIndent(1);
+    m_xml.writeStartDocument();
+    m_xml.writeStartElement("svg");
+    m_xml.writeDefaultNamespace(nameOfSvg);
+    m_xml.writeNamespace(nameOfLayers, "inkscape");
+    write(drawing);
+    m_xml.writeEndDocument();
+}
 
 /** The element, which is open. */
 void Writer::write(const PxDrawing &drawing)
 {
     const QSize size = drawing.size();
     const PxDrawnProduct &product = drawing.product;
-    millimetres("width", size.width());
-    millimetres("height", size.height());
-    box("viewBox", QRect(QPoint(), size));
+    attribute("width", number(size.width() / 10.0) + "mm");
+    attribute("height", number(size.height() / 10.0) + "mm");
+    attribute("viewBox", box(QRect(QPoint(), size)));
     attribute("xml:lang", QCoreApplication::translate("PxDrawing", "de", "code of the language"));
-    word("role", "img");
+    attribute("role", "img");
     attribute("aria-labelledby", m_prefix + "title " + m_prefix + "desc");
     attribute("font-family", pxDrawnFontFamilies().join(", "));
-    word("data-format", "1");
+    attribute("data-format", "1");
     attribute("data-product", product.type.productName());
     attribute("data-class", product.className);
-    number("data-page-count", product.pageCount);
+    attribute("data-page-count", QString::number(product.pageCount));
     if (!product.themeId.isEmpty())
         attribute("data-theme", product.themeId);
-    word("data-units-per-mm", "10");
-    number("data-annotation", drawing.annotation);
+    attribute("data-units-per-mm", "10");
+    attribute("data-annotation", QString::number(drawing.annotation));
     writeTitles(drawing.title, drawing.description, true);
     for (int i = 0; i < drawing.sheets.size(); ++i)
         writeSheet(drawing.sheets[i], drawing.positionOf(i));
-    m_xml.close();
+    m_xml.writeEndElement();
 }
 
 /** The union of the pages with their bleed. With a negative bleed it lies within the trim. */
@@ -225,44 +191,45 @@ void Writer::writeSheet(const PxDrawingSheet &sheet, const QPoint &position)
     for (const PxDrawnPage &page : sheet.sheet.pages)
         pages.append(page.number);
     const QString id = m_prefix + "sheet-" + QString::number(pages.value(0));
-    m_xml.open("g");
+    m_xml.writeStartElement("g");
     attribute("id", id);
-    word("class", "sheet");
-    word("data-kind", ourKinds[int(sheet.sheet.kind)]);
-    numbers("data-pages", pages);
-    numbers("data-stands-for", sheet.sheet.standsFor);
-    box("data-trim", sheet.sheet.trim);
-    box("data-total", totalOf(sheet.sheet));
-    box("data-canvas", sheet.canvas);
-    translation(position - sheet.canvas.topLeft());
+    attribute("class", "sheet");
+    attribute("data-kind", ourKinds[int(sheet.sheet.kind)]);
+    attribute("data-pages", list(pages));
+    attribute("data-stands-for", list(sheet.sheet.standsFor));
+    attribute("data-trim", box(sheet.sheet.trim));
+    attribute("data-total", box(totalOf(sheet.sheet)));
+    attribute("data-canvas", box(sheet.canvas));
+    const QPoint origin = position - sheet.canvas.topLeft();
+    attribute("transform", translation(origin.x(), origin.y()));
     writeTitles(sheet.title, sheet.description, false);
     for (int layer = 0; layer < pxDrawnLayerCount; ++layer) {
         const QVector<PxDrawnShape> &shapes = sheet.layers[std::size_t(layer)];
         if (shapes.isEmpty())
             continue;
         const QString name = pxDrawnLayerName(layer);
-        m_xml.open("g");
+        m_xml.writeStartElement("g");
         attribute("id", id + '-' + name);
         attribute("class", "layer " + name);
-        if (m_xml.kind() == PxMarkup::Kind::File) {
-            word("inkscape:groupmode", "layer");
-            attribute("inkscape:label", pxDrawnLayerLabel(layer));
+        if (m_prefix.isEmpty()) {
+            m_xml.writeAttribute(nameOfLayers, "groupmode", "layer");
+            m_xml.writeAttribute(nameOfLayers, "label", pxDrawnLayerLabel(layer));
         }
         for (const PxDrawnShape &shape : shapes)
             writeShape(shape);
-        m_xml.close();
+        m_xml.writeEndElement();
     }
-    m_xml.close();
+    m_xml.writeEndElement();
 }
 
 void Writer::writeTitles(const QString &title, const QString &description, bool haveIds)
 {
     for (const auto &[tag, text] : {std::pair("title", title), std::pair("desc", description)}) {
-        m_xml.open(tag);
+        m_xml.writeStartElement(tag);
         if (haveIds)
             attribute("id", m_prefix + tag);
-        m_xml.text(text);
-        m_xml.close();
+        m_xml.writeCharacters(held(text));
+        m_xml.writeEndElement();
     }
 }
 
@@ -270,15 +237,15 @@ void Writer::writeShape(const PxDrawnShape &shape)
 {
     static constexpr const char *ourTags[] = {"g",      "rect",    "line", "path",
                                               "circle", "ellipse", "text"};
-    m_xml.open(ourTags[shape.kind]);
+    m_xml.writeStartElement(ourTags[shape.kind]);
     if (!shape.className.isEmpty())
-        word("class", shape.className.constData());
+        attribute("class", QString::fromUtf8(shape.className));
     writeGeometry(shape);
     for (const auto &[name, value] : shape.attributes)
         attribute(name.constData(), value);
     if (shape.kind == PxDrawnShape::Group) {
         if (!shape.translation.isNull() || shape.className == "panel")
-            translation(shape.translation);
+            attribute("transform", translation(shape.translation.x(), shape.translation.y()));
         for (const PxDrawnShape &child : shape.children)
             writeShape(child);
     } else if (shape.kind == PxDrawnShape::Text) {
@@ -286,7 +253,7 @@ void Writer::writeShape(const PxDrawnShape &shape)
     } else {
         writePaint(shape);
     }
-    m_xml.close();
+    m_xml.writeEndElement();
 }
 
 void Writer::writeGeometry(const PxDrawnShape &shape)
@@ -297,40 +264,38 @@ void Writer::writeGeometry(const PxDrawnShape &shape)
     case PxDrawnShape::Group:
         break;
     case PxDrawnShape::Rect:
-        number("x", rect.x());
-        number("y", rect.y());
-        number("width", rect.width());
-        number("height", rect.height());
+        attribute("x", number(rect.x()));
+        attribute("y", number(rect.y()));
+        attribute("width", number(rect.width()));
+        attribute("height", number(rect.height()));
         break;
     case PxDrawnShape::Line:
-        number("x1", shape.line.x1());
-        number("y1", shape.line.y1());
-        number("x2", shape.line.x2());
-        number("y2", shape.line.y2());
+        attribute("x1", number(shape.line.x1()));
+        attribute("y1", number(shape.line.y1()));
+        attribute("x2", number(shape.line.x2()));
+        attribute("y2", number(shape.line.y2()));
         break;
     case PxDrawnShape::Path:
-        value("d", [&shape](std::string *data) { appendPath(data, shape.steps); });
+        attribute("d", pathData(shape.steps));
         break;
     case PxDrawnShape::Circle:
-        number("cx", center.x());
-        number("cy", center.y());
-        number("r", rect.width() / 2);
+        attribute("cx", number(center.x()));
+        attribute("cy", number(center.y()));
+        attribute("r", number(rect.width() / 2));
         break;
     case PxDrawnShape::Ellipse:
-        number("cx", center.x());
-        number("cy", center.y());
-        number("rx", rect.width() / 2);
-        number("ry", rect.height() / 2);
+        attribute("cx", number(center.x()));
+        attribute("cy", number(center.y()));
+        attribute("rx", number(rect.width() / 2));
+        attribute("ry", number(rect.height() / 2));
         break;
     case PxDrawnShape::Text:
         if (shape.readsUpward) {
-            value("transform", [&shape](std::string *text) {
-                appendTranslation(text, shape.position.x(), shape.position.y());
-                *text += " rotate(-90)";
-            });
+            attribute("transform",
+                      translation(shape.position.x(), shape.position.y()) + " rotate(-90)");
         } else {
-            number("x", shape.position.x());
-            number("y", shape.position.y());
+            attribute("x", number(shape.position.x()));
+            attribute("y", number(shape.position.y()));
         }
         break;
     }
@@ -338,47 +303,48 @@ void Writer::writeGeometry(const PxDrawnShape &shape)
 
 void Writer::writePaint(const PxDrawnShape &shape)
 {
-    if (shape.fill.isValid())
-        color("fill", shape.fill);
-    else
-        word("fill", "none");
+    attribute("fill", shape.fill.isValid() ? shape.fill.name() : QString("none"));
     const PxDrawnLine &line = shape.stroke;
     if (line.width <= 0)
         return;
-    color("stroke", line.color);
-    number("stroke-width", line.width);
-    if (!line.dashes.isEmpty())
-        numbers("stroke-dasharray", line.dashes);
+    attribute("stroke", line.color.name());
+    attribute("stroke-width", number(line.width));
+    QString dashes;
+    for (const double dash : line.dashes)
+        dashes += (dashes.isEmpty() ? QString() : QString(' ')) + number(dash);
+    if (!dashes.isEmpty())
+        attribute("stroke-dasharray", dashes);
     if (line.opacity < 1)
-        number("stroke-opacity", line.opacity);
+        attribute("stroke-opacity", number(line.opacity));
 }
 
 void Writer::writeLetters(const PxDrawnShape &shape)
 {
-    number("font-size", shape.fontSize);
+    attribute("font-size", number(shape.fontSize));
     if (shape.isBold)
-        word("font-weight", "bold");
+        attribute("font-weight", "bold");
     if (shape.anchor != PxDrawnShape::Anchor::Start)
-        word("text-anchor", shape.anchor == PxDrawnShape::Anchor::End ? "end" : "middle");
+        attribute("text-anchor", shape.anchor == PxDrawnShape::Anchor::End ? "end" : "middle");
     if (shape.fill.isValid())
-        color("fill", shape.fill);
-    m_xml.text(shape.text);
+        attribute("fill", shape.fill.name());
+    m_xml.writeCharacters(held(shape.text));
 }
 
 } // namespace
 
 void PxDrawingSvg::write(const PxDrawing &drawing, QIODevice *device)
 {
-    PxMarkup xml(PxMarkup::Kind::File);
-    xml.open("svg");
-    xml.plainAttribute("xmlns", QLatin1String(nameOfSvg));
-    xml.plainAttribute("xmlns:inkscape", QLatin1String(nameOfLayers));
-    Writer(&xml).write(drawing);
-    device->write("<?xml version=\"1.0\" encoding=\"UTF-8\"?>" + xml.bytes() + '\n');
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QXmlStreamWriter xml(&buffer);
+    Writer(&xml).writeFile(drawing);
+    // No program needs to see them as they are, and terminals must not.
+    device->write(PxVisibleText::xml(buffer.data()).toUtf8());
 }
 
-void PxDrawingSvg::write(const PxDrawing &drawing, const QString &prefix, PxMarkup *page)
+void PxDrawingSvg::write(const PxDrawing &drawing, const QString &prefix, QXmlStreamWriter *page)
 {
-    page->open("svg");
+    page->writeStartElement("svg");
+    page->writeAttribute("xmlns", nameOfSvg);
     Writer(page, prefix).write(drawing);
 }

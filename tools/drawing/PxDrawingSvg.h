@@ -2,8 +2,8 @@
 
 #include <QString>
 
-class PxMarkup;
 class QIODevice;
+class QXmlStreamWriter;
 struct PxDrawing;
 
 /** Writes drawings as SVG, with text as text. It needs no fonts. */
@@ -16,5 +16,5 @@ public:
      * Writes the element into a page of HTML. All ids in it begin with `prefix`, so that a page may
      * have several drawings.
      */
-    static void write(const PxDrawing &drawing, const QString &prefix, PxMarkup *page);
+    static void write(const PxDrawing &drawing, const QString &prefix, QXmlStreamWriter *page);
 };

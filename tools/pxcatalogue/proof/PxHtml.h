@@ -1,9 +1,9 @@
 #pragma once
 
-#include "writing/PxMarkup.h"
-
+#include <QBuffer>
 #include <QByteArray>
 #include <QString>
+#include <QXmlStreamWriter>
 
 #include <initializer_list>
 
@@ -16,16 +16,13 @@ class PxHtml
 public:
     struct Attribute
     {
-        /** A null text leaves the attribute out. */
-        Attribute(const char *attribute, const QString &text) : name(attribute), value(text) {}
-        /** A word of the program, in which nothing has to be escaped. */
-        Attribute(const char *attribute, const char *text) : name(attribute), word(text) {}
-
         const char *name;
-        QString value;
-        const char *word = nullptr;
+        QString value; ///< a null text leaves the attribute out
     };
     using Attributes = std::initializer_list<Attribute>;
+
+    PxHtml();
+    Q_DISABLE_COPY(PxHtml)
 
     /** Opens an element; close() closes the one that was opened last. */
     void open(const char *name, const Attributes &attributes = {});
@@ -36,7 +33,7 @@ public:
     /** An element that never has an end tag, such as "img". */
     void single(const char *name, const Attributes &attributes);
     /** For a drawing, which is written by its own writer. */
-    PxMarkup *writer() { return &m_html; }
+    QXmlStreamWriter *writer() { return &m_xml; }
 
     /** The document, with its type. */
     QByteArray document() const;
@@ -44,5 +41,7 @@ public:
 private:
     void writeAttributes(const Attributes &attributes);
 
-    PxMarkup m_html{PxMarkup::Kind::Page};
+    QByteArray m_bytes;
+    QBuffer m_buffer;
+    QXmlStreamWriter m_xml;
 };

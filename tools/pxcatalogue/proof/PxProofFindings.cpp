@@ -45,7 +45,7 @@ void addFinding(PxHtml *html, const PxFinding &finding, const PxSourceLines::Pie
         const PxSourceFrame frame(piece, finding.place, sourceWidth);
         html->open("pre", {{"tabindex", "0"}});
         html->text(frame.source);
-        html->writer()->plainText(QLatin1String("\n"));
+        html->writer()->writeCharacters("\n");
         html->text(frame.beforeCaret + frame.caret);
         html->close();
     }
