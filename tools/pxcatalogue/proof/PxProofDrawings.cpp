@@ -35,7 +35,7 @@ constexpr int mostSheets = 100; // nobody looks at more
 
 int numberOf(PxDrawnLayer layer)
 {
-    return qCountTrailingZeroBits(quint32(layer));
+    return int(qCountTrailingZeroBits(quint32(layer)));
 }
 
 /** Each once, ascending. */
