@@ -14,17 +14,6 @@ PxDrawnStep step(PxDrawnStep::Kind kind, const QPointF &to = {})
     return step;
 }
 
-/** Appends a closed line through the points, each once. */
-void addContour(Steps *steps, const QVector<QPointF> &points)
-{
-    for (const QPointF &point : points) {
-        const bool isFirst = &point == &points.constFirst();
-        if (isFirst || steps->constLast().to != point)
-            steps->append(step(isFirst ? PxDrawnStep::Move : PxDrawnStep::Line, point));
-    }
-    steps->append(step(PxDrawnStep::Close));
-}
-
 bool continues(const QRectF &area, const QRectF &next)
 {
     return area.right() == next.left() && area.top() < next.bottom() && next.top() < area.bottom();
@@ -42,6 +31,16 @@ void PxDrawnPath::addArc(Steps *steps, const QPointF &from, const QPointF &to, d
     PxDrawnStep arc = step(PxDrawnStep::Arc, to);
     arc.radius = radius;
     *steps += {step(PxDrawnStep::Move, from), arc};
+}
+
+void PxDrawnPath::addContour(Steps *steps, const QVector<QPointF> &points)
+{
+    for (const QPointF &point : points) {
+        const bool isFirst = &point == &points.constFirst();
+        if (isFirst || steps->constLast().to != point)
+            steps->append(step(isFirst ? PxDrawnStep::Move : PxDrawnStep::Line, point));
+    }
+    steps->append(step(PxDrawnStep::Close));
 }
 
 void PxDrawnPath::addHatch(Steps *steps, const QRectF &area, double distance, const QPointF &origin)

@@ -14,6 +14,8 @@ using Steps = QVector<PxDrawnStep>;
 void addLine(Steps *steps, const QPointF &from, const QPointF &to);
 /** Appends an arc of its own, clockwise. */
 void addArc(Steps *steps, const QPointF &from, const QPointF &to, double radius);
+/** Appends a closed line through the points, each once. */
+void addContour(Steps *steps, const QVector<QPointF> &points);
 /**
  * Appends lines at 45 degrees that fill the area. Those of areas side by side continue each other
  * if their origins, of the coordinates, are the same point of the sheet.

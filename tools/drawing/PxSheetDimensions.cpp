@@ -1,5 +1,6 @@
 #include "drawing/PxSheetDimensions.h"
 
+#include "drawing/PxDrawnPath.h"
 #include "drawing/PxDrawnWords.h"
 #include "drawing/PxShapeMaker.h"
 #include "drawing/PxTextWidth.h"
@@ -69,7 +70,7 @@ private:
     QVector<PxDrawnShape> lines(const Chain &chain, int index, const Place &place,
                                 double line) const;
     QVector<PxDrawnShape> number(const Segment &segment, const Place &place, double line) const;
-    PxDrawnShape arrow(double tip, double direction, double line) const;
+    void addArrow(PxDrawnPath::Steps *arrows, double tip, double direction, double line) const;
 
     PxSheetRoom &m_room;
     Side m_side;
@@ -116,38 +117,38 @@ QVector<SideWriter::Place> SideWriter::places(const Chain &chain) const
     return places;
 }
 
-PxDrawnShape SideWriter::arrow(double tip, double direction, double line) const
+void SideWriter::addArrow(PxDrawnPath::Steps *arrows, double tip, double direction,
+                          double line) const
 {
     const double tail = tip - direction * arrowLength * m_a;
     const double half = arrowWidth / 2 * m_a;
-    return PxShapeMaker::path(
-        {point(tip, line), point(tail, line - half), point(tail, line + half)}, {},
-        QColor(PxShapeMaker::paleInk), true);
+    PxDrawnPath::addContour(
+        arrows, {point(tip, line), point(tail, line - half), point(tail, line + half)});
 }
 
 QVector<PxDrawnShape> SideWriter::lines(const Chain &chain, int index, const Place &place,
                                         double line) const
 {
     const Segment &segment = chain[index];
-    const PxDrawnLine thin = PxShapeMaker::thinLine(m_a);
     const double out = m_side == Side::Above ? -overshoot * m_a : overshoot * m_a;
-    QVector<PxDrawnShape> shapes;
+    PxDrawnShape lines = PxShapeMaker::path({}, PxShapeMaker::thinLine(m_a));
+    PxDrawnShape arrows = PxShapeMaker::path({}, {}, QColor(PxShapeMaker::paleInk));
     for (const double along : {segment.low(), segment.high()})
-        shapes.append(PxShapeMaker::line({}, point(along, m_edge), point(along, line + out), thin));
+        PxDrawnPath::addLine(&lines.steps, point(along, m_edge), point(along, line + out));
     double from = segment.low();
     double to = segment.high();
     const bool hasRoom = segment.length() >= 2 * arrowLength * m_a + m_a / 2;
     if (hasRoom) {
-        shapes.append(arrow(from, -1, line));
-        shapes.append(arrow(to, 1, line));
+        addArrow(&arrows.steps, from, -1, line);
+        addArrow(&arrows.steps, to, 1, line);
     } else {
         // Arrows from outside, where no wider neighbour has one at the same place.
         if (index == 0) {
-            shapes.append(arrow(from, 1, line));
+            addArrow(&arrows.steps, from, 1, line);
             from -= arrowLength * m_a;
         }
         if (index + 1 == chain.size()) {
-            shapes.append(arrow(to, -1, line));
+            addArrow(&arrows.steps, to, -1, line);
             to += arrowLength * m_a;
         }
     }
@@ -156,8 +157,9 @@ QVector<PxDrawnShape> SideWriter::lines(const Chain &chain, int index, const Pla
         from = std::min(from, place.along - half);
         to = std::max(to, place.along + half);
     }
-    shapes.append(PxShapeMaker::line({}, point(from, line), point(to, line), thin));
-    return shapes;
+    PxDrawnPath::addLine(&lines.steps, point(from, line), point(to, line));
+    return arrows.steps.isEmpty() ? QVector<PxDrawnShape>{lines}
+                                  : QVector<PxDrawnShape>{lines, arrows};
 }
 
 QVector<PxDrawnShape> SideWriter::number(const Segment &segment, const Place &place,
