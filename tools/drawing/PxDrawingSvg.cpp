@@ -2,59 +2,124 @@
 
 #include "drawing/PxDrawing.h"
 #include "drawing/PxDrawnFont.h"
+#include "writing/PxHtml.h"
 #include "writing/PxVisibleText.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QXmlStreamWriter>
 
+#include <array>
+#include <charconv>
 #include <cmath>
-#include <initializer_list>
+#include <type_traits>
 
 namespace {
 
 constexpr const char *nameOfSvg = "http://www.w3.org/2000/svg";
 constexpr const char *nameOfLayers = "http://www.inkscape.org/namespaces/inkscape";
 
-/** With a point, at most two decimals and no exponent. */
-QString number(double value)
+qint64 hundredths(double value)
 {
-    if (value == std::trunc(value) && std::abs(value) < 1e9) // as most are
-        return QString::number(int(value));
-    QString text = QString::number(value, 'f', 2);
-    while (text.endsWith('0'))
-        text.chop(1);
-    if (text.endsWith('.'))
-        text.chop(1);
-    return text == QLatin1String("-0") ? QString("0") : text;
+    constexpr double largest = 1e15; // larger than all coordinates
+    return std::llround(qBound(-largest, value * 100, largest));
 }
 
-QString numbers(std::initializer_list<double> values)
+/** With a point, at most two decimals and no exponent. */
+void append(QString *text, double value)
+{
+    const qint64 rounded = hundredths(value);
+    const qint64 absolute = std::abs(rounded);
+    std::array<char, 24> digits;
+    char *end = std::to_chars(digits.data(), digits.data() + 20, absolute / 100).ptr;
+    if (const int decimals = int(absolute % 100)) {
+        *end++ = '.';
+        *end++ = char('0' + decimals / 10);
+        if (decimals % 10 != 0)
+            *end++ = char('0' + decimals % 10);
+    }
+    if (rounded < 0)
+        *text += '-';
+    *text += QLatin1String(digits.data(), int(end - digits.data()));
+}
+
+QString number(double value)
 {
     QString text;
-    for (const double value : values)
-        text += (text.isEmpty() ? QString() : QString(' ')) + number(value);
+    append(&text, value);
     return text;
 }
 
-/** Space-separated, like numbers(). */
-QString list(const QVector<int> &values)
+/** Space-separated. */
+template <typename VALUES>
+QString numbers(const VALUES &values)
 {
     QString text;
-    for (const int value : values)
-        text += (text.isEmpty() ? QString() : QString(' ')) + QString::number(value);
+    for (const double value : values) {
+        if (!text.isEmpty())
+            text += ' ';
+        append(&text, value);
+    }
     return text;
 }
 
 QString box(const QRect &rect)
 {
-    return numbers(
-        {double(rect.x()), double(rect.y()), double(rect.width()), double(rect.height())});
+    return numbers(std::array{rect.x(), rect.y(), rect.width(), rect.height()});
 }
 
 QString translation(double x, double y)
 {
-    return "translate(" + numbers({x, y}) + ')';
+    return "translate(" + numbers(std::array{x, y}) + ')';
+}
+
+void append(QString *data, char command, const QPointF &point)
+{
+    *data += command;
+    append(data, point.x());
+    *data += ' ';
+    append(data, point.y());
+}
+
+/** As H or V if it can be. */
+void appendLine(QString *data, const QPointF &from, const QPointF &to)
+{
+    if (hundredths(from.y()) == hundredths(to.y())) {
+        *data += 'H';
+        append(data, to.x());
+    } else if (hundredths(from.x()) == hundredths(to.x())) {
+        *data += 'V';
+        append(data, to.y());
+    } else {
+        append(data, 'L', to);
+    }
+}
+
+/** The commands of a path: M, L or H or V, A, and Z. */
+QString pathData(const QVector<PxDrawnStep> &steps)
+{
+    QString data;
+    QPointF at;
+    for (const PxDrawnStep &step : steps) {
+        switch (step.kind) {
+        case PxDrawnStep::Move:
+            append(&data, 'M', step.to);
+            break;
+        case PxDrawnStep::Line:
+            appendLine(&data, at, step.to);
+            break;
+        case PxDrawnStep::Arc:
+            append(&data, 'A', {step.radius, step.radius});
+            data += step.isClockwise ? " 0 0 1" : " 0 0 0";
+            append(&data, ' ', step.to);
+            break;
+        case PxDrawnStep::Close:
+            data += 'Z';
+            continue;
+        }
+        at = step.to;
+    }
+    return data;
 }
 
 /** The text with U+FFFD for what no XML file can hold, escaped or not. */
@@ -74,46 +139,38 @@ QString holdable(const QString &text)
     return held;
 }
 
-/** The commands of a path: M, L or H or V, A, and Z. */
-QString pathData(const QVector<PxDrawnStep> &steps)
+/** Writes elements of a file of its own, in the words of PxHtml. */
+class XmlFile
 {
-    QString data;
-    QPointF at;
-    for (const PxDrawnStep &step : steps) {
-        const QString x = number(step.to.x());
-        const QString y = number(step.to.y());
-        switch (step.kind) {
-        case PxDrawnStep::Move:
-            data += 'M' + x + ' ' + y;
-            break;
-        case PxDrawnStep::Line:
-            data += y == number(at.y())   ? 'H' + x
-                    : x == number(at.x()) ? 'V' + y
-                                          : 'L' + x + ' ' + y;
-            break;
-        case PxDrawnStep::Arc:
-            data += 'A' + numbers({step.radius, step.radius, 0, 0, double(step.isClockwise)}) +
-                    ' ' + x + ' ' + y;
-            break;
-        case PxDrawnStep::Close:
-            data += 'Z';
-            continue;
-        }
-        at = step.to;
+public:
+    explicit XmlFile(QIODevice *device) : m_xml(device)
+    {
+        m_xml.setAutoFormatting(true);
+        m_xml.setAutoFormattingIndent(1);
+        m_xml.writeStartDocument();
     }
-    return data;
-}
 
+    void open(const char *name) { m_xml.writeStartElement(QLatin1String(name)); }
+    void attribute(const char *name, const QString &value)
+    {
+        m_xml.writeAttribute(QLatin1String(name), holdable(value));
+    }
+    void text(const QString &text) { m_xml.writeCharacters(holdable(text)); }
+    void close() { m_xml.writeEndElement(); }
+    void finish() { m_xml.writeEndDocument(); }
+
+private:
+    QXmlStreamWriter m_xml;
+};
+
+/** Writes a drawing with XmlFile or PxHtml, which write what is in it as such files may hold it. */
+template <typename Xml>
 class Writer
 {
 public:
-    /** Without a prefix of ids for a file of its own. */
-    explicit Writer(QXmlStreamWriter *xml, const QString &prefix = QString())
-        : m_xml(*xml)
-        , m_prefix(prefix)
-    {}
+    /** All ids begin with the prefix. */
+    Writer(Xml *xml, const QString &prefix) : m_xml(*xml), m_prefix(prefix) {}
 
-    void writeFile(const PxDrawing &drawing);
     void write(const PxDrawing &drawing);
 
 private:
@@ -123,35 +180,21 @@ private:
     void writePaint(const PxDrawnShape &shape);
     void writeLetters(const PxDrawnShape &shape);
     void writeTitles(const QString &title, const QString &description, bool haveIds);
-    void attribute(const char *name, const QString &value)
-    {
-        m_xml.writeAttribute(QLatin1String(name), held(value));
-    }
-    /** In a page, characters that cannot be seen are escapes: a reference would be one of them. */
-    QString held(const QString &text) const
-    {
-        return m_prefix.isEmpty() ? holdable(text) : PxVisibleText::line(text);
-    }
+    void attribute(const char *name, const QString &value) { m_xml.attribute(name, value); }
 
-    QXmlStreamWriter &m_xml;
-    const QString m_prefix; ///< of ids
+    static constexpr bool isFile = std::is_same_v<Xml, XmlFile>;
+
+    Xml &m_xml;
+    const QString m_prefix;
 };
 
-void Writer::writeFile(const PxDrawing &drawing)
+template <typename Xml>
+void Writer<Xml>::write(const PxDrawing &drawing)
 {
-    m_xml.setAutoFormatting(true);
-    m_xml.setAutoFormattingIndent(1);
-    m_xml.writeStartDocument();
-    m_xml.writeStartElement("svg");
-    m_xml.writeDefaultNamespace(nameOfSvg);
-    m_xml.writeNamespace(nameOfLayers, "inkscape");
-    write(drawing);
-    m_xml.writeEndDocument();
-}
-
-/** The element, which is open. */
-void Writer::write(const PxDrawing &drawing)
-{
+    m_xml.open("svg");
+    attribute("xmlns", nameOfSvg);
+    if (isFile)
+        attribute("xmlns:inkscape", nameOfLayers);
     const QSize size = drawing.size();
     const PxDrawnProduct &product = drawing.product;
     attribute("width", number(size.width() / 10.0) + "mm");
@@ -172,7 +215,7 @@ void Writer::write(const PxDrawing &drawing)
     writeTitles(drawing.title, drawing.description, true);
     for (int i = 0; i < drawing.sheets.size(); ++i)
         writeSheet(drawing.sheets[i], drawing.positionOf(i));
-    m_xml.writeEndElement();
+    m_xml.close();
 }
 
 /** The union of the pages with their bleed. With a negative bleed it lies within the trim. */
@@ -184,19 +227,20 @@ QRect totalOf(const PxDrawnSheet &sheet)
     return total;
 }
 
-void Writer::writeSheet(const PxDrawingSheet &sheet, const QPoint &position)
+template <typename Xml>
+void Writer<Xml>::writeSheet(const PxDrawingSheet &sheet, const QPoint &position)
 {
     static constexpr const char *ourKinds[] = {"cover", "spread", "page"};
     QVector<int> pages;
     for (const PxDrawnPage &page : sheet.sheet.pages)
         pages.append(page.number);
     const QString id = m_prefix + "sheet-" + QString::number(pages.value(0));
-    m_xml.writeStartElement("g");
+    m_xml.open("g");
     attribute("id", id);
     attribute("class", "sheet");
     attribute("data-kind", ourKinds[int(sheet.sheet.kind)]);
-    attribute("data-pages", list(pages));
-    attribute("data-stands-for", list(sheet.sheet.standsFor));
+    attribute("data-pages", numbers(pages));
+    attribute("data-stands-for", numbers(sheet.sheet.standsFor));
     attribute("data-trim", box(sheet.sheet.trim));
     attribute("data-total", box(totalOf(sheet.sheet)));
     attribute("data-canvas", box(sheet.canvas));
@@ -208,36 +252,38 @@ void Writer::writeSheet(const PxDrawingSheet &sheet, const QPoint &position)
         if (shapes.isEmpty())
             continue;
         const QString name = pxDrawnLayerName(layer);
-        m_xml.writeStartElement("g");
+        m_xml.open("g");
         attribute("id", id + '-' + name);
         attribute("class", "layer " + name);
-        if (m_prefix.isEmpty()) {
-            m_xml.writeAttribute(nameOfLayers, "groupmode", "layer");
-            m_xml.writeAttribute(nameOfLayers, "label", pxDrawnLayerLabel(layer));
+        if (isFile) {
+            attribute("inkscape:groupmode", "layer");
+            attribute("inkscape:label", pxDrawnLayerLabel(layer));
         }
         for (const PxDrawnShape &shape : shapes)
             writeShape(shape);
-        m_xml.writeEndElement();
+        m_xml.close();
     }
-    m_xml.writeEndElement();
+    m_xml.close();
 }
 
-void Writer::writeTitles(const QString &title, const QString &description, bool haveIds)
+template <typename Xml>
+void Writer<Xml>::writeTitles(const QString &title, const QString &description, bool haveIds)
 {
     for (const auto &[tag, text] : {std::pair("title", title), std::pair("desc", description)}) {
-        m_xml.writeStartElement(tag);
+        m_xml.open(tag);
         if (haveIds)
             attribute("id", m_prefix + tag);
-        m_xml.writeCharacters(held(text));
-        m_xml.writeEndElement();
+        m_xml.text(text);
+        m_xml.close();
     }
 }
 
-void Writer::writeShape(const PxDrawnShape &shape)
+template <typename Xml>
+void Writer<Xml>::writeShape(const PxDrawnShape &shape)
 {
     static constexpr const char *ourTags[] = {"g",      "rect",    "line", "path",
                                               "circle", "ellipse", "text"};
-    m_xml.writeStartElement(ourTags[shape.kind]);
+    m_xml.open(ourTags[shape.kind]);
     if (!shape.className.isEmpty())
         attribute("class", QString::fromUtf8(shape.className));
     writeGeometry(shape);
@@ -253,10 +299,11 @@ void Writer::writeShape(const PxDrawnShape &shape)
     } else {
         writePaint(shape);
     }
-    m_xml.writeEndElement();
+    m_xml.close();
 }
 
-void Writer::writeGeometry(const PxDrawnShape &shape)
+template <typename Xml>
+void Writer<Xml>::writeGeometry(const PxDrawnShape &shape)
 {
     const QRectF &rect = shape.rect;
     const QPointF center = rect.center();
@@ -301,7 +348,8 @@ void Writer::writeGeometry(const PxDrawnShape &shape)
     }
 }
 
-void Writer::writePaint(const PxDrawnShape &shape)
+template <typename Xml>
+void Writer<Xml>::writePaint(const PxDrawnShape &shape)
 {
     attribute("fill", shape.fill.isValid() ? shape.fill.name() : QString("none"));
     const PxDrawnLine &line = shape.stroke;
@@ -309,16 +357,14 @@ void Writer::writePaint(const PxDrawnShape &shape)
         return;
     attribute("stroke", line.color.name());
     attribute("stroke-width", number(line.width));
-    QString dashes;
-    for (const double dash : line.dashes)
-        dashes += (dashes.isEmpty() ? QString() : QString(' ')) + number(dash);
-    if (!dashes.isEmpty())
-        attribute("stroke-dasharray", dashes);
+    if (!line.dashes.isEmpty())
+        attribute("stroke-dasharray", numbers(line.dashes));
     if (line.opacity < 1)
         attribute("stroke-opacity", number(line.opacity));
 }
 
-void Writer::writeLetters(const PxDrawnShape &shape)
+template <typename Xml>
+void Writer<Xml>::writeLetters(const PxDrawnShape &shape)
 {
     attribute("font-size", number(shape.fontSize));
     if (shape.isBold)
@@ -327,7 +373,7 @@ void Writer::writeLetters(const PxDrawnShape &shape)
         attribute("text-anchor", shape.anchor == PxDrawnShape::Anchor::End ? "end" : "middle");
     if (shape.fill.isValid())
         attribute("fill", shape.fill.name());
-    m_xml.writeCharacters(held(shape.text));
+    m_xml.text(shape.text);
 }
 
 } // namespace
@@ -336,15 +382,14 @@ void PxDrawingSvg::write(const PxDrawing &drawing, QIODevice *device)
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    QXmlStreamWriter xml(&buffer);
-    Writer(&xml).writeFile(drawing);
+    XmlFile xml(&buffer);
+    Writer(&xml, {}).write(drawing);
+    xml.finish();
     // No program needs to see them as they are, and terminals must not.
     device->write(PxVisibleText::xml(buffer.data()).toUtf8());
 }
 
-void PxDrawingSvg::write(const PxDrawing &drawing, const QString &prefix, QXmlStreamWriter *page)
+void PxDrawingSvg::write(const PxDrawing &drawing, const QString &prefix, PxHtml *page)
 {
-    page->writeStartElement("svg");
-    page->writeAttribute("xmlns", nameOfSvg);
     Writer(page, prefix).write(drawing);
 }

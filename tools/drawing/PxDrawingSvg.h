@@ -2,8 +2,8 @@
 
 #include <QString>
 
+class PxHtml;
 class QIODevice;
-class QXmlStreamWriter;
 struct PxDrawing;
 
 /** Writes drawings as SVG, with text as text. It needs no fonts. */
@@ -13,8 +13,8 @@ public:
     /** The device must be open. The bytes depend on nothing but the drawing and the language. */
     static void write(const PxDrawing &drawing, QIODevice *device);
     /**
-     * Writes the element into a page of HTML. All ids in it begin with `prefix`, so that a page may
+     * Writes an element into a page. All ids in it begin with `prefix`, so that a page may
      * have several drawings.
      */
-    static void write(const PxDrawing &drawing, const QString &prefix, QXmlStreamWriter *page);
+    static void write(const PxDrawing &drawing, const QString &prefix, PxHtml *page);
 };

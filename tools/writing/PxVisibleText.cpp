@@ -71,9 +71,18 @@ QString escapedInXml(uint character)
     return "&#x" + QString::number(character, 16).toUpper() + ';';
 }
 
+/** As nearly all texts are. */
+bool isPlain(const QString &text)
+{
+    return std::all_of(text.begin(), text.end(),
+                       [](QChar unit) { return unit >= QChar(' ') && unit < QChar(0x7F); });
+}
+
 /** Keeps line breaks if `hasLines`. */
 QString escaped(const QString &text, bool hasLines, QString (*escapeOf)(uint))
 {
+    if (isPlain(text))
+        return text;
     QString visible;
     int copied = 0; // how much of the text is already in `visible`
     for (int i = 0; i < text.size();) {

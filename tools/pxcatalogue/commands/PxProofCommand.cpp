@@ -9,6 +9,7 @@
 #include "diff/PxCatalogueDiff.h"
 #include "diff/PxDiffPlaces.h"
 #include "export/PxCatalogueExport.h"
+#include "proof/PxParallelJobs.h"
 #include "proof/PxProof.h"
 #include "proof/PxProofCatalogue.h"
 #include "proof/PxProofFolder.h"
@@ -32,13 +33,12 @@ std::optional<PxProblem> addFindings(const PxCommandLine &line, PxProofCatalogue
     return std::nullopt;
 }
 
-QVector<QByteArray> exportedLines()
+std::optional<PxProblem> exportLines(QVector<QByteArray> *lines)
 {
-    QVector<QByteArray> lines;
     PxCatalogueExport catalogue;
     while (const auto line = catalogue.next())
-        lines.append(line->toUtf8());
-    return lines;
+        lines->append(line->toUtf8());
+    return std::nullopt;
 }
 
 std::optional<PxProblem> addChanges(PxOtherCatalogue *other, const QString &name,
@@ -63,9 +63,13 @@ std::optional<PxProblem> write(const PxCommandLine &line, PxOtherCatalogue *othe
 {
     PxProofCatalogue catalogue;
     catalogue.title = line.isSet("title") ? line.value("title") : PxProofWords::tr("Katalog");
-    if (const auto problem = addFindings(line, &catalogue))
-        return problem;
-    const QVector<QByteArray> lines = exportedLines();
+    QVector<QByteArray> lines;
+    const auto problemOfCheck = PxParallelJobs::run({
+        [&] { return addFindings(line, &catalogue); },
+        [&] { return exportLines(&lines); },
+    });
+    if (problemOfCheck)
+        return problemOfCheck;
     for (const QByteArray &exported : lines)
         catalogue.exported += exported;
     if (other) {

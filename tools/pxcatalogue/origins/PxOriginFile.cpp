@@ -11,7 +11,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QHash>
-#include <QStringList>
 
 namespace {
 
@@ -159,10 +158,10 @@ PxPlace PxOriginFile::place(const PxSourceRange &range) const
 
 const PxElementRow *PxOriginFile::rowOf(const PxSourceElement &element) const
 {
-    QStringList names;
-    for (const PxSourceElement *e = &element; e->parent; e = e->parent)
-        names.prepend(e->name);
-    return PxFormat::find(m_format, names.join('/'));
+    if (!element.parent)
+        return &PxFormat::root(m_format);
+    const PxElementRow *parent = rowOf(*element.parent);
+    return parent ? PxFormat::child(*parent, element.name) : nullptr;
 }
 
 PxOriginFiles::PxOriginFiles(const PxShownProduct &shown)

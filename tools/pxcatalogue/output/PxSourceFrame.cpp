@@ -22,30 +22,42 @@ struct Cells
             add(character);
     }
 
-    int count() const { return texts.size(); }
+    int count() const { return columns.size() - 1; }
     int width(int begin, int end) const { return columns[end] - columns[begin]; }
-    QString text(int begin, int end) const { return texts.mid(begin, end - begin).join(QString()); }
+    QString text(int begin, int end) const
+    {
+        return printed.mid(places[begin], places[end] - places[begin]);
+    }
 
-    QStringList texts;
-    QVector<int> columns{0}; // before each, and behind the last
+    QString printed;
+    // Before each, and behind the last:
+    QVector<int> places{0};  ///< in what is printed
+    QVector<int> columns{0}; ///< where it stands
 
 private:
     void add(uint character)
     {
-        if (character >= ' ' && character < 0x7F) { // as nearly all are
-            texts.append(QChar(character));
-            columns.append(columns.constLast() + 1);
-            return;
+        int width = 1;
+        if (character >= ' ' && character < 0x7F) // as nearly all are
+            printed += QChar(character);
+        else
+            width = addEscaped(character);
+        places.append(printed.size());
+        columns.append(columns.constLast() + width);
+    }
+
+    /** Returns its width. */
+    int addEscaped(uint character)
+    {
+        if (character == '\t') {
+            const int width = tabWidth - columns.constLast() % tabWidth;
+            printed += QString(width, ' ');
+            return width;
         }
         const QString text = QString::fromUcs4(&character, 1);
-        QString visible = PxVisibleText::line(text);
-        int width = visible == text ? PxTerminal::width(character) : visible.size();
-        if (character == '\t') {
-            width = tabWidth - columns.constLast() % tabWidth;
-            visible = QString(width, ' ');
-        }
-        texts.append(visible);
-        columns.append(columns.constLast() + width);
+        const QString visible = PxVisibleText::line(text);
+        printed += visible;
+        return visible == text ? PxTerminal::width(character) : visible.size();
     }
 };
 

@@ -29,7 +29,8 @@ std::optional<PxProblem> PxParallelJobs::run(const std::vector<Job> &jobs, PxPro
     const auto work = [&] {
         for (std::size_t job = next++; job < jobs.size(); job = next++) {
             problems[job] = jobs[job]();
-            progress->advance();
+            if (progress)
+                progress->advance();
             if (problems[job])
                 next = jobs.size();
         }

@@ -19,7 +19,8 @@ public:
 
     /**
      * Does all jobs, which do not depend on each other, and returns the problem of the first one
-     * that has one. Jobs that have not begun by then are left out.
+     * that has one. Jobs that have not begun by then are left out. The progress may be null.
      */
-    static std::optional<PxProblem> run(const std::vector<Job> &jobs, PxProgress *progress);
+    static std::optional<PxProblem> run(const std::vector<Job> &jobs,
+                                        PxProgress *progress = nullptr);
 };

@@ -1,8 +1,8 @@
 #include "proof/PxProofDifferences.h"
 
 #include "diff/PxDiffText.h"
-#include "proof/PxHtml.h"
 #include "proof/PxProofWords.h"
+#include "writing/PxHtml.h"
 #include "writing/PxTerminal.h"
 
 namespace {

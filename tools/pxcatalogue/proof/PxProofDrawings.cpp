@@ -6,9 +6,9 @@
 #include "drawing/PxDrawnWords.h"
 #include "drawing/PxPageCounts.h"
 #include "drawing/PxSharedSheets.h"
-#include "proof/PxHtml.h"
 #include "proof/PxProofCatalogue.h"
 #include "proof/PxProofWords.h"
+#include "writing/PxHtml.h"
 
 #include <PxProductProperties.h>
 
@@ -116,7 +116,7 @@ void addSheet(PxHtml *html, const PxDrawing &drawing, int index, const PxSharedS
     sheet.title = sheet.sheets[0].title;
     sheet.description = sheet.sheets[0].description;
     html->open("figure", {{"class", "drawing"}, {"data-counts", counts.join(' ')}});
-    PxDrawingSvg::write(sheet, QString("drawing-%1-").arg(index), html->writer());
+    PxDrawingSvg::write(sheet, QString("drawing-%1-").arg(index), html);
     addCaption(html, shared);
     html->close();
 }

@@ -4,8 +4,8 @@
 #include "check/source/PxSourceLines.h"
 #include "origins/PxOrigin.h"
 #include "output/PxSourceFrame.h"
-#include "proof/PxHtml.h"
 #include "proof/PxProofWords.h"
+#include "writing/PxHtml.h"
 
 namespace {
 
@@ -45,7 +45,7 @@ void addFinding(PxHtml *html, const PxFinding &finding, const PxSourceLines::Pie
         const PxSourceFrame frame(piece, finding.place, sourceWidth);
         html->open("pre", {{"tabindex", "0"}});
         html->text(frame.source);
-        html->writer()->writeCharacters("\n");
+        html->newLine();
         html->text(frame.beforeCaret + frame.caret);
         html->close();
     }

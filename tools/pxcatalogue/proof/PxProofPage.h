@@ -1,6 +1,6 @@
 #pragma once
 
-#include "proof/PxHtml.h"
+#include "writing/PxHtml.h"
 
 /** A page of the proof: what all pages have around their contents. */
 class PxProofPage

@@ -20,7 +20,7 @@
 #include <PxProductProperties.h>
 
 #include <QHash>
-#include <QJsonDocument>
+#include <QJsonArray>
 
 namespace {
 
@@ -90,20 +90,32 @@ void addValues(PxHtml *html, const Subject &subject)
     PxProofReport::addTo(html, report);
 }
 
+QJsonArray valuesOf(const PxReport &report)
+{
+    QJsonArray values;
+    for (const PxReport::Section &section : report.sections()) {
+        for (const PxReport::Field &field : section.fields)
+            values.append(field.value);
+        for (const QJsonArray &row : section.rows)
+            values.append(row);
+    }
+    return values;
+}
+
 /** Themes that show the product alike stand together. */
 void addThemes(PxHtml *html, const Subject &subject)
 {
     QVector<QPair<PxReport, QVector<int>>> groups;
-    QHash<QByteArray, int> groupOf;
+    QHash<QJsonArray, int> groupOf;
     for (const int theme : subject.product.themes.mid(0, mostThemes)) {
         const PxReport report =
             PxProductReport::ofTheme(subject.shown, subject.catalogue.themes[theme].theme);
-        const QByteArray key = QJsonDocument(report.json()).toJson(QJsonDocument::Compact);
-        if (!groupOf.contains(key)) {
-            groupOf.insert(key, groups.size());
+        const QJsonArray values = valuesOf(report);
+        if (!groupOf.contains(values)) {
+            groupOf.insert(values, groups.size());
             groups.append({report, {}});
         }
-        groups[groupOf[key]].second.append(theme);
+        groups[groupOf[values]].second.append(theme);
     }
     for (const auto &[report, themes] : groups) {
         html->open("ul", {{"class", "names"}});
@@ -140,29 +152,41 @@ void addVariants(PxHtml *html, const Subject &subject)
     html->close();
 }
 
-/** The criteria in which each compatible product agrees with this one. */
-QHash<PxProductType, QStringList> agreements(const PxProofProduct &product)
+/** The criteria in which each compatible product agrees with this one, as bits. */
+QHash<PxProductType, int> agreements(const PxProofProduct &product)
 {
-    QHash<PxProductType, QStringList> agreeing;
+    QHash<PxProductType, int> agreeing;
     for (const auto &row : criterionRows) {
         for (const PxProductType &other :
              product.registry->findCompatibleProducts(product.type, row.value))
-            agreeing[other].append(PxProofWords::keyword(row.keyword));
+            agreeing[other] |= row.value;
     }
     return agreeing;
 }
 
+QString textOf(int agreeing)
+{
+    QStringList criteria;
+    for (const auto &row : criterionRows) {
+        if (agreeing & row.value)
+            criteria.append(PxProofWords::keyword(row.keyword));
+    }
+    return criteria.isEmpty() ? QString()
+                              : ' ' + PxProofWords::tr("(gleich: %1)").arg(criteria.join(", "));
+}
+
 void addCompatible(PxHtml *html, const Subject &subject)
 {
-    const QHash<PxProductType, QStringList> agreeing = agreements(subject.product);
+    const QHash<PxProductType, int> agreeing = agreements(subject.product);
+    QHash<int, QString> texts;
+    for (const int criteria : agreeing)
+        texts.insert(criteria, textOf(criteria));
     html->open("ul");
     for (const PxProductType &other : subject.compatible.mid(0, mostCompatible)) {
-        const QString same = agreeing.value(other).join(", ");
         html->open("li");
         addLink(html, other.productName(),
                 PxPageNames::of(PxPageNames::Kind::Product, other.productName()));
-        if (!same.isEmpty())
-            html->text(' ' + PxProofWords::tr("(gleich: %1)").arg(same));
+        html->text(texts.value(agreeing.value(other)));
         html->close();
     }
     html->close();

@@ -1,8 +1,11 @@
 #include "proof/PxProofReport.h"
 
-#include "proof/PxHtml.h"
 #include "proof/PxProofWords.h"
+#include "writing/PxHtml.h"
 #include "writing/PxTerminal.h"
+
+#include <QMap>
+#include <QStringList>
 
 namespace {
 
@@ -56,35 +59,47 @@ void addHeads(PxHtml *html, const Section &section)
     html->close();
 }
 
-void addRow(PxHtml *html, const PxReport &report, const Section &section, int row)
+/** Of each column that is shown, for each row. */
+using Origins = QMap<int, QStringList>;
+
+Origins originsOf(const PxReport &report, const Section &section)
+{
+    Origins origins;
+    for (int i = 0; i < section.columns.size(); ++i) {
+        if (section.columns[i].format == PxReportFormat::JsonOnly)
+            continue;
+        for (const QString &origin : report.origins(section, section.columns[i]))
+            origins[i].append(shortenedOrigin(origin));
+    }
+    return origins;
+}
+
+void addRow(PxHtml *html, const Section &section, const Origins &origins, int row)
 {
     html->open("tr");
-    for (int i = 0; i < section.columns.size(); ++i) {
-        const PxReport::Column &column = section.columns[i];
-        if (column.format != PxReportFormat::JsonOnly)
-            html->element("td", textOf(section.rows[row][i], column.format),
-                          {{"title", shortenedOrigin(report.origin(section, column, row))}});
+    for (auto column = origins.begin(); column != origins.end(); ++column) {
+        const int i = column.key();
+        html->element("td", textOf(section.rows[row][i], section.columns[i].format),
+                      {{"title", column->at(row)}});
     }
     html->close();
 }
 
 /** Under a table: a line for each column, or for the rows of it that have the same origin. */
-void addOrigins(PxHtml *html, const PxReport &report, const Section &section)
+void addOrigins(PxHtml *html, const Section &section, const Origins &origins)
 {
     html->open("details", {{"class", "origins"}});
     html->element("summary", PxProofWords::tr("Herkunft"));
     html->open("table", {{"class", "values"}});
     html->open("tbody");
-    for (const PxReport::Column &column : section.columns) {
-        if (column.format == PxReportFormat::JsonOnly)
-            continue;
-        for (const PxReport::RowsOrigin &origin : report.origins(section, column)) {
+    for (auto column = origins.begin(); column != origins.end(); ++column) {
+        for (const PxReport::RowsOrigin &origin : PxReport::grouped(*column)) {
             const QString rows = PxProofWords::tr("Zeile %1").arg(origin.rows);
             html->open("tr");
-            html->element("th", PxProofWords::label(column.label), {{"scope", "row"}});
+            html->element("th", PxProofWords::label(section.columns[column.key()].label),
+                          {{"scope", "row"}});
             html->element("td", origin.rows.isEmpty() ? QString() : rows);
-            html->element("td", shortenedOrigin(origin.origin),
-                          {{"class", "origin"}, {"lang", "en"}});
+            html->element("td", origin.origin, {{"class", "origin"}, {"lang", "en"}});
             html->close();
         }
     }
@@ -101,14 +116,15 @@ void addTable(PxHtml *html, const PxReport &report, const Section &section)
                        {"aria-label", PxProofWords::heading(section.key, section.heading)}});
     html->open("table");
     addHeads(html, section);
+    const Origins origins = originsOf(report, section);
     html->open("tbody");
     for (int row = 0; row < section.rows.size(); ++row)
-        addRow(html, report, section, row);
+        addRow(html, section, origins, row);
     html->close();
     html->close();
     html->close();
     if (report.hasOrigins())
-        addOrigins(html, report, section);
+        addOrigins(html, section, origins);
 }
 
 bool isEmpty(const Section &section)

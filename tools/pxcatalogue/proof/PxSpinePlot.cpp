@@ -1,8 +1,8 @@
 #include "proof/PxSpinePlot.h"
 
-#include "proof/PxHtml.h"
 #include "proof/PxProofWords.h"
 #include "report/PxReportValue.h"
+#include "writing/PxHtml.h"
 
 #include <QPointF>
 #include <QRectF>

@@ -172,19 +172,23 @@ QString PxReport::origin(const Section &section, const Field &field) const
     return m_originAt ? m_originAt(QString("/%1/%2").arg(section.key, field.key)) : QString();
 }
 
-QString PxReport::origin(const Section &section, const Column &column, int row) const
+QStringList PxReport::origins(const Section &section, const Column &column) const
 {
-    return m_originAt
-               ? m_originAt(QString("/%1/%2/%3").arg(section.key, QString::number(row), column.key))
-               : QString();
+    QStringList origins;
+    for (int row = 0; row < section.rows.size(); ++row)
+        origins.append(m_originAt
+                           ? m_originAt(QString("/%1/%2/%3")
+                                            .arg(section.key, QString::number(row), column.key))
+                           : QString());
+    return origins;
 }
 
-QVector<PxReport::RowsOrigin> PxReport::origins(const Section &section, const Column &column) const
+QVector<PxReport::RowsOrigin> PxReport::grouped(const QStringList &originsOfRows)
 {
     QStringList different;
     QHash<QString, QList<int>> rowsOf;
-    for (int row = 0; m_originAt && row < section.rows.size(); ++row) {
-        const QString origin = this->origin(section, column, row);
+    for (int row = 0; row < originsOfRows.size(); ++row) {
+        const QString &origin = originsOfRows[row];
         if (!rowsOf.contains(origin))
             different.append(origin);
         rowsOf[origin].append(row + 1);
@@ -210,7 +214,7 @@ QStringList PxReport::linesWithOrigins(const Section &section, int width) const
     for (const Column &column : section.columns) {
         if (column.format == PxReportFormat::JsonOnly)
             continue;
-        for (const RowsOrigin &origin : origins(section, column))
+        for (const RowsOrigin &origin : grouped(origins(section, column)))
             lines.add("  " + QString::fromUtf8(column.label),
                       origin.rows.isEmpty() ? QString() : "row " + origin.rows, origin.origin);
     }

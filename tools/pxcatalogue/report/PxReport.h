@@ -7,6 +7,7 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 #include <functional>
@@ -76,17 +77,18 @@ public:
     };
     const QVector<Section> &sections() const { return m_sections; }
     bool hasOrigins() const { return bool(m_originAt); }
-    /** Where the value of a field comes from. Empty without origins, like the next ones. */
+    /** Where the value of a field comes from; empty without origins. */
     QString origin(const Section &section, const Field &field) const;
-    QString origin(const Section &section, const Column &column, int row) const;
+    /** The same for each row of a column. */
+    QStringList origins(const Section &section, const Column &column) const;
 
-    /** Where values of a column come from. */
+    /** Where several values of a column come from. */
     struct RowsOrigin
     {
         QString rows; ///< their numbers, beginning at 1; empty for all
         QString origin;
     };
-    QVector<RowsOrigin> origins(const Section &section, const Column &column) const;
+    static QVector<RowsOrigin> grouped(const QStringList &originsOfRows);
 
     QJsonObject json() const;
     /** Adds the sections with all that is exported. */
