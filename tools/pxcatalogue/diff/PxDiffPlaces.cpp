@@ -30,7 +30,6 @@ constexpr struct
     const char *exported;
     const char *shown;
 } pointerRows[] = {
-    {"/pages/offered", "/pages/pageCounts"},
     {"/pages/list", "/pages/listEntries"},
     {"/pages/sides", "/pages/horizontalPages"},
     {"/surroundings/*/places", "/surroundings/*/pages"},

@@ -28,22 +28,23 @@ struct Changed
     const PxProofChanges &changes;
 };
 
-QVector<Changed> changedOf(const QVector<PxProofProduct> &products)
+QString nameOf(const PxProofProduct &product)
 {
-    QVector<Changed> changed;
-    for (const PxProofProduct &product : products) {
-        if (!product.changes.isEmpty())
-            changed.append({product.type.productName(), product.page, product.changes});
-    }
-    return changed;
+    return product.type.productName();
 }
 
-QVector<Changed> changedOf(const QVector<PxProofTheme> &themes)
+QString nameOf(const PxProofTheme &theme)
+{
+    return theme.theme.id();
+}
+
+template <typename Object>
+QVector<Changed> changedOf(const QVector<Object> &objects)
 {
     QVector<Changed> changed;
-    for (const PxProofTheme &theme : themes) {
-        if (!theme.changes.isEmpty())
-            changed.append({theme.theme.id(), theme.page, theme.changes});
+    for (const Object &object : objects) {
+        if (!object.changes.isEmpty())
+            changed.append({nameOf(object), object.page, object.changes});
     }
     return changed;
 }
