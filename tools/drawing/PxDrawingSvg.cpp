@@ -5,7 +5,6 @@
 #include "writing/PxHtml.h"
 #include "writing/PxVisibleText.h"
 
-#include <QBuffer>
 #include <QCoreApplication>
 #include <QXmlStreamWriter>
 
@@ -143,11 +142,10 @@ QString holdable(const QString &text)
 class XmlFile
 {
 public:
-    explicit XmlFile(QIODevice *device) : m_xml(device)
+    XmlFile() : m_xml(&m_text)
     {
         m_xml.setAutoFormatting(true);
         m_xml.setAutoFormattingIndent(1);
-        m_xml.writeStartDocument();
     }
 
     void open(const char *name) { m_xml.writeStartElement(QLatin1String(name)); }
@@ -157,9 +155,15 @@ public:
     }
     void text(const QString &text) { m_xml.writeCharacters(holdable(text)); }
     void close() { m_xml.writeEndElement(); }
-    void finish() { m_xml.writeEndDocument(); }
+    QString finished()
+    {
+        m_xml.writeEndDocument();
+        return m_text;
+    }
 
 private:
+    // The writer itself names no encoding for a text, and takes twice as long for a device.
+    QString m_text = QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>");
     QXmlStreamWriter m_xml;
 };
 
@@ -380,13 +384,10 @@ void Writer<Xml>::writeLetters(const PxDrawnShape &shape)
 
 void PxDrawingSvg::write(const PxDrawing &drawing, QIODevice *device)
 {
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    XmlFile xml(&buffer);
+    XmlFile xml;
     Writer(&xml, {}).write(drawing);
-    xml.finish();
     // No program needs to see them as they are, and terminals must not.
-    device->write(PxVisibleText::xml(buffer.data()).toUtf8());
+    device->write(PxVisibleText::xml(xml.finished()).toUtf8());
 }
 
 void PxDrawingSvg::write(const PxDrawing &drawing, const QString &prefix, PxHtml *page)

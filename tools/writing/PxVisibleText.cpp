@@ -125,7 +125,7 @@ QString PxVisibleText::json(const QByteArray &json)
     return escaped(text, true, escapedInJson);
 }
 
-QString PxVisibleText::xml(const QByteArray &xml)
+QString PxVisibleText::xml(const QString &xml)
 {
-    return escaped(QString::fromUtf8(xml), true, escapedInXml);
+    return escaped(xml, true, escapedInXml);
 }

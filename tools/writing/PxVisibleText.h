@@ -20,6 +20,6 @@ public:
     static QString inJson(const QString &text);
     /** The same for JSON from QJsonDocument, with the escapes of JSON; line breaks are kept. */
     static QString json(const QByteArray &json);
-    /** The same for XML in UTF-8, with the references of XML. */
-    static QString xml(const QByteArray &xml);
+    /** The same for XML, with the references of XML. */
+    static QString xml(const QString &xml);
 };
