@@ -92,11 +92,12 @@ void PxDrawingSvgTest::writesEachShape()
 
     PxDrawnShape line = shape(PxDrawnShape::Line);
     line.line = QLineF(-0.001, 1, 2, 3);
-    line.stroke = {0.125, QColor("#c62828"), {3, 1.25}, 0.5};
+    line.stroke = {0.125, QColor("#c62828"), {3, 1.25, 0.05}, 0.5};
     QCOMPARE(
         linesOf(line),
         QStringList{"<line x1=\"0\" y1=\"1\" x2=\"2\" y2=\"3\" fill=\"none\" stroke=\"#c62828\" "
-                    "stroke-width=\"0.13\" stroke-dasharray=\"3 1.25\" stroke-opacity=\"0.5\"/>"});
+                    "stroke-width=\"0.13\" stroke-dasharray=\"3 1.25 0.05\" "
+                    "stroke-opacity=\"0.5\"/>"});
 
     PxDrawnShape path = shape(PxDrawnShape::Path);
     path.steps = {{PxDrawnStep::Move, {1, 2}},     {PxDrawnStep::Line, {5, 2}},

@@ -122,8 +122,8 @@ void SideWriter::addArrow(PxDrawnPath::Steps *arrows, double tip, double directi
 {
     const double tail = tip - direction * arrowLength * m_a;
     const double half = arrowWidth / 2 * m_a;
-    PxDrawnPath::addContour(
-        arrows, {point(tip, line), point(tail, line - half), point(tail, line + half)});
+    PxDrawnPath::addContour(arrows,
+                            {point(tip, line), point(tail, line - half), point(tail, line + half)});
 }
 
 QVector<PxDrawnShape> SideWriter::lines(const Chain &chain, int index, const Place &place,

@@ -176,10 +176,11 @@ QStringList PxReport::origins(const Section &section, const Column &column) cons
 {
     QStringList origins;
     for (int row = 0; row < section.rows.size(); ++row)
-        origins.append(m_originAt
-                           ? m_originAt(QString("/%1/%2/%3")
-                                            .arg(section.key, QString::number(row), column.key))
-                           : QString());
+        origins.append(
+            m_originAt
+                ? m_originAt(
+                      QString("/%1/%2/%3").arg(section.key, QString::number(row), column.key))
+                : QString());
     return origins;
 }
 
