@@ -17,6 +17,7 @@ public:
     /** Takes the result of an operator of QSet. */
     PxEmptyMeansAllSet(const QSet<T> &set) : QSet<T>(set) {}
 
+    /** Whether the set admits this value. */
     bool sharesKey(const T &key) const { return this->isEmpty() || this->contains(key); }
     /** The given keys that the set admits, in their order. */
     QList<T> sharedKeys(QList<T> keys) const
@@ -25,6 +26,7 @@ public:
         keys.erase(std::remove_if(keys.begin(), keys.end(), isNotShared), keys.end());
         return keys;
     }
+    /** Whether both sets admit a common value. */
     bool sharesKeysWith(const PxEmptyMeansAllSet<T> &other) const
     {
         return this->isEmpty() || other.isEmpty() || sharesRealKeysWith(other);
@@ -46,6 +48,7 @@ public:
     }
 };
 
+/** Whether values of this type can be compared with "<". */
 template <typename T, typename = void>
 inline constexpr bool pxHasOrder = false;
 template <typename T>

@@ -35,6 +35,7 @@ public:
         if (!m_valueToKeyword.contains(value))
             m_valueToKeyword.insert(value, keyword);
     }
+    /** Adds the keywords of all rows, in their order. */
     template <std::size_t COUNT>
     void insert(const PxKeyword<ENUM> (&rows)[COUNT])
     {
@@ -89,7 +90,9 @@ public:
     /** The keyword of exactly this value; a union without a keyword of its own has none. */
     QString encode(ENUM value) const { return m_valueToKeyword.value(value, m_defaultString); }
 
+    /** The single bits, in ascending order; none for a value below 1. */
     QList<ENUM> splitToBitsSorted(ENUM value) const { return splitEnumType(value); }
+    /** The same without an order. */
     QSet<ENUM> splitToBits(ENUM value) const
     {
         const QList<ENUM> bits = splitEnumType(value);

@@ -24,28 +24,35 @@ class PxEnumWrapper
 {
 public:
     PxEnumWrapper() = default;
+    /** Any value is kept, even one without an enumerator. */
     PxEnumWrapper(ENUM value) : m_value(value) {}
     PxEnumWrapper(const PxEnumWrapper &other) = default;
     PxEnumWrapper &operator=(const PxEnumWrapper &other) = default;
     virtual ~PxEnumWrapper() = default;
 
     // Applications are built against this order of the virtual operations: append, never reorder.
+    /** Compares the numbers, as the other comparisons do. */
     virtual bool operator<(const PxEnumWrapper &other) const { return m_value < other.m_value; }
+    /** Compares the numbers. */
     virtual bool operator>(const PxEnumWrapper &other) const { return m_value > other.m_value; }
     virtual bool operator==(const PxEnumWrapper &other) const { return m_value == other.m_value; }
     virtual bool operator!=(const PxEnumWrapper &other) const { return m_value != other.m_value; }
+    /** Sets the bits of the other value. */
     virtual PxEnumWrapper &operator|=(const PxEnumWrapper &other)
     {
         return assign(m_value | other.m_value);
     }
+    /** Keeps only the bits that both have. */
     virtual PxEnumWrapper &operator&=(const PxEnumWrapper &other)
     {
         return assign(m_value & other.m_value);
     }
+    /** The bits that both have. */
     virtual ENUM operator&(const PxEnumWrapper &other) const
     {
         return static_cast<ENUM>(m_value & other.m_value);
     }
+    /** The bits that one of them has. */
     virtual ENUM operator|(const PxEnumWrapper &other) const
     {
         return static_cast<ENUM>(m_value | other.m_value);
@@ -55,9 +62,11 @@ public:
     {
         return assign(m_value & ~other.m_value);
     }
+    /** Clears the given bits. */
     virtual PxEnumWrapper &exclude(ENUM bits) { return assign(m_value & ~bits); }
     /** Sets the given bits. */
     virtual PxEnumWrapper &expandedTo(ENUM bits) { return assign(m_value | bits); }
+    /** Whether at least one bit is set. */
     virtual bool isValid() const { return !isNull(); }
     /**
      * Inserts the keywords and sets the defaults of the enumeration. It is called once per process,
@@ -66,20 +75,25 @@ public:
      */
     virtual void fillTable(PxEnumToStringTable<ENUM> *table) const = 0;
 
+    /** The flags; 0 by default. */
     ENUM value() const { return m_value; }
     /** Shares at least one bit. */
     bool matches(ENUM bits) const { return (m_value & bits) != 0; }
     /** Is exactly this value. */
     bool hasValue(const ENUM &value) const { return m_value == value; }
+    /** Whether no bit is set. */
     bool isNull() const { return m_value == 0; }
 
+    /** The union of a comma-separated keyword list; this value does not change. */
     ENUM decodeCSV(const QString &keywords) const
     {
         return enumToStringTable()->decodeCSV(keywords);
     }
     /** Sets the value to that of a comma-separated keyword list, and returns it. */
     ENUM setValue(const QString &keywords) { return m_value = decodeCSV(keywords); }
+    /** The keyword of each single bit, lowest bit first, joined with ", ". */
     QString encodeCSV() const { return enumToStringTable()->encodeCSV(m_value); }
+    /** The single bits; none for a value below 1. */
     QSet<ENUM> splitToBits() const { return enumToStringTable()->splitToBits(m_value); }
 
     /** The one table of the enumeration; never null, never freed. */

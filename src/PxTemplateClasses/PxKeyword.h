@@ -14,7 +14,9 @@
 template <typename ENUM>
 struct PxKeyword
 {
+    /** A literal; not null. */
     const char *keyword;
+    /** The value; several keywords may have the same. */
     ENUM value;
 };
 

@@ -14,6 +14,7 @@ template <typename K, typename V>
 class PxLookUpTable
 {
 public:
+    /** Adds a text, or replaces that of the key. */
     void insert(K key, const V &value) { m_map.insert(key, value); }
     /**
      * Inserts rows of a `value` and a `text`. The texts are translated now, in the given context.
@@ -24,14 +25,16 @@ public:
         for (const ROW &row : rows)
             insert(row.value, QCoreApplication::translate(context, row.text));
     }
+    /** Sets what the two searches return when they find nothing. */
     void setDefaults(K key, const V &value)
     {
         m_defaultKey = key;
         m_defaultValue = value;
     }
 
+    /** The text of the key; the default value if it has none. */
     V findByKey(K key) const { return m_map.value(key, m_defaultValue); }
-    /** The smallest key that has this value. */
+    /** The smallest key that has this value; the default key if none has. */
     K findByValue(const V &value) const { return m_map.key(value, m_defaultKey); }
 
 private:

@@ -13,8 +13,11 @@ struct PxMessage
     QtMsgType type;
     /** A literal, as `function` is, or null: it must outlive a kept message. */
     const char *file;
+    /** The line in the file; 0 if `file` is null. */
     int line;
+    /** The function that logs; a literal, or null. */
     const char *function;
+    /** The message itself. */
     QString text;
 
     /** Keeps the message if a PxMessageKeeper lives in this thread, otherwise writes it. */
@@ -31,6 +34,7 @@ struct PxMessage
 class Q_DECL_EXPORT PxMessageKeeper
 {
 public:
+    /** Not null; the list is not owned and must outlive the keeper. */
     explicit PxMessageKeeper(QVector<PxMessage> *messages)
         : m_outer(std::exchange(ourMessages, messages))
     {}
@@ -62,6 +66,7 @@ inline void PxMessage::log() const
 class PxMessageLogger
 {
 public:
+    /** The arguments are those of QMessageLogger; literals, or null. */
     PxMessageLogger(const char *file, int line, const char *function)
         : m_message{QtDebugMsg, file, line, function, {}}
         , m_stream(&m_message.text)
@@ -75,7 +80,9 @@ public:
     }
     Q_DISABLE_COPY(PxMessageLogger)
 
+    /** The stream of a message at debug level. */
     QDebug &debug() { return m_stream; }
+    /** The stream of a warning. */
     QDebug &warning()
     {
         m_message.type = QtWarningMsg;
@@ -87,7 +94,8 @@ private:
     QDebug m_stream;
 };
 
-// As qDebug() and qWarning().
+/** As qDebug(). */
 #define pxDebug PxMessageLogger(QT_MESSAGELOG_FILE, QT_MESSAGELOG_LINE, QT_MESSAGELOG_FUNC).debug
+/** As qWarning(). */
 #define pxWarning                                                                                  \
     PxMessageLogger(QT_MESSAGELOG_FILE, QT_MESSAGELOG_LINE, QT_MESSAGELOG_FUNC).warning

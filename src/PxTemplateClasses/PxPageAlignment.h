@@ -9,14 +9,15 @@
 
 /** The side of a spread on which a page lies, or the place of an item on a page; a set of flags. */
 enum PxPageAlignment : int {
-    PxPageAlignmentNone = 0,
-    PxPageAlignmentLeft = 1,
-    PxPageAlignmentRight = 2,
-    PxPageAlignmentMiddle = 4,
-    PxPageAlignmentFullPage = 8,
-    PxPageAlignmentTop = 16,
-    PxPageAlignmentBottom = 32,
-    PxPageAlignmentCenter = 64,
+    PxPageAlignmentNone = 0,     ///< no position
+    PxPageAlignmentLeft = 1,     ///< the left page of a spread
+    PxPageAlignmentRight = 2,    ///< the right page of a spread
+    PxPageAlignmentMiddle = 4,   ///< the spine of pages side by side
+    PxPageAlignmentFullPage = 8, ///< the whole spread
+    PxPageAlignmentTop = 16,     ///< the upper page of a spread
+    PxPageAlignmentBottom = 32,  ///< the lower page of a spread
+    PxPageAlignmentCenter = 64,  ///< the spine of pages one above the other
+    /** Every alignment. */
     PxPageAlignmentAll = PxPageAlignmentLeft | PxPageAlignmentRight | PxPageAlignmentMiddle |
                          PxPageAlignmentFullPage | PxPageAlignmentTop | PxPageAlignmentBottom |
                          PxPageAlignmentCenter,
@@ -36,13 +37,16 @@ inline constexpr PxKeyword<PxPageAlignment> globalPageAlignmentKeywords[] = {
     {"center", PxPageAlignmentCenter},
 };
 
+/** Makes the map below. */
 inline QHash<QString, PxPageAlignment> initGlobalPageAlignmentStringMap()
 {
     return keywordMap(globalPageAlignmentKeywords);
 }
 
+/** The values by upper-cased keyword. */
 inline const QHash<QString, PxPageAlignment> &globalMapPageAlignmentString =
     *new QHash<QString, PxPageAlignment>(initGlobalPageAlignmentStringMap());
+/** The text that is written for a value without a keyword. */
 inline const QString &globalPageAlignmentDefaultKey = *new QString(QStringLiteral("unknown"));
 /** An unknown alignment is a real side on purpose: a page always lies somewhere. */
 inline constexpr PxPageAlignment globalPageAlignmentDefaultValue = PxPageAlignmentLeft;

@@ -7,15 +7,15 @@
 
 /** The group under which the shop offers a product; a set of flags, 0 is unknown. */
 enum PxProductGroupEnum : int {
-    PxProductGroupUnknown = 0,
-    PxProductGroupFoto = 1,
-    PxProductGroupPremiumFoto = 2,
-    PxProductGroupPoster = 4,
-    PxProductGroupBook = 8,
-    PxProductGroupCalendar = 16,
-    PxProductGroupGift = 32,
-    PxProductGroupDfmFoto = 128,
-    PxProductGroupProfessionalFoto = 256,
+    PxProductGroupUnknown = 0,            ///< no group
+    PxProductGroupFoto = 1,               ///< prints
+    PxProductGroupPremiumFoto = 2,        ///< premium prints
+    PxProductGroupPoster = 4,             ///< posters
+    PxProductGroupBook = 8,               ///< books
+    PxProductGroupCalendar = 16,          ///< calendars
+    PxProductGroupGift = 32,              ///< gifts
+    PxProductGroupDfmFoto = 128,          ///< prints of the kind "dfm"
+    PxProductGroupProfessionalFoto = 256, ///< professional prints
 };
 
 namespace EnumHelper {
@@ -39,14 +39,18 @@ inline constexpr PxKeyword<PxProductGroupEnum> globalProductGroupEnumKeywords[] 
     {"professionalfoto", PxProductGroupProfessionalFoto},
 };
 
+/** Makes the map below. */
 inline QHash<QString, PxProductGroupEnum> initGlobalProductGroupEnumStringMap()
 {
     return keywordMap(globalProductGroupEnumKeywords);
 }
 
+/** The values by upper-cased keyword. */
 inline const QHash<QString, PxProductGroupEnum> &globalMapProductGroupEnumString =
     *new QHash<QString, PxProductGroupEnum>(initGlobalProductGroupEnumStringMap());
+/** The text that is written for a value without a keyword. */
 inline const QString &globalProductGroupEnumDefaultKey = *new QString(QStringLiteral("unknown"));
+/** The group of a word that is no keyword. */
 inline constexpr PxProductGroupEnum globalProductGroupEnumDefaultValue = PxProductGroupUnknown;
 
 } // namespace EnumHelper

@@ -7,16 +7,16 @@
 
 /** What the image around or over a page shows; a set of flags, 0 is no surrounding. */
 enum PxSurroundingType : int {
-    PxSurroundingTypeNone = 0,
-    PxSurroundingTypeBook = 1,
-    PxSurroundingTypeGift = 2,
-    PxSurroundingTypeBorder = 4,
-    PxSurroundingTypeCalendar = 8,
-    PxSurroundingTypeFrame = 16,
-    PxSurroundingTypeCollegeBlock = 32,
-    PxSurroundingTypePhotoPaperBook = 64,
-    PxSurroundingTypeCopyBook = 128,
-    PxSurroundingTypeNoteBook = 256,
+    PxSurroundingTypeNone = 0,            ///< no surrounding
+    PxSurroundingTypeBook = 1,            ///< covers and binding shade of books
+    PxSurroundingTypeGift = 2,            ///< parts of a gift, such as a handle or a seam
+    PxSurroundingTypeBorder = 4,          ///< a border, as where canvas folds
+    PxSurroundingTypeCalendar = 8,        ///< the spiral of a calendar
+    PxSurroundingTypeFrame = 16,          ///< a frame around every page
+    PxSurroundingTypeCollegeBlock = 32,   ///< the spiral of a block
+    PxSurroundingTypePhotoPaperBook = 64, ///< covers and fold of photo-paper books
+    PxSurroundingTypeCopyBook = 128,      ///< an exercise book
+    PxSurroundingTypeNoteBook = 256,      ///< a notebook
 };
 
 namespace EnumHelper {
@@ -34,14 +34,18 @@ inline constexpr PxKeyword<PxSurroundingType> globalSurroundingTypeKeywords[] = 
     {"NOTEBOOK", PxSurroundingTypeNoteBook},
 };
 
+/** Makes the map below. */
 inline QHash<QString, PxSurroundingType> initGlobalSurroundingTypeStringMap()
 {
     return keywordMap(globalSurroundingTypeKeywords);
 }
 
+/** The values by upper-cased keyword. */
 inline const QHash<QString, PxSurroundingType> &globalMapSurroundingTypeString =
     *new QHash<QString, PxSurroundingType>(initGlobalSurroundingTypeStringMap());
+/** The text that is written for a value without a keyword. */
 inline const QString &globalSurroundingTypeDefaultKey = *new QString(QStringLiteral("unknown"));
+/** The type of a word that is no keyword. */
 inline constexpr PxSurroundingType globalSurroundingTypeDefaultValue = PxSurroundingTypeNone;
 
 } // namespace EnumHelper

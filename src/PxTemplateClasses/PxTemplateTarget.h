@@ -7,15 +7,16 @@
 
 /** The kind of product that a template is made for; a set of flags, 0 is unknown. */
 enum PxTemplateTarget : int {
-    PxTemplateTargetUnknown = 0,
-    PxTemplateTargetFotoBook = 4,
-    PxTemplateTargetGift = 8,
-    PxTemplateTargetInvisible = 32,
-    PxTemplateTargetCalendar = 256,
+    PxTemplateTargetUnknown = 0,    ///< no kind of product
+    PxTemplateTargetFotoBook = 4,   ///< photo books
+    PxTemplateTargetGift = 8,       ///< gifts, cards, decorations and frames
+    PxTemplateTargetInvisible = 32, ///< templates that are not offered to users
+    PxTemplateTargetCalendar = 256, ///< calendars
 };
 
 namespace EnumHelper {
 
+/** Makes the map below. */
 inline QHash<QString, PxTemplateTarget> initGlobalTemplateTargetStringMap()
 {
     constexpr PxKeyword<PxTemplateTarget> keywords[] = {
@@ -26,9 +27,12 @@ inline QHash<QString, PxTemplateTarget> initGlobalTemplateTargetStringMap()
     return keywordMap(keywords);
 }
 
+/** The values by upper-cased keyword. */
 inline const QHash<QString, PxTemplateTarget> &globalMapTemplateTargetString =
     *new QHash<QString, PxTemplateTarget>(initGlobalTemplateTargetStringMap());
+/** The text that is written for a value without a keyword. */
 inline const QString &globalTemplateTargetDefaultKey = *new QString(QStringLiteral("unknown"));
+/** What each word adds that is no keyword. */
 inline constexpr PxTemplateTarget globalTemplateTargetDefaultValue = PxTemplateTargetUnknown;
 
 } // namespace EnumHelper

@@ -21,7 +21,9 @@ public:
     /** The product type is known. */
     bool isValid() const { return m_productType.isValid(); }
 
+    /** The classified product; the unknown type 0 by default. */
     PxProductType productType() const { return m_productType; }
+    /** The material as the file states it; empty by default. */
     PxProductMaterial material() const { return m_material; }
     /**
      * Usable width times usable height, in square units of the product files, clamped to the int

@@ -15,6 +15,7 @@ class PXPRODUCTPROPERTIES_EXPORT PxProductClassificationManager
 {
 public:
     PxProductClassificationManager() = default;
+    /** Keeps the list as it is, invalid classifications included. */
     explicit PxProductClassificationManager(const QList<PxProductClassification> &classifications);
 
     /** Every material once, in order of first occurrence. */

@@ -21,14 +21,17 @@ class PXPRODUCTPROPERTIES_EXPORT PxIndirectProductDescription
 public:
     /** Accepts everything, but is invalid. */
     PxIndirectProductDescription() = default;
+    /** Accepts products of the same orientation and template target. */
     explicit PxIndirectProductDescription(const PxProductContext &context);
+    /** Accepts the single bits of both; a value of 0 accepts everything. */
     PxIndirectProductDescription(const PxOrientation &orientation, PxTemplateTarget target);
     PxIndirectProductDescription(const PxIndirectProductDescription &other);
     PxIndirectProductDescription &operator=(const PxIndirectProductDescription &other);
     virtual ~PxIndirectProductDescription();
 
-    /** The single orientations, or the single template targets, of a set of flags. */
+    /** The single orientations of a set of flags; empty for 0. */
     static PxEmptyMeansAllSet<PxOrientation> orientations(const PxOrientation &orientation);
+    /** The single template targets of a set of flags; empty for 0. */
     static PxEmptyMeansAllSet<PxTemplateTarget> templateTypes(const PxTemplateTarget &target);
     /**
      * The template target for the product class: book, calendar, gift (also for cards and
@@ -38,8 +41,10 @@ public:
 
     /** Whether it names no template target. */
     bool isEmpty() const { return m_templateTypes.isEmpty(); }
+    /** Whether it names a template target. */
     bool isValid() const { return !isEmpty(); }
 
+    /** The accepted template targets. */
     PxEmptyMeansAllSet<PxTemplateTarget> templateTypes() const { return m_templateTypes; }
     /** All accepted orientations as one set of flags. */
     PxOrientation orientation() const;

@@ -22,14 +22,20 @@ class PXPRODUCTPROPERTIES_EXPORT PxProductContextsGroup
 public:
     /** Admits everything. */
     PxProductContextsGroup() = default;
+    /**
+     * Admits the product and the theme of the context, and describes the product indirectly, too.
+     */
     explicit PxProductContextsGroup(const PxProductContext &context);
+    /** Admits every product in these themes. */
     explicit PxProductContextsGroup(const PxThemeList &themes);
+    /** Admits these products in these themes; an empty list admits all. */
     PxProductContextsGroup(const PxProductTypeList &productTypes, const PxThemeList &themes);
     PxProductContextsGroup(const PxProductContextsGroup &other);
     PxProductContextsGroup &operator=(const PxProductContextsGroup &other);
     virtual ~PxProductContextsGroup();
 
     // What is admitted
+    /** What suits if no product type is named; by default everything. */
     PxIndirectProductDescription indirectProductDescription() const;
     /** The explicit product types in ascending order. */
     PxProductTypeList explicitProductTypes() const;
@@ -46,26 +52,36 @@ public:
     double defaultWidthHeightRatio() const;
 
     // Whether something fits
+    /** Whether the product type is admitted. */
     bool containsProduct(const PxProductType &type) const;
+    /** Whether the theme is admitted. */
     bool containsTheme(const PxTheme &theme) const;
     /** A context without a valid theme is judged by its product alone. */
     bool containsContext(const PxProductContext &context) const;
-    /**
-     * "Somewhat": they have a member in common, or a set is empty. "Explicitly": both name a common
-     * member.
-     */
+    /** Whether the product types have a member in common, or one of the sets is empty. */
     bool productsMatchSomewhat(const PxProductContextsGroup &other) const;
+    /** Whether both name a common product type. */
     bool productsMatchExplicitly(const PxProductContextsGroup &other) const;
+    /** Whether the themes have a member in common, or one of the sets is empty. */
     bool themesMatchSomewhat(const PxProductContextsGroup &other) const;
+    /** Whether both name a common theme. */
     bool themesMatchExplicitly(const PxProductContextsGroup &other) const;
     /** Compares the product types, or, if a group names none, the indirect descriptions. */
     bool productMatches(const PxProductContextsGroup &other) const;
+    /** Whether productMatches() and themesMatchSomewhat() are true. */
     bool matches(const PxProductContextsGroup &other) const;
 
     // Changes
+    /** Admits only these product types; all if the list is empty. */
     void setProductTypes(const PxProductTypeList &productTypes);
+    /**
+     * Admits these themes in addition. A group that admits every theme admits only these
+     * afterwards.
+     */
     void addThemes(const PxThemeList &themes);
+    /** Admits only these themes; all if the list is empty. */
     void setThemes(const PxThemeList &themes);
+    /** Replaces the indirect description. */
     void setIndirectProductDescription(const PxIndirectProductDescription &description);
     /**
      * If the default theme is admitted, admits the themes that accept its backgrounds or layouts.

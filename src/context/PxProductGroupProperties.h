@@ -19,15 +19,20 @@ public:
 
     /** The name under which the picture overview is filed. */
     QString fotoIndex() const { return m_fotoIndex; }
+    /** The finish of the paper; unknown by default. */
     PxFotoPaperType paperType() const { return m_paperType; }
-    /** Invalid by default. */
+    /** The colour of the border around each photo; invalid by default. */
     QColor borderColor() const { return m_borderColor; }
+    /** Whether the pictures are copied to a web album, too; false by default. */
     bool copyToWebAlbum() const { return m_copyToWebAlbum; }
 
+    ///@{
+    /** Sets the value; anything is kept as it is. */
     void setFotoIndex(const QString &fotoIndex);
     void setPaperType(PxFotoPaperType paperType);
     void setBorderColor(const QColor &borderColor);
     void setCopyToWebAlbum(bool copyToWebAlbum);
+    ///@}
 
 private:
     QString m_fotoIndex;

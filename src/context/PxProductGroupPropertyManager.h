@@ -17,11 +17,14 @@
 class PXPRODUCTPROPERTIES_EXPORT PxProductGroupPropertyManager
 {
 public:
+    /** Never null, never destroyed. */
     static PxProductGroupPropertyManager *instance();
 
     /** Never null; owned by the manager and valid until the process ends. */
     PxProductGroupProperties *productGroupProperties(const PxProductGroup &group);
 
+    ///@{
+    /** The function of this name of the PxProductGroupProperties of the group. */
     QString fotoIndex(const PxProductGroup &group);
     PxFotoPaperType paperType(const PxProductGroup &group);
     QColor borderColor(const PxProductGroup &group);
@@ -31,6 +34,7 @@ public:
     void setPaperType(const PxProductGroup &group, PxFotoPaperType paperType);
     void setBorderColor(const PxProductGroup &group, const QColor &borderColor);
     void setCopyToWebAlbum(const PxProductGroup &group, bool copyToWebAlbum);
+    ///@}
 
 private:
     PxProductGroupPropertyManager() = default;

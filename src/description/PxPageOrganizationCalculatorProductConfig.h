@@ -13,6 +13,7 @@ class PXPRODUCTPROPERTIES_EXPORT PxPageOrganizationCalculatorProductConfig
 public:
     ~PxPageOrganizationCalculatorProductConfig() override;
 
+    /** The answer of the function below that is for the class of the product. */
     PxPageCountOrganization createPageOrganization(const PxProductType &type) const override;
 
     /** The registry of the current products. */

@@ -5,20 +5,22 @@
  * list. Flags.
  */
 enum PxProductComparationCriterion : int {
-    PxProductComparationNone = 0,
-    PxProductComparationBinding = 1,
-    PxProductComparationPaperType = 2,
-    PxProductComparationSpaceMagnitude = 4,
-    PxProductComparationPageIncrement = 8,
-    // What a product has in common with itself in another paper, or with another binding.
+    PxProductComparationNone = 0,           ///< nothing else
+    PxProductComparationBinding = 1,        ///< the binding
+    PxProductComparationPaperType = 2,      ///< the paper
+    PxProductComparationSpaceMagnitude = 4, ///< the size class
+    PxProductComparationPageIncrement = 8,  ///< the number of pages by which they grow
+    /** What a product has in common with itself in another paper. */
     PxProductComparationAllButPaperType = PxProductComparationBinding |
                                           PxProductComparationSpaceMagnitude |
                                           PxProductComparationPageIncrement,
+    /** What a product has in common with itself in another binding. */
     PxProductComparationAllButBinding = PxProductComparationPaperType |
                                         PxProductComparationSpaceMagnitude |
                                         PxProductComparationPageIncrement,
 };
 
+/** What one of the two demands. */
 inline PxProductComparationCriterion operator|(PxProductComparationCriterion a,
                                                PxProductComparationCriterion b)
 {

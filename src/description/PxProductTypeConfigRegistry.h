@@ -52,6 +52,7 @@ public:
     bool isValid(const PxProductType &type) const override;
     /** The kind of this checker in the checker registry. */
     int type() const override { return 4; }
+    ///@{
     /**
      * The limits of the spine table. A product without spines, such as every calendar, gift and
      * card, answers 2147483647, -2147483648 and -2147483648, in this order. For the page counts to
@@ -60,6 +61,7 @@ public:
     int minPages(const PxProductType &type) const override;
     int maxPages(const PxProductType &type) const override;
     int pageIncrement(const PxProductType &type) const override;
+    ///@}
 
     /** Never null; owned by the registry. */
     const PxProductTypeDescription *description(const PxProductType &type) const;
@@ -67,6 +69,8 @@ public:
     bool exists(const PxProductType &type) const;
 
     // Answers from the description of the type
+    ///@{
+    /** The answer of the type's PxProductTypeDescription to the question of this name. */
     PxProductType legacyProduct(const PxProductType &type) const;
     PxOrientation orientation(const PxProductType &type) const;
     PxBinding binding(const PxProductType &type) const;
@@ -88,6 +92,7 @@ public:
                            int pageCount) const;
     PxPageSizeSpec sizeSpec(const PxProductType &type, const PxPageSizeKey &key) const;
     PxBarcode barcodeOnPage(const PxProductType &type, int page, int pageCount) const;
+    ///@}
 
     // Across products
     /** The products on offer, for which exists() is true, by product class and then by name. */
@@ -127,7 +132,8 @@ private:
 
     QHash<PxProductType, PxProductTypeDescription *> m_descriptions;
     PxProductTypeDescription *m_defaultDescription;
-    // The same products in an array, by code: iterating over the hash would wait for memory at each node.
+    // The same products in an array, by code: iterating over the hash would wait for memory at each
+    // node.
     QVector<Product> m_products;
 };
 

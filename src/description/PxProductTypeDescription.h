@@ -61,26 +61,37 @@ public:
     bool isValid() const;
 
     // The product as a whole
+    /** The material and the size by which the shop groups the product, and its type. */
     PxProductClassification classification() const { return m_classification; }
     /** The older product that this one replaces; the unknown type if there is none. */
     PxProductType legacyProduct() const { return m_legacyProduct; }
+    /** The orientation in the file, or that of the usable size; 0 if neither is known. */
     PxOrientation orientation() const { return m_orientation; }
+    /** The binding; GIFT for a missing or unknown keyword, 0 without a file. */
     PxBinding binding() const { return m_binding; }
+    /** The paper; "indigo" for a missing or unknown keyword, 0 without a file. */
     PxPaperType paperType() const { return m_paperType; }
+    /** The size class; every class for a missing or unknown keyword, 0 without a file. */
     PxSpaceMagnitude spaceMagnitude() const { return m_spaceMagnitude; }
+    /** Who puts it together; the maker by default, none without a file. */
     PxAssemblyWay assemblyWay() const { return m_assemblyWay; }
+    /** How all its pictures are shown; as they are by default. */
     PxImageFXs imageFX() const { return m_imageFX; }
-    /** Grey images have neither border nor shadow. */
+    /** Whether pictures may have a border; not if they are shown grey. */
     bool canHaveBorder() const { return (m_imageFX & PxImageFXsGrayscale) == 0; }
+    /** Whether pictures may have a shadow; as canHaveBorder(). */
     bool canHaveShadow() const { return canHaveBorder(); }
+    /** Whether the assistant can fill it; true by default. */
     bool hasAssistant() const { return m_hasAssistant; }
+    /** Whether it has a hook to hang it up; false by default. */
     bool hasHook() const { return m_hasHook; }
+    /** Whether it has a hole to hang it up; false by default. */
     bool hasHole() const { return m_hasHole; }
     /** The number of loops of a spiral binding; 0 if there is none. */
     int numberOfSpiralLoops() const { return m_numberOfSpiralLoops; }
-    /** What the variants differ in. */
+    /** What the variants differ in, in German; empty if the file does not say it. */
     QString variantDescription() const { return m_variantDescription; }
-    /** The identifiers of the variants. */
+    /** The identifiers of the variants, in the order of the file. */
     QStringList variants() const { return m_variants; }
     /** The number of products in one order of it, 1 by default. */
     int explicitNumberOfProducts() const { return m_explicitNumberOfProducts; }
@@ -91,9 +102,11 @@ public:
     // Which design elements the editor offers for it
     /** Whether one of the given kinds is supported. */
     bool supportsJigType(const PxJigType &jigType) const;
+    /** Whether it supports ready-made contents. */
     bool hasContentCategoryBox() const { return m_jigTypes.matches(PxJigTypeContent); }
     /** The categories to which backgrounds of the cover are limited; empty for no limit. */
     PxThematicCategorySet allowedBackgroundCategories() const;
+    /** Whether backgrounds of the cover are limited to categories. */
     bool limitBackgroundCategories() const { return !m_allowedBackgroundCategories.isEmpty(); }
     /**
      * Whether a background fills each page including the bleed; by default so for calendars, gifts
@@ -150,9 +163,11 @@ public:
     int explicitNumberOfNormalPages() const { return m_explicitNumberOfNormalPages; }
     /** The number of entries in the page list of the file; a range of pages is one entry. */
     int countAbstractPages() const { return m_abstractPageCount; }
+    /** Whether there is a page list, in the file or by its default. */
     bool hasPages() const { return !m_pageTypes.isEmpty(); }
     /** Whether the first page is a cover. */
     bool hasCover() const;
+    /** Whether the binding is one that is printed on one side. */
     bool isSimplex() const { return m_binding.isSimplex(); }
     /**
      * The pages of the product in order, at least one. Each range in the list of the file gives
@@ -160,6 +175,7 @@ public:
      * `maximumListedPages` are left out, with one warning.
      */
     PxPageTypeList pageTypes(int pageCount) const;
+    /** How the editor names the pages; unknown by default. */
     PxPageNamingStyle pageNamingStyle() const { return m_pageNamingStyle; }
     /** Whether pages lie side by side, not one above the other. */
     bool horizontalPages() const { return m_horizontalPages; }
@@ -169,7 +185,7 @@ public:
      * The side of the spread on which a page lies. Page 1 of a product with a spine is the spine.
      */
     PxPageAlignment pageAlignment(int page) const;
-    /** The double page with which the editor starts. */
+    /** The double page with which the editor starts, as the file states it; 0 by default. */
     int editorStartDoublePage() const { return m_editorStartDoublePage; }
     /**
      * The numbers that production gives to the pages: those of the file, cut off or continued from
@@ -181,7 +197,9 @@ public:
     bool contentAllowedOnPage(int page) const;
     /** The page that receives content dropped on this page; the page itself by default. */
     int contentDropRedirect(int page) const;
+    /** Where the content of the page goes when the product is rotated; empty for nowhere else. */
     PxPageRotationRedirectList rotationRedirectForSourcePage(int page) const;
+    /** What comes to the page when the product is rotated; empty for nothing. */
     PxPageRotationRedirectList rotationRedirectForTargetPage(int page) const;
 
     // Sizes
@@ -193,13 +211,19 @@ public:
      * warning.
      */
     QSize usablePrintSize(const PxPageType &pageType, int pageCount) const;
+    /** The size of a page as usablePrintSize() answers it, with all margins around it. */
     PxPageSizeSpec sizeSpec(const PxPageSizeKey &key) const;
+    /** The bleed of all pages but covers and spine; 0 by default. */
     PxBleedMargin bleedMarginNormal() const { return m_bleedMarginNormal; }
+    /** The bleed of covers and spine; 0 by default. */
     PxBleedMargin bleedMarginCover() const { return m_bleedMarginCover; }
     /** The bleed of a page. Pages of a bound product have none at the inner edge. */
     PxMargins bleedMargins(const PxPageContext &page, int pageCount) const;
-    /** The margin that designs keep free, because its contents could be cut off. */
+    /**
+     * The margin that designs keep free, because its contents could be cut off; 0 by default.
+     */
     int safetyMargin() const { return m_safetyMargin; }
+    /** The same at each edge. */
     PxMargins safetyMargins() const { return m_safetyMargins; }
     /** The part of a page that disappears in the fold. */
     int foldMargin() const { return m_foldMargin; }
@@ -209,10 +233,15 @@ public:
     int clampExtra(const PxPageType &pageType) const;
 
     // Spine
+    /** Whether the page list contains a spine. */
     bool hasSpine() const { return m_hasSpine; }
     /** 0 for a page count without a spine. */
     int spineWidth(int pageCount) const;
+    /**
+     * The height of the tallest text that fits on the spine; 0 for a page count without a spine.
+     */
     int spineMaxFontHeight(int pageCount) const;
+    /** Whether the maker's logo is printed on the spine; false by default. */
     bool mustPaintVemoLogoOnSpine() const { return m_mustPaintVemoLogoOnSpine; }
 
     // What is printed on and around the pages
@@ -220,16 +249,17 @@ public:
     PxSurroundingDescription findSurrounding(const PxSurroundingKey &key) const;
     /** Invalid if the page has none. */
     PxBarcode barcodeOnPage(int page, int pageCount) const;
+    /** The PDF pages that production inserts; empty by default. */
     PxProductionExtraPageGroupList extraProductionContents() const;
-    /**
-     * The distances of printed page numbers from the edges, by default 50, and their font size, by
-     * default 24.
-     */
+    /** The distance of a printed page number from the edge at the side; 50 by default. */
     double pageNumberHorizontalIndent() const { return m_pageNumberHorizontalIndent; }
+    /** Its distance from the edge above or below; 50 by default. */
     double pageNumberVerticalIndent() const { return m_pageNumberVerticalIndent; }
+    /** Its font size, as the file states it; 24 by default. */
     int pageNumberFontSize() const { return m_pageNumberFontSize; }
 
     // Changes. Used only while reading: descriptions in a registry never change
+    /** Adds the kinds of design elements, or takes them away. */
     void setJigTypeFlag(const PxJigType &jigType, bool isSupported);
     /** Adds the "defaults" children of the element to the default templates of the user. */
     void updateDefaultUserTemplatesMap(const QDomElement &defaults);

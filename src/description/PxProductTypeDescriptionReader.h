@@ -17,6 +17,7 @@ class QFileInfo;
 class PXPRODUCTPROPERTIES_EXPORT PxProductTypeDescriptionReader
 {
 public:
+    /** Reads nothing yet; a missing directory has no products. */
     explicit PxProductTypeDescriptionReader(const QDir &directory);
     PxProductTypeDescriptionReader(const PxProductTypeDescriptionReader &other);
     PxProductTypeDescriptionReader &operator=(const PxProductTypeDescriptionReader &other);

@@ -15,6 +15,7 @@ public:
     /** Reads "width" and "maxfontheight" of a "spine" element; each is 0 unless it is a number. */
     explicit PxProductTypeDescriptionSpineData(const QDomElement &spine);
 
+    /** The width; 0 by default. */
     int width() const { return m_width; }
     /** The height of the tallest text that fits on the spine. */
     int maxFontHeight() const { return m_maxFontHeight; }

@@ -13,6 +13,7 @@ class PXPRODUCTPROPERTIES_EXPORT PxBarcode
 public:
     /** An invalid barcode: null rectangle, page 0. */
     PxBarcode() = default;
+    /** Everything is kept as it is, even an inverted rectangle. */
     PxBarcode(const QRect &rect, int pageNr, bool reverseOrder, const QString &imageName);
 
     /** Whether the rectangle is not inverted. */
@@ -20,8 +21,9 @@ public:
 
     /** The place on the page, in the unit of the product files. */
     QRect rect() const { return m_rect; }
-    /** The page, counted from the front, or from the back if reverseOrder(). */
+    /** The page: from the front, where 0 is the first one, or from the back if reverseOrder(). */
     int pageNr() const { return m_pageNr; }
+    /** Whether pageNr() counts from the back, where 1 is the last page; false by default. */
     bool reverseOrder() const { return m_reverseOrder; }
     /** The placeholder image that the editor shows. */
     QString imageName() const { return m_imageName; }

@@ -15,6 +15,7 @@ class QDebug;
 class PXPRODUCTPROPERTIES_EXPORT PxBleedMargin
 {
 public:
+    /** The bleed at each vertical edge, then that at each horizontal one. */
     PxBleedMargin(int horizontal, int vertical) : m_horizontal(horizontal), m_vertical(vertical) {}
 
     /** The bleed at the left edge, and also at the right edge. */

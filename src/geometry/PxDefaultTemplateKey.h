@@ -14,14 +14,19 @@ class QDebug;
 class PXPRODUCTPROPERTIES_EXPORT PxDefaultTemplateKey
 {
 public:
+    /** Everything is kept as it is; theme ids are compared exactly. */
     PxDefaultTemplateKey(const QString &theme, const PxPageContext &pageContext,
                          DefaultTemplateType defaultTemplateType);
 
     /** The theme id. Other themes fall back to the theme "normal". */
     QString theme() const { return m_theme; }
+    /** The kind of page and its side. */
     PxPageContext pageContext() const { return m_pageContext; }
+    /** The kind of page alone. */
     PxPageType pageType() const { return m_pageContext.pageType(); }
+    /** The side of the page alone. */
     PxPageAlignment pageAlignment() const { return m_pageContext.alignment(); }
+    /** Layout or background. */
     DefaultTemplateType defaultTemplateType() const { return m_defaultTemplateType; }
 
     /** Changes the theme to "normal". */

@@ -14,6 +14,7 @@ class PXPRODUCTPROPERTIES_EXPORT PxDefaultTemplateMap
 {
 public:
     PxDefaultTemplateMap() = default;
+    /** Reads as applyDefaultsNode() does. */
     explicit PxDefaultTemplateMap(const QDomElement &parent);
 
     /**

@@ -23,9 +23,13 @@ public:
     PxMargins &operator=(const PxMargins &other);
     ~PxMargins();
 
+    /** The margin at this edge; negative ones are kept as they are. */
     int top() const { return d->top(); }
+    /** As top(). */
     int bottom() const { return d->bottom(); }
+    /** As top(). */
     int left() const { return d->left(); }
+    /** As top(). */
     int right() const { return d->right(); }
     /** The left margin as x, the top margin as y. */
     QPoint topLeft() const { return d->topLeft(); }
@@ -33,6 +37,7 @@ public:
     QPoint bottomRight() const { return d->bottomRight(); }
     /** The sum of left and right margin as width, and of top and bottom margin as height. */
     QSize totalMarginWH() const { return d->totalMarginWH(); }
+    /** Whether all four margins are 0. */
     bool allNull() const { return d->allNull(); }
 
 private:

@@ -11,6 +11,8 @@ class PXPRODUCTPROPERTIES_EXPORT PxMarginsImpl : public QSharedData
 {
 public:
     PxMarginsImpl() = default;
+    ///@{
+    /** The same as the function of this name of PxMargins. */
     PxMarginsImpl(int top, int bottom, int left, int right);
 
     int top() const { return m_top; }
@@ -21,6 +23,7 @@ public:
     QPoint bottomRight() const { return QPoint(m_right, m_bottom); }
     QSize totalMarginWH() const;
     bool allNull() const;
+    ///@}
 
 private:
     int m_top = 0;

@@ -18,13 +18,17 @@ class PXPRODUCTPROPERTIES_EXPORT PxPageConstraint
 {
 public:
     PxPageConstraint() = default;
+    /** Admits the single bits of both; a value of 0 admits everything. */
     PxPageConstraint(const PxPageType &pageType, const PxPageAlignment &alignment);
+    /** The same for the page type and the alignment of a page. */
     explicit PxPageConstraint(const PxPageContext &pageContext);
     PxPageConstraint(const PxPageConstraint &other);
     PxPageConstraint &operator=(const PxPageConstraint &other);
     virtual ~PxPageConstraint();
 
+    /** The kinds of page that are admitted. */
     PxEmptyMeansAllSet<PxPageType> pageTypes() const { return m_pageTypes; }
+    /** The sides that are admitted. */
     PxEmptyMeansAllSet<PxPageAlignment> intendetAlignments() const { return m_intendetAlignments; }
     /** Whether it admits at least one of the kinds of page in `pageType`. */
     bool isPageType(const PxPageType &pageType) const;

@@ -14,9 +14,12 @@ class PXPRODUCTPROPERTIES_EXPORT PxPageContext
 public:
     /** A normal page on the left. */
     PxPageContext();
+    /** Both may be sets of flags. */
     PxPageContext(const PxPageType &pageType, const PxPageAlignment &alignment);
 
+    /** The kind of page, or a set of them. */
     PxPageType pageType() const { return m_pageType; }
+    /** The side, or a set of them. */
     PxPageAlignment alignment() const { return m_alignment; }
     /** Whether it is exactly this page type, or this set of them; a common bit is not enough. */
     bool isPageType(const PxPageType &pageType) const { return m_pageType == pageType; }

@@ -15,10 +15,14 @@ class PXPRODUCTPROPERTIES_EXPORT PxPageRotationRedirect
 {
 public:
     PxPageRotationRedirect() = default;
+    /** Everything is kept as it is. */
     PxPageRotationRedirect(int sourcePageNr, int targetPageNr, int angleInvert);
 
+    /** The page from which content goes; 0 by default. */
     int sourcePageNr() const { return m_sourcePageNr; }
+    /** The page to which it goes; 0 by default. */
     int targetPageNr() const { return m_targetPageNr; }
+    /** How the editor turns it: the number of the file; 0 by default. */
     int angleInvert() const { return m_angleInvert; }
 
     bool operator==(const PxPageRotationRedirect &other) const;

@@ -17,6 +17,8 @@ public:
      */
     explicit PxPageRotationRedirectList(const QDomElement &parent);
 
+    /** Those that move content away from this page; empty if there are none. */
     PxPageRotationRedirectList filterBySourcePage(int page) const;
+    /** Those that move content to this page; empty if there are none. */
     PxPageRotationRedirectList filterByTargetPage(int page) const;
 };

@@ -12,10 +12,14 @@ class PXPRODUCTPROPERTIES_EXPORT PxPageSizeKey
 public:
     /** A normal page on the left, with any page count. */
     PxPageSizeKey() = default;
+    /** The page count matters only for spines and bleed; -1 for any. */
     PxPageSizeKey(const PxPageContext &pageContext, int pageCount);
 
+    /** The kind of page and its side. */
     PxPageContext pageContext() const { return m_pageContext; }
+    /** The kind of page alone. */
     PxPageType pageType() const { return m_pageContext.pageType(); }
+    /** The side of the page alone. */
     PxPageAlignment alignment() const { return m_pageContext.alignment(); }
     /** -1 for any page count. */
     int pageCount() const { return m_pageCount; }

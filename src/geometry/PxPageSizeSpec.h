@@ -13,6 +13,7 @@ class QDebug;
 class PXPRODUCTPROPERTIES_EXPORT PxPageSizeSpec
 {
 public:
+    /** Everything is kept as it is, even sizes and margins below 0. */
     PxPageSizeSpec(const QSize &usableSize, const PxMargins &bleedMargins,
                    const PxMargins &safetyMargins, const PxOrientation &orientation,
                    int horizontalClampExtra);
@@ -26,9 +27,11 @@ public:
 
     /** The page after trimming, without bleed. */
     QSize usableSize() const { return m_usableSize; }
+    /** What is printed beyond the usable size, at each edge, and then cut off. */
     PxMargins bleedMargins() const { return m_bleedMargins; }
     /** The margins inside the page that designs keep free. */
     PxMargins safetyMargins() const { return m_safetyMargins; }
+    /** The orientation of the product. */
     PxOrientation orientation() const { return m_orientation; }
     /** The part of the width that a clamp binding takes; no size includes it. */
     int horizontalClampExtra() const { return m_horizontalClampExtra; }

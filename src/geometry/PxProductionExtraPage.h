@@ -11,9 +11,12 @@ class PXPRODUCTPROPERTIES_EXPORT PxProductionExtraPage
 {
 public:
     PxProductionExtraPage() = default;
+    /** Everything is kept as it is. */
     PxProductionExtraPage(const QString &filename, const QString &templateType, int targetLayer);
 
+    /** The name of the PDF file; empty by default. */
     QString filename() const { return m_filename; }
+    /** The kind of template, as the file states it; empty by default. */
     QString templateType() const { return m_templateType; }
     /** The layer of the target page on which this is placed; 0 by default. */
     int targetLayer() const { return m_targetLayer; }

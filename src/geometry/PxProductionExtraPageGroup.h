@@ -17,6 +17,7 @@ public:
 
     /** In the order of the file, with repetitions. */
     QList<int> targetPages() const { return m_targetPages; }
+    /** What is inserted; empty by default. */
     PxProductionExtraPage content() const { return m_content; }
 
     bool operator==(const PxProductionExtraPageGroup &other) const;

@@ -28,10 +28,14 @@ public:
      */
     explicit PxSurroundingDescription(const QDomElement &surrounding, int *undecodable = nullptr);
 
+    /** Whether its type is known. */
     bool isValid() const { return m_surroundingType != PxSurroundingTypeNone; }
 
+    /** What the image shows; none by default. */
     PxSurroundingType surroundingType() const { return m_surroundingType; }
+    /** The kinds of page that it is for; a missing attribute means all. */
     PxPageType pageTypes() const { return m_pageTypes; }
+    /** The sides that it is for. */
     PxPageAlignment alignments() const { return m_alignments; }
     /** The one page to which it is pinned; -1 for none. */
     int pageNr() const { return m_pageNr; }
@@ -44,6 +48,7 @@ public:
     /** Whether the image shows the shade of the binding fold. */
     bool hasBindingShade() const { return m_hasBindingShade; }
 
+    /** Whether it may be painted on this page; see PxSurroundingKey::isOkayFor(). */
     bool isSuitable(const PxSurroundingKey &key) const;
 
     bool operator==(const PxSurroundingDescription &other) const;

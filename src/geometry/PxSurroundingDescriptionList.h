@@ -17,5 +17,6 @@ public:
 
     /** The first one that suits the page; invalid if there is none. */
     PxSurroundingDescription findDescription(const PxSurroundingKey &key) const;
+    /** Whether the image of one of them shows the shade of the fold. */
     bool hasSurroundingWithBindingShade() const;
 };

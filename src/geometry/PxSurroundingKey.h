@@ -12,10 +12,14 @@ class PXPRODUCTPROPERTIES_EXPORT PxSurroundingKey
 public:
     /** A normal page on the left, without a page index. */
     PxSurroundingKey() = default;
+    /** Everything is kept as it is. */
     explicit PxSurroundingKey(const PxPageContext &pageContext, int pageIndex = -1);
 
+    /** The kind of page and its side. */
     PxPageContext pageContext() const { return m_pageContext; }
+    /** The kind of page alone. */
     PxPageType pageType() const { return m_pageContext.pageType(); }
+    /** The side of the page alone. */
     PxPageAlignment alignment() const { return m_pageContext.alignment(); }
     /** -1 for no particular page. */
     int pageIndex() const { return m_pageIndex; }

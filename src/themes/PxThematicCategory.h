@@ -15,30 +15,41 @@ class QDebug;
 class PXPRODUCTPROPERTIES_EXPORT PxThematicCategory
 {
 public:
+    /** Both texts are kept as they are. */
     PxThematicCategory(const QString &name, const QString &visibleName);
 
-    /** The special categories, which are treated differently from ordinary ones. */
+    ///@{
+    /** One of the special categories, which are treated differently from ordinary ones. */
     static PxThematicCategory recycleBin();
     static PxThematicCategory multiColor();
     static PxThematicCategory favourites();
     static PxThematicCategory passpartouts();
     static PxThematicCategory frames();
+    ///@}
     /**
      * The category that shows everything. Its name is its text, which is translated on each call.
      */
     static PxThematicCategory categoryAll();
+    /** The name of categoryAll(), translated on each call. */
     static QString allText();
 
+    /** The name by which it is found, as it is written. */
     QString name() const { return m_name; }
     /** The name shown to the user; may be empty. */
     QString visibleName() const { return m_visibleName; }
+    /** Whether it has no name. */
     bool isEmpty() const { return m_name.isEmpty(); }
+    /** Whether it equals favourites(). */
     bool isFavourite() const { return *this == ourFavourites; }
+    /** Whether it equals recycleBin(). */
     bool isRecycleBin() const { return *this == ourRecycleBin; }
 
+    /** Any text is kept as it is. */
     void setName(const QString &name);
+    /** Any text is kept as it is. */
     void setVisibleName(const QString &visibleName);
 
+    /** Compares the names, without regard to case. */
     bool operator==(const PxThematicCategory &other) const;
     bool operator!=(const PxThematicCategory &other) const { return !(*this == other); }
     /** Compares the names, with regard to case. */

@@ -9,5 +9,6 @@ class PXPRODUCTPROPERTIES_EXPORT PxThematicCategoryList : public QList<PxThemati
 {
 public:
     PxThematicCategoryList() = default;
+    /** The same categories. */
     PxThematicCategoryList(const QList<PxThematicCategory> &categories);
 };

@@ -23,6 +23,7 @@ class PXPRODUCTPROPERTIES_EXPORT PxTheme
 public:
     /** A void theme. */
     PxTheme();
+    /** Everything is kept as it is. */
     PxTheme(const QString &id, const PxProductGroup &group, const QString &description,
             const QDateTime &expiry, const QImage &thumbnail,
             const PxKeyAccountNumberList &keyAccounts,
@@ -34,15 +35,20 @@ public:
     PxTheme &operator=(const PxTheme &other);
     virtual ~PxTheme();
 
+    /** No theme: invalid, expired, and offered to nobody. */
     static PxTheme voidTheme();
 
     /** Belongs to a known product group. */
     bool isValid() const { return d->isValid(); }
 
     // Identity
+    /** The id by which it is found, as it is written in the file. */
     QString id() const { return d->id(); }
+    /** The display name, in German; "unbekannt" by default. */
     QString description() const { return d->description(); }
+    /** The group of products for which the shop offers it. */
     PxProductGroup productGroup() const { return d->productGroup(); }
+    /** Its icon; null if it has none. */
     QImage thumbnail() const { return d->thumbnail(); }
     /** The id is "normal", in any case. */
     bool isDefaultTheme() const;
@@ -57,9 +63,11 @@ public:
      * counts as expired.
      */
     QDateTime expiryDate() const { return d->expiryDate(); }
+    /** Whether the expiry date is over now. */
     bool isExpired() const;
     /** The day of the expiry date, as in "1976-12-30". */
     QString expiryDayToOrderTxt() const;
+    /** The key accounts to which it is offered, in the order of the file. */
     PxKeyAccountNumberList keyAccounts() const { return d->keyAccounts(); }
     /** An empty list of key accounts allows none. */
     bool isValidForKeyAccount(int keyAccount) const;
@@ -67,23 +75,34 @@ public:
     PxEmptyMeansAllSet<PxProductType> allowedProductTypes() const;
 
     // What the editor and production may do
+    /** Whether text is printed on the spine; false by default. */
     bool useSpineText() const { return d->useSpineText(); }
+    /** Whether the logo is printed on the spine; true unless the file says otherwise. */
     bool useSpineLogo() const { return d->useSpineLogo(); }
+    /** Whether the user may move what the theme places; false by default. */
     bool canMoveContent() const { return d->canMoveContent(); }
+    /** Whether backgrounds that belong to no theme may be used; true by default. */
     bool canUseNormalBackgrounds() const { return d->canUseNormalBackgrounds(); }
     /** Always false: layouts belong to their theme. */
     bool canUseNormalLayouts() const { return d->canUseNormalLayouts(); }
+    /** Whether it has a logo for this product type. */
     bool mustPaintVemoLogo(const PxProductType &type) const { return d->hasLogo(type); }
     /** The logo and its place; a null image and an invalid rectangle if there is none. */
     QPair<QImage, QRect> vemoLogo(const PxProductType &type) const { return d->logo(type); }
 
     // Which category is shown first; an empty one when the theme names none
+    ///@{
+    /**
+     * The category that is shown first for this kind of design element; an empty one if the theme
+     * names none.
+     */
     PxThematicCategory defaultCategory(const PxJigType &jigType) const;
     PxThematicCategory defaultBackgroundCategory() const;
     PxThematicCategory defaultClipartCategory() const;
     PxThematicCategory defaultContentCategory() const;
     PxThematicCategory defaultFadingCategory() const;
     PxThematicCategory defaultFrameCategory() const;
+    ///@}
 
     /** Compares everything but the allowed product types. */
     bool operator==(const PxTheme &other) const;

@@ -32,6 +32,8 @@ public:
     Q_DISABLE_COPY(PxThemeConfig)
     virtual ~PxThemeConfig();
 
+    ///@{
+    /** The same as the function of PxTheme that has this name. */
     bool isValid() const { return m_productGroup.isValid(); }
 
     QString id() const { return m_id; }
@@ -52,9 +54,11 @@ public:
     bool canUseNormalLayouts() const { return false; }
     PxThematicCategory defaultCategory(const PxJigType &jigType) const;
     PxEmptyMeansAllSet<PxProductType> allowedProductTypes() const { return m_allowedProductTypes; }
+    ///@}
 
     /** Compares everything but the allowed product types. */
     bool operator==(const PxThemeConfig &other) const;
+    /** As PxTheme::sortingKey(). */
     QString sortingKey() const;
 
 private:

@@ -44,6 +44,7 @@ public:
      * no theme at all.
      */
     PxTheme defaultTheme() const { return m_defaultTheme; }
+    /** Whether there is a theme with exactly this id. */
     bool contains(const QString &id) const;
     /** The first theme with exactly this id; the void theme if there is none. */
     PxTheme findTheme(const QString &id) const;
@@ -54,7 +55,12 @@ public:
     PxThemeList findThemes(const QStringList &ids) const;
     /** The same for a comma-separated list. Ids are not trimmed. */
     PxThemeList findThemes(const QString &ids) const;
+    /**
+     * The themes in which backgrounds of no theme may be used, in the order of
+     * PxThemeList::normalize().
+     */
     PxThemeList findThemesWhichAcceptNormalBackgrounds() const;
+    /** The same for layouts. */
     PxThemeList findThemesWhichAcceptNormalLayouts() const;
 
     /** Reads the themes directory. Called once, by instance(). */

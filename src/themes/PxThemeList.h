@@ -13,16 +13,21 @@ class PXPRODUCTPROPERTIES_EXPORT PxThemeList : public QList<PxTheme>
 {
 public:
     PxThemeList() = default;
+    /** This theme alone, even a void one. */
     explicit PxThemeList(const PxTheme &theme);
     /** The factory's themes for a comma-separated list of ids; unknown ids are skipped. */
     explicit PxThemeList(const QString &ids);
+    /** The same themes. */
     PxThemeList(const QList<PxTheme> &themes);
 
+    /** The instance of PxThemeFactory; not owned. */
     PxThemeFactory *factory() const;
 
+    /** Whether an equal theme is in the list. */
     bool contains(const PxTheme &theme) const;
-    /** Ids are compared exactly. */
+    /** Whether a theme with exactly this id is in the list. */
     bool contains(const QString &id) const;
+    /** Whether PxThemeFactory::defaultTheme() is in the list. */
     bool containsDefaultTheme() const;
     /** The first theme with exactly this id; the void theme if there is none. */
     PxTheme findTheme(const QString &id) const;
@@ -31,8 +36,11 @@ public:
      * ones.
      */
     PxThemeList filter(int keyAccount, bool expired) const;
+    /** The id of each theme, in order. */
     QStringList idList() const;
+    /** The same joined with ",". */
     QString asCommaSeparatedIDList() const;
+    /** The German display name of each theme, in order. */
     QStringList descriptionList() const;
 
     /** Appends the themes that are not in the list yet. */

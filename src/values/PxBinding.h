@@ -8,24 +8,28 @@
 #include <QMetaType>
 #include <QString>
 
+/** Bindings, and unions of them that the library asks for; a set of flags. */
 enum PxBindingEnum : int {
-    PxBindingHardcover = 1,
-    PxBindingSoftcover = 2,
-    PxBindingCromolinen = 4,
-    PxBindingLeather = 8,
-    PxBindingArtificialLeather = 16,
-    PxBindingClamp = 32,
-    PxBindingBooklet = 64,
-    PxBindingFoil = 128,
-    PxBindingCalendarSimplex = 256,
-    PxBindingCalendarDuplex = 512,
-    PxBindingCalendarOnePage = 1024,
-    PxBindingCalendarAnnualDuplex = 2048,
-    PxBindingGift = 4096,
-    // The annual duplex planner is one, because applications lay out its pages like those of the
-    // other two.
+    PxBindingHardcover = 1,               ///< printed hard cover
+    PxBindingSoftcover = 2,               ///< printed soft cover
+    PxBindingCromolinen = 4,              ///< linen cover, not printed
+    PxBindingLeather = 8,                 ///< leather cover, not printed
+    PxBindingArtificialLeather = 16,      ///< imitation leather, not printed
+    PxBindingClamp = 32,                  ///< linen folder with clamp
+    PxBindingBooklet = 64,                ///< stapled
+    PxBindingFoil = 128,                  ///< rings and clear foil
+    PxBindingCalendarSimplex = 256,       ///< month calendar, printed on one side
+    PxBindingCalendarDuplex = 512,        ///< month calendar, printed on both sides
+    PxBindingCalendarOnePage = 1024,      ///< year on one page
+    PxBindingCalendarAnnualDuplex = 2048, ///< year on two pages
+    PxBindingGift = 4096,                 ///< no binding: gifts, cards, decorations, prints
+    /**
+     * Bindings that are laid out as printed on one side. The annual duplex planner is one, because
+     * applications lay out its pages like those of the other two.
+     */
     PxBindingAllSimplex =
         PxBindingCalendarSimplex | PxBindingCalendarOnePage | PxBindingCalendarAnnualDuplex,
+    /** Bindings whose cover is printed as a whole. */
     PxBindingAllFullCover = PxBindingHardcover | PxBindingSoftcover | PxBindingBooklet,
 };
 extern template class PXPRODUCTPROPERTIES_EXPORT PxEnumWrapper<PxBindingEnum>;
@@ -35,6 +39,7 @@ class PXPRODUCTPROPERTIES_EXPORT PxBinding : public PxEnumWrapper<PxBindingEnum>
 {
 public:
     PxBinding() = default;
+    /** Any value is kept, even one without an enumerator. */
     PxBinding(PxBindingEnum value) : PxEnumWrapper(value) {}
     /** From a keyword list; each word that is not a keyword adds GIFT. */
     PxBinding(const QString &keywords);
@@ -49,9 +54,11 @@ public:
      */
     static PxBinding createFromHumanReadable(const QString &name);
 
+    /** Whether a product of this binding is printed on one side. */
     bool isSimplex() const { return matches(PxBindingAllSimplex); }
     /** Hardcover, softcover or booklet. */
     bool isFullCover() const { return matches(PxBindingAllFullCover); }
+    /** Whether the pages are held by a clamp. */
     bool isClampCover() const { return matches(PxBindingClamp); }
     /** How many pages a calendar of this binding has: 12, 24 or 2; 1 for any other binding. */
     int calendarPageCount() const;
@@ -63,8 +70,9 @@ public:
      */
     QString toolTip() const;
 
-    /** The display tables, translated on the first call. Never null, never freed. */
+    /** The display names, translated on the first call. Never null, never freed. */
     static const PxLookUpTable<PxBindingEnum, QString> *bindingNames();
+    /** The same for the tool tips. */
     static const PxLookUpTable<PxBindingEnum, QString> *bindingToolTips();
 
     /** As files usually spell them. The first one of a value is the one that is written back. */

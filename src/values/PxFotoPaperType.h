@@ -2,8 +2,8 @@
 
 /** The finish of photo paper: a single value, not a set of flags. */
 enum PxFotoPaperType : int {
-    PxFotoPaperTypeUnknown = 0,
-    PxFotoPaperTypeGlossy = 1,
-    PxFotoPaperTypeMatt = 2,
-    PxFotoPaperTypeSilkGrain = 3,
+    PxFotoPaperTypeUnknown = 0,   ///< not chosen yet
+    PxFotoPaperTypeGlossy = 1,    ///< glossy
+    PxFotoPaperTypeMatt = 2,      ///< matt
+    PxFotoPaperTypeSilkGrain = 3, ///< silk grain
 };

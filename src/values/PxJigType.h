@@ -7,14 +7,15 @@
 #include <QMetaType>
 #include <QString>
 
+/** Kinds of design elements; a set of flags. */
 enum PxJigTypeEnum : int {
-    PxJigTypeBackground = 1,
-    PxJigTypeClipart = 2,
-    PxJigTypeContent = 4,
-    PxJigTypeLayout = 8,
-    PxJigTypePassepartout = 16,
-    PxJigTypeStyle = 32,
-    PxJigTypeFrame = 128,
+    PxJigTypeBackground = 1,    ///< backgrounds of pages
+    PxJigTypeClipart = 2,       ///< small pictures to be placed on a page
+    PxJigTypeContent = 4,       ///< ready-made contents
+    PxJigTypeLayout = 8,        ///< layouts: where pictures and texts are on a page
+    PxJigTypePassepartout = 16, ///< masks, also called fadings
+    PxJigTypeStyle = 32,        ///< styles
+    PxJigTypeFrame = 128,       ///< frames around pictures
 };
 extern template class PXPRODUCTPROPERTIES_EXPORT PxEnumWrapper<PxJigTypeEnum>;
 
@@ -23,6 +24,7 @@ class PXPRODUCTPROPERTIES_EXPORT PxJigType : public PxEnumWrapper<PxJigTypeEnum>
 {
 public:
     PxJigType() = default;
+    /** Any value is kept, even one without an enumerator. */
     PxJigType(PxJigTypeEnum value) : PxEnumWrapper(value) {}
     /** From a keyword list; other words add nothing. */
     PxJigType(const QString &keywords);

@@ -7,29 +7,34 @@
 #include <QMetaType>
 #include <QString>
 
+/** Kinds of pages, and unions of them; a set of flags. */
 enum PxPageTypeEnum : int {
-    PxPageTypeNone = 0,
-    PxPageTypeSpine = 0x1,
-    PxPageTypeClampCoverFront = 0x2,
-    PxPageTypeClampCoverBack = 0x4,
-    PxPageTypeFoilCover = 0x8, // front and back alike
-    PxPageTypeNormalPage = 0x10,
-    PxPageTypeEmptyPage = 0x20,
-    PxPageTypeFullCover = 0x40,
-    PxPageTypeCalendarCoverFront = 0x100,
-    PxPageTypeCalendarCoverBack = 0x200,
-    PxPageTypeCromolinen = 0x400,
-    PxPageTypeLeather = 0x800,
-    PxPageTypeArtificialLeather = 0x10000,
-    PxPageTypeDuplexMonthCalendar = 0x20000,
-    PxPageTypeSimplexYearCalendar = 0x40000,
-    PxPageTypeNormalPages = 0x80000,
-    PxPageTypeSimplexMonthCalendar = 0x100000,
+    PxPageTypeNone = 0,                      ///< no page
+    PxPageTypeSpine = 0x1,                   ///< the spine
+    PxPageTypeClampCoverFront = 0x2,         ///< front of a clamp folder
+    PxPageTypeClampCoverBack = 0x4,          ///< back of a clamp folder
+    PxPageTypeFoilCover = 0x8,               ///< clear foil, front and back alike
+    PxPageTypeNormalPage = 0x10,             ///< page with content
+    PxPageTypeEmptyPage = 0x20,              ///< blank page
+    PxPageTypeFullCover = 0x40,              ///< half of a printed cover
+    PxPageTypeCalendarCoverFront = 0x100,    ///< front of a calendar
+    PxPageTypeCalendarCoverBack = 0x200,     ///< back of a calendar
+    PxPageTypeCromolinen = 0x400,            ///< half of a linen cover
+    PxPageTypeLeather = 0x800,               ///< half of a leather cover
+    PxPageTypeArtificialLeather = 0x10000,   ///< half of an imitation leather cover
+    PxPageTypeDuplexMonthCalendar = 0x20000, ///< a range: the pages of a month calendar, both sides
+    PxPageTypeSimplexYearCalendar = 0x40000, ///< a range: the page of a year calendar
+    PxPageTypeNormalPages = 0x80000,         ///< a range: all normal pages
+    PxPageTypeSimplexMonthCalendar = 0x100000, ///< a range: the pages of a month calendar, one side
+    /** The spine and every cover. */
     PxPageTypeCover = PxPageTypeSpine | PxPageTypeClampCoverFront | PxPageTypeClampCoverBack |
                       PxPageTypeFoilCover | PxPageTypeFullCover | PxPageTypeCalendarCoverFront |
                       PxPageTypeCalendarCoverBack | PxPageTypeCromolinen | PxPageTypeLeather |
                       PxPageTypeArtificialLeather,
-    // Excludes the four types that mean a range of pages: no single page has such a type.
+    /**
+     * Every type of a single page: without the four types that mean a range of pages, which no
+     * page has.
+     */
     PxPageTypeAll = PxPageTypeCover | PxPageTypeNormalPage | PxPageTypeEmptyPage,
 };
 extern template class PXPRODUCTPROPERTIES_EXPORT PxEnumWrapper<PxPageTypeEnum>;
@@ -39,6 +44,7 @@ class PXPRODUCTPROPERTIES_EXPORT PxPageType : public PxEnumWrapper<PxPageTypeEnu
 {
 public:
     PxPageType() = default;
+    /** Any value is kept, even one without an enumerator. */
     PxPageType(PxPageTypeEnum value) : PxEnumWrapper(value) {}
     /** From a keyword list; other words add nothing. */
     PxPageType(const QString &keywords);
@@ -46,8 +52,9 @@ public:
     PxPageType &operator=(const PxPageType &other);
     ~PxPageType() override;
 
-    /** Adds the bits of the value, or of the keyword list. */
+    /** Adds the bits of the value. */
     void expandTo(const PxPageTypeEnum &value);
+    /** Adds the bits of a comma-separated keyword list; other words add nothing. */
     void expandTo(const QString &keywords);
 
     /**

@@ -10,7 +10,9 @@ class PXPRODUCTPROPERTIES_EXPORT PxPageTypeList : public QList<PxPageType>
 {
 public:
     PxPageTypeList() = default;
+    /** The same entries. */
     PxPageTypeList(const QList<PxPageType> &pageTypes);
+    /** One entry per value. */
     PxPageTypeList(const QList<PxPageTypeEnum> &pageTypes);
     /**
      * One entry per part of a comma-separated list; a part that is not a keyword gives an invalid
@@ -21,5 +23,6 @@ public:
     PxPageTypeList &operator=(const PxPageTypeList &other);
     virtual ~PxPageTypeList();
 
+    /** Appends one entry per value. */
     void appendEnum(const QList<PxPageTypeEnum> &pageTypes);
 };

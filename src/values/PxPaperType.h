@@ -8,13 +8,14 @@
 #include <QMetaType>
 #include <QString>
 
+/** Papers; a set of flags. */
 enum PxPaperTypeEnum : int {
-    PxPaperTypeUnknown = 0,
-    PxPaperTypeIndigo = 1,
-    PxPaperTypeGlossy = 2,
-    PxPaperTypeIndigoMatt = 4,
-    PxPaperTypeFotoPaper = 8,
-    PxPaperTypeFotoPaperGlossy = 16,
+    PxPaperTypeUnknown = 0,          ///< none, or one that has no name here
+    PxPaperTypeIndigo = 1,           ///< digital print
+    PxPaperTypeGlossy = 2,           ///< digital print, varnished
+    PxPaperTypeIndigoMatt = 4,       ///< digital print on heavy matt paper
+    PxPaperTypeFotoPaper = 8,        ///< photo paper, matt
+    PxPaperTypeFotoPaperGlossy = 16, ///< photo paper, glossy
 };
 extern template class PXPRODUCTPROPERTIES_EXPORT PxEnumWrapper<PxPaperTypeEnum>;
 
@@ -23,6 +24,7 @@ class PXPRODUCTPROPERTIES_EXPORT PxPaperType : public PxEnumWrapper<PxPaperTypeE
 {
 public:
     PxPaperType() = default;
+    /** Any value is kept, even one without an enumerator. */
     PxPaperType(PxPaperTypeEnum value) : PxEnumWrapper(value) {}
     /** From a keyword list; each word that is not a keyword adds "indigo". */
     PxPaperType(const QString &keywords);

@@ -12,6 +12,7 @@ class PXPRODUCTPROPERTIES_EXPORT PxProductMaterial
 {
 public:
     PxProductMaterial() = default;
+    /** Any text is kept, even one that is no keyword. */
     PxProductMaterial(const QString &value);
     PxProductMaterial(const PxProductMaterial &other);
     PxProductMaterial &operator=(const PxProductMaterial &other);

@@ -8,18 +8,21 @@
 #include <QMetaType>
 #include <QString>
 
+/** Size classes; a set of flags. */
 enum PxSpaceMagnitudeEnum : int {
-    PxSpaceMagnitudeUnknown = 0,
-    PxSpaceMagnitude150 = 1,
-    PxSpaceMagnitude200 = 2,
-    PxSpaceMagnitude280 = 4,
-    PxSpaceMagnitude310 = 8,
-    PxSpaceMagnitude400 = 16,
-    PxSpaceMagnitude600 = 32,
-    PxSpaceMagnitude900 = 64,
-    PxSpaceMagnitude1200 = 128,
+    PxSpaceMagnitudeUnknown = 0, ///< no class
+    PxSpaceMagnitude150 = 1,     ///< Mini
+    PxSpaceMagnitude200 = 2,     ///< small
+    PxSpaceMagnitude280 = 4,     ///< Compact
+    PxSpaceMagnitude310 = 8,     ///< A5
+    PxSpaceMagnitude400 = 16,    ///< square
+    PxSpaceMagnitude600 = 32,    ///< A4
+    PxSpaceMagnitude900 = 64,    ///< XL
+    PxSpaceMagnitude1200 = 128,  ///< XXL
+    /** All but Mini and XL. */
     PxSpaceMagnitudeNormal = PxSpaceMagnitude200 | PxSpaceMagnitude280 | PxSpaceMagnitude310 |
                              PxSpaceMagnitude400 | PxSpaceMagnitude600 | PxSpaceMagnitude1200,
+    /** every class */
     PxSpaceMagnitudeAny = PxSpaceMagnitudeNormal | PxSpaceMagnitude150 | PxSpaceMagnitude900,
 };
 extern template class PXPRODUCTPROPERTIES_EXPORT PxEnumWrapper<PxSpaceMagnitudeEnum>;
@@ -29,6 +32,7 @@ class PXPRODUCTPROPERTIES_EXPORT PxSpaceMagnitude : public PxEnumWrapper<PxSpace
 {
 public:
     PxSpaceMagnitude() = default;
+    /** Any value is kept, even one without an enumerator. */
     PxSpaceMagnitude(PxSpaceMagnitudeEnum value) : PxEnumWrapper(value) {}
     /** From a keyword list; each word that is not a keyword adds every size. */
     PxSpaceMagnitude(const QString &keywords);

@@ -20,6 +20,7 @@ class PXPRODUCTPROPERTIES_EXPORT PxProductTypeVariationListModel : public QAbstr
     Q_OBJECT
 
 public:
+    /** What a row stands for, beside its text. */
     enum Role {
         /** The PxProductType of the row; in QML "productType". */
         ProductTypeRole = Qt::UserRole,
@@ -29,14 +30,22 @@ public:
         ProductCodeRole,
     };
 
+    /** Queries the products. The parent, if there is one, owns the model. */
     PxProductTypeVariationListModel(const PxProductContext &context,
                                     PxProductComparationCriterion criterion,
                                     QObject *parent = nullptr);
 
     // As a list model
+    /** The number of products; 0 below a row. */
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    /** 1; 0 below a row. */
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
+    /**
+     * The text for Qt::DisplayRole and the values of the roles above; no value for a row that does
+     * not exist.
+     */
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    /** The names of the roles in QML. */
     QHash<int, QByteArray> roleNames() const override;
 
     // About the products
@@ -44,6 +53,7 @@ public:
     PxProductType productAt(int row) const;
     /** An invalid index if the type is not listed. */
     QModelIndex indexOf(const PxProductType &type) const;
+    /** The row of the product of the context; an invalid index if it is not listed. */
     QModelIndex indexOfCurrentProduct() const;
     /** The products of the list that the theme allows, sorted like the rows. */
     PxProductTypeList filterAllowedByTheme(const PxProductTypeList &list) const;

@@ -35,6 +35,7 @@ public:
     QStringList namedIdentifiers(const PxProductType &type) const;
     /** The identifiers in the product file that have a name, with their names. */
     QMap<QString, QString> variants(const PxProductType &type) const;
+    /** Whether variants() has one. */
     bool hasVariants(const PxProductType &type) const;
     /** The alphabetically first identifier of variants(); empty if there is none. */
     QString defaultVariant(const PxProductType &type) const;

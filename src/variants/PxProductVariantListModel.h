@@ -25,6 +25,7 @@ class PXPRODUCTPROPERTIES_EXPORT PxProductVariantListModel : public QAbstractLis
     Q_OBJECT
 
 public:
+    /** What a row stands for, beside its name and swatch. */
     enum Role {
         /** The identifier of the variant, a QString; in QML "identifier". */
         IdentifierRole = Qt::UserRole,
@@ -32,6 +33,7 @@ public:
         ColorRole,
     };
 
+    /** Lists the variants of the product. The parent, if there is one, owns the model. */
     explicit PxProductVariantListModel(const PxProductType &type, QObject *parent = nullptr);
 
     /**
@@ -41,18 +43,24 @@ public:
     static QPixmap colorDescriptionToPixmap(const QString &description);
 
     // As a list model
+    /** The number of variants; 0 below a row. */
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    /** 1; 0 below a row. */
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
+    /** An invalid index: rows are not nested. */
     QModelIndex parent(const QModelIndex &child) const override;
+    /** The object that owns the model. */
     using QObject::parent;
     /**
      * Names for Qt::DisplayRole, swatches for Qt::DecorationRole (a null icon if the variant is not
      * a colour), and the values of the roles above.
      */
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    /** The names of the roles in QML. */
     QHash<int, QByteArray> roleNames() const override;
 
     // About the variants
+    /** The product whose variants are listed. */
     PxProductType product() const { return m_product; }
     /** The row of the identifier; -1 if it is not listed. */
     int indexOf(const QString &identifier) const;

@@ -22,6 +22,7 @@
 class PXCORE_EXPORT PxDirectoryConfig
 {
 public:
+    /** Created on first use, from any thread; never null, never destroyed. */
     static PxDirectoryConfig *instance();
 
     /**

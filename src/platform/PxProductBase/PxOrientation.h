@@ -11,12 +11,13 @@ class QSizeF;
 
 /** The shape of a page or a template; a set of flags. */
 enum PxOrientationEnum : int {
-    PxOrientationPortrait = 1,
-    PxOrientationLandscape = 2,
-    PxOrientationQuadratic = 4,
-    PxOrientationPanorama = 8,
-    PxOrientationPortraitPanorama = 16,
-    PxOrientationRound = 32,
+    PxOrientationPortrait = 1,          ///< higher than wide
+    PxOrientationLandscape = 2,         ///< wider than high
+    PxOrientationQuadratic = 4,         ///< a square
+    PxOrientationPanorama = 8,          ///< very wide
+    PxOrientationPortraitPanorama = 16, ///< very high
+    PxOrientationRound = 32,            ///< a circle
+    /** Every shape. */
     PxOrientationAll = PxOrientationPortrait | PxOrientationLandscape | PxOrientationQuadratic |
                        PxOrientationPanorama | PxOrientationPortraitPanorama | PxOrientationRound,
 };
@@ -28,6 +29,7 @@ class PXPRODUCTBASE_EXPORT PxOrientation : public PxEnumWrapper<PxOrientationEnu
 {
 public:
     PxOrientation() = default;
+    /** Any value is kept, even one without an enumerator. */
     PxOrientation(PxOrientationEnum orientation) : PxEnumWrapper(orientation) {}
     PxOrientation(const PxOrientation &other) = default;
     PxOrientation &operator=(const PxOrientation &other) = default;

@@ -10,13 +10,16 @@ class QDebug;
 class PXPRODUCTBASE_EXPORT PxPageCountOrganization
 {
 public:
+    /** Everything is kept as it is, even a minimum above the maximum. */
     PxPageCountOrganization(unsigned minimum, unsigned maximum, unsigned increment)
         : m_minimum(minimum)
         , m_maximum(maximum)
         , m_increment(increment)
     {}
 
+    /** The smallest page count. */
     unsigned minimum() const { return m_minimum; }
+    /** The largest page count. */
     unsigned maximum() const { return m_maximum; }
     /** 0 when the number of pages cannot be changed. */
     unsigned increment() const { return m_increment; }

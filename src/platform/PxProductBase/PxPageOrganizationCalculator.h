@@ -13,5 +13,6 @@ public:
     PxPageOrganizationCalculator &operator=(const PxPageOrganizationCalculator &other) = default;
     virtual ~PxPageOrganizationCalculator();
 
+    /** The page counts of a product, also of one that is not known. */
     virtual PxPageCountOrganization createPageOrganization(const PxProductType &type) const = 0;
 };

@@ -16,15 +16,20 @@ class PxProductType;
 class PXPRODUCTBASE_EXPORT PxPageOrganizationManager
 {
 public:
+    /** Created on first use, from any thread; never null, never destroyed. */
     static PxPageOrganizationManager *instance();
 
     /** Takes ownership; null is ignored. Earlier calculators are kept, but no longer asked. */
     void addCalculator(PxPageOrganizationCalculator *calculator);
 
+    /** The answer of the last calculator. */
     PxPageCountOrganization pageCountOrganzation(const PxProductType &type) const;
+    ///@{
+    /** The same number of that answer, cast to int. */
     int minPages(const PxProductType &type) const;
     int maxPages(const PxProductType &type) const;
     int pageIncrement(const PxProductType &type) const;
+    ///@}
 
 private:
     PxPageOrganizationManager() = default;

@@ -12,6 +12,7 @@ class PxProductType;
 class PXPRODUCTBASE_EXPORT PxProductCheckerRegistry
 {
 public:
+    /** Created on first use, from any thread; never null, never destroyed. */
     static PxProductCheckerRegistry *instance();
 
     /**

@@ -2,11 +2,11 @@
 
 /** The broad kind of a product; a set of flags, 0 is unknown. */
 enum PxProductClass : int {
-    PxProductClassUnknown = 0,
-    PxProductClassBook = 1,
-    PxProductClassCalendar = 2,
-    PxProductClassGift = 4,
-    PxProductClassCard = 8,
-    PxProductClassDecoration = 16,
-    PxProductClassPrint = 32,
+    PxProductClassUnknown = 0,     ///< no class
+    PxProductClassBook = 1,        ///< photo books
+    PxProductClassCalendar = 2,    ///< calendars
+    PxProductClassGift = 4,        ///< gifts
+    PxProductClassCard = 8,        ///< cards
+    PxProductClassDecoration = 16, ///< wall decorations
+    PxProductClassPrint = 32,      ///< prints of photos
 };

@@ -35,15 +35,20 @@ public:
     /** Whether the catalogue has this type. */
     bool isValid() const { return m_entry != nullptr; }
 
+    /** The code; 0 by default. */
     PxProductTypeEnum type() const { return m_type; }
+    /** The class in the catalogue; unknown for an invalid type. */
     PxProductClass productClass() const { return m_productClass; }
     /** Shares at least one bit. */
     bool isProductClass(PxProductClass classes) const { return (m_productClass & classes) != 0; }
+    ///@{
+    /** Whether the product is of this class; false for an invalid type. */
     bool isBook() const { return isProductClass(PxProductClassBook); }
     bool isCalendar() const { return isProductClass(PxProductClassCalendar); }
     bool isGift() const { return isProductClass(PxProductClassGift); }
     bool isCard() const { return isProductClass(PxProductClassCard); }
     bool isDeko() const { return isProductClass(PxProductClassDecoration); }
+    ///@}
 
     /** The name as the catalogue spells it; empty for an invalid type. */
     QString productName() const;
@@ -52,6 +57,7 @@ public:
 
     bool operator==(const PxProductType &other) const { return m_type == other.m_type; }
     bool operator!=(const PxProductType &other) const { return m_type != other.m_type; }
+    /** Compares the codes. */
     bool operator<(const PxProductType &other) const { return m_type < other.m_type; }
 
 private:
@@ -64,6 +70,7 @@ private:
 
 Q_DECLARE_TYPEINFO(PxProductType, Q_MOVABLE_TYPE);
 
+/** Equal for equal types. */
 inline uint qHash(const PxProductType &type, uint seed = 0)
 {
     return ::qHash(int(type.type()), seed);

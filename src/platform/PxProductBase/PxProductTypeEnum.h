@@ -2,5 +2,5 @@
 
 /** The code of a product type. An open enumeration: the codes come from the catalogue. */
 enum PxProductTypeEnum : int {
-    PxProductTypeUnknown = 0,
+    PxProductTypeUnknown = 0, ///< no product type
 };

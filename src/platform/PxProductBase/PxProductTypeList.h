@@ -4,4 +4,5 @@
 
 #include <QList>
 
+/** Product types in an order that the function says which returns them. */
 using PxProductTypeList = QList<PxProductType>;

@@ -5,6 +5,7 @@
 /** Why PxXMLLoader refuses a file, and where. */
 struct PxXMLFault
 {
+    /** The kinds of faults. */
     enum class Kind {
         None,          ///< the file has been read
         Unreadable,    ///< it is missing, not a regular file, or cannot be opened or read
@@ -13,6 +14,7 @@ struct PxXMLFault
         Limit,         ///< it exceeds a limit, or has an internal subset or an external entity
     };
 
+    /** What is wrong. */
     Kind kind = Kind::None;
     /** One line; empty if there is no fault. */
     QString message;

@@ -41,12 +41,15 @@ public:
      */
     static constexpr int maximumNodes = 200000;
 
+    /** The whole document; null if there is a fault. */
     static QDomDocument loadDocument(const QFileInfo &file, QString *error = nullptr);
+    /** The same with the fault as a value. */
     static QDomDocument loadDocument(const QFileInfo &file, PxXMLFault &fault);
     /**
      * The document element alone, without the comments and other nodes around it. It belongs to no
      * document and stays usable without one.
      */
     static QDomElement loadDocumentElement(const QFileInfo &file, QString *error = nullptr);
+    /** The same with the fault as a value. */
     static QDomElement loadDocumentElement(const QFileInfo &file, PxXMLFault &fault);
 };

@@ -45,6 +45,7 @@ public:
      * size of 0 or less is kept as it is.
      */
     static QRect readRect(const QDomElement &element);
+    /** The same for the attributes of an element. */
     static QRect readRect(const QDomNamedNodeMap &attributes);
     /** The attributes `width` and `height`, each -1 unless it is a number. */
     static QSize readSize(const QDomElement &element);
