@@ -12,6 +12,9 @@
  * written to this file, and the commands of a console block print what it shows. In a line
  * "<!-- $ COMMAND -->" stands a step that readers don't need and that prints nothing.
  *
+ * The tutorial builds a program with the library of the build directory that `BUILD` names; CTest
+ * does that in a test of its own.
+ *
  * Writes each document with the output as it is now into the working directory.
  */
 class PxDocumentsTest : public QObject
@@ -72,13 +75,16 @@ QString sessionNow(const QString &session)
 void PxDocumentsTest::showsWhatHappens_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char *name : {"README.md", "docs/first-product.md", "docs/pxcatalogue.md"})
+    for (const char *name :
+         {"README.md", "docs/first-product.md", "docs/pxcatalogue.md", "docs/tutorial.md"})
         QTest::newRow(name) << name;
 }
 
 void PxDocumentsTest::showsWhatHappens()
 {
     QFETCH(QString, name);
+    if (name == "docs/tutorial.md" && !qEnvironmentVariableIsSet("BUILD"))
+        QSKIP("ctest -R TutorialShowsWhatHappens");
     QFile file(PX_SOURCE_DIRECTORY "/" + name);
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QString document = QString::fromUtf8(file.readAll());
