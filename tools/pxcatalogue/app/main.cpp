@@ -47,8 +47,9 @@ PxExitStatus run(const PxCommandLine &line)
                             : line.command().showsWarnings() ? Shown::Warnings
                                                              : Shown::Nothing);
     loadTexts();
-    installTranslation(line.isSet("lang") || line.command().dependsOnLocale() ? line.value("lang")
-                                                                              : "de");
+    installTranslation(line.isSet("lang") || line.command().dependsOnLocale()
+                           ? line.keywords("lang").value(0)
+                           : "de");
     return line.command().run(line);
 }
 

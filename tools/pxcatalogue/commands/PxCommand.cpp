@@ -24,6 +24,12 @@ const PxCommand *command()
 
 } // namespace
 
+QVector<PxOption> PxCommandUsage::allOptions() const
+{
+    const int refused = hasCatalogues ? PxOption::ofCatalogue().size() : 0;
+    return options + PxOption::ofEveryCommand().mid(refused);
+}
+
 PxCommand::~PxCommand() = default;
 
 QVector<const PxCommand *> PxCommand::all()
@@ -34,6 +40,28 @@ QVector<const PxCommand *> PxCommand::all()
         command<PxCheckCommand>(), command<PxVariantsCommand>(),   command<PxExportCommand>(),
         command<PxDiffCommand>(),  command<PxProofCommand>(),
     };
+}
+
+const PxCommand *PxCommand::find(const QString &name)
+{
+    for (const PxCommand *command : all()) {
+        if (name == command->usage().name)
+            return command;
+    }
+    return nullptr;
+}
+
+QString PxCommand::purposeOfAll()
+{
+    return "Shows the products of a catalogue as the product properties library understands\n"
+           "their files.";
+}
+
+QString PxCommand::exitStatusOfAll()
+{
+    return "0 done; 1 the answer is \"no\", as when there is no such product or theme, or several "
+           "fit; the help of a command names its further reasons; 2 wrong usage, a directory or a "
+           "producttypes.xml that cannot be read, or output that cannot be written.";
 }
 
 PxExitStatus PxCommand::fail(const PxProblem &problem)

@@ -19,6 +19,7 @@ struct PxCommandUsage
         QString meaning; ///< a sentence about them
         QString needed;  ///< what to call them if they are missing; empty if they are optional
         int most = 0;    ///< how many there may be
+        PxOption::Form form = PxOption::Form::Usual; ///< of each
     };
 
     QString name;
@@ -28,6 +29,9 @@ struct PxCommandUsage
     Arguments arguments = {};
     /** Whether the arguments are catalogues: the options that name one are refused then. */
     bool hasCatalogues = false;
+
+    /** Its own options, and those of every command unless it refuses them. */
+    QVector<PxOption> allOptions() const;
 };
 
 /** A command of the program. */
@@ -38,6 +42,11 @@ public:
 
     /** All commands, in the order of --help. */
     static QVector<const PxCommand *> all();
+    /** The one of this name, or null. */
+    static const PxCommand *find(const QString &name);
+    /** What all of them together do, in lines. */
+    static QString purposeOfAll();
+    static QString exitStatusOfAll();
 
     virtual PxCommandUsage usage() const = 0;
     /** Whether the user sees the warnings of the library without --verbose, too. */

@@ -12,15 +12,6 @@ namespace {
 
 constexpr int helpWidth = 80;
 
-constexpr const char *introduction =
-    "Shows the products of a catalogue as the product properties library understands\n"
-    "their files.\n"
-    "\nCommands (\"pxcatalogue help COMMAND\" shows the options of one):\n";
-constexpr const char *exitStatus =
-    "\nExit status: 0 done; 1 the answer is \"no\", as when there is no such product or theme, or "
-    "several fit; the help of a command names its further reasons; 2 wrong usage, a directory or a "
-    "producttypes.xml that cannot be read, or output that cannot be written.";
-
 /** Each line that is too long, in several; the others as they are. */
 QString wrapped(const QString &text)
 {
@@ -34,13 +25,14 @@ QString wrapped(const QString &text)
 
 QString programDescription()
 {
-    QString description = introduction;
+    QString description = PxCommand::purposeOfAll() +
+                          "\n\nCommands (\"pxcatalogue help COMMAND\" shows the options of one):\n";
     for (const PxCommand *command : PxCommand::all()) {
         const PxCommandUsage usage = command->usage();
         description += "  " + (usage.name + ' ' + usage.arguments.name).leftJustified(17) +
                        usage.description.section('\n', 0, 0) + '\n';
     }
-    return description + exitStatus;
+    return description + "\nExit status: " + PxCommand::exitStatusOfAll();
 }
 
 bool takes(const PxCommand *command, const QString &option)
@@ -73,10 +65,7 @@ void addOptions(QCommandLineParser *parser, const QVector<PxOption> &options,
                 QCommandLineOption::Flags flags = {})
 {
     for (const PxOption &option : options) {
-        QStringList names{option.name};
-        if (option.name == "help")
-            names.prepend("h");
-        QCommandLineOption added(names, option.description, option.value);
+        QCommandLineOption added(option.names(), option.description, option.value);
         added.setFlags(flags);
         parser->addOption(added);
     }
@@ -170,7 +159,7 @@ PxCommandLine::PxCommandLine(const QStringList &words)
 
 QStringList PxCommandLine::keywords(const QString &option) const
 {
-    for (const PxOption &other : m_command->usage().options) {
+    for (const PxOption &other : m_command->usage().allOptions()) {
         if (other.name == option)
             return other.keywordsIn(value(option));
     }
@@ -182,10 +171,7 @@ void PxCommandLine::findCommand(const QStringList &words, QCommandLineParser *pa
 {
     const bool isUnderstood = parser->parse(words);
     const QString name = parser->positionalArguments().value(0);
-    for (const PxCommand *command : PxCommand::all()) {
-        if (name == command->usage().name)
-            m_command = command;
-    }
+    m_command = PxCommand::find(name);
     if (m_command)
         return;
     if (!isUnderstood)
@@ -251,9 +237,6 @@ void PxCommandLine::checkValues(const QVector<PxOption> &options)
         if (problem)
             setProblem(problem->text);
     }
-    const QString language = value("lang");
-    if (!QStringList{"", "en", "de"}.contains(language))
-        setProblem(QString("--lang needs en or de, not \"%1\"").arg(language));
 }
 
 /** Only the first problem is reported. */

@@ -81,7 +81,7 @@ PxCommandUsage PxDiffCommand::usage() const
         {"only", "KEYS", "Only changes of these values or sections, as in --json with \"*\" for an index, and of themes their members: /sizes, /barcodes/*/rect, expiryDay; added, removed and renamed are keys, too.", 0, 0, PxDiffKeys::all()},
         {"format", "FORMAT", "text, json or markdown. Default: text.", 0, 0, {"text", "json", "markdown"}, PxOption::Form::OneKeyword},
         {"json", "", "The same as --format json, with all lengths in tenths of a millimetre."},
-    }, {"OLD NEW", "Two catalogues.", "two catalogues, the old one and the new one", 2}, true};
+    }, {"OLD NEW", "Two catalogues.", "two catalogues, the old one and the new one", 2, PxOption::Form::File}, true};
     // clang-format on
 }
 

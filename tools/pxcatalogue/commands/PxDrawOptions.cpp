@@ -36,7 +36,6 @@ PxDrawnLayers allLayers()
     return PxDrawnLayers((1 << pxDrawnLayerCount) - 1);
 }
 
-/** No layer if there is none of this name. */
 PxDrawnLayers layersOf(const QString &name)
 {
     PxDrawnLayers layers;
@@ -53,12 +52,17 @@ PxDrawnLayers layersOf(const QString &name)
     return layers;
 }
 
-QString layerNames()
+QStringList layerNames()
 {
     QStringList names;
     for (int i = 0; i < pxDrawnLayerCount; ++i)
         names.append(pxDrawnLayerName(i));
-    return names.join(", ");
+    return names;
+}
+
+QStringList sheetKinds()
+{
+    return {"all", "cover", "inside"};
 }
 
 QStringList partsOf(const QString &value)
@@ -75,9 +79,9 @@ QVector<PxOption> PxDrawOptions::all()
 {
     // clang-format off
     return {
-        {"sheet", "LIST", "The sheets: all, cover, inside, or page numbers from 0 for the sheets on which these pages lie; several with commas. Default: all."},
-        {"layers", "LIST", "The layers: all, template, which is barcodes,folds,spine,safe,bleed,trim,marks, or names; several with commas. -NAME takes one away, and a list that begins so begins with all. Default: all. Names: " + layerNames() + '.'},
-        {"output", "FILE", "Write this file, which ends in .svg, .pdf or .png. Default: SVG to stdout."},
+        {"sheet", "LIST", "The sheets: all, cover, inside, or page numbers from 0 for the sheets on which these pages lie; several with commas. Default: all.", 0, 0, sheetKinds(), PxOption::Form::OpenKeywords},
+        {"layers", "LIST", "The layers: all, template, which is barcodes,folds,spine,safe,bleed,trim,marks, or names; several with commas. -NAME takes one away, and a list that begins so begins with all. Default: all. Names: " + layerNames().join(", ") + '.', 0, 0, QStringList{"all", "template"} + layerNames(), PxOption::Form::SignedKeywords},
+        {"output", "FILE", "Write this file, which ends in .svg, .pdf or .png. Default: SVG to stdout.", 0, 0, {}, PxOption::Form::File},
         {"dpi", "N", "Pixels per inch of a PNG at true scale, 10 to 1200. Default: as many as its texts need.", 10, 1200},
         {"pages", "N", "Show the product with this many pages, 1 to 9999. Default: as many as it is sold with.", 1, PxProductReport::maximumPageCount},
         PxOption::theme(),
@@ -95,7 +99,7 @@ PxDrawOptions::PxDrawOptions(const PxCommandLine &line)
     if (m_dpi > 0 && m_format != Format::Png)
         setProblem("--dpi is for PNG only: add --output FILE.png");
     readSheets(partsOf(line.isSet("sheet") ? line.value("sheet") : "all"));
-    readLayers(partsOf(line.isSet("layers") ? line.value("layers") : "all"));
+    readLayers(line.isSet("layers") ? line.keywords("layers") : QStringList("all"));
 }
 
 void PxDrawOptions::readOutput()
@@ -121,9 +125,6 @@ void PxDrawOptions::readLayers(const QStringList &parts)
     for (const QString &part : parts) {
         const bool isLess = part.startsWith('-');
         const PxDrawnLayers layers = layersOf(isLess ? part.mid(1) : part);
-        if (!layers)
-            setProblem(QString("--layers does not know \"%1\": use all, template, %2")
-                           .arg(part, layerNames()));
         m_layers = isLess ? m_layers & ~layers : m_layers | layers;
     }
     if (!m_layers)
@@ -135,7 +136,7 @@ void PxDrawOptions::readSheets(const QStringList &parts)
     for (const QString &part : parts) {
         bool isNumber = false;
         const uint page = part.toUInt(&isNumber);
-        if (QStringList{"all", "cover", "inside"}.contains(part))
+        if (sheetKinds().contains(part))
             m_sheetKinds.append(part);
         else if (isNumber && page <= uint(std::numeric_limits<int>::max()))
             m_pages.insert(int(page));

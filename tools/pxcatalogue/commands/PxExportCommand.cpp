@@ -16,7 +16,7 @@ PxCommandUsage PxExportCommand::usage() const
         "One object a line: the catalogue, its product types, products, products of earlier "
         "catalogues and themes, each by name. The same files give the same bytes everywhere and "
         "every day. Display names are German unless --lang is given.", {
-        {"output", "FILE", "Write to this file instead of stdout. It is replaced when all is written."},
+        {"output", "FILE", "Write to this file instead of stdout. It is replaced when all is written.", 0, 0, {}, PxOption::Form::File},
     }};
     // clang-format on
 }

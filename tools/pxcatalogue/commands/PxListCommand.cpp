@@ -43,7 +43,7 @@ PxCommandUsage PxListCommand::usage() const
     // clang-format off
     const QVector<PxOption> own{
         {"earlier", "", "The products of earlier catalogues, in the directory of --legacy, instead of the current ones."},
-        {"sort", "KEYS", "Sort by these keys, downwards after a \"-\", as in class,-size. Default: by class and name. Keys: see --columns.", 0, 0, PxProductTable::keys(), PxOption::Form::SortKeywords},
+        {"sort", "KEYS", "Sort by these keys, downwards after a \"-\", as in class,-size. Default: by class and name. Keys: see --columns.", 0, 0, PxProductTable::keys(), PxOption::Form::SignedKeywords},
         {"columns", "KEYS", "Show these columns only, in this order: " + PxProductTable::keys().join(", ") + ". Default: the first eight, all of them in JSON, CSV and TSV.", 0, 0, PxProductTable::keys()},
         {"format", "FORMAT", "table, csv, tsv (with tabs) or json. Default: table.", 0, 0, {"table", "csv", "tsv", "json"}, PxOption::Form::OneKeyword},
         {"json", "", "The same as --format json, with all lengths in tenths of a millimetre."},

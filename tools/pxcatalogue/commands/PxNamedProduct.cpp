@@ -152,7 +152,7 @@ PxCommandUsage::Arguments PxNamedProduct::argument()
     return {"NAME",
             "The name of a product, in any case, its code, or a part of its name in the shop that "
             "no other product has.",
-            "the name of a product", 1};
+            "the name of a product", 1, PxOption::Form::Product};
 }
 
 QString PxNamedProduct::themeIdOf(const PxCommandLine &line)

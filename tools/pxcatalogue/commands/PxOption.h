@@ -15,17 +15,25 @@ struct PxOption
     QString description;
     int least = 0;             ///< smallest number allowed
     int most = 0;              ///< largest number allowed; 0 if the value is not a number
-    QStringList keywords = {}; ///< allowed in a comma-separated list; empty if any text is allowed
+    QStringList keywords = {}; ///< those of a comma-separated list; empty if any text is allowed
 
     /** What else a value may be, or must not. */
     enum class Form {
         Usual,
-        Tenths,       ///< the number may have one decimal
-        OneKeyword,   ///< no list
-        SortKeywords, ///< "-" may stand before a keyword
+        Tenths,         ///< the number may have one decimal
+        OneKeyword,     ///< no list
+        SignedKeywords, ///< "-" may stand before a keyword
+        OpenKeywords,   ///< the command allows other words, too, and checks them
+        Product,        ///< the name of a product
+        Theme,          ///< the id of a theme
+        File,           ///< the path of a file, or of whatever the command takes
+        Directory,      ///< the path of a directory
+        Directories,    ///< several, with colons between them
     };
     Form form = Form::Usual;
 
+    /** All its names, the short one first. */
+    QStringList names() const;
     /** What is wrong with a value of the option. */
     std::optional<PxProblem> problemOf(const QString &text) const;
     /** The keywords in a value of the option, spelt as in `keywords`. */

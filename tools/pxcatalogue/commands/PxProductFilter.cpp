@@ -144,7 +144,7 @@ QVector<PxOption> PxProductFilter::options()
             {filter.option, "KEYWORDS", description, 0, 0, PxFormat::keywordNames(filter.set)});
     }
     // clang-format off
-    options.append({"theme", "ID", "Only products that this theme allows."});
+    options.append({"theme", "ID", "Only products that this theme allows.", 0, 0, {}, PxOption::Form::Theme});
     options.append({"key-account", "N", "Only products that are allowed by a theme that this key account may order today; with --theme, by that one.", 0, std::numeric_limits<int>::max()});
     options.append({"pages", "N", "Only products that are offered with this many pages.", 1, std::numeric_limits<int>::max()});
     for (const auto &filter : sizeFilters)

@@ -90,8 +90,8 @@ PxCommandUsage PxProofCommand::usage() const
         "index.html opens from a disk or from any web server. The folder must be absent, empty or an earlier proof, "
         "which is replaced when all is written. The same files give the same bytes everywhere. Pages are German unless "
         "--lang is given; what the checks find, what changed and where values come from is English.", {
-        {"output", "DIR", "The folder to write."},
-        {"previous", "OLD", "Also show what changed since this catalogue: a resource directory, or what \"pxcatalogue export\" wrote, such as catalogue.json of an earlier proof."},
+        {"output", "DIR", "The folder to write.", 0, 0, {}, PxOption::Form::Directory},
+        {"previous", "OLD", "Also show what changed since this catalogue: a resource directory, or what \"pxcatalogue export\" wrote, such as catalogue.json of an earlier proof.", 0, 0, {}, PxOption::Form::File},
         {"title", "TEXT", "What the pages call the catalogue. Default: Katalog."},
     }};
     // clang-format on

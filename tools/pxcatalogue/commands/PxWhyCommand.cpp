@@ -78,9 +78,9 @@ PxCommandUsage PxWhyCommand::usage() const
         "Prints the rules in the order in which the library asks them, each with the values that it compares and where they are, and marks the first that decides. Without options: is it offered? "
         "With several, all are asked, and the answer is yes if each of them is. Exit status 1 if the answer is no, 2 if there is no such product or theme, or several products fit.", {
         {"pages", "N", "Is it offered with this many pages?", 1, any},
-        {"theme", "ID", "May it be designed in this theme now? With --page: the default templates of this theme."},
+        {"theme", "ID", "May it be designed in this theme now? With --page: the default templates of this theme.", 0, 0, {}, PxOption::Form::Theme},
         {"key-account", "N", "May this key account order it now, in the theme of --theme?", 0, any},
-        {"compatible-with", "OTHER", "Is it interchangeable with this product, which is named like NAME?"},
+        {"compatible-with", "OTHER", "Is it interchangeable with this product, which is named like NAME?", 0, 0, {}, PxOption::Form::Product},
         {"criterion", "KEYWORDS", "What else must be the same: binding, paper, space, increment; several with commas. Default: nothing.", 0, 0, keywordList(criterionRows)},
         {"page", "K", "Is there such a page, counted from 0? If so, what it gets, and which entries of the files are not used for it. With as many pages as --pages says, or as it is sold with.", 0, any},
         PxOption::json(),

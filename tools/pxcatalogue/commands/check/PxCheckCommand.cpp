@@ -118,7 +118,7 @@ PxCommandUsage PxCheckCommand::usage() const
         "Exit status: 0 no finding is as bad as --fail-on says; 1 at least one is; 2 wrong usage, or "
         "something cannot be read or written; 3 a fault of the program.",
         PxCheckOptions::all(),
-        {"[PATH…]", "A resource directory, or files.", {}, std::numeric_limits<int>::max()}};
+        {"[PATH…]", "A resource directory, or files.", {}, std::numeric_limits<int>::max(), PxOption::Form::File}};
     // clang-format on
 }
 

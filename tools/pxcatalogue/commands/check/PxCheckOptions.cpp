@@ -23,6 +23,22 @@ constexpr struct
     {"markdown", Format::Markdown, false, true},
 };
 
+QStringList formatNames()
+{
+    QStringList names;
+    for (const auto &row : formats)
+        names.append(row.name);
+    return names;
+}
+
+QStringList severityNames()
+{
+    QStringList names;
+    for (const PxSeverity severity : PxCheckTags::severities())
+        names.append(PxCheckTags::severityName(severity));
+    return names;
+}
+
 /** Splits the values at their commas. */
 QStringList partsOf(const QStringList &values)
 {
@@ -40,20 +56,20 @@ QVector<PxOption> PxCheckOptions::all()
 {
     // clang-format off
     return {
-        {"format", "FORMAT", "text, json or sarif (2.1.0). Default: text."},
+        {"format", "FORMAT", "text, json or sarif (2.1.0). Default: text.", 0, 0, formatNames(), PxOption::Form::OneKeyword},
         {"json", "", "The same as --format json."},
         {"no-source", "", "Text without the lines of the files."},
-        {"color", "WHEN", "Text in colours: auto, which is on a terminal unless NO_COLOR is set, always or never. Default: auto."},
+        {"color", "WHEN", "Text in colours: auto, which is on a terminal unless NO_COLOR is set, always or never. Default: auto.", 0, 0, {"auto", "always", "never"}, PxOption::Form::OneKeyword},
         {"all", "", "List each place where a missing image is named. Default: the first one, and how many others there are."},
         {"quiet", "", "Text without a summary: prints nothing at all if there are no findings."},
         {"pedantic", "", "Report matters of style, too."},
-        {"fail-on", "SEVERITY", "How bad a finding must be for exit status 1: error, warning, info or pedantic, which implies --pedantic. Default: error."},
-        {"override", "TAG=SEVERITY", "Another severity for this tag; several with commas."},
-        {"only", "TAGS", "Only findings with these tags, pedantic ones, too; several with commas."},
-        {"skip", "TAGS", "No findings with these tags; several with commas."},
-        {"baseline", "FILE", "Hide the findings that are listed in this file."},
-        {"write-baseline", "FILE", "List all findings in this file instead of printing them."},
-        {"explain", "TAG", "What a tag means, with an example. Nothing is checked."},
+        {"fail-on", "SEVERITY", "How bad a finding must be for exit status 1: error, warning, info or pedantic, which implies --pedantic. Default: error.", 0, 0, severityNames(), PxOption::Form::OneKeyword},
+        {"override", "TAG=SEVERITY", "Another severity for this tag; several with commas.", 0, 0, PxCheckTags::names(), PxOption::Form::OpenKeywords},
+        {"only", "TAGS", "Only findings with these tags, pedantic ones, too; several with commas.", 0, 0, PxCheckTags::names(), PxOption::Form::OpenKeywords},
+        {"skip", "TAGS", "No findings with these tags; several with commas.", 0, 0, PxCheckTags::names(), PxOption::Form::OpenKeywords},
+        {"baseline", "FILE", "Hide the findings that are listed in this file.", 0, 0, {}, PxOption::Form::File},
+        {"write-baseline", "FILE", "List all findings in this file instead of printing them.", 0, 0, {}, PxOption::Form::File},
+        {"explain", "TAG", "What a tag means, with an example. Nothing is checked.", 0, 0, PxCheckTags::names(), PxOption::Form::OpenKeywords},
         {"list-tags", "", "A table of all tags; with --format markdown or json, their explanations, too. Nothing is checked."},
     };
     // clang-format on
@@ -68,17 +84,17 @@ PxCheckOptions::PxCheckOptions(const PxCommandLine &line)
     m_style.isQuiet = line.isSet("quiet");
     m_style.hasSource = !line.isSet("no-source");
     m_style.width = PxTerminal::columns();
-    readColour(line.isSet("color") ? line.value("color") : "auto");
+    readColour(line.keywords("color").value(0, "auto"));
     if (line.isSet("explain"))
         m_explainedTag = readTag("explain", line.value("explain"));
     if (line.isSet("json"))
         readFormat("json");
     if (line.isSet("format"))
-        readFormat(line.value("format"));
+        readFormat(line.keywords("format").constFirst());
     if (line.isSet("format") && line.isSet("json") && m_format != Format::Json)
         setProblem("--json and another --format do not go together");
     if (line.isSet("fail-on"))
-        m_failOn = readSeverity("fail-on", line.value("fail-on"));
+        m_failOn = readSeverity(line.keywords("fail-on").constFirst());
     // A finding that is not looked for cannot fail.
     m_settings.isPedantic = line.isSet("pedantic") || m_failOn == PxSeverity::Pedantic;
     readOverrides(partsOf(line.values("override")));
@@ -107,8 +123,6 @@ void PxCheckOptions::readFormat(const QString &name)
 
 void PxCheckOptions::readColour(const QString &when)
 {
-    if (!QStringList{"auto", "always", "never"}.contains(when))
-        setProblem(QString("--color needs auto, always or never, not \"%1\"").arg(when));
     m_style.isColoured = when == "always" || (when == "auto" && PxTerminal::hasColours());
 }
 
@@ -119,20 +133,18 @@ void PxCheckOptions::readOverrides(const QStringList &values)
         if (!value.contains('='))
             setProblem(QString("--override needs TAG=SEVERITY, not \"%1\"").arg(value));
         else if (tag)
-            m_settings.severities[tag->tag] = readSeverity("override", value.section('=', 1));
+            m_settings.severities[tag->tag] = readSeverity(value.section('=', 1));
     }
 }
 
-PxSeverity PxCheckOptions::readSeverity(const QString &option, const QString &name)
+PxSeverity PxCheckOptions::readSeverity(const QString &name)
 {
-    QStringList names;
     for (const PxSeverity severity : PxCheckTags::severities()) {
-        names.append(PxCheckTags::severityName(severity));
-        if (name == names.constLast())
+        if (name == PxCheckTags::severityName(severity))
             return severity;
     }
-    setProblem(QString("--%1 does not know the severity \"%2\": use %3")
-                   .arg(option, name, names.join(", ")));
+    setProblem(QString("--override does not know the severity \"%1\": use %2")
+                   .arg(name, severityNames().join(", ")));
     return PxSeverity::Error;
 }
 

@@ -49,7 +49,7 @@ private:
     void readFormat(const QString &name);
     void readColour(const QString &when);
     void readOverrides(const QStringList &values);
-    PxSeverity readSeverity(const QString &option, const QString &name);
+    PxSeverity readSeverity(const QString &name);
     const PxCheckTag *readTag(const QString &option, const QString &name);
     QVector<PxTag> readTags(const QString &option, const QStringList &values);
     void setProblem(const QString &problem);
