@@ -65,7 +65,8 @@ valgrind: PACKAGES += valgrind
 valgrind: RUN = valgrind --quiet --leak-check=full --error-exitcode=1
 valgrind: demo
 
-check quick: PACKAGES += python3-jsonschema
+# PxShellTest lints the manual page, and tries completion in each shell.
+check quick: PACKAGES += fish mandoc python3-jsonschema zsh
 check: build
 	ctest --preset $(PRESET) -j $(JOBS)
 

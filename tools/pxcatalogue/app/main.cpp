@@ -2,6 +2,8 @@
 #include "app/PxCatalogueLog.h"
 #include "commands/PxCommand.h"
 #include "commands/PxCommandLine.h"
+#include "shell/PxCompletion.h"
+#include "shell/PxManual.h"
 #include "writing/PxOutputText.h"
 #include "writing/PxTerminal.h"
 
@@ -53,12 +55,26 @@ PxExitStatus run(const PxCommandLine &line)
     return line.command().run(line);
 }
 
+/** What is no command line of a user: nobody types this, so it is not in --help. */
+std::optional<PxOutputText> answerToShell(const QStringList &words)
+{
+    if (words.value(1) == "--manual" && words.size() == 2)
+        return PxManual::text();
+    if (words.value(1) != "--complete")
+        return std::nullopt;
+    PxCatalogueLog::install(PxCatalogueLog::Shown::Nothing);
+    return PxCompletion::of(words.mid(2));
+}
+
 /** A QGuiApplication takes fonts and a display, which a machine that prints tables may not have. */
 template <typename APPLICATION>
 std::optional<int> runIn(int argc, char *argv[])
 {
     const APPLICATION application(argc, argv);
-    const PxCommandLine line(QCoreApplication::arguments());
+    const QStringList words = QCoreApplication::arguments();
+    if (const auto text = answerToShell(words))
+        return int(PxCommand::printed(*text));
+    const PxCommandLine line(words);
     const bool isPainted =
         !line.problem() && !line.information() && line.command().needsFonts(line);
     if (isPainted && !qobject_cast<const QGuiApplication *>(&application))

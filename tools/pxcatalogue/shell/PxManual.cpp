@@ -1,0 +1,125 @@
+#include "shell/PxManual.h"
+
+#include "commands/PxCommand.h"
+#include "writing/PxTerminal.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+constexpr int lineWidth = 78;
+
+/** In ASCII, so that every formatter and every locale shows the same characters. */
+QString escaped(const QString &text)
+{
+    QString escaped;
+    for (const uint character : text.toUcs4()) {
+        if (character == '\\')
+            escaped += "\\e";
+        else if (character == '-')
+            escaped += "\\-"; // may be copied into a command line
+        else if (character < 0x80)
+            escaped += QChar(character);
+        else
+            escaped += QString("\\[u%1]")
+                           .arg(character, 4, 16, QChar('0'))
+                           .toUpper()
+                           .replace("\\[U", "\\[u");
+    }
+    return escaped;
+}
+
+/** Lines of text; none of them is taken for a request. */
+QString filled(const QString &text)
+{
+    QString lines;
+    for (const QString &line : PxTerminal::wrapped(text, lineWidth).split('\n')) {
+        const bool isLikeRequest = line.startsWith('.') || line.startsWith('\'');
+        lines += (isLikeRequest ? "\\&" : "") + escaped(line) + '\n';
+    }
+    return lines;
+}
+
+QString bold(const QString &text)
+{
+    return "\\fB" + escaped(text) + "\\fR";
+}
+
+QString italic(const QString &text)
+{
+    return "\\fI" + escaped(text) + "\\fR";
+}
+
+QString section(const QString &title)
+{
+    return ".SH " + title + '\n';
+}
+
+QString options(const QVector<PxOption> &options)
+{
+    QString text;
+    for (const PxOption &option : options) {
+        QStringList names;
+        for (const QString &name : option.names())
+            names.append(bold((name.size() == 1 ? "-" : "--") + name));
+        text += ".TP\n" + names.join(", ") +
+                (option.value.isEmpty() ? QString() : ' ' + italic(option.value)) + '\n' +
+                filled(option.description);
+    }
+    return text;
+}
+
+QString synopsis(const PxCommandUsage &usage)
+{
+    QString line = bold(QCoreApplication::applicationName() + ' ' + usage.name);
+    if (!usage.arguments.name.isEmpty())
+        line += ' ' + italic(usage.arguments.name);
+    return line + " [" + italic("OPTIONS") + "]\n";
+}
+
+QString command(const PxCommandUsage &usage)
+{
+    QString text = ".SS " + bold(usage.name) + ' ' + italic(usage.arguments.name) + '\n';
+    const QStringList paragraphs = usage.description.split('\n');
+    for (int i = 0; i < paragraphs.size(); ++i)
+        text += (i > 0 ? ".PP\n" : "") + filled(paragraphs[i]);
+    if (!usage.arguments.name.isEmpty())
+        text += ".TP\n" + italic(usage.arguments.name) + '\n' + filled(usage.arguments.meaning);
+    return text + options(usage.options);
+}
+
+QString allCommands()
+{
+    QString text;
+    for (const PxCommand *each : PxCommand::all())
+        text += command(each->usage());
+    return text;
+}
+
+QString synopsisOfAll()
+{
+    QStringList lines;
+    for (const PxCommand *each : PxCommand::all())
+        lines.append(synopsis(each->usage()));
+    lines.append(bold(QCoreApplication::applicationName() + " help") + " [" + italic("COMMAND") +
+                 "]\n");
+    return lines.join(".br\n");
+}
+
+} // namespace
+
+PxOutputText PxManual::text()
+{
+    const QString name = QCoreApplication::applicationName();
+    const QString version = QCoreApplication::applicationVersion();
+    return PxOutputText(
+        QString(".TH %1 1 \"\" \"%2 %3\" \"Product properties\"\n")
+            .arg(name.toUpper(), name, version) +
+        section("NAME") +
+        escaped(name + " - the products of a catalogue: show, draw, check, compare") + '\n' +
+        section("SYNOPSIS") + synopsisOfAll() + section("DESCRIPTION") +
+        filled(PxCommand::purposeOfAll().simplified()) + section("COMMANDS") + allCommands() +
+        section("OPTIONS OF EVERY COMMAND") + options(PxOption::ofEveryCommand()) +
+        section("EXIT STATUS") + filled(PxCommand::exitStatusOfAll()) + section("SEE ALSO") +
+        filled(PX_DOCUMENTATION_URL "/pxcatalogue.md"));
+}
