@@ -185,7 +185,8 @@ void PxHostileCommandsTest::commandIsBounded_data()
         "why DEFAULTS --page 1 --theme wild --json,why PAGES --pages 100000 --page 99999,"
         "compatible PAGES --json,variants VARIANTS --json,"
         "check,check --format json,check --format sarif,export,"
-        "diff SAMPLE HOSTILE --json,proof --output PROOF --previous SAMPLE";
+        "diff SAMPLE HOSTILE --json,proof --output PROOF --previous SAMPLE,"
+        "--complete show ,--complete show --theme ";
     QStringList run;
     for (const QString &command : commands.split(',')) {
         QTest::newRow(qPrintable(command)) << command;
