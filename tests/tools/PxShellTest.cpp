@@ -166,6 +166,8 @@ void PxShellTest::bashOffers()
         {"show --resources ~/my\\ folder/catalogue BOOK_MI", "BOOK_MINI"},
         {"show --resources nowhere BOOK_MI", ""},
         {"why CUP2 --resources sample --compatible-with pdt", "PDT1"},
+        {"show --resources sample cup", "CUP2 CUP1"},
+        {"variants --resources sample cup", "CUP2"},
         {"list --resources sample --theme hochz", "hochzeit"},
         {"draw CUP2 --output dr", "drawing.svg"},
         {"draw CUP2 --output=dr", "drawing.svg"},

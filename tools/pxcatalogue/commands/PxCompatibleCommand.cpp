@@ -23,7 +23,7 @@ PxCommandUsage PxCompatibleCommand::usage() const
         {"criterion", "KEYWORDS", "What else must be the same: binding, paper, space, increment; several with commas. Default: nothing.", 0, 0, keywordList(criterionRows)},
         PxOption::theme(),
         PxOption::json(),
-    }, PxNamedProduct::argument()};
+    }, PxNamedProduct::argument(PxNamedProduct::Among::Current)};
     // clang-format on
 }
 

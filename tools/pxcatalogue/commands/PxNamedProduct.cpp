@@ -147,12 +147,13 @@ PxNamedProduct PxNamedProduct::find(const QString &name, Among among)
     return named;
 }
 
-PxCommandUsage::Arguments PxNamedProduct::argument()
+PxCommandUsage::Arguments PxNamedProduct::argument(Among among)
 {
     return {"NAME",
             "The name of a product, in any case, its code, or a part of its name in the shop that "
             "no other product has.",
-            "the name of a product", 1, PxOption::Form::Product};
+            "the name of a product", 1,
+            among == Among::All ? PxOption::Form::Product : PxOption::Form::CurrentProduct};
 }
 
 QString PxNamedProduct::themeIdOf(const PxCommandLine &line)

@@ -34,7 +34,7 @@ struct PxNamedProduct
     static PxNamedProduct find(const QString &name, Among among);
 
     /** The argument of a command about one product. */
-    static PxCommandUsage::Arguments argument();
+    static PxCommandUsage::Arguments argument(Among among = Among::All);
     /** The id in --theme, in lower case like all ids; empty if no theme is given. */
     static QString themeIdOf(const PxCommandLine &line);
     /** Returns a problem if no theme has this id; an empty id is not a problem. */

@@ -25,6 +25,7 @@ struct PxOption
         SignedKeywords, ///< "-" may stand before a keyword
         OpenKeywords,   ///< the command allows other words, too, and checks them
         Product,        ///< the name of a product
+        CurrentProduct, ///< the same, but not of an earlier catalogue
         Theme,          ///< the id of a theme
         File,           ///< the path of a file, or of whatever the command takes
         Directory,      ///< the path of a directory

@@ -17,7 +17,7 @@ PxCommandUsage PxVariantsCommand::usage() const
             "Variants without a name are not on offer and are left out. Exit status 1 if none is "
             "left.",
             {PxOption::json()},
-            PxNamedProduct::argument()};
+            PxNamedProduct::argument(PxNamedProduct::Among::Current)};
 }
 
 PxReportCommand::Answer PxVariantsCommand::answer(const PxCommandLine &line) const

@@ -92,15 +92,17 @@ bool readCatalogue(const Place &place)
     return true;
 }
 
-Candidates products()
+Candidates products(const PxProductTypeConfigRegistry *registry)
 {
     Candidates products;
-    for (const auto *registry :
-         {PxProductTypeConfigRegistry::instance(), PxProductTypeConfigRegistry::legacyInstance()}) {
-        for (const PxProductType &type : PxCatalogueProducts::of(registry))
-            products.append({type.productName(), type.shortProductName()});
-    }
+    for (const PxProductType &type : PxCatalogueProducts::of(registry))
+        products.append({type.productName(), type.shortProductName()});
     return products;
+}
+
+Candidates currentProducts()
+{
+    return products(PxProductTypeConfigRegistry::instance());
 }
 
 Candidates themes()
@@ -130,7 +132,11 @@ Candidates values(const PxOption &option, const Place &place, const QString &typ
 {
     switch (option.form) {
     case Form::Product:
-        return readCatalogue(place) ? products() : Candidates();
+        return readCatalogue(place)
+                   ? currentProducts() + products(PxProductTypeConfigRegistry::legacyInstance())
+                   : Candidates();
+    case Form::CurrentProduct:
+        return readCatalogue(place) ? currentProducts() : Candidates();
     case Form::Theme:
         return readCatalogue(place) ? themes() : Candidates();
     case Form::File:
