@@ -13,7 +13,8 @@ PACKAGES = ccache cmake g++ libqpdf-dev librsvg2-bin libxml2-utils ninja-build p
     qttools5-dev-tools tzdata
 ROOT = $(if $(filter 0,$(shell id -u)),,sudo)
 
-.PHONY: help demo proof browser pictures check quick mutants platform bench benchmarks fuzz valgrind clang tidy docs build setup clean
+.PHONY: help demo proof browser pictures check quick mutants platform bench benchmarks fuzz valgrind clang tidy docs \
+    build setup clean licences
 
 help:
 	@echo "make demo       set up, build, and show what the library answers about the sample catalogue, and draw a book"
@@ -30,6 +31,7 @@ help:
 	@echo "make clang      set up, and build all with clang, as C++17 and as C++20 (WERROR=ON)"
 	@echo "make tidy       set up, and run clang-tidy over src and tools, which must find nothing"
 	@echo "make docs       write the reference of the public headers into build/docs, for a browser and as .qch"
+	@echo "make licences   see whether each file has copyright and licence (REUSE)"
 	@echo "make clean      remove everything that was built"
 
 demo: build
@@ -118,6 +120,10 @@ docs: setup
 	cmake -S . -B build/docs -G Ninja -DBUILD_TESTING=OFF
 	cmake --build build/docs --target PxReference
 	@echo "Open this in a browser: file://$(CURDIR)/build/docs/reference/html/index.html"
+
+licences: PACKAGES = reuse
+licences: setup
+	reuse lint
 
 build: setup
 	cmake --preset $(PRESET) -DPX_WARNINGS_AS_ERRORS=$(WERROR)
