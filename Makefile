@@ -14,7 +14,7 @@ PACKAGES = ccache cmake g++ libqpdf-dev librsvg2-bin libxml2-utils ninja-build p
 ROOT = $(if $(filter 0,$(shell id -u)),,sudo)
 
 .PHONY: help demo proof browser pictures check quick mutants platform bench benchmarks fuzz valgrind clang tidy docs \
-    build setup clean licences
+    build setup clean licences abi abi-store release-check
 
 help:
 	@echo "make demo       set up, build, and show what the library answers about the sample catalogue, and draw a book"
@@ -31,7 +31,10 @@ help:
 	@echo "make clang      set up, and build all with clang, as C++17 and as C++20 (WERROR=ON)"
 	@echo "make tidy       set up, and run clang-tidy over src and tools, which must find nothing"
 	@echo "make docs       write the reference of the public headers into build/docs, for a browser and as .qch"
+	@echo "make abi        see whether programs that use the last release can run with the libraries as they are now"
+	@echo "make abi-store  make the ABI as it is now the one to compare with, for a release"
 	@echo "make licences   see whether each file has copyright and licence (REUSE)"
+	@echo "make release-check  what a release has to pass beside the gate, .ci/run"
 	@echo "make clean      remove everything that was built"
 
 demo: build
@@ -121,9 +124,25 @@ docs: setup
 	cmake --build build/docs --target PxReference
 	@echo "Open this in a browser: file://$(CURDIR)/build/docs/reference/html/index.html"
 
+abi abi-store: PRESET = abi
+abi abi-store: PACKAGES += abigail-tools
+abi: build
+	abi/run compare $(BUILD)
+
+abi-store: build
+	abi/run store $(BUILD)
+
 licences: PACKAGES = reuse
 licences: setup
 	reuse lint
+
+# Each in a make of its own, since presets and packages differ.
+release-check:
+	$(MAKE) licences
+	$(MAKE) abi WERROR=ON
+#	$(MAKE) packages
+#	$(MAKE) reproducible
+	$(MAKE) check PRESET=tsan WERROR=ON
 
 build: setup
 	cmake --preset $(PRESET) -DPX_WARNINGS_AS_ERRORS=$(WERROR)
