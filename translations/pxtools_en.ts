@@ -417,6 +417,18 @@
         <translation>In the earlier catalogue it was called %1.</translation>
     </message>
     <message>
+        <source>kleinste</source>
+        <translation>smallest</translation>
+    </message>
+    <message>
+        <source>übliche</source>
+        <translation>usual</translation>
+    </message>
+    <message>
+        <source>größte</source>
+        <translation>largest</translation>
+    </message>
+    <message>
         <source>Was Kunden bemerken</source>
         <translation>What customers notice</translation>
     </message>

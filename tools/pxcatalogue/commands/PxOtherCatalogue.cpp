@@ -20,11 +20,19 @@ QStringList optionsOfExport(const PxCommandLine &line)
     return options;
 }
 
+/** The folder of a proof stands for the export in it. */
+QString catalogueAt(const QString &path)
+{
+    const QString exported = path + "/catalogue.json";
+    const bool isProof = QFileInfo(exported).isFile() && !QFileInfo(path + "/products").isDir();
+    return isProof ? exported : path;
+}
+
 } // namespace
 
 PxOtherCatalogue::PxOtherCatalogue(const QString &path, const PxCommandLine &line)
-    : m_path(path)
-    , m_isDirectory(QFileInfo(path).isDir())
+    : m_path(catalogueAt(path))
+    , m_isDirectory(QFileInfo(m_path).isDir())
 {
     if (!m_isDirectory)
         return;

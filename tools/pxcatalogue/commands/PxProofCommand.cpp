@@ -91,7 +91,7 @@ PxCommandUsage PxProofCommand::usage() const
         "which is replaced when all is written. The same files give the same bytes everywhere. Pages are German unless "
         "--lang is given; what the checks find, what changed and where values come from is English.", {
         {"output", "DIR", "The folder to write.", 0, 0, {}, PxOption::Form::Directory},
-        {"previous", "OLD", "Also show what changed since this catalogue: a resource directory, or what \"pxcatalogue export\" wrote, such as catalogue.json of an earlier proof.", 0, 0, {}, PxOption::Form::File},
+        {"previous", "OLD", "Also show what changed since this catalogue: a resource directory, the folder of an earlier proof, or what \"pxcatalogue export\" wrote.", 0, 0, {}, PxOption::Form::File},
         {"title", "TEXT", "What the pages call the catalogue. Default: Katalog."},
     }};
     // clang-format on

@@ -13,6 +13,8 @@
 #include <PxProductProperties.h>
 
 #include <QBuffer>
+#include <QMap>
+#include <QStringList>
 
 namespace {
 
@@ -38,31 +40,35 @@ int numberOf(PxDrawnLayer layer)
     return int(qCountTrailingZeroBits(quint32(layer)));
 }
 
-/** Each once, ascending. */
-QList<int> shownPageCounts(const PxProofProduct &product)
+/** Each once, ascending, with what it is among those that are offered. */
+QMap<int, QStringList> shownPageCounts(const PxProofProduct &product)
 {
     const PxProductTypeDescription &description = *product.registry->description(product.type);
     const QList<int> offered = description.offeredPageCounts();
     const int usual = PxPageCounts::standard(description, offered);
-    QList<int> counts{offered.value(0, usual), usual, offered.isEmpty() ? usual : offered.last()};
-    std::sort(counts.begin(), counts.end());
-    counts.erase(std::unique(counts.begin(), counts.end()), counts.end());
+    QMap<int, QStringList> counts;
+    if (!offered.isEmpty())
+        counts[offered.first()].append(PxProofWords::tr("kleinste"));
+    counts[usual].append(PxProofWords::tr("übliche"));
+    if (!offered.isEmpty())
+        counts[offered.last()].append(PxProofWords::tr("größte"));
     return counts;
 }
 
-void addSwitches(PxHtml *html, const QString &name, const QList<int> &counts)
+void addSwitches(PxHtml *html, const QString &name, const QMap<int, QStringList> &counts)
 {
     html->open("form", {{"class", "needs-script"}});
     if (counts.size() > 1) {
         html->open("fieldset");
         html->element("legend", PxProofWords::tr("Seitenzahl"));
-        for (const int count : counts) {
+        for (auto count = counts.begin(); count != counts.end(); ++count) {
+            const QString number = QString::number(count.key());
             html->open("label");
             html->single("input", {{"type", "radio"},
                                    {"name", name + "-pages"},
-                                   {"value", QString::number(count)},
-                                   {"checked", count == counts.first() ? "checked" : QString()}});
-            html->text(QString::number(count));
+                                   {"value", number},
+                                   {"checked", count == counts.begin() ? "checked" : QString()}});
+            html->text(QString("%1 (%2)").arg(number, count->join(", ")));
             html->close();
         }
         html->close();
@@ -125,9 +131,9 @@ void addSheet(PxHtml *html, const PxDrawing &drawing, int index, const PxSharedS
 
 void PxProofDrawings::addTo(PxHtml *html, const PxProofProduct &product)
 {
-    const QList<int> counts = shownPageCounts(product);
+    const QMap<int, QStringList> counts = shownPageCounts(product);
     QVector<PxDrawnProduct> products;
-    for (const int count : counts)
+    for (const int count : counts.keys())
         products.append(
             PxDrawnProductReader(product.registry).read(product.type, count, QString()));
     QVector<PxSharedSheet> shared = pxSharedSheets(products);

@@ -83,6 +83,8 @@ std::optional<PxProblem> PxProofFolder::begin()
 std::optional<PxProblem> PxProofFolder::problemOfPlace() const
 {
     const QFileInfo info(m_path);
+    if (!info.exists() && info.isSymLink())
+        return cannot("it is a link to nothing; name another folder");
     if (!info.exists())
         return std::nullopt;
     if (!info.isDir())

@@ -182,12 +182,13 @@ void addRow(PxHtml *html, const PxProofTheme &row, int productCount)
 {
     const PxTheme &theme = row.theme;
     const QString group = groupOf(theme);
-    const QStringList words{theme.id(), theme.description(), group};
+    const QString groupName = PxProofWords::keyword(group);
+    const QStringList words{theme.id(), theme.description(), groupName};
     html->open("tr", {{"data-text", shortened(words.join(' ').toLower())}, {"data-group", group}});
     addPicture(html, row.hasPicture ? row.page + ".png" : QString());
     addName(html, theme.id(), row.page);
     addCell(html, shortened(theme.description()));
-    addCell(html, group);
+    addCell(html, groupName);
     addCell(html, theme.expiryDate().date().toString(Qt::ISODate));
     addNumber(html, QString::number(productCount), productCount);
     html->close();

@@ -15,8 +15,10 @@ constexpr int longest = 10000; // characters of a value or an origin
 
 QString textOf(const QJsonValue &value, PxReportFormat format)
 {
-    return value.isBool() ? PxProofWords::yesOrNo(value.toBool())
-                          : PxTerminal::shortened(PxReportValue::text(value, format), longest);
+    if (value.isBool())
+        return PxProofWords::yesOrNo(value.toBool());
+    const QString text = PxTerminal::shortened(PxReportValue::text(value, format), longest);
+    return format == PxReportFormat::Plain ? PxProofWords::keyword(text) : text;
 }
 
 /** Null for none, so that no attribute is written. */

@@ -79,7 +79,9 @@
         else
           state.delete(prefix + name);
       }
-      history.replaceState(null, '', `#${state}`);
+      const text = String(state);
+      if (text || location.hash.includes('='))
+        history.replaceState(null, '', `#${text}`);
     }
     function recall() {
       const state = readState();
@@ -110,6 +112,8 @@
     addEventListener('hashchange', () => {
       if (location.hash.includes('='))
         recall();
+      else
+        remember(); // after a link to a heading
     });
     recall();
   }
@@ -126,6 +130,7 @@
       }
     };
     drawings.addEventListener('change', update);
+    drawings.addEventListener('submit', event => event.preventDefault());
     update();
   }
 
