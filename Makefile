@@ -71,7 +71,7 @@ valgrind: RUN = valgrind --quiet --leak-check=full --error-exitcode=1
 valgrind: demo
 
 # PxShellTest lints the manual page, and tries completion in each shell.
-check quick: PACKAGES += fish mandoc python3-jsonschema zsh
+check quick: PACKAGES += fish mandoc pkgconf python3-jsonschema zsh
 check: build
 	ctest --preset $(PRESET) -j $(JOBS)
 
@@ -120,7 +120,7 @@ tidy: setup
 # A tree of its own: nothing has to be compiled for it.
 docs: PACKAGES += doxygen qhelpgenerator-qt5 qtbase5-doc-dev
 docs: setup
-	cmake -S . -B build/docs -G Ninja -DBUILD_TESTING=OFF
+	cmake -S . -B build/docs -G Ninja -DPX_BUILD_TESTS=OFF
 	cmake --build build/docs --target PxReference
 	@echo "Open this in a browser: file://$(CURDIR)/build/docs/reference/html/index.html"
 

@@ -91,7 +91,7 @@ private:
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("PX_THREADS"), QString::number(start.threads));
         process.setProcessEnvironment(environment);
-        process.start(QCoreApplication::applicationDirPath() + QLatin1String("/start"),
+        process.start(QCoreApplication::applicationDirPath() + QLatin1String("/PxStart"),
                       {start.what, start.catalogue});
         process.waitForFinished(-1);
         const QList<QByteArray> figures = process.readAllStandardOutput().trimmed().split(' ');

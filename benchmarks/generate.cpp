@@ -1,4 +1,4 @@
-// Writes a catalogue for measurements: generate DIRECTORY [PRODUCTS [THEMES [rich]]].
+// Writes a catalogue for measurements: PxGenerate DIRECTORY [PRODUCTS [THEMES [rich]]].
 #include "PxCatalogueGenerator.h"
 
 #include <QCoreApplication>
@@ -14,7 +14,7 @@ int main(int argc, char *argv[])
     shape.products = arguments.value(2, QStringLiteral("1000")).toInt();
     shape.themes = arguments.value(3, QStringLiteral("100")).toInt();
     if (arguments.size() < 2 || shape.products <= 0 || shape.themes < 0) {
-        fputs("usage: generate DIRECTORY [PRODUCTS [THEMES [rich]]]\n", stderr);
+        fputs("usage: PxGenerate DIRECTORY [PRODUCTS [THEMES [rich]]]\n", stderr);
         return 2;
     }
     if (PxCatalogueGenerator(shape).generate(QDir(arguments[1])))

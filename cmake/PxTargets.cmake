@@ -19,19 +19,25 @@ function(px_set_defaults target)
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON
         EXPORT_COMPILE_COMMANDS ON
+        BUILD_RPATH_USE_ORIGIN ON
         LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR}
         RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_BINDIR})
-    if(PX_CCACHE)
+    if(PX_CCACHE AND PROJECT_IS_TOP_LEVEL)
         set_target_properties(${target} PROPERTIES CXX_COMPILER_LAUNCHER ${PX_CCACHE})
     endif()
 endfunction()
 
-function(px_install_library target name)
+# Headers are file sets, which CMake knows from 3.23 on; for older ones their folder is a property as well.
+function(px_install_library target name visibility)
     add_library(Px::${name} ALIAS ${target})
     set_target_properties(${target} PROPERTIES EXPORT_NAME ${name})
-    install(TARGETS ${target} EXPORT ${PROJECT_NAME}Targets
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${PROJECT_NAME})
+    target_include_directories(${target} ${visibility}
+        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/${PROJECT_NAME}>)
+    if(PX_INSTALL)
+        install(TARGETS ${target} EXPORT ${PROJECT_NAME}Targets
+            LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+            FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${PROJECT_NAME})
+    endif()
 endfunction()
 
 # A shared library that other targets know as Px::<name>; its public headers are found below <base>.
@@ -48,7 +54,7 @@ function(px_add_library target name base)
         FILES ${CMAKE_CURRENT_BINARY_DIR}/export/${target}Export.h)
     set_target_properties(${target} PROPERTIES
         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} INSTALL_RPATH "$ORIGIN;${PX_PLATFORM_RPATH}")
-    px_install_library(${target} ${name})
+    px_install_library(${target} ${name} PUBLIC)
 endfunction()
 
 # A program that uses the library as an application would, installed beside it.
@@ -59,7 +65,9 @@ function(px_add_program target)
     px_set_defaults(${target})
     target_link_libraries(${target} PRIVATE Px::ProductProperties)
     set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries};${PX_PLATFORM_RPATH}")
-    install(TARGETS ${target} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    if(PX_INSTALL)
+        install(TARGETS ${target} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    endif()
 endfunction()
 
 # The environment of tests: no screen, a locale that every machine has, a time zone, what the sanitizers overlook.
@@ -80,12 +88,12 @@ function(px_add_test name)
     px_set_test_environment(${name})
 endfunction()
 
-# One fuzzer of the same name as its source, part of the target fuzzers; the preset "fuzz" instruments all the rest.
+# One fuzzer of the same name as its source, part of the target PxFuzzers; the preset "fuzz" instruments all the rest.
 function(px_add_fuzzer name)
     add_executable(${name} ${name}.cpp)
     px_set_defaults(${name})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/fuzzers)
     target_link_options(${name} PRIVATE -fsanitize=fuzzer)
     target_link_libraries(${name} PRIVATE PxFuzzSupport Px::ProductProperties)
-    add_dependencies(fuzzers ${name})
+    add_dependencies(PxFuzzers ${name})
 endfunction()

@@ -43,7 +43,9 @@ QString PxProductMaterial::visibleDescription() const
 {
     // Built on each call: lists show few materials, and the language may change meanwhile.
     PxLookUpTable<QString, QString> table;
-    table.insertTranslated("PxProductMaterial", descriptions);
+    for (const auto &row : descriptions)
+        table.insert(QLatin1String(row.value),
+                     QCoreApplication::translate("PxProductMaterial", row.text));
     return table.findByKey(m_value);
 }
 

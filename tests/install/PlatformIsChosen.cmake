@@ -3,7 +3,7 @@
 function(configure)
     file(REMOVE_RECURSE ${SCRATCH}/build)
     execute_process(COMMAND ${CMAKE_COMMAND} -S ${PROJECT} -B ${SCRATCH}/build -G Ninja
-        -DCMAKE_CXX_COMPILER=${CXX_COMPILER} -DBUILD_TESTING=OFF ${ARGN}
+        -DCMAKE_CXX_COMPILER=${CXX_COMPILER} -DPX_BUILD_TESTS=OFF ${ARGN}
         RESULT_VARIABLE result OUTPUT_QUIET ERROR_VARIABLE error)
     set(result "${result}" PARENT_SCOPE)
     set(error "${error}" PARENT_SCOPE)

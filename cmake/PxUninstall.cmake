@@ -1,0 +1,21 @@
+# Removes what the last "cmake --install" of the build directory BINARY_DIR has installed, and the folders of the
+# project PROJECT that are left empty.
+
+set(manifest ${BINARY_DIR}/install_manifest.txt)
+if(NOT EXISTS ${manifest})
+    message(FATAL_ERROR "Nothing is known to be installed: ${manifest} is missing.")
+endif()
+file(STRINGS ${manifest} files)
+foreach(file IN LISTS files)
+    file(REMOVE $ENV{DESTDIR}${file})
+    cmake_path(GET file PARENT_PATH directory)
+    while(directory MATCHES "/${PROJECT}(/|$)")
+        file(GLOB rest LIST_DIRECTORIES TRUE $ENV{DESTDIR}${directory}/*)
+        if(rest)
+            break()
+        endif()
+        file(REMOVE_RECURSE $ENV{DESTDIR}${directory})
+        cmake_path(GET directory PARENT_PATH directory)
+    endwhile()
+endforeach()
+file(REMOVE ${manifest})
