@@ -6,11 +6,15 @@ include(GenerateExportHeader)
 find_program(PX_CCACHE ccache)
 mark_as_advanced(PX_CCACHE)
 
+cmake_path(GET CMAKE_CURRENT_LIST_DIR PARENT_PATH PX_ROOT)
+
+# What is built for others has no path of the machine in it, so that it is the same wherever it is built.
 function(px_set_defaults target)
     target_compile_features(${target} PRIVATE cxx_std_17)
     target_compile_options(${target} PRIVATE
         -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
-        $<$<BOOL:${PX_WARNINGS_AS_ERRORS}>:-Werror>)
+        $<$<BOOL:${PX_WARNINGS_AS_ERRORS}>:-Werror>
+        "$<$<NOT:$<CONFIG:Debug>>:-ffile-prefix-map=${PX_ROOT}=.;-ffile-prefix-map=${PROJECT_BINARY_DIR}=build>")
     target_compile_definitions(${target} PRIVATE
         QT_NO_CAST_TO_ASCII QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_DEPRECATED_WARNINGS
         QT_DISABLE_DEPRECATED_BEFORE=0x050F00 QT_MESSAGELOGCONTEXT)
@@ -27,6 +31,11 @@ function(px_set_defaults target)
     endif()
 endfunction()
 
+# Files for ":/", in the first format of rcc: later ones have the times of the files in them.
+macro(px_add_resources variable file)
+    qt5_add_resources(${variable} ${file} OPTIONS -format-version 1)
+endmacro()
+
 # Headers are file sets, which CMake knows from 3.23 on; for older ones their folder is a property as well.
 function(px_install_library target name visibility)
     add_library(Px::${name} ALIAS ${target})
@@ -35,8 +44,8 @@ function(px_install_library target name visibility)
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/${PROJECT_NAME}>)
     if(PX_INSTALL)
         install(TARGETS ${target} EXPORT ${PROJECT_NAME}Targets
-            LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-            FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${PROJECT_NAME})
+            LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Runtime NAMELINK_COMPONENT Devel
+            FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${PROJECT_NAME} COMPONENT Devel)
     endif()
 endfunction()
 
@@ -66,7 +75,7 @@ function(px_add_program target)
     target_link_libraries(${target} PRIVATE Px::ProductProperties)
     set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries};${PX_PLATFORM_RPATH}")
     if(PX_INSTALL)
-        install(TARGETS ${target} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+        install(TARGETS ${target} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Tools)
     endif()
 endfunction()
 
