@@ -14,7 +14,7 @@ PACKAGES = ccache cmake g++ libqpdf-dev librsvg2-bin libxml2-utils ninja-build p
 ROOT = $(if $(filter 0,$(shell id -u)),,sudo)
 
 .PHONY: help demo proof browser pictures check quick mutants platform bench benchmarks fuzz valgrind clang tidy docs \
-    build setup clean licences abi abi-store release-check reproducible
+    build setup clean licences abi abi-store release-check reproducible packages
 
 help:
 	@echo "make demo       set up, build, and show what the library answers about the sample catalogue, and draw a book"
@@ -25,6 +25,7 @@ help:
 	@echo "make quick      the same without the tests that take long (hostile files, headers alone)"
 	@echo "make mutants    put COUNT=60 small faults into the code, and list those that no test notices (SEED=1, FOLDER=src)"
 	@echo "make platform   the same tests against the platform as a package of its own, all built with clang"
+	@echo "make packages   make packages for Debian, and install, use and remove them in a folder of their own"
 	@echo "make reproducible  build the last commit in two folders, which must give the same bits (takes long)"
 	@echo "make valgrind   the demo under valgrind, which must find nothing"
 	@echo "make bench      build Release and print what start-up and answers cost, beside what they may cost"
@@ -92,6 +93,14 @@ platform: setup
 	rm -rf build/PxPlatform/installed
 	cmake --install build/PxPlatform --prefix build/PxPlatform/installed
 	$(MAKE) check PRESET=platform
+
+# What is made from one commit is the same, whenever it is made.
+packages: PACKAGES += dpkg-dev file lintian pkgconf
+packages: setup
+	SOURCE_DATE_EPOCH=$(shell git log -1 --format=%ct) cmake --preset packages
+	cmake --build --preset packages -j $(JOBS)
+	cd build/packages && rm -f *.deb && SOURCE_DATE_EPOCH=$(shell git log -1 --format=%ct) cpack
+	tests/install/packages build/packages
 
 reproducible: setup
 	JOBS=$(JOBS) tests/install/reproducible

@@ -12,6 +12,9 @@ option(PX_TRANSLATIONS "Put the English texts into library and tools, which need
 option(PX_DRAW_PDF "Let pxcatalogue draw write PDF, which needs libqpdf" ON)
 option(PX_INSTALL "Install what is built" ${PROJECT_IS_TOP_LEVEL})
 option(PX_INSTALL_SAMPLE "Install the sample catalogue as well" ${PROJECT_IS_TOP_LEVEL})
+option(PX_PACKAGES "Let cpack make packages of Debian, one for each install component" OFF)
+set(PX_PACKAGE_CONTACT "Maintainers of PxProductProperties <maintainers@pxproductproperties.invalid>" CACHE STRING
+    "Who answers for these packages: Name <address>")
 option(PX_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 
 if(NOT PX_PLATFORM MATCHES "^(bundled|system)$")

@@ -57,7 +57,7 @@ if(found AND PKG_CONFIG)
     separate_arguments(flags UNIX_COMMAND "${CXX_FLAGS} ${output}")
     run(${PKG_CONFIG} --variable=libdir PxProductProperties)
     string(STRIP "${output}" libraries)
-    run(${CXX_COMPILER} -std=c++17 -Wall -Wextra -Werror "-DHEADERS=\"${SCRATCH}/headers.h\"" ${CONSUMER}/main.cpp
+    run(${CXX_COMPILER} -std=c++17 -fPIC -Wall -Wextra -Werror "-DHEADERS=\"${SCRATCH}/headers.h\"" ${CONSUMER}/main.cpp
         -o ${SCRATCH}/pkg-config ${flags} -Wl,-rpath,${libraries})
     run(${environment} ${SCRATCH}/pkg-config)
 endif()

@@ -1,0 +1,68 @@
+# The packages of Debian, one for each install component: "cpack" in the build directory makes them (make packages).
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME pxproductproperties)
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "properties of photo products: pages, sizes, spines, variants")
+set(CPACK_PACKAGE_CONTACT "${PX_PACKAGE_CONTACT}")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR})
+
+string(TIMESTAMP date "%a, %d %b %Y %H:%M:%S +0000" UTC)
+string(TIMESTAMP year %Y UTC)
+file(CONFIGURE OUTPUT packages/changelog @ONLY CONTENT
+"@CPACK_PACKAGE_NAME@ (@PROJECT_VERSION@) unstable; urgency=medium
+
+  * Release @PROJECT_VERSION@.
+
+ -- @PX_PACKAGE_CONTACT@  @date@
+")
+execute_process(COMMAND gzip -9nf ${CMAKE_CURRENT_BINARY_DIR}/packages/changelog COMMAND_ERROR_IS_FATAL ANY)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/copyright.in packages/copyright @ONLY)
+# A trigger calls ldconfig. CPack leaves its own call out only if there are scripts, which have nothing else to do.
+file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/packages/triggers "activate-noawait ldconfig\n")
+foreach(script postinst postrm)
+    file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/packages/${script} "#!/bin/sh\nset -e\n")
+endforeach()
+set(scripts triggers postinst postrm)
+list(TRANSFORM scripts PREPEND ${CMAKE_CURRENT_BINARY_DIR}/packages/)
+
+set(CPACK_COMPONENTS_ALL "")
+function(px_package component name section contents)
+    list(APPEND CPACK_COMPONENTS_ALL ${component})
+    string(TOUPPER ${component} key)
+    set(CPACK_DEBIAN_${key}_PACKAGE_NAME ${name} PARENT_SCOPE)
+    set(CPACK_DEBIAN_${key}_PACKAGE_SECTION ${section} PARENT_SCOPE)
+    set(CPACK_DEBIAN_${key}_DESCRIPTION "This package has ${contents}." PARENT_SCOPE)
+    while(ARGN)
+        list(POP_FRONT ARGN variable value)
+        set(CPACK_DEBIAN_${key}_PACKAGE_${variable} "${value}" PARENT_SCOPE)
+    endwhile()
+    set(CPACK_COMPONENTS_ALL ${CPACK_COMPONENTS_ALL} PARENT_SCOPE)
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/packages/copyright ${CMAKE_CURRENT_BINARY_DIR}/packages/changelog.gz
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${name} COMPONENT ${component})
+endfunction()
+
+set(library libpxproductproperties${PROJECT_VERSION_MAJOR})
+px_package(Runtime ${library} libs "the library" SHLIBDEPS ON)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${scripts})
+px_package(Devel libpxproductproperties-dev libdevel "what is needed to build applications"
+    DEPENDS "qtbase5-dev (>= 5.15)")
+px_package(Tools pxproductproperties-tools utils "the command for authors of product files" SHLIBDEPS ON)
+px_package(Sample pxproductproperties-sample text "the sample catalogue" ARCHITECTURE all)
+px_package(Documentation libpxproductproperties-doc doc "the documents" ARCHITECTURE all)
+
+include(CPack)
+cpack_add_component(Runtime)
+cpack_add_component(Devel DEPENDS Runtime)
+cpack_add_component(Tools DEPENDS Runtime)
+cpack_add_component(Sample)
+cpack_add_component(Documentation)
