@@ -11,6 +11,8 @@ FOLDER ?= src
 BUILD = build/$(PRESET)
 PACKAGES = ccache cmake g++ libqpdf-dev librsvg2-bin libxml2-utils ninja-build poppler-utils qtbase5-dev qttools5-dev \
     qttools5-dev-tools tzdata
+# Builds of the same flags share what the cache has, whatever their folder in build.
+export CCACHE_BASEDIR = $(CURDIR)
 ROOT = $(if $(filter 0,$(shell id -u)),,sudo)
 
 .PHONY: help demo proof browser pictures check quick mutants platform bench benchmarks fuzz valgrind clang tidy docs \
@@ -97,7 +99,7 @@ platform: setup
 # What is made from one commit is the same, whenever it is made.
 packages: PACKAGES += dpkg-dev file lintian pkgconf
 packages: setup
-	SOURCE_DATE_EPOCH=$(shell git log -1 --format=%ct) cmake --preset packages
+	SOURCE_DATE_EPOCH=$(shell git log -1 --format=%ct) cmake --preset packages -DPX_WARNINGS_AS_ERRORS=$(WERROR)
 	cmake --build --preset packages -j $(JOBS)
 	cd build/packages && rm -f *.deb && SOURCE_DATE_EPOCH=$(shell git log -1 --format=%ct) cpack
 	tests/install/packages build/packages
@@ -153,8 +155,8 @@ licences: setup
 release-check:
 	$(MAKE) licences
 	$(MAKE) abi WERROR=ON
-#	$(MAKE) packages
-#	$(MAKE) reproducible
+	$(MAKE) packages WERROR=ON
+	$(MAKE) reproducible
 	$(MAKE) check PRESET=tsan WERROR=ON
 
 build: setup

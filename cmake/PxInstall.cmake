@@ -25,5 +25,6 @@ endif()
 
 if(PROJECT_IS_TOP_LEVEL)
     add_custom_target(uninstall
-        COMMAND ${CMAKE_COMMAND} -DBINARY_DIR=${PROJECT_BINARY_DIR} -DPROJECT=${PROJECT_NAME} -P ${CMAKE_CURRENT_LIST_DIR}/PxUninstall.cmake)
+        COMMAND ${CMAKE_COMMAND} -DBINARY_DIR=${PROJECT_BINARY_DIR} -DPROJECT=${PROJECT_NAME}
+            -P ${CMAKE_CURRENT_LIST_DIR}/PxUninstall.cmake)
 endif()

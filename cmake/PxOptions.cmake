@@ -22,7 +22,7 @@ if(NOT PX_PLATFORM MATCHES "^(bundled|system)$")
 endif()
 if(DEFINED BUILD_SHARED_LIBS AND NOT BUILD_SHARED_LIBS)
     message(FATAL_ERROR "BUILD_SHARED_LIBS is OFF, but the library can only be shared: what it reads exists once in a "
-        "process. Leave the variable out; a project that needs it for itself sets it to ON around this add_subdirectory().")
+        "process. Leave the variable out; a project that needs it for itself sets it to ON around add_subdirectory().")
 endif()
 
 function(px_require option)
@@ -35,4 +35,5 @@ endfunction()
 
 px_require(PX_BUILD_TOOLS PX_TRANSLATIONS)
 px_require(PX_BUILD_FUZZERS PX_BUILD_TOOLS)
+px_require(PX_PACKAGES PX_INSTALL)
 px_require(PX_BUILD_TESTS PX_BUILD_TOOLS PX_BUILD_EXAMPLES)

@@ -53,4 +53,6 @@ add_custom_target(PxReference
     COMMAND sed -i s|<path>${PROJECT_SOURCE_DIR}/|<path>| ${reference}/PxProductProperties.tags
     COMMENT "Writing the reference into ${reference}"
     VERBATIM)
-install(DIRECTORY ${reference} DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT Documentation OPTIONAL)
+if(PX_INSTALL)
+    install(DIRECTORY ${reference} DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT Documentation OPTIONAL)
+endif()
