@@ -60,6 +60,7 @@ px_package(Tools pxproductproperties-tools utils "the command for authors of pro
 px_package(Sample pxproductproperties-sample text "the sample catalogue" ARCHITECTURE all)
 px_package(Documentation libpxproductproperties-doc doc "the documents" ARCHITECTURE all)
 
+set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/PxPackedManuals.cmake)
 include(CPack)
 cpack_add_component(Runtime)
 cpack_add_component(Devel DEPENDS Runtime)

@@ -23,7 +23,7 @@ foreach(library PxTemplateClasses PxCore PxXML PxProductBase PxProductProperties
     endif()
 endforeach()
 list(APPEND bases ${PROJECT_SOURCE_DIR}/docs)
-foreach(page which-class tutorial architecture checks compatibility drawings file-format first-product migration
+foreach(page which-class tutorial architecture checks compatibility drawings file-format first-product logging migration
         performance platform pxcatalogue)
     if(EXISTS ${PROJECT_SOURCE_DIR}/docs/${page}.md)
         list(APPEND input ${PROJECT_SOURCE_DIR}/docs/${page}.md)

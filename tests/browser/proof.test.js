@@ -146,6 +146,9 @@ test('the address has the state of all tables, so that a link shows the same', a
   assert.equal((await other.$$('.themes tbody tr:not([hidden])')).length, 1);
   await other.click('nav a[href="index.html#themes"]');
   assert.deepEqual(await shownNames(other), names, 'a link within the page keeps what is asked for');
+  await other.waitForFunction(() => location.hash.includes('='));
+  const kept = await other.evaluate(() => location.hash.slice(1));
+  assert.deepEqual(kept.split('&').sort(), state.split('&').sort());
   await closed(page);
   await closed(other);
 });
