@@ -109,13 +109,8 @@
     form?.addEventListener('submit', event => event.preventDefault());
     form?.addEventListener('input', () => { filter(); remember(); });
     form?.addEventListener('reset', () => setTimeout(() => { filter(); remember(); }));
-    addEventListener('hashchange', () => {
-      if (location.hash.includes('='))
-        recall();
-      else
-        remember(); // after a link to a heading
-    });
     recall();
+    return { remember, recall };
   }
 
   function switchDrawings(drawings) {
@@ -134,8 +129,12 @@
     update();
   }
 
-  for (const list of document.querySelectorAll('.list'))
-    makeList(list);
+  const lists = Array.from(document.querySelectorAll('.list'), makeList);
+  addEventListener('hashchange', () => {
+    const isState = location.hash.includes('='); // not after a link to a heading
+    for (const { recall, remember } of lists)
+      (isState ? recall : remember)();
+  });
   for (const drawings of document.querySelectorAll('.drawings'))
     switchDrawings(drawings);
 })();
