@@ -8,6 +8,7 @@ FUZZ_SEED ?= 0
 COUNT ?= 60
 SEED ?= 1
 FOLDER ?= src
+TIDY ?= src tools
 BUILD = build/$(PRESET)
 PACKAGES = ccache cmake g++ libqpdf-dev librsvg2-bin libxml2-utils ninja-build poppler-utils qtbase5-dev qttools5-dev \
     qttools5-dev-tools tzdata
@@ -33,7 +34,7 @@ help:
 	@echo "make bench      build Release and print what start-up and answers cost, beside what they may cost"
 	@echo "make fuzz       set up, build with clang, and run every fuzzer (FUZZ_SECONDS=600, all together)"
 	@echo "make clang      set up, and build all with clang, as C++17 and as C++20 (WERROR=ON)"
-	@echo "make tidy       set up, and run clang-tidy over src and tools, which must find nothing"
+	@echo "make tidy       set up, and run clang-tidy over TIDY=\"src tools\", which must find nothing"
 	@echo "make docs       write the reference of the public headers into build/docs, for a browser and as .qch"
 	@echo "make abi        see whether programs that use the last release can run with the libraries as they are now"
 	@echo "make abi-store  make the ABI as it is now the one to compare with, for a release"
@@ -130,7 +131,7 @@ clang: setup
 # The headers that it needs are all generated when CMake configures. It cannot be cached.
 tidy: setup
 	cmake --preset clang
-	find src tools -name '*.cpp' | xargs -P $(JOBS) -n 1 clang-tidy -quiet -p build/clang
+	find $(TIDY) -name '*.cpp' | xargs -P $(JOBS) -n 1 clang-tidy -quiet -p build/clang
 
 # A tree of its own: nothing has to be compiled for it.
 docs: PACKAGES += doxygen qhelpgenerator-qt5 qtbase5-doc-dev
@@ -155,6 +156,7 @@ licences: setup
 release-check:
 	$(MAKE) licences
 	$(MAKE) abi WERROR=ON
+	$(MAKE) tidy
 	$(MAKE) packages WERROR=ON
 	$(MAKE) reproducible
 	$(MAKE) check PRESET=tsan WERROR=ON
