@@ -17,7 +17,6 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR})
 
 string(TIMESTAMP date "%a, %d %b %Y %H:%M:%S +0000" UTC)
-string(TIMESTAMP year %Y UTC)
 file(CONFIGURE OUTPUT packages/changelog @ONLY CONTENT
 "@CPACK_PACKAGE_NAME@ (@PROJECT_VERSION@) unstable; urgency=medium
 
@@ -26,7 +25,18 @@ file(CONFIGURE OUTPUT packages/changelog @ONLY CONTENT
  -- @PX_PACKAGE_CONTACT@  @date@
 ")
 execute_process(COMMAND gzip -9nf ${CMAKE_CURRENT_BINARY_DIR}/packages/changelog COMMAND_ERROR_IS_FATAL ANY)
-configure_file(${CMAKE_CURRENT_LIST_DIR}/copyright.in packages/copyright @ONLY)
+# What REUSE reads is a file of Debian already; only the texts of the licences are missing.
+file(READ ${PROJECT_SOURCE_DIR}/.reuse/dep5 copyright)
+file(GLOB licences ${PROJECT_SOURCE_DIR}/LICENSES/*.txt)
+foreach(licence IN LISTS licences)
+    cmake_path(GET licence STEM LAST_ONLY name)
+    file(READ ${licence} text)
+    string(STRIP "${text}" text)
+    string(REGEX REPLACE "\n\n+" "\n.\n" text "${text}")
+    string(REPLACE "\n" "\n " text "${text}")
+    string(APPEND copyright "\nLicense: ${name}\n ${text}\n")
+endforeach()
+file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/packages/copyright "${copyright}")
 # A trigger calls ldconfig. CPack leaves its own call out only if there are scripts, which have nothing else to do.
 file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/packages/triggers "activate-noawait ldconfig\n")
 foreach(script postinst postrm)
