@@ -61,7 +61,7 @@ std::optional<PxProblem> readBoth(const PxCommandLine &line, PxExportedCatalogue
         if (const auto problem = other.read(oldCatalogue))
             return problem;
     }
-    const QString newPath = line.arguments().value(1);
+    const QString newPath = PxOtherCatalogue::at(line.arguments().value(1));
     const auto problem = QFileInfo(newPath).isDir()
                              ? readDirectory(newPath, newCatalogue)
                              : PxOtherCatalogue(newPath, line).read(newCatalogue);
@@ -76,7 +76,7 @@ PxCommandUsage PxDiffCommand::usage() const
     // clang-format off
     return {"diff",
         "How two catalogues differ: first what customers notice.\n"
-        "Each is a resource directory or what \"pxcatalogue export\" wrote. A value that follows from others "
+        "Each is a resource directory, the folder of a proof, or what \"pxcatalogue export\" wrote. A value that follows from others "
         "that changed is not listed. Exit status: 0 there is no difference, 1 there is one, 2 a catalogue cannot be read.", {
         {"only", "KEYS", "Only changes of these values or sections, as in --json with \"*\" for an index, and of themes their members: /sizes, /barcodes/*/rect, expiryDay; added, removed and renamed are keys, too.", 0, 0, PxDiffKeys::all()},
         {"format", "FORMAT", "text, json or markdown. Default: text.", 0, 0, {"text", "json", "markdown"}, PxOption::Form::OneKeyword},
@@ -94,7 +94,7 @@ PxExitStatus PxDiffCommand::run(const PxCommandLine &line) const
     if (const auto problem = readBoth(line, &oldCatalogue, &newCatalogue))
         return fail(*problem);
     PxDiff diff = PxCatalogueDiff::of(oldCatalogue, newCatalogue, line.keywords("only"));
-    if (QFileInfo(line.arguments().constLast()).isDir())
+    if (QFileInfo(PxOtherCatalogue::at(line.arguments().constLast())).isDir())
         PxDiffPlaces::addTo(&diff, newCatalogue);
     const QString format = line.isSet("json") ? "json" : line.keywords("format").value(0, "text");
     const PxExitStatus status =

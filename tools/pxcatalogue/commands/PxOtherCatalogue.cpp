@@ -20,18 +20,17 @@ QStringList optionsOfExport(const PxCommandLine &line)
     return options;
 }
 
-/** The folder of a proof stands for the export in it. */
-QString catalogueAt(const QString &path)
+} // namespace
+
+QString PxOtherCatalogue::at(const QString &path)
 {
     const QString exported = path + "/catalogue.json";
     const bool isProof = QFileInfo(exported).isFile() && !QFileInfo(path + "/products").isDir();
     return isProof ? exported : path;
 }
 
-} // namespace
-
 PxOtherCatalogue::PxOtherCatalogue(const QString &path, const PxCommandLine &line)
-    : m_path(catalogueAt(path))
+    : m_path(at(path))
     , m_isDirectory(QFileInfo(m_path).isDir())
 {
     if (!m_isDirectory)

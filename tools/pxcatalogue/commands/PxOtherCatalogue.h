@@ -21,6 +21,9 @@ class PxExportedCatalogue;
 class PxOtherCatalogue
 {
 public:
+    /** What a path stands for: the folder of a proof for the export in it. */
+    static QString at(const QString &path);
+
     /** The line has the language of the display names. */
     PxOtherCatalogue(const QString &path, const PxCommandLine &line);
     ~PxOtherCatalogue();
