@@ -82,7 +82,9 @@ public:
     static void reportMoreUndecodable(int undecodable)
     {
         if (undecodable > pxMaximumMessages)
-            PxMessageLogger("../PxTemplateClasses/PxEnumToStringTable", 161, Q_FUNC_INFO).debug()
+            PxMessageLogger("../PxTemplateClasses/PxEnumToStringTable", 161, Q_FUNC_INFO,
+                            pxLoggingCategory())
+                    .debug()
                 << "undecodable: (using default in " << typeid(ENUM).name() << ")"
                 << undecodable - pxMaximumMessages << "more";
     }

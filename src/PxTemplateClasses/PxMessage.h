@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDebug>
+#include <QLoggingCategory>
 #include <QString>
 #include <QVector>
 
@@ -17,6 +18,8 @@ struct PxMessage
     int line;
     /** The function that logs; a literal, or null. */
     const char *function;
+    /** Whose rules apply; it must outlive a kept message. Null is Qt's category "default". */
+    const QLoggingCategory *category;
     /** The message itself. */
     QString text;
 
@@ -56,7 +59,21 @@ inline void PxMessage::log() const
         return;
     }
     const QMessageLogger logger(file, line, function);
-    (type == QtWarningMsg ? logger.warning() : logger.debug()).nospace().noquote() << text;
+    const bool isWarning = type == QtWarningMsg;
+    QDebug stream = !category   ? (isWarning ? logger.warning() : logger.debug())
+                    : isWarning ? logger.warning(*category)
+                                : logger.debug(*category);
+    stream.nospace().noquote() << text;
+}
+
+/**
+ * The category of messages whose text nobody relies on, "px.productproperties". Those that programs
+ * compare are in Qt's "default". It lives until the process ends, as do the objects that log.
+ */
+inline const QLoggingCategory *pxLoggingCategory()
+{
+    static const auto *const category = new QLoggingCategory("px.productproperties");
+    return category;
 }
 
 /**
@@ -66,9 +83,10 @@ inline void PxMessage::log() const
 class PxMessageLogger
 {
 public:
-    /** The arguments are those of QMessageLogger; literals, or null. */
-    PxMessageLogger(const char *file, int line, const char *function)
-        : m_message{QtDebugMsg, file, line, function, {}}
+    /** The first arguments are those of QMessageLogger; literals, or null. */
+    PxMessageLogger(const char *file, int line, const char *function,
+                    const QLoggingCategory *category = nullptr)
+        : m_message{QtDebugMsg, file, line, function, category, {}}
         , m_stream(&m_message.text)
     {}
     ~PxMessageLogger()
@@ -94,8 +112,13 @@ private:
     QDebug m_stream;
 };
 
-/** As qDebug(). */
-#define pxDebug PxMessageLogger(QT_MESSAGELOG_FILE, QT_MESSAGELOG_LINE, QT_MESSAGELOG_FUNC).debug
-/** As qWarning(). */
+/** The stream of a message in pxLoggingCategory() that is written as qDebug() would. */
+#define pxDebug                                                                                    \
+    PxMessageLogger(QT_MESSAGELOG_FILE, QT_MESSAGELOG_LINE, QT_MESSAGELOG_FUNC,                    \
+                    pxLoggingCategory())                                                           \
+        .debug
+/** The same of a warning. */
 #define pxWarning                                                                                  \
-    PxMessageLogger(QT_MESSAGELOG_FILE, QT_MESSAGELOG_LINE, QT_MESSAGELOG_FUNC).warning
+    PxMessageLogger(QT_MESSAGELOG_FILE, QT_MESSAGELOG_LINE, QT_MESSAGELOG_FUNC,                    \
+                    pxLoggingCategory())                                                           \
+        .warning

@@ -82,7 +82,7 @@ PxProductTypeDescriptionReader::Product PxProductTypeDescriptionReader::readFile
             "PxProductTypeDescriptionReader::readFile(const QFileInfo&)";
         PxMessageLogger(source, 78, function).warning()
             << "PxProductTypeDescriptionReader::readFile could not open" << file.absoluteFilePath();
-        PxMessageLogger(source, 79, function).debug().noquote()
+        PxMessageLogger(source, 79, function, pxLoggingCategory()).debug().noquote()
             << "PxProductTypeDescriptionReader::readFile the reason:" << error;
         return qMakePair(PxProductType(), static_cast<PxProductTypeDescription *>(nullptr));
     }

@@ -32,9 +32,8 @@ PxContentDropRedirectList::PxContentDropRedirectList(const QDomElement &parent)
             m_ranges.append({first, last, target});
     }
     if (unreadable > pxMaximumMessages)
-        PxMessageLogger("PxContentDropRedirectList", __LINE__, Q_FUNC_INFO).warning()
-            << "PxContentDropRedirectList::PxContentDropRedirectList"
-            << unreadable - pxMaximumMessages << "more parse errors";
+        pxWarning() << "PxContentDropRedirectList::PxContentDropRedirectList"
+                    << unreadable - pxMaximumMessages << "more parse errors";
 }
 
 int PxContentDropRedirectList::targetPage(int page) const

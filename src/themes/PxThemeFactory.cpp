@@ -215,7 +215,7 @@ PxThemeList PxThemeFactory::findThemesWhichAcceptNormalLayouts() const
 void PxThemeFactory::init()
 {
     QDir directory = PxDirectoryConfig::instance()->lumoThemesDirectory(false);
-    pxDebug()
+    PxMessageLogger(QT_MESSAGELOG_FILE, QT_MESSAGELOG_LINE, Q_FUNC_INFO).debug()
         << QStringLiteral("PxThemeFactory::init() directory: %1").arg(directory.absolutePath());
     m_themeList = loadThemeList(directory);
 
@@ -239,7 +239,7 @@ PxThemeList PxThemeFactory::loadThemeList(QDir &directory)
         QString error;
         const QDomElement root = PxXMLLoader::loadDocumentElement(file, &error);
         if (root.isNull()) {
-            pxWarning().noquote()
+            PxMessageLogger(QT_MESSAGELOG_FILE, QT_MESSAGELOG_LINE, Q_FUNC_INFO).warning().noquote()
                 << QStringLiteral("PxThemeFactory::loadThemeList Could not open config file: %2/%1")
                        .arg(file.absoluteFilePath(), QDir::currentPath());
             pxDebug().noquote() << "PxThemeFactory::loadThemeList the reason:" << error;
@@ -247,7 +247,8 @@ PxThemeList PxThemeFactory::loadThemeList(QDir &directory)
         }
         if (root.tagName().toLower() != QLatin1String("themes"))
             continue;
-        pxDebug() << "PxThemeFactory::loadThemeList()" << root.childNodes().count();
+        PxMessageLogger(QT_MESSAGELOG_FILE, QT_MESSAGELOG_LINE, Q_FUNC_INFO).debug()
+            << "PxThemeFactory::loadThemeList()" << root.childNodes().count();
         int themesOfFile = 0;
         for (QDomNode node = root.firstChild(); !node.isNull(); node = node.nextSibling()) {
             if (++themesOfFile > maximumThemes) {

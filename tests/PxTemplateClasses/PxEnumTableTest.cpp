@@ -104,8 +104,9 @@ void PxEnumTableTest::decodesLists()
     QCOMPARE(int(PxBinding("LEATHER,foo").value()), 4096 + 8);
     QCOMPARE(log.texts(), QStringList("undecodable: (using default in  13PxBindingEnum ) \"foo\""));
     const PxLogRecorder::Entry entry = log.entries().constFirst();
-    QCOMPARE(QString("%1 %2:%3").arg(entry.level).arg(entry.file).arg(entry.line),
-             QString("0 ../PxTemplateClasses/PxEnumToStringTable:161"));
+    QCOMPARE(
+        QString("%1 %2 %3:%4").arg(entry.level).arg(entry.category, entry.file).arg(entry.line),
+        QString("0 default ../PxTemplateClasses/PxEnumToStringTable:161"));
     // Compilers write it with and without a space.
     QVERIFY2(QString(entry.function).remove(' ').contains("::decodeCSV(constQString&)const"),
              qPrintable(entry.function));

@@ -100,9 +100,10 @@ void PxMessageTest::placeIsThatOfQt()
 {
     const PxLogRecorder log;
     QVector<PxMessage> kept;
+    const auto ours = []() -> const QLoggingCategory & { return *pxLoggingCategory(); };
     // clang-format off
-    qWarning() << 1; pxWarning() << 1; { const PxMessageKeeper keeper(&kept); pxWarning() << 1; }
-    qDebug() << 2; pxDebug() << 2; { const PxMessageKeeper keeper(&kept); pxDebug() << 2; }
+    qCWarning(ours) << 1; pxWarning() << 1; { const PxMessageKeeper keeper(&kept); pxWarning() << 1; }
+    qCDebug(ours) << 2; pxDebug() << 2; { const PxMessageKeeper keeper(&kept); pxDebug() << 2; }
     // clang-format on
     write(kept);
     const QStringList written = shown(log);
@@ -169,18 +170,27 @@ void PxMessageTest::isKeptInTheSameThreadOnly()
 
 void PxMessageTest::rulesOfTheCategoryApply()
 {
+    const auto logAll = [] {
+        PxMessageLogger("file", 7, "function").debug() << 1;
+        PxMessageLogger("file", 7, "function").warning() << 2;
+        pxDebug() << 3;
+        pxWarning() << 4;
+    };
     const PxLogRecorder log;
     QVector<PxMessage> kept;
     {
         const PxMessageKeeper keeper(&kept);
-        pxDebug() << 1;
-        pxWarning() << 2;
+        logAll();
     }
     QLoggingCategory::setFilterRules("default.debug=false");
-    pxDebug() << 3;
+    logAll();
+    write(kept);
+    QCOMPARE(log.texts(), QStringList({"2", "3", "4", "2", "3", "4"}));
+    QLoggingCategory::setFilterRules("px.productproperties=false");
+    logAll();
     write(kept);
     QLoggingCategory::setFilterRules(QString());
-    QCOMPARE(log.texts(), QStringList("2"));
+    QCOMPARE(log.texts().mid(6), QStringList({"1", "2", "1", "2"}));
 }
 
 QTEST_GUILESS_MAIN(PxMessageTest)

@@ -53,7 +53,8 @@ void PxProductPropertiesInitializerTest::warnsOnceWithoutProducts()
     const QString directories = directory.filePath("first") + ':' + directory.filePath("second");
     const PxProgramRun run(QCoreApplication::applicationFilePath(), {"--setup"},
                            {{"PX_RESOURCE_DIRS", directories}});
-    QCOMPARE(run.errors().join('\n').replace(directory.path(), "DIR"), warning);
+    QCOMPARE(run.errors().join('\n').replace(directory.path(), "DIR"),
+             warning.isEmpty() ? warning : "px.productproperties: " + warning);
     QCOMPARE(run.status(), 0);
 }
 

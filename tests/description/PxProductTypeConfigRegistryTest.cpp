@@ -70,16 +70,16 @@ void PxProductTypeConfigRegistryTest::damagedFileIsReportedAndSkipped()
     QCOMPARE(log.entries().size(), 2);
     const auto context = [&log](int index) {
         const PxLogRecorder::Entry entry = log.entries().at(index);
-        return QString("%1 %2:%3 %4")
+        return QString("%1 %2 %3:%4 %5")
             .arg(entry.level)
-            .arg(entry.file)
+            .arg(entry.category, entry.file)
             .arg(entry.line)
             .arg(entry.function);
     };
     const QString function = " QPair<PxProductType, PxProductTypeDescription*> "
                              "PxProductTypeDescriptionReader::readFile(const QFileInfo&)";
-    QCOMPARE(context(0), "1 PxProductTypeDescriptionReader:78" + function);
-    QCOMPARE(context(1), "0 PxProductTypeDescriptionReader:79" + function);
+    QCOMPARE(context(0), "1 default PxProductTypeDescriptionReader:78" + function);
+    QCOMPARE(context(1), "0 px.productproperties PxProductTypeDescriptionReader:79" + function);
     QCOMPARE(log.texts().at(0),
              "PxProductTypeDescriptionReader::readFile could not open \"" + path + '"');
     const QString reason = "PxProductTypeDescriptionReader::readFile the reason: " + path + ":2:";

@@ -66,7 +66,9 @@ void PxRedirectsTest::reportsUnreadableContentRedirects()
     QCOMPARE(log.constFirst().text, text + "parse error");
     QCOMPARE(log.constFirst().level, QtWarningMsg);
     QCOMPARE(log.constFirst().file, QString("PxContentDropRedirectList"));
+    QCOMPARE(log.constFirst().category, QString("default"));
     QCOMPARE(log.constLast().text, text + "1 more parse errors");
+    QCOMPARE(log.constLast().category, QString("px.productproperties"));
 }
 
 QTEST_GUILESS_MAIN(PxRedirectsTest)

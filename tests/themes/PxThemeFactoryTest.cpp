@@ -102,6 +102,7 @@ void PxThemeFactoryTest::strayNodesAreThemesButBlanksAreNot()
     QCOMPARE(themes.idList(), QStringList({"unbekannt", "a", "unbekannt", ""}));
     QCOMPARE(log.texts(), QStringList("PxThemeFactory::loadThemeList() 4"));
     QCOMPARE(log.entries().constFirst().level, QtDebugMsg);
+    QCOMPARE(log.entries().constFirst().category, QString("default"));
 }
 
 void PxThemeFactoryTest::themesOfOneFileAreBounded()
@@ -120,10 +121,14 @@ void PxThemeFactoryTest::damagedAndForeignFilesAreLeftOut()
     QCOMPARE(log.texts(), QStringList());
     QVERIFY(load("broken/a.xml", "<themes><t id='A'></themes>").isEmpty());
     QCOMPARE(log.entries().constFirst().level, QtWarningMsg);
+    QCOMPARE(log.entries().constFirst().category, QString("default"));
     QCOMPARE(log.texts().constFirst(),
              "PxThemeFactory::loadThemeList Could not open config file: " + QDir::currentPath() +
                  '/' + m_directory.filePath("broken/a.xml"));
     QCOMPARE(log.entries().constLast().level, QtDebugMsg);
+    QCOMPARE(log.entries().constLast().category, QString("px.productproperties"));
+    // By which a handler knows that this is the reason of the warning.
+    QCOMPARE(log.entries().constLast().file, log.entries().constFirst().file);
     QVERIFY(log.texts().constLast().startsWith("PxThemeFactory::loadThemeList the reason: " +
                                                m_directory.filePath("broken/a.xml:1:")));
     QVERIFY(log.entries().constLast().function.contains("loadThemeList"));
@@ -206,6 +211,7 @@ void PxThemeFactoryTest::instanceChoosesTheDefaultTheme()
     const PxThemeFactory *factory = PxThemeFactory::instance();
     QCOMPARE(log.texts().constFirst(),
              "\"PxThemeFactory::init() directory: " + m_directory.filePath("themes") + '"');
+    QCOMPARE(log.entries().constFirst().category, QString("default"));
     QCOMPARE(factory->defaultTheme().id(), QString("normal"));
     QCOMPARE(factory->themeNames(), QStringList({"a", "alone", "normal"}));
     QCOMPARE(factory->themeList(5).idList(), QStringList("normal"));
