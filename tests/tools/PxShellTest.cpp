@@ -1,6 +1,7 @@
 #include "PxProgramRun.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -15,6 +16,7 @@ class PxShellTest : public QObject
 private slots:
     void initTestCase();
     void manualExplainsEachCommand();
+    void manualExplainsEachVariable();
     void manualIsWellFormed();
     void bashOffers();
     void bashCompletes();
@@ -122,6 +124,28 @@ void PxShellTest::manualExplainsEachCommand()
         }
         QVERIFY(count > 4);
     }
+}
+
+/** Those of the environment that library and tools ask for. */
+void PxShellTest::manualExplainsEachVariable()
+{
+    static const QRegularExpression ourName("EnvironmentVariable[a-zA-Z]*\\(\"([A-Z_]+)\"");
+    const QString environment = plain(manual()).section(".SH ENVIRONMENT", 1).section(".SH", 0, 0);
+    QStringList names;
+    for (const char *folder : {"src", "tools"}) {
+        QDirIterator files(QString(PX_SOURCE_DIRECTORY "/") + folder, {"*.cpp"}, QDir::Files,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            QFile file(files.next());
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            for (auto all = ourName.globalMatch(file.readAll()); all.hasNext();)
+                names.append(all.next().captured(1));
+        }
+    }
+    QVERIFY(names.contains("PX_THREADS") && names.contains("NO_COLOR"));
+    names.removeAll("QT_QPA_PLATFORM"); // which the program sets for itself
+    for (const QString &name : qAsConst(names))
+        QVERIFY2(environment.contains(".TP\n" + name + '\n'), qPrintable(name));
 }
 
 void PxShellTest::manualIsWellFormed()

@@ -9,6 +9,28 @@ namespace {
 
 constexpr int lineWidth = 78;
 
+struct Variable
+{
+    const char *name;
+    const char *meaning;
+};
+
+constexpr Variable variables[] = {
+    {"PX_RESOURCE_DIRS", "The resource directories of a catalogue, as --resources names them."},
+    {"PX_THEMES_DIR", "The directory of the theme files, unless the command line names a catalogue "
+                      "or --themes."},
+    {"PX_USER_DEFAULTS_DIR", "The directory of the user's default templates, unless the command "
+                             "line names a catalogue or --user-defaults."},
+    {"PX_THREADS", "How many threads read files and write pages, a number above 0. Default: one "
+                   "for each core, at most eight."},
+    {"LANGUAGE, LC_ALL, LC_MESSAGES, LANG", "The locale, whose language display names have unless "
+                                            "--lang is given."},
+    {"COLUMNS", "How wide tables and texts may be. Default: as the terminal; in a pipe or file "
+                "they are not shortened."},
+    {"NO_COLOR", "If it is set, findings of check have no colours unless --color is given. The "
+                 "terminal \"dumb\" (TERM) has none either."},
+};
+
 /** In ASCII, so that every formatter and every locale shows the same characters. */
 QString escaped(const QString &text)
 {
@@ -69,6 +91,14 @@ QString options(const QVector<PxOption> &options)
     return text;
 }
 
+QString environment()
+{
+    QString text;
+    for (const Variable &variable : variables)
+        text += ".TP\n" + bold(variable.name) + '\n' + filled(variable.meaning);
+    return text;
+}
+
 QString synopsis(const PxCommandUsage &usage)
 {
     QString line = bold(QCoreApplication::applicationName() + ' ' + usage.name);
@@ -120,6 +150,7 @@ PxOutputText PxManual::text()
         section("SYNOPSIS") + synopsisOfAll() + section("DESCRIPTION") +
         filled(PxCommand::purposeOfAll().simplified()) + section("COMMANDS") + allCommands() +
         section("OPTIONS OF EVERY COMMAND") + options(PxOption::ofEveryCommand()) +
-        section("EXIT STATUS") + filled(PxCommand::exitStatusOfAll()) + section("SEE ALSO") +
+        section("ENVIRONMENT") + environment() + section("EXIT STATUS") +
+        filled(PxCommand::exitStatusOfAll()) + section("SEE ALSO") +
         filled(PX_DOCUMENTATION_URL "/pxcatalogue.md"));
 }
