@@ -166,11 +166,12 @@ public:
      * size.
      */
     double widthByHeight() const;
-    /** The size of an icon with this width; its height is 0 if the ratio is 0 or not finite. */
+    /** The size of an icon of this width in pixels; its height is 0 if the ratio is 0 or not
+     * finite. */
     QSize optimumIconSizeSinglePage(int width) const;
     /** The same for a spread, which for a duplex product is two pages. */
     QSize optimumIconSize(int width) const;
-    /** The smallest picture that the editor makes: 100 by 100 for every product. */
+    /** The smallest picture that the editor makes: 100 by 100 pixels for every product. */
     QSize minimumImageAreaSize() const;
     /** Whether pages lie side by side, not one above the other. */
     bool horizontalPages() const;

@@ -110,10 +110,16 @@ public:
         const PxProductClass &productClass) const;
 
     // Computed for one product
-    /** The file names of the pages, in the order in which production numbers the pages. */
+    /**
+     * The file names of the pages, in the order in which production numbers the pages; as given for
+     * a product that does not number them otherwise. What the names are does not matter.
+     */
     QStringList sortPageFileNameListInInternOrder(const PxProductType &type,
                                                   const QStringList &fileNames) const;
-    /** The font size, in points, of a text that is easy to read on a page of the product. */
+    /**
+     * The font size, in points, of a text that is easy to read on a page of the product: by its
+     * size class, or without one by the area of a normal page.
+     */
     int suitablePointSize(const PxProductType &type) const;
     /**
      * The size of a normal page, or, unless `singlePage`, of the double page of a book whose pages

@@ -177,7 +177,7 @@ public:
     PxPageTypeList pageTypes(int pageCount) const;
     /** How the editor names the pages; unknown by default. */
     PxPageNamingStyle pageNamingStyle() const { return m_pageNamingStyle; }
-    /** Whether pages lie side by side, not one above the other. */
+    /** Whether pages lie side by side, not one above the other; true by default. */
     bool horizontalPages() const { return m_horizontalPages; }
     /** Whether it has the plain card style; not for single cards and college blocks. */
     bool hasCardStyleAlignment() const { return m_cardAlignment == CardAlignment::CardStyle; }
@@ -225,9 +225,12 @@ public:
     int safetyMargin() const { return m_safetyMargin; }
     /** The same at each edge. */
     PxMargins safetyMargins() const { return m_safetyMargins; }
-    /** The part of a page that disappears in the fold. */
+    /**
+     * The part of a page that disappears in the fold. By default a few per cent of the width if a
+     * surrounding shows the shade of the binding, otherwise 0.
+     */
     int foldMargin() const { return m_foldMargin; }
-    /** The width of a normal page that a clamp binding takes. */
+    /** The width of a normal page that a clamp binding takes; 0 by default. */
     int normalPageHorizontalClamp() const { return m_normalPageHorizontalClamp; }
     /** The same for any kind of page; 0 for all but normal pages. */
     int clampExtra(const PxPageType &pageType) const;
@@ -235,7 +238,7 @@ public:
     // Spine
     /** Whether the page list contains a spine. */
     bool hasSpine() const { return m_hasSpine; }
-    /** 0 for a page count without a spine. */
+    /** The width of the spine with this page count, by the spine table; 0 if that has none. */
     int spineWidth(int pageCount) const;
     /**
      * The height of the tallest text that fits on the spine; 0 for a page count without a spine.

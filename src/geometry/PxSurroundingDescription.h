@@ -35,17 +35,17 @@ public:
     PxSurroundingType surroundingType() const { return m_surroundingType; }
     /** The kinds of page that it is for; a missing attribute means all. */
     PxPageType pageTypes() const { return m_pageTypes; }
-    /** The sides that it is for. */
+    /** The sides that it is for; a missing attribute means all. */
     PxPageAlignment alignments() const { return m_alignments; }
     /** The one page to which it is pinned; -1 for none. */
     int pageNr() const { return m_pageNr; }
-    /** Whether it is painted above the page content, not below. */
+    /** Whether it is painted above the page content, not below; true by default. */
     bool paintOnTop() const { return m_paintOnTop; }
     /** The name of the image resource. */
     QString image() const { return m_image; }
     /** The place of the image, in the unit of the product files; null if the file has none. */
     QRect imageRect() const { return m_imageRect; }
-    /** Whether the image shows the shade of the binding fold. */
+    /** Whether the image shows the shade of the binding fold; false by default. */
     bool hasBindingShade() const { return m_hasBindingShade; }
 
     /** Whether it may be painted on this page; see PxSurroundingKey::isOkayFor(). */

@@ -101,8 +101,9 @@ PxXMLFault readBytes(const QFileInfo &info, QByteArray &bytes)
                                                   : QStringLiteral("there is no such file"));
     if (path.startsWith(QLatin1Char(':')))
         return readResource(path, bytes);
+    const QByteArray name = QFile::encodeName(path);
     const int handle = unlessInterrupted(
-        [&] { return ::open(QFile::encodeName(path), O_RDONLY | O_NONBLOCK | O_CLOEXEC); });
+        [&] { return ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); });
     if (handle == -1)
         return cannotOpen(qt_error_string(errno));
     PxXMLFault fault = readHandle(handle, bytes);

@@ -12,7 +12,7 @@
  *
  * All functions return a null node, never a part of a tree, if the file cannot be opened, is not
  * well-formed XML or exceeds a limit. They put the reason into `fault`, or into `error` as one line
- * `file:line:column: message`; line and column count from 1, and are 0:0 if the fault has no place
+ * `FILE:LINE:COLUMN: message`; line and column count from 1, and are 0:0 if the fault has no place
  * in the text. Success clears `error`. Nothing is logged.
  *
  * The tree is that of QDomDocument::setContent() without namespace processing, with these
