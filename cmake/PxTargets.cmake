@@ -24,9 +24,10 @@ function(px_set_defaults target)
         VISIBILITY_INLINES_HIDDEN ON
         EXPORT_COMPILE_COMMANDS ON
         BUILD_RPATH_USE_ORIGIN ON
+        UNITY_BUILD OFF # sources have names of their own in unnamed namespaces
         LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR}
         RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_BINDIR})
-    if(PX_CCACHE AND PROJECT_IS_TOP_LEVEL)
+    if(PX_CCACHE AND PROJECT_IS_TOP_LEVEL AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
         set_target_properties(${target} PROPERTIES CXX_COMPILER_LAUNCHER ${PX_CCACHE})
     endif()
 endfunction()
@@ -97,7 +98,7 @@ function(px_add_test name)
     px_set_test_environment(${name})
 endfunction()
 
-# One fuzzer of the same name as its source, part of the target PxFuzzers; the preset "fuzz" instruments all the rest.
+# One fuzzer of the same name as its source, part of the target PxFuzzers; the preset "asan" instruments all the rest.
 function(px_add_fuzzer name)
     add_executable(${name} ${name}.cpp)
     px_set_defaults(${name})

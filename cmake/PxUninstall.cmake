@@ -1,13 +1,19 @@
 # Removes what the last "cmake --install" of the build directory BINARY_DIR has installed, and the folders of the
-# project PROJECT that are left empty.
+# project PROJECT that are left empty. What is installed stays known until all of it is removed.
 
 set(manifest ${BINARY_DIR}/install_manifest.txt)
 if(NOT EXISTS ${manifest})
-    message(FATAL_ERROR "Nothing is known to be installed: ${manifest} is missing.")
+    message(FATAL_ERROR "Nothing is known to be installed: ${manifest} is missing. An installation of one component is "
+        "not known.")
 endif()
 file(STRINGS ${manifest} files)
+set(kept "")
 foreach(file IN LISTS files)
+    # Where the user may not remove it, file() says nothing.
     file(REMOVE $ENV{DESTDIR}${file})
+    if(EXISTS $ENV{DESTDIR}${file} OR IS_SYMLINK $ENV{DESTDIR}${file})
+        string(APPEND kept "\n  $ENV{DESTDIR}${file}")
+    endif()
     cmake_path(GET file PARENT_PATH directory)
     while(directory MATCHES "/${PROJECT}(/|$)")
         file(GLOB rest LIST_DIRECTORIES TRUE $ENV{DESTDIR}${directory}/*)
@@ -18,4 +24,7 @@ foreach(file IN LISTS files)
         cmake_path(GET directory PARENT_PATH directory)
     endwhile()
 endforeach()
+if(kept)
+    message(FATAL_ERROR "These files cannot be removed, perhaps for want of permission:${kept}")
+endif()
 file(REMOVE ${manifest})

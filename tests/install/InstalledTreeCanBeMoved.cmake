@@ -79,4 +79,11 @@ file(GLOB_RECURSE left ${SCRATCH}/installed/*)
 if(NOT left STREQUAL others OR EXISTS ${SCRATCH}/installed/include/PxProductProperties)
     message(SEND_ERROR "Without the installed files there shall be ${others}, but there are ${left}")
 endif()
+# What cannot be removed, as this folder, stays known.
+file(WRITE ${SCRATCH}/build/install_manifest.txt ${SCRATCH}/build)
+execute_process(COMMAND ${CMAKE_COMMAND} -DBINARY_DIR=${SCRATCH}/build -DPROJECT=PxProductProperties -P ${UNINSTALL}
+    RESULT_VARIABLE result ERROR_VARIABLE error)
+if(result EQUAL 0 OR NOT error MATCHES "${SCRATCH}/build" OR NOT EXISTS ${SCRATCH}/build/install_manifest.txt)
+    message(SEND_ERROR "What cannot be removed: ${error}")
+endif()
 file(REMOVE_RECURSE ${SCRATCH})
