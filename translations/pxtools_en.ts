@@ -457,6 +457,10 @@
         <translation>Layers</translation>
     </message>
     <message>
+        <source>Auf Papier steht eine Auswahl. Die Seite am Bildschirm zeigt alles, auch woher die Werte kommen.</source>
+        <translation>This sheet has a selection. The page on the screen shows all, also where values come from.</translation>
+    </message>
+    <message>
         <source>Mit %1 Seiten</source>
         <translation>With %1 pages</translation>
     </message>

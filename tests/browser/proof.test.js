@@ -295,6 +295,36 @@ test('no page is wider than its window', async () => {
   }
 });
 
+test('a product is one sheet of paper', async () => {
+  const page = await open('index.html');
+  for (const file of fs.readdirSync(proof).filter(name => /^(product|earlier)-.*html$/.test(name))) {
+    await page.goto(urlOf(file));
+    const pdf = Buffer.from(await page.pdf({ format: 'A4' })).toString('latin1');
+    assert.equal(pdf.match(/\/Type \/Page\b/g).length, 1, file);
+  }
+  await closed(page);
+});
+
+test('what is on paper can be read, and is of the usual page count', async () => {
+  const page = await open('product-book-a4-landscape.html');
+  const usual = '32';
+  await page.click('.drawings input[type=radio][value="154"]');
+  await page.emulateMediaType('print');
+  const drawn = await page.$$eval('.drawing', drawings => drawings
+    .filter(drawing => drawing.checkVisibility()).map(drawing => drawing.dataset.counts.split(' ')));
+  assert.ok(drawn.length > 1 && drawn.every(counts => counts.includes(usual)), drawn);
+  const smallest = await page.$$eval('main *', elements => Math.min(...elements
+    .filter(element => element.checkVisibility() && element.closest('svg') === null
+      && [...element.childNodes].some(node => node.nodeType === Node.TEXT_NODE && node.data.trim()))
+    .map(element => parseFloat(getComputedStyle(element).fontSize))));
+  assert.ok(smallest * 72 / 96 >= 6.5, `${smallest} px`);
+  const words = await page.$$eval('.drawing.usual text', texts => texts
+    .filter(text => getComputedStyle(text.closest('.layer')).display !== 'none')
+    .map(text => text.textContent));
+  assert.deepEqual(words, []);
+  await closed(page);
+});
+
 test('the HTML is good', () => {
   // What tidy does not know yet, or only in HTML: attributes of images and of SVG.
   const known = /"loading"|<title> proprietary|"font-family"|<svg> attribute "(width|height)"|empty <output>/;

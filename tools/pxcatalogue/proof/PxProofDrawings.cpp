@@ -40,16 +40,20 @@ int numberOf(PxDrawnLayer layer)
     return int(qCountTrailingZeroBits(quint32(layer)));
 }
 
+int usualPageCount(const PxProofProduct &product)
+{
+    const PxProductTypeDescription &description = *product.registry->description(product.type);
+    return PxPageCounts::standard(description, description.offeredPageCounts());
+}
+
 /** Each once, ascending, with what it is among those that are offered. */
 QMap<int, QStringList> shownPageCounts(const PxProofProduct &product)
 {
-    const PxProductTypeDescription &description = *product.registry->description(product.type);
-    const QList<int> offered = description.offeredPageCounts();
-    const int usual = PxPageCounts::standard(description, offered);
+    const QList<int> offered = product.registry->description(product.type)->offeredPageCounts();
     QMap<int, QStringList> counts;
     if (!offered.isEmpty())
         counts[offered.first()].append(PxProofWords::tr("kleinste"));
-    counts[usual].append(PxProofWords::tr("übliche"));
+    counts[usualPageCount(product)].append(PxProofWords::tr("übliche"));
     if (!offered.isEmpty())
         counts[offered.last()].append(PxProofWords::tr("größte"));
     return counts;
@@ -96,8 +100,17 @@ PxDrawnProduct withSheets(PxDrawnProduct product, const QVector<PxSharedSheet> &
     return product;
 }
 
-/** "Mit 26, 50 Seiten: Umschlag, Seiten 0-2", a line for each way in which pages are numbered. */
-void addCaption(PxHtml *html, const PxSharedSheet &shared)
+/** The class by which only the usual page count is on paper. */
+QString classOf(const QStringList &counts, int usual)
+{
+    return counts.contains(QString::number(usual)) ? "usual" : QString();
+}
+
+/**
+ * "Mit 26, 50 Seiten: Umschlag, Seiten 0-2", a line for each way in which pages are numbered. On
+ * paper the description stands for the words of the drawing, which are too small there.
+ */
+void addCaption(PxHtml *html, const PxSharedSheet &shared, int usual, const QString &description)
 {
     html->open("figcaption");
     for (auto use = shared.uses.begin(); use != shared.uses.end();) {
@@ -106,13 +119,17 @@ void addCaption(PxHtml *html, const PxSharedSheet &shared)
         QStringList counts;
         for (; use != shared.uses.end() && use->pages == sheet.standsFor; ++use)
             counts.append(QString::number(use->pageCount));
-        html->element("p", PxProofWords::tr("Mit %1 Seiten").arg(counts.join(", ")) + ": " +
-                               PxDrawnWords::heading(sheet));
+        html->element("p",
+                      PxProofWords::tr("Mit %1 Seiten").arg(counts.join(", ")) + ": " +
+                          PxDrawnWords::heading(sheet),
+                      {{"class", classOf(counts, usual)}});
     }
+    html->element("p", description, {{"class", "on-paper"}});
     html->close();
 }
 
-void addSheet(PxHtml *html, const PxDrawing &drawing, int index, const PxSharedSheet &shared)
+void addSheet(PxHtml *html, const PxDrawing &drawing, int index, const PxSharedSheet &shared,
+              int usual)
 {
     QStringList counts;
     for (const PxSharedSheet::Use &use : shared.uses)
@@ -121,9 +138,10 @@ void addSheet(PxHtml *html, const PxDrawing &drawing, int index, const PxSharedS
     sheet.sheets = {drawing.sheets[index]};
     sheet.title = sheet.sheets[0].title;
     sheet.description = sheet.sheets[0].description;
-    html->open("figure", {{"class", "drawing"}, {"data-counts", counts.join(' ')}});
+    html->open("figure", {{"class", ("drawing " + classOf(counts, usual)).trimmed()},
+                          {"data-counts", counts.join(' ')}});
     PxDrawingSvg::write(sheet, QString("drawing-%1-").arg(index), html);
-    addCaption(html, shared);
+    addCaption(html, shared, usual, sheet.description);
     html->close();
 }
 
@@ -143,7 +161,7 @@ void PxProofDrawings::addTo(PxHtml *html, const PxProofProduct &product)
     html->open("div", {{"class", "drawings"}});
     addSwitches(html, product.page, counts);
     for (int i = 0; i < shared.size(); ++i)
-        addSheet(html, drawing, i, shared[i]);
+        addSheet(html, drawing, i, shared[i], usualPageCount(product));
     if (rest > 0)
         html->element("p", PxProofWords::tr("Weitere: %1").arg(rest));
     for (const PxDrawnProduct &drawn : qAsConst(products)) {

@@ -186,7 +186,9 @@ void addCompatible(PxHtml *html, const Subject &subject)
         html->open("li");
         addLink(html, other.productName(),
                 PxPageNames::of(PxPageNames::Kind::Product, other.productName()));
-        html->text(texts.value(agreeing.value(other)));
+        const QString criteria = texts.value(agreeing.value(other));
+        if (!criteria.isEmpty())
+            html->element("span", criteria, {{"class", "quiet"}});
         html->close();
     }
     html->close();
@@ -248,11 +250,19 @@ QByteArray PxProofProductPage::page(const PxProofCatalogue &catalogue,
         html.element("p", PxProofWords::tr("Aus einem früheren Katalog"), {{"class", "quiet"}});
     html.element("p", product.type.shortProductName(), {{"class", "quiet"}});
     addContents(&html, subject);
+    html.open("div", {{"class", "product"}});
     for (const auto &section : sections) {
         if (!section.isThere(subject))
             continue;
+        html.open("section", {{"aria-labelledby", section.id}});
         page.addHeading(PxProofWords::tr(section.heading), section.id);
         section.add(&html, subject);
+        html.close();
     }
+    html.close();
+    html.element("p",
+                 PxProofWords::tr("Auf Papier steht eine Auswahl. Die Seite am Bildschirm zeigt "
+                                  "alles, auch woher die Werte kommen."),
+                 {{"class", "on-paper"}});
     return page.finished();
 }

@@ -129,6 +129,26 @@
     update();
   }
 
+  // On paper a drawing has no words, and needs no room for them.
+  function cropDrawings() {
+    const boxes = new Map();
+    addEventListener('beforeprint', () => {
+      for (const drawing of document.querySelectorAll('.drawing svg')) {
+        const { total, canvas } = drawing.querySelector('.sheet').dataset;
+        const [left, top, width, height] = total.split(' ').map(Number);
+        const [canvasLeft, canvasTop] = canvas.split(' ').map(Number);
+        const edge = Math.max(width, height) / 20; // marks and hooks stand there
+        boxes.set(drawing, drawing.getAttribute('viewBox'));
+        drawing.setAttribute('viewBox', [left - canvasLeft - edge, top - canvasTop - edge,
+                                         width + 2 * edge, height + 2 * edge].join(' '));
+      }
+    });
+    addEventListener('afterprint', () => {
+      for (const [drawing, box] of boxes)
+        drawing.setAttribute('viewBox', box);
+    });
+  }
+
   const lists = Array.from(document.querySelectorAll('.list'), makeList);
   addEventListener('hashchange', () => {
     const isState = location.hash.includes('='); // not after a link to a heading
@@ -137,4 +157,5 @@
   });
   for (const drawings of document.querySelectorAll('.drawings'))
     switchDrawings(drawings);
+  cropDrawings();
 })();
