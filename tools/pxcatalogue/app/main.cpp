@@ -91,8 +91,9 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationVersion(PX_CATALOGUE_VERSION);
     if (const auto status = runIn<QCoreApplication>(argc, argv))
         return *status;
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen"); // without a display Qt would abort
+    // Qt would abort without a display, or if the user's platform were not there. No other is
+    // needed.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     // What Qt says of the user's session does not matter to files.
     PxCatalogueLog::install(PxCatalogueLog::Shown::Nothing);
     return *runIn<QGuiApplication>(argc, argv);
