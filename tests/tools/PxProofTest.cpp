@@ -25,6 +25,7 @@ private slots:
     void otherFoldersAreKept_data();
     void otherFoldersAreKept();
     void brokenRunKeepsTheEarlierProof();
+    void catalogueAndCurrentFolderAreKept();
     void killedRunIsClearedUp();
 
 private:
@@ -294,6 +295,7 @@ void PxProofTest::bytesAreTheSameEverywhere()
     QVERIFY(QFile::rename(catalogue.path(), moved));
     QCOMPARE(write({"--resources", moved}, {{"QT_HASH_SEED", "2"},
                                             {"PX_THREADS", "4"},
+                                            {"QT_QPA_PLATFORM", "none"},
                                             {"TZ", "America/St_Johns"},
                                             {"LC_ALL", "C"}})
                  .status(),
@@ -355,8 +357,36 @@ void PxProofTest::brokenRunKeepsTheEarlierProof()
     QCOMPARE(run.status(), 2);
     QCOMPARE(run.errors().size(), 1);
     QCOMPARE(filesIn(m_directory->path()), before);
-    QCOMPARE(write({"--title", "new"}).status(), 0);
+    const PxProgramRun second = write({"--title", "new"});
+    QCOMPARE(second.status(), 0);
+    QCOMPARE(second.errors() + second.output(), QStringList());
     QCOMPARE(elements(page("index"), "h1").value(0).text(), QString("new"));
+}
+
+void PxProofTest::catalogueAndCurrentFolderAreKept()
+{
+    const PxSampleCopy catalogue;
+    const auto outputs = {catalogue.path(), catalogue.filePath("products/new/proof"),
+                          catalogue.filePath("themes")};
+    for (const QString &output : outputs) {
+        const Files before = filesIn(catalogue.path());
+        const PxProgramRun run(PX_CATALOGUE_PROGRAM,
+                               {"proof", "--output", output, "--resources", catalogue.path()});
+        QCOMPARE(run.status(), 2);
+        QVERIFY(run.errors().value(0).contains("it belongs to the catalogue"));
+        QCOMPARE(filesIn(catalogue.path()), before);
+    }
+    QCOMPARE(write().status(), 0);
+    const PxProgramRun inside("sh", {"-c", "cd \"$1/drawings\" && \"$0\" proof --output ..",
+                                     PX_CATALOGUE_PROGRAM, m_folder});
+    QCOMPARE(inside.status(), 2);
+    QVERIFY(inside.errors().value(0).contains("run it from another folder"));
+    const auto readable = QFile::permissions(m_folder) | QFile::ReadOther | QFile::ExeOther;
+    for (const auto permissions : {readable, readable ^ (QFile::ReadOther | QFile::ExeOther)}) {
+        QVERIFY(QFile::setPermissions(m_folder, permissions));
+        QCOMPARE(write().status(), 0);
+        QCOMPARE(QFile::permissions(m_folder), permissions);
+    }
 }
 
 /** It may have been killed while it wrote, or between the two steps that put the new folder in

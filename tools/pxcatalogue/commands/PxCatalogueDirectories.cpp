@@ -218,6 +218,14 @@ std::optional<PxProblem> PxCatalogueDirectories::applyResources(const QString &d
     return problem ? problem : readTypes();
 }
 
+QStringList PxCatalogueDirectories::sources()
+{
+    const auto *config = PxDirectoryConfig::instance();
+    return {QFileInfo(resource("producttypes.xml")).path(), resource("products"),
+            resource("products/legacy"), config->lumoThemesDirectory(false).path(),
+            config->userDefaultsPath()};
+}
+
 std::optional<PxProblem> PxCatalogueDirectories::applyForCheck(const PxCommandLine &line)
 {
     const QStringList paths = line.arguments();

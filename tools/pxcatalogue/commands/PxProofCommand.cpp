@@ -108,7 +108,7 @@ PxExitStatus PxProofCommand::run(const PxCommandLine &line) const
         return fail({"--output is missing: the folder to write"});
     if (const auto problem = PxCatalogueDirectories::apply(line))
         return fail(*problem);
-    PxProofFolder folder(line.value("output"));
+    PxProofFolder folder(line.value("output"), PxCatalogueDirectories::sources());
     if (const auto problem = folder.begin())
         return fail(*problem);
     std::optional<PxOtherCatalogue> other;

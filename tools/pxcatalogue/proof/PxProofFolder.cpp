@@ -10,10 +10,18 @@ namespace {
 
 constexpr const char *writtenLast = "catalogue.json";
 
+/** Without links, as far as the path exists. */
 QString placeOf(const QString &path)
 {
-    const QFileInfo info(path);
-    return info.exists() ? info.canonicalFilePath() : QDir::cleanPath(info.absoluteFilePath());
+    const QFileInfo info(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
+    return info.exists() ? info.canonicalFilePath()
+                         : QDir(placeOf(info.path())).filePath(info.fileName());
+}
+
+/** Whether the path is the folder or a place in it. Both have no links. */
+bool isIn(const QString &path, const QString &folder)
+{
+    return (path + '/').startsWith(folder + '/');
 }
 
 /** Whether nobody has put a file of another kind into the folder. */
@@ -45,8 +53,9 @@ bool isProof(const QString &path)
 
 } // namespace
 
-PxProofFolder::PxProofFolder(const QString &path)
+PxProofFolder::PxProofFolder(const QString &path, const QStringList &sources)
     : m_given(path)
+    , m_sources(sources)
     , m_path(placeOf(path))
     , m_unfinished(m_path + ".unfinished")
     , m_old(m_path + ".old")
@@ -85,8 +94,14 @@ std::optional<PxProblem> PxProofFolder::problemOfPlace() const
     const QFileInfo info(m_path);
     if (!info.exists() && info.isSymLink())
         return cannot("it is a link to nothing; name another folder");
+    for (const QString &source : m_sources) {
+        if (isIn(m_path, placeOf(source)))
+            return cannot("it belongs to the catalogue; name another folder");
+    }
     if (!info.exists())
         return std::nullopt;
+    if (isIn(placeOf("."), m_path))
+        return cannot("it is replaced, and this runs in it; run it from another folder");
     if (!info.isDir())
         return cannot("it is a file; name another folder");
     if (!isEmpty(m_path) && !isProof(m_path))
@@ -115,8 +130,15 @@ std::optional<PxProblem> PxProofFolder::write(const QString &name, const QByteAr
     return isWritten ? std::nullopt : std::optional(cannot(name + ": " + file.errorString()));
 }
 
+bool PxProofFolder::has(const QString &name) const
+{
+    return QFileInfo::exists(m_unfinished + '/' + name);
+}
+
 std::optional<PxProblem> PxProofFolder::finish()
 {
+    if (QFileInfo::exists(m_path))
+        QFile::setPermissions(m_unfinished, QFile::permissions(m_path));
     if (QFileInfo::exists(m_path) && !QDir().rename(m_path, m_old))
         return cannot("the earlier proof cannot be moved away");
     if (!QDir().rename(m_unfinished, m_path)) {

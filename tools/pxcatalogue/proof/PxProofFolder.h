@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QLockFile>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -17,18 +18,22 @@
 class PxProofFolder
 {
 public:
-    explicit PxProofFolder(const QString &path);
+    /** The catalogue is read from `sources`. */
+    PxProofFolder(const QString &path, const QStringList &sources);
     /** Removes what is not finished. */
     ~PxProofFolder();
     Q_DISABLE_COPY(PxProofFolder)
 
     /**
      * Refuses a folder that is neither empty nor an earlier proof, which is one with the file
-     * catalogue.json and with no others than those of a proof.
+     * catalogue.json and with no others than those of a proof; and one in which somebody stands or
+     * that belongs to the catalogue.
      */
     std::optional<PxProblem> begin();
     /** Several threads may write. */
     std::optional<PxProblem> write(const QString &name, const QByteArray &contents) const;
+    /** Whether this was written in this run. */
+    bool has(const QString &name) const;
     std::optional<PxProblem> finish();
 
 private:
@@ -38,6 +43,7 @@ private:
     PxProblem cannot(const QString &why) const;
 
     const QString m_given; ///< as the user calls it
+    const QStringList m_sources;
     QString m_path;
     QString m_unfinished; ///< what is written, until it is finished
     QString m_old;        ///< an earlier proof, until the new one is at its place
