@@ -16,6 +16,8 @@
 #include <QMap>
 #include <QStringList>
 
+#include <algorithm>
+
 namespace {
 
 /** What a switch shows or hides. */
@@ -59,7 +61,16 @@ QMap<int, QStringList> shownPageCounts(const PxProofProduct &product)
     return counts;
 }
 
-void addSwitches(PxHtml *html, const QString &name, const QMap<int, QStringList> &counts)
+bool hasLayer(const PxDrawing &drawing, PxDrawnLayer layer)
+{
+    const auto isThere = [layer](const PxDrawingSheet &sheet) {
+        return !sheet.layers[numberOf(layer)].isEmpty();
+    };
+    return std::any_of(drawing.sheets.begin(), drawing.sheets.end(), isThere);
+}
+
+void addSwitches(PxHtml *html, const QString &name, const QMap<int, QStringList> &counts,
+                 const PxDrawing &drawing)
 {
     html->open("form", {{"class", "needs-script"}});
     if (counts.size() > 1) {
@@ -80,6 +91,8 @@ void addSwitches(PxHtml *html, const QString &name, const QMap<int, QStringList>
     html->open("fieldset");
     html->element("legend", PxProofWords::tr("Ebenen"));
     for (const PxDrawnLayer layer : switched) {
+        if (!hasLayer(drawing, layer))
+            continue;
         html->open("label");
         html->single("input", {{"type", "checkbox"},
                                {"value", pxDrawnLayerName(numberOf(layer))},
@@ -139,6 +152,7 @@ void addSheet(PxHtml *html, const PxDrawing &drawing, int index, const PxSharedS
     sheet.title = sheet.sheets[0].title;
     sheet.description = sheet.sheets[0].description;
     html->open("figure", {{"class", ("drawing " + classOf(counts, usual)).trimmed()},
+                          {"tabindex", "0"}, // it can be scrolled sideways
                           {"data-counts", counts.join(' ')}});
     PxDrawingSvg::write(sheet, QString("drawing-%1-").arg(index), html);
     addCaption(html, shared, usual, sheet.description);
@@ -159,7 +173,8 @@ void PxProofDrawings::addTo(PxHtml *html, const PxProofProduct &product)
     shared = shared.mid(0, mostSheets);
     const PxDrawing drawing = pxDrawAll(withSheets(products.constFirst(), shared), inPage);
     html->open("div", {{"class", "drawings"}});
-    addSwitches(html, product.page, counts);
+    if (!shared.isEmpty())
+        addSwitches(html, product.page, counts, drawing);
     for (int i = 0; i < shared.size(); ++i)
         addSheet(html, drawing, i, shared[i], usualPageCount(product));
     if (rest > 0)
