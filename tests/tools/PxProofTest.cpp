@@ -21,6 +21,7 @@ private slots:
     void changesAreShown_data();
     void changesAreShown();
     void hostileNamesAreTexts();
+    void linksLeadSomewhere();
     void bytesAreTheSameEverywhere();
     void otherFoldersAreKept_data();
     void otherFoldersAreKept();
@@ -280,6 +281,27 @@ void PxProofTest::hostileNamesAreTexts()
     QCOMPARE(QStringList(files.keys()).filter(".html").size(), 30 + 1 + 32 + 1);
     QCOMPARE(linkTo(page("index"), script),
              QString("product--script-alert-1---script-_5c140d35dcb46a622e2cedf5ef5cc363.html"));
+}
+
+/** A catalogue may have neither earlier products nor themes. */
+void PxProofTest::linksLeadSomewhere()
+{
+    const PxSampleCopy catalogue;
+    for (int run = 0; run < 2; ++run) {
+        QCOMPARE(write({"--resources", catalogue.path()}).status(), 0);
+        QSet<QString> targets{"index.html"};
+        for (const QDomElement &heading : elements(page("index"), "h2"))
+            targets.insert("index.html#" + heading.attribute("id"));
+        for (const char *name : {"index", "product-cup2"}) {
+            const QDomElement nav = elements(page(name), "nav").value(0);
+            const QDomNodeList links = nav.elementsByTagName("a");
+            QCOMPARE(links.size(), run == 0 ? 3 : 1);
+            for (int i = 0; i < links.size(); ++i)
+                QVERIFY(targets.contains(links.at(i).toElement().attribute("href")));
+        }
+        for (const char *part : {"themes", "products/legacy"})
+            QVERIFY(QDir(catalogue.filePath(part)).removeRecursively());
+    }
 }
 
 void PxProofTest::bytesAreTheSameEverywhere()

@@ -327,7 +327,7 @@ void addThemes(PxHtml *html, const PxProofCatalogue &catalogue)
 
 QByteArray PxProofIndex::page(const PxProofCatalogue &catalogue)
 {
-    PxProofPage page(catalogue.title, catalogue.title);
+    PxProofPage page(catalogue, catalogue.title);
     PxHtml &html = page.html();
     if (catalogue.diff) {
         page.addHeading(PxProofWords::tr("Änderungen"), "changes");

@@ -1,5 +1,6 @@
 #include "proof/PxProofPage.h"
 
+#include "proof/PxProofCatalogue.h"
 #include "proof/PxProofWords.h"
 
 namespace {
@@ -10,18 +11,20 @@ constexpr const char *policy = "default-src 'none'; img-src 'self'; style-src 's
 
 } // namespace
 
-PxProofPage::PxProofPage(const QString &catalogue, const QString &heading)
+PxProofPage::PxProofPage(const PxProofCatalogue &catalogue, const QString &heading)
 {
     m_html.open("html", {{"lang", PxProofWords::language()}});
-    writeHead(heading == catalogue ? catalogue : heading + " - " + catalogue);
+    writeHead(heading == catalogue.title ? heading : heading + " - " + catalogue.title);
     m_html.open("body");
     m_html.element("a", PxProofWords::tr("Zum Inhalt"), {{"class", "skip"}, {"href", "#content"}});
     m_html.open("header", {{"class", "top"}});
     m_html.open("nav", {{"aria-label", PxProofWords::tr("Katalog")}});
-    m_html.element("strong", catalogue);
+    m_html.element("strong", catalogue.title);
     m_html.element("a", PxProofWords::tr("Produkte"), {{"href", "index.html"}});
-    m_html.element("a", PxProofWords::tr("Frühere Produkte"), {{"href", "index.html#earlier"}});
-    m_html.element("a", PxProofWords::tr("Themen"), {{"href", "index.html#themes"}});
+    if (!catalogue.legacyProducts.isEmpty())
+        m_html.element("a", PxProofWords::tr("Frühere Produkte"), {{"href", "index.html#earlier"}});
+    if (!catalogue.themes.isEmpty())
+        m_html.element("a", PxProofWords::tr("Themen"), {{"href", "index.html#themes"}});
     m_html.close();
     m_html.close();
     m_html.open("main", {{"id", "content"}});

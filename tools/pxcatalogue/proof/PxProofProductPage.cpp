@@ -244,7 +244,7 @@ QByteArray PxProofProductPage::page(const PxProofCatalogue &catalogue,
     const PxShownProduct shown =
         PxProductReport::shown(product.registry, product.type, 0, QString());
     const Subject subject{catalogue, product, shown, PxOriginFiles(shown), compatibleWith(product)};
-    PxProofPage page(catalogue.title, product.type.productName());
+    PxProofPage page(catalogue, product.type.productName());
     PxHtml &html = page.html();
     if (product.isLegacy)
         html.element("p", PxProofWords::tr("Aus einem früheren Katalog"), {{"class", "quiet"}});

@@ -33,7 +33,7 @@ void addProducts(PxHtml *html, const PxProofCatalogue &catalogue, const PxProofT
 
 QByteArray PxProofThemePage::page(const PxProofCatalogue &catalogue, const PxProofTheme &theme)
 {
-    PxProofPage page(catalogue.title, theme.theme.id());
+    PxProofPage page(catalogue, theme.theme.id());
     PxHtml &html = page.html();
     html.element("p", theme.theme.description(), {{"class", "quiet"}});
     if (theme.hasPicture)
