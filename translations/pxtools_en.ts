@@ -541,12 +541,24 @@
         <translation>Orientation</translation>
     </message>
     <message>
-        <source>Längere Seite ab mm</source>
-        <translation>Longer side from mm</translation>
+        <source>Breite ab mm</source>
+        <translation>Width from mm</translation>
     </message>
     <message>
-        <source>bis mm</source>
-        <translation>to mm</translation>
+        <source>Breite bis mm</source>
+        <translation>Width to mm</translation>
+    </message>
+    <message>
+        <source>Höhe ab mm</source>
+        <translation>Height from mm</translation>
+    </message>
+    <message>
+        <source>Höhe bis mm</source>
+        <translation>Height to mm</translation>
+    </message>
+    <message>
+        <source>%1 bei x %2, y %3</source>
+        <translation>%1 at x %2, y %3</translation>
     </message>
     <message>
         <source>Tabelle der Produkte</source>

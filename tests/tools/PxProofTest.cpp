@@ -134,6 +134,7 @@ void PxProofTest::valuesHaveTheirOrigins()
     QVERIFY(values > 100);
     const QDomElement binding = elements(page("product-book-a4-portrait"), "table").value(1);
     const QJsonObject place = shown.json()["origins"].toObject()["/product/binding"].toObject();
+    QVERIFY(section(page("product-book-a4-portrait"), "spine").contains("20,3"));
     QVERIFY(binding.text().contains(QString("BindungHardcover%1:%2:%3")
                                         .arg(place["path"].toString())
                                         .arg(place["line"].toInt())

@@ -63,7 +63,6 @@ std::optional<PxProblem> PxProof::write(const PxProofCatalogue &catalogue,
             return problem;
     }
     std::vector<PxParallelJobs::Job> jobs;
-    jobs.push_back([&] { return folder.write("index.html", PxProofIndex::page(catalogue)); });
     for (const auto *products : {&catalogue.products, &catalogue.legacyProducts}) {
         for (const PxProofProduct &product : *products)
             jobs.push_back([&] { return writeProduct(catalogue, product, folder); });
@@ -72,6 +71,9 @@ std::optional<PxProblem> PxProof::write(const PxProofCatalogue &catalogue,
         jobs.push_back([&] { return writeTheme(catalogue, theme, folder); });
     PxProgress progress(int(jobs.size()), "pages");
     if (auto problem = PxParallelJobs::run(jobs, &progress))
+        return problem;
+    // The index shows the drawings that could be made.
+    if (auto problem = folder.write("index.html", PxProofIndex::page(catalogue, folder)))
         return problem;
     return folder.write("catalogue.json", catalogue.exported);
 }

@@ -4,6 +4,7 @@
 #include "proof/PxProofCatalogue.h"
 #include "proof/PxProofDifferences.h"
 #include "proof/PxProofFindings.h"
+#include "proof/PxProofFolder.h"
 #include "proof/PxProofPage.h"
 #include "proof/PxProofWords.h"
 #include "report/PxCatalogueProducts.h"
@@ -15,10 +16,13 @@
 
 #include <QMap>
 
+#include <initializer_list>
+
 namespace {
 
 constexpr int longestName = 1000;
-constexpr int mostThemes = 3; // that are named in the table of products
+constexpr int longestText = 20000; // by which a product is found
+constexpr int mostThemes = 3;      // that are named in the table of products
 
 /** A column of a table, with the key by which the address calls it; without a key not sorted. */
 struct Column
@@ -57,6 +61,21 @@ QString shortened(const QString &text)
     return PxTerminal::shortened(text, longestName);
 }
 
+/** The display name of a binding or a paper, or its keyword. */
+QString nameOf(const QJsonValue &attribute)
+{
+    return PxProofWords::value(attribute, PxReportFormat::Name);
+}
+
+/** What the script compares: numbers by their values, one after the other. */
+QString orderOf(std::initializer_list<qint64> numbers)
+{
+    QStringList texts;
+    for (const qint64 number : numbers)
+        texts.append(QString::number(number));
+    return texts.join(' ');
+}
+
 /** What a row of the table shows of a product, and what the filter compares. */
 struct ProductRow
 {
@@ -72,8 +91,8 @@ struct ProductRow
     QString name = shortened(product.type.productName());
     QString shopName = shortened(product.type.shortProductName());
     QString productClass = PxCatalogueProducts::className(product.type);
-    QString binding = description->binding().humanReadableName();
-    QString paper = description->paperType().humanReadableName();
+    QJsonValue binding = PxReportValue::name(description->binding());
+    QJsonValue paper = PxReportValue::name(description->paperType());
     QSizeF size = description->usablePrintSize(PxPageTypeNormalPage, -1);
     QList<int> pageCounts = description->offeredPageCounts();
     QString orientation = keywordOf(description->orientation());
@@ -81,7 +100,19 @@ struct ProductRow
 
     QString sizeText() const
     {
-        return PxReportValue::text(PxReportValue::size(size), PxReportFormat::Size);
+        return PxProofWords::value(PxReportValue::size(size), PxReportFormat::Size);
+    }
+    /** By width, then height. */
+    QString sizeOrder() const
+    {
+        return size.isValid() ? orderOf({qRound64(size.width()), qRound64(size.height())})
+                              : QString();
+    }
+    /** By the smallest, then the largest. */
+    QString pageCountOrder() const
+    {
+        return pageCounts.isEmpty() ? QString()
+                                    : orderOf({pageCounts.constFirst(), pageCounts.constLast()});
     }
     QString themesText() const
     {
@@ -102,12 +133,12 @@ struct ProductRow
         const QStringList words{name,
                                 shopName,
                                 PxProofWords::keyword(productClass),
-                                binding,
-                                paper,
+                                nameOf(binding),
+                                nameOf(paper),
                                 PxProofWords::keyword(orientation),
                                 sizeText(),
-                                shortened(themes.join(' '))};
-        return words.join(' ').toLower();
+                                themes.join(' ')};
+        return PxTerminal::shortened(words.join(' '), longestText);
     }
 };
 
@@ -122,9 +153,14 @@ void addCell(PxHtml *html, const QString &text)
     html->element("td", text);
 }
 
-void addNumber(PxHtml *html, const QString &text, double order)
+void addNumber(PxHtml *html, const QString &text, const QString &order)
 {
-    html->element("td", text, {{"class", "number"}, {"data-sort", QString::number(order, 'f', 0)}});
+    html->element("td", text, {{"class", "number"}, {"data-sort", order}});
+}
+
+void addNumber(PxHtml *html, int number)
+{
+    addNumber(html, QString::number(number), orderOf({number}));
 }
 
 void addPicture(PxHtml *html, const QString &file)
@@ -155,26 +191,32 @@ void addName(PxHtml *html, const QString &name, const QString &page)
     html->close();
 }
 
-void addRow(PxHtml *html, const ProductRow &row)
+/** In tenths of a millimetre. */
+QString lengthOf(double length)
 {
-    const double longest = qMax(row.size.width(), row.size.height());
-    const bool hasSize = row.size.isValid();
+    return length < 0 ? QString() : QString::number(length, 'f', 0);
+}
+
+void addRow(PxHtml *html, const ProductRow &row, const PxProofFolder &folder)
+{
+    const QString picture = row.product.page + ".svg";
     html->open("tr", {{"data-text", row.text()},
                       {"data-class", row.productClass},
-                      {"data-binding", row.binding},
-                      {"data-paper", row.paper},
+                      {"data-binding", row.binding["keyword"].toString()},
+                      {"data-paper", row.paper["keyword"].toString()},
                       {"data-orientation", row.orientation},
-                      {"data-longest", hasSize ? QString::number(longest) : ""},
+                      {"data-width", lengthOf(row.size.width())},
+                      {"data-height", lengthOf(row.size.height())},
                       {"data-counts", PxNumberRanges::text(row.pageCounts).remove(',')}});
-    addPicture(html, hasSize ? row.product.page + ".svg" : QString());
+    addPicture(html, folder.has("drawings/" + picture) ? picture : QString());
     addName(html, row.name, row.product.page);
-    for (const QString &text :
-         {row.shopName, PxProofWords::keyword(row.productClass), row.binding, row.paper})
+    for (const QString &text : {row.shopName, PxProofWords::keyword(row.productClass),
+                                nameOf(row.binding), nameOf(row.paper)})
         addCell(html, text);
-    addNumber(html, row.sizeText(), hasSize ? row.size.width() * row.size.height() : -1);
-    addNumber(html, PxNumberRanges::text(row.pageCounts), row.pageCounts.value(0));
+    addNumber(html, row.sizeText(), row.sizeOrder());
+    addNumber(html, PxNumberRanges::text(row.pageCounts), row.pageCountOrder());
     addCell(html, row.themesText());
-    addNumber(html, QString::number(row.findingCount()), row.findingCount());
+    addNumber(html, row.findingCount());
     html->close();
 }
 
@@ -184,13 +226,14 @@ void addRow(PxHtml *html, const PxProofTheme &row, int productCount)
     const QString group = groupOf(theme);
     const QString groupName = PxProofWords::keyword(group);
     const QStringList words{theme.id(), theme.description(), groupName};
-    html->open("tr", {{"data-text", shortened(words.join(' ').toLower())}, {"data-group", group}});
+    html->open("tr", {{"data-text", PxTerminal::shortened(words.join(' '), longestText)},
+                      {"data-group", group}});
     addPicture(html, row.hasPicture ? row.page + ".png" : QString());
     addName(html, theme.id(), row.page);
     addCell(html, shortened(theme.description()));
     addCell(html, groupName);
     addCell(html, theme.expiryDate().date().toString(Qt::ISODate));
-    addNumber(html, QString::number(productCount), productCount);
+    addNumber(html, productCount);
     html->close();
 }
 
@@ -234,15 +277,30 @@ void closeFilter(PxHtml *html)
     html->close();
 }
 
-void addChoice(PxHtml *html, const char *name, const QString &label, const QStringList &values)
+/** What is chosen from, by what is displayed of it, so that a choice is sorted by that. */
+using Choices = QMap<QString, QString>;
+
+/** The keyword of each row once, with its word. */
+template <typename Rows, typename KeywordOf>
+Choices choicesOf(const Rows &rows, KeywordOf keywordOf)
+{
+    Choices choices;
+    for (const auto &row : rows) {
+        const QString keyword = keywordOf(row);
+        choices.insert(PxProofWords::keyword(keyword), keyword);
+    }
+    return choices;
+}
+
+void addChoice(PxHtml *html, const char *name, const QString &label, const Choices &choices)
 {
     html->open("label");
     html->text(label + ' ');
     html->open("select", {{"name", name}});
     html->element("option", PxProofWords::tr("alle"), {{"value", ""}});
-    for (const QString &value : values) {
-        if (!value.isEmpty())
-            html->element("option", PxProofWords::keyword(value), {{"value", value}});
+    for (auto choice = choices.begin(); choice != choices.end(); ++choice) {
+        if (!choice->isEmpty())
+            html->element("option", choice.key(), {{"value", *choice}});
     }
     html->close();
     html->close();
@@ -258,36 +316,34 @@ void addInput(PxHtml *html, const char *name, const QString &label, const char *
     html->close();
 }
 
-/** The values of a column, each once, sorted. */
-template <typename Rows, typename ValueOf>
-QStringList valuesOf(const Rows &rows, ValueOf valueOf)
-{
-    QMap<QString, bool> values;
-    for (const auto &row : rows)
-        values.insert(valueOf(row), true);
-    return values.keys();
-}
-
 void addFilter(PxHtml *html, const QVector<ProductRow> &rows)
 {
-    const auto values = [&rows](QString ProductRow::*member) {
-        return valuesOf(rows, [member](const ProductRow &row) { return row.*member; });
-    };
+    Choices bindings;
+    Choices papers;
+    for (const ProductRow &row : rows) {
+        bindings.insert(nameOf(row.binding), row.binding["keyword"].toString());
+        papers.insert(nameOf(row.paper), row.paper["keyword"].toString());
+    }
     openFilter(html, PxProofWords::tr("Produkte suchen"));
     addInput(html, "text", PxProofWords::tr("Text"), "search");
-    addChoice(html, "class", PxProofWords::tr("Klasse"), values(&ProductRow::productClass));
-    addChoice(html, "binding", PxProofWords::tr("Bindung"), values(&ProductRow::binding));
-    addChoice(html, "paper", PxProofWords::tr("Papier"), values(&ProductRow::paper));
-    addChoice(html, "orientation", PxProofWords::tr("Format"), values(&ProductRow::orientation));
-    addInput(html, "from", PxProofWords::tr("Längere Seite ab mm"), "number");
-    addInput(html, "to", PxProofWords::tr("bis mm"), "number");
+    addChoice(html, "class", PxProofWords::tr("Klasse"),
+              choicesOf(rows, [](const ProductRow &row) { return row.productClass; }));
+    addChoice(html, "binding", PxProofWords::tr("Bindung"), bindings);
+    addChoice(html, "paper", PxProofWords::tr("Papier"), papers);
+    addChoice(html, "orientation", PxProofWords::tr("Format"),
+              choicesOf(rows, [](const ProductRow &row) { return row.orientation; }));
+    addInput(html, "width-from", PxProofWords::tr("Breite ab mm"), "number");
+    addInput(html, "width-to", PxProofWords::tr("Breite bis mm"), "number");
+    addInput(html, "height-from", PxProofWords::tr("Höhe ab mm"), "number");
+    addInput(html, "height-to", PxProofWords::tr("Höhe bis mm"), "number");
     addInput(html, "pages", PxProofWords::tr("Seitenzahl"), "number");
     closeFilter(html);
 }
 
 /** `prefix` is that of its state in the address. */
 void addProducts(PxHtml *html, const PxProofCatalogue &catalogue,
-                 const QVector<PxProofProduct> &products, const char *prefix)
+                 const QVector<PxProofProduct> &products, const char *prefix,
+                 const PxProofFolder &folder)
 {
     QVector<ProductRow> rows;
     for (const PxProofProduct &product : products)
@@ -297,7 +353,7 @@ void addProducts(PxHtml *html, const PxProofCatalogue &catalogue,
         addFilter(html, rows);
     openTable(html, PxProofWords::tr("Tabelle der Produkte"), productColumns);
     for (const ProductRow &row : qAsConst(rows))
-        addRow(html, row);
+        addRow(html, row, folder);
     closeTable(html);
     html->close();
 }
@@ -312,9 +368,9 @@ void addThemes(PxHtml *html, const PxProofCatalogue &catalogue)
     html->open("div", {{"class", "list themes"}, {"data-prefix", "theme-"}});
     openFilter(html, PxProofWords::tr("Themen suchen"));
     addInput(html, "text", PxProofWords::tr("Text"), "search");
-    addChoice(
-        html, "group", PxProofWords::tr("Produktgruppe"),
-        valuesOf(catalogue.themes, [](const PxProofTheme &theme) { return groupOf(theme.theme); }));
+    addChoice(html, "group", PxProofWords::tr("Produktgruppe"),
+              choicesOf(catalogue.themes,
+                        [](const PxProofTheme &theme) { return groupOf(theme.theme); }));
     closeFilter(html);
     openTable(html, PxProofWords::tr("Tabelle der Themen"), themeColumns);
     for (int i = 0; i < catalogue.themes.size(); ++i)
@@ -325,7 +381,7 @@ void addThemes(PxHtml *html, const PxProofCatalogue &catalogue)
 
 } // namespace
 
-QByteArray PxProofIndex::page(const PxProofCatalogue &catalogue)
+QByteArray PxProofIndex::page(const PxProofCatalogue &catalogue, const PxProofFolder &folder)
 {
     PxProofPage page(catalogue, catalogue.title);
     PxHtml &html = page.html();
@@ -334,10 +390,10 @@ QByteArray PxProofIndex::page(const PxProofCatalogue &catalogue)
         PxProofDifferences::addSummary(&html, catalogue);
     }
     page.addHeading(PxProofWords::tr("Produkte"), "products");
-    addProducts(&html, catalogue, catalogue.products, "");
+    addProducts(&html, catalogue, catalogue.products, "", folder);
     if (!catalogue.legacyProducts.isEmpty()) {
         page.addHeading(PxProofWords::tr("Frühere Produkte"), "earlier");
-        addProducts(&html, catalogue, catalogue.legacyProducts, "earlier-");
+        addProducts(&html, catalogue, catalogue.legacyProducts, "earlier-", folder);
     }
     if (!catalogue.themes.isEmpty()) {
         page.addHeading(PxProofWords::tr("Themen"), "themes");

@@ -7,18 +7,38 @@
 #include <QMap>
 #include <QStringList>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 using Section = PxReport::Section;
 
 constexpr int longest = 10000; // characters of a value or an origin
 
-QString textOf(const QJsonValue &value, PxReportFormat format)
+/** The keys of values that are keywords. Other texts may look like one and are kept. */
+constexpr const char *ofKeywords[] = {
+    "class",     "orientation",  "assemblyWay",    "namingStyle", "pageType",
+    "alignment", "imageEffects", "designElements", "type",        "group",
+};
+
+bool isOfKeywords(const char *key)
 {
-    if (value.isBool())
-        return PxProofWords::yesOrNo(value.toBool());
-    const QString text = PxTerminal::shortened(PxReportValue::text(value, format), longest);
-    return format == PxReportFormat::Plain ? PxProofWords::keyword(text) : text;
+    return std::any_of(std::begin(ofKeywords), std::end(ofKeywords),
+                       [key](const char *other) { return qstrcmp(key, other) == 0; });
+}
+
+/** Of a field or a column, which has a key and a format. */
+template <typename Place>
+QString textOf(const Place &place, const QJsonValue &value)
+{
+    const QString text = PxTerminal::shortened(PxProofWords::value(value, place.format), longest);
+    if (!isOfKeywords(place.key))
+        return text;
+    QStringList words;
+    for (const QString &word : text.split(", "))
+        words.append(PxProofWords::keyword(word));
+    return words.join(", ");
 }
 
 /** Null for none, so that no attribute is written. */
@@ -32,7 +52,7 @@ void addFields(PxHtml *html, const PxReport &report, const Section &section)
     html->open("table", {{"class", "values"}});
     html->open("tbody");
     for (const PxReport::Field &field : section.fields) {
-        const QString text = textOf(field.value, field.format);
+        const QString text = textOf(field, field.value);
         if (text.isEmpty())
             continue;
         const QString origin = shortenedOrigin(report.origin(section, field));
@@ -81,7 +101,7 @@ void addRow(PxHtml *html, const Section &section, const Origins &origins, int ro
     html->open("tr");
     for (auto column = origins.begin(); column != origins.end(); ++column) {
         const int i = column.key();
-        html->element("td", textOf(section.rows[row][i], section.columns[i].format),
+        html->element("td", textOf(section.columns[i], section.rows[row][i]),
                       {{"title", column->at(row)}});
     }
     html->close();

@@ -157,6 +157,46 @@ constexpr Word keywords[] = {
     {"panorama", "Panorama"},
     {"portraitpanorama", "Panorama hoch"},
     {"round", "rund"},
+    {"GIFT", "ohne Bindung"},
+    {"client", "Kunde"},
+    {"factory", "Hersteller"},
+    {"grayscale", "Graustufen"},
+    {"preserve_alpha_channel", "Transparenz bleibt"},
+    {"left", "links"},
+    {"right", "rechts"},
+    {"middle", "Mitte"},
+    {"top", "oben"},
+    {"bottom", "unten"},
+    {"center", "Mitte"},
+    {"fullpage", "ganzer Bogen"},
+    {"spine", "Rücken"},
+    {"normalpage", "Innenseite"},
+    {"emptypage", "Leerseite"},
+    {"fullcover", "Umschlag"},
+    {"cromolinen", "Leinen"},
+    {"leather", "Leder"},
+    {"artificialleather", "Kunstleder"},
+    {"clampcoverfront", "Klemme vorn"},
+    {"clampcoverback", "Klemme hinten"},
+    {"foilcoverfront", "Folie"},
+    {"calendercoverfront", "Kalender vorn"},
+    {"calendercoverback", "Kalender hinten"},
+    {"photopaperbook", "Fotobuch"},
+    {"notebook", "Notizbuch"},
+    {"copybook", "Schulheft"},
+    {"collegeblock", "Collegeblock"},
+    {"frame", "Rahmen"},
+    {"border", "Rand"},
+    {"varnish", "Lack"},
+    {"foto", "Abzug"},
+    {"poster", "Poster"},
+    {"fun", "Geschenk"},
+    {"background", "Hintergrund"},
+    {"clipart", "Clipart"},
+    {"content", "Inhalt"},
+    {"layout", "Layout"},
+    {"passepartout", "Passepartout"},
+    {"all", "alle"},
     {"binding", "Bindung"},
     {"paper", "Papier"},
     {"space", "Größenklasse"},
@@ -171,6 +211,16 @@ QString germanOf(const Word (&words)[COUNT], const char *of)
             return QString::fromUtf8(word.german);
     }
     return QString::fromUtf8(of);
+}
+
+bool isNumber(const QJsonValue &value, PxReportFormat format)
+{
+    return value.isDouble() || format == PxReportFormat::Size || format == PxReportFormat::Margins;
+}
+
+QString decimalSeparator()
+{
+    return QCoreApplication::translate("PxDrawnWords", ",", "decimal separator");
 }
 
 } // namespace
@@ -195,7 +245,17 @@ QString PxProofWords::keyword(const QString &keyword)
     return language() == "de" ? germanOf(keywords, keyword.toUtf8().constData()) : keyword;
 }
 
-QString PxProofWords::yesOrNo(bool is)
+QString PxProofWords::value(const QJsonValue &value, PxReportFormat format)
 {
-    return is ? tr("ja") : tr("nein");
+    if (value.isBool())
+        return value.toBool() ? tr("ja") : tr("nein");
+    if (value.isObject() && format == PxReportFormat::Rect)
+        return tr("%1 bei x %2, y %3")
+            .arg(PxProofWords::value(value, PxReportFormat::Size),
+                 PxProofWords::value(value["x"], PxReportFormat::Length),
+                 PxProofWords::value(value["y"], PxReportFormat::Length));
+    QString text = PxReportValue::text(value, format);
+    if (format == PxReportFormat::Name || format == PxReportFormat::CountOrAll)
+        return keyword(text);
+    return isNumber(value, format) ? text.replace('.', decimalSeparator()) : text;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "report/PxReportValue.h"
+
 #include <QCoreApplication>
 #include <QString>
 
@@ -15,7 +17,8 @@ public:
     static QString label(const char *english);
     /** The heading of the section of a report with this key, which is `english`. */
     static QString heading(const char *key, const QString &english);
-    /** A class, an orientation, or a keyword of the option --criterion. */
+    /** The meaning of a keyword; itself, if it is no keyword or has no word. */
     static QString keyword(const QString &keyword);
-    static QString yesOrNo(bool is);
+    /** A value as text, without unit; empty for null, an empty text or an empty list. */
+    static QString value(const QJsonValue &value, PxReportFormat format);
 };

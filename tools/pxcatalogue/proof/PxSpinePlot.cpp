@@ -1,7 +1,6 @@
 #include "proof/PxSpinePlot.h"
 
 #include "proof/PxProofWords.h"
-#include "report/PxReportValue.h"
 #include "writing/PxHtml.h"
 
 #include <QPointF>
@@ -21,7 +20,7 @@ QString number(double value)
 
 QString millimetres(int width)
 {
-    return PxReportValue::text(width, PxReportFormat::Length);
+    return PxProofWords::value(width, PxReportFormat::Length);
 }
 
 void addText(const QPointF &place, const QString &text, const char *anchor, PxHtml *html)

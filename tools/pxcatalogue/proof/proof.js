@@ -21,11 +21,20 @@
       pages >= first && pages <= last && (pages - first) % step === 0);
   }
 
+  // Of a length in tenths of a millimetre, or "".
+  const isAtLeast = (length, asked) => length && Number(length) >= asked * 10;
+  const isAtMost = (length, asked) => length && Number(length) <= asked * 10;
+
+  // The same for texts that look the same, whatever their case: "ß" is "SS" in capitals.
+  const folded = text => text.normalize('NFKC').toUpperCase().toLowerCase();
+
   // By the name of a field: whether a row fits what the field asks for.
   const tests = {
-    text: (row, asked) => asked.toLowerCase().split(/\s+/).every(word => row.text.includes(word)),
-    from: (row, asked) => Number(row.longest) >= asked * 10,
-    to: (row, asked) => row.longest && Number(row.longest) <= asked * 10,
+    text: (row, asked) => folded(asked).split(/\s+/).every(word => row.text.includes(word)),
+    'width-from': (row, asked) => isAtLeast(row.width, asked),
+    'width-to': (row, asked) => isAtMost(row.width, asked),
+    'height-from': (row, asked) => isAtLeast(row.height, asked),
+    'height-to': (row, asked) => isAtMost(row.height, asked),
     pages: (row, asked) => offers(row.counts, Number(asked)),
   };
 
@@ -35,6 +44,7 @@
     const table = list.querySelector('table');
     const rows = Array.from(table.tBodies[0].rows, element => {
       const row = { element, ...element.dataset };
+      row.text = folded(row.text ?? '');
       row.counts = countsOf(row.counts ?? '');
       return row;
     });
