@@ -329,6 +329,9 @@ test('what is on paper can be read, and is of the usual page count', async () =>
     .filter(text => getComputedStyle(text.closest('.layer')).display !== 'none')
     .map(text => text.textContent));
   assert.deepEqual(words, []);
+  await page.goto(urlOf('index.html'));
+  const rows = await page.$$eval('tbody tr', rows => rows.map(row => row.checkVisibility()));
+  assert.ok(rows.length > 60 && rows.every(isSeen => isSeen), 'the index has all products');
   await closed(page);
 });
 

@@ -259,10 +259,10 @@ QByteArray PxProofProductPage::page(const PxProofCatalogue &catalogue,
         section.add(&html, subject);
         html.close();
     }
-    html.close();
     html.element("p",
                  PxProofWords::tr("Auf Papier steht eine Auswahl. Die Seite am Bildschirm zeigt "
                                   "alles, auch woher die Werte kommen."),
                  {{"class", "on-paper"}});
+    html.close();
     return page.finished();
 }
