@@ -389,8 +389,7 @@ void PxProofTest::brokenRunKeepsTheEarlierProof()
 void PxProofTest::catalogueAndCurrentFolderAreKept()
 {
     const PxSampleCopy catalogue;
-    const auto outputs = {catalogue.path(), catalogue.filePath("products/new/proof"),
-                          catalogue.filePath("themes")};
+    const auto outputs = {catalogue.filePath("products/new/proof"), catalogue.filePath("themes")};
     for (const QString &output : outputs) {
         const Files before = filesIn(catalogue.path());
         const PxProgramRun run(PX_CATALOGUE_PROGRAM,

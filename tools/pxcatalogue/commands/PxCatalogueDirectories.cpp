@@ -221,9 +221,8 @@ std::optional<PxProblem> PxCatalogueDirectories::applyResources(const QString &d
 QStringList PxCatalogueDirectories::sources()
 {
     const auto *config = PxDirectoryConfig::instance();
-    return {QFileInfo(resource("producttypes.xml")).path(), resource("products"),
-            resource("products/legacy"), config->lumoThemesDirectory(false).path(),
-            config->userDefaultsPath()};
+    return {resource("products"), resource("products/legacy"),
+            config->lumoThemesDirectory(false).path(), config->userDefaultsPath()};
 }
 
 std::optional<PxProblem> PxCatalogueDirectories::applyForCheck(const PxCommandLine &line)

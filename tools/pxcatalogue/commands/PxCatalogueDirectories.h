@@ -23,7 +23,7 @@ public:
      */
     static std::optional<PxProblem> applyForCheck(const PxCommandLine &line);
 
-    /** All directories from which the catalogue is read, after one of the above. */
+    /** The directories of which all files belong to the catalogue, after one of the above. */
     static QStringList sources();
     /** What names the catalogue, such as "--resources"; empty for the arguments of a check. */
     static QString origin(const PxCommandLine &line);

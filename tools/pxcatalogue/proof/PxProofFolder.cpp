@@ -100,12 +100,12 @@ std::optional<PxProblem> PxProofFolder::problemOfPlace() const
     }
     if (!info.exists())
         return std::nullopt;
-    if (isIn(placeOf("."), m_path))
-        return cannot("it is replaced, and this runs in it; run it from another folder");
     if (!info.isDir())
         return cannot("it is a file; name another folder");
     if (!isEmpty(m_path) && !isProof(m_path))
         return cannot("it has files and is not an earlier proof; name another folder");
+    if (isIn(placeOf("."), m_path))
+        return cannot("it is replaced, and this runs in it; run it from another folder");
     return std::nullopt;
 }
 

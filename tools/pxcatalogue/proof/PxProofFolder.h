@@ -18,7 +18,7 @@
 class PxProofFolder
 {
 public:
-    /** The catalogue is read from `sources`. */
+    /** Nothing is written into `sources`, the directories of the catalogue. */
     PxProofFolder(const QString &path, const QStringList &sources);
     /** Removes what is not finished. */
     ~PxProofFolder();
