@@ -100,10 +100,10 @@ void PxMessageTest::placeIsThatOfQt()
 {
     const PxLogRecorder log;
     QVector<PxMessage> kept;
-    const auto ours = []() -> const QLoggingCategory & { return *pxLoggingCategory(); };
+    const QLoggingCategory &ours = *pxLoggingCategory();
     // clang-format off
-    qCWarning(ours) << 1; pxWarning() << 1; { const PxMessageKeeper keeper(&kept); pxWarning() << 1; }
-    qCDebug(ours) << 2; pxDebug() << 2; { const PxMessageKeeper keeper(&kept); pxDebug() << 2; }
+    qWarning(ours) << 1; pxWarning() << 1; { const PxMessageKeeper keeper(&kept); pxWarning() << 1; }
+    qDebug(ours) << 2; pxDebug() << 2; { const PxMessageKeeper keeper(&kept); pxDebug() << 2; }
     // clang-format on
     write(kept);
     const QStringList written = shown(log);
