@@ -9,9 +9,12 @@ COUNT ?= 60
 SEED ?= 1
 FOLDER ?= src
 TIDY ?= src tools
+TESTS ?= check
+OPTIONS ?=
 BUILD = build/$(PRESET)
 PACKAGES = ccache cmake g++ libqpdf-dev librsvg2-bin libxml2-utils ninja-build poppler-utils qtbase5-dev qttools5-dev \
     qttools5-dev-tools tzdata
+CLANG = clang libclang-rt-14-dev
 # Builds of the same flags share what the cache has, whatever their folder in build.
 export CCACHE_BASEDIR = $(CURDIR)
 ROOT = $(if $(filter 0,$(shell id -u)),,sudo)
@@ -27,9 +30,9 @@ help:
 	@echo "make check      set up, build, and run every test (PRESET=debug|release|asan|tsan, WERROR=ON)"
 	@echo "make quick      the same without the tests that take long (hostile files, headers alone)"
 	@echo "make mutants    put COUNT=60 small faults into the code, and list those that no test notices (SEED=1, FOLDER=src)"
-	@echo "make platform   the same tests against the platform as a package of its own, all built with clang"
+	@echo "make platform   the same tests against the platform as a package of its own, all built with clang (TESTS=quick)"
 	@echo "make packages   make packages for Debian, and install, use and remove them in a folder of their own"
-	@echo "make reproducible  build the last commit in two folders, which must give the same bits (takes long)"
+	@echo "make reproducible  build the last commit in two folders, which must give the same bits (OPTIONS= for CMake)"
 	@echo "make valgrind   the demo under valgrind, which must find nothing"
 	@echo "make bench      build Release and print what start-up and answers cost, beside what they may cost"
 	@echo "make fuzz       set up, build with clang, and run every fuzzer (FUZZ_SECONDS=600, all together)"
@@ -77,6 +80,7 @@ valgrind: demo
 
 # PxShellTest lints the manual page, and tries completion in each shell.
 check quick: PACKAGES += fish mandoc pkgconf python3-jsonschema zsh
+check: PACKAGES += $(if $(filter asan,$(PRESET)),$(CLANG))
 check: build
 	ctest --preset $(PRESET) -j $(JOBS)
 
@@ -95,7 +99,7 @@ platform: setup
 	cmake --build build/PxPlatform -j $(JOBS)
 	rm -rf build/PxPlatform/installed
 	cmake --install build/PxPlatform --prefix build/PxPlatform/installed
-	$(MAKE) check PRESET=platform
+	$(MAKE) $(TESTS) PRESET=platform
 
 # What is made from one commit is the same, whenever it is made.
 packages: PACKAGES += dpkg-dev file lintian pkgconf
@@ -106,7 +110,7 @@ packages: setup
 	tests/install/packages build/packages
 
 reproducible: setup
-	JOBS=$(JOBS) tests/install/reproducible
+	JOBS=$(JOBS) tests/install/reproducible $(OPTIONS)
 
 # Both sides of each ratio take turns, so that other work on the machine troubles both alike.
 bench: benchmarks
@@ -118,12 +122,13 @@ benchmarks: setup
 	cmake --preset release -DPX_BUILD_BENCHMARKS=ON
 	cmake --build --preset release -j $(JOBS) --target PxBenchmarks PxColdStarts
 
-fuzz: PRESET = fuzz
-fuzz: PACKAGES += clang libclang-rt-14-dev
-fuzz: build
+fuzz: PACKAGES += $(CLANG)
+fuzz: setup
+	cmake --preset asan -DPX_WARNINGS_AS_ERRORS=$(WERROR)
+	cmake --build --preset asan -j $(JOBS) --target PxFuzzers
 	fuzz/run $(FUZZ_SECONDS) $(FUZZ_SEED)
 
-clang tidy: PACKAGES += clang clang-tidy libbenchmark-dev libclang-rt-14-dev
+clang tidy: PACKAGES += $(CLANG) clang-tidy libbenchmark-dev
 clang: setup
 	$(MAKE) build PRESET=clang
 	$(MAKE) build PRESET=clang20
@@ -154,15 +159,14 @@ licences: setup
 
 # Each in a make of its own, since presets and packages differ.
 release-check:
-	$(MAKE) licences
-	$(MAKE) abi WERROR=ON
 	$(MAKE) tidy
-	$(MAKE) packages WERROR=ON
 	$(MAKE) reproducible
+	$(MAKE) platform WERROR=ON
 	$(MAKE) check PRESET=tsan WERROR=ON
+	$(MAKE) fuzz
 
 build: setup
-	cmake --preset $(PRESET) -DPX_WARNINGS_AS_ERRORS=$(WERROR)
+	cmake --preset $(PRESET) -DPX_WARNINGS_AS_ERRORS=$(WERROR) $(OPTIONS)
 	cmake --build --preset $(PRESET) -j $(JOBS)
 
 # apt is asked for what dpkg does not know as installed, and so for nothing on a machine that is set up.

@@ -39,8 +39,9 @@ constexpr int share = 4;
 #endif
 constexpr double maximumSeconds = 1.0 * slowness;
 constexpr double maximumSecondsOfAll = 3.0 * slowness;
-constexpr long maximumKilobytes = 150 * 1024; // more than the sample catalogue takes
-constexpr rlim_t addressSpace = 1 << 30;
+[[maybe_unused]] constexpr long maximumKilobytes =
+    150 * 1024; // more than the sample catalogue takes
+[[maybe_unused]] constexpr rlim_t addressSpace = 1 << 30;
 
 /** A share of the limits of the loader, nearly: what stands around needs something, too. */
 constexpr int readableNodes = 199900 / share;

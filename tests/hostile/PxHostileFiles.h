@@ -4,10 +4,6 @@
 #include <QByteArrayList>
 #include <QList>
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-#define PX_SANITIZED
-#endif
-
 /** Product and theme files that nobody should write, to be loaded all the same. */
 namespace PxHostileFiles {
 
