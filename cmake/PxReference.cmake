@@ -1,11 +1,15 @@
 # The reference: what the public headers say, as pages for a browser, as .qch for Qt Assistant and Qt Creator, and as tag
-# file for the reference of an application. The target PxReference, which is no part of "all", writes it into the build
-# directory; what is there is installed.
+# file for the reference of an application. The target PxReference, which is a part of "all" for packages only, writes it
+# into the build directory; what is there is installed.
 
 find_program(PX_DOXYGEN doxygen)
 find_program(PX_QHELPGENERATOR qhelpgenerator)
 mark_as_advanced(PX_DOXYGEN PX_QHELPGENERATOR)
 if(NOT PX_DOXYGEN OR NOT PX_QHELPGENERATOR)
+    if(PX_PACKAGES)
+        message(FATAL_ERROR "PX_PACKAGES needs doxygen and qhelpgenerator, which write the reference: install Debian's "
+            "doxygen and qhelpgenerator-qt5.")
+    endif()
     message(STATUS "Without doxygen and qhelpgenerator there is no target PxReference")
     return()
 endif()
@@ -45,7 +49,10 @@ foreach(list input bases tags)
     list(JOIN ${list} " \\\n    " reference_${list})
 endforeach()
 configure_file(${CMAKE_CURRENT_LIST_DIR}/Doxyfile.in ${PROJECT_BINARY_DIR}/Doxyfile @ONLY)
-add_custom_target(PxReference
+if(PX_PACKAGES)
+    set(all ALL)
+endif()
+add_custom_target(PxReference ${all}
     COMMAND ${CMAKE_COMMAND} -E rm -rf ${reference}
     COMMAND ${CMAKE_COMMAND} -E make_directory ${reference}
     COMMAND ${PX_DOXYGEN} ${PROJECT_BINARY_DIR}/Doxyfile
