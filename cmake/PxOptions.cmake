@@ -25,6 +25,11 @@ if(DEFINED BUILD_SHARED_LIBS AND NOT BUILD_SHARED_LIBS)
         "process. Leave the variable out; a project that needs it for itself sets it to ON around add_subdirectory().")
 endif()
 
+if(PX_PACKAGES AND NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+    message(FATAL_ERROR "PX_PACKAGES needs CMAKE_INSTALL_PREFIX=/usr, where packages of Debian are installed, and not "
+        "\"${CMAKE_INSTALL_PREFIX}\": configure with --preset packages, or call make packages.")
+endif()
+
 function(px_require option)
     foreach(needed IN LISTS ARGN)
         if(${option} AND NOT ${needed})
