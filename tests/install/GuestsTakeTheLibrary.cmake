@@ -48,9 +48,21 @@ foreach(way subdirectory FetchContent)
         message(SEND_ERROR "Without a catalogue: ${output}${error}")
     endif()
 endforeach()
-# With all of it the names of the targets are still those of the application.
+# With all of it the names of the targets are still those of the application, and so is the folder of its documents. Where
+# the user puts libraries and headers, pkg-config says.
 run(${CMAKE_COMMAND} -S ${CONSUMER} -B ${SCRATCH}/all -G Ninja ${options} -DTAKES=subdirectory -DPX_BUILD_TOOLS=ON
-    -DPX_BUILD_EXAMPLES=ON -DPX_BUILD_TESTS=ON -DPX_BUILD_FUZZERS=ON -DPX_INSTALL=ON -DPX_INSTALL_SAMPLE=ON)
+    -DPX_BUILD_EXAMPLES=ON -DPX_BUILD_TESTS=ON -DPX_BUILD_FUZZERS=ON -DPX_INSTALL=ON -DPX_INSTALL_SAMPLE=ON
+    -DCMAKE_INSTALL_PREFIX=/opt/px -DCMAKE_INSTALL_LIBDIR=/opt/px/lib64 -DCMAKE_INSTALL_INCLUDEDIR=/opt/headers)
+run(${CMAKE_COMMAND} --install ${SCRATCH}/all --prefix ${SCRATCH}/installed --component Documentation)
+file(GLOB folders RELATIVE ${SCRATCH}/installed ${SCRATCH}/installed/* ${SCRATCH}/installed/share/doc/*)
+if(NOT folders STREQUAL "share;share/doc/PxProductProperties")
+    message(SEND_ERROR "The documents are not in a folder of their own: ${folders}")
+endif()
+file(STRINGS ${SCRATCH}/all/PxProductProperties/PxProductProperties.pc variables REGEX "^[a-z]+=")
+if(NOT variables STREQUAL
+        "prefix=\${pcfiledir}/../..;libdir=\${prefix}/lib64;includedir=/opt/headers")
+    message(SEND_ERROR "pkg-config says: ${variables}")
+endif()
 refuses("BUILD_SHARED_LIBS is OFF, but the library can only be shared" -DBUILD_SHARED_LIBS=OFF)
 refuses("PX_BUILD_TESTS needs PX_BUILD_TOOLS" -DPX_BUILD_TESTS=ON)
 refuses("PX_PACKAGES needs CMAKE_INSTALL_PREFIX=/usr" -DPX_PACKAGES=ON -DPX_INSTALL=ON)
