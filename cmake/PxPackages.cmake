@@ -67,7 +67,8 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${scripts})
 px_package(Devel libpxproductproperties-dev libdevel "what is needed to build applications"
     DEPENDS "qtbase5-dev (>= 5.15)")
 if(PX_BUILD_TOOLS)
-    px_package(Tools pxproductproperties-tools utils "the command for authors of product files" SHLIBDEPS ON)
+    px_package(Tools pxproductproperties-tools utils "the command for authors of product files" SHLIBDEPS ON
+        SUGGESTS "pxproductproperties-sample, libpxproductproperties-doc")
 endif()
 if(PX_INSTALL_SAMPLE)
     px_package(Sample pxproductproperties-sample text "the sample catalogue" ARCHITECTURE all)
