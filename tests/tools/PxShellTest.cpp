@@ -17,6 +17,7 @@ private slots:
     void initTestCase();
     void manualExplainsEachCommand();
     void manualExplainsEachVariable();
+    void manualExplainsFilesAndStatuses();
     void manualIsWellFormed();
     void bashOffers();
     void bashCompletes();
@@ -146,6 +147,18 @@ void PxShellTest::manualExplainsEachVariable()
     names.removeAll("QT_QPA_PLATFORM"); // which the program sets for itself
     for (const QString &name : qAsConst(names))
         QVERIFY2(environment.contains(".TP\n" + name + '\n'), qPrintable(name));
+}
+
+/** Where the library looks by itself, and how the program ends. */
+void PxShellTest::manualExplainsFilesAndStatuses()
+{
+    const QString text = plain(manual()).section(".SH FILES", 1);
+    for (const char *name : {"share/PxProductProperties\n", "producttypes.xml", "products/",
+                             "products/legacy/", "frames.xml", "themes/", "defaults/"})
+        QVERIFY2(text.section(".SH", 0, 0).contains(name), name);
+    const QString statuses = text.section(".SH EXIT STATUS", 1).section(".SH", 0, 0);
+    for (const char *status : {"0 ", "1 ", "2 ", "3 "})
+        QVERIFY2(statuses.simplified().contains(status), status);
 }
 
 void PxShellTest::manualIsWellFormed()

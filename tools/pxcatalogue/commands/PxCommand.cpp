@@ -61,7 +61,8 @@ QString PxCommand::exitStatusOfAll()
 {
     return "0 done; 1 the answer is \"no\", as when there is no such product or theme, or several "
            "fit; the help of a command names its further reasons; 2 wrong usage, a directory or a "
-           "producttypes.xml that cannot be read, or output that cannot be written.";
+           "producttypes.xml that cannot be read, or output that cannot be written; 3 an internal "
+           "fault of the program.";
 }
 
 PxExitStatus PxCommand::fail(const PxProblem &problem)

@@ -9,13 +9,13 @@ namespace {
 
 constexpr int lineWidth = 78;
 
-struct Variable
+struct Item
 {
     const char *name;
     const char *meaning;
 };
 
-constexpr Variable variables[] = {
+constexpr Item variables[] = {
     {"PX_RESOURCE_DIRS", "The resource directories of a catalogue, as --resources names them."},
     {"PX_THEMES_DIR", "The directory of the theme files, unless the command line names a catalogue "
                       "or --themes."},
@@ -29,6 +29,20 @@ constexpr Variable variables[] = {
                 "they are not shortened."},
     {"NO_COLOR", "If it is set, findings of check have no colours unless --color is given. The "
                  "terminal \"dumb\" (TERM) has none either."},
+};
+
+constexpr Item files[] = {
+    {"share/PxProductProperties", "The resource directory beside the library, which is read unless "
+                                  "--resources or PX_RESOURCE_DIRS names others."},
+    {"producttypes.xml, products/, products/legacy/, frames.xml",
+     "In a resource directory: which products there are, a file for each of them, the older ones, "
+     "and frames."},
+    {"themes/", "In a resource directory: the theme files."},
+    {"defaults/", "In the directory that --resources names: the user's default templates."},
+    {"~/.local/share/pxcatalogue/defaults/",
+     "The user's default templates without --resources. XDG_DATA_HOME replaces ~/.local/share."},
+    {"share/xml/PxProductProperties/catalog.xml",
+     "An XML catalogue of the schemas of product and theme files, for XML_CATALOG_FILES."},
 };
 
 /** In ASCII, so that every formatter and every locale shows the same characters. */
@@ -91,11 +105,12 @@ QString options(const QVector<PxOption> &options)
     return text;
 }
 
-QString environment()
+template <std::size_t COUNT>
+QString explained(const Item (&items)[COUNT])
 {
     QString text;
-    for (const Variable &variable : variables)
-        text += ".TP\n" + bold(variable.name) + '\n' + filled(variable.meaning);
+    for (const Item &item : items)
+        text += ".TP\n" + bold(item.name) + '\n' + filled(item.meaning);
     return text;
 }
 
@@ -150,7 +165,7 @@ PxOutputText PxManual::text()
         section("SYNOPSIS") + synopsisOfAll() + section("DESCRIPTION") +
         filled(PxCommand::purposeOfAll().simplified()) + section("COMMANDS") + allCommands() +
         section("OPTIONS OF EVERY COMMAND") + options(PxOption::ofEveryCommand()) +
-        section("ENVIRONMENT") + environment() + section("EXIT STATUS") +
-        filled(PxCommand::exitStatusOfAll()) + section("SEE ALSO") +
+        section("ENVIRONMENT") + explained(variables) + section("FILES") + explained(files) +
+        section("EXIT STATUS") + filled(PxCommand::exitStatusOfAll()) + section("SEE ALSO") +
         filled(PX_DOCUMENTATION_URL "/pxcatalogue.md"));
 }
