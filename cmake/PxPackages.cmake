@@ -20,7 +20,7 @@ string(TIMESTAMP date "%a, %d %b %Y %H:%M:%S +0000" UTC)
 file(CONFIGURE OUTPUT packages/changelog @ONLY CONTENT
 "@CPACK_PACKAGE_NAME@ (@PROJECT_VERSION@) unstable; urgency=medium
 
-  * Release @PROJECT_VERSION@.
+  * Release @PROJECT_VERSION@: CHANGELOG.md of libpxproductproperties-doc says what is new.
 
  -- @PX_PACKAGE_CONTACT@  @date@
 ")
@@ -37,21 +37,30 @@ foreach(licence IN LISTS licences)
     string(APPEND copyright "\nLicense: ${name}\n ${text}\n")
 endforeach()
 file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/packages/copyright "${copyright}")
-# A trigger calls ldconfig. CPack leaves its own call out only if there are scripts, which have nothing else to do.
+set(library libpxproductproperties${PROJECT_VERSION_MAJOR})
+# A trigger calls ldconfig. CPack leaves its own call out only if there are scripts, which have nothing else to do, and
+# lintian wants to know why they are empty.
 file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/packages/triggers "activate-noawait ldconfig\n")
 foreach(script postinst postrm)
     file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/packages/${script} "#!/bin/sh\nset -e\n")
 endforeach()
+file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/packages/overrides
+    "# With these scripts ldconfig is called by a trigger only.\n${library}: maintainer-script-empty\n")
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/packages/overrides RENAME ${library} COMPONENT Runtime
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides)
 set(scripts triggers postinst postrm)
 list(TRANSFORM scripts PREPEND ${CMAKE_CURRENT_BINARY_DIR}/packages/)
 
+set(about "Each product that can be ordered is described by a file. A library answers\n\
+applications what it says; a command shows, draws, compares and checks it for\n\
+those who write it.")
 set(CPACK_COMPONENTS_ALL "")
 function(px_package component name section contents)
     list(APPEND CPACK_COMPONENTS_ALL ${component})
     string(TOUPPER ${component} key)
     set(CPACK_DEBIAN_${key}_PACKAGE_NAME ${name} PARENT_SCOPE)
     set(CPACK_DEBIAN_${key}_PACKAGE_SECTION ${section} PARENT_SCOPE)
-    set(CPACK_DEBIAN_${key}_DESCRIPTION "This package has ${contents}." PARENT_SCOPE)
+    set(CPACK_DEBIAN_${key}_DESCRIPTION "${about}\n\nThis package has ${contents}." PARENT_SCOPE)
     while(ARGN)
         list(POP_FRONT ARGN variable value)
         set(CPACK_DEBIAN_${key}_PACKAGE_${variable} "${value}" PARENT_SCOPE)
@@ -61,7 +70,6 @@ function(px_package component name section contents)
         DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${name} COMPONENT ${component})
 endfunction()
 
-set(library libpxproductproperties${PROJECT_VERSION_MAJOR})
 px_package(Runtime ${library} libs "the library" SHLIBDEPS ON)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${scripts})
 px_package(Devel libpxproductproperties-dev libdevel "what is needed to build applications"
@@ -73,7 +81,7 @@ endif()
 if(PX_INSTALL_SAMPLE)
     px_package(Sample pxproductproperties-sample text "the sample catalogue" ARCHITECTURE all)
 endif()
-px_package(Documentation libpxproductproperties-doc doc "the documents" ARCHITECTURE all)
+px_package(Documentation libpxproductproperties-doc doc "the documents, the reference and the examples" ARCHITECTURE all)
 
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/PxPackedManuals.cmake)
 include(CPack)
