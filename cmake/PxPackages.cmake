@@ -81,7 +81,8 @@ endif()
 if(PX_INSTALL_SAMPLE)
     px_package(Sample pxproductproperties-sample text "the sample catalogue" ARCHITECTURE all)
 endif()
-px_package(Documentation libpxproductproperties-doc doc "the documents, the reference and the examples" ARCHITECTURE all)
+px_package(Documentation libpxproductproperties-doc doc "the documents, the reference and the examples"
+    ARCHITECTURE all)
 
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/PxPackedManuals.cmake)
 include(CPack)

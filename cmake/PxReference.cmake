@@ -1,6 +1,6 @@
 # The reference: what the public headers say, as pages for a browser, as .qch for Qt Assistant and Qt Creator, and as tag
-# file for the reference of an application. The target PxReference, which is a part of "all" for packages only, writes it
-# into the build directory; what is there is installed.
+# file for the reference of an application. The target PxReference, a part of "all" for packages only, writes it into
+# the build directory; what is there is installed.
 
 find_program(PX_DOXYGEN doxygen)
 find_program(PX_QHELPGENERATOR qhelpgenerator)

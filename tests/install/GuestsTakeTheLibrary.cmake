@@ -48,8 +48,8 @@ foreach(way subdirectory FetchContent)
         message(SEND_ERROR "Without a catalogue: ${output}${error}")
     endif()
 endforeach()
-# With all of it the names of the targets are still those of the application, and so is the folder of its documents. Where
-# the user puts libraries and headers, pkg-config says.
+# With all of it the names of the targets are still those of the application, and the documents have a folder of their
+# own. Wherever the user puts libraries and headers, pkg-config finds them.
 run(${CMAKE_COMMAND} -S ${CONSUMER} -B ${SCRATCH}/all -G Ninja ${options} -DTAKES=subdirectory -DPX_BUILD_TOOLS=ON
     -DPX_BUILD_EXAMPLES=ON -DPX_BUILD_TESTS=ON -DPX_BUILD_FUZZERS=ON -DPX_INSTALL=ON -DPX_INSTALL_SAMPLE=ON
     -DCMAKE_INSTALL_PREFIX=/opt/px -DCMAKE_INSTALL_LIBDIR=/opt/px/lib64 -DCMAKE_INSTALL_INCLUDEDIR=/opt/headers)
