@@ -21,7 +21,7 @@ PxUserDefaults::PxUserDefaults()
 void PxUserDefaults::list()
 {
     constexpr int maximumNames = 10000; // looking for each file is quicker then
-    DIR *entries = opendir(QFile::encodeName(m_directory));
+    DIR *entries = opendir(QFile::encodeName(m_directory).constData());
     m_isListed = entries || errno == ENOENT;
     if (!entries)
         return;

@@ -49,7 +49,8 @@ QString open(QFile *file)
     const QString name = file->fileName();
     if (name.startsWith(QLatin1Char(':'))) // compiled in
         return file->open(QIODevice::ReadOnly) ? name : QString();
-    const int handle = ::open(QFile::encodeName(name), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    const int handle =
+        ::open(QFile::encodeName(name).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     struct stat status = {}; // is that of no regular file if there is no handle
     fstat(handle, &status);
     // What was a regular file when it was found may be a pipe by now.

@@ -19,7 +19,7 @@ static bool isUndecodable(const QByteArray &name)
 
 int PxUndecodableNames::count(const QString &directory)
 {
-    DIR *entries = opendir(QFile::encodeName(directory));
+    DIR *entries = opendir(QFile::encodeName(directory).constData());
     if (!entries)
         return 0;
     int count = 0;
