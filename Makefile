@@ -15,6 +15,7 @@ BUILD = build/$(PRESET)
 PACKAGES = ccache cmake g++ libqpdf-dev librsvg2-bin libxml2-utils ninja-build poppler-utils qtbase5-dev qttools5-dev \
     qttools5-dev-tools tzdata
 CLANG = clang libclang-rt-14-dev
+DOXYGEN = doxygen qhelpgenerator-qt5 qtbase5-doc-dev
 # Builds of the same flags share what the cache has, whatever their folder in build.
 export CCACHE_BASEDIR = $(CURDIR)
 ROOT = $(if $(filter 0,$(shell id -u)),,sudo)
@@ -102,7 +103,7 @@ platform: setup
 	$(MAKE) $(TESTS) PRESET=platform
 
 # What is made from one commit is the same, whenever it is made.
-packages: PACKAGES += dpkg-dev file lintian pkgconf
+packages: PACKAGES += dpkg-dev file lintian pkgconf $(DOXYGEN)
 packages: setup
 	SOURCE_DATE_EPOCH=$(shell git log -1 --format=%ct) cmake --preset packages -DPX_WARNINGS_AS_ERRORS=$(WERROR)
 	cmake --build --preset packages -j $(JOBS)
@@ -139,7 +140,7 @@ tidy: setup
 	find $(TIDY) -name '*.cpp' | xargs -P $(JOBS) -n 1 clang-tidy -quiet -p build/clang
 
 # A tree of its own: nothing has to be compiled for it.
-docs: PACKAGES += doxygen qhelpgenerator-qt5 qtbase5-doc-dev
+docs: PACKAGES += $(DOXYGEN)
 docs: setup
 	cmake -S . -B build/docs -G Ninja -DPX_BUILD_TESTS=OFF
 	cmake --build build/docs --target PxReference
