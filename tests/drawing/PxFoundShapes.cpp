@@ -54,7 +54,7 @@ QString PxFoundShape::attribute(const char *name) const
     return attributeOf(shape, name);
 }
 
-QVector<PxFoundShape> pxFindShapes(const PxDrawnSheet &sheet, const QByteArray &className,
+QVector<PxFoundShape> pxFindShapes(const PxDrawnSheet &sheet, std::string_view className,
                                    double annotation)
 {
     QVector<PxFoundShape> found;

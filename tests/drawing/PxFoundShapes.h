@@ -18,7 +18,7 @@ struct PxFoundShape
 };
 
 /** The shapes of this class in the geometry of a sheet, from the lowest. */
-QVector<PxFoundShape> pxFindShapes(const PxDrawnSheet &sheet, const QByteArray &className,
+QVector<PxFoundShape> pxFindShapes(const PxDrawnSheet &sheet, std::string_view className,
                                    double annotation = 10);
 /** How many points all shapes of the sheet have together. */
 int pxCountPoints(const PxDrawnSheet &sheet);

@@ -151,7 +151,8 @@ QString faultOf(const PxDrawnShape &shape, const QRectF &canvas, double smallest
     const bool isOutside = rect.left() < canvas.left() || rect.top() < canvas.top() ||
                            rect.right() > canvas.right() || rect.bottom() > canvas.bottom();
     if (shape.kind != PxDrawnShape::Group && isPainted && isOutside)
-        return "outside: " + shape.className + ' ' + shape.text;
+        return QString("outside: %1 %2")
+            .arg(QLatin1String(shape.className.data(), int(shape.className.size())), shape.text);
     if (shape.kind == PxDrawnShape::Text &&
         (shape.fontSize < smallestType || shape.fontSize != qRound(shape.fontSize)))
         return QString("size %1: %2").arg(QString::number(shape.fontSize), shape.text);

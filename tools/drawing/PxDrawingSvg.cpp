@@ -11,6 +11,8 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <string>
+#include <string_view>
 #include <type_traits>
 
 namespace {
@@ -25,7 +27,7 @@ qint64 hundredths(double value)
 }
 
 /** With a point, at most two decimals and no exponent. */
-void append(QString *text, double value)
+void append(std::string *text, double value)
 {
     const qint64 rounded = hundredths(value);
     const qint64 absolute = std::abs(rounded);
@@ -39,40 +41,49 @@ void append(QString *text, double value)
     }
     if (rounded < 0)
         *text += '-';
-    *text += QLatin1String(digits.data(), int(end - digits.data()));
+    text->append(digits.data(), end);
 }
 
-QString number(double value)
+std::string number(double value)
 {
-    QString text;
+    std::string text;
     append(&text, value);
     return text;
 }
 
 /** Space-separated. */
 template <typename VALUES>
-QString numbers(const VALUES &values)
+std::string numbers(const VALUES &values)
 {
-    QString text;
+    std::string text;
     for (const double value : values) {
-        if (!text.isEmpty())
+        if (!text.empty())
             text += ' ';
         append(&text, value);
     }
     return text;
 }
 
-QString box(const QRect &rect)
+/** "#rrggbb". */
+std::string colour(const QColor &color)
+{
+    std::string text = "#";
+    for (int shift = 20; shift >= 0; shift -= 4)
+        text += "0123456789abcdef"[(color.rgb() >> shift) & 0xF];
+    return text;
+}
+
+std::string box(const QRect &rect)
 {
     return numbers(std::array{rect.x(), rect.y(), rect.width(), rect.height()});
 }
 
-QString translation(double x, double y)
+std::string translation(double x, double y)
 {
     return "translate(" + numbers(std::array{x, y}) + ')';
 }
 
-void append(QString *data, char command, const QPointF &point)
+void append(std::string *data, char command, const QPointF &point)
 {
     *data += command;
     append(data, point.x());
@@ -81,7 +92,7 @@ void append(QString *data, char command, const QPointF &point)
 }
 
 /** As H or V if it can be. */
-void appendLine(QString *data, const QPointF &from, const QPointF &to)
+void appendLine(std::string *data, const QPointF &from, const QPointF &to)
 {
     if (hundredths(from.y()) == hundredths(to.y())) {
         *data += 'H';
@@ -95,9 +106,9 @@ void appendLine(QString *data, const QPointF &from, const QPointF &to)
 }
 
 /** The commands of a path: M, L or H or V, A, and Z. */
-QString pathData(const QVector<PxDrawnStep> &steps)
+std::string pathData(const QVector<PxDrawnStep> &steps)
 {
-    QString data;
+    std::string data;
     QPointF at;
     for (const PxDrawnStep &step : steps) {
         switch (step.kind) {
@@ -138,6 +149,11 @@ QString holdable(const QString &text)
     return held;
 }
 
+QLatin1String latin1(std::string_view text)
+{
+    return QLatin1String(text.data(), int(text.size()));
+}
+
 /** Writes elements of a file of its own, in the words of PxHtml. */
 class XmlFile
 {
@@ -149,9 +165,13 @@ public:
     }
 
     void open(const char *name) { m_xml.writeStartElement(QLatin1String(name)); }
-    void attribute(const char *name, const QString &value)
+    void attribute(std::string_view name, const QString &value)
     {
-        m_xml.writeAttribute(QLatin1String(name), holdable(value));
+        m_xml.writeAttribute(latin1(name), holdable(value));
+    }
+    void plainAttribute(std::string_view name, std::string_view value)
+    {
+        m_xml.writeAttribute(latin1(name), latin1(value));
     }
     void text(const QString &text) { m_xml.writeCharacters(holdable(text)); }
     void close() { m_xml.writeEndElement(); }
@@ -184,7 +204,9 @@ private:
     void writePaint(const PxDrawnShape &shape);
     void writeLetters(const PxDrawnShape &shape);
     void writeTitles(const QString &title, const QString &description, bool haveIds);
-    void attribute(const char *name, const QString &value) { m_xml.attribute(name, value); }
+    void attribute(std::string_view name, const QString &value) { m_xml.attribute(name, value); }
+    /** With numbers or words of the program. */
+    void plain(std::string_view name, std::string_view value) { m_xml.plainAttribute(name, value); }
 
     static constexpr bool isFile = std::is_same_v<Xml, XmlFile>;
 
@@ -196,26 +218,26 @@ template <typename Xml>
 void Writer<Xml>::write(const PxDrawing &drawing)
 {
     m_xml.open("svg");
-    attribute("xmlns", nameOfSvg);
+    plain("xmlns", nameOfSvg);
     if (isFile)
-        attribute("xmlns:inkscape", nameOfLayers);
+        plain("xmlns:inkscape", nameOfLayers);
     const QSize size = drawing.size();
     const PxDrawnProduct &product = drawing.product;
-    attribute("width", number(size.width() / 10.0) + "mm");
-    attribute("height", number(size.height() / 10.0) + "mm");
-    attribute("viewBox", box(QRect(QPoint(), size)));
+    plain("width", number(size.width() / 10.0) + "mm");
+    plain("height", number(size.height() / 10.0) + "mm");
+    plain("viewBox", box(QRect(QPoint(), size)));
     attribute("xml:lang", QCoreApplication::translate("PxDrawing", "de", "code of the language"));
-    attribute("role", "img");
+    plain("role", "img");
     attribute("aria-labelledby", m_prefix + "title " + m_prefix + "desc");
     attribute("font-family", pxDrawnFontFamilies().join(", "));
-    attribute("data-format", "1");
+    plain("data-format", "1");
     attribute("data-product", product.type.productName());
     attribute("data-class", product.className);
-    attribute("data-page-count", QString::number(product.pageCount));
+    plain("data-page-count", number(product.pageCount));
     if (!product.themeId.isEmpty())
         attribute("data-theme", product.themeId);
-    attribute("data-units-per-mm", "10");
-    attribute("data-annotation", QString::number(drawing.annotation));
+    plain("data-units-per-mm", "10");
+    plain("data-annotation", number(drawing.annotation));
     writeTitles(drawing.title, drawing.description, true);
     for (int i = 0; i < drawing.sheets.size(); ++i)
         writeSheet(drawing.sheets[i], drawing.positionOf(i));
@@ -241,26 +263,26 @@ void Writer<Xml>::writeSheet(const PxDrawingSheet &sheet, const QPoint &position
     const QString id = m_prefix + "sheet-" + QString::number(pages.value(0));
     m_xml.open("g");
     attribute("id", id);
-    attribute("class", "sheet");
-    attribute("data-kind", ourKinds[int(sheet.sheet.kind)]);
-    attribute("data-pages", numbers(pages));
-    attribute("data-stands-for", numbers(sheet.sheet.standsFor));
-    attribute("data-trim", box(sheet.sheet.trim));
-    attribute("data-total", box(totalOf(sheet.sheet)));
-    attribute("data-canvas", box(sheet.canvas));
+    plain("class", "sheet");
+    plain("data-kind", ourKinds[int(sheet.sheet.kind)]);
+    plain("data-pages", numbers(pages));
+    plain("data-stands-for", numbers(sheet.sheet.standsFor));
+    plain("data-trim", box(sheet.sheet.trim));
+    plain("data-total", box(totalOf(sheet.sheet)));
+    plain("data-canvas", box(sheet.canvas));
     const QPoint origin = position - sheet.canvas.topLeft();
-    attribute("transform", translation(origin.x(), origin.y()));
+    plain("transform", translation(origin.x(), origin.y()));
     writeTitles(sheet.title, sheet.description, false);
     for (int layer = 0; layer < pxDrawnLayerCount; ++layer) {
         const QVector<PxDrawnShape> &shapes = sheet.layers[std::size_t(layer)];
         if (shapes.isEmpty())
             continue;
-        const QString name = pxDrawnLayerName(layer);
+        const std::string name = pxDrawnLayerName(layer);
         m_xml.open("g");
-        attribute("id", id + '-' + name);
-        attribute("class", "layer " + name);
+        attribute("id", id + '-' + latin1(name));
+        plain("class", "layer " + name);
         if (isFile) {
-            attribute("inkscape:groupmode", "layer");
+            plain("inkscape:groupmode", "layer");
             attribute("inkscape:label", pxDrawnLayerLabel(layer));
         }
         for (const PxDrawnShape &shape : shapes)
@@ -288,14 +310,14 @@ void Writer<Xml>::writeShape(const PxDrawnShape &shape)
     static constexpr const char *ourTags[] = {"g",      "rect",    "line", "path",
                                               "circle", "ellipse", "text"};
     m_xml.open(ourTags[shape.kind]);
-    if (!shape.className.isEmpty())
-        attribute("class", QString::fromUtf8(shape.className));
+    if (!shape.className.empty())
+        plain("class", shape.className);
     writeGeometry(shape);
     for (const auto &[name, value] : shape.attributes)
-        attribute(name.constData(), value);
+        attribute(name, value);
     if (shape.kind == PxDrawnShape::Group) {
         if (!shape.translation.isNull() || shape.className == "panel")
-            attribute("transform", translation(shape.translation.x(), shape.translation.y()));
+            plain("transform", translation(shape.translation.x(), shape.translation.y()));
         for (const PxDrawnShape &child : shape.children)
             writeShape(child);
     } else if (shape.kind == PxDrawnShape::Text) {
@@ -315,38 +337,38 @@ void Writer<Xml>::writeGeometry(const PxDrawnShape &shape)
     case PxDrawnShape::Group:
         break;
     case PxDrawnShape::Rect:
-        attribute("x", number(rect.x()));
-        attribute("y", number(rect.y()));
-        attribute("width", number(rect.width()));
-        attribute("height", number(rect.height()));
+        plain("x", number(rect.x()));
+        plain("y", number(rect.y()));
+        plain("width", number(rect.width()));
+        plain("height", number(rect.height()));
         break;
     case PxDrawnShape::Line:
-        attribute("x1", number(shape.line.x1()));
-        attribute("y1", number(shape.line.y1()));
-        attribute("x2", number(shape.line.x2()));
-        attribute("y2", number(shape.line.y2()));
+        plain("x1", number(shape.line.x1()));
+        plain("y1", number(shape.line.y1()));
+        plain("x2", number(shape.line.x2()));
+        plain("y2", number(shape.line.y2()));
         break;
     case PxDrawnShape::Path:
-        attribute("d", pathData(shape.steps));
+        plain("d", pathData(shape.steps));
         break;
     case PxDrawnShape::Circle:
-        attribute("cx", number(center.x()));
-        attribute("cy", number(center.y()));
-        attribute("r", number(rect.width() / 2));
+        plain("cx", number(center.x()));
+        plain("cy", number(center.y()));
+        plain("r", number(rect.width() / 2));
         break;
     case PxDrawnShape::Ellipse:
-        attribute("cx", number(center.x()));
-        attribute("cy", number(center.y()));
-        attribute("rx", number(rect.width() / 2));
-        attribute("ry", number(rect.height() / 2));
+        plain("cx", number(center.x()));
+        plain("cy", number(center.y()));
+        plain("rx", number(rect.width() / 2));
+        plain("ry", number(rect.height() / 2));
         break;
     case PxDrawnShape::Text:
         if (shape.readsUpward) {
-            attribute("transform",
-                      translation(shape.position.x(), shape.position.y()) + " rotate(-90)");
+            plain("transform",
+                  translation(shape.position.x(), shape.position.y()) + " rotate(-90)");
         } else {
-            attribute("x", number(shape.position.x()));
-            attribute("y", number(shape.position.y()));
+            plain("x", number(shape.position.x()));
+            plain("y", number(shape.position.y()));
         }
         break;
     }
@@ -355,28 +377,28 @@ void Writer<Xml>::writeGeometry(const PxDrawnShape &shape)
 template <typename Xml>
 void Writer<Xml>::writePaint(const PxDrawnShape &shape)
 {
-    attribute("fill", shape.fill.isValid() ? shape.fill.name() : QString("none"));
+    plain("fill", shape.fill.isValid() ? colour(shape.fill) : "none");
     const PxDrawnLine &line = shape.stroke;
     if (line.width <= 0)
         return;
-    attribute("stroke", line.color.name());
-    attribute("stroke-width", number(line.width));
+    plain("stroke", colour(line.color));
+    plain("stroke-width", number(line.width));
     if (!line.dashes.isEmpty())
-        attribute("stroke-dasharray", numbers(line.dashes));
+        plain("stroke-dasharray", numbers(line.dashes));
     if (line.opacity < 1)
-        attribute("stroke-opacity", number(line.opacity));
+        plain("stroke-opacity", number(line.opacity));
 }
 
 template <typename Xml>
 void Writer<Xml>::writeLetters(const PxDrawnShape &shape)
 {
-    attribute("font-size", number(shape.fontSize));
+    plain("font-size", number(shape.fontSize));
     if (shape.isBold)
-        attribute("font-weight", "bold");
+        plain("font-weight", "bold");
     if (shape.anchor != PxDrawnShape::Anchor::Start)
-        attribute("text-anchor", shape.anchor == PxDrawnShape::Anchor::End ? "end" : "middle");
+        plain("text-anchor", shape.anchor == PxDrawnShape::Anchor::End ? "end" : "middle");
     if (shape.fill.isValid())
-        attribute("fill", shape.fill.name());
+        plain("fill", colour(shape.fill));
     m_xml.text(shape.text);
 }
 

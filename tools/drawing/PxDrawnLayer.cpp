@@ -29,9 +29,9 @@ constexpr struct
 
 } // namespace
 
-QString pxDrawnLayerName(int layer)
+const char *pxDrawnLayerName(int layer)
 {
-    return QLatin1String(rows[layer].name);
+    return rows[layer].name;
 }
 
 QString pxDrawnLayerLabel(int layer)

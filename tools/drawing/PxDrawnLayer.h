@@ -28,6 +28,6 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(PxDrawnLayers)
 constexpr int pxDrawnLayerCount = 16;
 
 /** The name of the layer with this number, in ids and on command lines: "page-numbers". */
-QString pxDrawnLayerName(int layer);
+const char *pxDrawnLayerName(int layer);
 /** How programs that show the layers of a file call it. */
 QString pxDrawnLayerLabel(int layer);

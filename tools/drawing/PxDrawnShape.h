@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QByteArray>
 #include <QColor>
 #include <QLineF>
 #include <QPair>
@@ -9,6 +8,8 @@
 #include <QRectF>
 #include <QString>
 #include <QVector>
+
+#include <string_view>
 
 /** A line; none if it has no width. */
 struct PxDrawnLine
@@ -43,9 +44,9 @@ struct PxDrawnShape
     enum class Anchor { Start, Middle, End };
 
     Kind kind = Group;
-    QByteArray className;
+    std::string_view className; ///< a word of the program
     /** "data-…" and others, in the order in which they are written. Values may hold anything. */
-    QVector<QPair<QByteArray, QString>> attributes;
+    QVector<QPair<std::string_view, QString>> attributes;
 
     QRectF rect;                ///< of a rectangle; around a circle or an ellipse
     QLineF line;                ///< of a line

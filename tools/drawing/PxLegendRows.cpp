@@ -118,7 +118,7 @@ QString wordsOfTrim(const PxDrawnSheet &sheet)
     return Words::tr("%1, je Seite %2").arg(whole, PxDrawnWords::size(page.trim.size()));
 }
 
-QString widthOfFirst(const PxSheetRoom &room, const QByteArray &className)
+QString widthOfFirst(const PxSheetRoom &room, std::string_view className)
 {
     const QVector<PxSheetRoom::Item> items = room.items(className);
     return items.isEmpty() ? QString()

@@ -77,8 +77,8 @@ PxDrawnLine PxShapeMaker::thinLine(double annotation)
     return {0.12 * annotation, QColor(paleInk), {}, 1};
 }
 
-PxDrawnShape PxShapeMaker::group(const QByteArray &className,
-                                 const QVector<QPair<QByteArray, QString>> &attributes)
+PxDrawnShape PxShapeMaker::group(std::string_view className,
+                                 const QVector<QPair<std::string_view, QString>> &attributes)
 {
     PxDrawnShape shape;
     shape.className = className;
@@ -86,7 +86,7 @@ PxDrawnShape PxShapeMaker::group(const QByteArray &className,
     return shape;
 }
 
-PxDrawnShape PxShapeMaker::line(const QByteArray &className, const QPointF &from, const QPointF &to,
+PxDrawnShape PxShapeMaker::line(std::string_view className, const QPointF &from, const QPointF &to,
                                 const PxDrawnLine &stroke)
 {
     PxDrawnShape shape;
@@ -97,7 +97,7 @@ PxDrawnShape PxShapeMaker::line(const QByteArray &className, const QPointF &from
     return shape;
 }
 
-PxDrawnShape PxShapeMaker::rect(const QByteArray &className, const QRectF &rect,
+PxDrawnShape PxShapeMaker::rect(std::string_view className, const QRectF &rect,
                                 const PxDrawnLine &stroke, const QColor &fill)
 {
     PxDrawnShape shape;

@@ -11,11 +11,11 @@ extern const char *const paleInk;
 
 PxDrawnLine thinLine(double annotation);
 
-PxDrawnShape group(const QByteArray &className,
-                   const QVector<QPair<QByteArray, QString>> &attributes = {});
-PxDrawnShape line(const QByteArray &className, const QPointF &from, const QPointF &to,
+PxDrawnShape group(std::string_view className,
+                   const QVector<QPair<std::string_view, QString>> &attributes = {});
+PxDrawnShape line(std::string_view className, const QPointF &from, const QPointF &to,
                   const PxDrawnLine &stroke);
-PxDrawnShape rect(const QByteArray &className, const QRectF &rect, const PxDrawnLine &stroke,
+PxDrawnShape rect(std::string_view className, const QRectF &rect, const PxDrawnLine &stroke,
                   const QColor &fill = {});
 PxDrawnShape circle(const QPointF &center, double radius, const PxDrawnLine &stroke,
                     const QColor &fill = {});

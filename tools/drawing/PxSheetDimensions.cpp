@@ -260,7 +260,7 @@ const PxDrawnPage &highestPage(const PxDrawnSheet &sheet)
 }
 
 /** Strips along inner edges; those that leave nothing of their page are told in a note. */
-Chain strips(const PxSheetRoom &room, const QByteArray &className, bool areVertical)
+Chain strips(const PxSheetRoom &room, std::string_view className, bool areVertical)
 {
     Chain chain;
     for (const PxSheetRoom::Item &item : room.items(className)) {

@@ -48,7 +48,7 @@ QString roleName(Role role)
     return QStringLiteral("page");
 }
 
-PxDrawnShape shape(PxDrawnShape::Kind kind, const QByteArray &className)
+PxDrawnShape shape(PxDrawnShape::Kind kind, std::string_view className)
 {
     PxDrawnShape shape;
     shape.kind = kind;
@@ -57,7 +57,7 @@ PxDrawnShape shape(PxDrawnShape::Kind kind, const QByteArray &className)
 }
 
 /** A rectangle, or the ellipse in it. Neither line nor fill makes it a shape for programs only. */
-PxDrawnShape box(const QByteArray &className, const QRectF &rect, const PxDrawnLine &stroke = {},
+PxDrawnShape box(std::string_view className, const QRectF &rect, const PxDrawnLine &stroke = {},
                  const QColor &fill = {}, PxDrawnShape::Kind kind = PxDrawnShape::Rect)
 {
     PxDrawnShape box = shape(kind, className);
@@ -67,7 +67,7 @@ PxDrawnShape box(const QByteArray &className, const QRectF &rect, const PxDrawnL
     return box;
 }
 
-PxDrawnShape path(const QByteArray &className, const Steps &steps, const PxDrawnLine &stroke,
+PxDrawnShape path(std::string_view className, const Steps &steps, const PxDrawnLine &stroke,
                   const QColor &fill = {})
 {
     PxDrawnShape path = shape(PxDrawnShape::Path, className);
@@ -77,7 +77,7 @@ PxDrawnShape path(const QByteArray &className, const Steps &steps, const PxDrawn
     return path;
 }
 
-PxDrawnShape line(const QByteArray &className, const QLineF &line, const PxDrawnLine &stroke)
+PxDrawnShape line(std::string_view className, const QLineF &line, const PxDrawnLine &stroke)
 {
     PxDrawnShape shape = ::shape(PxDrawnShape::Line, className);
     shape.line = line;
@@ -185,7 +185,7 @@ private:
     void addVerticalMarks(Steps *steps, double x) const;
 
     PxDrawnLine stroke(PxDrawnItem item) const { return PxDrawnStyle::line(item, m_a); }
-    PxDrawnShape placedBox(const QByteArray &className, const PxPlacedItem &item) const;
+    PxDrawnShape placedBox(std::string_view className, const PxPlacedItem &item) const;
     QVector<PxPlacedItem> itemsOn(int page, PxDrawnItem item) const;
     void add(PxDrawnLayer layer, const Shapes &ofSheet, PageShapes ofPage);
 
@@ -232,7 +232,7 @@ void Builder::add(PxDrawnLayer layer, const Shapes &ofSheet, PageShapes ofPage)
 Shapes Builder::areas(int page) const
 {
     const PxDrawnPage &p = m_sheet.pages[page];
-    const auto filled = [](const QByteArray &className, const QRectF &rect, PxDrawnItem item) {
+    const auto filled = [](std::string_view className, const QRectF &rect, PxDrawnItem item) {
         return box(className, rect, {}, PxDrawnStyle::fill(item));
     };
     Shapes shapes{filled("paper", pageRect(p), PxDrawnItem::Trim)};
@@ -262,7 +262,7 @@ QVector<PxPlacedItem> Builder::itemsOn(int page, PxDrawnItem item) const
     return items;
 }
 
-PxDrawnShape Builder::placedBox(const QByteArray &className, const PxPlacedItem &item) const
+PxDrawnShape Builder::placedBox(std::string_view className, const PxPlacedItem &item) const
 {
     PxDrawnShape shape = item.shown.isEmpty() ? box(className, item.shown, {}, {})
                                               : box(className, item.shown, stroke(item.item),
@@ -335,7 +335,7 @@ Shapes Builder::pageNumbers(int page) const
 Shapes Builder::margins(int page) const
 {
     const PxDrawnPage &p = m_sheet.pages[page];
-    const auto strip = [&](const QByteArray &className, int width, PxDrawnItem item) {
+    const auto strip = [&](std::string_view className, int width, PxDrawnItem item) {
         PxDrawnShape shape = box(className, innerStrip(p, width), stroke(item));
         shape.attributes = {{"data-width", QString::number(width)}};
         return shape;

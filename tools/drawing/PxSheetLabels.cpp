@@ -46,7 +46,7 @@ PxDrawnShape dot(const QPointF &center, double a)
     return PxShapeMaker::circle(center, dotRadius * a, {}, QColor(PxShapeMaker::ink));
 }
 
-QRectF rectOfFirst(const PxSheetRoom &room, const QByteArray &className)
+QRectF rectOfFirst(const PxSheetRoom &room, std::string_view className)
 {
     const QVector<PxSheetRoom::Item> items = room.items(className);
     return items.isEmpty() ? QRectF() : items.constFirst().rect;

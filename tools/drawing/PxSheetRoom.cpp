@@ -50,7 +50,7 @@ PxSheetRoom::PxSheetRoom(PxDrawingSheet &drawing, double annotation)
     m_used = m_geometry;
 }
 
-QVector<PxSheetRoom::Item> PxSheetRoom::items(const QByteArray &className) const
+QVector<PxSheetRoom::Item> PxSheetRoom::items(std::string_view className) const
 {
     QVector<Item> items;
     std::copy_if(m_items.begin(), m_items.end(), std::back_inserter(items),

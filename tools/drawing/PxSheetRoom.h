@@ -27,7 +27,7 @@ public:
     /** Around all that is drawn. */
     QRectF used() const { return m_used; }
     /** Shapes of the geometry with this class, from the lowest. */
-    QVector<Item> items(const QByteArray &className) const;
+    QVector<Item> items(std::string_view className) const;
 
     /** Whether no text stands there. */
     bool isFree(const QRectF &rect) const;

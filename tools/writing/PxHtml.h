@@ -1,11 +1,12 @@
 #pragma once
 
 #include <QByteArray>
-#include <QLatin1String>
 #include <QString>
-#include <QVector>
 
 #include <initializer_list>
+#include <string>
+#include <string_view>
+#include <vector>
 
 /**
  * Writes elements of HTML. All texts are escaped, and characters that cannot be seen become
@@ -19,15 +20,26 @@ class PxHtml
 public:
     struct Attribute
     {
+        /** With a text of the program, which needs no escapes. */
+        Attribute(const char *attribute, const char *text) : name(attribute), plain(text) {}
+        /** A null text leaves the attribute out. */
+        Attribute(const char *attribute, const QString &text) : name(attribute), value(text) {}
+
         const char *name;
-        QString value; ///< a null text leaves the attribute out
+        const char *plain = nullptr;
+        QString value = {};
     };
     using Attributes = std::initializer_list<Attribute>;
+
+    /** `begin` stands before the first element. */
+    explicit PxHtml(const char *begin = "<!DOCTYPE html>\n") : m_text(begin) {}
 
     /** Opens an element; close() closes the one that was opened last. Names must outlive this. */
     void open(const char *name, const Attributes &attributes = {});
     /** Of the element that was opened last, as long as nothing is in it. */
-    void attribute(const char *name, const QString &value);
+    void attribute(std::string_view name, const QString &value);
+    /** With numbers or words of the program, which need no escapes. */
+    void plainAttribute(std::string_view name, std::string_view value);
     void close();
     void text(const QString &text);
     /** Begins a new line of a text, where lines count. */
@@ -37,15 +49,16 @@ public:
     /** An element that never has an end tag, such as "img". */
     void single(const char *name, const Attributes &attributes);
 
-    /** The document, with its type. */
+    /** All that was written. */
     QByteArray document() const;
 
 private:
     void openTag(const char *name, const Attributes &attributes);
+    void beginAttribute(std::string_view name);
     void finishTag();
     void append(const QString &text);
 
-    QString m_text = QStringLiteral("<!DOCTYPE html>\n");
-    QVector<QLatin1String> m_open; ///< the names of the elements that are not closed, outer first
+    std::string m_text;                   ///< in UTF-8
+    std::vector<std::string_view> m_open; ///< names of elements that are not closed, outer first
     bool m_isInTag = false;
 };

@@ -12,7 +12,6 @@
 
 #include <PxProductProperties.h>
 
-#include <QBuffer>
 #include <QMap>
 #include <QStringList>
 
@@ -192,8 +191,7 @@ QByteArray PxProofDrawings::small(const PxProofProduct &product)
         PxDrawnProductReader(product.registry).read(product.type, 0, QString());
     if (drawn.sheets.isEmpty())
         return QByteArray();
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    PxDrawingSvg::write(pxDrawSmall(drawn, inTable), &buffer);
-    return buffer.data();
+    PxHtml file("");
+    PxDrawingSvg::write(pxDrawSmall(drawn, inTable), QString(), &file);
+    return file.document();
 }
