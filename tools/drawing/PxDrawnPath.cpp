@@ -6,12 +6,11 @@ namespace {
 
 using Steps = PxDrawnPath::Steps;
 
-PxDrawnStep step(PxDrawnStep::Kind kind, const QPointF &to = {})
+void append(Steps *steps, PxDrawnStep::Kind kind, const QPointF &to)
 {
-    PxDrawnStep step;
-    step.kind = kind;
-    step.to = to;
-    return step;
+    steps->resize(steps->size() + 1); // gcc warns of faults that QVector::append() does not have
+    steps->last().kind = kind;
+    steps->last().to = to;
 }
 
 bool continues(const QRectF &area, const QRectF &next)
@@ -23,14 +22,15 @@ bool continues(const QRectF &area, const QRectF &next)
 
 void PxDrawnPath::addLine(Steps *steps, const QPointF &from, const QPointF &to)
 {
-    *steps += {step(PxDrawnStep::Move, from), step(PxDrawnStep::Line, to)};
+    append(steps, PxDrawnStep::Move, from);
+    append(steps, PxDrawnStep::Line, to);
 }
 
 void PxDrawnPath::addArc(Steps *steps, const QPointF &from, const QPointF &to, double radius)
 {
-    PxDrawnStep arc = step(PxDrawnStep::Arc, to);
-    arc.radius = radius;
-    *steps += {step(PxDrawnStep::Move, from), arc};
+    append(steps, PxDrawnStep::Move, from);
+    append(steps, PxDrawnStep::Arc, to);
+    steps->last().radius = radius;
 }
 
 void PxDrawnPath::addContour(Steps *steps, const QVector<QPointF> &points)
@@ -38,9 +38,9 @@ void PxDrawnPath::addContour(Steps *steps, const QVector<QPointF> &points)
     for (const QPointF &point : points) {
         const bool isFirst = &point == &points.constFirst();
         if (isFirst || steps->constLast().to != point)
-            steps->append(step(isFirst ? PxDrawnStep::Move : PxDrawnStep::Line, point));
+            append(steps, isFirst ? PxDrawnStep::Move : PxDrawnStep::Line, point);
     }
-    steps->append(step(PxDrawnStep::Close));
+    append(steps, PxDrawnStep::Close, {});
 }
 
 void PxDrawnPath::addHatch(Steps *steps, const QRectF &area, double distance, const QPointF &origin)
