@@ -60,7 +60,7 @@ struct PxProofCatalogue
 {
     QString title;
     QByteArray exported; ///< as "export" writes it
-    QVector<PxProofProduct> products;
+    QVector<PxProofProduct> products; ///< as PxCatalogueProducts sorts them
     QVector<PxProofProduct> legacyProducts;
     QVector<PxProofTheme> themes;
     QVector<PxFinding> findings;       ///< of files that belong to no product

@@ -3,7 +3,6 @@
 #include "format/PxCatalogueKeywords.h"
 #include "origins/PxOriginFile.h"
 #include "origins/PxOrigins.h"
-#include "proof/PxPageNames.h"
 #include "proof/PxProofCatalogue.h"
 #include "proof/PxProofDifferences.h"
 #include "proof/PxProofDrawings.h"
@@ -12,7 +11,6 @@
 #include "proof/PxProofReport.h"
 #include "proof/PxProofWords.h"
 #include "proof/PxSpinePlot.h"
-#include "report/PxCatalogueProducts.h"
 #include "report/PxProductReport.h"
 #include "report/PxShownProduct.h"
 #include "writing/PxTerminal.h"
@@ -21,6 +19,7 @@
 
 #include <QHash>
 #include <QJsonArray>
+#include <QSet>
 
 namespace {
 
@@ -36,7 +35,7 @@ struct Subject
     const PxProofProduct &product;
     PxShownProduct shown;
     PxOriginFiles files;
-    PxProductTypeList compatible;
+    QVector<const PxProofProduct *> compatible; ///< in the order of the catalogue
 };
 
 void addLink(PxHtml *html, const QString &name, const QString &page)
@@ -102,22 +101,42 @@ QJsonArray valuesOf(const PxReport &report)
     return values;
 }
 
-/** Themes that show the product alike stand together. */
+/** Themes that show the product alike, by their indices in the catalogue. */
+struct Alike
+{
+    PxReport report;
+    QVector<int> themes;
+};
+
+QVector<Alike> themesAlike(const Subject &subject)
+{
+    const QStringList withTemplates = subject.shown.product->themesWithDefaultTemplates();
+    QVector<Alike> groups;
+    QHash<QJsonArray, int> groupOf;
+    int usual = -1; // the group of all themes without templates of their own, but for "normal"
+    for (const int index : subject.product.themes.mid(0, mostThemes)) {
+        const PxTheme &theme = subject.catalogue.themes[index].theme;
+        const bool isUsual = theme.isThemeWithContent() && !withTemplates.contains(theme.id());
+        int group = isUsual ? usual : -1;
+        if (group == -1) {
+            const PxReport report = PxProductReport::ofTheme(subject.shown, theme);
+            const QJsonArray values = valuesOf(report);
+            if (!groupOf.contains(values)) {
+                groupOf.insert(values, groups.size());
+                groups.append({report, {}});
+            }
+            group = groupOf[values];
+        }
+        if (isUsual)
+            usual = group;
+        groups[group].themes.append(index);
+    }
+    return groups;
+}
+
 void addThemes(PxHtml *html, const Subject &subject)
 {
-    QVector<QPair<PxReport, QVector<int>>> groups;
-    QHash<QJsonArray, int> groupOf;
-    for (const int theme : subject.product.themes.mid(0, mostThemes)) {
-        const PxReport report =
-            PxProductReport::ofTheme(subject.shown, subject.catalogue.themes[theme].theme);
-        const QJsonArray values = valuesOf(report);
-        if (!groupOf.contains(values)) {
-            groupOf.insert(values, groups.size());
-            groups.append({report, {}});
-        }
-        groups[groupOf[values]].second.append(theme);
-    }
-    for (const auto &[report, themes] : groups) {
+    for (const auto &[report, themes] : themesAlike(subject)) {
         html->open("ul", {{"class", "names"}});
         for (const int theme : themes) {
             html->open("li");
@@ -178,17 +197,16 @@ QString textOf(int agreeing)
 void addCompatible(PxHtml *html, const Subject &subject)
 {
     const QHash<PxProductType, int> agreeing = agreements(subject.product);
-    QHash<int, QString> texts;
-    for (const int criteria : agreeing)
-        texts.insert(criteria, textOf(criteria));
+    QHash<int, QString> texts; // by criteria; there are few
     html->open("ul");
-    for (const PxProductType &other : subject.compatible.mid(0, mostCompatible)) {
+    for (const PxProofProduct *other : subject.compatible.mid(0, mostCompatible)) {
+        const int criteria = agreeing.value(other->type);
+        if (!texts.contains(criteria))
+            texts.insert(criteria, textOf(criteria));
         html->open("li");
-        addLink(html, other.productName(),
-                PxPageNames::of(PxPageNames::Kind::Product, other.productName()));
-        const QString criteria = texts.value(agreeing.value(other));
-        if (!criteria.isEmpty())
-            html->element("span", criteria, {{"class", "quiet"}});
+        addLink(html, other->type.productName(), other->page);
+        if (!texts[criteria].isEmpty())
+            html->element("span", texts[criteria], {{"class", "quiet"}});
         html->close();
     }
     html->close();
@@ -226,14 +244,20 @@ void addContents(PxHtml *html, const Subject &subject)
     html->close();
 }
 
-PxProductTypeList compatibleWith(const PxProofProduct &product)
+QVector<const PxProofProduct *> compatibleWith(const PxProofCatalogue &catalogue,
+                                               const PxProofProduct &product)
 {
     if (product.isLegacy)
         return {};
-    PxProductTypeList others =
+    const PxProductTypeList types =
         product.registry->findCompatibleProducts(product.type, PxProductComparationNone);
-    others.removeAll(product.type);
-    return PxCatalogueProducts::sorted(others);
+    const QSet<PxProductType> compatible(types.begin(), types.end());
+    QVector<const PxProofProduct *> others;
+    for (const PxProofProduct &other : catalogue.products) {
+        if (other.type != product.type && compatible.contains(other.type))
+            others.append(&other);
+    }
+    return others;
 }
 
 } // namespace
@@ -243,7 +267,8 @@ QByteArray PxProofProductPage::page(const PxProofCatalogue &catalogue,
 {
     const PxShownProduct shown =
         PxProductReport::shown(product.registry, product.type, 0, QString());
-    const Subject subject{catalogue, product, shown, PxOriginFiles(shown), compatibleWith(product)};
+    const Subject subject{catalogue, product, shown, PxOriginFiles(shown),
+                          compatibleWith(catalogue, product)};
     PxProofPage page(catalogue, product.type.productName());
     PxHtml &html = page.html();
     if (product.isLegacy)

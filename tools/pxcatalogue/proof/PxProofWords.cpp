@@ -1,12 +1,15 @@
 #include "proof/PxProofWords.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <iterator>
+#include <string_view>
 
 namespace {
 
 struct Word
 {
-    const char *of;
+    std::string_view of;
     const char *german;
 };
 
@@ -203,14 +206,18 @@ constexpr Word keywords[] = {
     {"increment", "Schritt der Seitenzahlen"},
 };
 
+/** Null if there is none. */
 template <std::size_t COUNT>
-QString germanOf(const Word (&words)[COUNT], const char *of)
+const char *germanOf(const Word (&words)[COUNT], std::string_view of)
 {
-    for (const Word &word : words) {
-        if (qstrcmp(word.of, of) == 0)
-            return QString::fromUtf8(word.german);
-    }
-    return QString::fromUtf8(of);
+    const auto found = std::find_if(std::begin(words), std::end(words),
+                                    [of](const Word &word) { return word.of == of; });
+    return found == std::end(words) ? nullptr : found->german;
+}
+
+bool isGerman()
+{
+    return PxProofWords::language() == "de";
 }
 
 bool isNumber(const QJsonValue &value, PxReportFormat format)
@@ -232,17 +239,20 @@ QString PxProofWords::language()
 
 QString PxProofWords::label(const char *english)
 {
-    return language() == "de" ? germanOf(labels, english) : QString::fromUtf8(english);
+    const char *german = isGerman() ? germanOf(labels, english) : nullptr;
+    return QString::fromUtf8(german ? german : english);
 }
 
 QString PxProofWords::heading(const char *key, const QString &english)
 {
-    return language() == "de" ? germanOf(headings, key) : english;
+    const char *german = isGerman() ? germanOf(headings, key) : nullptr;
+    return german ? QString::fromUtf8(german) : english;
 }
 
 QString PxProofWords::keyword(const QString &keyword)
 {
-    return language() == "de" ? germanOf(keywords, keyword.toUtf8().constData()) : keyword;
+    const char *german = isGerman() ? germanOf(keywords, keyword.toStdString()) : nullptr;
+    return german ? QString::fromUtf8(german) : keyword;
 }
 
 QString PxProofWords::value(const QJsonValue &value, PxReportFormat format)
