@@ -63,7 +63,7 @@ QString PxOrigin::text(const PxPlace &place)
 
 QString PxOrigin::position(const PxPlace &place)
 {
-    return QString("%1:%2").arg(place.line).arg(place.column);
+    return QString::number(place.line) + ':' + QString::number(place.column);
 }
 
 QJsonObject PxOrigin::json() const

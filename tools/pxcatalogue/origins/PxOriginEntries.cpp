@@ -1,6 +1,7 @@
 #include "origins/PxOriginEntries.h"
 
 #include "origins/PxTemplateEntries.h"
+#include "report/PxReport.h"
 #include "report/PxShownProduct.h"
 
 #include <geometry/PxBarcodeList.h>
@@ -35,26 +36,28 @@ PageRange rangeOf(Element redirect)
 
 } // namespace
 
-PxOriginEntries::PxOriginEntries(const PxShownProduct &shown, const QJsonObject &report,
-                                 const PxOriginFile &product, const PxOriginFile &userDefaults,
-                                 const PxOriginFile &theme)
-    : m_product(product)
+PxOriginEntries::PxOriginEntries(const PxShownProduct &shown, const PxReport &report,
+                                 const PxOriginFiles &files)
+    : m_product(files.product)
 {
-    const auto rows = [&report](const char *table) {
-        return report[QLatin1String(table)].toArray();
+    const auto pages = [&report](const char *table) {
+        QVector<int> numbers;
+        for (const QJsonValue &page : report.column(table, "page").mid(0, maximumRows))
+            numbers.append(page.toInt());
+        return numbers;
     };
     addSpines(shown.pageCount);
     addSurroundings(shown);
-    addBarcodes(rows("barcodes"), shown.pages.size());
-    addTemplates(shown, userDefaults);
-    addLogo(shown.type, theme);
+    addBarcodes(pages("barcodes"), shown.pages.size());
+    addTemplates(shown, files.userDefaults);
+    addLogo(shown.type, files.theme);
     for (Element item : m_product.entries("extra_production_pages", "item").mid(0, maximumRows))
         add("item[row]", item);
-    addContentRedirects(rows("contentRedirects"));
-    addRotationRedirects(rows("rotationRedirects"));
+    addContentRedirects(pages("contentRedirects"));
+    addRotationRedirects(pages("rotationRedirects"));
 }
 
-PxOriginElement PxOriginEntries::find(const QString &name, int row) const
+PxOriginElement PxOriginEntries::find(const QByteArray &name, int row) const
 {
     return m_entries.value(name).value(qMax(0, row));
 }
@@ -115,13 +118,12 @@ void PxOriginEntries::addSurroundings(const PxShownProduct &shown)
     }
 }
 
-void PxOriginEntries::addBarcodes(const QJsonArray &rows, int pageCount)
+void PxOriginEntries::addBarcodes(const QVector<int> &pages, int pageCount)
 {
     const Elements elements = m_product.entries("barcodes", "barcode");
     const PxSourceElement *list = elements.isEmpty() ? nullptr : elements.constFirst()->parent;
     const PxBarcodeList barcodes(list ? list->dom : QDomElement());
-    for (int row = 0; row < qMin(rows.size(), maximumRows); ++row) {
-        const int page = rows[row]["page"].toInt();
+    for (const int page : pages) {
         int index = 0;
         while (index < barcodes.size() && !barcodes[index].isOnPage(page, pageCount))
             ++index;
@@ -129,13 +131,12 @@ void PxOriginEntries::addBarcodes(const QJsonArray &rows, int pageCount)
     }
 }
 
-void PxOriginEntries::addContentRedirects(const QJsonArray &rows)
+void PxOriginEntries::addContentRedirects(const QVector<int> &pages)
 {
     QVector<PageRange> ranges;
     for (Element redirect : m_product.entries("contentredirects", "contentredirect"))
         ranges.prepend(rangeOf(redirect)); // a later one overrides an earlier one
-    for (int row = 0; row < qMin(rows.size(), maximumRows); ++row) {
-        const int page = rows[row]["page"].toInt();
+    for (const int page : pages) {
         const auto found =
             std::find_if(ranges.begin(), ranges.end(), [page](const PageRange &range) {
                 return range.first <= page && page <= range.last;
@@ -144,7 +145,7 @@ void PxOriginEntries::addContentRedirects(const QJsonArray &rows)
     }
 }
 
-void PxOriginEntries::addRotationRedirects(const QJsonArray &rows)
+void PxOriginEntries::addRotationRedirects(const QVector<int> &pages)
 {
     QHash<int, Elements> redirectsOfPage;
     for (Element redirect : m_product.entries("rotationredirects", "rotationredirect")) {
@@ -153,8 +154,7 @@ void PxOriginEntries::addRotationRedirects(const QJsonArray &rows)
             redirectsOfPage[from].append(redirect);
     }
     QHash<int, int> used;
-    for (int row = 0; row < qMin(rows.size(), maximumRows); ++row) {
-        const int page = rows[row]["page"].toInt();
+    for (const int page : pages) {
         add("rotationredirect[row]", redirectsOfPage.value(page).value(used[page]++));
     }
 }

@@ -21,13 +21,6 @@ namespace {
 using Kind = PxOrigin::Kind;
 using When = PxOriginCase;
 
-/** By their prefix in the rows. */
-QMap<QString, PxOriginFile> byPrefix(const PxOriginFiles &files)
-{
-    return {{"", files.product},  {"user", files.userDefaults}, {"theme", files.theme},
-            {"type", files.type}, {"replaced", files.replaced}, {"successor", files.successor}};
-}
-
 /** Whether one of the words is known, or at least means something else than the default. */
 bool isReadAsKeywords(const QString &text, const PxAttributeRow &row)
 {
@@ -52,6 +45,12 @@ bool isRead(const PxSourceElement &element, const PxSourceAttribute &attribute,
            !(isEmptyDefault && attribute.value.isEmpty());
 }
 
+/** A pointer, or a pattern of pointers, for one row of a table. */
+QString inRow(const QString &pattern, int row)
+{
+    return pattern.contains('*') ? QString(pattern).replace('*', QString::number(row)) : pattern;
+}
+
 bool isAsLargeAsCover(const PxPageType &type)
 {
     switch (type.value()) {
@@ -72,9 +71,9 @@ bool isAsLargeAsCover(const PxPageType &type)
 PxOriginReader::PxOriginReader(const PxShownProduct &shown, const PxOriginFiles &files,
                                const PxReport &report)
     : m_shown(shown)
-    , m_report(report.json())
-    , m_files(byPrefix(files))
-    , m_entries(shown, m_report, m_files[""], m_files["user"], m_files["theme"])
+    , m_report(report)
+    , m_files(files)
+    , m_entries(shown, report, files)
 {}
 
 QMap<QString, PxOrigin> PxOriginReader::read()
@@ -94,12 +93,7 @@ void PxOriginReader::removeUnprinted()
     QHash<QString, bool> known; // many origins name the same values
     const auto isPrinted = [&](const QString &pointer) {
         const auto found = known.constFind(pointer);
-        if (found != known.constEnd())
-            return *found;
-        QJsonValue value = m_report;
-        for (const QString &part : pointer.split('/', Qt::SkipEmptyParts))
-            value = value.isArray() ? QJsonValue(value[part.toInt()]) : QJsonValue(value[part]);
-        return *known.insert(pointer, !value.isUndefined());
+        return found != known.constEnd() ? *found : *known.insert(pointer, m_report.has(pointer));
     };
     for (auto origin = m_origins.begin(); origin != m_origins.end();) {
         for (PxOrigin::Part &part : origin->from) {
@@ -113,17 +107,16 @@ void PxOriginReader::removeUnprinted()
 /** How many values a pattern has: 1 unless it is about the rows of a table. */
 int PxOriginReader::rowsOf(const PxOriginRules &value) const
 {
-    const auto section = m_report.constFind(value.section);
-    if (section == m_report.constEnd())
-        return 0;
-    return value.isOfRows() ? qMin(section->toArray().size(), PxOriginEntries::maximumRows) : 1;
+    const PxReport::Section *section = m_report.find(value.section);
+    if (!section)
+        return m_report.has('/' + value.section) ? 1 : 0;
+    return value.isOfRows() ? qMin(section->rows.size(), PxOriginEntries::maximumRows) : 1;
 }
 
 void PxOriginReader::readRow(const PxOriginRules &value, int index)
 {
     if (const PxOriginRule *rule = ruleFor(value, index))
-        m_origins.insert(QString(value.pattern).replace('*', QString::number(index)),
-                         originOf(*rule, index));
+        m_origins.insert(inRow(value.pattern, index), originOf(*rule, index));
 }
 
 /** The first that holds; null if none does. */
@@ -266,7 +259,7 @@ PxOriginReader::Inputs PxOriginReader::furtherLists(const PxOriginTerm &term) co
 {
     constexpr int most = 10; // nobody writes as many
     Inputs inputs;
-    if (!term.attribute.isEmpty() || !term.file.isEmpty() || term.isOneOfSeveral)
+    if (!term.attribute.isEmpty() || term.file != &PxOriginFiles::product || term.isOneOfSeveral)
         return inputs;
     const PxOriginElement first = elementAt(term, 0);
     if (!first.element || first.file->rowOf(*first.element)->occurrence != PxOccurrence::Any)
@@ -294,19 +287,23 @@ PxOriginReader::Input PxOriginReader::inputAt(const PxOriginTerm &term, int inde
 {
     Input input;
     input.isThere = true;
-    if (term.isValue()) {
-        input.isThere = m_report.contains(term.section); // a theme may not be
-        input.pointer = QString(term.pointer).replace('*', QString::number(index));
+    switch (term.kind) {
+    case PxOriginTerm::Kind::Value:
+        input.isThere = m_report.find(term.section); // a theme may not be
+        input.pointer = inRow(term.pointer, index);
         return input;
-    }
-    if (term.file == "asked" || term.file == "clock") {
-        input.kind = term.file == "asked" ? Kind::Question : Kind::Clock;
+    case PxOriginTerm::Kind::Question:
+        input.kind = Kind::Question;
         return input;
-    }
-    if (term.file == "file") {
+    case PxOriginTerm::Kind::Clock:
+        input.kind = Kind::Clock;
+        return input;
+    case PxOriginTerm::Kind::ProductFile:
         input.kind = Kind::File;
-        input.place.path = m_files[""].path();
+        input.place.path = m_files.product.path();
         return input;
+    case PxOriginTerm::Kind::Element:
+        break;
     }
     const PxOriginElement owner = elementAt(term, index);
     if (!term.attribute.isEmpty())
@@ -325,15 +322,15 @@ PxOriginReader::Input PxOriginReader::inputOf(const PxOriginElement &element)
 
 PxOriginElement PxOriginReader::elementAt(const PxOriginTerm &term, int index) const
 {
-    const auto source = m_files.constFind(term.file);
-    if (source == m_files.constEnd())
+    if (!term.file)
         return {};
-    PxOriginElement found{&*source, source->element()};
-    for (const QString &step : term.path) {
+    const PxOriginFile &file = m_files.*term.file;
+    PxOriginElement found{&file, file.element()};
+    for (const QByteArray &step : term.path) {
         if (step.endsWith(']'))
             found = m_entries.find(step, index);
         else if (found.element)
-            found.element = found.element->firstChild(step.toUtf8().constData());
+            found.element = found.element->firstChild(step.constData());
     }
     return found;
 }

@@ -4,7 +4,6 @@
 #include "origins/PxOriginFile.h"
 #include "origins/PxOriginRule.h"
 
-#include <QJsonObject>
 #include <QMap>
 #include <QVector>
 
@@ -15,6 +14,7 @@ struct PxShownProduct;
 class PxOriginReader
 {
 public:
+    /** All of them must outlive this. */
     PxOriginReader(const PxShownProduct &shown, const PxOriginFiles &files, const PxReport &report);
 
     /** By JSON pointer. Of long tables only the first rows have origins of their own. */
@@ -56,8 +56,8 @@ private:
     QVector<PxOrigin::Part> filled(const QString &rule, const Inputs &inputs) const;
 
     const PxShownProduct &m_shown;
-    QJsonObject m_report;
-    QMap<QString, PxOriginFile> m_files; // by their prefix in the rows
+    const PxReport &m_report;
+    const PxOriginFiles &m_files;
     PxOriginEntries m_entries;
     QMap<QString, PxOrigin> m_origins;
 };

@@ -4,6 +4,26 @@
 
 namespace {
 
+constexpr struct
+{
+    const char *prefix;
+    PxOriginFile PxOriginFiles::*file;
+} files[] = {
+    {"", &PxOriginFiles::product},          {"user", &PxOriginFiles::userDefaults},
+    {"theme", &PxOriginFiles::theme},       {"type", &PxOriginFiles::type},
+    {"replaced", &PxOriginFiles::replaced}, {"successor", &PxOriginFiles::successor},
+};
+
+constexpr struct
+{
+    const char *prefix;
+    PxOriginTerm::Kind kind;
+} otherKinds[] = {
+    {"asked", PxOriginTerm::Kind::Question},
+    {"clock", PxOriginTerm::Kind::Clock},
+    {"file", PxOriginTerm::Kind::ProductFile},
+};
+
 /** The inputs before or behind the ";". */
 QVector<PxOriginRule::Alternatives> parsed(const QString &inputs)
 {
@@ -27,13 +47,23 @@ QString tableOf(const QString &pattern)
 PxOriginTerm::PxOriginTerm(const QString &term)
 {
     if (term.startsWith('/')) {
+        kind = Kind::Value;
         pointer = term;
         section = term.section('/', 1, 1);
         return;
     }
-    if (term.contains(':'))
-        file = term.section(':', 0, 0);
-    path = term.section(':', -1).section('@', 0, 0).split('/', Qt::SkipEmptyParts);
+    const QString prefix = term.contains(':') ? term.section(':', 0, 0) : QString();
+    for (const auto &row : otherKinds) {
+        if (prefix == row.prefix)
+            kind = row.kind;
+    }
+    for (const auto &row : files) {
+        if (prefix == row.prefix)
+            file = row.file;
+    }
+    const QString elements = term.section(':', -1).section('@', 0, 0);
+    for (const QString &step : elements.split('/', Qt::SkipEmptyParts))
+        path.append(step.toUtf8());
     attribute = term.section('@', 1);
     isOneOfSeveral = term.contains('[');
 }

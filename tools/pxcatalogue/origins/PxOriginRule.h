@@ -1,24 +1,26 @@
 #pragma once
 
 #include "format/PxOriginRows.h"
+#include "origins/PxOriginFile.h"
 
+#include <QByteArray>
 #include <QString>
-#include <QStringList>
 #include <QVector>
 
 /** An input in a row of origins, taken apart. */
 struct PxOriginTerm
 {
+    enum class Kind { Value, Question, Clock, ProductFile, Element };
+
     explicit PxOriginTerm(const QString &term);
 
-    QString pointer; ///< to another value, with "*" for the row of a table; empty for none
+    Kind kind = Kind::Element;
+    QString pointer; ///< to another value, with "*" for the row of a table
     QString section; ///< the first part of the pointer
-    QString file;    ///< what stands before the colon; empty for the product file
-    QStringList path;
+    PxOriginFile PxOriginFiles::*file = nullptr; ///< of an element
+    QVector<QByteArray> path;
     QString attribute;           ///< empty for an element
     bool isOneOfSeveral = false; ///< "[…]" says which element is meant
-
-    bool isValue() const { return !pointer.isEmpty(); }
 };
 
 /** A row of origins, taken apart once for all products. */

@@ -28,13 +28,22 @@ PxTextTable::Kind kindOf(PxReportFormat format)
     }
 }
 
-template <typename Part>
-int indexOf(const QVector<Part> &parts, const char *key)
+/** The number of parts if there is none with this key. */
+template <typename Part, typename Key>
+int indexOf(const QVector<Part> &parts, const Key &key)
 {
-    const auto found = std::find_if(parts.begin(), parts.end(), [key](const Part &part) {
-        return qstrcmp(part.key, key) == 0;
+    const auto found = std::find_if(parts.begin(), parts.end(), [&key](const Part &part) {
+        return QLatin1String(part.key) == key;
     });
     return int(found - parts.begin());
+}
+
+/** The value at the rest of a JSON pointer; undefined if there is none. */
+QJsonValue below(QJsonValue value, const QVector<QStringRef> &rest)
+{
+    for (const QStringRef &step : rest)
+        value = value.isArray() ? QJsonValue(value[step.toInt()]) : QJsonValue(value[step]);
+    return value;
 }
 
 } // namespace
@@ -68,14 +77,51 @@ void PxReport::setValue(const char *section, const char *key, const QJsonValue &
 {
     Section &found = this->section(section);
     if (found.columns.isEmpty())
-        found.fields[indexOf(found.fields, key)].value = value;
+        found.fields[indexOf(found.fields, QLatin1String(key))].value = value;
     else
-        found.rows[row].replace(indexOf(found.columns, key), value);
+        found.rows[row].replace(indexOf(found.columns, QLatin1String(key)), value);
 }
 
 PxReport::Section &PxReport::section(const char *key)
 {
-    return m_sections[indexOf(m_sections, key)];
+    return m_sections[indexOf(m_sections, QLatin1String(key))];
+}
+
+const PxReport::Section *PxReport::find(const QString &key) const
+{
+    const int index = indexOf(m_sections, key);
+    return index < m_sections.size() ? &m_sections[index] : nullptr;
+}
+
+QVector<QJsonValue> PxReport::column(const char *section, const char *key) const
+{
+    QVector<QJsonValue> values;
+    const Section &table = m_sections[indexOf(m_sections, QLatin1String(section))];
+    const int index = indexOf(table.columns, QLatin1String(key));
+    for (const QJsonArray &row : table.rows)
+        values.append(row[index]);
+    return values;
+}
+
+bool PxReport::has(const QString &pointer) const
+{
+    const QVector<QStringRef> steps = pointer.splitRef('/', Qt::SkipEmptyParts);
+    if (steps.isEmpty() || pointer == "/format" || pointer == "/lengthUnit")
+        return true;
+    const Section *found = find(steps[0].toString());
+    if (!found || steps.size() == 1)
+        return found;
+    if (found->columns.isEmpty()) {
+        const int field = indexOf(found->fields, steps[1]);
+        return field < found->fields.size() &&
+               !below(found->fields[field].value, steps.mid(2)).isUndefined();
+    }
+    const int row = steps[1].toInt();
+    if (row >= found->rows.size() || steps.size() == 2)
+        return row < found->rows.size();
+    const int column = indexOf(found->columns, steps[2]);
+    return column < found->columns.size() &&
+           !below(found->rows[row][column], steps.mid(3)).isUndefined();
 }
 
 void PxReport::setOrigins(const QJsonObject &origins,
@@ -169,18 +215,16 @@ PxTextTable PxReport::table(const Section &section)
 
 QString PxReport::origin(const Section &section, const Field &field) const
 {
-    return m_originAt ? m_originAt(QString("/%1/%2").arg(section.key, field.key)) : QString();
+    return m_originAt ? m_originAt('/' + QString(section.key) + '/' + field.key) : QString();
 }
 
 QStringList PxReport::origins(const Section &section, const Column &column) const
 {
     QStringList origins;
+    const QString table = '/' + QString(section.key) + '/';
     for (int row = 0; row < section.rows.size(); ++row)
-        origins.append(
-            m_originAt
-                ? m_originAt(
-                      QString("/%1/%2/%3").arg(section.key, QString::number(row), column.key))
-                : QString());
+        origins.append(m_originAt ? m_originAt(table + QString::number(row) + '/' + column.key)
+                                  : QString());
     return origins;
 }
 

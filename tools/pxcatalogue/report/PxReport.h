@@ -76,6 +76,12 @@ public:
         QVector<QJsonArray> rows;
     };
     const QVector<Section> &sections() const { return m_sections; }
+    /** Null if there is none with this key. */
+    const Section *find(const QString &key) const;
+    /** The values of a column of a table that was added, for each row. */
+    QVector<QJsonValue> column(const char *section, const char *key) const;
+    /** Whether json() has a value at this pointer, if only null; origins left out. */
+    bool has(const QString &pointer) const;
     bool hasOrigins() const { return bool(m_originAt); }
     /** Where the value of a field comes from; empty without origins. */
     QString origin(const Section &section, const Field &field) const;
