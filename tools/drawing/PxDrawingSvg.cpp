@@ -26,11 +26,10 @@ qint64 hundredths(double value)
     return std::llround(qBound(-largest, value * 100, largest));
 }
 
-/** With a point, at most two decimals and no exponent. */
-void append(std::string *text, double value)
+/** Hundredths with a point, at most two decimals and no exponent. */
+void append(std::string *text, qint64 value)
 {
-    const qint64 rounded = hundredths(value);
-    const qint64 absolute = std::abs(rounded);
+    const qint64 absolute = std::abs(value);
     std::array<char, 24> digits;
     char *end = std::to_chars(digits.data(), digits.data() + 20, absolute / 100).ptr;
     if (const int decimals = int(absolute % 100)) {
@@ -39,15 +38,15 @@ void append(std::string *text, double value)
         if (decimals % 10 != 0)
             *end++ = char('0' + decimals % 10);
     }
-    if (rounded < 0)
+    if (value < 0)
         *text += '-';
-    text->append(digits.data(), end);
+    text->append(digits.data(), std::size_t(end - digits.data()));
 }
 
 std::string number(double value)
 {
     std::string text;
-    append(&text, value);
+    append(&text, hundredths(value));
     return text;
 }
 
@@ -59,7 +58,7 @@ std::string numbers(const VALUES &values)
     for (const double value : values) {
         if (!text.empty())
             text += ' ';
-        append(&text, value);
+        append(&text, hundredths(value));
     }
     return text;
 }
@@ -83,23 +82,32 @@ std::string translation(double x, double y)
     return "translate(" + numbers(std::array{x, y}) + ')';
 }
 
-void append(std::string *data, char command, const QPointF &point)
+/** A point in hundredths. */
+struct Point
+{
+    explicit Point(const QPointF &point) : x(hundredths(point.x())), y(hundredths(point.y())) {}
+
+    qint64 x;
+    qint64 y;
+};
+
+void append(std::string *data, char command, const Point &point)
 {
     *data += command;
-    append(data, point.x());
+    append(data, point.x);
     *data += ' ';
-    append(data, point.y());
+    append(data, point.y);
 }
 
 /** As H or V if it can be. */
-void appendLine(std::string *data, const QPointF &from, const QPointF &to)
+void appendLine(std::string *data, const Point &from, const Point &to)
 {
-    if (hundredths(from.y()) == hundredths(to.y())) {
+    if (from.y == to.y) {
         *data += 'H';
-        append(data, to.x());
-    } else if (hundredths(from.x()) == hundredths(to.x())) {
+        append(data, to.x);
+    } else if (from.x == to.x) {
         *data += 'V';
-        append(data, to.y());
+        append(data, to.y);
     } else {
         append(data, 'L', to);
     }
@@ -109,25 +117,26 @@ void appendLine(std::string *data, const QPointF &from, const QPointF &to)
 std::string pathData(const QVector<PxDrawnStep> &steps)
 {
     std::string data;
-    QPointF at;
+    Point at({0, 0});
     for (const PxDrawnStep &step : steps) {
+        const Point to(step.to);
         switch (step.kind) {
         case PxDrawnStep::Move:
-            append(&data, 'M', step.to);
+            append(&data, 'M', to);
             break;
         case PxDrawnStep::Line:
-            appendLine(&data, at, step.to);
+            appendLine(&data, at, to);
             break;
         case PxDrawnStep::Arc:
-            append(&data, 'A', {step.radius, step.radius});
+            append(&data, 'A', Point({step.radius, step.radius}));
             data += step.isClockwise ? " 0 0 1" : " 0 0 0";
-            append(&data, ' ', step.to);
+            append(&data, ' ', to);
             break;
         case PxDrawnStep::Close:
             data += 'Z';
             continue;
         }
-        at = step.to;
+        at = to;
     }
     return data;
 }

@@ -217,7 +217,8 @@ const char *germanOf(const Word (&words)[COUNT], std::string_view of)
 
 bool isGerman()
 {
-    return PxProofWords::language() == "de";
+    static const bool ourIsGerman = PxProofWords::language() == "de"; // chosen at the start
+    return ourIsGerman;
 }
 
 bool isNumber(const QJsonValue &value, PxReportFormat format)
