@@ -22,13 +22,34 @@ struct Files
     QHash<int, QString> names = {}; // by product type
 };
 
+/** What is known of all directories. Pages of a proof, which ask for it, are written in threads. */
+struct Known
+{
+    std::mutex mutex;                       // guards the other members
+    Files files[2];                         // of products, and of those of earlier catalogues
+    QHash<QString, PxProductType> products; // in files that were read before, by absolute path
+};
+
+Known &known()
+{
+    static auto &ourKnown = *new Known;
+    return ourKnown;
+}
+
+PxProductType productIn(const QDomElement &root)
+{
+    const QDomElement product = root.firstChildElement(QStringLiteral("product"));
+    return PxProductType(product.attribute(QStringLiteral("name")));
+}
+
 /** Of two files for one product the library uses the one that the directory lists later. */
 void readLast(Files *files)
 {
     const QFileInfo file = files->unread.takeLast();
-    const QDomElement product =
-        PxXMLLoader::loadDocumentElement(file).firstChildElement(QStringLiteral("product"));
-    const PxProductType type(product.attribute(QStringLiteral("name")));
+    const auto product = known().products.constFind(file.absoluteFilePath());
+    const PxProductType type = product != known().products.constEnd()
+                                   ? *product
+                                   : productIn(PxXMLLoader::loadDocumentElement(file));
     if (type.isValid() && !files->names.contains(int(type.type())))
         files->names.insert(int(type.type()), file.fileName());
 }
@@ -37,10 +58,8 @@ void readLast(Files *files)
 
 QString PxProductFile::pathOf(const PxProductType &type, bool isLegacy)
 {
-    static std::mutex ourMutex; // pages of a proof are written in several threads
-    static Files ourFiles[2];
-    const std::lock_guard<std::mutex> lock(ourMutex);
-    Files &files = ourFiles[isLegacy ? 1 : 0];
+    const std::lock_guard<std::mutex> lock(known().mutex);
+    Files &files = known().files[isLegacy ? 1 : 0];
     const QString name = isLegacy ? QStringLiteral("products/legacy") : QStringLiteral("products");
     const QDir directory(PxDirectoryConfig::instance()->resource(name, false));
     if (files.directory != directory.path())
@@ -52,4 +71,10 @@ QString PxProductFile::pathOf(const PxProductType &type, bool isLegacy)
         readLast(&files);
     const auto file = files.names.constFind(code);
     return file == files.names.constEnd() ? QString() : name + QLatin1Char('/') + *file;
+}
+
+void PxProductFile::setContent(const QString &absolutePath, const QDomElement &root)
+{
+    const std::lock_guard<std::mutex> lock(known().mutex);
+    known().products.insert(absolutePath, productIn(root));
 }

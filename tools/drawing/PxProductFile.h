@@ -3,6 +3,7 @@
 #include <QString>
 
 class PxProductType;
+class QDomElement;
 
 namespace PxProductFile {
 
@@ -14,5 +15,8 @@ namespace PxProductFile {
  * Reads the product files until it knows, each of them once: they must not change.
  */
 QString pathOf(const PxProductType &type, bool isLegacy);
+
+/** Says what is in a file that was read for something else, so that pathOf() need not read it. */
+void setContent(const QString &absolutePath, const QDomElement &root);
 
 } // namespace PxProductFile

@@ -25,7 +25,7 @@ std::optional<PxProblem> addFindings(const PxCommandLine &line, PxProofCatalogue
     if (const auto problem = files.find())
         return problem;
     PxFindings findings{{}};
-    PxCheck(files.paths(), findings).run();
+    PxCheck(files.paths(), findings, &catalogue->files).run();
     PxCheckReport report;
     report.findings = findings.sorted();
     report.catalogueNames = files.catalogueNames();

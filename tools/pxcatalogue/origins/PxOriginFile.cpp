@@ -35,6 +35,11 @@ QString shownPath(const QString &directory, const QString &name, const QString &
                : directory + '/' + file;
 }
 
+PxKeptFiles::File read(const QString &path)
+{
+    return std::make_shared<const PxCheckedFile>(path);
+}
+
 bool isThemeWith(const QString &id, const QString &idInFile)
 {
     return idInFile.toLower() == id;
@@ -55,21 +60,22 @@ bool hasTheme(const QFileInfo &file, const QString &id)
 
 } // namespace
 
-PxOriginFile::PxOriginFile(Kind kind, PxFileKind format, const QString &file, const QString &path)
+PxOriginFile::PxOriginFile(Kind kind, PxFileKind format, const PxKeptFiles::File &source,
+                           const QString &path)
     : m_kind(kind)
     , m_format(format)
     , m_path(path)
-    , m_source(std::make_shared<PxCheckedFile>(file))
+    , m_source(source)
 {}
 
-PxOriginFile PxOriginFile::product(const QString &name)
+PxOriginFile PxOriginFile::product(const QString &name, const PxKeptFiles &kept)
 {
     if (name.isEmpty())
         return {};
     const QString kind = name.section('/', 0, -2);
     const QString file = name.section('/', -1);
     const QString directory = resource(kind);
-    PxOriginFile product(Kind::File, PxFileKind::Product, QDir(directory).filePath(file),
+    PxOriginFile product(Kind::File, PxFileKind::Product, kept.file(QDir(directory).filePath(file)),
                          shownPath(directory, kind, file));
     if (product.root())
         product.m_element = product.root()->firstChild("product");
@@ -83,7 +89,7 @@ PxOriginFile PxOriginFile::userDefaults(const QString &productName)
     const QString path = QDir::cleanPath(directory + '/' + name);
     if (!path.startsWith(QDir::cleanPath(directory) + '/'))
         return {}; // the library does not leave the directory either
-    PxOriginFile file(Kind::UserDefaults, PxFileKind::UserDefaults, path,
+    PxOriginFile file(Kind::UserDefaults, PxFileKind::UserDefaults, read(path),
                       shownPath(directory, "defaults", name));
     // Nothing is read from a file with anything before its document element.
     if (file.root() && file.m_source->document().firstChild().isElement())
@@ -100,7 +106,7 @@ PxOriginFile PxOriginFile::theme(const QString &id)
          directory.entryInfoList({"*.XML", "*.xml"}, QDir::Files, QDir::Unsorted)) {
         if (!hasTheme(info, id))
             continue;
-        PxOriginFile file(Kind::Theme, PxFileKind::Theme, info.absoluteFilePath(),
+        PxOriginFile file(Kind::Theme, PxFileKind::Theme, read(info.absoluteFilePath()),
                           shownPath(directory.absolutePath(), "themes", info.fileName()));
         if (!file.root())
             return file;
@@ -117,8 +123,8 @@ PxOriginFile PxOriginFile::theme(const QString &id)
 /** The one large file that is the same for all products, so that it is read once. */
 struct PxOriginFile::ProductTypes
 {
-    PxOriginFile file{Kind::ProductTypes, PxFileKind::ProductTypes, resource("producttypes.xml"),
-                      "producttypes.xml"};
+    PxOriginFile file{Kind::ProductTypes, PxFileKind::ProductTypes,
+                      read(resource("producttypes.xml")), "producttypes.xml"};
     QHash<int, QVector<const PxSourceElement *>> rowsOfCode;
 
     ProductTypes()
@@ -164,8 +170,8 @@ const PxElementRow *PxOriginFile::rowOf(const PxSourceElement &element) const
     return parent ? PxFormat::child(*parent, element.name) : nullptr;
 }
 
-PxOriginFiles::PxOriginFiles(const PxShownProduct &shown)
-    : product(PxOriginFile::product(shown.file))
+PxOriginFiles::PxOriginFiles(const PxShownProduct &shown, const PxKeptFiles &kept)
+    : product(PxOriginFile::product(shown.file, kept))
     , theme(PxOriginFile::theme(shown.themeId))
     , type(PxOriginFile::productType(shown.type))
 {
@@ -173,9 +179,9 @@ PxOriginFiles::PxOriginFiles(const PxShownProduct &shown)
         userDefaults = PxOriginFile::userDefaults(product.element()->value("name"));
     const PxProductType old = shown.product->legacyProduct();
     if (PxCatalogueProducts::isLegacy(old))
-        replaced = PxOriginFile::product(PxProductFile::pathOf(old, true));
+        replaced = PxOriginFile::product(PxProductFile::pathOf(old, true), kept);
     const PxProductType later =
         PxProductTypeConfigRegistry::instance()->findProductForLegacy(shown.type);
     if (PxCatalogueProducts::isCurrent(later))
-        successor = PxOriginFile::product(PxProductFile::pathOf(later, false));
+        successor = PxOriginFile::product(PxProductFile::pathOf(later, false), kept);
 }

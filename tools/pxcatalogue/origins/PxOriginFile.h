@@ -1,12 +1,10 @@
 #pragma once
 
-#include "check/source/PxCheckedFile.h"
+#include "check/source/PxKeptFiles.h"
 #include "format/PxFormatRows.h"
 #include "origins/PxOrigin.h"
 
 #include <PxProductType.h>
-
-#include <memory>
 
 struct PxShownProduct;
 
@@ -17,7 +15,7 @@ public:
     /** No file. */
     PxOriginFile() = default;
     /** By the name "products/x.xml" or "products/legacy/x.xml", wherever these directories are. */
-    static PxOriginFile product(const QString &name);
+    static PxOriginFile product(const QString &name, const PxKeptFiles &kept = {});
     /** With the "defaults" of the user for a product that is called so in its file. */
     static PxOriginFile userDefaults(const QString &productName);
     /** With the "theme" that the library finds by this id. */
@@ -41,20 +39,22 @@ public:
 private:
     struct ProductTypes;
 
-    PxOriginFile(PxOrigin::Kind kind, PxFileKind format, const QString &file, const QString &path);
+    PxOriginFile(PxOrigin::Kind kind, PxFileKind format, const PxKeptFiles::File &source,
+                 const QString &path);
     const PxSourceElement *root() const { return m_source->root(); }
 
     PxOrigin::Kind m_kind = PxOrigin::Kind::Default;
     PxFileKind m_format = PxFileKind::Product;
     QString m_path;
-    std::shared_ptr<const PxCheckedFile> m_source;
+    PxKeptFiles::File m_source;
     const PxSourceElement *m_element = nullptr;
 };
 
 /** The files in which the values of one product stand. */
 struct PxOriginFiles
 {
-    explicit PxOriginFiles(const PxShownProduct &shown);
+    /** Reads those that are not kept. */
+    explicit PxOriginFiles(const PxShownProduct &shown, const PxKeptFiles &kept = {});
 
     PxOriginFile product = {};
     PxOriginFile userDefaults = {};

@@ -81,6 +81,8 @@ PxProofCatalogue::PxProofCatalogue() : themes(allThemes())
 void PxProofCatalogue::addFindings(const PxCheckReport &check)
 {
     fileNames = check.catalogueNames;
+    for (auto file = files.all().begin(); file != files.all().end(); ++file)
+        PxProductFile::setContent(file.key(), (*file)->document().documentElement());
     QHash<QString, PxProofProduct *> productOfFile;
     for (QVector<PxProofProduct> *list : {&products, &legacyProducts}) {
         for (PxProofProduct &product : *list)

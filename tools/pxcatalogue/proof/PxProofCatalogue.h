@@ -1,6 +1,7 @@
 #pragma once
 
 #include "check/findings/PxCheckReport.h"
+#include "check/source/PxKeptFiles.h"
 #include "diff/PxDiff.h"
 
 #include <PxProductType.h>
@@ -59,12 +60,13 @@ struct PxProofTheme
 struct PxProofCatalogue
 {
     QString title;
-    QByteArray exported; ///< as "export" writes it
+    QByteArray exported;              ///< as "export" writes it
     QVector<PxProofProduct> products; ///< as PxCatalogueProducts sorts them
     QVector<PxProofProduct> legacyProducts;
     QVector<PxProofTheme> themes;
     QVector<PxFinding> findings;       ///< of files that belong to no product
     QHash<QString, QString> fileNames; ///< in the catalogue, by the path as the check has it
+    PxKeptFiles files;                 ///< of products, as the check has read them
     std::optional<PxDiff> diff;        ///< to an earlier catalogue
 
     /** Asks the library for products and themes. Needs the thread of the QGuiApplication. */

@@ -267,7 +267,7 @@ QByteArray PxProofProductPage::page(const PxProofCatalogue &catalogue,
 {
     const PxShownProduct shown =
         PxProductReport::shown(product.registry, product.type, 0, QString());
-    const Subject subject{catalogue, product, shown, PxOriginFiles(shown),
+    const Subject subject{catalogue, product, shown, PxOriginFiles(shown, catalogue.files),
                           compatibleWith(catalogue, product)};
     PxProofPage page(catalogue, product.type.productName());
     PxHtml &html = page.html();

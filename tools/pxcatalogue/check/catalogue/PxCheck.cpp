@@ -126,9 +126,10 @@ PxRows<PxRule> rulesOf(PxFileKind kind)
 
 } // namespace
 
-PxCheck::PxCheck(const PxCheckPaths &paths, PxFindings &findings)
+PxCheck::PxCheck(const PxCheckPaths &paths, PxFindings &findings, PxKeptFiles *kept)
     : m_paths(paths)
     , m_findings(findings)
+    , m_kept(kept)
     , m_types(!paths.productTypes.isEmpty())
     , m_themes(PxReporter(findings))
     , m_themeProducts(PxReporter(findings))
@@ -158,7 +159,8 @@ void PxCheck::run()
         m_themes.run();
         m_themeProducts.run();
     }
-    PxDirectoriesCheck(m_paths, {foldedNames(m_pagesOfProducts.keys()), m_themes.ids(), m_namedTheme},
+    PxDirectoriesCheck(m_paths,
+                       {foldedNames(m_pagesOfProducts.keys()), m_themes.ids(), m_namedTheme},
                        PxReporter(m_findings))
         .run();
 }
@@ -174,7 +176,10 @@ bool PxCheck::checkFiles(const QStringList &paths, PxFileKind kind, CheckFile ch
     PxReadAhead files(paths);
     for (int i = 0; i < paths.size(); ++i) {
         ++m_fileCount;
-        const PxCheckedFile &file = files.next();
+        const auto &read = files.next();
+        if (m_kept && kind == PxFileKind::Product)
+            m_kept->keep(read);
+        const PxCheckedFile &file = *read;
         const PxReporter report = reporterFor(file);
         PxReadingCheck(report).run();
         PxAllowanceComments(file, m_findings)

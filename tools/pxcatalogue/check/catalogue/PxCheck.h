@@ -4,6 +4,7 @@
 #include "check/catalogue/PxCheckPaths.h"
 #include "check/catalogue/PxThemeProductsCheck.h"
 #include "check/layout/PxProductPages.h"
+#include "check/source/PxKeptFiles.h"
 #include "check/themes/PxThemeIdCheck.h"
 #include "check/words/PxImageNames.h"
 #include "check/words/PxKnownNames.h"
@@ -17,8 +18,11 @@
 class PxCheck
 {
 public:
-    /** The library knows its directories. The findings must outlive the check. */
-    PxCheck(const PxCheckPaths &paths, PxFindings &findings);
+    /**
+     * The library knows its directories. The findings must outlive the check. Files of products are
+     * kept for later if there is something that keeps them.
+     */
+    PxCheck(const PxCheckPaths &paths, PxFindings &findings, PxKeptFiles *kept = nullptr);
 
     void run();
     int fileCount() const { return m_fileCount; }
@@ -40,6 +44,7 @@ private:
 
     const PxCheckPaths m_paths;
     PxFindings &m_findings;
+    PxKeptFiles *m_kept;
     int m_fileCount = 0;
     int m_productCount = 0;
     int m_legacyProductCount = 0;

@@ -22,7 +22,7 @@ void PxReadAhead::read()
             if (isCancelled)
                 return;
             slot(i).reset(); // first, so that the next file can use the memory
-            slot(i) = std::make_unique<PxCheckedFile>(m_paths[i]);
+            slot(i) = std::make_shared<const PxCheckedFile>(m_paths[i]);
             change([this] { ++m_readCount; });
         }
     } catch (...) {
@@ -31,14 +31,14 @@ void PxReadAhead::read()
     }
 }
 
-const PxCheckedFile &PxReadAhead::next()
+const std::shared_ptr<const PxCheckedFile> &PxReadAhead::next()
 {
     change([this] { m_doneCount = m_askedCount; });
     wait([this] { return m_readCount > m_askedCount; });
-    const std::unique_ptr<PxCheckedFile> &file = slot(m_askedCount++);
+    const std::shared_ptr<const PxCheckedFile> &file = slot(m_askedCount++);
     if (!file)
         m_reader.get(); // throws the exception that ended the thread
-    return *file;
+    return file;
 }
 
 template <typename Change>

@@ -7,6 +7,7 @@
 #include <array>
 #include <condition_variable>
 #include <future>
+#include <memory>
 #include <mutex>
 
 /**
@@ -25,16 +26,16 @@ public:
 
     /**
      * The next file in the order of the paths. Call it once for each path. It may destroy the file
-     * that it returned before.
+     * that it returned before, unless somebody else has it, too.
      */
-    const PxCheckedFile &next();
+    const std::shared_ptr<const PxCheckedFile> &next();
 
 private:
     // Enough to make up for files of different sizes; a large one takes much memory.
     static constexpr int maximumAhead = 4;
 
     void read();
-    std::unique_ptr<PxCheckedFile> &slot(int index)
+    std::shared_ptr<const PxCheckedFile> &slot(int index)
     {
         return m_files[std::size_t(index % maximumAhead)];
     }
@@ -44,7 +45,7 @@ private:
     void wait(Condition isMet);
 
     const QStringList m_paths;
-    std::array<std::unique_ptr<PxCheckedFile>, maximumAhead> m_files;
+    std::array<std::shared_ptr<const PxCheckedFile>, maximumAhead> m_files;
     int m_askedCount = 0;
     std::mutex m_mutex; // guards the next four members
     std::condition_variable m_changed;
