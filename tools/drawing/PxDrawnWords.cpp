@@ -162,11 +162,12 @@ QString PxDrawnWords::visible(const QString &text)
 QString PxDrawnWords::number(qint64 length)
 {
     const qint64 size = qAbs(length);
-    QString text = length < 0 ? QString(QChar(0x2212)) : QString();
-    text += QString::number(size / 10);
+    QString text = QString::number(size / 10);
+    if (length < 0)
+        text.prepend(QChar(0x2212));
     if (size % 10 != 0) {
-        text += QCoreApplication::translate("PxDrawnWords", ",", "decimal separator") +
-                QString::number(size % 10);
+        text += QCoreApplication::translate("PxDrawnWords", ",", "decimal separator");
+        text += QChar('0' + int(size % 10));
     }
     return text;
 }

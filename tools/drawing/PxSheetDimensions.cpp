@@ -53,7 +53,9 @@ public:
 private:
     struct Place
     {
-        double along;  ///< the middle of the text
+        QString text;
+        double width;  ///< of the text
+        double along;  ///< its middle
         int level;     ///< how often it is raised
         bool isInside; ///< between the arrows
     };
@@ -64,7 +66,6 @@ private:
     {
         return isX() ? QPointF(along, across) : QPointF(across, along);
     }
-    double textWidth(const Segment &segment) const;
     QVector<Place> places(const Chain &chain) const;
     PxDrawnShape dimension(const Chain &chain, int index, const Place &place, double line) const;
     QVector<PxDrawnShape> lines(const Chain &chain, int index, const Place &place,
@@ -84,11 +85,6 @@ QString valueOf(const Segment &segment)
     return PxDrawnWords::number(qint64(segment.to) - qint64(segment.from));
 }
 
-double SideWriter::textWidth(const Segment &segment) const
-{
-    return PxTextWidth::of(valueOf(segment), PxShapeMaker::fontSize(typeSize, m_a));
-}
-
 QVector<SideWriter::Place> SideWriter::places(const Chain &chain) const
 {
     QVector<Place> places;
@@ -100,8 +96,11 @@ QVector<SideWriter::Place> SideWriter::places(const Chain &chain) const
     };
     for (int i = 0; i < chain.size(); ++i) {
         const Segment &segment = chain[i];
-        const double width = textWidth(segment) + m_a;
-        Place place{segment.middle(), 0, segment.length() >= width + 2 * arrowLength * m_a};
+        const QString text = valueOf(segment);
+        const double textWidth = PxTextWidth::of(text, PxShapeMaker::fontSize(typeSize, m_a));
+        const double width = textWidth + m_a;
+        Place place{text, textWidth, segment.middle(), 0,
+                    segment.length() >= width + 2 * arrowLength * m_a};
         const double beyond = (arrowLength + 1) * m_a + width / 2;
         if (!place.isInside && i + 1 == chain.size())
             place.along = segment.high() + beyond;
@@ -153,7 +152,7 @@ QVector<PxDrawnShape> SideWriter::lines(const Chain &chain, int index, const Pla
         }
     }
     if (!place.isInside && place.level == 0) {
-        const double half = textWidth(segment) / 2;
+        const double half = place.width / 2;
         from = std::min(from, place.along - half);
         to = std::max(to, place.along + half);
     }
@@ -167,7 +166,7 @@ QVector<PxDrawnShape> SideWriter::number(const Segment &segment, const Place &pl
 {
     const double base = line - (textGap + levelStep * place.level) * m_a;
     PxDrawnShape text =
-        PxShapeMaker::text(point(place.along, base), valueOf(segment),
+        PxShapeMaker::text(point(place.along, base), place.text,
                            PxShapeMaker::fontSize(typeSize, m_a), PxDrawnShape::Anchor::Middle);
     text.readsUpward = !isX();
     if (place.level == 0)

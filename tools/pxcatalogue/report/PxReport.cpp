@@ -114,14 +114,15 @@ bool PxReport::has(const QString &pointer) const
     if (found->columns.isEmpty()) {
         const int field = indexOf(found->fields, steps[1]);
         return field < found->fields.size() &&
-               !below(found->fields[field].value, steps.mid(2)).isUndefined();
+               (steps.size() == 2 ||
+                !below(found->fields[field].value, steps.mid(2)).isUndefined());
     }
     const int row = steps[1].toInt();
     if (row >= found->rows.size() || steps.size() == 2)
         return row < found->rows.size();
     const int column = indexOf(found->columns, steps[2]);
     return column < found->columns.size() &&
-           !below(found->rows[row][column], steps.mid(3)).isUndefined();
+           (steps.size() == 3 || !below(found->rows[row][column], steps.mid(3)).isUndefined());
 }
 
 void PxReport::setOrigins(const QJsonObject &origins,
