@@ -3,7 +3,6 @@
 #include "writing/PxVisibleText.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace {
 
@@ -12,10 +11,24 @@ bool isMarkup(QChar unit)
     return unit == '<' || unit == '>' || unit == '&' || unit == '"';
 }
 
-/** Whether it is written as it is, in one byte. */
+/** Whether it is a visible character of Latin-1, which is written as it is. */
 bool isPlain(QChar unit)
 {
-    return unit >= ' ' && unit < QChar(0x7F) && !isMarkup(unit);
+    constexpr ushort softHyphen = 0xAD;
+    const ushort code = unit.unicode();
+    return (code >= 0x20 && code < 0x7F && !isMarkup(unit)) ||
+           (code > 0xA0 && code <= 0xFF && code != softHyphen);
+}
+
+/** In UTF-8. */
+void appendLatin1(std::string *text, uchar character)
+{
+    if (character < 0x80) {
+        *text += char(character);
+    } else {
+        *text += char(0xC0 | character >> 6);
+        *text += char(0x80 | (character & 0x3F));
+    }
 }
 
 } // namespace
@@ -111,8 +124,8 @@ void PxHtml::finishTag()
 void PxHtml::append(const QString &text)
 {
     if (std::all_of(text.begin(), text.end(), isPlain)) { // as nearly all texts are
-        std::transform(text.begin(), text.end(), std::back_inserter(m_text),
-                       [](QChar unit) { return char(unit.unicode()); });
+        for (const QChar unit : text)
+            appendLatin1(&m_text, uchar(unit.unicode()));
         return;
     }
     const QString visible = PxVisibleText::line(text);
