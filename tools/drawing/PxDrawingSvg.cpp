@@ -208,6 +208,8 @@ public:
 
 private:
     void writeSheet(const PxDrawingSheet &sheet, const QPoint &position);
+    void writeData(const PxDrawing &drawing);
+    void writeData(const PxDrawingSheet &sheet);
     void writeShape(const PxDrawnShape &shape);
     void writeGeometry(const PxDrawnShape &shape);
     void writePaint(const PxDrawnShape &shape);
@@ -231,7 +233,6 @@ void Writer<Xml>::write(const PxDrawing &drawing)
     if (isFile)
         plain("xmlns:inkscape", nameOfLayers);
     const QSize size = drawing.size();
-    const PxDrawnProduct &product = drawing.product;
     plain("width", number(size.width() / 10.0) + "mm");
     plain("height", number(size.height() / 10.0) + "mm");
     plain("viewBox", box(QRect(QPoint(), size)));
@@ -239,6 +240,18 @@ void Writer<Xml>::write(const PxDrawing &drawing)
     plain("role", "img");
     attribute("aria-labelledby", m_prefix + "title " + m_prefix + "desc");
     attribute("font-family", pxDrawnFontFamilies().join(", "));
+    if (isFile)
+        writeData(drawing);
+    writeTitles(drawing.title, drawing.description, true);
+    for (int i = 0; i < drawing.sheets.size(); ++i)
+        writeSheet(drawing.sheets[i], drawing.positionOf(i));
+    m_xml.close();
+}
+
+template <typename Xml>
+void Writer<Xml>::writeData(const PxDrawing &drawing)
+{
+    const PxDrawnProduct &product = drawing.product;
     plain("data-format", "1");
     attribute("data-product", product.type.productName());
     attribute("data-class", product.className);
@@ -247,10 +260,6 @@ void Writer<Xml>::write(const PxDrawing &drawing)
         attribute("data-theme", product.themeId);
     plain("data-units-per-mm", "10");
     plain("data-annotation", number(drawing.annotation));
-    writeTitles(drawing.title, drawing.description, true);
-    for (int i = 0; i < drawing.sheets.size(); ++i)
-        writeSheet(drawing.sheets[i], drawing.positionOf(i));
-    m_xml.close();
 }
 
 /** The union of the pages with their bleed. With a negative bleed it lies within the trim. */
@@ -265,20 +274,14 @@ QRect totalOf(const PxDrawnSheet &sheet)
 template <typename Xml>
 void Writer<Xml>::writeSheet(const PxDrawingSheet &sheet, const QPoint &position)
 {
-    static constexpr const char *ourKinds[] = {"cover", "spread", "page"};
-    QVector<int> pages;
-    for (const PxDrawnPage &page : sheet.sheet.pages)
-        pages.append(page.number);
-    const QString id = m_prefix + "sheet-" + QString::number(pages.value(0));
+    const QVector<PxDrawnPage> &pages = sheet.sheet.pages;
+    const int first = pages.isEmpty() ? 0 : pages.constFirst().number;
+    const QString id = m_prefix + "sheet-" + QString::number(first);
     m_xml.open("g");
     attribute("id", id);
     plain("class", "sheet");
-    plain("data-kind", ourKinds[int(sheet.sheet.kind)]);
-    plain("data-pages", numbers(pages));
-    plain("data-stands-for", numbers(sheet.sheet.standsFor));
-    plain("data-trim", box(sheet.sheet.trim));
-    plain("data-total", box(totalOf(sheet.sheet)));
-    plain("data-canvas", box(sheet.canvas));
+    if (isFile)
+        writeData(sheet);
     const QPoint origin = position - sheet.canvas.topLeft();
     plain("transform", translation(origin.x(), origin.y()));
     writeTitles(sheet.title, sheet.description, false);
@@ -302,6 +305,21 @@ void Writer<Xml>::writeSheet(const PxDrawingSheet &sheet, const QPoint &position
 }
 
 template <typename Xml>
+void Writer<Xml>::writeData(const PxDrawingSheet &sheet)
+{
+    static constexpr const char *ourKinds[] = {"cover", "spread", "page"};
+    QVector<int> pages;
+    for (const PxDrawnPage &page : sheet.sheet.pages)
+        pages.append(page.number);
+    plain("data-kind", ourKinds[int(sheet.sheet.kind)]);
+    plain("data-pages", numbers(pages));
+    plain("data-stands-for", numbers(sheet.sheet.standsFor));
+    plain("data-trim", box(sheet.sheet.trim));
+    plain("data-total", box(totalOf(sheet.sheet)));
+    plain("data-canvas", box(sheet.canvas));
+}
+
+template <typename Xml>
 void Writer<Xml>::writeTitles(const QString &title, const QString &description, bool haveIds)
 {
     for (const auto &[tag, text] : {std::pair("title", title), std::pair("desc", description)}) {
@@ -313,17 +331,27 @@ void Writer<Xml>::writeTitles(const QString &title, const QString &description, 
     }
 }
 
+bool isForProgramsOnly(const PxDrawnShape &shape)
+{
+    return shape.kind != PxDrawnShape::Group && shape.kind != PxDrawnShape::Text &&
+           !shape.fill.isValid() && shape.stroke.width <= 0;
+}
+
 template <typename Xml>
 void Writer<Xml>::writeShape(const PxDrawnShape &shape)
 {
     static constexpr const char *ourTags[] = {"g",      "rect",    "line", "path",
                                               "circle", "ellipse", "text"};
+    if (!isFile && isForProgramsOnly(shape))
+        return;
     m_xml.open(ourTags[shape.kind]);
     if (!shape.className.empty())
         plain("class", shape.className);
     writeGeometry(shape);
-    for (const auto &[name, value] : shape.attributes)
-        attribute(name, value);
+    if (isFile) {
+        for (const auto &[name, value] : shape.attributes)
+            attribute(name, value);
+    }
     if (shape.kind == PxDrawnShape::Group) {
         if (!shape.translation.isNull() || shape.className == "panel")
             plain("transform", translation(shape.translation.x(), shape.translation.y()));

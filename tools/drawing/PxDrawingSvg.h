@@ -13,8 +13,8 @@ public:
     /** The device must be open. The bytes depend on nothing but the drawing and the language. */
     static void write(const PxDrawing &drawing, QIODevice *device);
     /**
-     * Writes an element into a page. All ids in it begin with `prefix`, so that a page may
-     * have several drawings.
+     * Writes an element into a page, without what is for programs only. All ids in it begin with
+     * `prefix`, so that a page may have several drawings.
      */
     static void write(const PxDrawing &drawing, const QString &prefix, PxHtml *page);
 };

@@ -45,7 +45,7 @@ struct PxDrawnShape
 
     Kind kind = Group;
     std::string_view className; ///< a word of the program
-    /** "data-…" and others, in the order in which they are written. Values may hold anything. */
+    /** "data-…" for programs, in the order in which they are written. Values may hold anything. */
     QVector<QPair<std::string_view, QString>> attributes;
 
     QRectF rect;                ///< of a rectangle; around a circle or an ellipse
