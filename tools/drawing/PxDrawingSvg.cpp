@@ -66,9 +66,10 @@ std::string numbers(const VALUES &values)
 /** "#rrggbb". */
 std::string colour(const QColor &color)
 {
+    const QRgb rgb = color.rgb();
     std::string text = "#";
     for (int shift = 20; shift >= 0; shift -= 4)
-        text += "0123456789abcdef"[(color.rgb() >> shift) & 0xF];
+        text += "0123456789abcdef"[(rgb >> shift) & 0xF];
     return text;
 }
 

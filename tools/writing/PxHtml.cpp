@@ -20,15 +20,19 @@ bool isPlain(QChar unit)
            (code > 0xA0 && code <= 0xFF && code != softHyphen);
 }
 
-/** In UTF-8. */
-void appendLatin1(std::string *text, uchar character)
+/** Appends a plain text in UTF-8. */
+void appendPlain(std::string *text, const QString &plain)
 {
-    if (character < 0x80) {
-        *text += char(character);
-    } else {
-        *text += char(0xC0 | character >> 6);
-        *text += char(0x80 | (character & 0x3F));
+    const std::size_t size = text->size();
+    text->resize(size + 2 * std::size_t(plain.size())); // as many bytes as it may have
+    char *at = text->data() + size;
+    for (const QChar unit : plain) {
+        const ushort code = unit.unicode();
+        if (code >= 0x80)
+            *at++ = char(0xC0 | code >> 6);
+        *at++ = char(code < 0x80 ? code : 0x80 | (code & 0x3F));
     }
+    text->resize(std::size_t(at - text->data()));
 }
 
 } // namespace
@@ -90,7 +94,10 @@ void PxHtml::single(const char *name, const Attributes &attributes)
 
 QByteArray PxHtml::document() const
 {
-    return QByteArray::fromStdString(m_text) + '\n';
+    QByteArray document;
+    document.reserve(int(m_text.size()) + 1);
+    document.append(m_text.data(), int(m_text.size()));
+    return document += '\n';
 }
 
 void PxHtml::openTag(const char *name, const Attributes &attributes)
@@ -124,8 +131,7 @@ void PxHtml::finishTag()
 void PxHtml::append(const QString &text)
 {
     if (std::all_of(text.begin(), text.end(), isPlain)) { // as nearly all texts are
-        for (const QChar unit : text)
-            appendLatin1(&m_text, uchar(unit.unicode()));
+        appendPlain(&m_text, text);
         return;
     }
     const QString visible = PxVisibleText::line(text);

@@ -61,7 +61,8 @@ std::optional<PxProblem> addChanges(PxOtherCatalogue *other, const QString &name
 std::optional<PxProblem> write(const PxCommandLine &line, PxOtherCatalogue *other,
                                PxProofFolder *folder)
 {
-    PxProofCatalogue catalogue;
+    // Never destroyed: to free all files and findings takes longer than the end of the process.
+    static PxProofCatalogue &catalogue = *new PxProofCatalogue;
     catalogue.title = line.isSet("title") ? line.value("title") : PxProofWords::tr("Katalog");
     QVector<QByteArray> lines;
     const auto problemOfCheck = PxParallelJobs::run({
