@@ -62,22 +62,22 @@ std::optional<PxProblem> write(const PxCommandLine &line, PxOtherCatalogue *othe
                                PxProofFolder *folder)
 {
     // Never destroyed: to free all files and findings takes longer than the end of the process.
-    static PxProofCatalogue &catalogue = *new PxProofCatalogue;
-    catalogue.title = line.isSet("title") ? line.value("title") : PxProofWords::tr("Katalog");
+    static PxProofCatalogue &ourCatalogue = *new PxProofCatalogue;
+    ourCatalogue.title = line.isSet("title") ? line.value("title") : PxProofWords::tr("Katalog");
     QVector<QByteArray> lines;
     const auto problemOfCheck = PxParallelJobs::run({
-        [&] { return addFindings(line, &catalogue); },
+        [&] { return addFindings(line, &ourCatalogue); },
         [&] { return exportLines(&lines); },
     });
     if (problemOfCheck)
         return problemOfCheck;
     for (const QByteArray &exported : lines)
-        catalogue.exported += exported;
+        ourCatalogue.exported += exported;
     if (other) {
-        if (const auto problem = addChanges(other, line.value("previous"), lines, &catalogue))
+        if (const auto problem = addChanges(other, line.value("previous"), lines, &ourCatalogue))
             return problem;
     }
-    const auto problem = PxProof::write(catalogue, *folder);
+    const auto problem = PxProof::write(ourCatalogue, *folder);
     return problem ? problem : folder->finish();
 }
 
