@@ -281,8 +281,7 @@ void Writer<Xml>::writeSheet(const PxDrawingSheet &sheet, const QPoint &position
     m_xml.open("g");
     attribute("id", id);
     plain("class", "sheet");
-    if (isFile)
-        writeData(sheet);
+    writeData(sheet);
     const QPoint origin = position - sheet.canvas.topLeft();
     plain("transform", translation(origin.x(), origin.y()));
     writeTitles(sheet.title, sheet.description, false);
