@@ -31,7 +31,7 @@ help:
 	@echo "make check      set up, build, and run every test (PRESET=debug|release|asan|tsan, WERROR=ON)"
 	@echo "make quick      the same without the tests that take long (hostile files, headers alone)"
 	@echo "make mutants    put COUNT=60 small faults into the code, and list those that no test notices (SEED=1, FOLDER=src)"
-	@echo "make platform   the same tests against the platform as a package of its own, all built with clang (TESTS=quick)"
+	@echo "make platform   the same tests against the platform as a package of its own, all built with clang (TESTS=check|quick|build)"
 	@echo "make packages   make packages for Debian, and install, use and remove them in a folder of their own"
 	@echo "make reproducible  build the last commit in two folders, which must give the same bits (OPTIONS= for CMake)"
 	@echo "make valgrind   the demo under valgrind, which must find nothing"
@@ -81,7 +81,7 @@ valgrind: demo
 
 # PxShellTest lints the manual page, and tries completion in each shell.
 check quick: PACKAGES += fish mandoc pkgconf python3-jsonschema zsh
-check: PACKAGES += $(if $(filter asan,$(PRESET)),$(CLANG))
+check quick: PACKAGES += $(if $(filter asan,$(PRESET)),$(CLANG))
 check: build
 	ctest --preset $(PRESET) -j $(JOBS)
 
@@ -163,6 +163,7 @@ release-check:
 	$(MAKE) tidy
 	$(MAKE) reproducible
 	$(MAKE) platform WERROR=ON
+	$(MAKE) check PRESET=asan WERROR=ON
 	$(MAKE) check PRESET=tsan WERROR=ON
 	$(MAKE) fuzz
 
