@@ -159,6 +159,11 @@ QString PxDrawnWords::visible(const QString &text)
     return visible;
 }
 
+QString PxDrawnWords::decimalSeparator()
+{
+    return QCoreApplication::translate("PxDrawnWords", ",", "decimal separator");
+}
+
 QString PxDrawnWords::number(qint64 length)
 {
     const qint64 size = qAbs(length);
@@ -166,7 +171,7 @@ QString PxDrawnWords::number(qint64 length)
     if (length < 0)
         text.prepend(QChar(0x2212));
     if (size % 10 != 0) {
-        text += QCoreApplication::translate("PxDrawnWords", ",", "decimal separator");
+        text += decimalSeparator();
         text += QChar('0' + int(size % 10));
     }
     return text;

@@ -21,6 +21,8 @@ namespace PxDrawnWords {
  */
 QString visible(const QString &text);
 
+/** "," */
+QString decimalSeparator();
 /** A length in millimetres, without unit: "9,4". */
 QString number(qint64 length);
 /** A length with its unit: "9,4 mm". */

@@ -1,5 +1,7 @@
 #include "proof/PxProofWords.h"
 
+#include "drawing/PxDrawnWords.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
@@ -226,11 +228,6 @@ bool isNumber(const QJsonValue &value, PxReportFormat format)
     return value.isDouble() || format == PxReportFormat::Size || format == PxReportFormat::Margins;
 }
 
-QString decimalSeparator()
-{
-    return QCoreApplication::translate("PxDrawnWords", ",", "decimal separator");
-}
-
 } // namespace
 
 QString PxProofWords::language()
@@ -268,5 +265,5 @@ QString PxProofWords::value(const QJsonValue &value, PxReportFormat format)
     QString text = PxReportValue::text(value, format);
     if (format == PxReportFormat::Name || format == PxReportFormat::CountOrAll)
         return keyword(text);
-    return isNumber(value, format) ? text.replace('.', decimalSeparator()) : text;
+    return isNumber(value, format) ? text.replace('.', PxDrawnWords::decimalSeparator()) : text;
 }
