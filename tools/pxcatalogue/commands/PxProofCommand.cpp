@@ -89,7 +89,8 @@ PxCommandUsage PxProofCommand::usage() const
     return {"proof",
         "The whole catalogue as pages for a browser, in a folder.\n"
         "index.html opens from a disk or from any web server. The folder must be absent, empty or an earlier proof, "
-        "which is replaced when all is written. The same files give the same bytes everywhere. Pages are German unless "
+        "which is replaced when all is written. The same files give the same bytes everywhere, but a relative path "
+        "of a theme's picture starts at the current folder, as in the application. Pages are German unless "
         "--lang is given; what the checks find, what changed and where values come from is English.", {
         {"output", "DIR", "The folder to write.", 0, 0, {}, PxOption::Form::Directory},
         {"previous", "OLD", "Also show what changed since this catalogue: a resource directory, the folder of an earlier proof, or what \"pxcatalogue export\" wrote.", 0, 0, {}, PxOption::Form::File},
